@@ -1,0 +1,32 @@
+# Flags of every target of this project. They stand on interface targets that are linked privately, so
+# nothing leaks into a project that takes this one in.
+
+add_library(uiapi_settings INTERFACE)
+if(MSVC)
+  target_compile_options(uiapi_settings INTERFACE /utf-8 /W4 /permissive- $<$<BOOL:${UIAPI_WERROR}>:/WX>)
+else()
+  target_compile_options(uiapi_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+    -Wold-style-cast -Wnull-dereference -Wdouble-promotion -Wformat=2
+    $<$<BOOL:${UIAPI_WERROR}>:-Werror>)
+endif()
+target_compile_definitions(uiapi_settings INTERFACE
+  QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
+  $<$<CXX_COMPILER_ID:MSVC>:_USE_MATH_DEFINES NOMINMAX>)
+
+if(UIAPI_SANITIZE)
+  set(_uiapi_sanitizers -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_compile_options(uiapi_settings INTERFACE ${_uiapi_sanitizers} -O1 -g1)
+  target_link_options(uiapi_settings INTERFACE ${_uiapi_sanitizers})
+endif()
+
+# uiapi_room(SOURCES ... HEADERS ... PUBLIC_HEADERS ...): what a room of src/ adds to the library. Public
+# headers are installed under their path below src/.
+function(uiapi_room)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;HEADERS;PUBLIC_HEADERS" ${ARGN})
+  target_sources(UIAPICommon_objects PRIVATE ${ROOM_SOURCES} ${ROOM_HEADERS} ${ROOM_PUBLIC_HEADERS})
+  if(ROOM_PUBLIC_HEADERS)
+    target_sources(UIAPICommon PUBLIC FILE_SET HEADERS FILES ${ROOM_PUBLIC_HEADERS})
+  endif()
+endfunction()

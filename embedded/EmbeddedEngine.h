@@ -1,0 +1,89 @@
+#pragma once
+
+#include <kvcam/Records.h>
+
+#include <string>
+#include <vector>
+
+/// What the default engine offers beyond the host's interface: its switches, what it was told, and the parts
+/// of an opened job that a host shows. Job, step and layer names compare without case. Paths and texts are
+/// UTF-8. No function throws; GUI thread only.
+namespace KVCAM::Embedded {
+
+/// Why the latest open_job(), closing or reading failed: "file:line: reason" (the line only where there is
+/// one); empty after a success.
+KVCAM_API_EXPORT std::string lastError();
+
+/// Turns the save flag on or off. While it is on, the database twins write to the database file. False, with
+/// lastError() set, when the file cannot be opened; the flag is then off.
+KVCAM_API_EXPORT bool setSaveFlag(bool on);
+/// The SQLite file of the twins, "uiapi-engine.sqlite" in the current directory unless set. Takes effect the
+/// next time that the flag is turned on.
+KVCAM_API_EXPORT void setDatabaseFile(std::string const & path);
+KVCAM_API_EXPORT std::string databaseFile();
+
+/// What the engine was told last.
+struct LiveState
+{
+    API::show_param show;
+    API::Selection selection;
+    API::select_info select;
+    int threadCount = 0;
+    API::back_layer_name_info backup;
+};
+KVCAM_API_EXPORT LiveState liveState();
+
+/// The folders whose sub-folders open_job() was asked for, and the jobs that are open, in order of opening.
+KVCAM_API_EXPORT std::vector<std::string> openJobs();
+KVCAM_API_EXPORT bool closeJob(std::string const & job);
+
+/// An upright rectangle in micrometres.
+struct Box
+{
+    double left = 0;
+    double bottom = 0;
+    double right = 0;
+    double top = 0;
+};
+
+/// The extent of a step's profile. False when the job or step is not open or has no profile.
+KVCAM_API_EXPORT bool profileBox(std::string const & job, std::string const & step, Box & box);
+/// The profile's outlines as closed polygons in micrometres (arcs as short chords); empty when there is none.
+KVCAM_API_EXPORT std::vector<std::vector<API::point>> profileOutlines(std::string const & job,
+                                                                      std::string const & step);
+
+/// The features of a layer in file order, without the deleted ones; `index` counts over the file. Symbol
+/// names carry no unit mark; their sizes are in the unit of symbolUnit(). Empty, with lastError() set, on
+/// failure; a layer without a features file has none.
+KVCAM_API_EXPORT std::vector<API::feature_info> features(std::string const & job, std::string const & step,
+                                                         std::string const & layer);
+/// Deletes features by index: the engine's one operation, recorded for Undo(). False, and nothing changed,
+/// when the layer is not known, an index does not stand for a feature, or the list is empty.
+KVCAM_API_EXPORT bool deleteFeatures(std::string const & job, std::string const & step,
+                                     std::string const & layer, std::vector<int> const & indices);
+
+/// One symbol name as a layer's files use it. `unit` says what its sizes are in: 0 mil, 1 micrometre.
+struct SymbolUse
+{
+    std::string name;
+    int unit = 0;
+    int features = 0; ///< how many features use it
+};
+/// The distinct symbol names of a layer in order of first definition, used or not.
+KVCAM_API_EXPORT std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const & step,
+                                                     std::string const & layer);
+/// The distinct symbol names of all steps and layers of a job, sorted by name and unit.
+KVCAM_API_EXPORT std::vector<SymbolUse> jobSymbols(std::string const & job);
+
+/// One tool of a drill or rout layer; sizes in micrometres.
+struct Tool
+{
+    int number = 0;
+    std::string type; ///< "via", "plated", "non_plated"
+    double drillSize = 0;
+    double finishSize = 0;
+};
+KVCAM_API_EXPORT std::vector<Tool> tools(std::string const & job, std::string const & step,
+                                         std::string const & layer);
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <kvcam/Export.h>
+
+#include <string>
+
+/// Where the host is installed.
+namespace Common {
+
+/// The installation root; empty: the process's current directory stands in for it.
+KVCAM_API_EXPORT std::string getPath();
+/// The configuration folder, relative to the root.
+KVCAM_API_EXPORT std::string getPath_config();
+/// The folder of the analysis ranges, relative to the root.
+KVCAM_API_EXPORT std::string getPath_rangesconfig();
+
+} // namespace Common

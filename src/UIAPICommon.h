@@ -1,0 +1,17 @@
+#pragma once
+
+// Everything that UIAPICommon exports.
+
+#include "UIAPICommonVersion.h"
+
+#include "support/MessagePresenter.h"
+#include "uiapi/Notifier.h"
+#include "uiapi/UIAPICommonPara.h"
+#include "uiapi/ViewRecords.h"
+#include "uiapi/flat/ModifierKeys.h"
+#include "uiapi/flat/Selections.h"
+#include "uiapi/flat/ShowParameters.h"
+#include "uiapi/flat/Snap.h"
+#include "uiapi/flat/UiState.h"
+#include "uiapi/flat/Units.h"
+#include "uiapi/flat/ViewAccess.h"

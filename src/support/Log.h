@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+/// Log lines. They go to glog under the base name of the class that reports, whatever file the code stands
+/// in: whoever reads the log looks for the class. The library never initialises glog; the host does.
+namespace KVCAM::UIAPI::Log {
+
+/// The base names used.
+inline constexpr char const * commonPara = "UIAPICommonPara";
+inline constexpr char const * globalVar = "UIAPIGlobalVar";
+
+// The line shown is the caller's.
+void error(char const * source, std::string const & text, int line = __builtin_LINE());
+void warning(char const * source, std::string const & text, int line = __builtin_LINE());
+void info(char const * source, std::string const & text, int line = __builtin_LINE());
+
+/// "KVCAM UIAPI " + operation + " error" at ERROR under "UIAPICommonPara": the usual text of a failed
+/// look-up or engine push. `detail` follows without a separator.
+void operationError(char const * operation, std::string const & detail = {}, int line = __builtin_LINE());
+
+/// The two ERROR lines of a caught exception: where, then what.
+void caughtException(char const * source, std::string const & what, int line = __builtin_LINE());
+
+} // namespace KVCAM::UIAPI::Log

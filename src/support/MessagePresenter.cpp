@@ -1,0 +1,88 @@
+#include "support/MessagePresenter.h"
+
+#include "support/Guard.h"
+#include "support/Log.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QThread>
+
+#include <algorithm>
+#include <utility>
+
+namespace KVCAM::UIAPI::Ext {
+namespace {
+
+MessageAnswer neutralAnswer(MessageKind kind)
+{
+    return kind == MessageKind::Question ? MessageAnswer::No : MessageAnswer::Ok;
+}
+
+// A QMessageBox aborts the process where there is no QApplication, and widgets belong to its thread.
+bool canShowBoxes()
+{
+    auto const * application = qobject_cast<QApplication *>(QCoreApplication::instance());
+    return application != nullptr && application->thread() == QThread::currentThread();
+}
+
+MessageAnswer showBox(Message const & message)
+{
+    if (!canShowBoxes()) {
+        Log::warning(Log::commonPara, (message.title + QStringLiteral(": ") + message.text).toStdString());
+        return neutralAnswer(message.kind);
+    }
+    if (message.kind == MessageKind::Information) {
+        QMessageBox::information(message.parent, message.title, message.text, QMessageBox::Ok);
+        return MessageAnswer::Ok;
+    }
+    QMessageBox box(QMessageBox::Question, message.title, message.text, QMessageBox::Yes | QMessageBox::No,
+                    message.parent);
+    box.setWindowModality(Qt::ApplicationModal);
+    return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+}
+
+// Never destroyed: a box may still be asked for while the process ends.
+MessagePresenter & currentPresenter()
+{
+    static auto * presenter = new MessagePresenter;
+    return *presenter;
+}
+
+} // namespace
+
+MessagePresenter setMessagePresenter(MessagePresenter presenter)
+{
+    return std::exchange(currentPresenter(), std::move(presenter));
+}
+
+MessageAnswer showMessage(Message const & message)
+{
+    // A copy, since the presenter may replace itself while it runs.
+    MessagePresenter const presenter = currentPresenter();
+    MessageAnswer answer = neutralAnswer(message.kind);
+    guard([&] { answer = presenter ? presenter(message) : showBox(message); },
+          [](std::string const & what) { Log::caughtException(Log::commonPara, what); });
+    return answer;
+}
+
+} // namespace KVCAM::UIAPI::Ext
+
+namespace KVCAM::UIAPI {
+
+QWidget * aliveWidget(void const * view)
+{
+    if (view == nullptr || qobject_cast<QApplication *>(QCoreApplication::instance()) == nullptr) {
+        return nullptr;
+    }
+    QWidgetList const widgets = QApplication::allWidgets();
+    auto const found = std::find_if(widgets.cbegin(), widgets.cend(),
+                                    [view](QWidget const * widget) { return widget == view; });
+    return found == widgets.cend() ? nullptr : *found;
+}
+
+void showInformation(QWidget * parent, QString const & text)
+{
+    Ext::showMessage({Ext::MessageKind::Information, parent, QObject::tr("Information"), text});
+}
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+/// Additions to the fixed interface. They are opt-in and change none of its results.
+namespace KVCAM::UIAPI::Ext {
+
+enum class MessageKind : int
+{
+    Information, ///< one OK button
+    Question     ///< the buttons Yes and No, application-modal
+};
+
+enum class MessageAnswer : int
+{
+    Ok,
+    Yes,
+    No
+};
+
+/// One box that the library wants shown. The texts are translated already.
+struct Message
+{
+    MessageKind kind = MessageKind::Information;
+    QWidget * parent = nullptr; ///< not owned; null, or a widget that was alive when the box was asked for
+    QString title;
+    QString text;
+};
+
+using MessagePresenter = std::function<MessageAnswer(Message const &)>;
+
+/// Replaces the one point through which every box of the library goes, and returns the presenter that was
+/// set before. An empty function restores the default: a modal QMessageBox, or, where there is no
+/// QApplication or the caller is not on its thread, a WARNING line "title: text" and the neutral answer (No
+/// to a question). GUI thread only.
+UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter presenter);
+
+/// Shows a message through the presenter in force and returns the answer. A presenter that throws counts as
+/// one that gave the neutral answer; the exception is logged. Host dialogs may use it for boxes of their own.
+UIAPICOMMON_EXPORT MessageAnswer showMessage(Message const & message);
+
+} // namespace KVCAM::UIAPI::Ext
+
+namespace KVCAM::UIAPI {
+
+/// The widget behind a view handle if it is one that is alive, else null: a handle is any pointer, so it is
+/// only compared, never followed. Null without a QApplication.
+QWidget * aliveWidget(void const * view);
+
+/// An information box with the translated title "Information".
+void showInformation(QWidget * parent, QString const & text);
+
+} // namespace KVCAM::UIAPI

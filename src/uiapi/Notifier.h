@@ -1,0 +1,39 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+#include <QFlags>
+#include <QObject>
+
+namespace KVCAM::UIAPI::Ext {
+
+/// What changed in a view's record.
+enum class ViewAspect : int
+{
+    Unit = 1,           ///< the unit of the show parameters took another value
+    ShowParameters = 2, ///< the show parameters were stored, the same value included
+    Selection = 4       ///< the selection settings were stored, the same value included
+};
+Q_DECLARE_FLAGS(ViewAspects, ViewAspect)
+Q_DECLARE_OPERATORS_FOR_FLAGS(ViewAspects)
+
+/// Tells who listens that a view's state changed. One object for the process; it is never destroyed, and
+/// asking for it creates no singleton of the library.
+class UIAPICOMMON_EXPORT Notifier : public QObject
+{
+    Q_OBJECT
+
+public:
+    static Notifier * instance();
+
+signals:
+    /// Emitted once for each store into a registered view, after the engine was told (also when the engine
+    /// threw: the record holds the new value), and after the registration of a view with all three aspects.
+    /// `view` is the handle; read the state itself through the library.
+    void viewChanged(void const * view, KVCAM::UIAPI::Ext::ViewAspects aspects);
+
+private:
+    Notifier() = default;
+};
+
+} // namespace KVCAM::UIAPI::Ext

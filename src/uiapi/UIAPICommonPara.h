@@ -1,0 +1,146 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+#include "uiapi/ViewRecords.h"
+
+#include <QPoint>
+#include <QString>
+
+#include <map>
+#include <string>
+
+class QWidget;
+
+namespace KVCAM::UIAPI {
+
+/// The per-view and UI-wide state of the process, and the rules that need it: one object, created by the
+/// first call that needs it and alive until the process ends. Use it from the GUI thread only; nothing is
+/// locked.
+///
+/// A per-view method that does not know its view logs "KVCAM UIAPI <operation> error" at ERROR under the name
+/// "UIAPICommonPara" and returns the neutral value its comment names; output arguments stay untouched.
+///
+/// Copies are detached snapshots, never a second singleton. Objects cannot be destroyed.
+class UIAPICOMMON_EXPORT UIAPICommonPara
+{
+public:
+    /// The object, created at the first call.
+    static UIAPICommonPara * instance();
+    /// Null until instance() was called for the first time. Not to be assigned to.
+    static UIAPICommonPara * m_pUIAPICommonParaInstance;
+
+    UIAPICommonPara(UIAPICommonPara const & other);
+    UIAPICommonPara & operator=(UIAPICommonPara const & other);
+
+    // --- View records -------------------------------------------------------------------------------------
+
+    /// Registers a view and pushes its record to the engine (show_param, Selection, select_info). False with
+    /// an ERROR line for a null handle, false without a word for a handle that is registered already.
+    bool insertStepConfig(Step_Config const & config);
+    /// Copies the record out.
+    void getStepConfig(void const * view, Step_Config & out) const;
+    /// The unit code; -1 for an unknown view.
+    int getUnit(void const * view) const;
+    /// Stores the unit and pushes show_param.
+    void setUnit(void const * view, int unit);
+    void getShowPara(void const * view, show_param & out) const;
+    /// Stores and pushes. An unknown view is reported as "setSelection".
+    void setShowPara(void const * view, show_param const & value);
+    void getSelection(void const * view, Selection & out) const;
+    /// Stores and pushes.
+    void setSelection(void const * view, Selection const & value);
+    void getSelectInfo(void const * view, select_info & out) const;
+    /// Stores and pushes. An unknown view is reported as "setSelection".
+    void setSelectInfo(void const * view, select_info const & value);
+
+    /// {127, 7, 5} for an unknown view.
+    Snap_Control getSnapControl(void const * view) const;
+    /// Stores the first word and the mode; the size changes through setSnapSize() alone. Nothing is pushed.
+    void setSnapControl(void const * view, Snap_Control const & value);
+    /// 5 for an unknown view.
+    int getSnapSize(void const * view) const;
+    /// Nothing is pushed. An unknown view is reported as "setSnapControl".
+    void setSnapSize(void const * view, int size);
+    /// The mode of the view's record, 7 for an unknown view (reported as "getStepConfig").
+    SNAP_TYPE_MODE getSnapMode(void const * view) const;
+
+    /// The view's edit buffer, owned by the registry and valid as long as it; null for an unknown view.
+    Edit_Buffer * getEditBuffer(void const * view);
+    /// Replaces the feature lists of the view's edit buffer.
+    void setEditBufferFeatureInfo(void const * view, std::map<std::string, FeatureList> const & features);
+    /// The view's coordinate read-out, owned by the registry; null for an unknown view, which is reported as
+    /// "getEditBuffer".
+    coordinate * getCoordinate(void const * view);
+
+    /// Pushes show_param, Selection and select_info of a view to the engine, in this order. For an unknown
+    /// view an information box without a parent follows the ERROR line.
+    void setStepConfigToAPI(void const * view);
+
+    // --- UI-wide state ------------------------------------------------------------------------------------
+
+    /// Default 1, English.
+    LANGUAGE_MODE getCurrentLanguageMode() const;
+    void setCurrentLanguageMode(LANGUAGE_MODE & mode);
+    /// Default false.
+    bool getPanelPositionStatus() const;
+    void setPanelPositionStatus(bool status);
+    /// Default false.
+    bool getCoordinateStatus() const;
+    void setCoordinateStatus(bool status);
+    /// Whether the application runs as a program of its own. Default true.
+    bool KvcamAsExe() const;
+    void SetKvcamAsExe(bool value);
+    /// Default (0, 0).
+    QPoint getCoordinatePos() const;
+    void setCoordinatePos(QPoint pos);
+    /// The input widget, not owned, null until set; whoever sets it takes it back before it dies.
+    QWidget * getInputPtr() const;
+    /// Logs "setInputPtr _input " and the pointer at INFO when none was set, else the old and then the new
+    /// one at WARNING.
+    void setInputPtr(QWidget * widget);
+    /// The split widget, not owned, null until set.
+    QWidget * getSplitPtr() const;
+    void setSplitPtr(QWidget * widget);
+    /// Owned by this object.
+    LayerState * getLayerState();
+
+    // --- Units --------------------------------------------------------------------------------------------
+    // An unknown view counts as an inch view, after the ERROR line of getShowPara().
+
+    /// A value of the other unit in the view's: inch at 5 decimals, else millimetre at 3.
+    double getUnitData(void const * view, double value) const;
+    /// Large unit to nanometres (kind 0) or micrometres (kind 1); 0.0 for another kind.
+    double getUnitAPIData(void const * view, int kind, double value) const;
+    /// In a metric view micrometres to mil for the kinds 0 and 1, 0.0 for another kind; else the value
+    /// itself.
+    double getUnitMilData(void const * view, int kind, double value) const;
+    /// Micrometres to the large unit.
+    double getUnitPointData(void const * view, double value) const;
+    /// Mil to the small unit, truncated toward zero; saturates, NaN gives 0.
+    int getUnitJudgeData(void const * view, double value) const;
+    /// Mil to the small unit, unrounded.
+    double getUnitJudgeDouble(void const * view, double value) const;
+    /// Mil as text in the small unit: six significant digits for inch, else `precision` decimals.
+    QString getUnitJudgeString(void const * view, double value, int precision) const;
+    /// Micrometres as text in the large unit, 3 decimals.
+    QString getUnitJudgeStringMetric(void const * view, double value) const;
+    /// Square inches as text: six significant digits for inch, else square millimetres with 4 decimals.
+    QString getAreaUnitJudgeString(void const * view, double value) const;
+    /// "sq/in" or "sq/mm".
+    std::string getAreaUnitStringType(void const * view) const;
+    /// Fixed notation with six decimals, without trailing zeros.
+    std::string doubleToString(double value) const;
+    /// The measured quantity of a check result, by its kind; 0.0 when kind and number of points do not agree.
+    double getMeasureValue(check_info const & info) const;
+
+private:
+    UIAPICommonPara();
+    ~UIAPICommonPara();
+
+    int displayUnit(void const * view) const;
+
+    struct Private;
+    Private * d; // owned
+};
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "uiapi/UIAPICommonPara.h"
+#include "uiapi/ViewRegistry.h"
+
+namespace KVCAM::UIAPI {
+
+/// The components of UIAPICommonPara, by value: copying copies them all.
+struct UIAPICommonPara::Private
+{
+    ViewRegistry views;
+    LANGUAGE_MODE language = LANGUAGE_ENGLISH;
+    bool panelPositionStatus = false;
+    bool coordinateStatus = false;
+    bool kvcamAsExe = true;
+    QPoint coordinatePos;
+    QWidget * input = nullptr; // not owned
+    QWidget * split = nullptr; // not owned
+    LayerState layerState;
+};
+
+} // namespace KVCAM::UIAPI

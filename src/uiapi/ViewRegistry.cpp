@@ -1,0 +1,32 @@
+#include "uiapi/ViewRegistry.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace KVCAM::UIAPI {
+
+Step_Config const * ViewRegistry::find(void const * view) const noexcept
+{
+    auto const found = std::find(m_handles.cbegin(), m_handles.cend(), view);
+    return found == m_handles.cend() ? nullptr
+                                     : &m_records[static_cast<std::size_t>(found - m_handles.cbegin())];
+}
+
+Step_Config * ViewRegistry::find(void const * view) noexcept
+{
+    return const_cast<Step_Config *>(std::as_const(*this).find(view));
+}
+
+bool ViewRegistry::append(Step_Config const & config)
+{
+    if (find(config.view) != nullptr) {
+        return false;
+    }
+    m_handles.reserve(m_handles.size() + 1); // so that the two cannot get out of step
+    m_records.push_back(config);
+    m_handles.push_back(config.view);
+    return true;
+}
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "uiapi/ViewRecords.h"
+
+#include <deque>
+#include <vector>
+
+namespace KVCAM::UIAPI {
+
+/// The per-view records in order of registration. Look-up is linear, over the handles alone: the records are
+/// large, and a scan over them would drag each through the cache. Records never move and are never removed,
+/// so a pointer stays valid as long as the registry. Copies are independent.
+class ViewRegistry
+{
+public:
+    /// The first record of a view; null when there is none (and for a null handle, which is never stored).
+    Step_Config * find(void const * view) noexcept;
+    Step_Config const * find(void const * view) const noexcept;
+
+    /// Appends a copy; false and no change when the view is registered already. The handle must not be null.
+    bool append(Step_Config const & config);
+
+private:
+    std::vector<void const *> m_handles; // m_handles[i] is m_records[i].view
+    std::deque<Step_Config> m_records;
+};
+
+} // namespace KVCAM::UIAPI

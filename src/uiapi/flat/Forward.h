@@ -1,0 +1,50 @@
+#pragma once
+
+#include "support/Guard.h"
+#include "support/Log.h"
+#include "uiapi/UIAPICommonPara.h"
+
+/// What the flat functions are made of. Each obtains its singleton, calls the like-named method and returns
+/// its result; an exception is logged and ends here.
+namespace KVCAM::UIAPI::Flat {
+
+template <class Body>
+auto onCommonPara(Body && body, int line = __builtin_LINE())
+{
+    return guarded(
+        Log::commonPara, [&] { return body(*UIAPICommonPara::instance()); }, line);
+}
+
+/// One field of a record that a getter of UIAPICommonPara copies out. The record starts with its defaults, so
+/// an unknown view, which the getter logs, yields the field's default.
+template <class Record, class Value>
+Value readField(void const * view, void (UIAPICommonPara::*get)(void const *, Record &) const,
+                Value Record::*field, int line = __builtin_LINE())
+{
+    return onCommonPara(
+        [&](UIAPICommonPara & para) {
+            Record record;
+            (para.*get)(view, record);
+            return record.*field;
+        },
+        line);
+}
+
+/// Reads a record, changes one field and writes the record back, which also pushes it to the engine. For an
+/// unknown view the getter and then the setter log, and nothing is stored.
+template <class Record, class Value>
+void changeField(void const * view, void (UIAPICommonPara::*get)(void const *, Record &) const,
+                 void (UIAPICommonPara::*set)(void const *, Record const &), Value Record::*field,
+                 Value value, int line = __builtin_LINE())
+{
+    onCommonPara(
+        [&](UIAPICommonPara & para) {
+            Record record;
+            (para.*get)(view, record);
+            record.*field = value;
+            (para.*set)(view, record);
+        },
+        line);
+}
+
+} // namespace KVCAM::UIAPI::Flat

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+/// Single fields of a view's Selection and select_info. A setter reads the record, changes the field, stores
+/// the record and pushes it to the engine; for an unknown view the getter's ERROR line is followed by "KVCAM
+/// UIAPI setSelection error". The field getters yield the default for an unknown view.
+namespace KVCAM::UIAPI {
+
+UIAPICOMMON_EXPORT void setSelectionClear(void const * view, bool value);
+UIAPICOMMON_EXPORT void setSelectionDisplay(void const * view, bool value);
+UIAPICOMMON_EXPORT void setSelectionLocation(void const * view, bool value);
+UIAPICOMMON_EXPORT void setSelectionOperation(void const * view, bool value);
+UIAPICOMMON_EXPORT void setSelectionSelect(void const * view, bool value);
+UIAPICOMMON_EXPORT void setSelectionTouching(void const * view, bool value);
+UIAPICOMMON_EXPORT bool getSelectionTouching(void const * view);
+
+UIAPICOMMON_EXPORT int getSelectedPara(void const * view);
+UIAPICOMMON_EXPORT void setSelectedPara(void const * view, int para);
+
+} // namespace KVCAM::UIAPI

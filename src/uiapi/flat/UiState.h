@@ -1,0 +1,39 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+#include "uiapi/ViewRecords.h"
+
+#include <QPoint>
+
+class QWidget;
+
+/// State that is not per view.
+namespace KVCAM::UIAPI {
+
+// Kept in UIAPICommonPara, whose like-named methods document them.
+UIAPICOMMON_EXPORT QWidget * getInputPtr();
+UIAPICOMMON_EXPORT void setInputPtr(QWidget * widget);
+UIAPICOMMON_EXPORT QWidget * getSplitPtr();
+UIAPICOMMON_EXPORT void setSplitPtr(QWidget * widget);
+UIAPICOMMON_EXPORT QPoint getCoordinatePos();
+UIAPICOMMON_EXPORT void setCoordinatePos(QPoint pos);
+UIAPICOMMON_EXPORT bool getCoordinateStatus();
+UIAPICOMMON_EXPORT void setCoordinateStatus(bool status);
+UIAPICOMMON_EXPORT bool getPanelPositionStatus();
+UIAPICOMMON_EXPORT void setPanelPositionStatus(bool status);
+UIAPICOMMON_EXPORT LANGUAGE_MODE getCurrentLanguageMode();
+UIAPICOMMON_EXPORT void setCurrentLanguageMode(LANGUAGE_MODE & mode);
+
+// Kept in globals of the library, zero at load; no singleton is created.
+UIAPICOMMON_EXPORT bool getEQMode();
+UIAPICOMMON_EXPORT void setEQMode(bool value);
+UIAPICOMMON_EXPORT int getEQSelectionType();
+UIAPICOMMON_EXPORT void setEQSelectionType(int value);
+UIAPICOMMON_EXPORT bool getEQVisible();
+UIAPICOMMON_EXPORT void setEQVisible(bool value);
+UIAPICOMMON_EXPORT bool isEdaGraphicVisible();
+UIAPICOMMON_EXPORT void setEdaGraphicVisible(bool value);
+UIAPICOMMON_EXPORT DMS_Connections getDmsConnectInfo();
+UIAPICOMMON_EXPORT void setDmsConnectInfo(DMS_Connections info);
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+#include "uiapi/ViewRecords.h"
+
+#include <map>
+#include <string>
+
+/// Per-view record access and the push to the engine: each forwards to the like-named method of
+/// UIAPICommonPara, which documents messages and neutral results.
+namespace KVCAM::UIAPI {
+
+UIAPICOMMON_EXPORT void getStepConfig(void const * view, Step_Config & out);
+UIAPICOMMON_EXPORT bool insertStepConfig(Step_Config const & config);
+UIAPICOMMON_EXPORT void getShowPara(void const * view, KVCAM::API::show_param & out);
+UIAPICOMMON_EXPORT void setShowPara(void const * view, KVCAM::API::show_param const & value);
+UIAPICOMMON_EXPORT void getSelection(void const * view, KVCAM::API::Selection & out);
+UIAPICOMMON_EXPORT void setSelection(void const * view, KVCAM::API::Selection const & value);
+UIAPICOMMON_EXPORT void getSelectInfo(void const * view, KVCAM::API::select_info & out);
+UIAPICOMMON_EXPORT void setSelectInfo(void const * view, KVCAM::API::select_info const & value);
+/// {127, 7, 5} for an unknown view.
+UIAPICOMMON_EXPORT Snap_Control getSnapControl(void const * view);
+/// Keeps the snap size.
+UIAPICOMMON_EXPORT void setSnapControl(void const * view, Snap_Control const & value);
+/// 5 for an unknown view.
+UIAPICOMMON_EXPORT int getSnapSize(void const * view);
+UIAPICOMMON_EXPORT void setSnapSize(void const * view, int size);
+/// Owned by the registry; null for an unknown view.
+UIAPICOMMON_EXPORT coordinate * getCoordinate(void const * view);
+/// Owned by the registry; null for an unknown view.
+UIAPICOMMON_EXPORT Edit_Buffer * getEditBuffer(void const * view);
+UIAPICOMMON_EXPORT void setEditBufferFeatureInfo(void const * view,
+                                                 std::map<std::string, FeatureList> const & features);
+/// Owned by the library.
+UIAPICOMMON_EXPORT LayerState * getLayerState();
+/// 0.0 when the kind and the number of points do not agree.
+UIAPICOMMON_EXPORT double getMeasureValue(check_info const & info);
+
+/// Pushes show_param, Selection and select_info of a view; an unknown view is logged and shown in a box.
+UIAPICOMMON_EXPORT void setStepConfigToAPI(void const * view);
+
+} // namespace KVCAM::UIAPI

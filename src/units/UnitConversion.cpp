@@ -1,0 +1,134 @@
+#include "units/UnitConversion.h"
+
+#include "support/Narrowing.h"
+
+#include <QRegExp>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace KVCAM::UIAPI::Units {
+
+double toUnit(int unit, double value)
+{
+    double const converted = unit == inch ? value / millimetresPerInch : value * millimetresPerInch;
+    double const scale = unit == inch ? 100000.0 : 1000.0;
+    double const whole = std::trunc(converted);
+    if (!std::isfinite(whole)) {
+        return converted; // its fraction would be NaN
+    }
+    return whole + std::round((converted - whole) * scale) / scale;
+}
+
+double toEngine(int unit, int kind, double value)
+{
+    bool const metric = unit == millimetre;
+    switch (kind) {
+    case 0:
+        return value * (metric ? nanometresPerMillimetre : nanometresPerInch);
+    case 1:
+        return value * (metric ? micrometresPerMillimetre : micrometresPerInch);
+    default:
+        return 0.0;
+    }
+}
+
+double toMil(int unit, int kind, double value)
+{
+    if (unit != millimetre) {
+        return value;
+    }
+    return kind == 0 || kind == 1 ? value / millimetresPerInch : 0.0;
+}
+
+double fromMicrometres(int unit, double value)
+{
+    return value / (unit == inch ? micrometresPerInch : micrometresPerMillimetre);
+}
+
+double milToSmallUnit(int unit, double value)
+{
+    return unit == inch ? value : value * millimetresPerInch;
+}
+
+int milToSmallUnitTruncated(int unit, double value)
+{
+    return saturatedInt(milToSmallUnit(unit, value));
+}
+
+int smallUnitToMilTruncated(int unit, double value)
+{
+    return saturatedInt(unit == inch ? value : value / millimetresPerInch);
+}
+
+QString milText(int unit, double value, int precision)
+{
+    return unit == inch ? QString::number(value, 'g', 6)
+                        : QString::number(value * millimetresPerInch, 'f', precision);
+}
+
+QString micrometresText(int unit, double value)
+{
+    return QString::number(fromMicrometres(unit, value), 'f', 3);
+}
+
+QString areaText(int unit, double value)
+{
+    return unit == inch ? QString::number(value, 'g', 6)
+                        : QString::number(value * squareMillimetresPerSquareInch, 'f', 4);
+}
+
+std::string plainText(double value)
+{
+    QString text = QStringLiteral("%1").arg(value, 0, 'f', -1, QLatin1Char(' '));
+    // Only the first match goes: the pattern is anchored, so there is at most one.
+    static QRegExp const trailingZeros(QStringLiteral("(\\.){0,1}0+$"));
+    QRegExp pattern = trailingZeros;
+    int const at = pattern.indexIn(text);
+    if (at >= 0) {
+        text.remove(at, pattern.matchedLength());
+    }
+    return text.toStdString();
+}
+
+std::string name(int unit)
+{
+    static std::map<int, std::string> const names{{inch, "Inch"}, {millimetre, "MM"}};
+    auto const found = names.find(unit);
+    return found == names.end() ? std::string() : found->second;
+}
+
+std::string nameByKind(int unit, int kind)
+{
+    // "my" for micrometre is what the dialogs display.
+    static std::map<int, std::map<int, std::string>> names{{inch, {{0, "inch"}, {1, "mil"}}},
+                                                           {millimetre, {{0, "mm"}, {1, "my"}}}};
+    // An inserting look-up: an unknown unit gets an empty row.
+    std::map<int, std::string> const & row = names[unit];
+    auto const found = row.find(kind);
+    return found == row.end() ? std::string() : found->second;
+}
+
+std::string areaName(int unit)
+{
+    return unit == inch ? "sq/in" : "sq/mm";
+}
+
+double measuredValue(KVCAM::API::check_info const & info)
+{
+    std::vector<int> const & points = info.points;
+    switch (info.type) {
+    case 1:
+    case 2:
+        return points.size() == 5 ? points[4] : 0.0;
+    case 3:
+        return points.size() == 8 ? points[6] : 0.0;
+    case 5:
+        return points.size() == 4 ? std::min(points[2], points[3]) : 0.0;
+    default:
+        return 0.0;
+    }
+}
+
+} // namespace KVCAM::UIAPI::Units

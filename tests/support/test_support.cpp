@@ -1,0 +1,206 @@
+#include "harness/UiapiTest.h"
+
+#include "support/Guard.h"
+#include "support/HostPaths.h"
+#include "support/JsonFile.h"
+#include "support/Log.h"
+#include "support/Narrowing.h"
+#include "support/NumberRuns.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+#include <thread>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+class SupportTest : public UiapiTest
+{};
+
+TEST_F(SupportTest, GuardLogsTwoLinesAndGivesNeutralResult)
+{
+    EXPECT_EQ(guarded(
+                  Log::commonPara, []() -> int { throw std::runtime_error("broken"); }, 12),
+              0);
+    EXPECT_EQ(guarded(
+                  Log::globalVar, []() -> std::string { throw 1; }, 13),
+              "");
+    EXPECT_EQ(guarded(Log::commonPara, [] { return 5; }), 5);
+    EXPECT_EQ(log.take(), (Lines{paraError("异常位置：UIAPICommonPara : 12"), paraError("异常描述：broken"),
+                                 "E UIAPIGlobalVar: 异常位置：UIAPIGlobalVar : 13",
+                                 "E UIAPIGlobalVar: 异常描述：unknown exception"}));
+}
+
+TEST_F(SupportTest, NarrowingSaturates)
+{
+    struct Row
+    {
+        double value;
+        int expected;
+    };
+    constexpr int max = std::numeric_limits<int>::max();
+    constexpr int min = std::numeric_limits<int>::min();
+    for (Row const & row : {Row{3.9, 3}, Row{-3.9, -3}, Row{2147483647.0, max}, Row{2147483646.9, max - 1},
+                            Row{2147483648.0, max}, Row{-2147483648.9, min}, Row{-1e300, min},
+                            Row{std::numeric_limits<double>::infinity(), max}, Row{std::nan(""), 0}}) {
+        EXPECT_EQ(saturatedInt(row.value), row.expected) << row.value;
+    }
+}
+
+TEST_F(SupportTest, NumberRunsAlternateAndKeepEveryCharacter)
+{
+    struct Row
+    {
+        char const * text;
+        char const * runs; // number runs in brackets, runs separated by blanks
+    };
+    for (Row const & row : {Row{"", ""}, Row{"r10", "r [10]"}, Row{"10x20", "[10] x [20]"},
+                            Row{"r-1.5e", "r- [1.5] e"}, Row{"..", "[..]"}, Row{"rect٣x5", "rect٣x [5]"}}) {
+        QString const text = QString::fromUtf8(row.text);
+        QStringList shown;
+        for (TextRun const & run : splitNumberRuns(text)) {
+            shown << (run.isNumber ? "[" + run.text.toString() + "]" : run.text.toString());
+        }
+        EXPECT_EQ(shown.join(' ').toStdString(), row.runs) << row.text;
+    }
+}
+
+TEST_F(SupportTest, ConfigurationDirectoryIsComposedOfRootAndFolder)
+{
+    std::string const current = QDir::currentPath().toStdString();
+    EXPECT_EQ(HostPaths::configurationDirectory().toStdString(), current + "/config/");
+    engine.root = "/opt/cam";
+    engine.configFolder = "设置";
+    EXPECT_EQ(HostPaths::configurationDirectory().toStdString(), "/opt/cam/设置/");
+    engine.throwFrom("getPath");
+    EXPECT_THROW(HostPaths::configurationDirectory(), std::runtime_error);
+}
+
+TEST_F(SupportTest, JsonFileTellsWhyItCannotBeRead)
+{
+    EXPECT_EQ(JsonFile::read("absent.json").status, JsonFile::ReadStatus::Missing);
+    ASSERT_TRUE(QDir().mkdir("directory.json"));
+    EXPECT_EQ(JsonFile::read("directory.json").status, JsonFile::ReadStatus::OpenFailed);
+
+    ASSERT_EQ(JsonFile::replace("broken.json", "{\"a\": }"), JsonFile::WriteStatus::Ok);
+    JsonFile::ReadResult const broken = JsonFile::read("broken.json");
+    EXPECT_EQ(broken.status, JsonFile::ReadStatus::ParseError);
+    EXPECT_TRUE(broken.document.isNull());
+    EXPECT_EQ(broken.errorOffset, 7);
+    EXPECT_FALSE(broken.parseError.isEmpty());
+
+    ASSERT_EQ(JsonFile::replace("whole.json", "[1]"), JsonFile::WriteStatus::Ok);
+    EXPECT_EQ(JsonFile::read("whole.json", QIODevice::Text).document.toJson(QJsonDocument::Compact), "[1]");
+}
+
+TEST_F(SupportTest, ReplacingAFileIsRefusedWhereADirectoryStands)
+{
+    ASSERT_TRUE(QDir().mkdir("taken"));
+    EXPECT_EQ(JsonFile::replace("taken", "x"), JsonFile::WriteStatus::OpenFailed);
+    EXPECT_EQ(JsonFile::replace("no/such/folder/file", "x"), JsonFile::WriteStatus::OpenFailed);
+    EXPECT_TRUE(QDir("taken").exists());
+}
+
+// The real box, driven as a user would: the timer runs inside its event loop.
+class BoxTest : public SupportTest
+{
+protected:
+    void SetUp() override
+    {
+        SupportTest::SetUp();
+        m_capture = Ext::setMessagePresenter({});
+    }
+    void TearDown() override
+    {
+        Ext::setMessagePresenter(m_capture);
+        SupportTest::TearDown();
+    }
+    // Presses a button of the box that is about to open and notes what the box showed.
+    void press(QMessageBox::StandardButton button)
+    {
+        QTimer::singleShot(0, [this, button] {
+            auto * box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            shown = box->windowTitle() + '|' + box->text();
+            buttons = box->standardButtons();
+            modality = box->windowModality();
+            parent = box->parentWidget();
+            box->button(button)->click();
+        });
+    }
+
+    QString shown;
+    QMessageBox::StandardButtons buttons;
+    Qt::WindowModality modality = Qt::NonModal;
+    QWidget * parent = nullptr;
+
+private:
+    Ext::MessagePresenter m_capture;
+};
+
+TEST_F(BoxTest, InformationHasOneButtonAndAParent)
+{
+    QWidget widget;
+    press(QMessageBox::Ok);
+    showInformation(aliveWidget(&widget), "text");
+    EXPECT_EQ(shown, "Information|text");
+    EXPECT_EQ(buttons, QMessageBox::Ok);
+    EXPECT_EQ(parent, &widget);
+}
+
+TEST_F(BoxTest, QuestionIsApplicationModalAndAnswered)
+{
+    for (auto const & [button, answer] : {std::pair(QMessageBox::Yes, Ext::MessageAnswer::Yes),
+                                          std::pair(QMessageBox::No, Ext::MessageAnswer::No)}) {
+        press(button);
+        EXPECT_EQ(Ext::showMessage({Ext::MessageKind::Question, nullptr, "Information", "Sure?"}), answer);
+        EXPECT_EQ(shown, "Information|Sure?");
+        EXPECT_EQ(buttons, QMessageBox::Yes | QMessageBox::No);
+        EXPECT_EQ(modality, Qt::ApplicationModal);
+    }
+}
+
+TEST_F(BoxTest, AnotherThreadGetsALogLineAndTheNeutralAnswer)
+{
+    Ext::MessageAnswer answer = Ext::MessageAnswer::Yes;
+    std::thread([&] {
+        answer = Ext::showMessage({Ext::MessageKind::Question, nullptr, "Information", "Sure?"});
+    }).join();
+    EXPECT_EQ(answer, Ext::MessageAnswer::No);
+    EXPECT_EQ(log.take(), Lines{"W UIAPICommonPara: Information: Sure?"});
+}
+
+TEST_F(SupportTest, APresenterThatThrowsGivesTheNeutralAnswer)
+{
+    auto const previous = Ext::setMessagePresenter(
+        [](Ext::Message const &) -> Ext::MessageAnswer { throw std::runtime_error("presenter"); });
+    EXPECT_EQ(Ext::showMessage({Ext::MessageKind::Question, nullptr, "", ""}), Ext::MessageAnswer::No);
+    Ext::setMessagePresenter(previous);
+    Lines const lines = log.take();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[1], paraError("异常描述：presenter"));
+}
+
+TEST_F(SupportTest, OnlyALivingWidgetIsAParent)
+{
+    EXPECT_EQ(aliveWidget(nullptr), nullptr);
+    EXPECT_EQ(aliveWidget(viewHandle(0)), nullptr);
+    auto * widget = new QWidget;
+    EXPECT_EQ(aliveWidget(widget), widget);
+    void const * const dead = widget;
+    delete widget;
+    EXPECT_EQ(aliveWidget(dead), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,120 @@
+#include "harness/UiapiTest.h"
+
+#include "uiapi/UIAPICommonPara.h"
+#include "uiapi/flat/ModifierKeys.h"
+#include "uiapi/flat/UiState.h"
+#include "uiapi/flat/ViewAccess.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QWidget>
+
+#include <sstream>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+class UiState : public UiapiTest
+{};
+
+TEST_F(UiState, GlobalsAndModifiersCreateNoSingleton)
+{
+    EXPECT_FALSE(getEQMode() || getEQVisible() || isEdaGraphicVisible());
+    EXPECT_EQ(getEQSelectionType(), 0);
+    EXPECT_EQ(getDmsConnectInfo().first, 0);
+    setEQMode(true);
+    setEQSelectionType(-7);
+    setDmsConnectInfo({3, "a", "b", "c"});
+    EXPECT_TRUE(getEQMode());
+    EXPECT_FALSE(getEQVisible());
+    setEQVisible(true);
+    EXPECT_FALSE(isEdaGraphicVisible());
+    setEdaGraphicVisible(true);
+    EXPECT_TRUE(getEQVisible() && isEdaGraphicVisible());
+    EXPECT_EQ(getEQSelectionType(), -7);
+    DMS_Connections const dms = getDmsConnectInfo();
+    EXPECT_EQ(dms.first, 3);
+    EXPECT_EQ(dms.second + dms.third + dms.fourth, "abc");
+    EXPECT_FALSE(getCtrlEnpress());
+    EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, nullptr);
+}
+
+TEST_F(UiState, DefaultsAndRoundTrips)
+{
+    EXPECT_EQ(getCurrentLanguageMode(), LANGUAGE_ENGLISH);
+    EXPECT_FALSE(getPanelPositionStatus());
+    EXPECT_FALSE(getCoordinateStatus());
+    EXPECT_EQ(getCoordinatePos(), QPoint(0, 0));
+    EXPECT_EQ(getSplitPtr(), nullptr);
+    EXPECT_TRUE(UIAPICommonPara::instance()->KvcamAsExe());
+
+    LANGUAGE_MODE language = LANGUAGE_CHINESE;
+    setCurrentLanguageMode(language);
+    setPanelPositionStatus(true);
+    setCoordinatePos(QPoint(-3, 4));
+    QWidget split;
+    setSplitPtr(&split);
+    UIAPICommonPara::instance()->SetKvcamAsExe(false);
+    EXPECT_EQ(getCurrentLanguageMode(), LANGUAGE_CHINESE);
+    EXPECT_TRUE(getPanelPositionStatus());
+    EXPECT_FALSE(getCoordinateStatus());
+    setCoordinateStatus(true);
+    EXPECT_TRUE(getCoordinateStatus());
+    EXPECT_EQ(getCoordinatePos(), QPoint(-3, 4));
+    EXPECT_EQ(getSplitPtr(), &split);
+    EXPECT_FALSE(UIAPICommonPara::instance()->KvcamAsExe());
+    getLayerState()->layers["top"] = 2;
+    EXPECT_EQ(UIAPICommonPara::instance()->getLayerState()->layers.at("top"), 2);
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(UiState, InputWidgetLeavesItsTrace)
+{
+    auto shown = [](QWidget * widget) {
+        std::ostringstream out;
+        out << static_cast<void *>(widget);
+        return out.str();
+    };
+    QWidget first;
+    QWidget second;
+    setInputPtr(&first);
+    setInputPtr(&second);
+    setInputPtr(nullptr); // counts as none set for the next call
+    setInputPtr(&first);
+    EXPECT_EQ(getInputPtr(), &first);
+    EXPECT_EQ(log.take(), (Lines{"I UIAPICommonPara: setInputPtr _input " + shown(&first),
+                                 "W UIAPICommonPara: setInputPtr old m_input " + shown(&first),
+                                 "W UIAPICommonPara: setInputPtr new m_input " + shown(&second),
+                                 "W UIAPICommonPara: setInputPtr old m_input " + shown(&second),
+                                 "W UIAPICommonPara: setInputPtr new m_input 0",
+                                 "I UIAPICommonPara: setInputPtr _input " + shown(&first)}));
+}
+
+TEST_F(UiState, ModifiersAreComparedAsWholeMasks)
+{
+    struct Row
+    {
+        Qt::KeyboardModifiers held;
+        bool control, shift, alt;
+    };
+    QWidget widget;
+    for (Row const & row :
+         {Row{Qt::NoModifier, false, false, false}, Row{Qt::ControlModifier, true, false, false},
+          Row{Qt::ShiftModifier, false, true, false}, Row{Qt::AltModifier, false, false, true},
+          Row{Qt::ControlModifier | Qt::ShiftModifier, true, true, false},
+          Row{Qt::AltModifier | Qt::ShiftModifier, false, false, false},
+          Row{Qt::AltModifier | Qt::ControlModifier, false, false, false},
+          Row{Qt::ControlModifier | Qt::KeypadModifier, false, false, false}}) {
+        SCOPED_TRACE(int(row.held));
+        // A key event with modifiers is what the application learns its keyboard state from.
+        QTest::keyPress(&widget, Qt::Key_F5, row.held);
+        EXPECT_EQ(getCtrlEnpress(), row.control);
+        EXPECT_EQ(getShiftEnpress(), row.shift);
+        EXPECT_EQ(getAltEnpress(), row.alt);
+        QTest::keyRelease(&widget, Qt::Key_F5);
+    }
+}
+
+} // namespace

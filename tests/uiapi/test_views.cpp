@@ -1,0 +1,378 @@
+#include "harness/UiapiTest.h"
+
+#include "uiapi/Notifier.h"
+#include "uiapi/UIAPICommonPara.h"
+#include "uiapi/flat/Selections.h"
+#include "uiapi/flat/ShowParameters.h"
+#include "uiapi/flat/Snap.h"
+#include "uiapi/flat/ViewAccess.h"
+
+#include <QObject>
+
+#include <functional>
+#include <utility>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class Views : public UiapiTest
+{
+protected:
+    void const * const view = viewHandle(0);
+    void const * const unknown = viewHandle(9);
+
+    void registerView(void const * handle, int unit = 0)
+    {
+        Step_Config config;
+        config.view = handle;
+        config.show_param.unit = unit;
+        ASSERT_TRUE(insertStepConfig(config));
+        engine.take();
+    }
+    show_param showPara(void const * handle)
+    {
+        show_param out;
+        getShowPara(handle, out);
+        return out;
+    }
+    Selection selection(void const * handle)
+    {
+        Selection out;
+        getSelection(handle, out);
+        return out;
+    }
+};
+
+TEST_F(Views, RegistrationIsRefusedForNullAndSilentlyForAKnownView)
+{
+    EXPECT_FALSE(insertStepConfig(Step_Config{}));
+    EXPECT_EQ(log.take(), Lines{operationError("insertStepConfig")});
+
+    Step_Config config;
+    config.view = view;
+    config.show_param.width = 3;
+    config.selection.clear = true;
+    config.select_info.selected_para = 8;
+    EXPECT_TRUE(insertStepConfig(config));
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "API::set_show_para(0 3 false true true)", "DB::get_SaveFlag()",
+                     "API::set_selection(false true false false false false)", "DB::get_SaveFlag()",
+                     "API::set_select_param(8)"}));
+    config.show_param.width = 99;
+    EXPECT_FALSE(insertStepConfig(config));
+    EXPECT_EQ(showPara(view).width, 3);
+    EXPECT_EQ(engine.take(), Calls{});
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(Views, DatabaseTwinComesFirstWhileTheSaveFlagIsOn)
+{
+    registerView(view);
+    engine.saveFlag = true;
+    setStepConfigToAPI(view);
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "DB::set_show_para_db_save(0 0 false true true)",
+                     "API::set_show_para(0 0 false true true)", "DB::get_SaveFlag()",
+                     "DB::set_selection_db_save(false false false false false false)",
+                     "API::set_selection(false false false false false false)", "DB::get_SaveFlag()",
+                     "DB::set_select_param_db_save(0)", "API::set_select_param(0)"}));
+}
+
+// One row for each way a view's state is stored: what it logs for an unknown view, what it pushes for a known
+// one (the save flag aside).
+struct StoreRow
+{
+    char const * name;
+    std::function<void(void const *)> store;
+    Lines unknownLog;
+    Calls pushed;
+};
+
+std::vector<StoreRow> const & storeRows()
+{
+    auto para = [] { return UIAPICommonPara::instance(); };
+    Lines const setter{operationError("setSelection")};
+    Lines const rmwShow{operationError("getShowPara"), operationError("setSelection")};
+    Lines const rmwSelection{operationError("getSelection"), operationError("setSelection")};
+    Lines const rmwInfo{operationError("getSelectInfo"), operationError("setSelection")};
+    Lines const snap{operationError("setSnapControl")};
+    Lines const rmwSnap{operationError("getSnapControl"), operationError("setSnapControl")};
+    Calls const none;
+    auto pushShow = [](char const * text) { return Calls{"API::set_show_para(" + std::string(text) + ")"}; };
+    auto pushSelection = [](char const * text) {
+        return Calls{"API::set_selection(" + std::string(text) + ")"};
+    };
+    static std::vector<StoreRow> const rows{
+        {"member setUnit",
+         [=](auto v) { para()->setUnit(v, 1); },
+         {operationError("setUnit")},
+         pushShow("1 0 false true true")},
+        {"setShowPara",
+         [](auto v) {
+             setShowPara(v, {1, 2, true, false, false});
+         },
+         setter, pushShow("1 2 true false false")},
+        {"setUnit", [](auto v) { setUnit(v, 1); }, rmwShow, pushShow("1 0 false true true")},
+        {"setUnit to the same value", [](auto v) { setUnit(v, 0); }, rmwShow,
+         pushShow("0 0 false true true")},
+        {"setWidth", [](auto v) { setWidth(v, 5); }, rmwShow, pushShow("0 5 false true true")},
+        {"setNegative", [](auto v) { setNegative(v, true); }, rmwShow, pushShow("0 0 true true true")},
+        {"settextax", [](auto v) { settextax(v, false); }, rmwShow, pushShow("0 0 false false true")},
+        {"setProfile", [](auto v) { setProfile(v, false); }, rmwShow, pushShow("0 0 false true false")},
+        {"setSelection",
+         [](auto v) {
+             setSelection(v, {true, false, true, false, true, false});
+         },
+         setter, pushSelection("true false true false true false")},
+        {"setSelectionSelect", [](auto v) { setSelectionSelect(v, true); }, rmwSelection,
+         pushSelection("true false false false false false")},
+        {"setSelectionClear", [](auto v) { setSelectionClear(v, true); }, rmwSelection,
+         pushSelection("false true false false false false")},
+        {"setSelectionDisplay", [](auto v) { setSelectionDisplay(v, true); }, rmwSelection,
+         pushSelection("false false true false false false")},
+        {"setSelectionOperation", [](auto v) { setSelectionOperation(v, true); }, rmwSelection,
+         pushSelection("false false false true false false")},
+        {"setSelectionLocation", [](auto v) { setSelectionLocation(v, true); }, rmwSelection,
+         pushSelection("false false false false true false")},
+        {"setSelectionTouching", [](auto v) { setSelectionTouching(v, true); }, rmwSelection,
+         pushSelection("false false false false false true")},
+        {"setSelectInfo", [](auto v) { setSelectInfo(v, {4}); }, setter, {"API::set_select_param(4)"}},
+        {"setSelectedPara", [](auto v) { setSelectedPara(v, 6); }, rmwInfo, {"API::set_select_param(6)"}},
+        {"setSnapControl", [](auto v) { setSnapControl(v, {}); }, snap, none},
+        {"setSnapSize", [](auto v) { setSnapSize(v, 3); }, snap, none},
+        {"setSnapType", [](auto v) { setSnapType(v, SNAP_GRID); }, rmwSnap, none},
+        {"setSnapMode", [](auto v) { setSnapMode(v, SNAP_GRID); }, rmwSnap, none},
+        {"setEditBufferFeatureInfo",
+         [](auto v) { setEditBufferFeatureInfo(v, {}); },
+         {operationError("setEditBufferFeatureInfo")},
+         none}};
+    return rows;
+}
+
+TEST_F(Views, EachStorePushesOnceAndAnUnknownViewOnlyLogs)
+{
+    int number = 100;
+    for (StoreRow const & row : storeRows()) {
+        SCOPED_TRACE(row.name);
+        row.store(unknown);
+        EXPECT_EQ(log.take(), row.unknownLog);
+        EXPECT_EQ(engine.take(), Calls{});
+
+        void const * const fresh = viewHandle(number++);
+        registerView(fresh);
+        row.store(fresh);
+        Calls pushed = engine.take();
+        if (!row.pushed.empty()) {
+            ASSERT_FALSE(pushed.empty());
+            EXPECT_EQ(pushed.front(), "DB::get_SaveFlag()");
+            pushed.erase(pushed.begin());
+        }
+        EXPECT_EQ(pushed, row.pushed);
+        EXPECT_EQ(log.take(), Lines{});
+    }
+}
+
+TEST_F(Views, GettersOfAnUnknownViewLogAndStayNeutral)
+{
+    UIAPICommonPara & para = *UIAPICommonPara::instance();
+    auto logged = [this](char const * operation) { EXPECT_EQ(log.take(), Lines{operationError(operation)}); };
+    EXPECT_EQ(para.getUnit(unknown), -1);
+    logged("getUnit");
+    EXPECT_EQ(getUnit(unknown), 0); // the flat function reads the field of a default record
+    logged("getShowPara");
+    EXPECT_EQ(getWidth(unknown), 0);
+    logged("getShowPara");
+    EXPECT_FALSE(getNegative(unknown));
+    logged("getShowPara");
+    EXPECT_TRUE(gettextax(unknown));
+    logged("getShowPara");
+    EXPECT_TRUE(getProfile(unknown));
+    logged("getShowPara");
+    EXPECT_FALSE(getSelectionTouching(unknown));
+    logged("getSelection");
+    EXPECT_EQ(getSelectedPara(unknown), 0);
+    logged("getSelectInfo");
+    Snap_Control const snap = getSnapControl(unknown);
+    EXPECT_EQ(std::make_tuple(snap.first, int(snap.mode), snap.size), std::make_tuple(127, 7, 5));
+    logged("getSnapControl");
+    EXPECT_EQ(getSnapSize(unknown), 5);
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI getSnapControl error, use default snap size!")});
+    EXPECT_EQ(int(getSnapType(unknown)), 7);
+    logged("getSnapControl");
+    EXPECT_EQ(int(getSnapMode(unknown)), 7);
+    logged("getStepConfig");
+    EXPECT_EQ(getEditBuffer(unknown), nullptr);
+    logged("getEditBuffer");
+    EXPECT_EQ(getCoordinate(unknown), nullptr);
+    logged("getEditBuffer");
+
+    show_param show{7, 7, true, false, false};
+    getShowPara(unknown, show);
+    logged("getShowPara");
+    EXPECT_EQ(show.unit, 7);
+    Step_Config config;
+    config.view = view;
+    getStepConfig(unknown, config);
+    logged("getStepConfig");
+    EXPECT_EQ(config.view, view);
+    EXPECT_FALSE(UIAPICommonPara::instance()->insertStepConfig({}));
+    logged("insertStepConfig");
+    getShowPara(nullptr, show); // null is never registered
+    logged("getShowPara");
+}
+
+TEST_F(Views, StateIsKeptPerView)
+{
+    for (int i = 0; i < 20; ++i) {
+        registerView(viewHandle(i), i % 2);
+    }
+    Edit_Buffer * const buffer = getEditBuffer(viewHandle(0));
+    coordinate * const position = getCoordinate(viewHandle(0));
+    buffer->image = QImage(2, 2, QImage::Format_RGB32);
+    position->x = 12.5;
+    setEditBufferFeatureInfo(viewHandle(0), {{"top", FeatureList(3)}});
+    setSelectedPara(viewHandle(19), 42);
+    for (int i = 20; i < 300; ++i) {
+        registerView(viewHandle(i));
+    }
+    EXPECT_EQ(getEditBuffer(viewHandle(0)), buffer); // records do not move
+    EXPECT_EQ(getCoordinate(viewHandle(0)), position);
+    EXPECT_EQ(buffer->features.at("top").size(), 3U);
+    EXPECT_EQ(buffer->image.width(), 2); // only the lists are replaced
+    Step_Config copy;
+    getStepConfig(viewHandle(19), copy);
+    EXPECT_EQ(copy.view, viewHandle(19));
+    EXPECT_EQ(copy.select_info.selected_para, 42);
+    EXPECT_EQ(copy.show_param.unit, 1);
+    EXPECT_EQ(getSelectedPara(viewHandle(19)), 42);
+    EXPECT_EQ(getSelectedPara(viewHandle(18)), 0);
+}
+
+TEST_F(Views, SnapControlKeepsTheSize)
+{
+    registerView(view);
+    setSnapSize(view, 9);
+    setSnapControl(view, {1, SNAP_EDGE, 1000});
+    Snap_Control const snap = getSnapControl(view);
+    EXPECT_EQ(std::make_tuple(snap.first, snap.mode, snap.size), std::make_tuple(1, SNAP_EDGE, 9));
+    EXPECT_EQ(getSnapSize(view), 9);
+    setSnapMode(view, SNAP_GRID);
+    EXPECT_EQ(getSnapType(view), SNAP_GRID);
+    setSnapType(view, static_cast<SNAP_TYPE_MODE>(1000)); // any number is carried
+    EXPECT_EQ(int(getSnapMode(view)), 1000);
+    EXPECT_EQ(getSnapControl(view).first, 1);
+}
+
+TEST_F(Views, UnknownViewIsShownInOneBoxWithoutAParent)
+{
+    setStepConfigToAPI(unknown);
+    EXPECT_EQ(log.take(), Lines{operationError("setStepConfigToAPI")});
+    EXPECT_EQ(boxes.take(), Lines{informationBox("未能找到此graphic的全局参数")});
+    EXPECT_EQ(boxes.lastParent(), nullptr);
+    EXPECT_EQ(engine.take(), Calls{});
+}
+
+TEST_F(Views, AnEngineThatThrowsLeavesTheStoredValueAndOneLine)
+{
+    registerView(view);
+    engine.saveFlag = true;
+    engine.throwFrom("set_show_para_db_save", "disk full");
+    setUnit(view, 1);
+    EXPECT_EQ(getUnit(view), 1);
+    EXPECT_EQ(engine.take(), (Calls{"DB::get_SaveFlag()", "DB::set_show_para_db_save(1 0 false true true)"}));
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI sendShowParaToAPI errordisk full")});
+
+    engine.throwFrom("get_SaveFlag", "no database");
+    engine.throwNonStandardFrom("set_selection");
+    setSelectedPara(view, 1);
+    EXPECT_EQ(getSelectedPara(view), 1);
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI sendSelectInfoToAPI errorno database")});
+    engine.reset();
+    engine.throwNonStandardFrom("set_selection");
+    setSelectionClear(view, true);
+    EXPECT_TRUE(selection(view).clear);
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI sendSelectionToAPI errorunknown exception")});
+
+    // a whole push goes on with the next record
+    engine.reset();
+    engine.throwFrom("set_show_para", "x");
+    setStepConfigToAPI(view);
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "API::set_show_para(1 0 false true true)", "DB::get_SaveFlag()",
+                     "API::set_selection(false true false false false false)", "DB::get_SaveFlag()",
+                     "API::set_select_param(1)"}));
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI sendShowParaToAPI errorx")});
+}
+
+TEST_F(Views, AnEngineThatCallsBackFindsTheRegistryConsistent)
+{
+    engine.onNextCall("set_show_para", [this] {
+        EXPECT_EQ(getUnit(view), 1);
+        registerView(viewHandle(1));
+        setSelectionClear(view, true);
+    });
+    Step_Config config;
+    config.view = view;
+    config.show_param.unit = 1;
+    EXPECT_TRUE(insertStepConfig(config));
+    // what the callback changed is what the engine is told last
+    Calls const calls = engine.take();
+    ASSERT_GE(calls.size(), 4U);
+    EXPECT_EQ(calls[calls.size() - 3], "API::set_selection(false true false false false false)");
+
+    engine.onNextCall("set_show_para", [this] { setUnit(view, 0); });
+    setUnit(view, 1);
+    EXPECT_EQ(getUnit(view), 0);
+}
+
+TEST_F(Views, NotifierTellsOfEachStoreAfterThePush)
+{
+    QObject context;
+    std::vector<std::pair<void const *, int>> heard;
+    std::vector<std::size_t> callsBefore;
+    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
+                     [&](void const * changed, Ext::ViewAspects aspects) {
+                         heard.emplace_back(changed, int(aspects));
+                         callsBefore.push_back(engine.take().size());
+                     });
+    Step_Config config;
+    config.view = view;
+    insertStepConfig(config);
+    setUnit(view, 1);
+    setUnit(view, 1);
+    UIAPICommonPara::instance()->setUnit(view, 0);
+    setSelectionClear(view, true);
+    setSelectedPara(view, 1); // no aspect of its own
+    setSnapSize(view, 1);
+    using Heard = std::vector<std::pair<void const *, int>>;
+    EXPECT_EQ(heard, (Heard{{view, 7}, {view, 3}, {view, 2}, {view, 3}, {view, 4}}));
+    EXPECT_EQ(callsBefore, (std::vector<std::size_t>{6, 2, 2, 2, 2}));
+}
+
+TEST_F(Views, CopiesAreDetached)
+{
+    registerView(view);
+    UIAPICommonPara & para = *UIAPICommonPara::instance();
+    para.SetKvcamAsExe(false);
+    // Objects cannot be destroyed, so the copy is kept where it stays reachable.
+    static auto * const copy = new UIAPICommonPara(para);
+    EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, &para);
+    EXPECT_FALSE(copy->KvcamAsExe());
+    copy->setUnit(view, 1);
+    EXPECT_EQ(getUnit(view), 0);
+    EXPECT_EQ(copy->getUnit(view), 1);
+    EXPECT_NE(copy->getEditBuffer(view), para.getEditBuffer(view));
+
+    UIAPICommonPara & self = *copy;
+    *copy = self;
+    EXPECT_EQ(copy->getUnit(view), 1);
+    *copy = para;
+    EXPECT_EQ(copy->getUnit(view), 0);
+    EXPECT_EQ(UIAPICommonPara::instance(), &para);
+}
+
+} // namespace
