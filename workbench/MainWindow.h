@@ -1,0 +1,59 @@
+#pragma once
+
+#include "CommandLine.h"
+#include "Session.h"
+
+#include <QMainWindow>
+
+#include <vector>
+
+class QAction;
+class QLabel;
+class QTabWidget;
+
+namespace Workbench {
+
+class BoardView;
+class EnginePane;
+class LayerTable;
+class LogLines;
+
+/// The window: one view per step with the job's layers beside it, what the engine was told, and the log.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Nothing is owned; session and log outlive the window.
+    MainWindow(Session const & session, LogLines const & log, CommandLine const & commandLine);
+
+    std::vector<BoardView *> const & views() const { return m_views; }
+    BoardView * currentView() const;
+    /// Brings a page to the front by its object name, "board" being the first. False for an unknown page.
+    bool showPage(QString const & name);
+
+private:
+    void makeViews(int unit);
+    QWidget * makeBoardPage(LogLines const & log);
+    void makeToolBar();
+    void addPage(QWidget * page, QString const & name, QString const & title);
+    void showStep();
+    void showLayer(int layer);
+    void showPointer();
+    void refreshUnit();
+    void switchSaveFlag(bool on);
+
+    Session const & m_session;
+    QString m_database;
+    std::vector<BoardView *> m_views;
+    QTabWidget * m_pages = nullptr;
+    QTabWidget * m_steps = nullptr;
+    LayerTable * m_layers = nullptr;
+    EnginePane * m_engine = nullptr;
+    QLabel * m_outline = nullptr;
+    QLabel * m_pointer = nullptr;
+    QAction * m_unit = nullptr;
+    QAction * m_saveFlag = nullptr;
+};
+
+} // namespace Workbench

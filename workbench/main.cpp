@@ -1,0 +1,93 @@
+#include "CommandLine.h"
+#include "Headless.h"
+#include "LogPane.h"
+#include "MainWindow.h"
+#include "Session.h"
+
+#include <glog/logging.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int exitWrongInput = 2;
+
+void print(std::FILE * stream, QByteArray const & text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
+}
+
+int fail(QString const & text)
+{
+    print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
+    return exitWrongInput;
+}
+
+// The library logs through glog and leaves its start to the host. No log files: warnings and errors go to
+// stderr, and the window's pane shows every line.
+void initialiseLog(char const * program)
+{
+    google::InitGoogleLogging(program);
+    for (auto const severity : {google::GLOG_INFO, google::GLOG_WARNING, google::GLOG_ERROR}) {
+        google::SetLogDestination(severity, "");
+    }
+    google::SetStderrLogging(google::GLOG_WARNING);
+}
+
+} // namespace
+
+int main(int argc, char ** argv)
+{
+    initialiseLog(argv[0]);
+    bool const headless = Workbench::runsHeadless(argc, argv);
+    if (headless) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    QApplication::setStyle("fusion");
+
+    auto const parsed = Workbench::parseArguments(QApplication::arguments());
+    if (parsed.outcome == Workbench::ParsedArguments::Outcome::Print) {
+        print(stdout, parsed.text.toUtf8());
+        return 0;
+    }
+    if (parsed.outcome == Workbench::ParsedArguments::Outcome::Error) {
+        return fail(parsed.text);
+    }
+    Workbench::CommandLine const & commandLine = parsed.commandLine;
+
+    Workbench::LogLines log;
+    Workbench::Session session;
+    QString const error = session.open(commandLine.job);
+    if (!error.isEmpty()) {
+        return fail(error);
+    }
+    if (!QDir().mkpath(commandLine.output)) {
+        return fail("cannot write to \"" + commandLine.output + '"');
+    }
+    for (Workbench::Session::Layer & layer : session.layers()) {
+        session.countFeatures(layer);
+    }
+    LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
+              << " step(s) and " << session.layers().size() << " layers";
+
+    Workbench::MainWindow window(session, log, commandLine);
+    if (!headless) {
+        window.show();
+        return QApplication::exec();
+    }
+    if (!commandLine.headless) {
+        print(stderr, "uiapi-workbench: no display, working as with --headless\n");
+    }
+    QJsonObject const facts = Workbench::runHeadless(window, session, commandLine);
+    print(stdout, QJsonDocument(facts).toJson());
+    for (auto const & picture : facts["screenshots"].toArray()) {
+        print(stderr, "uiapi-workbench: wrote " + picture.toString().toUtf8() + '\n');
+    }
+    return 0;
+}
