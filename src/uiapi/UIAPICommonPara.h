@@ -3,12 +3,15 @@
 #include "UIAPICommonExport.h"
 #include "uiapi/ViewRecords.h"
 
+#include <QJsonObject>
+#include <QList>
 #include <QPoint>
 #include <QString>
 
 #include <map>
 #include <string>
 
+class QObject;
 class QWidget;
 
 namespace KVCAM::UIAPI {
@@ -132,6 +135,13 @@ public:
     std::string doubleToString(double value) const;
     /// The measured quantity of a check result, by its kind; 0.0 when kind and number of points do not agree.
     double getMeasureValue(check_info const & info) const;
+
+    // --- Forms --------------------------------------------------------------------------------------------
+
+    /// Adds the values of the named controls to `json`, see the flat function of this name.
+    void readListToJson(QList<QObject *> widgets, QJsonObject & json) const;
+    /// Puts the members of `json` back into the controls of their names.
+    void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
 private:
     UIAPICommonPara();
