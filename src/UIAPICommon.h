@@ -13,6 +13,7 @@
 #include "uiapi/flat/Selections.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "uiapi/flat/Snap.h"
+#include "uiapi/flat/SymbolNames.h"
 #include "uiapi/flat/UiState.h"
 #include "uiapi/flat/Units.h"
 #include "uiapi/flat/ViewAccess.h"

@@ -10,6 +10,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 class QObject;
 class QWidget;
@@ -135,6 +136,26 @@ public:
     std::string doubleToString(double value) const;
     /// The measured quantity of a check result, by its kind; 0.0 when kind and number of points do not agree.
     double getMeasureValue(check_info const & info) const;
+
+    // --- Symbol names -------------------------------------------------------------------------------------
+    // Sizes in a name are mil or micrometres. An unknown view counts as not metric, after the ERROR line of
+    // getUnit().
+
+    /// The lengths of a standard symbol / 25.4 for unit 0, else * 25.4, in place.
+    void setSymbolUIData(QString & name, int unit) const;
+    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view.
+    void setSymbolAPIData(void const * view, QString & name) const;
+    /// Every number * 25.4 at 2 decimals in a metric view, else / 25.4 at 3 decimals.
+    void setSymbolDataByUnit(void const * view, QString & name) const;
+    /// Every number mil to micrometres at 2 decimals (one hundredth beside a whole one becomes whole) in a
+    /// metric view, else at 3 decimals.
+    void setSymbolDataByMilUnit(void const * view, QString & name) const;
+    /// The lengths of a standard symbol, in mil, at 3 decimals for unit 0, else in micrometres as in
+    /// setSymbolDataByMilUnit().
+    std::string getSymbolNameByUnit(std::string const & name, int unit) const;
+    /// Fills `names` with the symbols of the job "KVLIB", which is opened first when it is not open. Lets
+    /// through what the engine throws.
+    void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
 
     // --- Forms --------------------------------------------------------------------------------------------
 
