@@ -3,6 +3,8 @@
 #include "UIAPICommonExport.h"
 #include "uiapi/ViewRecords.h"
 
+#include <QJsonObject>
+#include <QList>
 #include <QPoint>
 #include <QString>
 
@@ -10,6 +12,7 @@
 #include <string>
 #include <vector>
 
+class QObject;
 class QWidget;
 
 namespace KVCAM::UIAPI {
@@ -153,6 +156,13 @@ public:
     /// Fills `names` with the symbols of the job "KVLIB", which is opened first when it is not open. Lets
     /// through what the engine throws.
     void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
+
+    // --- Forms --------------------------------------------------------------------------------------------
+
+    /// Adds the values of the named controls to `json`, see the flat function of this name.
+    void readListToJson(QList<QObject *> widgets, QJsonObject & json) const;
+    /// Puts the members of `json` back into the controls of their names.
+    void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
 private:
     UIAPICommonPara();
