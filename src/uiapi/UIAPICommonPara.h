@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 class QWidget;
 
@@ -103,6 +104,11 @@ public:
     void setSplitPtr(QWidget * widget);
     /// Owned by this object.
     LayerState * getLayerState();
+
+    // --- Attributes ---------------------------------------------------------------------------------------
+
+    /// Assigns the values that a built-in system attribute (".drill") offers; none for any other name.
+    void getChildAttribute(std::string name, std::vector<std::string> & out) const;
 
     // --- Units --------------------------------------------------------------------------------------------
     // An unknown view counts as an inch view, after the ERROR line of getShowPara().
