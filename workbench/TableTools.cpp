@@ -1,0 +1,43 @@
+#include "TableTools.h"
+
+#include <QHeaderView>
+
+namespace Workbench {
+
+QTableWidget * makeTable(QStringList const & titles)
+{
+    auto * table = new QTableWidget;
+    prepareTable(*table, titles);
+    return table;
+}
+
+void prepareTable(QTableWidget & table, QStringList const & titles)
+{
+    table.setColumnCount(titles.size());
+    table.setHorizontalHeaderLabels(titles);
+    table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table.horizontalHeader()->setStretchLastSection(true);
+    table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.verticalHeader()->hide();
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setSelectionMode(QAbstractItemView::SingleSelection);
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.setAlternatingRowColors(true);
+}
+
+void addRow(QTableWidget & table, QStringList const & texts, QList<int> const & right)
+{
+    int const row = table.rowCount();
+    table.insertRow(row);
+    for (int column = 0; column < texts.size(); ++column) {
+        auto * item = new QTableWidgetItem(texts[column]);
+        item->setToolTip(texts[column]);
+        if (right.contains(column)) {
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
+        table.setItem(row, column, item);
+    }
+}
+
+} // namespace Workbench
