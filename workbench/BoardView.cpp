@@ -64,7 +64,7 @@ void BoardView::showLayer(layer_info const & layer)
     m_layer = layer.name;
     m_colour = layerColour(layer);
     m_features = KVCAM::Embedded::features(m_job, m_step, m_layer);
-    m_shapes = featureShapes(m_features, KVCAM::Embedded::layerSymbols(m_job, m_step, m_layer));
+    m_shapes = featureShapes(m_job, m_step, m_layer);
     m_extent = m_profile.boundingRect();
     if (m_extent.isEmpty()) { // a step without a profile is shown as large as its features
         for (FeatureShape const & shape : m_shapes) {
@@ -178,11 +178,14 @@ void BoardView::paintScale(QPainter & painter, QTransform const & transform) con
                           : available >= 2 * decade ? 2 * decade
                                                     : decade;
     double const pixels = length * perLargeUnit * transform.m11();
+    QString const text =
+        QString::fromStdString(doubleToString(length) + ' ' + getUnitStringType(handle(), 0));
     QLineF const bar(margin, height() - 10, margin + pixels, height() - 10);
+    QRectF const ground(margin - 8, height() - 24, pixels + fontMetrics().horizontalAdvance(text) + 24, 24);
+    painter.fillRect(ground, Qt::white);
     painter.setPen(QPen(QColor("#20242a"), 2));
     painter.drawLine(bar);
-    painter.drawText(QPointF(bar.x2() + 8, bar.y2() + 5),
-                     QString::fromStdString(doubleToString(length) + ' ' + getUnitStringType(handle(), 0)));
+    painter.drawText(QPointF(bar.x2() + 8, bar.y2() + 4), text);
 }
 
 void BoardView::resizeEvent(QResizeEvent * /*event*/)

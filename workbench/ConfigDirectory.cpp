@@ -17,7 +17,8 @@ void copySamples(QString const & directory)
     for (QString const & name : samples.entryList(QDir::Files)) {
         QString const copy = directory + '/' + name;
         QFile::copy(samples.filePath(name), copy);
-        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        QFile::setPermissions(copy,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
 }
 

@@ -33,6 +33,7 @@ EnginePane::EnginePane(QWidget * parent) : QTreeWidget(parent)
 {
     setHeaderLabels({tr("Record"), tr("Value")});
     setSelectionMode(QAbstractItemView::NoSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(KVCAM::UIAPI::Ext::Notifier::instance(), &KVCAM::UIAPI::Ext::Notifier::viewChanged, this,
             &EnginePane::refresh);

@@ -1,8 +1,11 @@
 #include "FeatureShapes.h"
 
+#include <QPolygonF>
 #include <QRegularExpression>
 #include <QString>
+#include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Workbench {
@@ -29,19 +32,19 @@ bool isRoundFamily(std::string const & name)
     return name.size() > 1 && name[0] == 'r' && name[1] >= '0' && name[1] <= '9';
 }
 
-QPainterPath padPath(std::string const & symbol, QSizeF size, QPointF centre)
+QPainterPath padPath(std::string const & symbol, QSizeF size)
 {
     QPainterPath path;
     if (size.isEmpty()) {
-        path.moveTo(centre - QPointF(crossSize, 0));
-        path.lineTo(centre + QPointF(crossSize, 0));
-        path.moveTo(centre - QPointF(0, crossSize));
-        path.lineTo(centre + QPointF(0, crossSize));
+        path.moveTo(-crossSize, 0);
+        path.lineTo(crossSize, 0);
+        path.moveTo(0, -crossSize);
+        path.lineTo(0, crossSize);
         return path;
     }
     bool const isDonut = symbol.rfind("donut", 0) == 0;
     QSizeF const outer = isDonut ? QSizeF(size.width(), size.width()) : size;
-    QRectF const box(centre - QPointF(outer.width() / 2, outer.height() / 2), outer);
+    QRectF const box(QPointF(-outer.width() / 2, -outer.height() / 2), outer);
     if (symbol.rfind("oval", 0) == 0) {
         double const radius = std::min(size.width(), size.height()) / 2;
         path.addRoundedRect(box, radius, radius);
@@ -51,48 +54,72 @@ QPainterPath padPath(std::string const & symbol, QSizeF size, QPointF centre)
         path.addRect(box);
     }
     if (isDonut) {
-        path.addEllipse(centre, size.height() / 2, size.height() / 2); // a donut's second size is its hole
+        path.addEllipse(QPointF(), size.height() / 2, size.height() / 2); // its second size is the hole
     }
     return path;
 }
 
-QPainterPath arcPath(QPointF start, QPointF end, QPointF centre)
+QPainterPath arcPath(QPointF start, QPointF end, QPointF centre, bool clockwise)
 {
     QPointF const from = start - centre;
     QPointF const to = end - centre;
     double const radius = std::hypot(from.x(), from.y());
-    QRectF const circle(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
-    QPainterPath path(start);
-    if (start == end) {
-        path.addEllipse(circle);
-        return path;
-    }
-    // Qt counts angles against a y axis that points down.
+    // Qt counts angles counter-clockwise against a y axis that points down; the board's points up.
     double const startAngle = std::atan2(-from.y(), from.x()) * 180 / M_PI;
     double sweep = std::atan2(-to.y(), to.x()) * 180 / M_PI - startAngle;
-    sweep = std::remainder(sweep, 360);
-    path.arcTo(circle, startAngle, sweep);
+    if (clockwise) {
+        sweep += sweep <= 0 ? 360 : 0;
+    } else {
+        sweep -= sweep >= 0 ? 360 : 0;
+    }
+    QPainterPath path(start);
+    path.arcTo(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius), startAngle, sweep);
     return path;
 }
 
-// A surface's record is one run of points; a contour ends where it comes back to its first point.
-QPainterPath surfacePath(std::vector<KVCAM::API::point> const & points)
+QPainterPath surfacePath(std::vector<std::vector<KVCAM::API::point>> const & outlines)
 {
-    QPainterPath path;
-    bool inContour = false;
-    QPointF first;
-    for (KVCAM::API::point const & point : points) {
-        QPointF const here = toPoint(point);
-        if (!inContour) {
-            path.moveTo(here);
-            first = here;
-            inContour = true;
-            continue;
+    QPainterPath path; // odd-even, so that holes stay open
+    for (auto const & outline : outlines) {
+        QPolygonF polygon;
+        for (KVCAM::API::point const & corner : outline) {
+            polygon << toPoint(corner);
         }
-        path.lineTo(here);
-        inContour = here != first;
+        path.addPolygon(polygon);
+        path.closeSubpath();
     }
     return path;
+}
+
+FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing,
+                          QSizeF size)
+{
+    auto const & points = feature.points;
+    FeatureShape shape;
+    shape.feature = feature.index;
+    shape.positive = feature.positive;
+    shape.filled = feature.kind == 'S' || (feature.kind == 'P' && !size.isEmpty());
+    shape.penWidth = shape.filled ? 0 : std::min(size.width(), size.height());
+    switch (feature.kind) {
+    case 'P': {
+        QPointF const place = toPoint(points.at(0));
+        QTransform const turned = QTransform::fromTranslate(place.x(), place.y()).rotate(-drawing.angle);
+        shape.path = turned.map(padPath(feature.symbol, size));
+        break;
+    }
+    case 'L':
+        shape.path.moveTo(toPoint(points.at(0)));
+        shape.path.lineTo(toPoint(points.at(1)));
+        break;
+    case 'A':
+        shape.path =
+            arcPath(toPoint(points.at(0)), toPoint(points.at(1)), toPoint(points.at(2)), drawing.clockwise);
+        break;
+    default:
+        shape.path = surfacePath(drawing.outlines);
+        break;
+    }
+    return shape;
 }
 
 } // namespace
@@ -112,37 +139,22 @@ QSizeF symbolExtent(std::string const & name, int unit)
     return {width, height};
 }
 
-std::vector<FeatureShape> featureShapes(std::vector<feature_info> const & features,
-                                        std::vector<KVCAM::Embedded::SymbolUse> const & symbols)
+std::vector<FeatureShape> featureShapes(std::string const & job, std::string const & step,
+                                        std::string const & layer)
 {
     std::map<std::string, QSizeF> sizes;
-    for (KVCAM::Embedded::SymbolUse const & symbol : symbols) {
+    for (KVCAM::Embedded::SymbolUse const & symbol : KVCAM::Embedded::layerSymbols(job, step, layer)) {
         sizes.emplace(symbol.name, symbolExtent(symbol.name, symbol.unit));
     }
+    auto const features = KVCAM::Embedded::features(job, step, layer);
+    auto const drawings = KVCAM::Embedded::featureDrawings(job, step, layer);
     std::vector<FeatureShape> shapes;
     shapes.reserve(features.size());
-    for (feature_info const & feature : features) {
+    for (std::size_t i = 0; i < features.size(); ++i) {
+        feature_info const & feature = features[i];
         auto const known = sizes.find(feature.symbol);
         QSizeF const size = known == sizes.end() ? QSizeF() : known->second;
-        auto const & points = feature.points;
-        FeatureShape shape;
-        shape.feature = feature.index;
-        shape.positive = feature.positive;
-        if (feature.kind == 'P' && !points.empty()) {
-            shape.filled = !size.isEmpty();
-            shape.path = padPath(feature.symbol, size, toPoint(points[0]));
-        } else if (feature.kind == 'S') {
-            shape.path = surfacePath(points);
-        } else if (feature.kind == 'L' && points.size() >= 2) {
-            shape.filled = false;
-            shape.path.moveTo(toPoint(points[0]));
-            shape.path.lineTo(toPoint(points[1]));
-        } else if (feature.kind == 'A' && points.size() >= 3) {
-            shape.filled = false;
-            shape.path = arcPath(toPoint(points[0]), toPoint(points[1]), toPoint(points[2]));
-        }
-        shape.penWidth = shape.filled ? 0 : std::min(size.width(), size.height());
-        shapes.push_back(std::move(shape));
+        shapes.push_back(featureShape(feature, drawings[i], size));
     }
     return shapes;
 }

@@ -25,10 +25,10 @@ struct FeatureShape
 /// name's sizes are in mil, 1 for micrometres. An empty size for a user-defined symbol.
 QSizeF symbolExtent(std::string const & name, int unit);
 
-/// A simple picture of a layer: pads as upright rectangles, ellipses or crosses, lines and arcs as round
-/// strokes, surfaces as filled contours. It is meant for finding one's way, not for judging a board: records
-/// carry neither a pad's angle nor an arc's sense, so pads stand upright and the shorter arc is drawn.
-std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
-                                        std::vector<KVCAM::Embedded::SymbolUse> const & symbols);
+/// A simple picture of a layer: pads as ellipses, rectangles or crosses, lines and arcs as round strokes,
+/// surfaces as filled contours. It is meant for finding one's way, not for judging a board: a pad shows the
+/// outer shape of its symbol's family, and a user-defined symbol is a cross.
+std::vector<FeatureShape> featureShapes(std::string const & job, std::string const & step,
+                                        std::string const & layer);
 
 } // namespace Workbench

@@ -2,6 +2,7 @@
 
 #include "TableTools.h"
 
+#include <QHeaderView>
 #include <QSignalBlocker>
 
 namespace Workbench {
@@ -9,6 +10,8 @@ namespace Workbench {
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
     prepareTable(*this, {tr("Row"), tr("Name"), tr("Context"), tr("Type"), tr("Polarity"), tr("Features")});
+    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {
         if (row != before) {
             emit layerSelected(row);

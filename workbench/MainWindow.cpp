@@ -14,6 +14,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace Workbench {
@@ -101,7 +102,7 @@ QWidget * MainWindow::makeBoardPage(LogLines const & log)
     sides->addWidget(middle);
     sides->addWidget(titled(tr("What the engine was told"), m_engine));
     sides->setStretchFactor(1, 1);
-    sides->setSizes({560, 590, 290});
+    sides->setSizes({600, 560, 280});
 
     auto * page = new QSplitter(Qt::Vertical);
     page->addWidget(sides);
@@ -123,6 +124,9 @@ void MainWindow::makeToolBar()
     m_saveFlag->setCheckable(true);
     m_saveFlag->setToolTip(tr("Makes the engine write what it is told to %1 as well").arg(m_database));
     connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
+    for (auto * button : bar->findChildren<QToolButton *>()) {
+        button->setAutoRaise(false);
+    }
 }
 
 void MainWindow::addPage(QWidget * page, QString const & name, QString const & title)

@@ -138,7 +138,8 @@ void SettingsPage::addSetting(QGridLayout & form, Setting const & setting)
         auto * box = new QSpinBox;
         box->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
         box->setValue(value.toInt());
-        connect(box, &QSpinBox::editingFinished, this, [this, &setting, box] { store(setting, box->value()); });
+        connect(box, &QSpinBox::editingFinished, this,
+                [this, &setting, box] { store(setting, box->value()); });
         editor = box;
     } else {
         auto * line = new QLineEdit(value.toString());
@@ -150,7 +151,8 @@ void SettingsPage::addSetting(QGridLayout & form, Setting const & setting)
     editor->setEnabled(setting.write != nullptr);
     form.addWidget(new QLabel(tr(setting.title)), row, 0);
     form.addWidget(editor, row, 1);
-    form.addWidget(new QLabel(setting.write != nullptr ? tr("saved at once") : tr("read at start only")), row, 2);
+    form.addWidget(new QLabel(setting.write != nullptr ? tr("saved at once") : tr("read at start only")), row,
+                   2);
 }
 
 void SettingsPage::store(Setting const & setting, QVariant const & value)
@@ -165,8 +167,8 @@ void SettingsPage::refreshDiagnostics()
 {
     m_diagnostics->setRowCount(0);
     for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
-        addRow(*m_diagnostics, {QFileInfo(finding.file).fileName(), finding.key, kindText(finding.kind),
-                                finding.text});
+        addRow(*m_diagnostics,
+               {QFileInfo(finding.file).fileName(), finding.key, kindText(finding.kind), finding.text});
     }
     m_diagnostics->resizeRowsToContents();
 }

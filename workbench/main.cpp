@@ -39,17 +39,32 @@ void initialiseLog(char const * program)
     google::SetStderrLogging(google::GLOG_WARNING);
 }
 
+// Qt's remarks about the desktop belong into the pane with the rest, not between the lines of the terminal.
+void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QString const & text)
+{
+    bool const isError = type == QtCriticalMsg || type == QtFatalMsg;
+    google::LogMessage("Qt", 0, isError ? google::GLOG_ERROR : google::GLOG_INFO).stream()
+        << qPrintable(text);
+}
+
 } // namespace
 
 int main(int argc, char ** argv)
 {
     initialiseLog(argv[0]);
+    Workbench::LogLines log;
+    qInstallMessageHandler(logQtMessage);
     bool const headless = Workbench::runsHeadless(argc, argv);
     if (headless) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");
+    if (headless) { // screenshots do not depend on a desktop's taste
+        QFont font = QApplication::font();
+        font.setPointSize(10);
+        QApplication::setFont(font);
+    }
 
     auto const parsed = Workbench::parseArguments(QApplication::arguments());
     if (parsed.outcome == Workbench::ParsedArguments::Outcome::Print) {
@@ -61,7 +76,6 @@ int main(int argc, char ** argv)
     }
     Workbench::CommandLine const & commandLine = parsed.commandLine;
 
-    Workbench::LogLines log;
     Workbench::Session session;
     QString const error = session.open(commandLine.job);
     if (!error.isEmpty()) {
