@@ -67,7 +67,7 @@ TEST_F(SafeSaving, AKilledProcessLeavesTheOldOrTheNewFileWhole)
     int last = 1;
     int done = 0;
     int losses = 0;
-    int midWrite = 0;
+    int leftBehind = 0;
     QElapsedTimer clock;
     for (clock.start(); done < runs && clock.elapsed() < 15000; ++done) {
         QProcess writer;
@@ -79,14 +79,14 @@ TEST_F(SafeSaving, AKilledProcessLeavesTheOldOrTheNewFileWhole)
         int const found = generationIn(file);
         losses += found < last ? 1 : 0; // not whole, or older than what stood there
         last = std::max(last, found);
-        // What the killed process had begun.
+        // Most of what was begun has no name yet and goes with its process.
         for (QString const & name : QDir(config).entryList({"server.json.*"}, QDir::Files)) {
-            ++midWrite;
+            ++leftBehind;
             QFile::remove(config + name);
         }
     }
-    std::cout << done << " kills, " << midWrite << " of them in the middle of a save, " << last << " saves, "
-              << losses << " losses\n";
+    std::cout << done << " kills, " << last << " saves, " << leftBehind << " temporary files left, " << losses
+              << " losses\n";
     EXPECT_EQ(losses, 0);
     EXPECT_GT(done, 0);
     EXPECT_GT(last, 1) << "no run came to save anything";
