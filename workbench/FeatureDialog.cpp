@@ -5,11 +5,16 @@
 
 #include <UIAPICommon.h>
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QJsonArray>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -21,8 +26,8 @@ using namespace KVCAM::UIAPI;
 namespace {
 
 // The legal sizes of a pad, in mil.
-constexpr double minimumSize = 0.5;
-constexpr double maximumSize = 1000;
+constexpr double smallestMil = 0.5;
+constexpr double largestMil = 1000;
 
 } // namespace
 
@@ -36,6 +41,7 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     , m_shownUnit(getUnit(view.handle()))
 {
     setWindowTitle(tr("Feature"));
+    resize(860, 480);
     auto * layout = new QVBoxLayout(this);
     m_heading = new QLabel;
     layout->addWidget(m_heading);
@@ -57,11 +63,12 @@ void FeatureDialog::followView()
         field->setFollowView(true);
         field->setRefusalHints(true);
     }
-    m_width->setRange(minimumSize, maximumSize);
-    m_height->setRange(minimumSize, maximumSize);
+    m_width->setRange(smallestMil, largestMil);
+    m_height->setRange(smallestMil, largestMil);
     connect(m_name, &QLineEdit::textChanged, this, &FeatureDialog::symbolEdited);
     connect(m_width, &QLineEdit::textChanged, this, &FeatureDialog::sizeEdited);
     connect(m_height, &QLineEdit::textChanged, this, &FeatureDialog::sizeEdited);
+    connect(m_offset, &QLineEdit::textChanged, this, &FeatureDialog::showFacts);
     connect(m_expression, &QLineEdit::textChanged, this, &FeatureDialog::judgeExpression);
     // After the fields, which were connected above: they follow first.
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
@@ -86,90 +93,103 @@ void FeatureDialog::fillFromPad()
     if (pad == features.end()) {
         return;
     }
-    m_symbol = {QString::fromStdString(pad->symbol), 0};
+    int unit = 0;
     for (auto const & use : KVCAM::Embedded::layerSymbols(m_job, m_view.step(), m_view.layer())) {
         if (use.name == pad->symbol) {
-            m_symbol.unit = use.unit;
+            unit = use.unit;
         }
     }
+    m_symbol = {QString::fromStdString(pad->symbol), unit};
     m_polarity->setCurrentIndex(pad->positive ? 0 : 1);
-    showSymbol();
 }
 
-// Shows the symbol and its sizes in the view's unit.
+// Shows the symbol and its sizes in the view's unit. The fields follow a switch by themselves; the dialog
+// knows besides in which unit each text was typed or stored, and converts from there: a symbol field alone
+// converts by the same factor in both directions, and a number that was stored in the other unit has been
+// rounded for the field.
 void FeatureDialog::showSymbol()
 {
     m_isFilling = true;
+    int const cursor = m_name->cursorPosition();
     m_name->setText(m_symbol.in(m_shownUnit));
-    QString width;
-    QString height;
-    bool const hasSizes = readSizes(m_name->text(), width, height);
-    m_width->setText(width);
-    m_height->setText(height);
-    m_width->setEnabled(hasSizes);
-    m_height->setEnabled(!height.isEmpty());
-    m_description->setText(Ext::describeSymbol(m_symbol.name, m_symbol.unit));
+    m_name->setCursorPosition(cursor);
+    m_width->setText(m_symbol.width().in(m_shownUnit));
+    m_height->setText(m_symbol.height().in(m_shownUnit));
+    m_width->setEnabled(!m_symbol.width().text.isEmpty());
+    m_height->setEnabled(!m_symbol.height().text.isEmpty());
     m_isFilling = false;
-    judgeExpression();
+    showFacts();
 }
 
 void FeatureDialog::symbolEdited()
 {
     if (!isFollowing()) {
         m_symbol = {m_name->text(), m_shownUnit};
-        int const cursor = m_name->cursorPosition();
         showSymbol();
-        m_name->setCursorPosition(cursor);
     }
 }
 
 void FeatureDialog::sizeEdited()
 {
-    if (!isFollowing()) {
-        m_symbol = {withSizes(m_name->text(), m_width->text(), m_height->text()), m_shownUnit};
-        m_isFilling = true;
-        m_name->setText(m_symbol.name);
-        m_isFilling = false;
-        m_description->setText(Ext::describeSymbol(m_symbol.name, m_symbol.unit));
-        judgeExpression();
+    if (isFollowing()) {
+        return;
     }
+    auto * field = qobject_cast<QLineEdit *>(sender());
+    PadSize const size{field->text().remove('+'), m_shownUnit}; // the field takes a sign, a name does not
+    if (field == m_width) {
+        m_symbol.setWidth(size);
+    } else {
+        m_symbol.setHeight(size);
+    }
+    m_isFilling = true;
+    m_name->setText(m_symbol.in(m_shownUnit));
+    m_isFilling = false;
+    showFacts();
 }
 
 void FeatureDialog::refreshUnit()
 {
     m_shownUnit = getUnit(m_view.handle());
-    // A symbol field converts by the same factor in both directions; this dialog knows in which unit the name
-    // was typed and shows it converted once, from there.
-    m_isFilling = true;
-    m_name->setText(m_symbol.in(m_shownUnit));
-    m_isFilling = false;
+    showSymbol();
     for (auto * label : findChildren<KVLabel *>()) {
         int const kind = label->getAttribute2() == "large" ? 0 : 1;
         label->setText(QString("%1 [%2]").arg(
             label->getAttribute1(), QString::fromStdString(getUnitStringType(m_view.handle(), kind))));
     }
-    auto const & features = m_view.features();
-    for (auto const & item : features) {
+    for (auto const & item : m_view.features()) {
         if (item.index == m_feature) {
             m_heading->setText(tr("Pad %1 of layer %2 at %3")
                                    .arg(QString::number(m_feature), QString::fromStdString(m_view.layer()),
                                         m_view.positionText(item.points.at(0).x, item.points.at(0).y)));
         }
     }
+}
+
+void FeatureDialog::showFacts()
+{
+    m_description->setText(Ext::describeSymbol(m_symbol.name(), m_symbol.unit()));
+    m_exact->setText(tr("Width %1 nm, offset %2 nm").arg(exactWidth()).arg(m_offset->exactLengthNm()));
     judgeExpression();
+}
+
+void FeatureDialog::changeEvent(QEvent * event)
+{
+    if (event->type() == QEvent::LanguageChange && m_exact != nullptr) {
+        showFacts();
+    }
+    QDialog::changeEvent(event);
 }
 
 // The verdict beside the field comes without a box; calculate() shows the box.
 void FeatureDialog::judgeExpression()
 {
     QString const unit = QString::fromStdString(getUnitStringType(m_view.handle(), 1));
-    m_exact->setText(tr("Width %1 nm").arg(m_width->exactLengthNm()));
     if (m_expression->text().isEmpty()) {
         m_verdict->clear();
         return;
     }
     double const value = caculateData(m_expression->text());
-    Ext::ValueVerdict const verdict = Ext::checkValue(value, minimumSize, maximumSize, m_shownUnit);
+    Ext::ValueVerdict const verdict = Ext::checkValue(value, smallestMil, largestMil, m_shownUnit);
     m_verdict->setText(verdict.legal
                            ? QString("= %1 %2").arg(QString::fromStdString(doubleToString(value)), unit)
                            : verdict.text);
@@ -183,16 +203,33 @@ bool FeatureDialog::calculate(QString const & expression)
         return false;
     }
     double const value = caculateData(expression);
-    if (!isValueLegal(value, minimumSize, maximumSize, m_view.handle())) {
+    if (!isValueLegal(value, smallestMil, largestMil, m_view.handle())) {
         return false;
     }
     m_width->setText(QString::fromStdString(doubleToString(value)));
     return true;
 }
 
+void FeatureDialog::remark(QString const & author, QString const & note, QString const & document)
+{
+    m_author->setText(author);
+    m_note->setPlainText(note);
+    m_documents->addItem(document);
+}
+
 QString FeatureDialog::symbol() const
 {
     return m_name->text();
+}
+
+QString FeatureDialog::width() const
+{
+    return m_width->text();
+}
+
+QString FeatureDialog::verdict() const
+{
+    return m_verdict->text();
 }
 
 QString FeatureDialog::description() const
@@ -202,7 +239,7 @@ QString FeatureDialog::description() const
 
 qint64 FeatureDialog::exactWidth() const
 {
-    return m_width->exactLengthNm();
+    return m_symbol.width().nanometres();
 }
 
 QString FeatureDialog::padKey() const
@@ -221,14 +258,15 @@ bool FeatureDialog::restoreForm()
     m_isFilling = true;                  // the saved texts agree with each other
     writeJsonToList(form.fields, m_fields);
     m_isFilling = false;
-    m_symbol = {m_name->text(), m_shownUnit};
-    m_description->setText(Ext::describeSymbol(m_symbol.name, m_symbol.unit));
+    m_symbol = PadSymbol::fromJson(form.extra["symbol"].toObject());
     m_note->setPlainText(form.extra["note"].toString());
     m_documents->clear();
     for (auto const & path : form.extra["documents"].toArray()) {
         m_documents->addItem(path.toString());
     }
-    judgeExpression();
+    m_name->setCursorPosition(0);
+    showSymbol();
+    m_isRestored = true;
     return true;
 }
 
@@ -241,7 +279,10 @@ bool FeatureDialog::saveForm() const
     for (int i = 0; i < m_documents->count(); ++i) {
         documents.append(m_documents->item(i)->text());
     }
-    form.extra = {{"pad", padKey()}, {"note", m_note->toPlainText()}, {"documents", documents}};
+    form.extra = {{"pad", padKey()},
+                  {"symbol", m_symbol.toJson()},
+                  {"note", m_note->toPlainText()},
+                  {"documents", documents}};
     return writeForm(m_formFile, form);
 }
 

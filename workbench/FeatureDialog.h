@@ -35,6 +35,8 @@ public:
     FeatureDialog(BoardView & view, int feature, std::string job, QString formFile,
                   QWidget * parent = nullptr);
 
+    /// Whether the form was restored.
+    bool isRestored() const { return m_isRestored; }
     /// Restores the form if the file holds this pad's. The view then has the unit that the form was saved in.
     bool restoreForm();
     bool saveForm() const;
@@ -43,10 +45,18 @@ public:
     /// has told the user.
     bool calculate(QString const & expression);
 
+    /// Fills the remarks.
+    void remark(QString const & author, QString const & note, QString const & document);
+
     QString symbol() const;
+    QString width() const;
     QString description() const;
-    /// The width in nanometres, as typed.
+    QString verdict() const;
+    /// The width in nanometres, as typed or stored.
     qint64 exactWidth() const;
+
+protected:
+    void changeEvent(QEvent * event) override;
 
 private:
     QWidget * makePadGroup();
@@ -56,6 +66,7 @@ private:
     void followView();
     void fillFromPad();
     void showSymbol();
+    void showFacts();
     void symbolEdited();
     void sizeEdited();
     void judgeExpression();
@@ -71,6 +82,7 @@ private:
     QString m_formFile;
     PadSymbol m_symbol;
     int m_shownUnit;
+    bool m_isRestored = false;
     bool m_isFilling = false; ///< the dialog changes its fields itself
 
     QLabel * m_heading = nullptr;

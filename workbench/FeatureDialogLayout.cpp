@@ -11,10 +11,11 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStatusBar>
 
 namespace Workbench {
 
@@ -48,6 +49,8 @@ QLabel * wrappedLabel()
 {
     auto * label = new QLabel;
     label->setWordWrap(true);
+    label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }
 
@@ -68,7 +71,6 @@ QWidget * FeatureDialog::makePadGroup()
     m_expression->setObjectName("expression");
     m_description = wrappedLabel();
     m_verdict = wrappedLabel();
-    m_verdict->setMinimumHeight(2 * fontMetrics().lineSpacing());
     m_exact = new QLabel;
 
     auto * names = new QPushButton(tr("Names"));
@@ -76,6 +78,7 @@ QWidget * FeatureDialog::makePadGroup()
     auto * equals = new QPushButton("=");
     equals->setToolTip(tr("Takes the value as the width"));
     connect(equals, &QPushButton::clicked, this, [this] { calculate(m_expression->text()); });
+    equals->setMaximumWidth(40);
     for (QPushButton * button : {names, equals}) {
         button->setAutoDefault(false);
     }
@@ -162,22 +165,25 @@ QWidget * FeatureDialog::makeButtons()
 // A list that goes away by itself when the focus leaves it.
 void FeatureDialog::showNames()
 {
-    delete m_names;
+    if (m_names != nullptr) {
+        m_names->deleteLater();
+    }
     m_names = new KVListWidget(this);
     QIcon const standard = dot("#b5582a");
     QIcon const own = dot("#3f51b5");
     for (auto const & use : KVCAM::Embedded::layerSymbols(m_job, m_view.step(), m_view.layer())) {
-        PadSymbol const symbol{QString::fromStdString(use.name), use.unit};
-        QString width;
-        QString height;
+        PadSymbol const symbol(QString::fromStdString(use.name), use.unit);
         auto * item = new KVListWidgetItem(m_names);
         item->setText(symbol.in(m_shownUnit));
-        item->setItemUserData(symbol.name);
-        item->setItemIcon(readSizes(symbol.name, width, height) ? standard : own, standard, own);
-        item->setToolTip(Ext::describeSymbol(symbol.name, symbol.unit));
+        item->setItemUserData(symbol.name());
+        item->setData(Qt::UserRole, symbol.unit());
+        item->setItemIcon(symbol.width().text.isEmpty() ? own : standard, standard, own);
+        item->setToolTip(Ext::describeSymbol(symbol.name(), symbol.unit()));
     }
     connect(m_names, &QListWidget::itemClicked, this, [this](QListWidgetItem * item) {
-        m_name->setText(item->text());
+        auto const * chosen = static_cast<KVListWidgetItem *>(item);
+        m_symbol = {chosen->getItemUserData(), chosen->data(Qt::UserRole).toInt()};
+        showSymbol();
         m_names->hide();
     });
     QPoint const below = m_name->mapTo(this, QPoint(0, m_name->height()));

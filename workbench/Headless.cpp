@@ -2,7 +2,9 @@
 
 #include "BoardView.h"
 #include "EnginePane.h"
+#include "FeatureDialog.h"
 #include "MainWindow.h"
+#include "SymbolsPage.h"
 
 #include <UIAPICommon.h>
 
@@ -11,11 +13,34 @@
 #include <QJsonArray>
 #include <QPixmap>
 
+#include <utility>
+
 namespace Workbench {
 
 namespace {
 
 using namespace KVCAM::UIAPI;
+
+// Takes screenshots into a folder and remembers where they are.
+class Camera
+{
+public:
+    explicit Camera(QString folder) : m_folder(std::move(folder)) {}
+
+    void take(QWidget & widget, QString const & name)
+    {
+        QApplication::processEvents(); // layouts settle before the picture is taken
+        QString const path = m_folder.filePath(name);
+        if (widget.grab().save(path)) {
+            m_pictures.append(path);
+        }
+    }
+    QJsonArray const & pictures() const { return m_pictures; }
+
+private:
+    QDir m_folder;
+    QJsonArray m_pictures;
+};
 
 QJsonArray layersOf(Session const & session)
 {
@@ -57,45 +82,102 @@ QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Bo
     return facts;
 }
 
-QJsonArray symbolsOf(std::string const & job)
+// Works through the feature dialog as a user would: calculates a width, tries an illegal one, switches the
+// unit a hundred times. A form that was restored is left as it is.
+QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
 {
-    QJsonArray symbols;
-    for (KVCAM::Embedded::SymbolUse const & symbol : KVCAM::Embedded::jobSymbols(job)) {
-        symbols.append(QJsonObject{{"name", QString::fromStdString(symbol.name)},
-                                   {"unit", symbol.unit == 0 ? "mil" : "my"},
-                                   {"features", symbol.features}});
+    int const pad = window.firstPad();
+    if (pad < 0) {
+        return {};
     }
-    return symbols;
+    FeatureDialog & dialog = *window.openFeature(pad);
+    void const * const view = window.currentView()->handle();
+    int const unit = getUnit(view);
+    QJsonObject facts{{"layer", QString::fromStdString(window.currentView()->layer())},
+                      {"pad", pad},
+                      {"restored", dialog.isRestored()}};
+    if (!dialog.isRestored()) {
+        facts["refused"] = dialog.calculate("90000*2") ? QString() : dialog.verdict();
+        dialog.calculate(unit == 0 ? "10+2.5" : "254+63.5");
+        dialog.remark("uiapi-workbench",
+                      "The width was calculated and is kept with this note until the next run.",
+                      session.directory() + "/matrix/matrix");
+    }
+    QString const before = dialog.width();
+    for (int i = 0; i < 100; ++i) {
+        setUnit(view, 1 - getUnit(view));
+    }
+    facts["width"] = before;
+    facts["width after 100 switches"] = dialog.width();
+    facts["width in nm"] = static_cast<double>(dialog.exactWidth());
+    facts["description"] = dialog.description();
+    for (int const shown : {0, 1}) {
+        setUnit(view, shown);
+        facts[shown == 0 ? "symbol in mil" : "symbol in my"] = dialog.symbol();
+        camera.take(dialog, shown == 0 ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
+    }
+    window.setLanguage(LANGUAGE_CHINESE);
+    facts["description in Chinese"] = dialog.description();
+    camera.take(dialog, "feature-dialog-chinese.png");
+    window.setLanguage(LANGUAGE_ENGLISH);
+    setUnit(view, unit);
+    facts["saved"] = dialog.saveForm();
+    dialog.close();
+    return facts;
 }
 
-// Grabs a widget into a file; an empty path when it cannot be written.
-QString screenshot(QWidget & widget, QString const & folder, QString const & name)
+QJsonObject configuration()
 {
-    QApplication::processEvents(); // layouts settle before the picture is taken
-    QString const path = QDir(folder).filePath(name);
-    return widget.grab().save(path) ? path : QString();
+    QJsonArray templates;
+    for (auto const & [index, tmpl] : getAutoMatrixTmpMap()) {
+        templates.append(QJsonObject{{"index", index}, {"name", QString::fromStdString(tmpl.name)}});
+    }
+    std::vector<std::string> attributes;
+    getParentAttribute(attributes);
+    QJsonArray findings;
+    for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
+        findings.append(QJsonObject{{"file", finding.file}, {"key", finding.key}, {"text", finding.text}});
+    }
+    return {{"threads", getThreadCount()},
+            {"templates", templates},
+            {"attributes", static_cast<int>(attributes.size())},
+            {"findings", findings}};
 }
 
 } // namespace
 
 QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine)
 {
+    // Nobody is there to close a box: the texts go into the facts instead.
+    QJsonArray boxes;
+    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
+        boxes.append(message.text);
+        return message.kind == Ext::MessageKind::Question ? Ext::MessageAnswer::No : Ext::MessageAnswer::Ok;
+    });
+    Camera camera(commandLine.output);
     window.show();
     QJsonArray steps;
     for (std::size_t i = 0; i < session.steps().size(); ++i) {
         steps.append(switchUnit(*window.views()[i], session.steps()[i].outline));
     }
-    QJsonArray screenshots;
-    QString const picture = screenshot(window, commandLine.output, "workbench.png");
-    if (!picture.isEmpty()) {
-        screenshots.append(picture);
+    setStepConfigToAPI(window.currentView()->handle());
+    camera.take(window, "workbench.png");
+    for (QString const page : {"symbols", "settings", "templates", "attributes"}) {
+        window.showPage(page);
+        camera.take(window, page + ".png");
     }
+    window.showPage("board");
+    QJsonObject const feature = useFeatureDialog(window, session, camera);
+    Ext::setMessagePresenter({});
     return {{"job", QString::fromStdString(session.job())},
             {"directory", session.directory()},
             {"steps", steps},
             {"layers", layersOf(session)},
-            {"symbols", symbolsOf(session.job())},
-            {"screenshots", screenshots}};
+            {"symbols", toJson(symbolRows(session.job()))},
+            {"feature", feature},
+            {"configuration", configuration()},
+            {"boxes", boxes},
+            {"screenshots", camera.pictures()}};
 }
 
 } // namespace Workbench

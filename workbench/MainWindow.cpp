@@ -1,13 +1,17 @@
 #include "MainWindow.h"
 
+#include "AttributesPage.h"
 #include "BoardView.h"
 #include "EnginePane.h"
+#include "FeatureDialog.h"
 #include "LayerTable.h"
 #include "LogPane.h"
-
-#include <UIAPICommon.h>
+#include "SettingsPage.h"
+#include "SymbolsPage.h"
+#include "TemplatesPage.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QSplitter>
@@ -35,7 +39,9 @@ QWidget * titled(QString const & title, QWidget * content)
 } // namespace
 
 MainWindow::MainWindow(Session const & session, LogLines const & log, CommandLine const & commandLine)
-    : m_session(session), m_database(commandLine.output + "/uiapi-engine.sqlite")
+    : m_session(session)
+    , m_database(commandLine.output + "/uiapi-engine.sqlite")
+    , m_formFile(commandLine.output + "/feature-form.json")
 {
     setWindowTitle(tr("%1 - UIAPICommon workbench").arg(QString::fromStdString(session.job())));
     resize(1440, 900);
@@ -45,12 +51,14 @@ MainWindow::MainWindow(Session const & session, LogLines const & log, CommandLin
     m_pages = new QTabWidget;
     setCentralWidget(m_pages);
     addPage(makeBoardPage(log), "board", tr("Board"));
+    addPages();
 
     m_pointer = new QLabel(tr("Move the pointer over the board"));
     statusBar()->addWidget(m_pointer, 1);
     statusBar()->addPermanentWidget(new QLabel(session.directory()));
 
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &MainWindow::refreshUnit);
+    connect(m_pages, &QTabWidget::currentChanged, m_engine, &EnginePane::refresh);
     connect(m_steps, &QTabWidget::currentChanged, this, &MainWindow::showStep);
     connect(m_layers, &LayerTable::layerSelected, this, &MainWindow::showLayer);
     showStep();
@@ -77,6 +85,7 @@ void MainWindow::makeViews(int unit)
     for (Session::Step const & step : m_session.steps()) {
         auto * view = new BoardView(m_session.job(), step.name, unit, this);
         connect(view, &BoardView::pointerMoved, this, &MainWindow::showPointer);
+        connect(view, &BoardView::padPicked, this, &MainWindow::openFeature);
         m_views.push_back(view);
     }
 }
@@ -124,9 +133,58 @@ void MainWindow::makeToolBar()
     m_saveFlag->setCheckable(true);
     m_saveFlag->setToolTip(tr("Makes the engine write what it is told to %1 as well").arg(m_database));
     connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
+    QAction * feature = bar->addAction(tr("Feature"));
+    feature->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
+    connect(feature, &QAction::triggered, this, [this] { openFeature(firstPad()); });
+    auto * language = new QComboBox;
+    language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
+    language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
+    language->setToolTip(tr("Language of the library's texts"));
+    connect(language, QOverload<int>::of(&QComboBox::activated), this,
+            [this, language] { setLanguage(static_cast<LANGUAGE_MODE>(language->currentData().toInt())); });
+    bar->addSeparator();
+    bar->addWidget(language);
     for (auto * button : bar->findChildren<QToolButton *>()) {
         button->setAutoRaise(false);
     }
+}
+
+void MainWindow::addPages()
+{
+    addPage(new SymbolsPage(m_session.job()), "symbols", tr("Symbols"));
+    addPage(new SettingsPage, "settings", tr("Settings"));
+    addPage(new TemplatesPage, "templates", tr("Templates"));
+    addPage(new AttributesPage, "attributes", tr("Attributes"));
+}
+
+FeatureDialog * MainWindow::openFeature(int feature)
+{
+    if (m_feature != nullptr) {
+        m_feature->close();
+        m_feature->deleteLater();
+    }
+    currentView()->markFeature(feature);
+    m_feature = new FeatureDialog(*currentView(), feature, m_session.job(), m_formFile, this);
+    m_feature->restoreForm();
+    m_feature->show();
+    return m_feature;
+}
+
+int MainWindow::firstPad() const
+{
+    for (auto const & feature : currentView()->features()) {
+        PadSymbol const symbol(QString::fromStdString(feature.symbol), 0);
+        if (feature.kind == 'P' && !symbol.width().text.isEmpty()) {
+            return feature.index;
+        }
+    }
+    return -1;
+}
+
+void MainWindow::setLanguage(LANGUAGE_MODE language)
+{
+    setCurrentLanguageMode(language); // for the modules that ask; the next call changes the texts
+    Ext::installTranslation(language);
 }
 
 void MainWindow::addPage(QWidget * page, QString const & name, QString const & title)

@@ -1,23 +1,51 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QString>
 
 namespace Workbench {
 
-/// A pad's symbol name as it was typed or stored, with the unit of its sizes: 0 mil, 1 micrometre. Asking for
-/// the other unit converts what was typed, never what was converted before.
-struct PadSymbol
+/// A length as it was typed or stored: unit 0 mil, 1 micrometre.
+struct PadSize
 {
-    QString name;
+    QString text;
     int unit = 0;
 
+    /// The text in a unit, six significant digits where it has to be converted.
     QString in(int otherUnit) const;
+    qint64 nanometres() const;
 };
 
-/// The first two sizes of a symbol name as they stand there; the second is empty for a family with one size.
-/// False for a name that begins with no family, as a user's own symbols may.
-bool readSizes(QString const & name, QString & width, QString & height);
-/// The name with these sizes in place of its first ones. A name without sizes comes back as it is.
-QString withSizes(QString const & name, QString const & width, QString const & height);
+/// A pad's symbol: its name as it was typed or stored, and its first two sizes, each with the unit it was
+/// typed in. Asking for a unit converts what was typed, never what was converted before, so that no digit
+/// is lost by switching.
+class PadSymbol
+{
+public:
+    PadSymbol() = default;
+    PadSymbol(QString name, int unit);
+
+    QString const & name() const { return m_name; }
+    int unit() const { return m_unit; }
+    /// Empty for a symbol whose name begins with no family that has sizes.
+    PadSize const & width() const { return m_width; }
+    /// Empty for a family with one size, too.
+    PadSize const & height() const { return m_height; }
+    QString in(int otherUnit) const;
+
+    void setWidth(PadSize const & size);
+    void setHeight(PadSize const & size);
+
+    QJsonObject toJson() const;
+    static PadSymbol fromJson(QJsonObject const & json);
+
+private:
+    QString withSizes(QString const & name, int unit) const;
+
+    QString m_name;
+    int m_unit = 0;
+    PadSize m_width;
+    PadSize m_height;
+};
 
 } // namespace Workbench

@@ -7,12 +7,11 @@
 #include <UIAPICommon.h>
 
 #include <QCheckBox>
-#include <QDir>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -116,6 +115,8 @@ SettingsPage::SettingsPage(QWidget * parent) : QWidget(parent)
     m_diagnostics->setWordWrap(true);
     auto * findings = new QGroupBox(tr("What the loaders found"));
     auto * findingsLayout = new QVBoxLayout(findings);
+    m_summary = new QLabel;
+    findingsLayout->addWidget(m_summary);
     findingsLayout->addWidget(m_diagnostics);
 
     auto * layout = new QHBoxLayout(this);
@@ -166,6 +167,8 @@ void SettingsPage::store(Setting const & setting, QVariant const & value)
 void SettingsPage::refreshDiagnostics()
 {
     m_diagnostics->setRowCount(0);
+    m_summary->setText(Ext::diagnostics().empty() ? tr("All files were read; nothing is wrong with them.")
+                                                  : tr("Findings: %1").arg(Ext::diagnostics().size()));
     for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
         addRow(*m_diagnostics,
                {QFileInfo(finding.file).fileName(), finding.key, kindText(finding.kind), finding.text});

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QGridLayout;
+class QLabel;
 class QTableWidget;
 
 namespace Workbench {
@@ -24,6 +25,7 @@ private:
     void store(Setting const & setting, QVariant const & value);
     void refreshDiagnostics();
 
+    QLabel * m_summary;
     QTableWidget * m_diagnostics;
 };
 

@@ -1,8 +1,12 @@
 #include "CommandLine.h"
+#include "ConfigDirectory.h"
 #include "Headless.h"
+#include "JobLoading.h"
 #include "LogPane.h"
 #include "MainWindow.h"
 #include "Session.h"
+
+#include <UIAPICommon.h>
 
 #include <glog/logging.h>
 
@@ -84,9 +88,12 @@ int main(int argc, char ** argv)
     if (!QDir().mkpath(commandLine.output)) {
         return fail("cannot write to \"" + commandLine.output + '"');
     }
-    for (Workbench::Session::Layer & layer : session.layers()) {
-        session.countFeatures(layer);
+    QString const wrongConfiguration = Workbench::enterConfiguration(commandLine.config, commandLine.output);
+    if (!wrongConfiguration.isEmpty()) {
+        return fail(wrongConfiguration);
     }
+    KVCAM::UIAPI::Ext::setKeepBackup(true);
+    Workbench::readLayers(session);
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
               << " step(s) and " << session.layers().size() << " layers";
 
