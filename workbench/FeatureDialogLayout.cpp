@@ -135,6 +135,7 @@ QWidget * FeatureDialog::makeRemarksGroup()
     connect(m_note, &KVTextEdit::LostFocus, this, [this] { saveForm(); });
     m_documents = new QListWidget;
     m_documents->setTextElideMode(Qt::ElideMiddle);
+    m_documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto * attach = new QPushButton(tr("Attach files"));
     attach->setAutoDefault(false);
     connect(attach, &QPushButton::clicked, this, &FeatureDialog::attachFiles);

@@ -117,8 +117,8 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
         camera.take(dialog, shown == 0 ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
     }
     window.setLanguage(LANGUAGE_CHINESE);
+    camera.take(dialog, "feature-dialog-chinese.png"); // which lets the dialog hear of the change
     facts["description in Chinese"] = dialog.description();
-    camera.take(dialog, "feature-dialog-chinese.png");
     window.setLanguage(LANGUAGE_ENGLISH);
     setUnit(view, unit);
     facts["saved"] = dialog.saveForm();
