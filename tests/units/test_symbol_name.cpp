@@ -203,6 +203,17 @@ TEST(SymbolName, DecimalValueIsQtsToDouble)
     EXPECT_TRUE(std::isnan(decimalValue(QStringLiteral("nan"))));
 }
 
+// The quick way over whole numbers must write what Qt writes.
+TEST(SymbolName, SixDigitsAreQtsGeneralForm)
+{
+    for (double value : {0.0, -0.0, 1.0, 10.0, 100000.0, 999999.0, 1000000.0, 999999.5, 999999.4, 0.5, -5.0,
+                         -0.5, 1e-7, 1e300, double(INFINITY), -double(INFINITY), double(NAN), 0.1 + 0.2}) {
+        QString out("r");
+        appendSixDigits(out, value);
+        EXPECT_EQ(out, "r" + QString::number(value, 'g', 6));
+    }
+}
+
 class SymbolViews : public UiapiTest
 {
 protected:
