@@ -3,6 +3,7 @@
 #include "support/NumberRuns.h"
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace KVCAM::UIAPI {
@@ -43,7 +44,20 @@ double decimalValue(QStringView text)
 
 void appendSixDigits(QString & out, double value)
 {
-    out += QString::number(value, 'g', 6);
+    // A whole number of up to six digits is its own general form; sizes often are.
+    constexpr double end = 1e6;
+    if (!(value >= 0 && value < end) || value != std::trunc(value)) {
+        out += QString::number(value, 'g', 6);
+        return;
+    }
+    std::array<QChar, 6> digits;
+    auto first = digits.end();
+    int rest = static_cast<int>(value);
+    do {
+        *--first = QLatin1Char(static_cast<char>('0' + rest % 10));
+        rest /= 10;
+    } while (rest != 0);
+    out.append(&*first, static_cast<int>(digits.end() - first));
 }
 
 } // namespace KVCAM::UIAPI

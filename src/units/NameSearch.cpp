@@ -1,8 +1,11 @@
 #include "units/NameSearch.h"
 
+#include "support/NumberRuns.h"
+
 #include <QRegExp>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace KVCAM::UIAPI::NameSearch {
@@ -12,11 +15,11 @@ constexpr QLatin1Char anyText('*');
 
 bool isAllowed(QChar c)
 {
-    static constexpr QLatin1String marks("_./*");
+    static constexpr std::array marks{'_', '.', '/', '*'};
     bool const isLetter =
         (c >= QLatin1Char('a') && c <= QLatin1Char('z')) || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'));
-    return isLetter || (c >= QLatin1Char('0') && c <= QLatin1Char('9')) ||
-           std::find(marks.begin(), marks.end(), c) != marks.end();
+    return isLetter || isAsciiDigit(c) ||
+           std::any_of(marks.begin(), marks.end(), [c](char mark) { return c == QLatin1Char(mark); });
 }
 
 // "**" says no more than "*", but each star costs the matcher a state.
