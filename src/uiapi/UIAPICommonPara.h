@@ -157,6 +157,27 @@ public:
     /// through what the engine throws.
     void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
 
+    // --- Typed values -------------------------------------------------------------------------------------
+    // A refused value is shown in an information box; a view handle that is a living widget is its parent.
+
+    /// The value of an expression of numbers and "+", "-", "*", "/"; never fails.
+    double caculateData(QString expression) const;
+    /// False exactly when the earlier operator is "+" or "-" and the later one "*" or "/".
+    bool judgeCaculate(QString & earlier, QString & later) const;
+    /// False for an empty text, and with an ERROR line and a box for two non-digits in a row.
+    bool judgeCaculateIsStandard(QString expression) const;
+    /// Whether a value in the view's small unit lies between bounds in mil, which belong to the range.
+    bool isValueLegal(double value, double minimum, double maximum, void const * view) const;
+    /// The same as isValueLegal().
+    bool isValueLegal1(double value, double minimum, double maximum, void const * view) const;
+    /// Whether a plain number lies between its bounds.
+    bool isNumValueLegal(double value, double minimum, double maximum, void const * view) const;
+    /// isValueLegal1() for every number of a symbol name up to the first refused one.
+    bool isSymbolValueLegal(QString name, double minimum, double maximum, void const * view) const;
+    /// Fills `result` with the items that match a wildcard pattern in any case; a pattern that is not allowed
+    /// is logged and leaves it empty.
+    void find_input_items(QList<QString> items, QString pattern, QList<QString> & result) const;
+
     // --- Forms --------------------------------------------------------------------------------------------
 
     /// Adds the values of the named controls to `json`, see the flat function of this name.

@@ -44,7 +44,7 @@ constexpr std::array families{
     family("oval_h", Kind::Simple, QT_TRANSLATE_NOOP("Symbols", "half oval"), 2, {Role::Width, Role::Height}),
     family("el", Kind::Simple, QT_TRANSLATE_NOOP("Symbols", "ellipse"), 2, {Role::Width, Role::Height}),
     family("hole", Kind::Simple, QT_TRANSLATE_NOOP("Symbols", "hole"), 4,
-           {Role::Diameter, Role::Plating, Role::Tolerance, Role::Tolerance2}),
+           {Role::Diameter, Role::Plating, Role::TolerancePlus, Role::ToleranceMinus}),
     family("rect", Kind::Rectangle, QT_TRANSLATE_NOOP("Symbols", "rectangle"), 2,
            {Role::Width, Role::Height, Role::Corner, Role::CornerList}),
     family("thr", Kind::Thermal, QT_TRANSLATE_NOOP("Symbols", "round thermal"), 5,
@@ -110,6 +110,19 @@ static_assert(thermalsHaveSixFields());
 QStringView symbolPrefix(QStringView name)
 {
     return name.left(std::find_if(name.begin(), name.end(), isAsciiDigit) - name.begin());
+}
+
+SymbolParts splitParts(QStringView name)
+{
+    SymbolParts parts;
+    for (;;) {
+        auto const separator = std::find(name.begin(), name.end(), QLatin1Char('x'));
+        parts.append(name.left(separator - name.begin()));
+        if (separator == name.end()) {
+            return parts;
+        }
+        name = name.mid(separator - name.begin() + 1);
+    }
 }
 
 Family const * findFamily(QStringView prefix)

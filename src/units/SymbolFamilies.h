@@ -2,6 +2,7 @@
 
 #include <QLatin1String>
 #include <QStringView>
+#include <QVarLengthArray>
 
 #include <array>
 #include <cstddef>
@@ -35,10 +36,10 @@ enum class FieldRole : int
     RingGap,
     Gap,
     AirGap,
-    Corner,     ///< one character for the kind of corner, then its length
-    CornerCut,  ///< a corner's length alone
-    Tolerance,  ///< the allowance above the nominal size
-    Tolerance2, ///< the allowance below it
+    Corner,    ///< one character for the kind of corner, then its length
+    CornerCut, ///< a corner's length alone
+    TolerancePlus,
+    ToleranceMinus,
     // No lengths from here on: these are copied as text.
     CornerList,
     RingCount,
@@ -46,6 +47,8 @@ enum class FieldRole : int
     Angle,
     Plating
 };
+
+inline constexpr std::size_t fieldRoles = static_cast<std::size_t>(FieldRole::Plating) + 1;
 
 constexpr bool isLength(FieldRole role) noexcept
 {
@@ -66,6 +69,11 @@ struct Family
 
 /// The leading characters of a name up to the first '0' to '9'.
 QStringView symbolPrefix(QStringView name);
+
+using SymbolParts = QVarLengthArray<QStringView, 12>;
+
+/// Splits at every "x"; empty parts are kept.
+SymbolParts splitParts(QStringView name);
 
 /// The family whose prefix this is exactly, case included; null for a user's own symbol.
 Family const * findFamily(QStringView prefix);

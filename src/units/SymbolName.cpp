@@ -7,7 +7,6 @@
 #include "units/UnitConversion.h"
 
 #include <QStringView>
-#include <QVarLengthArray>
 
 #include <algorithm>
 #include <cmath>
@@ -18,8 +17,6 @@ namespace {
 using Units::inch;
 using Units::millimetre;
 using Units::millimetresPerInch;
-
-using Parts = QVarLengthArray<QStringView, 12>;
 
 constexpr QLatin1Char separator('x');
 constexpr std::size_t rewrittenFields = 6; // further fields of a thermal are dropped
@@ -60,20 +57,6 @@ double throughFixedText(double value)
     return QString::number(value, 'f', 3).toDouble();
 }
 
-// Splits at every "x"; empty parts are kept.
-Parts splitParts(QStringView name)
-{
-    Parts parts;
-    for (;;) {
-        qsizetype const at = std::find(name.begin(), name.end(), separator) - name.begin();
-        parts.append(name.left(at));
-        if (at == name.size()) {
-            return parts;
-        }
-        name = name.mid(at + 1);
-    }
-}
-
 void append(QString & out, QStringView text)
 {
     out.append(text.data(), static_cast<int>(text.size()));
@@ -108,8 +91,8 @@ QString rewriteEachRun(QString const & name, Convert const & convert)
 }
 
 template <class Convert>
-QString rewriteRectangle(QString const & name, Parts const & parts, qsizetype prefixLength, bool checked,
-                         Convert const & convert)
+QString rewriteRectangle(QString const & name, SymbolParts const & parts, qsizetype prefixLength,
+                         bool checked, Convert const & convert)
 {
     int const count = parts.size();
     bool const hasCorner = count == 3 || count == 4;
@@ -139,7 +122,7 @@ QString rewriteRectangle(QString const & name, Parts const & parts, qsizetype pr
 // Thermals and moires. Angles and counts are copied. Everything else counts as a plain length, so a corner
 // "r5" in the sixth place, which is no number, becomes 0.
 template <class Convert>
-QString rewriteFields(QString const & name, Family const & family, Parts const & parts,
+QString rewriteFields(QString const & name, Family const & family, SymbolParts const & parts,
                       qsizetype prefixLength, Convert const & convert)
 {
     QString out = startOutput(name);
@@ -172,7 +155,7 @@ QString rewriteByFamily(QString const & name, bool checked, Convert const & conv
     if (family->kind == FamilyKind::Simple) {
         return rewriteEachRun(name, convert);
     }
-    Parts const parts = splitParts(name);
+    SymbolParts const parts = splitParts(name);
     auto const prefixLength = static_cast<qsizetype>(family->prefix.size());
     if (checked && parts[0].size() <= prefixLength) {
         return name;

@@ -93,6 +93,7 @@ TEST(SymbolName, NamesThatFitNoFamilyStay)
                               "rect_a10x20",
                               "rectxx5",
                               "rx5",
+                              "r-10",
                               "thrx5",
                               "ths40x30x45x4",
                               "ths",
