@@ -162,13 +162,6 @@ public:
     /// through what the engine throws.
     void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
 
-    // --- Forms --------------------------------------------------------------------------------------------
-
-    /// Adds the values of the named controls to `json`, see the flat function of this name.
-    void readListToJson(QList<QObject *> widgets, QJsonObject & json) const;
-    /// Puts the members of `json` back into the controls of their names.
-    void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
-
     // --- Typed values -------------------------------------------------------------------------------------
     // A refused value is shown in an information box; a view handle that is a living widget is its parent.
 
@@ -189,6 +182,13 @@ public:
     /// Fills `result` with the items that match a wildcard pattern in any case; a pattern that is not allowed
     /// is logged and leaves it empty.
     void find_input_items(QList<QString> items, QString pattern, QList<QString> & result) const;
+
+    // --- Forms --------------------------------------------------------------------------------------------
+
+    /// Adds the values of the named controls to `json`, see the flat function of this name.
+    void readListToJson(QList<QObject *> widgets, QJsonObject & json) const;
+    /// Puts the members of `json` back into the controls of their names.
+    void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
 private:
     UIAPICommonPara();

@@ -54,31 +54,26 @@ void KVLineEdit::on_textchanged(QString const & text)
     if (d->isChanging) {
         return;
     }
-    switch (d->tracking()) {
-    case UnitTracking::Number: {
+    UnitTracking const tracking = d->tracking();
+    if (tracking == UnitTracking::None) {
+        return;
+    }
+    d->typedUnit = getUnit(d->owner);
+    d->shownUnit = d->typedUnit;
+    bool const inch = d->typedUnit == Units::inch;
+    if (tracking == UnitTracking::Number) {
         double const value = text.toDouble();
-        d->typedUnit = d->shownUnit = getUnit(d->owner);
-        if (d->typedUnit == Units::inch) {
+        if (inch) {
             d->inchNumber = text;
             d->metricNumber = QString::number(value * Units::millimetresPerInch, 'g', 6);
         } else {
             d->metricNumber = text;
             d->inchNumber = QString::number(value / Units::millimetresPerInch, 'g', 6);
         }
-        break;
+        return;
     }
-    case UnitTracking::Symbol:
-        if (getUnit(d->owner) == Units::inch) {
-            d->inchSymbol = text;
-            d->metricSymbol.clear();
-        } else {
-            d->metricSymbol = text;
-            d->inchSymbol.clear();
-        }
-        break;
-    case UnitTracking::None:
-        break;
-    }
+    (inch ? d->inchSymbol : d->metricSymbol) = text;
+    (inch ? d->metricSymbol : d->inchSymbol).clear();
 }
 
 void KVLineEdit::changeunit(int const & unit)

@@ -9,6 +9,10 @@
 
 namespace KVCAM::UIAPI {
 
+namespace Ext {
+struct ValueVerdict;
+}
+
 /// What a KVLineEdit accepts. Any other number is a kind that accepts nothing typed.
 enum KVERegExp : int
 {
@@ -78,11 +82,14 @@ public:
     LengthScale lengthScale() const;
     void setLengthScale(LengthScale scale);
 
-    /// From now on the number (kinds 1, 2 and 3; another kind is never judged) is checked at every edit as
-    /// isValueLegal() would, but without a box: the bounds are mil. With lengthScale() Large the field's
-    /// inches or millimetres are taken for what they are. A number typed in one unit keeps its verdict
-    /// through a switch. The verdict is told by validityChanged() and by the dynamic property "uiapiValid"
-    /// (bool), which style sheets can select on: [uiapiValid="false"].
+    /// From now on what is typed is checked at every edit as isValueLegal() would, but without a box: bounds
+    /// in mil, nothing but the numbers counts, and a text that is no number is 0. With lengthScale() Large
+    /// inches and millimetres are taken for what they are. A symbol name (kinds 7 to 9) is checked as by
+    /// isSymbolValueLegal(); an expression is evaluated, and a malformed one is not legal; any other kind is
+    /// always legal. A number or name keeps its verdict through a unit switch; an expression, whose text
+    /// stays, is judged anew.
+    /// The verdict is told by validityChanged() and by the dynamic property "uiapiValid" (bool), which style
+    /// sheets can select on: [uiapiValid="false"].
     void setRange(double minimum, double maximum);
     /// Ends the checks and removes the property.
     void clearRange();
@@ -112,7 +119,10 @@ private:
 
     void insertLimit();
     void restrictTo(KVERegExp kind);
+    QString typedText() const;
     std::optional<Quantity> quantity() const;
+    QString rangeWords(int unit) const;
+    Ext::ValueVerdict verdict() const;
     void judge();
     void explainRefusal();
 

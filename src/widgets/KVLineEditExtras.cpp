@@ -2,7 +2,11 @@
 
 #include "support/Narrowing.h"
 #include "uiapi/Notifier.h"
+#include "uiapi/flat/Arithmetic.h"
 #include "uiapi/flat/ShowParameters.h"
+#include "units/Expression.h"
+#include "units/ValueCheck.h"
+#include "units/ValueLegality.h"
 #include "widgets/KVLineEdit.h"
 #include "widgets/KVLineEditPrivate.h"
 
@@ -21,13 +25,25 @@ constexpr double smallPerLarge = 1000.0; // mil in an inch, micrometres in a mil
 
 } // namespace
 
+// The tracked text that was typed, not computed.
+QString KVLineEdit::typedText() const
+{
+    bool const inch = d->typedUnit == Units::inch;
+    if (d->tracking() == UnitTracking::Symbol) {
+        return inch ? d->inchSymbol : d->metricSymbol;
+    }
+    return inch ? d->inchNumber : d->metricNumber;
+}
+
 // The number that counts and the unit it is in. A tracked number was typed in one unit, whichever is shown;
 // an expression's text stays through a switch, so it means what the view's unit makes of it.
 std::optional<KVLineEdit::Quantity> KVLineEdit::quantity() const
 {
     if (d->tracking() == UnitTracking::Number) {
-        QString const & typed = d->typedUnit == Units::inch ? d->inchNumber : d->metricNumber;
-        return Quantity{typed.toDouble(), d->typedUnit};
+        return Quantity{typedText().toDouble(), d->typedUnit};
+    }
+    if (d->kind == RegExpression) {
+        return Quantity{caculateData(text()), getUnit(d->owner)};
     }
     return std::nullopt;
 }
@@ -83,7 +99,63 @@ void KVLineEdit::clearRange()
     judge();
 }
 
-void KVLineEdit::judge() {}
+// The words of an illegal value: the bounds in the unit shown, at the scale of the field.
+QString KVLineEdit::rangeWords(int unit) const
+{
+    bool const isLarge = d->scale == Large && d->tracking() != UnitTracking::Symbol;
+    double const scale = isLarge ? smallPerLarge : 1.0;
+    int const decimals = isLarge ? 5 : 2;
+    return ValueLegality::lengthMessage(Units::milText(unit, d->range->minimum / scale, decimals),
+                                        Units::milText(unit, d->range->maximum / scale, decimals));
+}
+
+// What was typed is judged in its own unit, so that rounding in the other one never turns a verdict.
+Ext::ValueVerdict KVLineEdit::verdict() const
+{
+    Ext::ValueVerdict verdict;
+    if (!d->range) {
+        return verdict;
+    }
+    auto const [minimum, maximum] = *d->range;
+    if (d->tracking() == UnitTracking::Symbol) {
+        verdict = Ext::checkSymbol(typedText(), minimum, maximum, d->typedUnit);
+    } else if (auto const held = quantity()) {
+        if (d->kind == RegExpression && Expression::formOf(text()) == Expression::Form::NonDigitPair) {
+            return {false, QObject::tr("CaculateData ERROR")};
+        }
+        double const value = d->scale == Large ? held->value * smallPerLarge : held->value;
+        verdict = Ext::checkValue(value, minimum, maximum, held->unit);
+    }
+    if (!verdict.legal) {
+        bool const isShownUnitKnown = d->kind != RegExpression && d->shownUnit;
+        verdict.text = rangeWords(isShownUnitKnown ? *d->shownUnit : getUnit(d->owner));
+    }
+    return verdict;
+}
+
+void KVLineEdit::judge()
+{
+    if (!d->range && !d->isMarked) {
+        return;
+    }
+    Ext::ValueVerdict const now = verdict();
+    bool const isOther = now.legal != d->verdict.legal;
+    bool const isNews = isOther || now.text != d->verdict.text;
+    bool const isMarked = d->range.has_value();
+    bool const isPropertyStale = isOther || isMarked != d->isMarked;
+    d->verdict = now;
+    d->isMarked = isMarked;
+    if (isPropertyStale) {
+        setProperty(validProperty, isMarked ? QVariant(now.legal) : QVariant());
+        // A style sheet looks at a property only when the widget is polished.
+        style()->unpolish(this);
+        style()->polish(this);
+        update();
+    }
+    if (isNews) {
+        emit validityChanged(now.legal, now.text);
+    }
+}
 
 bool KVLineEdit::followView() const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "units/UnitConversion.h"
+#include "units/ValueCheck.h"
 #include "widgets/KVInputKinds.h"
 #include "widgets/KVLineEdit.h"
 
@@ -35,12 +36,12 @@ struct KVLineEdit::Private
         double minimum;
         double maximum;
     };
-    int typedUnit = Units::inch; // of the number last typed
-    int shownUnit = Units::inch;
+    int typedUnit = Units::inch;  // of what was typed last
+    std::optional<int> shownUnit; // unknown until a text is recorded or a unit is asked for
     LengthScale scale = Small;
     std::optional<Range> range;
-    bool isLegal = true;
-    QString verdictText;
+    Ext::ValueVerdict verdict; // as told last
+    bool isMarked = false;     // the dynamic property is set
     QMetaObject::Connection judging;
     QMetaObject::Connection following;
     QMetaObject::Connection refusals;
