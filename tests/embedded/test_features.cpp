@@ -97,6 +97,7 @@ TEST_F(FeaturesTest, DamageNamesFileAndLineAndLoadsNothing)
                  "6: \"P\" is out of place in the surface of line 3"},
              Row{good + "S P 0\nOB 0 0 J\n", "4: bad kind of contour \"J\""},
              Row{good + "$0 r11\n", "3: the table index stands twice"},
+             Row{good + "\x1b[2J\xff 0", "3: unknown record \"?[2J\xef\xbf\xbd\""},
              Row{good + "$1\n", "3: bad symbol name \"\""},
              Row{good + "$1 r10 Q\n", "3: bad symbol name \"r10 Q\""},
              Row{good + "@-1 .smd\n", "3: negative table index"},

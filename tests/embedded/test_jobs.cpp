@@ -76,8 +76,8 @@ TEST(SampleJobTest, IsReadWhole)
             tools.insert(tool.type + ' ' + std::to_string(std::lround(tool.finishSize)));
         }
     }
-    EXPECT_EQ(tools, (std::set<std::string>{"non_plated 1000", "non_plated 3200", "plated 1000",
-                                            "plated 1500", "plated 800", "plated 900", "via 300"}));
+    EXPECT_EQ(tools, (std::set<std::string>{"non_plated 1000", "non_plated 3200", "plated 1000", "plated 800",
+                                            "plated 900", "via 300"}));
 }
 
 TEST(SampleJobTest, EverySymbolIsIdentified)

@@ -61,7 +61,7 @@ TEST_F(MatrixTest, DamageNamesFileAndLineAndLoadsNothing)
                  "10: POLARITY=POS is neither POSITIVE nor NEGATIVE"},
              Row{good + layer(1, "TOP").replace("OLD_NAME=", "NAME=TOP"),
                  "11: NAME stands twice in one block"},
-             Row{good + layer(1, "TOP") + layer(2, "top"), "16: NAME=top stands twice"},
+             Row{good + layer(1, "TOP") + layer(2, "top"), "17: NAME=top stands twice"},
              Row{good + layer(1, "TOP") + layer(1, "BOTTOM"), "14: ROW=1 stands twice"},
              Row{good + step(2, "pcb"), "7: NAME=pcb stands twice"},
              Row{good + layer(1, "../TOP"), "9: the name \"../TOP\" cannot be used as a folder"},
