@@ -19,67 +19,54 @@ constexpr char const * hasParamKey = "hasParam";
 constexpr char const * unitKey = "unit";
 constexpr char const * offeredKey = "ProAttribute";
 
-// A member, checked. Counts those that are there.
-class Members
+// Entries that are no texts become empty ones.
+std::vector<std::string> textsOf(QJsonValue const & value, JsonPlace const & place,
+                                 FileDiagnostics const & diagnostics)
 {
-public:
-    Members(QJsonObject const & object, JsonPlace const & place, FileDiagnostics const & diagnostics)
-        : m_object(object), m_place(place), m_diagnostics(diagnostics)
-    {}
-    QJsonValue value(char const * key)
-    {
-        QJsonValue const value = m_object.value(QLatin1String(key));
-        m_found += value.isUndefined() ? 0 : 1;
-        return value;
+    QJsonArray const array = value.toArray();
+    std::vector<std::string> out;
+    out.reserve(static_cast<std::size_t>(array.size()));
+    for (int i = 0; i < array.size(); ++i) {
+        QJsonValue const entry = array.at(i);
+        diagnostics.checkType(entry, QJsonValue::String, place, offeredKey);
+        out.push_back(ConfigFiles::textOf(entry));
     }
-    std::string text(char const * key)
-    {
-        QJsonValue const found = value(key);
-        m_diagnostics.checkType(found, QJsonValue::String, m_place, key);
-        return found.toString().toStdString();
-    }
-    int integer(char const * key)
-    {
-        QJsonValue const found = value(key);
-        m_diagnostics.checkInt(found, m_place, key);
-        return found.toInt(0);
-    }
-    // Entries that are no texts become empty ones.
-    std::vector<std::string> texts(char const * key)
-    {
-        QJsonValue const found = value(key);
-        m_diagnostics.checkType(found, QJsonValue::Array, m_place, key);
-        QJsonArray const array = found.toArray();
-        std::vector<std::string> out;
-        out.reserve(static_cast<std::size_t>(array.size()));
-        for (QJsonValue const entry : array) {
-            m_diagnostics.checkType(entry, QJsonValue::String, m_place, key);
-            out.push_back(entry.toString().toStdString());
-        }
-        return out;
-    }
-    int found() const { return m_found; }
+    return out;
+}
 
-private:
-    QJsonObject const & m_object;
-    JsonPlace const & m_place;
-    FileDiagnostics const & m_diagnostics;
-    int m_found = 0;
-};
-
+// The members are walked rather than looked up: that is faster where there are thousands of elements, and
+// what is unknown turns up by itself.
 void readAttribute(QJsonObject const & object, JsonPlace const & place, FileDiagnostics const & diagnostics,
                    AttributeMap & out)
 {
-    Members members(object, place, diagnostics);
-    std::string name = members.text(nameKey);
-    if (members.found() == 0) {
+    std::string name;
+    int hasParam = 0;
+    int unit = 0;
+    std::vector<std::string> offered;
+    bool isNamed = false;
+    for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
+        QString const key = member.key();
+        QJsonValue const value = member.value();
+        if (key == QLatin1String(nameKey)) {
+            isNamed = true;
+            diagnostics.checkType(value, QJsonValue::String, place, nameKey);
+            name = ConfigFiles::textOf(value);
+        } else if (key == QLatin1String(hasParamKey)) {
+            diagnostics.checkInt(value, place, hasParamKey);
+            hasParam = value.toInt(0);
+        } else if (key == QLatin1String(unitKey)) {
+            diagnostics.checkInt(value, place, unitKey);
+            unit = value.toInt(0);
+        } else if (key == QLatin1String(offeredKey)) {
+            diagnostics.checkType(value, QJsonValue::Array, place, offeredKey);
+            offered = textsOf(value, place, diagnostics);
+        } else {
+            diagnostics.unknownKey(place, key);
+        }
+    }
+    if (!isNamed) {
         diagnostics.missingKey(place, nameKey);
     }
-    int const hasParam = members.integer(hasParamKey);
-    int const unit = members.integer(unitKey);
-    std::vector<std::string> offered = members.texts(offeredKey);
-    diagnostics.checkKeys(object, members.found(), {nameKey, hasParamKey, unitKey, offeredKey}, place);
-
     auto const [entry, isNew] =
         out.insert_or_assign(std::move(name), std::make_tuple(hasParam, unit, std::move(offered)));
     if (!isNew) {

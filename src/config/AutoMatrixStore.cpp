@@ -42,22 +42,17 @@ using RoleText = std::string AutoMatrixTmp::*Ext::AutoMatrixRole::*;
 void readRoles(QJsonObject const & object, RoleText side, AutoMatrixTmp & out, JsonPlace const & place,
                FileDiagnostics const & diagnostics)
 {
-    int found = 0;
-    for (Ext::AutoMatrixRole const & role : Ext::autoMatrixRoles) {
-        QJsonValue const value = object.value(QLatin1String(role.key));
-        found += value.isUndefined() ? 0 : 1;
-        diagnostics.checkType(value, QJsonValue::String, place, role.key);
-        out.*(role.*side) = value.toString().toStdString();
-    }
-    if (found == object.size()) {
-        return;
-    }
-    QStringList const keys = object.keys();
-    for (QString const & key : keys) {
-        if (std::none_of(Ext::autoMatrixRoles.begin(), Ext::autoMatrixRoles.end(),
-                         [&](auto const & role) { return key == QLatin1String(role.key); })) {
+    for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
+        QString const key = member.key();
+        auto const role = std::find_if(Ext::autoMatrixRoles.begin(), Ext::autoMatrixRoles.end(),
+                                       [&](auto const & entry) { return key == QLatin1String(entry.key); });
+        if (role == Ext::autoMatrixRoles.end()) {
             diagnostics.unknownKey(place, key);
+            continue;
         }
+        QJsonValue const value = member.value();
+        diagnostics.checkType(value, QJsonValue::String, place, role->key);
+        out.*((*role).*side) = ConfigFiles::textOf(value);
     }
 }
 
@@ -89,7 +84,7 @@ bool readTemplate(QJsonValue const & element, int position, FileDiagnostics cons
     QJsonValue const name = object.value(QLatin1String(nameKey));
     diagnostics.checkType(name, QJsonValue::String, place, nameKey);
     diagnostics.checkKeys(object, name.isUndefined() ? 2 : 3, {nameKey, prefixKey, suffixKey}, place);
-    out.name = name.toString().toStdString();
+    out.name = ConfigFiles::textOf(name);
     readRoles(prefixes.toObject(), &Ext::AutoMatrixRole::prefix, out, {arrayKey, position, prefixKey},
               diagnostics);
     readRoles(suffixes.toObject(), &Ext::AutoMatrixRole::suffix, out, {arrayKey, position, suffixKey},

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <functional>
 #include <set>
 
 namespace KVCAM::UIAPI {
@@ -13,16 +14,10 @@ namespace {
 
 constexpr char const * nameKey = "FlowName";
 
-struct FoundName
-{
-    JsonPlace place;
-    QJsonValue value; // undefined where the element has none
-};
+using Take = std::function<void(QJsonValue const &, JsonPlace const &)>;
 
-std::vector<FoundName> findNames(QJsonDocument const & document, FileDiagnostics const & diagnostics)
+void readElements(QJsonArray const & elements, FileDiagnostics const & diagnostics, Take const & take)
 {
-    std::vector<FoundName> found;
-    QJsonArray const elements = document.array();
     for (int i = 0; i < elements.size(); ++i) {
         JsonPlace const place{"", i};
         QJsonValue const element = elements.at(i);
@@ -35,22 +30,22 @@ std::vector<FoundName> findNames(QJsonDocument const & document, FileDiagnostics
             diagnostics.missingKey(place, nameKey);
         }
         diagnostics.checkKeys(object, name.isUndefined() ? 0 : 1, {nameKey}, place);
-        found.push_back({{"", i, nameKey}, name});
+        take(name, {"", i, nameKey});
     }
-    if (document.isObject()) {
-        QJsonObject const object = document.object();
-        QJsonValue const names = object.value(QLatin1String(nameKey));
-        if (names.isUndefined()) {
-            diagnostics.missingKey({}, nameKey);
-        }
-        diagnostics.checkType(names, QJsonValue::Array, {}, nameKey);
-        diagnostics.checkKeys(object, names.isUndefined() ? 0 : 1, {nameKey}, {});
-        QJsonArray const array = names.toArray();
-        for (int i = 0; i < array.size(); ++i) {
-            found.push_back({{nameKey, i}, array.at(i)});
-        }
+}
+
+void readList(QJsonObject const & object, FileDiagnostics const & diagnostics, Take const & take)
+{
+    QJsonValue const names = object.value(QLatin1String(nameKey));
+    if (names.isUndefined()) {
+        diagnostics.missingKey({}, nameKey);
     }
-    return found;
+    diagnostics.checkType(names, QJsonValue::Array, {}, nameKey);
+    diagnostics.checkKeys(object, names.isUndefined() ? 0 : 1, {nameKey}, {});
+    QJsonArray const array = names.toArray();
+    for (int i = 0; i < array.size(); ++i) {
+        take(array.at(i), {nameKey, i});
+    }
 }
 
 } // namespace
@@ -62,23 +57,27 @@ void CamMateNodes::getCamMateNodesFromJson()
 
 void CamMateNodes::readCamMateNodesFromJson(QString const & path)
 {
-    JsonFile::ReadResult const result =
-        ConfigFiles::load(path, {nullptr, ConfigFiles::parseFailed}, path.toStdString());
+    JsonFile::ReadResult const result = ConfigFiles::load(path, {nullptr, ConfigFiles::parseFailed}, path);
     if (result.status != JsonFile::ReadStatus::Ok) {
         return;
     }
     FileDiagnostics const diagnostics(path);
-    std::set<QString> seen;
-    for (FoundName const & found : findNames(result.document, diagnostics)) {
-        if (!diagnostics.checkType(found.value, QJsonValue::String, found.place) || !found.value.isString()) {
-            continue;
+    std::set<std::string> seen;
+    auto const take = [&](QJsonValue const & value, JsonPlace const & place) {
+        diagnostics.checkType(value, QJsonValue::String, place);
+        if (!value.isString()) {
+            return;
         }
-        QString const name = found.value.toString();
-        m_names.push_back(name.toStdString());
-        if (!seen.insert(name).second) {
-            diagnostics.report(Ext::DiagnosticKind::DuplicateElement, found.place.key(),
-                               QStringLiteral("\"%1\" is listed already.").arg(name));
+        m_names.push_back(ConfigFiles::textOf(value));
+        if (!seen.insert(m_names.back()).second) {
+            diagnostics.report(Ext::DiagnosticKind::DuplicateElement, place.key(),
+                               QStringLiteral("\"%1\" is listed already.").arg(value.toString()));
         }
+    };
+    if (result.document.isArray()) {
+        readElements(result.document.array(), diagnostics, take);
+    } else {
+        readList(result.document.object(), diagnostics, take);
     }
 }
 

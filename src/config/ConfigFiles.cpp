@@ -2,19 +2,21 @@
 
 #include "support/Log.h"
 
+#include <algorithm>
+
 namespace KVCAM::UIAPI::ConfigFiles {
 namespace {
 
 using JsonFile::ReadStatus;
 
-void logLine(char const * text, std::string const & shown)
+void logLine(char const * text, QString const & shown)
 {
     if (text != nullptr) {
-        Log::error(Log::globalVar, text + shown);
+        Log::error(Log::globalVar, text + shown.toStdString());
     }
 }
 
-void log(ReadStatus status, LoadTexts const & texts, std::string const & shown, bool allSteps)
+void log(ReadStatus status, LoadTexts const & texts, QString const & shown, bool allSteps)
 {
     if (status == ReadStatus::Missing) {
         logLine(texts.missing, shown);
@@ -52,8 +54,8 @@ void diagnose(JsonFile::ReadResult const & result, FileDiagnostics const & diagn
 
 char const * const parseFailed = "解析config json文件错误！路径：";
 
-JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, std::string const & shown,
-                          Steps steps, QIODevice::OpenMode extra)
+JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown, Steps steps,
+                          QIODevice::OpenMode extra)
 {
     JsonFile::ReadResult result = JsonFile::read(path, extra);
     log(result.status, texts, shown, steps == Steps::All);
@@ -64,7 +66,7 @@ JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, std::st
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra)
 {
-    JsonFile::ReadResult const result = load(path, texts, path.toStdString(), Steps::FirstFailure, extra);
+    JsonFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra);
     if (result.status != ReadStatus::Ok || !diagnostics.checkTop(result.document.isObject(), "an object")) {
         return {};
     }
@@ -76,6 +78,18 @@ QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const *
     diagnostics.checkType(list, QJsonValue::Array, {}, key);
     diagnostics.checkKeys(top, list.isUndefined() ? 0 : 1, {key}, {});
     return list.toArray();
+}
+
+std::string textOf(QJsonValue const & value)
+{
+    QString const text = value.toString();
+    if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x80; })) {
+        return text.toStdString();
+    }
+    // Nearly every text is ASCII; this saves the byte array in between, which shows in the time of a start.
+    std::string out(static_cast<std::size_t>(text.size()), '\0');
+    std::transform(text.cbegin(), text.cend(), out.begin(), [](QChar c) { return c.toLatin1(); });
+    return out;
 }
 
 } // namespace KVCAM::UIAPI::ConfigFiles

@@ -30,12 +30,15 @@ enum class Steps
 
 /// Reads a file and reports failures: ERROR lines under "UIAPIGlobalVar", each with `shown` at its end, and
 /// one finding.
-JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, std::string const & shown,
+JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown,
                           Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {});
 
 /// Loads a file whose top-level object has one member, the array `key`. Empty when the file cannot be read,
 /// which is reported as by load() with the path shown, and, without a log line, when it is shaped otherwise.
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra = {});
+
+/// The text of a value as UTF-8; empty for a value of another type.
+std::string textOf(QJsonValue const & value);
 
 } // namespace KVCAM::UIAPI::ConfigFiles

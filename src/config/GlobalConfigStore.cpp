@@ -16,9 +16,9 @@ namespace {
 
 constexpr ConfigFiles::LoadTexts texts = {"config json文件不存在！路径：", "config json文件打开失败!路径："};
 
-QString filePath(std::string const & directory)
+QString filePath(QString const & directory)
 {
-    return QString::fromStdString(directory) + QStringLiteral("server.json");
+    return directory + QStringLiteral("server.json");
 }
 
 } // namespace
@@ -31,10 +31,11 @@ void GlobalConfigStore::getGlobalConfig()
 void GlobalConfigStore::load()
 {
     m_loadFailed = true; // until it is seen to be otherwise
-    m_directory = HostPaths::configurationDirectory().toStdString();
-    QString const path = filePath(m_directory);
+    QString const directory = HostPaths::configurationDirectory();
+    m_directory = directory.toStdString();
+    QString const path = filePath(directory);
     JsonFile::ReadResult const result =
-        ConfigFiles::load(path, texts, m_directory, ConfigFiles::Steps::All, QIODevice::Text);
+        ConfigFiles::load(path, texts, directory, ConfigFiles::Steps::All, QIODevice::Text);
     m_loadFailed = result.status != JsonFile::ReadStatus::Ok;
     m_settings = readServerSettings(result.document);
     if (!m_loadFailed) {
@@ -55,7 +56,7 @@ void GlobalConfigStore::saveGlobalConfig()
         }
         return;
     }
-    QString const path = filePath(m_directory);
+    QString const path = filePath(directory);
     if (!std::exchange(m_saved, true) && keepsBackup()) {
         keepBackup(path);
     }

@@ -105,12 +105,18 @@ void diagnoseServerSettings(QJsonDocument const & document, FileDiagnostics cons
         return;
     }
     QJsonObject const object = document.object();
+    int found = 0;
     for (SettingField const & field : settingFields) {
         QJsonValue const value = object.value(QLatin1String(field.readKey));
         if (value.isUndefined()) {
             diagnostics.missingKey({}, field.readKey);
+        } else {
+            ++found;
         }
         std::visit([&](auto member) { check(value, member, field.readKey, diagnostics); }, field.member);
+    }
+    if (object.size() == found) {
+        return;
     }
     QStringList const keys = object.keys();
     for (QString const & key : keys) {

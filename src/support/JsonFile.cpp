@@ -10,12 +10,8 @@ ReadResult read(QString const & path, QIODevice::OpenMode extra)
 {
     ReadResult result;
     QFile file(path);
-    if (!file.exists()) {
-        result.status = ReadStatus::Missing;
-        return result;
-    }
     if (!file.open(QIODevice::ReadOnly | extra)) {
-        result.status = ReadStatus::OpenFailed;
+        result.status = file.exists() ? ReadStatus::OpenFailed : ReadStatus::Missing;
         return result;
     }
     QJsonParseError error;
