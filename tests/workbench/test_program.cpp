@@ -120,10 +120,53 @@ TEST(Workbench, WithoutTheSaveFlagNoDatabaseIsWritten)
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite"));
 }
 
+TEST(Workbench, TheFormComesBackOnTheSecondRunInItsOwnUnit)
+{
+    QJsonObject const first = runSample({"--unit", "mm"}).facts["feature"].toObject();
+    EXPECT_FALSE(first["restored"].toBool());
+    EXPECT_EQ(first["width"].toString(), "317.5"); // 254+63.5
+    EXPECT_EQ(first["width after 100 switches"], first["width"]);
+    EXPECT_EQ(first["width in nm"].toDouble(), 317500);
+    EXPECT_TRUE(first["refused"].toString().endsWith("(12.70, 25400.00)"));
+
+    QJsonObject const second = runSample({"--unit", "inch"}).facts["feature"].toObject();
+    EXPECT_TRUE(second["restored"].toBool());
+    for (char const * key : {"width", "symbol in mil", "symbol in my", "description"}) {
+        EXPECT_EQ(second[key], first[key]) << key;
+    }
+}
+
+TEST(Workbench, ARefusedValueIsToldInOneBox)
+{
+    QJsonArray const boxes = runSample().facts["boxes"].toArray();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].toString(),
+              "Illegal float value\nfloating value for field is out of range: (0.5, 1000)");
+}
+
+TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
+{
+    QDir().mkpath("site/settings");
+    QFile file("site/settings/server.json");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"ThreadCount": 6, "Colour": "blue"})");
+    file.close();
+    QJsonObject const facts = runSample({"--config", "site/settings"}).facts["configuration"].toObject();
+    EXPECT_EQ(facts["threads"].toInt(), 6);
+    QStringList keys;
+    for (auto const & finding : facts["findings"].toArray()) {
+        keys.append(finding.toObject()["key"].toString());
+    }
+    EXPECT_TRUE(keys.contains("Colour")) << keys.join(' ').toStdString();
+    EXPECT_FALSE(QDir("out/workbench-session").exists());
+
+    EXPECT_EQ(run({sampleJob(), "--headless", "--config", "nowhere"}).exitCode, 2);
+}
+
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    ASSERT_FALSE(pictures.isEmpty());
+    EXPECT_EQ(pictures.size(), 8);
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
