@@ -63,8 +63,6 @@ void FeatureDialog::followView()
         field->setFollowView(true);
         field->setRefusalHints(true);
     }
-    m_width->setRange(smallestMil, largestMil);
-    m_height->setRange(smallestMil, largestMil);
     connect(m_name, &QLineEdit::textChanged, this, &FeatureDialog::symbolEdited);
     connect(m_width, &QLineEdit::textChanged, this, &FeatureDialog::sizeEdited);
     connect(m_height, &QLineEdit::textChanged, this, &FeatureDialog::sizeEdited);
@@ -115,8 +113,15 @@ void FeatureDialog::showSymbol()
     m_name->setCursorPosition(cursor);
     m_width->setText(m_symbol.width().in(m_shownUnit));
     m_height->setText(m_symbol.height().in(m_shownUnit));
-    m_width->setEnabled(!m_symbol.width().text.isEmpty());
-    m_height->setEnabled(!m_symbol.height().text.isEmpty());
+    for (auto const & [field, size] :
+         {std::pair(m_width, m_symbol.width()), std::pair(m_height, m_symbol.height())}) {
+        field->setEnabled(!size.text.isEmpty());
+        if (field->isEnabled()) {
+            field->setRange(smallestMil, largestMil);
+        } else {
+            field->clearRange(); // a size that the symbol does not have is not judged
+        }
+    }
     m_isFilling = false;
     showFacts();
 }

@@ -10,6 +10,7 @@ namespace Workbench {
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
     prepareTable(*this, {tr("Row"), tr("Name"), tr("Context"), tr("Type"), tr("Polarity"), tr("Features")});
+    setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {

@@ -111,7 +111,7 @@ QWidget * MainWindow::makeBoardPage(LogLines const & log)
     sides->addWidget(middle);
     sides->addWidget(titled(tr("What the engine was told"), m_engine));
     sides->setStretchFactor(1, 1);
-    sides->setSizes({600, 560, 280});
+    sides->setSizes({680, 490, 270});
 
     auto * page = new QSplitter(Qt::Vertical);
     page->addWidget(sides);

@@ -4,6 +4,7 @@
 
 #include <UIAPICommon.h>
 
+#include <QHeaderView>
 #include <QJsonObject>
 #include <QVBoxLayout>
 
@@ -59,16 +60,23 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
 
 SymbolsPage::SymbolsPage(std::string const & job, QWidget * parent) : QWidget(parent)
 {
-    auto * table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
-                              tr("Features"), tr("Description")});
+    m_table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
+                         tr("Features"), tr("Description")});
+    m_table->horizontalHeader()->setMaximumSectionSize(320);
     for (SymbolRow const & row : symbolRows(job)) {
-        addRow(*table,
+        addRow(*m_table,
                {row.stored, row.unit == 0 ? tr("mil") : tr("my"), row.inch, row.metric,
                 QString::number(row.features), row.description},
                {4});
     }
     auto * layout = new QVBoxLayout(this);
-    layout->addWidget(table);
+    layout->addWidget(m_table);
+}
+
+void SymbolsPage::resizeEvent(QResizeEvent * event)
+{
+    QWidget::resizeEvent(event);
+    m_table->resizeRowsToContents(); // descriptions wrap at the width of their column
 }
 
 } // namespace Workbench
