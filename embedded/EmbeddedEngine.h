@@ -30,8 +30,21 @@ struct LiveState
     API::select_info select;
     int threadCount = 0;
     API::back_layer_name_info backup;
+    /// The number of the latest of these changes. It is counted together with the rows of the database file,
+    /// so that a row written before a change has the lower number.
+    long long sequence = 0;
 };
 KVCAM_API_EXPORT LiveState liveState();
+
+/// A command that the host's plug-in manager was given.
+struct PluginCommand
+{
+    std::string module;
+    int command = 0;
+    std::string key;
+};
+/// The latest 100 of them, oldest first; the default host has no plug-in modules to hand them to.
+KVCAM_API_EXPORT std::vector<PluginCommand> pluginCommands();
 
 /// The folders whose sub-folders open_job() was asked for, and the jobs that are open, in order of opening.
 KVCAM_API_EXPORT std::vector<std::string> openJobs();

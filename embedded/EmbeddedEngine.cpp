@@ -1,0 +1,188 @@
+#include "EmbeddedEngine.h"
+
+#include "EngineState.h"
+#include "JobPaths.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <utility>
+
+namespace KVCAM::Embedded {
+namespace {
+
+// Counts the symbols of a layer's table into `uses`, which has one entry for each name and unit.
+void addSymbols(LayerGraphics const & graphics, std::vector<SymbolUse> & uses)
+{
+    std::map<std::pair<std::string, int>, std::size_t> known;
+    for (std::size_t i = 0; i < uses.size(); ++i) {
+        known.emplace(std::pair(uses[i].name, uses[i].unit), i);
+    }
+    std::map<int, std::size_t> byIndex;
+    for (auto const & [index, symbol] : graphics.file.symbols) {
+        auto const [place, added] = known.emplace(std::pair(symbol.name, symbol.unit), uses.size());
+        if (added) {
+            uses.push_back({symbol.name, symbol.unit, 0});
+        }
+        byIndex[index] = place->second;
+    }
+    for (std::size_t i = 0; i < graphics.deleted.size(); ++i) {
+        if (Feature const & feature = graphics.file.features[i];
+            !graphics.deleted[i] && feature.symbol >= 0) {
+            ++uses[byIndex.at(feature.symbol)].features;
+        }
+    }
+}
+
+} // namespace
+
+std::string lastError()
+{
+    return EngineState::get().lastError;
+}
+
+bool setSaveFlag(bool on)
+{
+    return answered(false, [on](EngineState & state) {
+        if (!on) {
+            state.database.close();
+        } else if (!state.database.isOpen()) {
+            state.openDatabase();
+        }
+        return true;
+    });
+}
+
+void setDatabaseFile(std::string const & path)
+{
+    EngineState::get().databaseFile = path;
+}
+
+std::string databaseFile()
+{
+    return EngineState::get().databaseFile;
+}
+
+LiveState liveState()
+{
+    return EngineState::get().live;
+}
+
+std::vector<PluginCommand> pluginCommands()
+{
+    auto const & commands = EngineState::get().pluginCommands;
+    return {commands.begin(), commands.end()};
+}
+
+std::vector<std::string> openJobs()
+{
+    std::vector<std::string> names;
+    for (auto const & job : EngineState::get().jobs) {
+        names.push_back(job->name());
+    }
+    return names;
+}
+
+bool closeJob(std::string const & job)
+{
+    return answered(false, [&](EngineState & state) {
+        Job const & closing = state.job(job);
+        if (state.database.isOpen()) {
+            state.database.removeOperations(lowerCase(closing.name()), {});
+        }
+        state.jobs.erase(std::find_if(state.jobs.begin(), state.jobs.end(),
+                                      [&closing](auto const & open) { return open.get() == &closing; }));
+        return true;
+    });
+}
+
+bool profileBox(std::string const & job, std::string const & step, Box & box)
+{
+    return answered(false, [&](EngineState & state) {
+        Step const & found = state.job(job).step(lowerCase(step));
+        if (found.profile) {
+            box = found.profile->box;
+        }
+        return found.profile.has_value();
+    });
+}
+
+std::vector<std::vector<API::point>> profileOutlines(std::string const & job, std::string const & step)
+{
+    using Outlines = std::vector<std::vector<API::point>>;
+    return answered(Outlines(), [&](EngineState & state) {
+        Step const & found = state.job(job).step(lowerCase(step));
+        return found.profile ? found.profile->outlines : Outlines();
+    });
+}
+
+std::vector<API::feature_info> features(std::string const & job, std::string const & step,
+                                        std::string const & layer)
+{
+    return answered(std::vector<API::feature_info>(), [&](EngineState & state) {
+        LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
+        std::vector<API::feature_info> list;
+        list.reserve(graphics.file.features.size());
+        for (std::size_t i = 0; i < graphics.file.features.size(); ++i) {
+            Feature const & feature = graphics.file.features[i];
+            if (!graphics.deleted[i]) {
+                list.push_back(
+                    {static_cast<int>(i), feature.kind,
+                     feature.symbol < 0 ? std::string() : graphics.file.symbols.at(feature.symbol).name,
+                     feature.positive, recordPoints(feature)});
+            }
+        }
+        return list;
+    });
+}
+
+bool deleteFeatures(std::string const & job, std::string const & step, std::string const & layer,
+                    std::vector<int> const & indices)
+{
+    return answered(false, [&](EngineState & state) {
+        Job & owner = state.job(job);
+        std::string const stepName = lowerCase(step);
+        Deletion deletion = owner.checkedDeletion(stepName, lowerCase(layer), indices);
+        if (state.database.isOpen()) {
+            state.database.addOperation(state.nextSequence(), lowerCase(owner.name()), stepName, deletion);
+        }
+        owner.apply(stepName, std::move(deletion));
+        return true;
+    });
+}
+
+std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const & step,
+                                    std::string const & layer)
+{
+    return answered(std::vector<SymbolUse>(), [&](EngineState & state) {
+        std::vector<SymbolUse> uses;
+        addSymbols(state.job(job).graphics(lowerCase(step), lowerCase(layer)), uses);
+        return uses;
+    });
+}
+
+std::vector<SymbolUse> jobSymbols(std::string const & job)
+{
+    return answered(std::vector<SymbolUse>(), [&](EngineState & state) {
+        Job & owner = state.job(job);
+        std::vector<SymbolUse> uses;
+        for (Step const & step : owner.steps()) {
+            for (API::layer_info const & layer : owner.matrix().layers) {
+                addSymbols(owner.graphics(step.name, layer.name), uses);
+            }
+        }
+        std::sort(uses.begin(), uses.end(), [](SymbolUse const & a, SymbolUse const & b) {
+            return std::tie(a.name, a.unit) < std::tie(b.name, b.unit);
+        });
+        return uses;
+    });
+}
+
+std::vector<Tool> tools(std::string const & job, std::string const & step, std::string const & layer)
+{
+    return answered(std::vector<Tool>(), [&](EngineState & state) {
+        return state.job(job).tools(lowerCase(step), lowerCase(layer));
+    });
+}
+
+} // namespace KVCAM::Embedded

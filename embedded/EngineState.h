@@ -1,0 +1,69 @@
+#pragma once
+
+#include "DatabaseTwins.h"
+#include "EmbeddedEngine.h"
+#include "Job.h"
+
+#include <algorithm>
+#include <deque>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// Everything that the engine keeps: what it was told, the open jobs, the database.
+class EngineState
+{
+public:
+    /// The process's one state. It is never destroyed, so calls at exit find it whole.
+    static EngineState & get();
+
+    LiveState live;
+    std::string lastError;
+    std::string databaseFile = "uiapi-engine.sqlite";
+    DatabaseTwins database;
+    std::vector<std::unique_ptr<Job>> jobs; ///< in order of opening
+    std::deque<PluginCommand> pluginCommands;
+
+    /// Counts the changes of the live state and the rows of the database, so that their order can be told.
+    long long nextSequence() { return ++m_sequence; }
+    /// Goes on above the rows that a database file already holds.
+    void raiseSequence(long long used) { m_sequence = std::max(m_sequence, used); }
+
+    /// By name in any case; null when it is not open.
+    Job * findJob(std::string const & name);
+    /// As findJob(), but throws JobError.
+    Job & job(std::string const & name);
+
+    /// How many operations on a step can be undone; 0 when it is not open.
+    int operations(std::string const & job, std::string const & step);
+
+    /// Opens the database; its table of operations then mirrors the history of the open jobs.
+    void openDatabase();
+    /// Writes the history of a step to the database anew.
+    void mirrorHistory(std::string const & job, std::string const & step);
+
+private:
+    void addHistory(std::string const & jobName, Step const & step);
+
+    long long m_sequence = 0;
+};
+
+/// Runs an action of the engine's own interface and keeps the text of what it throws as the last error;
+/// `neutral` is the result then.
+template <class Result, class Action>
+Result answered(Result neutral, Action action)
+{
+    EngineState & state = EngineState::get();
+    try {
+        state.lastError.clear();
+        return action(state);
+    } catch (std::exception const & error) {
+        state.lastError = error.what();
+    }
+    return neutral;
+}
+
+} // namespace KVCAM::Embedded

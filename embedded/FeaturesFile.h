@@ -1,0 +1,75 @@
+#pragma once
+
+#include <kvcam/Records.h>
+
+#include <QString>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// A symbol of a file's table: its name without the unit mark, and what its sizes are in (0 mil,
+/// 1 micrometre), by the mark or else by the file's unit.
+struct SymbolEntry
+{
+    std::string name;
+    int unit = 0;
+};
+
+/// One side of a contour: straight, or an arc about `centre`. Micrometres.
+struct Side
+{
+    API::point to;
+    bool arc = false;
+    bool clockwise = false;
+    API::point centre;
+};
+
+struct Contour
+{
+    bool island = true; ///< false: a hole in the islands before it
+    API::point start;
+    std::vector<Side> sides;
+};
+
+/// An attribute of a feature: an index of the file's attribute-name table, and the value as it stands there.
+struct AttributeUse
+{
+    int index = 0;
+    std::string value;
+};
+
+/// A graphic of a layer, in micrometres. A surface has contours, every other kind has a symbol and points:
+/// a pad its place, a line its start and end, an arc its start, end and centre.
+struct Feature
+{
+    char kind = 'P';
+    bool positive = true;
+    bool clockwise = false; ///< of an arc
+    bool mirrored = false;  ///< of a pad
+    double angle = 0;       ///< of a pad, degrees clockwise
+    int symbol = -1;        ///< index of the symbol table
+    std::vector<API::point> points;
+    std::vector<Contour> contours;
+    std::vector<AttributeUse> attributes;
+};
+
+struct FeaturesFile
+{
+    int unit = 0; ///< 0 inch, 1 millimetre
+    std::map<int, SymbolEntry> symbols;
+    std::map<int, std::string> attributeNames;
+    std::map<int, std::string> attributeTexts;
+    std::vector<Feature> features;
+};
+
+/// Reads a features file whole or throws JobError. With `tablesOnly` the file is one that holds the head and
+/// the tables alone, and its announced number of features is not held against it.
+FeaturesFile readFeatures(QString const & path, bool tablesOnly = false);
+
+/// The points of a feature in the order of its record; those of an arc's centre follow its end.
+std::vector<API::point> recordPoints(Feature const & feature);
+
+} // namespace KVCAM::Embedded

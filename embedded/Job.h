@@ -1,0 +1,81 @@
+#pragma once
+
+#include "EmbeddedEngine.h"
+#include "FeaturesFile.h"
+#include "MatrixFile.h"
+#include "Profile.h"
+
+#include <QString>
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// The graphics of a layer as they stand: what its file holds, and which features are deleted.
+struct LayerGraphics
+{
+    FeaturesFile file;
+    std::vector<bool> deleted; ///< as many as features
+};
+
+/// One deletion: the layer, and the indices of what was deleted, ascending.
+struct Deletion
+{
+    std::string layer;
+    std::vector<int> features;
+};
+
+struct Step
+{
+    std::string name; ///< lower case
+    QString folder;
+    std::optional<Profile> profile;
+    std::map<std::string, LayerGraphics> graphics; ///< what has been read so far, by layer
+    std::vector<Deletion> history;                 ///< what Undo() takes back, latest last
+};
+
+/// An open job. The matrix, the step headers, the profiles and the names of the symbols are read when it is
+/// opened; a layer's files when they are first asked for. Methods throw JobError; names are lower case.
+class Job
+{
+public:
+    /// Reads the job in the sub-folder `name` of `path`.
+    Job(std::string const & path, std::string const & name);
+
+    std::string const & name() const { return m_name; }
+    Matrix const & matrix() const { return m_matrix; }
+    /// The names of its own symbols, sorted.
+    std::vector<std::string> const & symbols() const { return m_symbols; }
+    bool hasSymbol(std::string const & name) const;
+
+    std::vector<Step> const & steps() const { return m_steps; }
+    /// Null when there is none.
+    Step * findStep(std::string const & name);
+    Step & step(std::string const & name);
+
+    LayerGraphics & graphics(std::string const & step, std::string const & layer);
+    std::vector<Tool> tools(std::string const & step, std::string const & layer);
+
+    /// A deletion with its indices sorted, each once; throws when one does not stand for a feature.
+    Deletion checkedDeletion(std::string const & step, std::string const & layer,
+                             std::vector<int> const & indices);
+    void apply(std::string const & step, Deletion deletion);
+    /// Takes the step's latest deletion back; false when there is none.
+    bool undo(std::string const & step);
+
+private:
+    Step readStep(std::string const & name) const;
+    // The folder of a layer of the matrix; "" when it has none.
+    QString layerFolder(Step const & step, std::string const & layer) const;
+
+    std::string m_name;
+    QString m_folder;
+    Matrix m_matrix;
+    std::vector<Step> m_steps;
+    std::vector<std::string> m_symbols;
+};
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,64 @@
+#include "JobPaths.h"
+
+#include "LineReader.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace KVCAM::Embedded {
+namespace {
+
+QString find(QString const & folder, QString const & name, QDir::Filters filters)
+{
+    QDir const dir(folder);
+    QStringList const entries = dir.entryList(filters | QDir::Hidden, QDir::Name);
+    QString found;
+    for (QString const & entry : entries) {
+        if (entry == name) {
+            return dir.filePath(entry);
+        }
+        if (found.isEmpty() && entry.compare(name, Qt::CaseInsensitive) == 0) {
+            found = dir.filePath(entry);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+std::string lowerCase(std::string const & name)
+{
+    return QString::fromStdString(name).toLower().toStdString();
+}
+
+std::string refusal(std::string const & name)
+{
+    if (name.empty()) {
+        return "the name is empty";
+    }
+    bool const unsafe = name == "." || name == ".." || std::any_of(name.begin(), name.end(), [](char c) {
+                            return c == '/' || c == '\\' || c == ':' || (c >= 0 && c < ' ') || c == 0x7F;
+                        });
+    return unsafe ? "the name \"" + name + "\" cannot be used as a folder" : std::string();
+}
+
+QString findFolder(QString const & folder, std::string const & name)
+{
+    return find(folder, QString::fromStdString(name), QDir::Dirs | QDir::NoDotAndDotDot);
+}
+
+QString findFile(QString const & folder, std::string const & name)
+{
+    QString const wanted = QString::fromStdString(name);
+    if (QString const plain = find(folder, wanted, QDir::Files); !plain.isEmpty()) {
+        return plain;
+    }
+    if (QString const packed = find(folder, wanted + ".Z", QDir::Files); !packed.isEmpty()) {
+        throw JobError(packed.toStdString() +
+                       ": compressed files are not read; unpack it first, for example with gzip -d");
+    }
+    return {};
+}
+
+} // namespace KVCAM::Embedded

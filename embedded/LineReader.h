@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace KVCAM::Embedded {
+
+/// Why a job's file cannot be used: "file:line: reason". Readers throw it; the engine's calls catch it.
+class JobError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The lines of one text file of a job, LF or CRLF. Files are untrusted: a file over 512 MiB or a line over
+/// 1 MiB is refused.
+class LineReader
+{
+public:
+    /// Reads the whole file; throws JobError when that fails.
+    explicit LineReader(QString const & path);
+
+    /// Goes to the next line that is neither blank nor a comment ('#'); false at the end of the file.
+    bool next();
+    /// The current line without blanks at its ends; valid as long as the reader.
+    std::string_view line() const { return m_line; }
+    int lineNumber() const { return m_number; }
+
+    /// Throws a JobError for the current line.
+    [[noreturn]] void fail(std::string const & reason) const;
+    [[noreturn]] void fail(std::string const & reason, int lineNumber) const;
+
+    /// A whole text as a number, whatever the locale; fails with `what` otherwise. A decimal is finite and
+    /// within +-1e9.
+    double decimal(std::string_view text, char const * what) const;
+    int integer(std::string_view text, char const * what) const;
+
+private:
+    QString m_path;
+    QByteArray m_text;
+    std::string_view m_rest;
+    std::string_view m_line;
+    int m_number = 0;
+};
+
+/// A line "KEY = value" split at the first '='; the key in capitals, both without blanks at their ends.
+struct KeyValue
+{
+    std::string key;
+    std::string_view value;
+};
+/// Fails when the line holds no '='.
+KeyValue keyValue(LineReader const & reader);
+
+/// The blank-separated words of a record.
+class Words
+{
+public:
+    Words(LineReader const & reader, std::string_view text) : m_reader(reader), m_rest(text) {}
+
+    /// The next word; fails with `what` when there is none.
+    std::string_view next(char const * what);
+    double decimal(char const * what) { return m_reader.decimal(next(what), what); }
+    int integer(char const * what) { return m_reader.integer(next(what), what); }
+    /// The next word, which is to be `yes` or `no`.
+    bool choice(char yes, char no, char const * what);
+    /// Fails when words are left.
+    void end() const;
+
+private:
+    LineReader const & m_reader;
+    std::string_view m_rest;
+};
+
+std::string_view trimmed(std::string_view text);
+std::string upperCase(std::string_view text);
+
+} // namespace KVCAM::Embedded
