@@ -101,7 +101,7 @@ private:
     std::map<Item, std::array<std::vector<Info>, 3>> m_lists;
 };
 
-extern template class check_reply<drill_check_item, check_info>;
+extern template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
 
 /// The engine's answer to one item of a signal-layer check.
 struct signal_check_result

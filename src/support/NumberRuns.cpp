@@ -5,14 +5,8 @@ namespace KVCAM::UIAPI {
 std::vector<TextRun> splitNumberRuns(QStringView text)
 {
     std::vector<TextRun> runs;
-    for (qsizetype begin = 0; begin < text.size();) {
-        bool const isNumber = isNumberCharacter(text[begin]);
-        qsizetype end = begin + 1;
-        while (end < text.size() && isNumberCharacter(text[end]) == isNumber) {
-            ++end;
-        }
-        runs.push_back({text.mid(begin, end - begin), isNumber});
-        begin = end;
+    while (!text.isEmpty()) {
+        runs.push_back(takeNumberRun(text));
     }
     return runs;
 }

@@ -28,6 +28,19 @@ inline bool isNumberCharacter(QChar c) noexcept
     return isAsciiDigit(c) || c == QLatin1Char('.');
 }
 
+/// Takes the first run off a text that is not empty.
+inline TextRun takeNumberRun(QStringView & rest) noexcept
+{
+    bool const isNumber = isNumberCharacter(rest.front());
+    qsizetype end = 1;
+    while (end < rest.size() && isNumberCharacter(rest[end]) == isNumber) {
+        ++end;
+    }
+    TextRun const run{rest.left(end), isNumber};
+    rest = rest.mid(end);
+    return run;
+}
+
 /// Splits a text into its runs, in order; number and text runs alternate. Empty for an empty text.
 std::vector<TextRun> splitNumberRuns(QStringView text);
 

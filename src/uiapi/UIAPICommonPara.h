@@ -3,11 +3,13 @@
 #include "UIAPICommonExport.h"
 #include "uiapi/ViewRecords.h"
 
+#include <QList>
 #include <QPoint>
 #include <QString>
 
 #include <map>
 #include <string>
+#include <vector>
 
 class QWidget;
 
@@ -132,6 +134,47 @@ public:
     std::string doubleToString(double value) const;
     /// The measured quantity of a check result, by its kind; 0.0 when kind and number of points do not agree.
     double getMeasureValue(check_info const & info) const;
+
+    // --- Symbol names -------------------------------------------------------------------------------------
+    // Sizes in a name are mil or micrometres. An unknown view counts as not metric, after the ERROR line of
+    // getUnit().
+
+    /// The lengths of a standard symbol / 25.4 for unit 0, else * 25.4, in place.
+    void setSymbolUIData(QString & name, int unit) const;
+    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view.
+    void setSymbolAPIData(void const * view, QString & name) const;
+    /// Every number * 25.4 at 2 decimals in a metric view, else / 25.4 at 3 decimals.
+    void setSymbolDataByUnit(void const * view, QString & name) const;
+    /// Every number mil to micrometres at 2 decimals (one hundredth beside a whole one becomes whole) in a
+    /// metric view, else at 3 decimals.
+    void setSymbolDataByMilUnit(void const * view, QString & name) const;
+    /// The lengths of a standard symbol, in mil, at 3 decimals for unit 0, else in micrometres as in
+    /// setSymbolDataByMilUnit().
+    std::string getSymbolNameByUnit(std::string const & name, int unit) const;
+    /// Fills `names` with the symbols of the job "KVLIB", which is opened first when it is not open. Lets
+    /// through what the engine throws.
+    void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
+
+    // --- Typed values -------------------------------------------------------------------------------------
+    // A refused value is shown in an information box; a view handle that is a living widget is its parent.
+
+    /// The value of an expression of numbers and "+", "-", "*", "/"; never fails.
+    double caculateData(QString expression) const;
+    /// False exactly when the earlier operator is "+" or "-" and the later one "*" or "/".
+    bool judgeCaculate(QString & earlier, QString & later) const;
+    /// False for an empty text, and with an ERROR line and a box for two non-digits in a row.
+    bool judgeCaculateIsStandard(QString expression) const;
+    /// Whether a value in the view's small unit lies between bounds in mil, which belong to the range.
+    bool isValueLegal(double value, double minimum, double maximum, void const * view) const;
+    /// The same as isValueLegal().
+    bool isValueLegal1(double value, double minimum, double maximum, void const * view) const;
+    /// Whether a plain number lies between its bounds.
+    bool isNumValueLegal(double value, double minimum, double maximum, void const * view) const;
+    /// isValueLegal1() for every number of a symbol name up to the first refused one.
+    bool isSymbolValueLegal(QString name, double minimum, double maximum, void const * view) const;
+    /// Fills `result` with the items that match a wildcard pattern in any case; a pattern that is not allowed
+    /// is logged and leaves it empty.
+    void find_input_items(QList<QString> items, QString pattern, QList<QString> & result) const;
 
 private:
     UIAPICommonPara();

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+/// Numbers in typed texts and symbol names, in Qt's C locale.
+namespace KVCAM::UIAPI {
+
+/// What QString::toDouble() gives without an error flag: 0 for a text that is no number, an infinity for one
+/// that is too large. "inf", "nan", exponents and blanks around the number are understood.
+double decimalValue(QStringView text);
+
+/// Appends the general form with six significant digits: "10", "0.03937", "1234.57", "1e+06".
+void appendSixDigits(QString & out, double value);
+
+} // namespace KVCAM::UIAPI

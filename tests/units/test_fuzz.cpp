@@ -1,0 +1,268 @@
+// A seeded random run over everything that reads typed text. Each input is checked against a second, plainer
+// way to the same result. UIAPI_FUZZ_COUNT sets the number of inputs of each case, UIAPI_FUZZ_SEED the seed.
+#include "harness/UiapiTest.h"
+
+#include "units/DecimalText.h"
+#include "units/Expression.h"
+#include "units/NameSearch.h"
+#include "units/SymbolDescription.h"
+#include "units/SymbolName.h"
+#include "units/ValueCheck.h"
+
+#include <QRegExp>
+#include <QRegExpValidator>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+class Fuzz : public ::testing::Test
+{
+protected:
+    /// Calls `check` with so many random texts made of the pieces.
+    template <class Check>
+    void run(QStringList const & pieces, int maximumPieces, Check const & check)
+    {
+        for (int i = 0; i < m_count && !HasFailure(); ++i) {
+            QString text;
+            for (int left = number(0, maximumPieces); left > 0; --left) {
+                int const kind = number(0, 99);
+                if (kind < 3) {
+                    text += QChar(number(0, 0xffff));
+                } else if (kind < 10) {
+                    text += QChar(number(32, 126));
+                } else {
+                    text += pieces[number(0, pieces.size() - 1)];
+                }
+            }
+            SCOPED_TRACE(text.toStdString());
+            check(text);
+        }
+    }
+
+    int number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(m_random); }
+
+    double value()
+    {
+        static double const edges[] = {0, -0.0, 1,          76.2, 25.4,   1e300,    -1e300,
+                                       3, 0.1,  4294967296, 1e-9, 999.99, INFINITY, NAN};
+        return number(0, 3) == 0 ? edges[number(0, 13)] : number(-100000, 100000) / 1000.0;
+    }
+
+private:
+    int const m_count = qEnvironmentVariableIsSet("UIAPI_FUZZ_COUNT")
+                            ? qEnvironmentVariableIntValue("UIAPI_FUZZ_COUNT")
+                            : 10000;
+    std::mt19937 m_random{static_cast<unsigned>(
+        qEnvironmentVariableIsSet("UIAPI_FUZZ_SEED") ? qEnvironmentVariableIntValue("UIAPI_FUZZ_SEED") : 1)};
+};
+
+QStringList const symbolPieces{"r",         "rect",
+                               "rect",      "moire",
+                               "ths",       "rc_ths",
+                               "s_ths",     "hex_l",
+                               "oval_h",    "s",
+                               "abc",       "donut_r",
+                               "x",         "x",
+                               "x",         "x",
+                               "xr",        "xc",
+                               "0",         "1",
+                               "25.4",      "99",
+                               ".",         "-",
+                               "e",         "+",
+                               "_",         "inf",
+                               "nan",       "%1",
+                               "%6",        "12",
+                               "10",        "3.9375",
+                               "1e308",     "0.00001",
+                               "1234.5678", "99999999999999999999"};
+
+bool sameDouble(double a, double b)
+{
+    return a == b || (std::isnan(a) && std::isnan(b));
+}
+
+// The regular expressions of the second ways do not take halves of a surrogate pair.
+bool isPlain(QString const & text)
+{
+    return std::none_of(text.begin(), text.end(), [](QChar c) { return c.isSurrogate(); });
+}
+
+// The family-aware rewrite to the letter, one family after the other.
+QString toMetricByParts(QString const & name)
+{
+    static QRegularExpression const simple(
+        "^(r|s|oval|di|oct|donut_[rs]|hex_[ls]|bf[rs]|tri|oval_h|el|hole)(?![^0-9])");
+    static QRegularExpression const fields("^(rect|thr|ths|s_ths|sr_ths|rc_ths|moire)(?![^0-9])");
+    static QRegularExpression const run("[0-9.]+");
+    auto const length = [](QString const & text) { return QString::number(text.toDouble() * 25.4, 'g', 6); };
+    if (name.contains(simple)) {
+        QString out;
+        int end = 0;
+        for (auto matches = run.globalMatch(name); matches.hasNext();) {
+            auto const match = matches.next();
+            out += name.mid(end, match.capturedStart() - end) + length(match.captured());
+            end = match.capturedEnd();
+        }
+        return out + name.mid(end);
+    }
+    QString const prefix = fields.match(name).captured(1);
+    QStringList parts = name.mid(prefix.size()).split('x');
+    int const count = parts.size();
+    bool const isRectangle = prefix == "rect" && count >= 2 && count <= 4 && !parts[0].isEmpty() &&
+                             (count == 2 || parts[2].size() >= 2);
+    bool const isMoire = prefix == "moire" && count == 6;
+    bool const isThermal = prefix.contains("th") && count >= 5;
+    QString const layout = isRectangle ? "yyc" : isMoire ? "yynyyn" : isThermal ? "yynnyy" : "";
+    for (int i = 0; i < std::min(count, layout.size()); ++i) {
+        QString const kind = layout[i] == 'c' ? parts[i].left(1) : QString();
+        parts[i] = layout[i] == 'n' ? parts[i] : kind + length(parts[i].mid(kind.size()));
+    }
+    return prefix + (isThermal ? parts.mid(0, 6) : parts).join('x');
+}
+
+// Evaluation to the letter: a postfix list, then a stack.
+double evaluateByLists(QString expression)
+{
+    QString const operators = "+-*/";
+    auto const isOperator = [&](QString const & token) {
+        return token.size() == 1 && operators.contains(token);
+    };
+    if (!expression.isEmpty() && operators.contains(expression.back())) {
+        expression.chop(1);
+    }
+    if (expression.startsWith('-') || expression.startsWith('+')) {
+        expression.prepend('0');
+    }
+    QStringList waiting;
+    QStringList postfix;
+    QString operand;
+    auto const closeOperand = [&] {
+        if (!operand.isEmpty()) {
+            postfix += operand;
+            operand.clear();
+        }
+    };
+    for (QChar const c : expression) {
+        if (!operators.contains(c)) {
+            operand += c;
+            continue;
+        }
+        closeOperand();
+        if (!waiting.isEmpty() &&
+            ((waiting.back() != "+" && waiting.back() != "-") || (c != '*' && c != '/'))) {
+            postfix += waiting.takeLast();
+        }
+        waiting += c;
+    }
+    closeOperand();
+    while (!waiting.isEmpty()) {
+        postfix += waiting.takeLast();
+    }
+    QList<double> stack;
+    auto const pop = [&] { return stack.isEmpty() ? 0.0 : stack.takeLast(); };
+    for (QString const & token : postfix) {
+        if (!isOperator(token)) {
+            stack += token.toDouble();
+            continue;
+        }
+        double const b = pop();
+        double const a = pop();
+        stack += token == "+" ? a + b : token == "-" ? a - b : token == "*" ? a * b : a / b;
+    }
+    return pop();
+}
+
+TEST_F(Fuzz, SymbolNames)
+{
+    run(symbolPieces, 6, [&](QString const & text) {
+        // most are a family's prefix and fields, with the random text for some of these
+        QString name = text;
+        if (number(0, 9) > 0) {
+            name = symbolPieces[number(0, 10)];
+            for (int fields = number(1, 8); fields > 0; --fields) {
+                name += number(0, 7) == 0 ? text : QString::number(number(0, 999999) / 1000.0);
+                name += number(0, 5) == 0 ? "xr" : fields > 1 ? "x" : "";
+            }
+        }
+        SCOPED_TRACE(name.toStdString());
+        for (int unit : {0, 1, -1}) {
+            Symbols::toOtherUnit(name, unit);
+            Symbols::fromMil(name, unit);
+            Symbols::runsToOtherUnit(name, unit);
+            Symbols::runsFromMil(name, unit);
+            Symbols::runsToMil(name, unit);
+        }
+        EXPECT_EQ(Ext::describeSymbol(name, number(-1, 2)).isEmpty(), name.isEmpty());
+        if (isPlain(name)) {
+            EXPECT_EQ(Symbols::toOtherUnit(name, 1), toMetricByParts(name));
+        }
+    });
+}
+
+TEST_F(Fuzz, Expressions)
+{
+    run({"+", "-", "*", "/", "1", "2", "3.5", "0", ".", "e", "10", "inf", " ", "007", "123456789012345678"},
+        20, [&](QString const & expression) {
+            EXPECT_TRUE(sameDouble(Expression::evaluate(expression), evaluateByLists(expression)));
+            static QRegularExpression const pair("[^0-9][^0-9]",
+                                                 QRegularExpression::DotMatchesEverythingOption);
+            bool const isStandard = !expression.isEmpty() && !expression.contains(pair);
+            if (isPlain(expression)) {
+                EXPECT_EQ(Expression::formOf(expression) == Expression::Form::Standard, isStandard);
+            }
+        });
+}
+
+TEST_F(Fuzz, Numbers)
+{
+    run({"0", "1", "9", "5", "12345", "00", ".", ".", "99999", "e", "-", "+"}, 8, [&](QString const & text) {
+        EXPECT_TRUE(sameDouble(decimalValue(text), text.toDouble()));
+        QString out;
+        double const v = text.toDouble();
+        appendSixDigits(out, v);
+        EXPECT_EQ(out, QString("%1").arg(v, 0, 'g', -1, QChar(' ')));
+    });
+}
+
+TEST_F(Fuzz, Legality)
+{
+    run(symbolPieces, 8, [&](QString const & name) {
+        double const low = value();
+        double const high = value();
+        Ext::ValueVerdict const length = Ext::checkSymbol(name, low, high, number(-1, 2));
+        EXPECT_EQ(length.legal, length.text.isEmpty());
+        Ext::ValueVerdict const plain = Ext::checkNumber(value(), low, high);
+        EXPECT_EQ(plain.legal, plain.text.isEmpty());
+    });
+}
+
+TEST_F(Fuzz, Patterns)
+{
+    static QRegExp const allowed("^[A-Za-z_0-9./*]+$");
+    QRegExpValidator const validator(allowed);
+    run({"*", "**", "a", "B", "_", ".", "/", "top", "9", "x"}, 12, [&](QString pattern) {
+        int position = 0;
+        ASSERT_EQ(NameSearch::isPattern(pattern),
+                  validator.validate(pattern, position) == QValidator::Acceptable);
+        QString item = pattern;
+        item.replace("*", number(0, 1) == 0 ? "top" : "");
+        if (!NameSearch::isPattern(pattern)) {
+            return;
+        }
+        EXPECT_EQ(NameSearch::matches({item.toUpper()}, pattern).size(), 1);
+        QString const expression = "^" + QString(pattern).replace(".", "\\.").replace("*", ".*") + "$";
+        QRegularExpression const plain(expression, QRegularExpression::CaseInsensitiveOption);
+        for (QString const & other : {QString("top.xaB9"), QString("a_top"), QString("")}) {
+            EXPECT_EQ(!NameSearch::matches({other}, pattern).isEmpty(), other.contains(plain));
+        }
+    });
+}
+
+} // namespace

@@ -1,0 +1,216 @@
+#include "harness/UiapiTest.h"
+
+#include "uiapi/flat/SymbolNames.h"
+#include "uiapi/flat/ViewAccess.h"
+#include "units/SymbolName.h"
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+using Rewrite = QString (*)(QString const &, int);
+
+struct Row
+{
+    char const * name;
+    char const * inch;
+    char const * metric;
+};
+
+void expectRows(Rewrite rewrite, std::initializer_list<Row> rows)
+{
+    for (Row const & row : rows) {
+        EXPECT_EQ(rewrite(row.name, 0).toStdString(), row.inch) << row.name;
+        EXPECT_EQ(rewrite(row.name, 1).toStdString(), row.metric) << row.name;
+    }
+}
+
+TEST(SymbolName, ToOtherUnitConvertsTheLengthsOfAFamily)
+{
+    expectRows(Symbols::toOtherUnit,
+               {{"r254", "r10", "r6451.6"},
+                {"r10", "r0.393701", "r254"},
+                // the simple family converts every number, counts included
+                {"r1x2", "r0.0393701x0.0787402", "r25.4x50.8"},
+                {"r10x-10", "r0.393701x-0.393701", "r254x-254"},
+                {"oval_h254x508", "oval_h10x20", "oval_h6451.6x12903.2"},
+                {"donut_s254x127xr25.4", "donut_s10x5xr1", "donut_s6451.6x3225.8xr645.16"},
+                {"r1.2.3x254", "r0x10", "r0x6451.6"},
+                {"r0.0001", "r3.93701e-06", "r0.00254"},
+                {"r39370.1", "r1550", "r1e+06"},
+                {"r1234.5678", "r48.605", "r31358"},
+                {"r1000000000000000000000000x254", "r3.93701e+22x10", "r2.54e+25x6451.6"},
+                {"rect254x508", "rect10x20", "rect6451.6x12903.2"},
+                {"rect10x20xr5", "rect0.393701x0.787402xr0.19685", "rect254x508xr127"},
+                {"rect10x20xr5x13", "rect0.393701x0.787402xr0.19685x13", "rect254x508xr127x13"},
+                {"rect10x20xr5x%1", "rect0.393701x0.787402xr0.19685x%1", "rect254x508xr127x%1"},
+                {"rect254x1,000", "rect10x0", "rect6451.6x0"},
+                {"rect254xinf", "rect10xinf", "rect6451.6xinf"},
+                {"rect254x-25.4", "rect10x-1", "rect6451.6x-645.16"},
+                {"ths40x30x45x4x5", "ths1.5748x1.1811x45x4x0.19685", "ths1016x762x45x4x127"},
+                {"rc_ths254x254x%6x%1x254x254", "rc_ths10x10x%6x%1x10x10",
+                 "rc_ths6451.6x6451.6x%6x%1x6451.6x6451.6"},
+                // a corner in the sixth place is no number, and what follows is dropped
+                {"s_ths254x254x45x4x254xr5x13", "s_ths10x10x45x4x10x0", "s_ths6451.6x6451.6x45x4x6451.6x0"},
+                {"moire10x5x3x2x20x45", "moire0.393701x0.19685x3x0.0787402x0.787402x45",
+                 "moire254x127x3x50.8x508x45"}});
+}
+
+TEST(SymbolName, OnlyToOtherUnitHoldsARectangleBackWhoseWidthOrCornerIsEmpty)
+{
+    // one trailing "x" is forgiven in a rectangle's prefix: the width before it counts as 0
+    for (Row const & row : {Row{"rectx5", "rect0x5", "rect0x127"}, Row{"rectx", "rect0x0", "rect0x0"},
+                            Row{"rectx5xr1", "rect0x5xr1", "rect0x127xr25.4"},
+                            Row{"rect10x20xr", "rect10x20xr0", "rect254x508xr0"}}) {
+        expectRows(Symbols::fromMil, {row});
+        expectRows(Symbols::toOtherUnit, {{row.name, row.name, row.name}});
+    }
+}
+
+TEST(SymbolName, NamesThatFitNoFamilyStay)
+{
+    QString const names =
+        "|r|10|10x20|abc10|R10|r.5|rect.5x10|rect|rect10|rect10x20x|rect10x20xx13|r\u0661| r10|"
+        "rect1x2xr3x4x5|rectxtal10|rectangle1|rect_a10x20|rectxx5|rx5|r-10|thrx5|ths40x30x45x4|"
+        "ths|moire10x5x3x2x20|moire1x2x3x4x5x6x7|moire|donut_rc10x20x5|donut_sr10x5|"
+        "donut_o9x8x1|s_tho40x30x90x4x4|rc_tho60x40x45x4x10x10|o_ths9x8x45x4x1x1";
+    for (QString const & name : names.split('|')) {
+        for (int unit : {0, 1, 2, -1}) {
+            EXPECT_EQ(Symbols::toOtherUnit(name, unit), name);
+            EXPECT_EQ(Symbols::fromMil(name, unit), name);
+        }
+    }
+}
+
+TEST(SymbolName, FromMilKeepsThreeDecimalsOrSnapsToWholeMicrometres)
+{
+    expectRows(Symbols::fromMil,
+               {{"r0.039", "r0.039", "r1"},       // 0.9906: one hundredth short
+                {"r3.937", "r3.937", "r100"},     // 99.9998
+                {"r0.0398", "r0.04", "r1.02"},    // rounded to 3 decimals first
+                {"r3.9375", "r3.938", "r100.03"}, // halves go away from zero
+                {"r2.0005", "r2.001", "r50.83"},  // the text of Qt rounds the decimal form up
+                {"r1234.5678", "r1234.57", "r31358"},
+                {"r0.433", "r0.433", "r11"}, // 10.9982
+                {"r0.158", "r0.158", "r4"},  // 4.0132: one hundredth beyond
+                {"rect10x20xr5x13", "rect10x20xr5x13", "rect254x508xr127x13"},
+                {"ths40x30x45x4x5x1", "ths40x30x45x4x5x1", "ths1016x762x45x4x127x25.4"},
+                {"rect5xinf", "rect5xinf", "rect127xinf"},
+                {"rect5xnan", "rect5xnan", "rect127xnan"},
+                {"r1000000", "r1e+06", "r2.54e+07"},
+                {"r99999999999", "r1e+11", "r2.54e+12"}});
+    EXPECT_EQ(Symbols::fromMil("r10", 2), "r254");
+    EXPECT_EQ(Symbols::fromMil("r10", -1), "r254");
+    EXPECT_EQ(Symbols::toOtherUnit("r10", -1), "r254");
+}
+
+TEST(SymbolName, GenericRewritesConvertEveryRunOfAnyName)
+{
+    expectRows(Symbols::runsToOtherUnit,
+               {{"10x20", "0.394x0.787", "254x508"},
+                {"abc10", "abc0.394", "abc254"},
+                {"ths40x30x45x4x5", "ths1.575x1.181x1.772x0.157x0.197", "ths1016x762x1143x101.6x127"},
+                {"r0.039", "r0.002", "r0.99"}, // no snap
+                {"a.b", "a0b", "a0b"},
+                {"", "", ""},
+                {"abc", "abc", "abc"},
+                {"r999999999999", "r3.93701e+10", "r2.54e+13"}});
+    expectRows(Symbols::runsFromMil, {{"10x20", "10x20", "254x508"},
+                                      {"r0.039", "r0.039", "r1"},
+                                      {"r0.158", "r0.158", "r4"},
+                                      {"r2.0005", "r2.001", "r50.81"},
+                                      {"r3.9375", "r3.938", "r100"}});
+    expectRows(
+        Symbols::runsToMil,
+        {{"10x20.50", "10x20.50", "0.394x0.807"}, {"r254.000", "r254.000", "r10"}, {"r1..2", "r1..2", "r0"}});
+}
+
+TEST(SymbolName, AsManyNumbersAsTextsStartWithAText)
+{
+    expectRows(Symbols::runsToOtherUnit, {{"10x", "x0.394", "x254"}, {"1a2b", "a0.039b0.079", "a25.4b50.8"}});
+    expectRows(Symbols::runsToMil, {{"254x", "x254", "x10"}, {"254x254", "254x254", "10x10"}});
+}
+
+class SymbolViews : public UiapiTest
+{
+protected:
+    void SetUp() override
+    {
+        UiapiTest::SetUp();
+        for (int unit : {0, 1, 2}) {
+            Step_Config config;
+            config.view = viewHandle(unit);
+            config.show_param.unit = unit;
+            ASSERT_TRUE(insertStepConfig(config));
+        }
+        engine.take();
+    }
+
+    static std::string rewritten(void (*rewrite)(void const *, QString &), int view, char const * name)
+    {
+        QString text = name;
+        rewrite(viewHandle(view), text);
+        return text.toStdString();
+    }
+};
+
+TEST_F(SymbolViews, FlatFunctionsFollowTheView)
+{
+    // views 0 and 1 by their unit; 2 has a unit that is not metric
+    EXPECT_EQ(rewritten(setSymbolDataByUnit, 0, "r254"), "r10");
+    EXPECT_EQ(rewritten(setSymbolDataByUnit, 1, "r10"), "r254");
+    EXPECT_EQ(rewritten(setSymbolDataByUnit, 2, "r254"), "r10");
+    EXPECT_EQ(rewritten(setSymbolDataByMilUnit, 0, "r3.9375"), "r3.938");
+    EXPECT_EQ(rewritten(setSymbolDataByMilUnit, 1, "r0.039"), "r1");
+    QString name = "r10";
+    setSymbolUIData(name, 1);
+    EXPECT_EQ(name, "r254");
+    EXPECT_EQ(getSymbolNameByUnit("r0.039", 1), "r1");
+    EXPECT_EQ(engine.take(), Lines{});
+    EXPECT_EQ(log.take(), Lines{});
+    // an unknown view is not metric, after one line
+    EXPECT_EQ(rewritten(setSymbolDataByUnit, 9, "r254x254"), "r10x10");
+    EXPECT_EQ(log.take(), Lines{operationError("getUnit")});
+    EXPECT_EQ(rewritten(setSymbolDataByMilUnit, 9, "r2.0005x1"), "r2.001x1");
+    EXPECT_EQ(log.take(), Lines{operationError("getUnit")});
+}
+
+TEST_F(SymbolViews, ApiDataAsksTheEngineBeforeTheView)
+{
+    EXPECT_EQ(rewritten(setSymbolAPIData, 1, "r254"), "r10");
+    EXPECT_EQ(rewritten(setSymbolAPIData, 0, "10x"), "x10");
+    EXPECT_EQ(engine.take(), (Lines{"API::identify_symbol(r254 false)", "API::identify_symbol(10x false)"}));
+    EXPECT_EQ(rewritten(setSymbolAPIData, 9, "r254"), "r254");
+    EXPECT_EQ(log.take(), Lines{operationError("getUnit")});
+    engine.identifies = false;
+    EXPECT_EQ(rewritten(setSymbolAPIData, 1, "10x"), "10x");
+    EXPECT_EQ(rewritten(setSymbolAPIData, 9, "10x"), "10x");
+    EXPECT_EQ(log.take(), Lines{});
+    engine.throwFrom("identify_symbol", "x");
+    EXPECT_EQ(rewritten(setSymbolAPIData, 1, "r254"), "r254");
+    EXPECT_EQ(log.take().back(), paraError("异常描述：x"));
+}
+
+TEST_F(SymbolViews, SpecialSymbolsOpenTheLibraryJobOnce)
+{
+    engine.specialSymbols["KVLIB"] = {"fiducial", "logo"};
+    std::vector<std::string> names{"old"};
+    getKvlibSpecialSymbol(names);
+    EXPECT_EQ(names, (Lines{"fiducial", "logo"}));
+    EXPECT_EQ(engine.take(), (Lines{"API::is_job_opened(KVLIB)", "API::open_job(./job KVLIB)",
+                                    "API::get_special_symbol_names(KVLIB)"}));
+    getKvlibSpecialSymbol(names);
+    EXPECT_EQ(engine.take(), (Lines{"API::is_job_opened(KVLIB)", "API::get_special_symbol_names(KVLIB)"}));
+    engine.openJobs.clear();
+    engine.opensJobs = false; // its result is not checked
+    getKvlibSpecialSymbol(names);
+    EXPECT_EQ(engine.take().back(), "API::get_special_symbol_names(KVLIB)");
+    engine.throwFrom("open_job", "no disk");
+    names = {"kept"};
+    getKvlibSpecialSymbol(names);
+    EXPECT_EQ(names, Lines{"kept"});
+    EXPECT_EQ(log.take().back(), paraError("异常描述：no disk"));
+}
+
+} // namespace

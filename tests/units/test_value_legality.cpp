@@ -1,0 +1,175 @@
+#include "harness/UiapiTest.h"
+
+#include "uiapi/UIAPICommonPara.h"
+#include "uiapi/flat/Arithmetic.h"
+#include "uiapi/flat/ViewAccess.h"
+#include "units/ValueCheck.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <QWidget>
+
+#include <cmath>
+#include <limits>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+class ValueLegality : public UiapiTest
+{
+protected:
+    void SetUp() override
+    {
+        UiapiTest::SetUp();
+        for (int unit : {0, 1}) {
+            registerView(viewHandle(unit), unit);
+        }
+    }
+
+    static void registerView(void const * view, int unit)
+    {
+        Step_Config config;
+        config.view = view;
+        config.show_param.unit = unit;
+        ASSERT_TRUE(insertStepConfig(config));
+    }
+
+    // The box, if there was one, has the text of the verdict that shows none.
+    void expectShown(Ext::ValueVerdict const & verdict, bool legal, std::string const & text)
+    {
+        EXPECT_EQ(verdict.legal, legal);
+        EXPECT_EQ(verdict.text.toStdString(), text);
+        EXPECT_EQ(boxes.take(), legal ? Lines{} : Lines{informationBox(text)});
+    }
+
+    static std::string lengthText(std::string const & bounds)
+    {
+        return bounds.empty() ? ""
+                              : "Illegal float value\nfloating value for field is out of range: " + bounds;
+    }
+};
+
+TEST_F(ValueLegality, BoundsInMilAreConvertedAndBelongToTheRange)
+{
+    double const infinity = std::numeric_limits<double>::infinity();
+    struct Row
+    {
+        int unit;
+        double value, minimum, maximum;
+        char const * bounds; // empty for a legal value
+    };
+    for (Row const & row : {Row{0, 1, 1, 10, ""}, Row{0, 10, 1, 10, ""}, Row{0, 10.001, 1, 10, "(1, 10)"},
+                            Row{0, 0.999, 1, 10, "(1, 10)"}, Row{1, 25.4, 1, 10, ""}, Row{1, 254, 1, 10, ""},
+                            Row{1, 254.1, 1, 10, "(25.40, 254.00)"}, Row{1, 25.3, 1, 10, "(25.40, 254.00)"},
+                            // no tolerance: 3 mil is 76.199999999999989
+                            Row{1, 76.2, 1, 3, "(25.40, 76.20)"}, Row{1, 76.19, 1, 3, ""},
+                            Row{0, 5, 10, 1, "(10, 1)"}, Row{0, 0, 1234567, 2e9, "(1.23457e+06, 2e+09)"},
+                            Row{1, -1, 0, infinity, "(0.00, inf)"}, Row{0, infinity, 0, infinity, ""},
+                            Row{0, std::nan(""), 1, 10, ""}, Row{1, std::nan(""), 1, 10, ""}}) {
+        SCOPED_TRACE(row.value);
+        std::string const text = lengthText(row.bounds);
+        void const * const view = viewHandle(row.unit);
+        Ext::ValueVerdict const verdict = Ext::checkValue(row.value, row.minimum, row.maximum, row.unit);
+        EXPECT_EQ(isValueLegal(row.value, row.minimum, row.maximum, view), text.empty());
+        expectShown(verdict, text.empty(), text);
+        UIAPICommonPara::instance()->isValueLegal1(row.value, row.minimum, row.maximum, view);
+        expectShown(verdict, text.empty(), text);
+    }
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(ValueLegality, AnUnknownViewIsLoggedOnceForEachBoundAndEachText)
+{
+    std::string const line = operationError("getShowPara");
+    EXPECT_TRUE(isValueLegal(10, 1, 10, viewHandle(9)));
+    EXPECT_EQ(log.take(), (Lines{line, line}));
+    EXPECT_FALSE(isValueLegal(254, 1, 10, viewHandle(9)));
+    EXPECT_EQ(log.take(), (Lines{line, line, line, line}));
+    EXPECT_EQ(boxes.take(), Lines{informationBox(lengthText("(1, 10)"))});
+    // no look-up at all
+    EXPECT_TRUE(isNumValueLegal(10, 1, 10, viewHandle(9)));
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(ValueLegality, AViewThatIsALivingWidgetIsTheBoxsParent)
+{
+    QWidget widget;
+    registerView(&widget, 1);
+    EXPECT_FALSE(isValueLegal(10, 1, 10, &widget));
+    EXPECT_EQ(boxes.lastParent(), &widget);
+    EXPECT_FALSE(isNumValueLegal(0, 1, 10, &widget));
+    EXPECT_EQ(boxes.lastParent(), &widget);
+    EXPECT_FALSE(isNumValueLegal(0, 1, 10, viewHandle(0)));
+    EXPECT_EQ(boxes.lastParent(), nullptr);
+    boxes.take();
+}
+
+TEST_F(ValueLegality, PlainNumbersAreNotConverted)
+{
+    struct Row
+    {
+        double value, minimum, maximum;
+        char const * text; // empty for a legal value
+    };
+    for (Row const & row :
+         {Row{5, 1, 4, "5\nlegal values: from 1 to 4"}, Row{1, 1, 4, ""}, Row{4, 1, 4, ""},
+          Row{0.5, 1, 4, "0.5\nlegal values: from 1 to 4"}, Row{std::nan(""), 1, 4, ""},
+          Row{12345678.5, 0.1234567, 1e7, "12345678.5\nlegal values: from 0.123457 to 1e+07"}}) {
+        std::string const text =
+            *row.text == '\0' ? "" : std::string("floating value for field is out of range: ") + row.text;
+        EXPECT_EQ(isNumValueLegal(row.value, row.minimum, row.maximum, viewHandle(1)), text.empty());
+        expectShown(Ext::checkNumber(row.value, row.minimum, row.maximum), text.empty(), text);
+    }
+}
+
+TEST_F(ValueLegality, TheFirstIllegalNumberOfASymbolEndsTheCheck)
+{
+    struct Row
+    {
+        char const * name;
+        int unit;
+        bool legal;
+        std::size_t lookUps; // of an unknown view
+    };
+    for (Row const & row : {Row{"r5x10", 0, true, 4}, Row{"r12x5", 0, false, 4}, Row{"r5x12x3", 0, false, 6},
+                            Row{"r25.4x254", 1, true, 0}, Row{"r25.4x254.1", 1, false, 0},
+                            Row{"", 0, true, 0}, Row{"abc", 0, true, 0}, Row{"r-5", 0, true, 2},
+                            Row{"r1..2", 0, false, 4}, Row{"ths5x5x45x4x5", 0, false, 8}}) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(isSymbolValueLegal(row.name, 1, 10, viewHandle(row.unit)), row.legal);
+        expectShown(Ext::checkSymbol(row.name, 1, 10, row.unit), row.legal,
+                    row.legal ? "" : lengthText(row.unit == 0 ? "(1, 10)" : "(25.40, 254.00)"));
+        if (row.unit == 0) {
+            isSymbolValueLegal(row.name, 1, 10, viewHandle(9));
+            EXPECT_EQ(log.take(), Lines(row.lookUps, operationError("getShowPara")));
+            boxes.take();
+        }
+    }
+}
+
+// The message is composed, then looked up as a whole, as what was composed in UTF-8.
+TEST_F(ValueLegality, TheComposedMessageIsTranslated)
+{
+    struct Upper : QTranslator
+    {
+        QString translate(char const * context, char const * text, char const *, int) const override
+        {
+            return context == std::string("QObject") ? QString::fromUtf8(text).toUpper() : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } upper;
+    QCoreApplication::installTranslator(&upper);
+    EXPECT_FALSE(isNumValueLegal(5, 1, 4, nullptr));
+    EXPECT_EQ(boxes.take(), Lines{"information|INFORMATION|FLOATING VALUE FOR FIELD IS OUT OF RANGE: 5\n"
+                                  "LEGAL VALUES: FROM 1 TO 4"});
+    EXPECT_FALSE(isValueLegal(0, 1, 4, viewHandle(0)));
+    EXPECT_EQ(boxes.take().back().substr(0, 42), "information|INFORMATION|ILLEGAL FLOAT VALU");
+    EXPECT_FALSE(judgeCaculateIsStandard("--"));
+    EXPECT_EQ(boxes.take(), Lines{"information|INFORMATION|CACULATEDATA ERROR"});
+    log.take();
+    QCoreApplication::removeTranslator(&upper);
+}
+
+} // namespace
