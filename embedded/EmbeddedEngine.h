@@ -11,7 +11,7 @@
 namespace KVCAM::Embedded {
 
 /// Why the latest open_job(), closing or reading failed: "file:line: reason" (the line only where there is
-/// one); empty after a success.
+/// one); empty after a success. Every function below that reads from a job sets it.
 KVCAM_API_EXPORT std::string lastError();
 
 /// Turns the save flag on or off. While it is on, the database twins write to the database file. False, with
@@ -46,8 +46,9 @@ struct PluginCommand
 /// The latest 100 of them, oldest first; the default host has no plug-in modules to hand them to.
 KVCAM_API_EXPORT std::vector<PluginCommand> pluginCommands();
 
-/// The folders whose sub-folders open_job() was asked for, and the jobs that are open, in order of opening.
+/// The jobs that are open, in order of opening, by the names of their folders.
 KVCAM_API_EXPORT std::vector<std::string> openJobs();
+/// Forgets a job, its deletions and what could be undone; false when it is not open.
 KVCAM_API_EXPORT bool closeJob(std::string const & job);
 
 /// An upright rectangle in micrometres.
@@ -71,7 +72,8 @@ KVCAM_API_EXPORT std::vector<std::vector<API::point>> profileOutlines(std::strin
 KVCAM_API_EXPORT std::vector<API::feature_info> features(std::string const & job, std::string const & step,
                                                          std::string const & layer);
 /// Deletes features by index: the engine's one operation, recorded for Undo(). False, and nothing changed,
-/// when the layer is not known, an index does not stand for a feature, or the list is empty.
+/// and lastError() set, when the layer is not known, an index does not stand for a feature, the list is
+/// empty, or the save flag is on and the database cannot be written. The files of the job are never changed.
 KVCAM_API_EXPORT bool deleteFeatures(std::string const & job, std::string const & step,
                                      std::string const & layer, std::vector<int> const & indices);
 

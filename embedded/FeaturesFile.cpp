@@ -76,7 +76,7 @@ private:
     {
         std::string const unit = upperCase(name);
         if (unit != "MM" && unit != "INCH") {
-            m_reader.fail("unknown unit \"" + std::string(name) + '"');
+            m_reader.fail("unknown unit " + quoted(name));
         }
         if (!m_file.features.empty()) {
             m_reader.fail("the unit stands after the first feature");
@@ -99,7 +99,7 @@ private:
     void readText(std::string_view line, std::map<int, std::string> & table)
     {
         auto const [index, text] = entry(line);
-        if (!table.emplace(index, text).second) {
+        if (!table.emplace(index, validText(text)).second) {
             m_reader.fail("the table index stands twice");
         }
     }
@@ -116,9 +116,9 @@ private:
             }
         }
         if (name.empty() || name.find_first_of(" \t") != std::string_view::npos) {
-            m_reader.fail("bad symbol name \"" + std::string(name) + '"');
+            m_reader.fail("bad symbol name " + quoted(name));
         }
-        if (!m_file.symbols.emplace(index, SymbolEntry{std::string(name), unit}).second) {
+        if (!m_file.symbols.emplace(index, SymbolEntry{validText(name), unit}).second) {
             m_reader.fail("the table index stands twice");
         }
     }
@@ -134,7 +134,7 @@ private:
     {
         static constexpr std::string_view kinds = "PLAS";
         if (letter.size() != 1 || kinds.find(letter.front()) == std::string_view::npos) {
-            m_reader.fail("unknown record \"" + std::string(letter.substr(0, 20)) + '"');
+            m_reader.fail("unknown record " + quoted(letter));
         }
         Feature feature;
         feature.kind = letter.front();
@@ -195,7 +195,7 @@ private:
                 list.size(), list.find(',') == std::string_view::npos ? list.size() : list.find(',') + 1));
             std::string_view const index = item.substr(0, item.find('='));
             std::string_view const value = item.substr(std::min(item.size(), index.size() + 1));
-            feature.attributes.push_back({m_reader.integer(index, "attribute index"), std::string(value)});
+            feature.attributes.push_back({m_reader.integer(index, "attribute index"), validText(value)});
         }
     }
 
@@ -224,8 +224,8 @@ private:
         } else if (letter == "SE" && !m_contourOpen && !contours.empty()) {
             m_surfaceLine = 0;
         } else {
-            m_reader.fail("\"" + std::string(letter.substr(0, 20)) +
-                          "\" is out of place in the surface of line " + std::to_string(m_surfaceLine));
+            m_reader.fail(quoted(letter) + " is out of place in the surface of line " +
+                          std::to_string(m_surfaceLine));
         }
     }
 

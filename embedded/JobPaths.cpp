@@ -40,7 +40,7 @@ std::string refusal(std::string const & name)
     bool const unsafe = name == "." || name == ".." || std::any_of(name.begin(), name.end(), [](char c) {
                             return c == '/' || c == '\\' || c == ':' || (c >= 0 && c < ' ') || c == 0x7F;
                         });
-    return unsafe ? "the name \"" + name + "\" cannot be used as a folder" : std::string();
+    return unsafe ? "the name " + quoted(name) + " cannot be used as a folder" : std::string();
 }
 
 QString findFolder(QString const & folder, std::string const & name)
@@ -51,7 +51,7 @@ QString findFolder(QString const & folder, std::string const & name)
 QString findFile(QString const & folder, std::string const & name)
 {
     QString const wanted = QString::fromStdString(name);
-    if (QString const plain = find(folder, wanted, QDir::Files); !plain.isEmpty()) {
+    if (QString plain = find(folder, wanted, QDir::Files); !plain.isEmpty()) {
         return plain;
     }
     if (QString const packed = find(folder, wanted + ".Z", QDir::Files); !packed.isEmpty()) {

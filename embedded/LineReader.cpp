@@ -16,12 +16,6 @@ constexpr std::size_t longestLine = 1024UL * 1024;
 constexpr double largestNumber = 1e9;
 constexpr std::string_view blanks = " \t\r\v\f";
 
-std::string quoted(std::string_view text)
-{
-    constexpr std::size_t shown = 60;
-    return '"' + std::string(text.substr(0, shown)) + (text.size() > shown ? "...\"" : "\"");
-}
-
 } // namespace
 
 std::string_view trimmed(std::string_view text)
@@ -29,6 +23,22 @@ std::string_view trimmed(std::string_view text)
     std::size_t const first = text.find_first_not_of(blanks);
     return first == std::string_view::npos ? std::string_view()
                                            : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string validText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size())).toStdString();
+}
+
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t shown = 60;
+    std::string_view const begin = text.substr(0, shown);
+    QString printable = QString::fromUtf8(begin.data(), static_cast<int>(begin.size()));
+    for (QChar & c : printable) {
+        c = c.isPrint() ? c : QChar('?');
+    }
+    return '"' + printable.toStdString() + (text.size() > shown ? "...\"" : "\"");
 }
 
 std::string upperCase(std::string_view text)
@@ -52,7 +62,7 @@ LineReader::LineReader(QString const & path) : m_path(QDir::cleanPath(path))
     if (file.size() > largestFile) {
         throw JobError(shown + ": the file is larger than 512 MiB");
     }
-    m_text = file.read(largestFile);
+    m_text = file.read(file.size()); // allocates what it is asked for
     if (file.error() != QFileDevice::NoError) {
         throw JobError(shown + ": " + file.errorString().toStdString());
     }

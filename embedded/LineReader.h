@@ -77,6 +77,11 @@ private:
 };
 
 std::string_view trimmed(std::string_view text);
+/// ASCII only, as the keys and fixed values of the files are.
 std::string upperCase(std::string_view text);
+/// A text of a file as UTF-8: bytes that are none become replacement characters.
+std::string validText(std::string_view text);
+/// A text of a file for a message: in quotes, shortened, without characters that do not print.
+std::string quoted(std::string_view text);
 
 } // namespace KVCAM::Embedded

@@ -62,7 +62,7 @@ public:
     [[noreturn]] void fail(char const * key, std::string const & reason) const
     {
         Entry const & entry = m_entries.at(key);
-        m_reader.fail(key + ('=' + entry.value) + ' ' + reason, entry.line);
+        m_reader.fail(std::string(key) + '=' + validText(entry.value) + ' ' + reason, entry.line);
     }
 
 private:

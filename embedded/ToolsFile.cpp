@@ -55,7 +55,7 @@ std::vector<Tool> readTools(QString const & path)
         if (pair.key == "UNITS") {
             std::string const unit = upperCase(pair.value);
             if (unit != "MM" && unit != "INCH") {
-                reader.fail("unknown unit \"" + std::string(pair.value) + '"');
+                reader.fail("unknown unit " + quoted(pair.value));
             }
             scale = unit == "MM" ? 1.0 : 25.4;
         }

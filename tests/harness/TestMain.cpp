@@ -8,8 +8,14 @@
 
 // Leaks of the platform, not ours. Compiled in rather than handed over in the environment, since the build
 // runs the executables too, to list their cases. Nobody calls it where there is no LeakSanitizer.
-extern "C" char const * __lsan_default_suppressions(); // NOLINT(bugprone-reserved-identifier)
-char const * __lsan_default_suppressions()             // NOLINT(bugprone-reserved-identifier)
+// Visible, or the sanitizer's own library would not find it.
+#if defined(__GNUC__)
+#define UIAPI_VISIBLE __attribute__((visibility("default")))
+#else
+#define UIAPI_VISIBLE
+#endif
+extern "C" UIAPI_VISIBLE char const * __lsan_default_suppressions(); // NOLINT(bugprone-reserved-identifier)
+char const * __lsan_default_suppressions()                           // NOLINT(bugprone-reserved-identifier)
 {
     return "leak:libqoffscreen.so\n"
            "leak:libfontconfig\n"

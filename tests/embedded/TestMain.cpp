@@ -1,0 +1,20 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+// Each case starts in a fresh working directory; the database needs an application object, and nothing here a
+// display.
+int main(int argc, char ** argv)
+{
+    QTemporaryDir world;
+    if (!world.isValid() || !QDir::setCurrent(world.path())) {
+        return 2;
+    }
+    QCoreApplication application(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    int const result = RUN_ALL_TESTS();
+    QDir::setCurrent(QDir::rootPath());
+    return result;
+}
