@@ -33,7 +33,7 @@ std::vector<Info> const & check_reply<Item, Info>::list(Item item, int level) co
                                                              : found->second[static_cast<std::size_t>(level)];
 }
 
-template class check_reply<drill_check_item, check_info>;
+template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
 
 namespace {
 

@@ -62,7 +62,7 @@ LineReader::LineReader(QString const & path) : m_path(QDir::cleanPath(path))
     if (file.size() > largestFile) {
         throw JobError(shown + ": the file is larger than 512 MiB");
     }
-    m_text = file.read(largestFile);
+    m_text = file.read(file.size()); // allocates what it is asked for
     if (file.error() != QFileDevice::NoError) {
         throw JobError(shown + ": " + file.errorString().toStdString());
     }

@@ -101,7 +101,10 @@ private:
     std::map<Item, std::array<std::vector<Info>, 3>> m_lists;
 };
 
+// The engine's own sources instantiate it instead: a declaration cannot export.
+#if !defined(KVCAM_API_BUILD)
 extern template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
+#endif
 
 /// The engine's answer to one item of a signal-layer check.
 struct signal_check_result

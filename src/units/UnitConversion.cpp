@@ -2,11 +2,13 @@
 
 #include "support/Narrowing.h"
 
-#include <QRegExp>
+#include <QByteArray>
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <map>
+#include <vector>
 
 namespace KVCAM::UIAPI::Units {
 
@@ -81,15 +83,17 @@ QString areaText(int unit, double value)
 
 std::string plainText(double value)
 {
-    QString text = QStringLiteral("%1").arg(value, 0, 'f', -1, QLatin1Char(' '));
-    // Only the first match goes: the pattern is anchored, so there is at most one.
-    static QRegExp const trailingZeros(QStringLiteral("(\\.){0,1}0+$"));
-    QRegExp pattern = trailingZeros;
-    int const at = pattern.indexIn(text);
-    if (at >= 0) {
-        text.remove(at, pattern.matchedLength());
+    QByteArray const text = QString::number(value, 'f', 6).toLatin1();
+    int end = text.size();
+    while (end > 0 && text[end - 1] == '0') {
+        --end;
     }
-    return text.toStdString();
+    // The point goes only with the zeros behind it. There are always six decimals, so zeros of the integer part
+    // are never reached; "inf" and "nan" have nothing to drop.
+    if (end < text.size() && end > 0 && text[end - 1] == '.') {
+        --end;
+    }
+    return {text.constData(), static_cast<std::size_t>(end)};
 }
 
 std::string name(int unit)

@@ -131,6 +131,16 @@ TEST_F(FeaturesTest, AbsentFilesGiveNothingAndUnknownNamesAnError)
                                      "read; unpack it first, for example with gzip -d");
 }
 
+TEST_F(FeaturesTest, AFileOverTheLimitIsRefusedUnread)
+{
+    writeFeatures("");
+    QFile file("jobs/board/steps/pcb/layers/top/features");
+    ASSERT_TRUE(file.resize(512LL * 1024 * 1024 + 1)); // sparse: takes no room
+    EXPECT_EQ(read(), Texts());
+    EXPECT_EQ(Embedded::lastError(),
+              "jobs/board/steps/pcb/layers/top/features: the file is larger than 512 MiB");
+}
+
 TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
 {
     writeFeatures("$0 r10\n$1 rect4x5 M\n$2 r10 I\n$3 r3\nP 0 0 0 P 0 0\nP 0 0 1 P 0 0\nP 0 0 2 P 0 0\n");

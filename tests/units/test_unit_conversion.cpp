@@ -5,8 +5,11 @@
 #include "uiapi/flat/ViewAccess.h"
 #include "units/UnitConversion.h"
 
+#include <QRegExp>
+
 #include <cmath>
 #include <limits>
+#include <random>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -120,6 +123,20 @@ TEST(UnitConversion, PlainTextDropsTrailingZerosAndThePointWithThem)
           Row{100.0, "100"}, Row{1e9, "1000000000"}, Row{0.0000001, "0"}, Row{-0.0, "0"}, Row{1.05, "1.05"},
           Row{infinity, "inf"}, Row{std::nan(""), "nan"}}) {
         EXPECT_EQ(Units::plainText(row.value), row.text);
+    }
+}
+
+// The rule as a regular expression, which is what plainText() stands for.
+TEST(UnitConversion, PlainTextIsTheFixedTextWithoutItsTrailingZeros)
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<double> exponent(-8, 15);
+    for (int i = 0; i < 20000; ++i) {
+        double value = std::pow(10.0, exponent(random)) * (i % 2 == 0 ? 1 : -1);
+        value = i % 3 == 0 ? std::round(value * 100) / 100 : value;
+        QString text = QString("%1").arg(value, 0, 'f', -1, QChar(' '));
+        text.replace(QRegExp("(\\.){0,1}0+$"), "");
+        ASSERT_EQ(Units::plainText(value), text.toStdString());
     }
 }
 

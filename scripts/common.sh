@@ -1,0 +1,40 @@
+# What the scripts share. Sourced, not run.
+
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+
+# install_packages NAME...: installs the Debian packages that are missing, and says so. Without apt-get (another
+# distribution, Windows) it changes nothing: the build will name what it does not find.
+install_packages() {
+  command -v apt-get >/dev/null 2>&1 || return 0
+  local missing=() name
+  for name in "$@"; do
+    dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
+  done
+  [ "${#missing[@]}" -eq 0 ] && return 0
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null 2>&1 || { echo "These packages are missing: ${missing[*]}" >&2; return 1; }
+    as_root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}" >&2
+  "${as_root[@]}" apt-get update -qq >&2
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >&2
+}
+
+build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
+  libqt5sql5-sqlite libgoogle-glog-dev libjsoncpp-dev)
+# The offscreen platform takes the place of a display; it needs fonts to draw text with.
+run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)
+lint_packages=(clang-format-14 clang-tidy-14)
+
+# build PRESET [TARGET...]
+build() {
+  local preset=$1
+  shift
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" ${1+--target "$@"}
+}
