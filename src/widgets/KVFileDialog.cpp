@@ -42,10 +42,10 @@ KVFileDialog::KVFileDialog(QWidget * parent) : QFileDialog(parent, QString(), QS
 
 KVFileDialog::~KVFileDialog() = default;
 
-// QFileDialog::accept() would enter a selected folder.
 void KVFileDialog::onChoice()
 {
-    QDialog::accept();
+    // QFileDialog::accept() would enter a selected folder.
+    QDialog::accept(); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void KVFileDialog::on_m_ChooseAllPB_clicked()
@@ -53,5 +53,5 @@ void KVFileDialog::on_m_ChooseAllPB_clicked()
     if (auto * tree = findChild<QTreeView *>()) {
         tree->selectAll();
     }
-    QDialog::accept();
+    onChoice();
 }

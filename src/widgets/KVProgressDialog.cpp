@@ -34,7 +34,8 @@ void KVProgressDialog::keyPressEvent(QKeyEvent * event)
     if (event->key() == Qt::Key_Escape) {
         return;
     }
-    QWidget::keyPressEvent(event);
+    // Past QDialog: no key is to press a button or close the dialog.
+    QWidget::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void KVProgressDialog::keyReleaseEvent(QKeyEvent * event)
