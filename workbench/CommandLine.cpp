@@ -56,7 +56,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     if (!parser.parse(arguments)) {
         return failure(parser.errorText());
     }
-    if (parser.isSet(help)) {
+    if (parser.isSet(help) || parser.isSet("help-all")) {
         return {ParsedArguments::Outcome::Print, {}, parser.helpText()};
     }
     if (parser.isSet(version)) {

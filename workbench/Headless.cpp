@@ -13,8 +13,6 @@
 #include <QJsonArray>
 #include <QPixmap>
 
-#include <utility>
-
 namespace Workbench {
 
 namespace {
@@ -25,7 +23,7 @@ using namespace KVCAM::UIAPI;
 class Camera
 {
 public:
-    explicit Camera(QString folder) : m_folder(std::move(folder)) {}
+    explicit Camera(QString const & folder) : m_folder(folder) {}
 
     void take(QWidget & widget, QString const & name)
     {

@@ -60,23 +60,22 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
 
 SymbolsPage::SymbolsPage(std::string const & job, QWidget * parent) : QWidget(parent)
 {
-    m_table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
-                         tr("Features"), tr("Description")});
-    m_table->horizontalHeader()->setMaximumSectionSize(320);
+    auto * table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
+                              tr("Features"), tr("Description")});
+    table->horizontalHeader()->setMaximumSectionSize(320);
+    connect(table->horizontalHeader(), &QHeaderView::sectionResized, table, [table](int section) {
+        if (section == table->columnCount() - 1) {
+            table->resizeRowsToContents(); // descriptions wrap at the width of their column
+        }
+    });
     for (SymbolRow const & row : symbolRows(job)) {
-        addRow(*m_table,
+        addRow(*table,
                {row.stored, row.unit == 0 ? tr("mil") : tr("my"), row.inch, row.metric,
                 QString::number(row.features), row.description},
                {4});
     }
     auto * layout = new QVBoxLayout(this);
-    layout->addWidget(m_table);
-}
-
-void SymbolsPage::resizeEvent(QResizeEvent * event)
-{
-    QWidget::resizeEvent(event);
-    m_table->resizeRowsToContents(); // descriptions wrap at the width of their column
+    layout->addWidget(table);
 }
 
 } // namespace Workbench

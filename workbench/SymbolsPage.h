@@ -5,8 +5,6 @@
 #include <QJsonArray>
 #include <QWidget>
 
-class QTableWidget;
-
 namespace Workbench {
 
 /// One symbol name of the job in both units.
@@ -31,12 +29,6 @@ class SymbolsPage : public QWidget
 
 public:
     explicit SymbolsPage(std::string const & job, QWidget * parent = nullptr);
-
-protected:
-    void resizeEvent(QResizeEvent * event) override;
-
-private:
-    QTableWidget * m_table;
 };
 
 } // namespace Workbench
