@@ -62,12 +62,13 @@ SymbolsPage::SymbolsPage(std::string const & job, QWidget * parent) : QWidget(pa
 {
     auto * table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
                               tr("Features"), tr("Description")});
-    table->horizontalHeader()->setMaximumSectionSize(320);
-    connect(table->horizontalHeader(), &QHeaderView::sectionResized, table, [table](int section) {
-        if (section == table->columnCount() - 1) {
-            table->resizeRowsToContents(); // descriptions wrap at the width of their column
-        }
-    });
+    auto * header = table->horizontalHeader();
+    header->setMaximumSectionSize(-1);
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(table->columnCount() - 1, QHeaderView::Stretch);
+    // Descriptions wrap at the width of their column; it is final only when the header is done.
+    connect(header, &QHeaderView::sectionResized, table, &QTableWidget::resizeRowsToContents,
+            Qt::QueuedConnection);
     for (SymbolRow const & row : symbolRows(job)) {
         addRow(*table,
                {row.stored, row.unit == 0 ? tr("mil") : tr("my"), row.inch, row.metric,
