@@ -112,7 +112,7 @@ SettingsPage::SettingsPage(QWidget * parent) : QWidget(parent)
     form->setRowStretch(form->rowCount(), 1);
 
     m_diagnostics = makeTable({tr("File"), tr("Key"), tr("Finding"), tr("Text")});
-    m_diagnostics->setWordWrap(true);
+    wrapLastColumn(*m_diagnostics);
     auto * findings = new QGroupBox(tr("What the loaders found"));
     auto * findingsLayout = new QVBoxLayout(findings);
     m_summary = new QLabel;

@@ -4,7 +4,6 @@
 
 #include <UIAPICommon.h>
 
-#include <QHeaderView>
 #include <QJsonObject>
 #include <QVBoxLayout>
 
@@ -62,13 +61,7 @@ SymbolsPage::SymbolsPage(std::string const & job, QWidget * parent) : QWidget(pa
 {
     auto * table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
                               tr("Features"), tr("Description")});
-    auto * header = table->horizontalHeader();
-    header->setMaximumSectionSize(-1);
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(table->columnCount() - 1, QHeaderView::Stretch);
-    // Descriptions wrap at the width of their column; it is final only when the header is done.
-    connect(header, &QHeaderView::sectionResized, table, &QTableWidget::resizeRowsToContents,
-            Qt::QueuedConnection);
+    wrapLastColumn(*table);
     for (SymbolRow const & row : symbolRows(job)) {
         addRow(*table,
                {row.stored, row.unit == 0 ? tr("mil") : tr("my"), row.inch, row.metric,

@@ -28,6 +28,17 @@ void prepareTable(QTableWidget & table, QStringList const & titles)
     table.setAlternatingRowColors(true);
 }
 
+void wrapLastColumn(QTableWidget & table)
+{
+    auto * header = table.horizontalHeader();
+    header->setMaximumSectionSize(-1);
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(table.columnCount() - 1, QHeaderView::Stretch);
+    // Queued, since the widths are final only when the header is done.
+    QObject::connect(header, &QHeaderView::sectionResized, &table, &QTableWidget::resizeRowsToContents,
+                     Qt::QueuedConnection);
+}
+
 void addRow(QTableWidget & table, QStringList const & texts, QList<int> const & right)
 {
     int const row = table.rowCount();

@@ -1,5 +1,6 @@
 #include "BoardView.h"
 #include "FeatureDialog.h"
+#include "FeatureShapes.h"
 #include "PadSymbol.h"
 #include "Session.h"
 #include "SettingsPage.h"
@@ -14,11 +15,13 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineF>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
 
+#include <iterator>
 #include <memory>
 
 using namespace KVCAM::UIAPI;
@@ -137,6 +140,44 @@ TEST_F(Boards, TheSymbolFollowsTypedSizesAndTheUnit)
     }
     EXPECT_EQ(dialog.symbol(), inch);
     EXPECT_EQ(width->text(), "254.1");
+}
+
+TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
+{
+    writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\n"
+                                    "NAME=TOP\nPOLARITY=POSITIVE\nOLD_NAME=\n}\n");
+    writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+    writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 rect2000x1000\n$1 r100\n"
+                                                    "P 0 0 0 P 0 0\n"
+                                                    "P 0 0 0 P 0 1\n"
+                                                    "P 0 0 0 N 0 8 90\n"
+                                                    "A 1 0 0 1 0 0 1 P 0 N\n"
+                                                    "A 1 0 0 1 0 0 1 P 0 Y\n"
+                                                    "A 1 0 1 0 0 0 1 P 0 Y\n"
+                                                    "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOS 0 0\nOE\n"
+                                                    "OB 4 4 H\nOS 5 4\nOS 5 5\nOS 4 5\nOS 4 4\nOE\nSE\n");
+    Session session;
+    ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
+    auto const shapes = featureShapes("tiny", "pcb", "top");
+    QRectF const boxes[] = {
+        {-1000, -500, 2000, 1000},  // as it stands
+        {-500, -1000, 1000, 2000},  // a quarter turn
+        {-500, -1000, 1000, 2000},  // by angle
+        {0, 0, 1000, 1000},         // counter-clockwise from 3 to 12 o'clock
+        {-1000, -1000, 2000, 2000}, // clockwise the long way round
+        {-1000, -1000, 2000, 2000}, // a full circle
+        {0, 0, 9000, 9000},
+    };
+    ASSERT_EQ(shapes.size(), std::size(boxes));
+    for (std::size_t i = 0; i < shapes.size(); ++i) {
+        QRectF const box = shapes[i].path.boundingRect();
+        EXPECT_LT(QLineF(box.topLeft(), boxes[i].topLeft()).length(), 1) << i;
+        EXPECT_LT(QLineF(box.bottomRight(), boxes[i].bottomRight()).length(), 1) << i;
+        EXPECT_EQ(shapes[i].positive, i != 2) << i;
+    }
+    EXPECT_TRUE(shapes[6].path.contains(QPointF(1000, 1000)));
+    EXPECT_FALSE(shapes[6].path.contains(QPointF(4500, 4500)));
+    EXPECT_EQ(shapes[3].penWidth, 100);
 }
 
 TEST(ConfigurationPages, AnEditedSettingIsSavedAndReachesTheEngine)
