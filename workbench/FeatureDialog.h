@@ -45,6 +45,8 @@ public:
     /// has told the user.
     bool calculate(QString const & expression);
 
+    /// Lists the layer's symbol names below the symbol field until the focus leaves the list.
+    void showNames();
     /// Fills the remarks.
     void remark(QString const & author, QString const & note, QString const & document);
 
@@ -71,7 +73,6 @@ private:
     void sizeEdited();
     void judgeExpression();
     void refreshUnit();
-    void showNames();
     void attachFiles();
     bool isFollowing() const;
     QString padKey() const;

@@ -49,7 +49,7 @@ QLabel * wrappedLabel()
 {
     auto * label = new QLabel;
     label->setWordWrap(true);
-    label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
+    label->setMinimumHeight(3 * label->fontMetrics().lineSpacing());
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }

@@ -114,6 +114,9 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
         facts[shown == 0 ? "symbol in mil" : "symbol in my"] = dialog.symbol();
         camera.take(dialog, shown == 0 ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
     }
+    dialog.showNames();
+    camera.take(dialog, "feature-dialog-names.png");
+    dialog.setFocus(); // the list goes away by itself
     window.setLanguage(LANGUAGE_CHINESE);
     camera.take(dialog, "feature-dialog-chinese.png"); // which lets the dialog hear of the change
     facts["description in Chinese"] = dialog.description();

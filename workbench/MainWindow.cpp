@@ -151,7 +151,7 @@ void MainWindow::makeToolBar()
 
 void MainWindow::addPages()
 {
-    addPage(new SymbolsPage(m_session.job()), "symbols", tr("Symbols"));
+    addPage(new SymbolsPage(m_session.job(), m_views.front()->handle()), "symbols", tr("Symbols"));
     addPage(new SettingsPage, "settings", tr("Settings"));
     addPage(new TemplatesPage, "templates", tr("Templates"));
     addPage(new AttributesPage, "attributes", tr("Attributes"));

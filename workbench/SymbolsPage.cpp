@@ -4,6 +4,7 @@
 
 #include <UIAPICommon.h>
 
+#include <QGroupBox>
 #include <QJsonObject>
 #include <QVBoxLayout>
 
@@ -57,19 +58,55 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
     return symbols;
 }
 
-SymbolsPage::SymbolsPage(std::string const & job, QWidget * parent) : QWidget(parent)
+SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * parent)
+    : QWidget(parent), m_view(view)
 {
-    auto * table = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
-                              tr("Features"), tr("Description")});
-    wrapLastColumn(*table);
+    m_names = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
+                         tr("Features"), tr("Description")});
+    wrapLastColumn(*m_names);
     for (SymbolRow const & row : symbolRows(job)) {
-        addRow(*table,
+        addRow(*m_names,
                {row.stored, row.unit == 0 ? tr("mil") : tr("my"), row.inch, row.metric,
                 QString::number(row.features), row.description},
                {4});
     }
+    m_results = makeTable({tr("Function"), tr("Result")});
+    m_resultsTitle = new QGroupBox;
+    auto * resultsLayout = new QVBoxLayout(m_resultsTitle);
+    resultsLayout->addWidget(m_results);
+
     auto * layout = new QVBoxLayout(this);
-    layout->addWidget(table);
+    layout->addWidget(m_names, 3);
+    layout->addWidget(m_resultsTitle, 1);
+    connect(m_names, &QTableWidget::itemSelectionChanged, this, &SymbolsPage::showResults);
+    connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &SymbolsPage::showResults);
+    m_names->selectRow(0);
+}
+
+void SymbolsPage::showResults()
+{
+    m_results->setRowCount(0);
+    if (m_names->currentRow() < 0) {
+        return;
+    }
+    QString const name = m_names->item(m_names->currentRow(), 0)->text();
+    int const unit = getUnit(m_view);
+    m_resultsTitle->setTitle(
+        tr("%1 by each function, unit %2").arg(name, QString::fromStdString(getUnitString(m_view))));
+    auto const changed = [&name](auto change) {
+        QString copy = name;
+        change(copy);
+        return copy;
+    };
+    addRow(*m_results, {"setSymbolUIData", changed([&](QString & text) { setSymbolUIData(text, unit); })});
+    addRow(*m_results,
+           {"getSymbolNameByUnit", QString::fromStdString(getSymbolNameByUnit(name.toStdString(), unit))});
+    addRow(*m_results,
+           {"setSymbolDataByUnit", changed([&](QString & text) { setSymbolDataByUnit(m_view, text); })});
+    addRow(*m_results, {"setSymbolDataByMilUnit",
+                        changed([&](QString & text) { setSymbolDataByMilUnit(m_view, text); })});
+    addRow(*m_results,
+           {"setSymbolAPIData", changed([&](QString & text) { setSymbolAPIData(m_view, text); })});
 }
 
 } // namespace Workbench

@@ -5,6 +5,9 @@
 #include <QJsonArray>
 #include <QWidget>
 
+class QGroupBox;
+class QTableWidget;
+
 namespace Workbench {
 
 /// One symbol name of the job in both units.
@@ -22,13 +25,22 @@ struct SymbolRow
 std::vector<SymbolRow> symbolRows(std::string const & job);
 QJsonArray toJson(std::vector<SymbolRow> const & rows);
 
-/// The symbol names of the job as a table.
+/// The symbol names of the job as a table, and what each of the library's functions makes of the selected
+/// name in the unit of a view.
 class SymbolsPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit SymbolsPage(std::string const & job, QWidget * parent = nullptr);
+    SymbolsPage(std::string const & job, void const * view, QWidget * parent = nullptr);
+
+private:
+    void showResults();
+
+    void const * m_view;
+    QTableWidget * m_names;
+    QGroupBox * m_resultsTitle;
+    QTableWidget * m_results;
 };
 
 } // namespace Workbench

@@ -181,7 +181,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    EXPECT_EQ(pictures.size(), 8);
+    EXPECT_EQ(pictures.size(), 9);
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
