@@ -4,12 +4,18 @@
 
 #include "UIAPICommonVersion.h"
 
+#include "config/AutoMatrixTmp.h"
+#include "config/Diagnostics.h"
+#include "config/UIAPIGlobalVar.h"
 #include "support/MessagePresenter.h"
 #include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRecords.h"
 #include "uiapi/flat/Arithmetic.h"
+#include "uiapi/flat/Attributes.h"
+#include "uiapi/flat/AutoMatrix.h"
 #include "uiapi/flat/Files.h"
+#include "uiapi/flat/GlobalConfig.h"
 #include "uiapi/flat/ModifierKeys.h"
 #include "uiapi/flat/Selections.h"
 #include "uiapi/flat/ShowParameters.h"

@@ -10,12 +10,8 @@ ReadResult read(QString const & path, QIODevice::OpenMode extra)
 {
     ReadResult result;
     QFile file(path);
-    if (!file.exists()) {
-        result.status = ReadStatus::Missing;
-        return result;
-    }
     if (!file.open(QIODevice::ReadOnly | extra)) {
-        result.status = ReadStatus::OpenFailed;
+        result.status = file.exists() ? ReadStatus::OpenFailed : ReadStatus::Missing;
         return result;
     }
     QJsonParseError error;
@@ -35,8 +31,13 @@ WriteStatus replace(QString const & path, QByteArray const & bytes, QIODevice::O
     if (!file.open(QIODevice::WriteOnly | extra)) {
         return WriteStatus::OpenFailed;
     }
-    file.write(bytes); // a short write makes commit() fail
-    return file.commit() ? WriteStatus::Ok : WriteStatus::CommitFailed;
+    // Flushed here: what commit() flushes itself and cannot write, on a full disk, it would not notice and
+    // rename an empty file over the old one.
+    bool const written = file.write(bytes) == bytes.size() && file.flush();
+    if (!written) {
+        file.cancelWriting();
+    }
+    return file.commit() && written ? WriteStatus::Ok : WriteStatus::CommitFailed;
 }
 
 } // namespace KVCAM::UIAPI::JsonFile

@@ -19,7 +19,10 @@ UIAPICommonPara * UIAPICommonPara::instance()
 
 // What is loaded here is loaded in this order, which the log shows: the range files, the category tables, the
 // attribute list, and last the EDA link. No flat function may be called: instance() is not stored yet.
-UIAPICommonPara::UIAPICommonPara() : d(new Private) {}
+UIAPICommonPara::UIAPICommonPara() : d(new Private)
+{
+    d->builtInAttributes.initTotalAttributes();
+}
 
 UIAPICommonPara::~UIAPICommonPara()
 {
@@ -127,6 +130,11 @@ void UIAPICommonPara::setSplitPtr(QWidget * widget)
 LayerState * UIAPICommonPara::getLayerState()
 {
     return &d->layerState;
+}
+
+void UIAPICommonPara::getChildAttribute(std::string name, std::vector<std::string> & out) const
+{
+    d->builtInAttributes.getChildAttribute(name, out);
 }
 
 } // namespace KVCAM::UIAPI

@@ -106,6 +106,11 @@ public:
     /// Owned by this object.
     LayerState * getLayerState();
 
+    // --- Attributes ---------------------------------------------------------------------------------------
+
+    /// Assigns the values that a built-in system attribute (".drill") offers; none for any other name.
+    void getChildAttribute(std::string name, std::vector<std::string> & out) const;
+
     // --- Units --------------------------------------------------------------------------------------------
     // An unknown view counts as an inch view, after the ERROR line of getShowPara().
 

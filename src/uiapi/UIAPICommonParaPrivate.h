@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/BuiltInAttributes.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
 
@@ -17,6 +18,7 @@ struct UIAPICommonPara::Private
     QWidget * input = nullptr; // not owned
     QWidget * split = nullptr; // not owned
     LayerState layerState;
+    BuiltInAttributes builtInAttributes;
 };
 
 } // namespace KVCAM::UIAPI

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/UIAPIGlobalVar.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "uiapi/UIAPICommonPara.h"
@@ -13,6 +14,13 @@ auto onCommonPara(Body && body, int line = __builtin_LINE())
 {
     return guarded(
         Log::commonPara, [&] { return body(*UIAPICommonPara::instance()); }, line);
+}
+
+template <class Body>
+auto onGlobalVar(Body && body, int line = __builtin_LINE())
+{
+    return guarded(
+        Log::globalVar, [&] { return body(*UIAPIGlobalVar::instance()); }, line);
 }
 
 /// One field of a record that a getter of UIAPICommonPara copies out. The record starts with its defaults, so

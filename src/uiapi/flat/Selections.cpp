@@ -47,6 +47,16 @@ bool getSelectionTouching(void const * view)
     return Flat::readField(view, &UIAPICommonPara::getSelection, &Selection::touching);
 }
 
+bool getSelectionOutsideHint()
+{
+    return Flat::onGlobalVar([](UIAPIGlobalVar & global) { return global.getSelectionOutsideHint(); });
+}
+
+void setSelectionOutsideHint(bool value)
+{
+    Flat::onGlobalVar([&](UIAPIGlobalVar & global) { global.setSelectionOutsideHint(value); });
+}
+
 int getSelectedPara(void const * view)
 {
     return Flat::readField(view, &UIAPICommonPara::getSelectInfo, &select_info::selected_para);

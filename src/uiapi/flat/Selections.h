@@ -15,6 +15,12 @@ UIAPICOMMON_EXPORT void setSelectionSelect(void const * view, bool value);
 UIAPICOMMON_EXPORT void setSelectionTouching(void const * view, bool value);
 UIAPICOMMON_EXPORT bool getSelectionTouching(void const * view);
 
+/// The setting of "server.json"; false where it holds none. No view is concerned.
+UIAPICOMMON_EXPORT bool getSelectionOutsideHint();
+/// Saves the settings. A file that cannot be written stays as it was; a missing configuration directory is
+/// logged at WARNING and created, and nothing is written.
+UIAPICOMMON_EXPORT void setSelectionOutsideHint(bool value);
+
 UIAPICOMMON_EXPORT int getSelectedPara(void const * view);
 UIAPICOMMON_EXPORT void setSelectedPara(void const * view, int para);
 

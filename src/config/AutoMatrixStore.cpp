@@ -1,0 +1,206 @@
+#include "config/AutoMatrixStore.h"
+
+#include "config/ConfigFiles.h"
+#include "support/HostPaths.h"
+#include "support/MessagePresenter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QObject>
+
+#include <algorithm>
+#include <utility>
+
+namespace KVCAM::UIAPI {
+namespace {
+
+constexpr ConfigFiles::LoadTexts texts = {"auto matrix json文件不存在！路径：",
+                                          "auto matrix json文件打开失败!路径："};
+constexpr char const * arrayKey = "template";
+constexpr char const * nameKey = "name";
+constexpr char const * prefixKey = "prefix";
+constexpr char const * suffixKey = "suffix";
+
+/// User templates count from here however many are shipped: indices 0 and 1 are the shipped file's own.
+constexpr int firstUserIndex = 2;
+
+QString userFolder()
+{
+    return QDir::currentPath() + QStringLiteral("/autoMatrix");
+}
+
+QString userFile(QString const & name)
+{
+    return userFolder() + QLatin1Char('/') + name + QStringLiteral(".json");
+}
+
+using RoleText = std::string AutoMatrixTmp::*Ext::AutoMatrixRole::*;
+
+void readRoles(QJsonObject const & object, RoleText side, AutoMatrixTmp & out, JsonPlace const & place,
+               FileDiagnostics const & diagnostics)
+{
+    for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
+        QString const key = member.key();
+        auto const role = std::find_if(Ext::autoMatrixRoles.begin(), Ext::autoMatrixRoles.end(),
+                                       [&](auto const & entry) { return key == QLatin1String(entry.key); });
+        if (role == Ext::autoMatrixRoles.end()) {
+            diagnostics.unknownKey(place, key);
+            continue;
+        }
+        QJsonValue const value = member.value();
+        diagnostics.checkType(value, QJsonValue::String, place, role->key);
+        out.*((*role).*side) = ConfigFiles::textOf(value);
+    }
+}
+
+// The prefix or suffix object of a template; undefined, after a report, where there is none.
+QJsonValue rolesObject(QJsonObject const & element, char const * key, JsonPlace const & place,
+                       FileDiagnostics const & diagnostics)
+{
+    QJsonValue const value = element.value(QLatin1String(key));
+    if (value.isUndefined()) {
+        diagnostics.missingKey(place, key);
+    }
+    return diagnostics.checkType(value, QJsonValue::Object, place, key) ? value : QJsonValue::Undefined;
+}
+
+// False for an element that is no template.
+bool readTemplate(QJsonValue const & element, int position, FileDiagnostics const & diagnostics,
+                  AutoMatrixTmp & out)
+{
+    JsonPlace const place{arrayKey, position};
+    if (!diagnostics.checkType(element, QJsonValue::Object, place)) {
+        return false;
+    }
+    QJsonObject const object = element.toObject();
+    QJsonValue const prefixes = rolesObject(object, prefixKey, place, diagnostics);
+    QJsonValue const suffixes = rolesObject(object, suffixKey, place, diagnostics);
+    if (!prefixes.isObject() || !suffixes.isObject()) {
+        return false;
+    }
+    QJsonValue const name = object.value(QLatin1String(nameKey));
+    diagnostics.checkType(name, QJsonValue::String, place, nameKey);
+    diagnostics.checkKeys(object, name.isUndefined() ? 2 : 3, {nameKey, prefixKey, suffixKey}, place);
+    out.name = ConfigFiles::textOf(name);
+    readRoles(prefixes.toObject(), &Ext::AutoMatrixRole::prefix, out, {arrayKey, position, prefixKey},
+              diagnostics);
+    readRoles(suffixes.toObject(), &Ext::AutoMatrixRole::suffix, out, {arrayKey, position, suffixKey},
+              diagnostics);
+    return true;
+}
+
+QJsonObject rolesToJson(AutoMatrixTmp const & tmpl, RoleText side)
+{
+    QJsonObject object;
+    for (Ext::AutoMatrixRole const & role : Ext::autoMatrixRoles) {
+        object[QLatin1String(role.key)] = QString::fromStdString(tmpl.*(role.*side));
+    }
+    return object;
+}
+
+} // namespace
+
+bool isTemplateFileName(QString const & name)
+{
+    return name != QLatin1String("..") && std::none_of(name.cbegin(), name.cend(), [](QChar c) {
+               return c == QLatin1Char('/') || c == QLatin1Char('\\') || c == QLatin1Char(':') ||
+                      c.category() == QChar::Other_Control;
+           });
+}
+
+QByteArray writeAutoMatrix(AutoMatrixTmp const & tmpl)
+{
+    QJsonObject const element{{QLatin1String(nameKey), QString::fromStdString(tmpl.name)},
+                              {QLatin1String(prefixKey), rolesToJson(tmpl, &Ext::AutoMatrixRole::prefix)},
+                              {QLatin1String(suffixKey), rolesToJson(tmpl, &Ext::AutoMatrixRole::suffix)}};
+    return QJsonDocument(QJsonObject{{QLatin1String(arrayKey), QJsonArray{element}}})
+        .toJson(QJsonDocument::Indented);
+}
+
+int AutoMatrixStore::getAutomatrixMatrixIndex(QString const & name) const
+{
+    std::string const wanted = name.toStdString();
+    auto const found = std::find_if(m_templates.begin(), m_templates.end(),
+                                    [&](auto const & entry) { return entry.second.name == wanted; });
+    return found == m_templates.end() ? -1 : found->first;
+}
+
+void AutoMatrixStore::saveCurrentAutoMatrixTmp(int index, QString const & name, AutoMatrixTmp const & tmpl)
+{
+    m_templates.insert_or_assign(index, tmpl);
+    saveAutoMatrixtoJson(name, tmpl);
+}
+
+void AutoMatrixStore::deleteAutoMatrix(int index, QString const & name)
+{
+    m_templates.erase(index);
+    if (isTemplateFileName(name)) {
+        QFile::remove(userFile(name));
+    }
+}
+
+void AutoMatrixStore::getAutoMatrixTmpMapFromJson()
+{
+    m_templateDirectory = HostPaths::configurationDirectory();
+    int index = 0;
+    readAutoMatrixFromJson(m_templateDirectory + QStringLiteral("automatrix.json"), index);
+}
+
+void AutoMatrixStore::getAutoMatrixUserTmpFromJson()
+{
+    QString const folder = userFolder();
+    if (!QFileInfo(folder).isDir()) {
+        return;
+    }
+    int index = firstUserIndex; // one count over all files
+    // Hidden ones too: a template may be called ".x".
+    QFileInfoList const files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (QFileInfo const & file : files) {
+        if (file.suffix() == QLatin1String("json")) {
+            readAutoMatrixFromJson(file.filePath(), index);
+        }
+    }
+}
+
+void AutoMatrixStore::selectFirst()
+{
+    if (!m_templates.empty()) {
+        m_current = m_templates.begin()->second;
+    }
+}
+
+void AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
+{
+    FileDiagnostics const diagnostics(path);
+    QJsonArray const array = ConfigFiles::loadArray(path, texts, arrayKey, diagnostics, QIODevice::Text);
+    for (int i = 0; i < array.size(); ++i) {
+        AutoMatrixTmp tmpl;
+        if (!readTemplate(array.at(i), i, diagnostics, tmpl)) {
+            continue; // uses no index
+        }
+        // A template whose index is taken is left out and still uses it up.
+        if (auto const [entry, isNew] = m_templates.try_emplace(index, std::move(tmpl)); !isNew) {
+            diagnostics.report(Ext::DiagnosticKind::IndexTaken, JsonPlace{arrayKey, i}.key(),
+                               QStringLiteral("The template was not added: index %1 belongs to \"%2\".")
+                                   .arg(QString::number(index), QString::fromStdString(entry->second.name)));
+        }
+        ++index;
+    }
+}
+
+void AutoMatrixStore::saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl)
+{
+    bool saved = false;
+    if (isTemplateFileName(name)) {
+        QDir().mkpath(userFolder());
+        saved = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl)) != JsonFile::WriteStatus::OpenFailed;
+    }
+    if (!saved) {
+        showInformation(nullptr, QObject::tr("File open failed"));
+    }
+}
+
+} // namespace KVCAM::UIAPI

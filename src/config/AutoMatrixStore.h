@@ -1,0 +1,59 @@
+#pragma once
+
+#include "config/AutoMatrixTmp.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <map>
+
+class QJsonObject;
+
+namespace KVCAM::UIAPI {
+
+class FileDiagnostics;
+
+/// The auto-matrix templates by index, and the one that is selected. The shipped ones come from
+/// "automatrix.json" in the configuration directory, which is only read; the user's ones stand one by one in
+/// the folder "autoMatrix" below the current directory.
+class AutoMatrixStore
+{
+public:
+    std::map<int, AutoMatrixTmp> const & getAutoMatrixTmpMap() const { return m_templates; }
+    AutoMatrixTmp const & getCurrentAutoMatrixTmp() const { return m_current; }
+    void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl) { m_current = tmpl; }
+    /// The smallest index of a template with this name, compared byte for byte; -1 if there is none.
+    int getAutomatrixMatrixIndex(QString const & name) const;
+    /// Stores the template under the index and writes its file.
+    void saveCurrentAutoMatrixTmp(int index, QString const & name, AutoMatrixTmp const & tmpl);
+    /// Removes the entry and the file of this name, as far as there are such.
+    void deleteAutoMatrix(int index, QString const & name);
+
+    // Loading: the shipped set first, then the user's, then the selection.
+
+    /// Lets through what the host's path helpers throw.
+    void getAutoMatrixTmpMapFromJson();
+    void getAutoMatrixUserTmpFromJson();
+    /// Selects the template with the smallest index, if there is one.
+    void selectFirst();
+
+    /// Adds the templates of one file from `index` on, which counts on. Failures are logged.
+    void readAutoMatrixFromJson(QString const & path, int & index);
+    /// Writes a template to the user's file of this name. A file that cannot be opened, and a name that would
+    /// leave the folder, give the box "File open failed".
+    void saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl);
+
+private:
+    std::map<int, AutoMatrixTmp> m_templates;
+    AutoMatrixTmp m_current;
+    QString m_templateDirectory;
+};
+
+/// The content of a file with this one template: all its 25 texts, indented.
+QByteArray writeAutoMatrix(AutoMatrixTmp const & tmpl);
+
+/// Whether name + ".json" is a file directly in its folder, on every platform: no "/", "\", ":" or control
+/// character, and not "..".
+bool isTemplateFileName(QString const & name);
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,95 @@
+#include "config/ConfigFiles.h"
+
+#include "support/Log.h"
+
+#include <algorithm>
+
+namespace KVCAM::UIAPI::ConfigFiles {
+namespace {
+
+using JsonFile::ReadStatus;
+
+void logLine(char const * text, QString const & shown)
+{
+    if (text != nullptr) {
+        Log::error(Log::globalVar, text + shown.toStdString());
+    }
+}
+
+void log(ReadStatus status, LoadTexts const & texts, QString const & shown, bool allSteps)
+{
+    if (status == ReadStatus::Missing) {
+        logLine(texts.missing, shown);
+    }
+    if (status == ReadStatus::OpenFailed || (allSteps && status == ReadStatus::Missing)) {
+        logLine(texts.openFailed, shown);
+    }
+    if (status == ReadStatus::ParseError || (allSteps && status != ReadStatus::Ok)) {
+        logLine(parseFailed, shown);
+    }
+}
+
+void diagnose(JsonFile::ReadResult const & result, FileDiagnostics const & diagnostics)
+{
+    using Ext::DiagnosticKind;
+    switch (result.status) {
+    case ReadStatus::Ok:
+        break;
+    case ReadStatus::Missing:
+        diagnostics.report(DiagnosticKind::MissingFile, {}, QStringLiteral("There is no such file."));
+        break;
+    case ReadStatus::OpenFailed:
+        diagnostics.report(DiagnosticKind::OpenFailed, {},
+                           QStringLiteral("The file cannot be opened for reading."));
+        break;
+    case ReadStatus::ParseError:
+        diagnostics.report(DiagnosticKind::ParseError, {},
+                           QStringLiteral("The file is not JSON: %1 at byte offset %2.")
+                               .arg(result.parseError, QString::number(result.errorOffset)));
+        break;
+    }
+}
+
+} // namespace
+
+char const * const parseFailed = "解析config json文件错误！路径：";
+
+JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown, Steps steps,
+                          QIODevice::OpenMode extra)
+{
+    JsonFile::ReadResult result = JsonFile::read(path, extra);
+    log(result.status, texts, shown, steps == Steps::All);
+    diagnose(result, FileDiagnostics(path));
+    return result;
+}
+
+QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
+                     FileDiagnostics const & diagnostics, QIODevice::OpenMode extra)
+{
+    JsonFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra);
+    if (result.status != ReadStatus::Ok || !diagnostics.checkTop(result.document.isObject(), "an object")) {
+        return {};
+    }
+    QJsonObject const top = result.document.object();
+    QJsonValue const list = top.value(QLatin1String(key));
+    if (list.isUndefined()) {
+        diagnostics.missingKey({}, key);
+    }
+    diagnostics.checkType(list, QJsonValue::Array, {}, key);
+    diagnostics.checkKeys(top, list.isUndefined() ? 0 : 1, {key}, {});
+    return list.toArray();
+}
+
+std::string textOf(QJsonValue const & value)
+{
+    QString const text = value.toString();
+    if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x80; })) {
+        return text.toStdString();
+    }
+    // Nearly every text is ASCII; this saves the byte array in between, which shows in the time of a start.
+    std::string out(static_cast<std::size_t>(text.size()), '\0');
+    std::transform(text.cbegin(), text.cend(), out.begin(), [](QChar c) { return c.toLatin1(); });
+    return out;
+}
+
+} // namespace KVCAM::UIAPI::ConfigFiles

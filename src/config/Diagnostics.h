@@ -1,0 +1,44 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+#include <QString>
+
+#include <vector>
+
+/// Additions to the fixed interface. They are opt-in and change none of its results.
+namespace KVCAM::UIAPI::Ext {
+
+/// What a loader found wrong with a file.
+enum class DiagnosticKind : int
+{
+    MissingFile,      ///< no such file; its content counts as empty
+    OpenFailed,       ///< there, but it cannot be opened for reading
+    ParseError,       ///< not JSON; the text names the byte offset
+    MissingKey,       ///< a key that the loader looks for is absent
+    WrongType,        ///< a value of another JSON type than the loader takes, read as its neutral value
+    UnknownKey,       ///< a key that no loader reads
+    DuplicateElement, ///< an element whose name an earlier element of the file bears
+    KeyNotReadBack,   ///< a key that is written at a save and not read at a start
+    IndexTaken        ///< a template that was not added, because its index is in use
+};
+
+/// One finding.
+struct Diagnostic
+{
+    QString file; ///< the path as the loader opened it
+    QString key;  ///< where in the file, "TotalAttributes[3].unit"; empty for the file as a whole
+    DiagnosticKind kind = DiagnosticKind::MissingFile;
+    QString text; ///< one English sentence for people
+};
+
+/// What the loaders have found since the process started, in the order in which they found it. Empty until
+/// something is loaded: asking creates no singleton and reads no file. GUI thread only.
+UIAPICOMMON_EXPORT std::vector<Diagnostic> diagnostics();
+
+/// Whether the first save of the process that writes "server.json" keeps the old file beside it as
+/// "server.json.bak" (an older one is replaced), when the last load failed or the file holds keys that the
+/// save would drop. Off until set. A backup that cannot be written is given up silently.
+UIAPICOMMON_EXPORT void setKeepBackup(bool keep);
+
+} // namespace KVCAM::UIAPI::Ext

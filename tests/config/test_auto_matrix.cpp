@@ -1,0 +1,226 @@
+#include "ConfigTest.h"
+
+#include "config/AutoMatrixStore.h"
+#include "uiapi/flat/AutoMatrix.h"
+
+#include <QJsonArray>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+class AutoMatrixTest : public ConfigTest
+{
+protected:
+    std::string const userFolder = QDir::currentPath().toStdString() + "/autoMatrix/";
+
+    /// A template file with one element for each name.
+    static QByteArray fileOf(std::initializer_list<char const *> names)
+    {
+        QJsonArray elements;
+        for (char const * name : names) {
+            elements.append(
+                QJsonObject{{"name", name}, {"prefix", QJsonObject()}, {"suffix", QJsonObject()}});
+        }
+        return QJsonDocument(QJsonObject{{"template", elements}}).toJson();
+    }
+    static AutoMatrixTmp named(char const * name)
+    {
+        AutoMatrixTmp tmpl;
+        tmpl.name = name;
+        return tmpl;
+    }
+    void ship(QByteArray const & bytes) { writeFile(config + "automatrix.json", bytes); }
+    /// "0=a 2=b": what a start finds.
+    std::string indices()
+    {
+        restartQuietly();
+        std::string shown;
+        for (auto const & [index, tmpl] : getAutoMatrixTmpMap()) {
+            shown += (shown.empty() ? "" : " ") + std::to_string(index) + "=" + tmpl.name;
+        }
+        return shown;
+    }
+};
+
+TEST_F(AutoMatrixTest, ShippedTemplatesCountFromZeroAndUserTemplatesFromTwo)
+{
+    struct Row
+    {
+        QByteArray shipped;
+        std::vector<std::pair<char const *, QByteArray>> user;
+        char const * expected;
+    };
+    QByteArray const element = R"({"name":"s","prefix":{},"suffix":{}})";
+    for (Row const & row : {
+             Row{fileOf({"a"}), {}, "0=a"},
+             Row{fileOf({"a"}), {{"u.json", fileOf({"u"})}}, "0=a 2=u"},
+             Row{fileOf({}), {{"u.json", fileOf({"u"})}}, "2=u"},
+             Row{fileOf({"a", "b", "c"}), {{"u.json", fileOf({"u"})}}, "0=a 1=b 2=c"},
+             // A taken index is used up: the second user template gets the one after it.
+             Row{fileOf({"a", "b", "c"}), {{"u.json", fileOf({"u", "v"})}}, "0=a 1=b 2=c 3=v"},
+             // One count over all files, which are taken by name and only with the exact suffix.
+             Row{fileOf({}),
+                 {{"b.json", fileOf({"x", "y"})},
+                  {"a.json", fileOf({"z"})},
+                  {"B.json", fileOf({"first"})},
+                  {"c.JSON", fileOf({"no"})},
+                  {"d.json.txt", fileOf({"no"})},
+                  {"e.f.json", fileOf({"last"})},
+                  {"sub.json/in.json", fileOf({"no"})}},
+                 "2=first 3=z 4=x 5=y 6=last"},
+             // What is no template is skipped and uses no index.
+             Row{R"({"template":[1,{"prefix":{}},{"prefix":{},"suffix":[]},)" + element + "]}", {}, "0=s"},
+             Row{R"({"template":{"a":1}})", {}, ""},
+             Row{R"([1])", {}, ""},
+             Row{R"({"other":[]})", {}, ""},
+         }) {
+        QDir("config").removeRecursively();
+        QDir("autoMatrix").removeRecursively();
+        ship(row.shipped);
+        for (auto const & [name, bytes] : row.user) {
+            writeFile(QString("autoMatrix/") + name, bytes);
+        }
+        EXPECT_EQ(indices(), row.expected) << row.shipped.toStdString();
+    }
+}
+
+TEST_F(AutoMatrixTest, EachRoleHasItsPrefixAndItsSuffix)
+{
+    char const * const keys[] = {"solder_paste_top",
+                                 "silk_screen_top",
+                                 "solder_mask_top",
+                                 "signal_top",
+                                 "signal",
+                                 "signal_bottom",
+                                 "solder_mask_bottom",
+                                 "silk_screen_bottom",
+                                 "solder_paste_bottom",
+                                 "drill",
+                                 "rout",
+                                 "outline"};
+    // Name, prefixes, suffixes: the order of the aggregate.
+    AutoMatrixTmp const tmpl{"0",  "1",  "2",  "3",  "4",  "5",  "6",  "7",  "8",  "9",  "10", "11", "12",
+                             "13", "14", "15", "16", "17", "18", "19", "20", "21", "22", "23", "24"};
+    restartQuietly();
+    saveCurrentAutoMatrixTmp(7, "mine", tmpl);
+    QJsonArray const elements = readObject("autoMatrix/mine.json")["template"].toArray();
+    ASSERT_EQ(elements.size(), 1);
+    QJsonObject expected{{"name", "0"}};
+    QJsonObject prefix;
+    QJsonObject suffix;
+    for (int i = 0; i < 12; ++i) {
+        prefix[keys[i]] = QString::number(1 + i);
+        suffix[keys[i]] = QString::number(13 + i);
+    }
+    expected["prefix"] = prefix;
+    expected["suffix"] = suffix;
+    EXPECT_EQ(elements[0].toObject(), expected);
+
+    restartQuietly();
+    AutoMatrixTmp const read = getCurrentAutoMatrixTmp();
+    EXPECT_EQ(read.name + read.prefix_solder_paste_top + read.prefix_outline + read.suffix_solder_paste_top +
+                  read.suffix_outline,
+              "01121324");
+    EXPECT_EQ(writeAutoMatrix(read), readFile("autoMatrix/mine.json")) << "there and back";
+}
+
+TEST_F(AutoMatrixTest, ValuesThatAreNoTextsAndMissingRolesReadAsEmpty)
+{
+    ship(R"({"template":[{"name":5,"prefix":{"drill":1,"rout":null,"signal":"l"},"suffix":{}}]})");
+    restartQuietly();
+    AutoMatrixTmp const tmpl = getAutoMatrixTmpMap().at(0);
+    EXPECT_EQ(tmpl.name, "");
+    EXPECT_EQ(tmpl.prefix_drill + tmpl.prefix_rout + tmpl.suffix_signal, "");
+    EXPECT_EQ(tmpl.prefix_signal, "l");
+}
+
+TEST_F(AutoMatrixTest, FailuresToLoadAreLoggedWithTheFilesPathAndOneFileCannotSpoilTheNext)
+{
+    ship("{");
+    writeFile("autoMatrix/a.json", "");
+    writeFile("autoMatrix/b.json", fileOf({"b"}));
+    AutoMatrixStore store;
+    store.getAutoMatrixTmpMapFromJson();
+    store.getAutoMatrixUserTmpFromJson();
+    EXPECT_EQ(log.take(),
+              (Lines{globalError("解析config json文件错误！路径：" + directory + "automatrix.json"),
+                     globalError("解析config json文件错误！路径：" + userFolder + "a.json")}));
+    EXPECT_EQ(store.getAutomatrixMatrixIndex("b"), 2);
+
+    ASSERT_TRUE(QFile::remove(config + "automatrix.json"));
+    store.getAutoMatrixTmpMapFromJson();
+    EXPECT_EQ(log.take(), noTemplates);
+    ASSERT_TRUE(QDir().mkdir(config + "automatrix.json"));
+    store.getAutoMatrixTmpMapFromJson();
+    EXPECT_EQ(log.take(),
+              Lines{globalError("auto matrix json文件打开失败!路径：" + directory + "automatrix.json")});
+}
+
+TEST_F(AutoMatrixTest, NamesAreComparedByteForByteAndTheSmallestIndexWins)
+{
+    ship(fileOf({"x", "twice", "twice", "Größe"}));
+    restartQuietly();
+    EXPECT_EQ(getAutomatrixMatrixIndex("twice"), 1);
+    EXPECT_EQ(getAutomatrixMatrixIndex(QString::fromUtf8("Größe")), 3);
+    EXPECT_EQ(getAutomatrixMatrixIndex("X"), -1);
+    EXPECT_EQ(getAutomatrixMatrixIndex(""), -1);
+}
+
+TEST_F(AutoMatrixTest, SavingAndDeletingChangeTheMapAndTheFileButNotTheSelection)
+{
+    ship(fileOf({"shipped"}));
+    restartQuietly();
+    AutoMatrixTmp mine;
+    mine.name = "inner name";
+    mine.prefix_drill = "d";
+    saveCurrentAutoMatrixTmp(0, "file name", mine);
+    EXPECT_EQ(getCurrentAutoMatrixTmp().name, "shipped");
+    EXPECT_EQ(getAutomatrixMatrixIndex("inner name"), 0) << "overwritten";
+    EXPECT_EQ(indices(), "0=shipped 2=inner name") << "the shipped file is never written";
+    EXPECT_EQ(getAutoMatrixTmpMap().at(2).prefix_drill, "d");
+
+    setCurrentAutoMatrixTmp(mine);
+    deleteAutoMatrix(2, "file name");
+    EXPECT_EQ(getAutomatrixMatrixIndex("inner name"), -1);
+    EXPECT_FALSE(QFile::exists("autoMatrix/file name.json"));
+    EXPECT_EQ(getCurrentAutoMatrixTmp().name, "inner name");
+    deleteAutoMatrix(2, "file name");
+    deleteAutoMatrix(-5, "");
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(AutoMatrixTest, AFileThatCannotBeOpenedGivesTheBoxAndTheTemplateStaysInTheMap)
+{
+    ASSERT_TRUE(QDir().mkpath("autoMatrix/taken.json"));
+    restartQuietly();
+    saveCurrentAutoMatrixTmp(4, "taken", named("t"));
+    EXPECT_EQ(boxes.take(), Lines{informationBox("File open failed")});
+    EXPECT_EQ(boxes.lastParent(), nullptr);
+    EXPECT_EQ(getAutomatrixMatrixIndex("t"), 4);
+    deleteAutoMatrix(4, "taken");
+    EXPECT_TRUE(QDir("autoMatrix/taken.json").exists());
+}
+
+TEST_F(AutoMatrixTest, ANameThatWouldLeaveTheFolderTouchesNoFile)
+{
+    writeFile("victim.json", "{}");
+    restartQuietly();
+    for (char const * name : {"../victim", "..", "a/b", "..\\victim", "c:victim", "a\nb", "a\tb", "\x7f"}) {
+        saveCurrentAutoMatrixTmp(1, name, named("m"));
+        EXPECT_EQ(boxes.take(), Lines{informationBox("File open failed")}) << name;
+        EXPECT_EQ(getAutomatrixMatrixIndex("m"), 1) << name;
+        deleteAutoMatrix(1, name);
+        EXPECT_EQ(getAutomatrixMatrixIndex("m"), -1) << name;
+    }
+    EXPECT_EQ(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"victim.json"});
+    EXPECT_EQ(readFile("victim.json"), "{}");
+    for (char const * name : {"a..b", "v1.2", ".hidden", "模板", "with blank"}) {
+        saveCurrentAutoMatrixTmp(1, QString::fromUtf8(name), named("m"));
+        EXPECT_EQ(indices(), "2=m") << name;
+        deleteAutoMatrix(1, QString::fromUtf8(name));
+    }
+}
+
+} // namespace

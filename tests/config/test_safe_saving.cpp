@@ -1,0 +1,164 @@
+#include "ConfigTest.h"
+#include "Generation.h"
+
+#include "support/JsonFile.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QThread>
+
+#include <iostream>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+// What stands in the settings file: the number of its generation, -1 for a file that is not whole.
+int generationIn(QString const & path)
+{
+    JsonFile::ReadResult const result = JsonFile::read(path);
+    QJsonObject const object = result.document.object();
+    std::string const text = object["ServerIp"].toString().toStdString();
+    int const number = QString::fromStdString(text).section(':', 0, 0).toInt();
+    return object.size() == 17 && text == generation(number) ? number : -1;
+}
+
+class SafeSaving : public ConfigTest
+{
+protected:
+    QString const file = config + "server.json";
+
+    static int write(QStringList const & arguments)
+    {
+        QProcess writer;
+        writer.start(CONFIG_WRITER, arguments);
+        return writer.waitForFinished() && writer.exitStatus() == QProcess::NormalExit ? writer.exitCode()
+                                                                                       : -1;
+    }
+    static bool isUnix()
+    {
+#ifdef Q_OS_UNIX
+        return true;
+#else
+        return false;
+#endif
+    }
+};
+
+// UIAPI_KILL_RUNS sets the number of runs. Fifteen seconds end them whatever the number.
+TEST_F(SafeSaving, AKilledProcessLeavesTheOldOrTheNewFileWhole)
+{
+    bool isSet = false;
+    int const wanted = qEnvironmentVariableIntValue("UIAPI_KILL_RUNS", &isSet);
+    int const runs = isSet ? wanted : 200;
+    ASSERT_TRUE(QDir().mkdir("config"));
+    ASSERT_EQ(write({".", "once", "1"}), 0);
+    ASSERT_EQ(generationIn(file), 1);
+
+    int last = 1;
+    int done = 0;
+    int losses = 0;
+    int leftBehind = 0;
+    QElapsedTimer clock;
+    for (clock.start(); done < runs && clock.elapsed() < 15000; ++done) {
+        QProcess writer;
+        writer.start(CONFIG_WRITER, {".", "loop", QString::number(last + 1)});
+        ASSERT_TRUE(writer.waitForReadyRead()) << writer.errorString().toStdString();
+        QThread::usleep(QRandomGenerator::global()->bounded(quint32(12000)));
+        writer.kill();
+        ASSERT_TRUE(writer.waitForFinished());
+        int const found = generationIn(file);
+        losses += found < last ? 1 : 0; // not whole, or older than what stood there
+        last = std::max(last, found);
+        // Most of what was begun has no name yet and goes with its process.
+        for (QString const & name : QDir(config).entryList({"server.json.*"}, QDir::Files)) {
+            ++leftBehind;
+            QFile::remove(config + name);
+        }
+    }
+    std::cout << done << " kills, " << last << " saves, " << leftBehind << " temporary files left, " << losses
+              << " losses\n";
+    EXPECT_EQ(losses, 0);
+    EXPECT_GT(done, 0);
+    EXPECT_GT(last, 1) << "no run came to save anything";
+}
+
+TEST_F(SafeSaving, AWriteThatFailsLeavesTheOldFileWhole)
+{
+    ASSERT_TRUE(QDir().mkdir("config"));
+    ASSERT_EQ(write({".", "once", "1"}), 0);
+    // Both below and above the size up to which Qt gathers what it writes.
+    for (char const * number : {"2", "39"}) {
+        int const result = write({".", "once", number, "2000"});
+        if (result == 3) {
+            GTEST_SKIP() << "no limit on the size of files here";
+        }
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(generationIn(file), 1) << number;
+        EXPECT_EQ(QDir(config).entryList(QDir::Files), QStringList{"server.json"});
+    }
+    EXPECT_EQ(write({".", "once", "2"}), 0);
+    EXPECT_EQ(generationIn(file), 2);
+}
+
+TEST_F(SafeSaving, AFullDiskLeavesTheOldFileWhole)
+{
+    ASSERT_TRUE(QDir().mkdir("disk"));
+    if (!isUnix() || QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", "disk"}) != 0) {
+        GTEST_SKIP() << "no small file system can be mounted here";
+    }
+    EXPECT_TRUE(QDir().mkdir("disk/config"));
+    EXPECT_EQ(write({"disk", "once", "1"}), 0);
+    EXPECT_EQ(write({"disk", "once", "39"}), 0); // 117 kB
+    EXPECT_EQ(generationIn("disk/config/server.json"), 1);
+
+    // Full to the last byte.
+    QFile filler("disk/filler");
+    EXPECT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (filler.write(QByteArray(512, 'x')) > 0) {
+    }
+    EXPECT_EQ(write({"disk", "once", "80"}), 0); // a short text
+    EXPECT_EQ(generationIn("disk/config/server.json"), 1);
+
+    filler.close();
+    EXPECT_TRUE(filler.remove());
+    EXPECT_EQ(write({"disk", "once", "80"}), 0);
+    EXPECT_EQ(generationIn("disk/config/server.json"), 80);
+    EXPECT_EQ(QProcess::execute("umount", {"disk"}), 0);
+}
+
+TEST_F(SafeSaving, WhereNothingCanBeWrittenTheFileStaysAndNothingIsSaid)
+{
+    writeFile(file, R"({"OS":1})");
+    UIAPIGlobalVar & global = restartQuietly();
+    ASSERT_TRUE(QFile::remove(file));
+    ASSERT_TRUE(QDir().mkpath(file)); // a directory in the file's place
+    global.setOS(2);
+    EXPECT_TRUE(QDir(file).exists());
+    EXPECT_EQ(QDir(config).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"server.json"});
+
+    ASSERT_TRUE(QDir().rmdir(file));
+    writeFile(file, R"({"OS":1})");
+    QFile::Permissions const readOnly = QFile::ReadOwner | QFile::ExeOwner;
+    ASSERT_TRUE(QFile::setPermissions(file, QFile::ReadOwner));
+    ASSERT_TRUE(QFile::setPermissions(config, readOnly));
+    bool const canWriteAllTheSame = QFile(config + "probe").open(QIODevice::WriteOnly);
+    if (!canWriteAllTheSame) {
+        global.setOS(3);
+        EXPECT_EQ(readFile(file), R"({"OS":1})");
+        // A file that may be written in a directory that takes no new ones: in place, at the risk of a crash.
+        EXPECT_TRUE(QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner));
+        global.setOS(4);
+        EXPECT_EQ(readObject(file)["OS"], 4);
+    }
+    EXPECT_TRUE(QFile::setPermissions(config, readOnly | QFile::WriteOwner));
+    EXPECT_EQ(log.take(), Lines{});
+    if (canWriteAllTheSame) {
+        GTEST_SKIP()
+            << "this user may write to a read-only directory; a directory in the file's place was tried";
+    }
+}
+
+} // namespace
