@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace KVCAM::UIAPI {
@@ -20,6 +21,24 @@ inline int saturatedInt(double value) noexcept
         return std::numeric_limits<int>::min();
     }
     return static_cast<int>(value);
+}
+
+/// `value` rounded to the nearest whole number, halves away from zero; saturates at the ends of a 64-bit
+/// integer, and NaN gives 0.
+inline std::int64_t nearestInt64(double value) noexcept
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    // 2^63, the first double that does not fit; the lower end is an exact double.
+    constexpr double end = 9223372036854775808.0;
+    if (value >= end) {
+        return std::numeric_limits<std::int64_t>::max();
+    }
+    if (value <= -end) {
+        return std::numeric_limits<std::int64_t>::min();
+    }
+    return static_cast<std::int64_t>(std::round(value));
 }
 
 } // namespace KVCAM::UIAPI

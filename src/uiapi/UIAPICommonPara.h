@@ -3,6 +3,7 @@
 #include "UIAPICommonExport.h"
 #include "uiapi/ViewRecords.h"
 
+#include <QJsonObject>
 #include <QList>
 #include <QPoint>
 #include <QString>
@@ -11,6 +12,7 @@
 #include <string>
 #include <vector>
 
+class QObject;
 class QWidget;
 
 namespace KVCAM::UIAPI {
@@ -180,6 +182,13 @@ public:
     /// Fills `result` with the items that match a wildcard pattern in any case; a pattern that is not allowed
     /// is logged and leaves it empty.
     void find_input_items(QList<QString> items, QString pattern, QList<QString> & result) const;
+
+    // --- Forms --------------------------------------------------------------------------------------------
+
+    /// Adds the values of the named controls to `json`, see the flat function of this name.
+    void readListToJson(QList<QObject *> widgets, QJsonObject & json) const;
+    /// Puts the members of `json` back into the controls of their names.
+    void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
 private:
     UIAPICommonPara();

@@ -1,0 +1,127 @@
+// One keystroke in a unit-tracked field beside one in a plain QLineEdit. The difference is the field's own
+// share.
+
+#include <uiapi/flat/ShowParameters.h>
+#include <uiapi/flat/ViewAccess.h>
+#include <widgets/KVLineEdit.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QRegExpValidator>
+
+#include <benchmark/benchmark.h>
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+// Never destroyed: a registered view stays registered.
+QWidget * registeredView()
+{
+    static QWidget * const view = [] {
+        auto * const widget = new QWidget;
+        Step_Config config;
+        config.view = widget;
+        insertStepConfig(config);
+        return widget;
+    }();
+    return view;
+}
+
+void press(QLineEdit & edit, int key, QString const & text)
+{
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&edit, &down);
+    QApplication::sendEvent(&edit, &up);
+}
+
+// Types a digit behind `start` and takes it back: two keystrokes, and the text stays as short as it was.
+void typeAndErase(benchmark::State & state, QLineEdit & edit, char const * start)
+{
+    edit.setText(QString::fromLatin1(start));
+    QString const digit = QStringLiteral("5");
+    QString const none;
+    for (auto _ : state) {
+        press(edit, Qt::Key_5, digit);
+        press(edit, Qt::Key_Backspace, none);
+    }
+    if (edit.text() != QLatin1String(start)) {
+        state.SkipWithError("the keys did not reach the field");
+    }
+    state.SetItemsProcessed(state.iterations() * 2);
+}
+
+void plainLineEdit(benchmark::State & state)
+{
+    QLineEdit edit(registeredView());
+    typeAndErase(state, edit, "12.3");
+}
+BENCHMARK(plainLineEdit);
+
+// What the pattern alone costs.
+void plainLineEditWithTheSameValidator(benchmark::State & state)
+{
+    QLineEdit edit(registeredView());
+    KVLineEdit const number(RegNumber, registeredView());
+    edit.setValidator(number.validator());
+    typeAndErase(state, edit, "12.3");
+}
+BENCHMARK(plainLineEditWithTheSameValidator);
+
+void numberField(benchmark::State & state)
+{
+    KVLineEdit edit(RegNumber, registeredView());
+    typeAndErase(state, edit, "12.3");
+}
+BENCHMARK(numberField);
+
+void symbolField(benchmark::State & state)
+{
+    KVLineEdit edit(RegSymbolName, registeredView());
+    typeAndErase(state, edit, "rect10x20xr");
+}
+BENCHMARK(symbolField);
+
+void numberFieldWithEveryAddition(benchmark::State & state)
+{
+    KVLineEdit edit(RegNumber, registeredView());
+    edit.setRange(0, 1000);
+    edit.setFollowView(true);
+    edit.setRefusalHints(true);
+    typeAndErase(state, edit, "12.3");
+}
+BENCHMARK(numberFieldWithEveryAddition);
+
+// A unit switch with a hundred fields that follow it.
+void switchOfAHundredFields(benchmark::State & state)
+{
+    QWidget * const view = registeredView();
+    QWidget form;
+    for (int i = 0; i < 100; ++i) {
+        auto * const edit = new KVLineEdit(RegNumber, view);
+        edit->setText(QStringLiteral("12.3"));
+        edit->setFollowView(true);
+        edit->setParent(&form);
+    }
+    int unit = 0;
+    for (auto _ : state) {
+        unit = 1 - unit;
+        setUnit(view, unit);
+    }
+    setUnit(view, 0);
+}
+BENCHMARK(switchOfAHundredFields);
+
+} // namespace
+
+int main(int argc, char ** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication const application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+}

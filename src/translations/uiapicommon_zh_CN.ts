@@ -1,0 +1,308 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>CaculateData ERROR</source>
+        <translation>算式有误</translation>
+    </message>
+    <message>
+        <source>File open failed</source>
+        <translation>文件打开失败</translation>
+    </message>
+    <message>
+        <source>There are no revocable actions!</source>
+        <translation>没有可撤销的操作！</translation>
+    </message>
+    <message>
+        <source>Are you sure to cancel?</source>
+        <translation>确定要撤销吗？</translation>
+    </message>
+    <message>
+        <source>未能找到此graphic的全局参数</source>
+        <translation>未能找到此graphic的全局参数</translation>
+    </message>
+</context>
+<context>
+    <name>KVFileDialog</name>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>KVCAM::UIAPI::KVLineEdit</name>
+    <message>
+        <source>Type a number such as 12, -3.5 or 0.25: at most 15 digits or 5 decimals, and no zeros in front.</source>
+        <translation>请输入数字，例如 12、-3.5 或 0.25：最多 15 位整数或 5 位小数，前面不加 0。</translation>
+    </message>
+    <message>
+        <source>Type a number or a calculation such as 10+2.5: digits, points and + - * / only.</source>
+        <translation>请输入数字或算式，例如 10+2.5：只能使用数字、小数点和 + - * /。</translation>
+    </message>
+    <message>
+        <source>Type a positive number such as 12, 3.5 or 0.25: at most 15 digits or 5 decimals, and no zeros in front.</source>
+        <translation>请输入正数，例如 12、3.5 或 0.25：最多 15 位整数或 5 位小数，前面不加 0。</translation>
+    </message>
+    <message>
+        <source>Type at most 64 of these: lower-case letters, digits and _ + . ; -</source>
+        <translation>最多 64 个字符，只能使用小写字母、数字和 _ + . ; -</translation>
+    </message>
+    <message>
+        <source>Type at most 64 of these: lower-case letters, digits and _ + -</source>
+        <translation>最多 64 个字符，只能使用小写字母、数字和 _ + -</translation>
+    </message>
+    <message>
+        <source>Chinese characters cannot be used here.</source>
+        <translation>此处不能使用汉字。</translation>
+    </message>
+    <message>
+        <source>Type a symbol name such as r10 or rect20x30: lower-case letters, digits and _ . + -</source>
+        <translation>请输入符号名，例如 r10 或 rect20x30：只能使用小写字母、数字和 _ . + -</translation>
+    </message>
+    <message>
+        <source>Type a round symbol: r, up to six digits 1 to 9 and a blank.</source>
+        <translation>请输入圆形符号：r、最多六位 1 至 9 的数字和一个空格。</translation>
+    </message>
+    <message>
+        <source>Nothing can be typed here.</source>
+        <translation>此处不能输入。</translation>
+    </message>
+    <message>
+        <source>Type at most 36 of these: letters, digits and ~ ` ! @ # $ % &amp; ^ ( ) _ + = { } * , . ; &apos;</source>
+        <translation>最多 36 个字符，只能使用字母、数字和 ~ ` ! @ # $ % &amp; ^ ( ) _ + = { } * , . ; &apos;</translation>
+    </message>
+    <message>
+        <source>Type digits, points, blanks and minus signs only.</source>
+        <translation>只能输入数字、小数点、空格和减号。</translation>
+    </message>
+    <message>
+        <source>No more than %1 characters fit here.</source>
+        <translation>此处最多 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>This cannot be typed here.</source>
+        <translation>此处不能输入该字符。</translation>
+    </message>
+</context>
+<context>
+    <name>Symbols</name>
+    <message>
+        <source>diameter %1</source>
+        <translation>直径 %1</translation>
+    </message>
+    <message>
+        <source>side %1</source>
+        <translation>边长 %1</translation>
+    </message>
+    <message>
+        <source>outside %1</source>
+        <translation>外形 %1</translation>
+    </message>
+    <message>
+        <source>inside %1</source>
+        <translation>内形 %1</translation>
+    </message>
+    <message>
+        <source>width %1</source>
+        <translation>宽 %1</translation>
+    </message>
+    <message>
+        <source>height %1</source>
+        <translation>高 %1</translation>
+    </message>
+    <message>
+        <source>line width %1</source>
+        <translation>线宽 %1</translation>
+    </message>
+    <message>
+        <source>line length %1</source>
+        <translation>线长 %1</translation>
+    </message>
+    <message>
+        <source>ring width %1</source>
+        <translation>环宽 %1</translation>
+    </message>
+    <message>
+        <source>ring gap %1</source>
+        <translation>环间距 %1</translation>
+    </message>
+    <message>
+        <source>spoke gap %1</source>
+        <translation>开口宽 %1</translation>
+    </message>
+    <message>
+        <source>air gap %1</source>
+        <translation>间隙 %1</translation>
+    </message>
+    <message>
+        <source>corners rounded by %1</source>
+        <translation>圆角 %1</translation>
+    </message>
+    <message>
+        <source>corners %1</source>
+        <translation>角 %1</translation>
+    </message>
+    <message>
+        <source>tolerance + %1</source>
+        <translation>公差 + %1</translation>
+    </message>
+    <message>
+        <source>tolerance - %1</source>
+        <translation>公差 - %1</translation>
+    </message>
+    <message>
+        <source>only at corners %1</source>
+        <translation>仅限角 %1</translation>
+    </message>
+    <message>
+        <source>rings %1</source>
+        <translation>环数 %1</translation>
+    </message>
+    <message>
+        <source>spokes %1</source>
+        <translation>开口数 %1</translation>
+    </message>
+    <message>
+        <source>turned by %1 degrees</source>
+        <translation>旋转 %1 度</translation>
+    </message>
+    <message>
+        <source>corners cut by %1</source>
+        <translation>切角 %1</translation>
+    </message>
+    <message>
+        <source>user symbol %1</source>
+        <translation>自定义符号 %1</translation>
+    </message>
+    <message>
+        <source>plated</source>
+        <translation>金属化</translation>
+    </message>
+    <message>
+        <source>not plated</source>
+        <translation>非金属化</translation>
+    </message>
+    <message>
+        <source>via</source>
+        <translation>过孔</translation>
+    </message>
+    <message>
+        <source>round</source>
+        <translation>圆形</translation>
+    </message>
+    <message>
+        <source>square</source>
+        <translation>正方形</translation>
+    </message>
+    <message>
+        <source>oval</source>
+        <translation>长圆形</translation>
+    </message>
+    <message>
+        <source>diamond</source>
+        <translation>菱形</translation>
+    </message>
+    <message>
+        <source>octagon</source>
+        <translation>八边形</translation>
+    </message>
+    <message>
+        <source>round donut</source>
+        <translation>圆环</translation>
+    </message>
+    <message>
+        <source>square donut</source>
+        <translation>方环</translation>
+    </message>
+    <message>
+        <source>horizontal hexagon</source>
+        <translation>水平六边形</translation>
+    </message>
+    <message>
+        <source>vertical hexagon</source>
+        <translation>垂直六边形</translation>
+    </message>
+    <message>
+        <source>round butterfly</source>
+        <translation>圆形蝶形</translation>
+    </message>
+    <message>
+        <source>square butterfly</source>
+        <translation>方形蝶形</translation>
+    </message>
+    <message>
+        <source>triangle</source>
+        <translation>三角形</translation>
+    </message>
+    <message>
+        <source>half oval</source>
+        <translation>半长圆形</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>椭圆形</translation>
+    </message>
+    <message>
+        <source>hole</source>
+        <translation>孔</translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>round thermal</source>
+        <translation>圆形热焊盘</translation>
+    </message>
+    <message>
+        <source>round thermal with square ends</source>
+        <translation>方头圆形热焊盘</translation>
+    </message>
+    <message>
+        <source>square thermal</source>
+        <translation>方形热焊盘</translation>
+    </message>
+    <message>
+        <source>square thermal with a round inside</source>
+        <translation>内圆方形热焊盘</translation>
+    </message>
+    <message>
+        <source>rectangular thermal</source>
+        <translation>矩形热焊盘</translation>
+    </message>
+    <message>
+        <source>moire</source>
+        <translation>莫尔靶标</translation>
+    </message>
+    <message>
+        <source>rectangular donut</source>
+        <translation>矩形环</translation>
+    </message>
+    <message>
+        <source>square donut with a round inside</source>
+        <translation>内圆方环</translation>
+    </message>
+    <message>
+        <source>oval donut</source>
+        <translation>长圆环</translation>
+    </message>
+    <message>
+        <source>square thermal with open corners</source>
+        <translation>开角方形热焊盘</translation>
+    </message>
+    <message>
+        <source>rectangular thermal with open corners</source>
+        <translation>开角矩形热焊盘</translation>
+    </message>
+    <message>
+        <source>oval thermal</source>
+        <translation>长圆形热焊盘</translation>
+    </message>
+</context>
+</TS>

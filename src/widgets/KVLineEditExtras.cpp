@@ -1,0 +1,219 @@
+// The additions of KVLineEdit: exact values, ranges, following a view, explaining refused keys.
+
+#include "support/Narrowing.h"
+#include "uiapi/Notifier.h"
+#include "uiapi/flat/Arithmetic.h"
+#include "uiapi/flat/ShowParameters.h"
+#include "units/Expression.h"
+#include "units/ValueCheck.h"
+#include "units/ValueLegality.h"
+#include "widgets/KVLineEdit.h"
+#include "widgets/KVLineEditPrivate.h"
+
+#include <QCoreApplication>
+#include <QStyle>
+#include <QToolTip>
+
+#include <cmath>
+#include <limits>
+
+namespace KVCAM::UIAPI {
+namespace {
+
+constexpr char const * validProperty = "uiapiValid";
+constexpr double smallPerLarge = 1000.0; // mil in an inch, micrometres in a millimetre
+
+} // namespace
+
+// The tracked text that was typed, not computed.
+QString KVLineEdit::typedText() const
+{
+    bool const inch = d->typedUnit == Units::inch;
+    if (d->tracking() == UnitTracking::Symbol) {
+        return inch ? d->inchSymbol : d->metricSymbol;
+    }
+    return inch ? d->inchNumber : d->metricNumber;
+}
+
+// The number that counts and the unit it is in. A tracked number was typed in one unit, whichever is shown;
+// an expression's text stays through a switch, so it means what the view's unit makes of it.
+std::optional<KVLineEdit::Quantity> KVLineEdit::quantity() const
+{
+    if (d->tracking() == UnitTracking::Number) {
+        return Quantity{typedText().toDouble(), d->typedUnit};
+    }
+    if (d->kind == RegExpression) {
+        return Quantity{caculateData(text()), getUnit(d->owner)};
+    }
+    return std::nullopt;
+}
+
+double KVLineEdit::exactValue(int unit) const
+{
+    auto const held = quantity();
+    if (!held) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+    bool const wantsInch = unit == Units::inch;
+    if (wantsInch == (held->unit == Units::inch)) {
+        return held->value;
+    }
+    return wantsInch ? held->value / Units::millimetresPerInch : held->value * Units::millimetresPerInch;
+}
+
+qint64 KVLineEdit::exactLengthNm() const
+{
+    auto const held = quantity();
+    if (!held) {
+        return 0;
+    }
+    double const large =
+        held->unit == Units::inch ? Units::nanometresPerInch : Units::nanometresPerMillimetre;
+    return nearestInt64(held->value * (d->scale == Large ? large : large / smallPerLarge));
+}
+
+KVLineEdit::LengthScale KVLineEdit::lengthScale() const
+{
+    return d->scale;
+}
+
+void KVLineEdit::setLengthScale(LengthScale scale)
+{
+    d->scale = scale;
+    judge();
+}
+
+void KVLineEdit::setRange(double minimum, double maximum)
+{
+    d->range = Private::Range{minimum, maximum};
+    if (!d->judging) {
+        d->judging = connect(this, &QLineEdit::textChanged, this, [this] { judge(); });
+    }
+    judge();
+}
+
+void KVLineEdit::clearRange()
+{
+    d->range.reset();
+    disconnect(d->judging);
+    judge();
+}
+
+// The words of an illegal value: the bounds in the unit shown, at the scale of the field.
+QString KVLineEdit::rangeWords(int unit) const
+{
+    bool const isLarge = d->scale == Large && d->tracking() != UnitTracking::Symbol;
+    double const scale = isLarge ? smallPerLarge : 1.0;
+    int const decimals = isLarge ? 5 : 2;
+    return ValueLegality::lengthMessage(Units::milText(unit, d->range->minimum / scale, decimals),
+                                        Units::milText(unit, d->range->maximum / scale, decimals));
+}
+
+// What was typed is judged in its own unit, so that rounding in the other one never turns a verdict.
+Ext::ValueVerdict KVLineEdit::verdict() const
+{
+    Ext::ValueVerdict verdict;
+    if (!d->range) {
+        return verdict;
+    }
+    auto const [minimum, maximum] = *d->range;
+    if (d->tracking() == UnitTracking::Symbol) {
+        verdict = Ext::checkSymbol(typedText(), minimum, maximum, d->typedUnit);
+    } else if (auto const held = quantity()) {
+        if (d->kind == RegExpression && Expression::formOf(text()) == Expression::Form::NonDigitPair) {
+            return {false, QObject::tr("CaculateData ERROR")};
+        }
+        double const value = d->scale == Large ? held->value * smallPerLarge : held->value;
+        verdict = Ext::checkValue(value, minimum, maximum, held->unit);
+    }
+    if (!verdict.legal) {
+        bool const isShownUnitKnown = d->kind != RegExpression && d->shownUnit;
+        verdict.text = rangeWords(isShownUnitKnown ? *d->shownUnit : getUnit(d->owner));
+    }
+    return verdict;
+}
+
+void KVLineEdit::judge()
+{
+    if (!d->range && !d->isMarked) {
+        return;
+    }
+    Ext::ValueVerdict const now = verdict();
+    bool const isOther = now.legal != d->verdict.legal;
+    bool const isNews = isOther || now.text != d->verdict.text;
+    bool const isMarked = d->range.has_value();
+    bool const isPropertyStale = isOther || isMarked != d->isMarked;
+    d->verdict = now;
+    d->isMarked = isMarked;
+    if (isPropertyStale) {
+        setProperty(validProperty, isMarked ? QVariant(now.legal) : QVariant());
+        // A style sheet looks at a property only when the widget is polished.
+        style()->unpolish(this);
+        style()->polish(this);
+        update();
+    }
+    if (isNews) {
+        emit validityChanged(now.legal, now.text);
+    }
+}
+
+bool KVLineEdit::followView() const
+{
+    return bool(d->following);
+}
+
+void KVLineEdit::setFollowView(bool follow)
+{
+    if (follow == followView()) {
+        return;
+    }
+    if (!follow) {
+        disconnect(d->following);
+        return;
+    }
+    d->following = connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
+                           [this](void const * view, Ext::ViewAspects aspects) {
+                               if (view == d->owner && aspects.testFlag(Ext::ViewAspect::Unit)) {
+                                   changeunit(getUnit(d->owner));
+                               }
+                           });
+    // The view may have changed since the text was typed. A text without a unit needs no view to be asked.
+    if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
+        changeunit(getUnit(d->owner));
+    }
+}
+
+bool KVLineEdit::refusalHints() const
+{
+    return bool(d->refusals);
+}
+
+void KVLineEdit::setRefusalHints(bool enabled)
+{
+    if (enabled == refusalHints()) {
+        return;
+    }
+    if (enabled) {
+        d->refusals = connect(this, &QLineEdit::inputRejected, this, [this] { explainRefusal(); });
+    } else {
+        disconnect(d->refusals);
+    }
+}
+
+void KVLineEdit::explainRefusal()
+{
+    QString words;
+    if (text().size() >= maxLength()) {
+        words = tr("No more than %1 characters fit here.").arg(maxLength());
+    } else if (InputKind const * const row = inputKind(d->kind)) {
+        words = QCoreApplication::translate(inputHintContext, row->hint);
+    } else {
+        words = tr("This cannot be typed here.");
+    }
+    if (isVisible()) {
+        QToolTip::showText(mapToGlobal(QPoint(0, height())), words, this);
+    }
+    emit inputRefused(words);
+}
+
+} // namespace KVCAM::UIAPI

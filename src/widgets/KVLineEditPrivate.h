@@ -1,0 +1,56 @@
+#pragma once
+
+#include "units/UnitConversion.h"
+#include "units/ValueCheck.h"
+#include "widgets/KVInputKinds.h"
+#include "widgets/KVLineEdit.h"
+
+#include <QMetaObject>
+
+#include <map>
+#include <optional>
+
+namespace KVCAM::UIAPI {
+
+// A number and the unit it is in.
+struct KVLineEdit::Quantity
+{
+    double value;
+    int unit;
+};
+
+struct KVLineEdit::Private
+{
+    std::map<int, QString> patterns;
+    QString metricNumber;
+    QString inchNumber;
+    QString metricSymbol;
+    QString inchSymbol;
+    bool isChanging = false;   // changeunit() is rewriting the text, which is not to be recorded
+    QWidget * owner = nullptr; // the view handle: compared, never followed
+    KVERegExp kind = KVERegExp(0);
+
+    // Additions
+    struct Range
+    {
+        double minimum;
+        double maximum;
+    };
+    int typedUnit = Units::inch;  // of what was typed last
+    std::optional<int> shownUnit; // unknown until a text is recorded or a unit is asked for
+    LengthScale scale = Small;
+    std::optional<Range> range;
+    Ext::ValueVerdict verdict; // as told last
+    bool isMarked = false;     // the dynamic property is set
+    QMetaObject::Connection judging;
+    QMetaObject::Connection following;
+    QMetaObject::Connection refusals;
+
+    UnitTracking tracking() const
+    {
+        InputKind const * const row = inputKind(kind);
+        return row == nullptr ? UnitTracking::None : row->tracking;
+    }
+};
+
+} // namespace KVCAM::UIAPI

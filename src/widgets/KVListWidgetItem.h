@@ -1,0 +1,31 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+#include <QIcon>
+#include <QListWidgetItem>
+#include <QString>
+
+/// A list item that carries three icons, of which it shows the first, and one text of the dialog's own.
+class UIAPICOMMON_EXPORT KVListWidgetItem : public QListWidgetItem
+{
+public:
+    /// Appends itself to `parent`, which then owns it; type 0. With null it stands alone.
+    explicit KVListWidgetItem(QListWidget * parent = nullptr);
+    /// Copies icons and user data with what the base copies; the copy is in no list.
+    KVListWidgetItem(KVListWidgetItem const & other);
+    KVListWidgetItem & operator=(KVListWidgetItem const & other);
+    ~KVListWidgetItem() override;
+
+    /// Keeps all three and shows the first.
+    void setItemIcon(QIcon const & first, QIcon const & second, QIcon const & third);
+    /// Empty until set.
+    QString getItemUserData() const;
+    void setItemUserData(QString const & data);
+
+private:
+    QIcon m_shownIcon;
+    QIcon m_secondIcon;
+    QIcon m_thirdIcon;
+    QString m_userData;
+};

@@ -1,0 +1,32 @@
+#include "widgets/Translation.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+// The resource stands in a library, whose initialiser may have been left out. The macro cannot stand in a
+// namespace, an unnamed one included.
+static void registerCatalogues()
+{
+    Q_INIT_RESOURCE(uiapicommon_translations);
+}
+
+namespace KVCAM::UIAPI::Ext {
+
+bool installTranslation(LANGUAGE_MODE language)
+{
+    if (QCoreApplication::instance() == nullptr) {
+        return false;
+    }
+    // Never destroyed: an application may outlive the library's static objects.
+    static auto * const chinese = new QTranslator;
+    if (chinese->isEmpty()) {
+        registerCatalogues();
+        if (!chinese->load(QStringLiteral(":/uiapicommon/translations/uiapicommon_zh_CN.qm"))) {
+            return false;
+        }
+    }
+    QCoreApplication::removeTranslator(chinese); // or it would be installed twice
+    return language != LANGUAGE_CHINESE || QCoreApplication::installTranslator(chinese);
+}
+
+} // namespace KVCAM::UIAPI::Ext

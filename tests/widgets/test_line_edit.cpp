@@ -1,0 +1,148 @@
+#include "widgets/LineEditTest.h"
+
+using namespace KVCAM::Testing;
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+class LineEdit : public LineEditTest
+{};
+
+TEST_F(LineEdit, EachKindTakesWhatItsPatternTakes)
+{
+    struct Row
+    {
+        int kind;
+        char const * typed;
+        std::string kept;
+        bool acceptable = true;
+    };
+    std::string const many(70, 'a');
+    for (Row const & row : {
+             Row{RegNumber, "-12.345678", "-12.34567"}, // five decimals
+             Row{RegNumber, "0012", "0", false},
+             Row{RegNumber, "0.1234567", "0.12345"},
+             Row{RegNumber, "1234567890123456", "1234567890123456", false}, // a point may still follow
+             Row{RegNumber, "1e5+2,", "152"},
+             Row{RegPositive, "-1.5", "1.5"},
+             Row{RegPositive, "+1.", "+1.", false},
+             Row{RegExpression, "10+2.5*(3-1)/ 4", "10+2.5*3-1/4"},
+             Row{RegNameList, "Top;bot-1.g", "op;bot-1.g"},
+             Row{RegNameList, many.c_str(), many.substr(0, 64)},
+             Row{RegName, "a.b;c_1-+", "abc_1-+"},
+             Row{RegNoCjk, "a\u4e00b\u9fa5c\u00e9\u3400", "abc\u00e9\u3400"},
+             Row{RegSymbolName, "Rect10x5.5 _+-", "ect10x5.5_+-"},
+             Row{RegRound, "r12", "r12", false}, // a name with a blank is all it takes
+             Row{RegRound, "r12 ", "r12 "},
+             Row{RegSquare, " s1.5 0", "", false}, // takes nothing
+             Row{RegFreeText, "A b\"<c>'", "Abc'"},
+             Row{RegDigits, "1.5 -2a", "1.5 -2"},
+             Row{0, "a1", ""},
+             Row{12, "a1", ""}, // a kind without a row
+         }) {
+        KVLineEdit & edit = field(row.kind);
+        type(edit, row.typed);
+        EXPECT_EQ(edit.text().toStdString(), row.kept) << row.kind << " " << row.typed;
+        EXPECT_EQ(edit.hasAcceptableInput(), row.acceptable) << row.kind << " " << row.typed;
+    }
+    KVLineEdit plain(QStringLiteral("1"), &view);
+    type(plain, "any \u4e00");
+    show(plain, 1);
+    EXPECT_EQ(plain.text(), QStringLiteral("1any \u4e00"));
+}
+
+// What each text becomes in the other unit, and that a hundred switches lose nothing.
+TEST_F(LineEdit, HundredSwitchesKeepBothTexts)
+{
+    struct Row
+    {
+        int kind, unit;
+        char const *text, *other;
+    };
+    for (Row const & row : {
+             Row{RegNumber, 0, "1", "25.4"},
+             Row{RegNumber, 1, "254.1234", "10.0049"},
+             Row{RegNumber, 2, "-12.7", "-0.5"},         // every unit but 0 is metric
+             Row{RegNumber, 0, "123456", "3.13578e+06"}, // six significant digits
+             Row{RegNumber, 1, "0254", "10"},            // a text given is not validated
+             Row{RegPositive, 0, "+10", "254"},          //
+             Row{RegSymbolName, 1, "rect254x508", "rect10x20"},
+             Row{RegSymbolName, 0, "r254", "r10"}, // divided in both directions
+             Row{RegSymbolName, 1, "my_pad", "my_pad"},
+             Row{RegExpression, 0, "10+2.5", "10+2.5"},
+             Row{RegDigits, 0, "10", "10"},
+             Row{RegNumber, 0, "", ""}, // untouched
+             Row{RegSymbolName, 0, "", ""},
+         }) {
+        SCOPED_TRACE(row.text);
+        setUnit(&view, row.unit);
+        KVLineEdit edit(QString::fromLatin1(row.text), KVERegExp(row.kind), &view);
+        for (int i = 0; i < 100; ++i) {
+            show(edit, row.unit == 0 ? 1 : 0);
+            ASSERT_EQ(edit.text().toStdString(), row.other);
+            show(edit, row.unit);
+            ASSERT_EQ(edit.text().toStdString(), row.text);
+        }
+    }
+}
+
+TEST_F(LineEdit, EditAfterASwitchDiscardsTheOtherUnitsText)
+{
+    KVLineEdit & number = field(RegNumber);
+    KVLineEdit & symbol = field(RegSymbolName);
+    type(number, "1");
+    type(symbol, "r254");
+    show(number, 1);
+    show(symbol, 1);
+    type(number, "1"); // 25.4 becomes 25.41
+    type(symbol, "0"); // r10 becomes r100
+    show(number, 0);
+    show(symbol, 0);
+    EXPECT_EQ(number.text(), "1.00039");
+    EXPECT_EQ(symbol.text(), "r3.93701");
+}
+
+TEST_F(LineEdit, ClearedNumberIsZeroInTheOtherUnit)
+{
+    KVLineEdit & edit = field(RegNumber);
+    retype(edit, "12");
+    retype(edit, "");
+    edit.changeunit(1);
+    EXPECT_EQ(edit.text(), "0");
+    edit.changeunit(0);
+    EXPECT_EQ(edit.text(), "");
+}
+
+TEST_F(LineEdit, UnregisteredParentIsAnInchViewLoggedAtEachTrackedEdit)
+{
+    QWidget stranger;
+    KVLineEdit number(RegNumber, &stranger);
+    KVLineEdit name(RegName, &stranger);
+    type(number, "10");
+    type(name, "10");
+    EXPECT_EQ(log.take(), Lines(2, operationError("getShowPara")));
+    number.changeunit(1);
+    EXPECT_EQ(number.text(), "254");
+}
+
+TEST_F(LineEdit, EditsMadeWhileTheUnitChangesAreNotRecorded)
+{
+    KVLineEdit & edit = field(RegNumber);
+    type(edit, "1");
+    auto const connection = QObject::connect(&edit, &QLineEdit::textChanged, [&](QString const & text) {
+        if (text == QLatin1String("25.4")) {
+            edit.changeunit(1); // a switch inside a switch
+            edit.setText("99");
+        }
+    });
+    show(edit, 1);
+    EXPECT_EQ(edit.text(), "99");
+    QObject::disconnect(connection);
+    show(edit, 0);
+    EXPECT_EQ(edit.text(), "1");
+    retype(edit, "2"); // recording goes on afterwards
+    show(edit, 1);
+    EXPECT_EQ(edit.text(), "50.8");
+}
+
+} // namespace

@@ -1,0 +1,222 @@
+#include "widgets/LineEditTest.h"
+#include "widgets/Translation.h"
+
+#include <QSet>
+#include <QSignalSpy>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+
+using namespace KVCAM::Testing;
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+class LineEditExtras : public LineEditTest
+{};
+
+// With and without the additions the same keys and switches give the same texts.
+TEST_F(LineEditExtras, AdditionsAreOffByDefaultAndChangeNoText)
+{
+    for (int kind = 0; kind <= 12; ++kind) {
+        setUnit(&view, 0);
+        KVLineEdit & plain = field(kind);
+        QSignalSpy const validity(&plain, &KVLineEdit::validityChanged);
+        QSignalSpy const refused(&plain, &KVLineEdit::inputRefused);
+        KVLineEdit & extended = field(kind);
+        extended.setRange(1, 2);
+        extended.setFollowView(true);
+        extended.setRefusalHints(true);
+        extended.setLengthScale(KVLineEdit::Large);
+        for (char const * keys : {"12.5", "r10x", "-+*/.5", "1..2 A", ""}) {
+            for (int unit : {0, 1, 0, 1, 1}) {
+                retype(plain, keys);
+                retype(extended, keys);
+                show(plain, unit);
+                EXPECT_EQ(extended.text(), plain.text()) << kind << keys;
+            }
+        }
+        EXPECT_EQ(validity.count() + refused.count(), 0);
+        EXPECT_TRUE(plain.dynamicPropertyNames().isEmpty());
+    }
+}
+
+TEST_F(LineEditExtras, HundredFieldsFollowTheirViewAndNoOther)
+{
+    QWidget other;
+    registerView(other, 0);
+    std::vector<std::unique_ptr<KVLineEdit>> fields;
+    for (int i = 0; i < 101; ++i) { // the last one belongs to another view
+        fields.push_back(
+            std::make_unique<KVLineEdit>(QStringLiteral("1"), RegNumber, i < 100 ? &view : &other));
+        fields.back()->setFollowView(true);
+    }
+    for (int unit : {1, 0, 1}) {
+        setUnit(&view, unit);
+        for (std::size_t i = 0; i < 100; ++i) {
+            ASSERT_EQ(fields[i]->text(), unit == 0 ? "1" : "25.4");
+        }
+        EXPECT_EQ(fields[100]->text(), "1");
+    }
+    fields[0]->setFollowView(false);
+    setUnit(&view, 0);
+    EXPECT_EQ(fields[0]->text(), "25.4");
+    fields[0]->setFollowView(true); // begins with the unit that the view has now
+    EXPECT_EQ(fields[0]->text(), "1");
+}
+
+TEST_F(LineEditExtras, ViewThatIsRegisteredLaterIsFollowed)
+{
+    QWidget late;
+    KVLineEdit edit(RegNumber, &late);
+    edit.setFollowView(true);
+    EXPECT_EQ(log.take(), Lines{}); // an empty field asks for no unit
+    type(edit, "1");
+    EXPECT_EQ(log.take(), Lines{operationError("getShowPara")});
+    registerView(late, 1);
+    EXPECT_EQ(edit.text(), "25.4"); // what was typed was inch
+}
+
+TEST_F(LineEditExtras, ExactValueIsWhatWasTypedInItsOwnUnit)
+{
+    constexpr qint64 max = std::numeric_limits<qint64>::max();
+    struct Row
+    {
+        int unit;
+        char const * typed;
+        double inch, metric;
+        qint64 small, large; // nanometres
+    };
+    for (Row const & row : {
+             Row{1, "254.1234", 254.1234 / 25.4, 254.1234, 254123, 254123400},
+             Row{0, "0.00001", 0.00001, 0.00001 * 25.4, 0, 254},
+             Row{0, "-3.5", -3.5, -3.5 * 25.4, -88900, -88900000},
+             Row{1, "9300000000000", 9300000000000 / 25.4, 9300000000000, 9300000000000000, max},
+             Row{0, "-", 0, 0, 0, 0},
+         }) {
+        SCOPED_TRACE(row.typed);
+        setUnit(&view, row.unit);
+        KVLineEdit & edit = field(RegNumber);
+        type(edit, row.typed);
+        for (int i = 0; i < 101; ++i) {
+            show(edit, i % 2 == 0 ? 1 - row.unit : row.unit);
+            ASSERT_EQ(edit.exactValue(0), row.inch);
+            ASSERT_EQ(edit.exactValue(1), row.metric);
+        }
+        EXPECT_EQ(edit.exactLengthNm(), row.small);
+        edit.setLengthScale(KVLineEdit::Large);
+        EXPECT_EQ(edit.exactLengthNm(), row.large);
+    }
+    EXPECT_TRUE(std::isnan(field(RegSymbolName).exactValue(0)));
+}
+
+TEST_F(LineEditExtras, ExpressionIsReadInTheUnitShown)
+{
+    KVLineEdit & edit = field(RegExpression);
+    type(edit, "10+2.5");
+    EXPECT_EQ(edit.exactValue(1), 317.5);
+    EXPECT_EQ(edit.exactLengthNm(), 317500);
+    show(edit, 1);
+    EXPECT_EQ(edit.exactValue(1), 12.5);
+    EXPECT_EQ(edit.exactLengthNm(), 12500);
+}
+
+std::string outside(char const * bounds)
+{
+    return std::string("Illegal float value\nfloating value for field is out of range: (") + bounds + ")";
+}
+
+TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
+{
+    struct Row
+    {
+        int kind;
+        KVLineEdit::LengthScale scale;
+        int unit;
+        char const * typed;
+        std::string words; // empty for a legal text
+    };
+    std::string const inch = outside("1, 10");
+    std::string const metric = outside("25.40, 254.00");
+    auto const small = KVLineEdit::Small;
+    auto const large = KVLineEdit::Large;
+    for (Row const & row : {
+             Row{RegNumber, small, 0, "10", ""},
+             Row{RegNumber, small, 0, "10.00001", inch},
+             Row{RegPositive, small, 1, "254.1", metric},
+             Row{RegNumber, small, 1, "", metric},
+             Row{RegNumber, large, 0, "0.01", ""},
+             Row{RegNumber, large, 1, "0.2541", outside("0.02540, 0.25400")},
+             Row{RegExpression, small, 0, "2*4+", ""}, // one trailing operator is dropped
+             Row{RegExpression, small, 0, "10+2.5", inch},
+             Row{RegExpression, small, 0, "2*-3", "CaculateData ERROR"},
+             Row{RegSymbolName, small, 0, "rect5x10", ""},
+             Row{RegSymbolName, large, 1, "r300", metric}, // sizes in a name are always small units
+             Row{RegName, small, 0, "100", ""},
+         }) {
+        SCOPED_TRACE(row.typed);
+        setUnit(&view, row.unit);
+        KVLineEdit & edit = field(row.kind);
+        edit.setLengthScale(row.scale);
+        edit.setRange(1, 10);
+        retype(edit, row.typed);
+        EXPECT_EQ(edit.property("uiapiValid"), QVariant(row.words.empty()));
+        edit.clearRange();
+        EXPECT_FALSE(edit.property("uiapiValid").isValid());
+        QSignalSpy const spy(&edit, &KVLineEdit::validityChanged);
+        edit.setRange(1, 10);
+        ASSERT_EQ(spy.count(), row.words.empty() ? 0 : 1);
+        EXPECT_EQ(spy.value(0).value(1).toString().toStdString(), row.words);
+    }
+}
+
+TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
+{
+    KVLineEdit & edit = field(RegNumber);
+    edit.setStyleSheet("[uiapiValid=\"false\"] { color: rgb(255, 0, 0); }");
+    view.show();
+    edit.setFollowView(true);
+    type(edit, "3");
+    edit.setRange(1, 3);
+    QSignalSpy spy(&edit, &KVLineEdit::validityChanged);
+    setUnit(&view, 1);
+    EXPECT_EQ(edit.text(), "76.2"); // which would be refused if it had been typed
+    setUnit(&view, 0);
+    EXPECT_EQ(spy.count(), 0);
+    type(edit, "0000");
+    setUnit(&view, 1); // the words change with the unit
+    ASSERT_EQ(spy.count(), 2);
+    EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1, 3"));
+    EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.40, 76.20"));
+    EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST_F(LineEditExtras, RefusedKeyIsExplainedInTheLanguage)
+{
+    for (bool chinese : {false, true}) {
+        ASSERT_TRUE(Ext::installTranslation(chinese ? LANGUAGE_CHINESE : LANGUAGE_ENGLISH));
+        QSet<QString> distinct;
+        for (int kind = 1; kind <= 12; ++kind) {
+            KVLineEdit & edit = field(kind);
+            edit.setRefusalHints(true);
+            QSignalSpy const refused(&edit, &KVLineEdit::inputRefused);
+            type(edit, "\u4e00");
+            ASSERT_EQ(refused.count(), 1) << kind;
+            distinct.insert(refused[0][0].toString());
+        }
+        EXPECT_EQ(distinct.size(), 12); // each kind has words of its own
+        for (QString const & text : distinct) {
+            EXPECT_EQ(text.contains(QRegExp("[\u4e00-\u9fa5]")), chinese) << text.toStdString();
+        }
+    }
+    KVLineEdit & full = field(RegName);
+    full.setMaxLength(2);
+    full.setRefusalHints(true);
+    QSignalSpy const refused(&full, &KVLineEdit::inputRefused);
+    type(full, "abc");
+    ASSERT_EQ(refused.count(), 1);
+    EXPECT_TRUE(refused[0][0].toString().contains('2'));
+}
+
+} // namespace
