@@ -4,10 +4,8 @@
 
 namespace KVCAM::UIAPI {
 
-void OpenJobs::delJob(std::string const & job)
+void OpenJobs::delJob(std::string name)
 {
-    // A copy, since `job` may be an entry of the list.
-    std::string const name = job;
     // The index advances after a removal too: the entry that moves into the freed slot is passed over.
     // Callers that open a job twice rely on it, so this is not std::remove().
     for (std::size_t i = 0; i < m_names.size(); ++i) {

@@ -12,8 +12,8 @@ public:
     std::vector<std::string> const & getAll() const { return m_names; }
     void setJob(std::string const & name) { m_names.push_back(name); }
     /// Removes the entries that equal the name byte for byte, except one that directly follows a removed one:
-    /// a, a, b without a is a, b.
-    void delJob(std::string const & name);
+    /// a, a, b without a is a, b. By value, since the name may be an entry of the list.
+    void delJob(std::string name);
     void delAll() { m_names.clear(); }
 
 private:

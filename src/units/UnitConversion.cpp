@@ -88,8 +88,8 @@ std::string plainText(double value)
     while (end > 0 && text[end - 1] == '0') {
         --end;
     }
-    // The point goes only with the zeros behind it. There are always six decimals, so zeros of the integer part
-    // are never reached; "inf" and "nan" have nothing to drop.
+    // The point goes only with the zeros behind it. There are always six decimals, so zeros of the integer
+    // part are never reached; "inf" and "nan" have nothing to drop.
     if (end < text.size() && end > 0 && text[end - 1] == '.') {
         --end;
     }

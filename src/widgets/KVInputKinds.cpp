@@ -3,9 +3,8 @@
 #include <QCoreApplication>
 
 namespace KVCAM::UIAPI {
-namespace {
 
-constexpr std::array<InputKind, 11> table{{
+constexpr std::array<InputKind, 11> inputKinds{{
     {1, UnitTracking::Number, R"([-]?[1-9][0-9]{0,14}|[-]?[0][.][0-9]{0,5}|[-]?[1-9][0-9]{0,}[.][0-9]{1,5})",
      QT_TRANSLATE_NOOP(
          "KVCAM::UIAPI::KVLineEdit",
@@ -45,10 +44,12 @@ constexpr std::array<InputKind, 11> table{{
      QT_TRANSLATE_NOOP("KVCAM::UIAPI::KVLineEdit", "Type digits, points, blanks and minus signs only.")},
 }};
 
+namespace {
+
 constexpr bool isNumberedFromOne()
 {
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (table[i].kind != static_cast<int>(i) + 1) {
+    for (std::size_t i = 0; i < inputKinds.size(); ++i) {
+        if (inputKinds[i].kind != static_cast<int>(i) + 1) {
             return false;
         }
     }
@@ -58,12 +59,11 @@ static_assert(isNumberedFromOne(), "a kind is its row's number, counted from one
 
 } // namespace
 
-std::array<InputKind, 11> const inputKinds = table;
-
 InputKind const * inputKind(int kind) noexcept
 {
-    return kind >= 1 && kind <= static_cast<int>(table.size()) ? &table[static_cast<std::size_t>(kind) - 1]
-                                                               : nullptr;
+    return kind >= 1 && kind <= static_cast<int>(inputKinds.size())
+               ? &inputKinds[static_cast<std::size_t>(kind) - 1]
+               : nullptr;
 }
 
 } // namespace KVCAM::UIAPI

@@ -1,3 +1,5 @@
+#include "Generation.h"
+
 #include "config/GlobalConfigStore.h"
 
 #include <glog/logging.h>
@@ -8,7 +10,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 #ifdef Q_OS_LINUX
 #include <csignal>
@@ -22,13 +23,6 @@
 using namespace KVCAM::UIAPI;
 
 namespace {
-
-/// A text that shows whether it is whole: its number, and as many letters as the number demands.
-std::string generation(int number)
-{
-    return std::to_string(number) + ":" +
-           std::string(static_cast<std::size_t>(number % 40) * 3000, static_cast<char>('a' + number % 26));
-}
 
 bool limitFileSize(char const * limit)
 {
@@ -58,12 +52,12 @@ int main(int argc, char ** argv)
         return 3;
     }
     if (std::strcmp(argv[2], "once") == 0) {
-        store.set(&ServerSettings::serverIp, generation(number));
+        store.set(&ServerSettings::serverIp, KVCAM::Testing::generation(number));
         return 0;
     }
     std::puts("ready");
     std::fflush(stdout);
     for (;; ++number) {
-        store.set(&ServerSettings::serverIp, generation(number));
+        store.set(&ServerSettings::serverIp, KVCAM::Testing::generation(number));
     }
 }

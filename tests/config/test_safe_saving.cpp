@@ -1,4 +1,5 @@
 #include "ConfigTest.h"
+#include "Generation.h"
 
 #include "support/JsonFile.h"
 
@@ -14,22 +15,14 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-// The writer's texts, told from their beginning: -1 for one that is not whole.
-int generationOf(std::string const & text)
-{
-    int const number = QString::fromStdString(text).section(':', 0, 0).toInt();
-    std::string const whole =
-        std::to_string(number) + ":" +
-        std::string(static_cast<std::size_t>(number % 40) * 3000, static_cast<char>('a' + number % 26));
-    return text == whole ? number : -1;
-}
-
 // What stands in the settings file: the number of its generation, -1 for a file that is not whole.
 int generationIn(QString const & path)
 {
     JsonFile::ReadResult const result = JsonFile::read(path);
     QJsonObject const object = result.document.object();
-    return object.size() == 17 ? generationOf(object["ServerIp"].toString().toStdString()) : -1;
+    std::string const text = object["ServerIp"].toString().toStdString();
+    int const number = QString::fromStdString(text).section(':', 0, 0).toInt();
+    return object.size() == 17 && text == generation(number) ? number : -1;
 }
 
 class SafeSaving : public ConfigTest

@@ -46,15 +46,6 @@ TEST_F(SingletonStart, FirstCallLoadsInOrderAndPushesTwice)
     EXPECT_EQ(engine.take(), Calls{});
 }
 
-TEST_F(SingletonStart, SettingsArePushedAsRead)
-{
-    writeFile(config + "server.json", R"({"ThreadCount": 7, "use_specifiled_suffix": true, "suffix": "_b"})");
-    restart();
-    EXPECT_EQ(engine.take(),
-              (Calls{"API::set_net_cal_thread(7)", "API::set_backup_layername_info(true _b)"}));
-    EXPECT_EQ(log.take(), joined({noTemplates, noAttributes}));
-}
-
 TEST_F(SingletonStart, AHostThatThrowsLeavesTheDefaultsAndTheUserTemplates)
 {
     writeFile("autoMatrix/mine.json", R"({"template":[{"name":"mine","prefix":{},"suffix":{}}]})");

@@ -4,7 +4,7 @@
 #include <EmbeddedEngine.h>
 #include <UIAPICommon.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 
 #include <cstdio>
 #include <string>
@@ -14,7 +14,7 @@ int signatures(); // how many exported functions have the signature that a consu
 int main(int argc, char ** argv)
 {
     using namespace KVCAM;
-    QApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
     int failures = 0;
     auto check = [&failures](bool holds, char const * what) {
         if (!holds) {

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "harness/UiapiTest.h"
+#include "uiapi/flat/ShowParameters.h"
+#include "uiapi/flat/ViewAccess.h"
+#include "widgets/KVLineEdit.h"
+
+#include <QTest>
+
+namespace KVCAM::Testing {
+
+/// Line edits on a registered view. The widget is the view handle.
+class LineEditTest : public UiapiTest
+{
+protected:
+    void SetUp() override
+    {
+        UiapiTest::SetUp();
+        registerView(view, 0);
+    }
+    void registerView(QWidget & handle, int unit)
+    {
+        UIAPI::Step_Config config;
+        config.view = &handle;
+        config.show_param.unit = unit;
+        ASSERT_TRUE(UIAPI::insertStepConfig(config));
+    }
+    UIAPI::KVLineEdit & field(int kind) { return *new UIAPI::KVLineEdit(UIAPI::KVERegExp(kind), &view); }
+    /// One key per character, also of those for which QTest knows no key.
+    void type(UIAPI::KVLineEdit & edit, char const * text)
+    {
+        for (QChar const c : QString::fromUtf8(text)) {
+            QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_unknown, QString(c), Qt::NoModifier);
+        }
+    }
+    void retype(UIAPI::KVLineEdit & edit, char const * text)
+    {
+        edit.selectAll();
+        QTest::keyClick(&edit, Qt::Key_Delete);
+        type(edit, text);
+    }
+    /// Switches the view, then the field, as a dialog does.
+    void show(UIAPI::KVLineEdit & edit, int unit)
+    {
+        UIAPI::setUnit(&view, unit);
+        edit.changeunit(unit);
+    }
+
+    QWidget view;
+};
+
+} // namespace KVCAM::Testing
