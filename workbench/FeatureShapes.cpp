@@ -24,7 +24,7 @@ QPointF toPoint(KVCAM::API::point const & point)
 
 bool isRoundFamily(std::string const & name)
 {
-    for (char const * prefix : {"oval", "donut_r", "el", "thr", "moire", "hole", "r_"}) {
+    for (char const * prefix : {"oval", "donut_r", "el", "th", "moire", "hole"}) {
         if (name.rfind(prefix, 0) == 0) {
             return true;
         }

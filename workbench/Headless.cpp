@@ -8,6 +8,8 @@
 
 #include <UIAPICommon.h>
 
+#include <glog/logging.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QJsonArray>
@@ -31,6 +33,8 @@ public:
         QString const path = m_folder.filePath(name);
         if (widget.grab().save(path)) {
             m_pictures.append(path);
+        } else {
+            LOG(ERROR) << "workbench: cannot write " << qPrintable(path);
         }
     }
     QJsonArray const & pictures() const { return m_pictures; }

@@ -135,7 +135,7 @@ void MainWindow::makeToolBar()
     connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
     QAction * feature = bar->addAction(tr("Feature"));
     feature->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
-    connect(feature, &QAction::triggered, this, [this] { openFeature(firstPad()); });
+    connect(feature, &QAction::triggered, this, &MainWindow::openFirstPad);
     auto * language = new QComboBox;
     language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
     language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
@@ -159,15 +159,32 @@ void MainWindow::addPages()
 
 FeatureDialog * MainWindow::openFeature(int feature)
 {
-    if (m_feature != nullptr) {
-        m_feature->close();
-        m_feature->deleteLater();
-    }
+    closeFeature();
     currentView()->markFeature(feature);
     m_feature = new FeatureDialog(*currentView(), feature, m_session.job(), m_formFile, this);
     m_feature->restoreForm();
     m_feature->show();
     return m_feature;
+}
+
+void MainWindow::closeFeature()
+{
+    if (m_feature != nullptr) {
+        m_feature->close();
+        m_feature->deleteLater();
+        m_feature = nullptr;
+    }
+}
+
+void MainWindow::openFirstPad()
+{
+    int const pad = firstPad();
+    if (pad >= 0) {
+        openFeature(pad);
+    } else {
+        Ext::showMessage(
+            {Ext::MessageKind::Information, this, tr("Information"), tr("This layer has no pads.")});
+    }
 }
 
 int MainWindow::firstPad() const
@@ -208,6 +225,7 @@ void MainWindow::showStep()
 
 void MainWindow::showLayer(int layer)
 {
+    closeFeature(); // its pad belongs to the layer that was shown
     if (layer >= 0) {
         currentView()->showLayer(m_session.layers().at(static_cast<std::size_t>(layer)).info);
     }

@@ -51,6 +51,8 @@ private:
     void showStep();
     void showLayer(int layer);
     void showPointer();
+    void openFirstPad();
+    void closeFeature();
     void refreshUnit();
     void switchSaveFlag(bool on);
 
