@@ -136,6 +136,28 @@ std::vector<API::feature_info> features(std::string const & job, std::string con
     });
 }
 
+std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string const & step,
+                                            std::string const & layer)
+{
+    return answered(std::vector<FeatureDrawing>(), [&](EngineState & state) {
+        LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
+        std::vector<FeatureDrawing> list;
+        list.reserve(graphics.file.features.size());
+        for (std::size_t i = 0; i < graphics.file.features.size(); ++i) {
+            if (graphics.deleted[i]) {
+                continue;
+            }
+            Feature const & feature = graphics.file.features[i];
+            FeatureDrawing drawing{feature.angle, feature.clockwise, {}};
+            for (Contour const & contour : feature.contours) {
+                drawing.outlines.push_back(polygon(contour));
+            }
+            list.push_back(std::move(drawing));
+        }
+        return list;
+    });
+}
+
 bool deleteFeatures(std::string const & job, std::string const & step, std::string const & layer,
                     std::vector<int> const & indices)
 {

@@ -22,6 +22,11 @@ KVCAM_API_EXPORT bool setSaveFlag(bool on);
 KVCAM_API_EXPORT void setDatabaseFile(std::string const & path);
 KVCAM_API_EXPORT std::string databaseFile();
 
+/// Makes a directory the host's configuration directory, which Common::getPath() and its relatives then name.
+/// Empty, as at the start: the folder "config" of the current directory. Set it before the library's first
+/// call, which reads the files there.
+KVCAM_API_EXPORT void setConfigDirectory(std::string const & path);
+
 /// What the engine was told last.
 struct LiveState
 {
@@ -71,6 +76,18 @@ KVCAM_API_EXPORT std::vector<std::vector<API::point>> profileOutlines(std::strin
 /// failure; a layer without a features file has none.
 KVCAM_API_EXPORT std::vector<API::feature_info> features(std::string const & job, std::string const & step,
                                                          std::string const & layer);
+/// What a picture of a feature needs beyond its record.
+struct FeatureDrawing
+{
+    double angle = 0;       ///< of a pad, degrees clockwise
+    bool clockwise = false; ///< of an arc
+    /// Of a surface: its islands and holes as closed polygons in micrometres (arcs as short chords), to be
+    /// filled by the odd-even rule.
+    std::vector<std::vector<API::point>> outlines;
+};
+/// One entry for each feature that features() gives, in the same order.
+KVCAM_API_EXPORT std::vector<FeatureDrawing>
+featureDrawings(std::string const & job, std::string const & step, std::string const & layer);
 /// Deletes features by index: the engine's one operation, recorded for Undo(). False, and nothing changed,
 /// and lastError() set, when the layer is not known, an index does not stand for a feature, the list is
 /// empty, or the save flag is on and the database cannot be written. The files of the job are never changed.

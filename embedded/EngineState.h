@@ -23,6 +23,8 @@ public:
     LiveState live;
     std::string lastError;
     std::string databaseFile = "uiapi-engine.sqlite";
+    std::string configRoot; ///< empty: the current directory
+    std::string configFolder = "config";
     DatabaseTwins database;
     std::vector<std::unique_ptr<Job>> jobs; ///< in order of opening
     std::deque<PluginCommand> pluginCommands;

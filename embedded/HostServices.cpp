@@ -3,24 +3,35 @@
 #include <kvcam/HostPaths.h>
 #include <kvcam/PluginManager.h>
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace Common {
 
 std::string getPath()
 {
-    return {};
+    return KVCAM::Embedded::EngineState::get().configRoot;
 }
 
 std::string getPath_config()
 {
-    return "config";
+    return KVCAM::Embedded::EngineState::get().configFolder;
 }
 
 std::string getPath_rangesconfig()
 {
-    return "config/ranges";
+    return getPath_config() + "/ranges";
 }
 
 } // namespace Common
+
+void KVCAM::Embedded::setConfigDirectory(std::string const & path)
+{
+    EngineState & state = EngineState::get();
+    QFileInfo const folder(QDir::cleanPath(QString::fromStdString(path)));
+    state.configRoot = path.empty() ? std::string() : folder.absolutePath().toStdString();
+    state.configFolder = path.empty() ? "config" : folder.fileName().toStdString();
+}
 
 QTpluginsManger4CAM * QTpluginsManger4CAM::instance()
 {

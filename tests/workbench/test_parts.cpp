@@ -1,0 +1,214 @@
+#include "BoardView.h"
+#include "FeatureDialog.h"
+#include "FeatureShapes.h"
+#include "PadSymbol.h"
+#include "Session.h"
+#include "SettingsPage.h"
+#include "TemplatesPage.h"
+
+#include <UIAPICommon.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineF>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+
+#include <iterator>
+#include <memory>
+
+using namespace KVCAM::UIAPI;
+using namespace Workbench;
+
+namespace {
+
+void writeFile(QString const & path, QByteArray const & content)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QJsonObject readFile(QString const & path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+void click(QWidget & page, QString const & text)
+{
+    for (auto * button : page.findChildren<QPushButton *>()) {
+        if (button->text() == text) {
+            button->click();
+            return;
+        }
+    }
+    FAIL() << "no button " << text.toStdString();
+}
+
+TEST(PadSymbols, AreConvertedFromWhatWasTyped)
+{
+    struct
+    {
+        char const * name;
+        int unit;
+        char const * mil;
+        char const * micrometre;
+    } const rows[] = {
+        {"r10", 0, "r10", "r254"},
+        {"rect500x500", 1, "rect19.685x19.685", "rect500x500"},
+        {"rect10x20xr5x13", 0, "rect10x20xr5x13", "rect254x508xr127x13"},
+        {"r254.1234", 1, "r10.0049", "r254.1234"},
+        {"logo_mark", 1, "logo_mark", "logo_mark"},
+        {"", 0, "", ""},
+    };
+    for (auto const & row : rows) {
+        PadSymbol const symbol(row.name, row.unit);
+        EXPECT_EQ(symbol.in(0), row.mil) << row.name;
+        EXPECT_EQ(symbol.in(1), row.micrometre) << row.name;
+        EXPECT_EQ(PadSymbol::fromJson(symbol.toJson()).in(0), row.mil) << row.name;
+    }
+}
+
+TEST(PadSymbols, ASizeTypedInTheOtherUnitLeavesTheRestAlone)
+{
+    PadSymbol symbol("rect500x700xr50", 1);
+    symbol.setWidth({"12.5", 0});
+    EXPECT_EQ(symbol.in(0), "rect12.5x27.5591xr1.9685");
+    EXPECT_EQ(symbol.in(1), "rect317.5x700xr50");
+    EXPECT_EQ(symbol.width().nanometres(), 317500);
+    EXPECT_EQ(symbol.height().nanometres(), 700000);
+}
+
+class Boards : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QString const error = session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board");
+        ASSERT_EQ(error, "");
+        view = std::make_unique<BoardView>(session.job(), session.steps()[0].name, 0);
+        view->resize(800, 600);
+        auto const layer = static_cast<std::size_t>(session.firstCopperLayer(session.steps()[0].name));
+        view->showLayer(session.layers()[layer].info);
+    }
+
+    Session session;
+    std::unique_ptr<BoardView> view;
+};
+
+TEST_F(Boards, APlaceIsShownInTheUnitOfTheView)
+{
+    EXPECT_EQ(view->positionText(25400, -12700), "x 1.000 y -0.500 inch");
+    setUnit(view->handle(), 1);
+    EXPECT_EQ(view->positionText(25400, -12700), "x 25.400 y -12.700 mm");
+    EXPECT_EQ(KVCAM::Embedded::liveState().show.unit, 1);
+}
+
+TEST_F(Boards, TheLibraryHoldsThePointersPlace)
+{
+    auto const & box = *session.steps()[0].outline;
+    QMouseEvent move(QEvent::MouseMove, QPointF(400, 300), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(view.get(), &move); // the middle of the widget shows the middle of the board
+    coordinate const * place = getCoordinate(view->handle());
+    ASSERT_NE(place, nullptr);
+    EXPECT_NEAR(place->x, (box.left + box.right) / 2, 1e-6);
+    EXPECT_NEAR(place->y, (box.bottom + box.top) / 2, 1e-6);
+}
+
+TEST_F(Boards, TheSymbolFollowsTypedSizesAndTheUnit)
+{
+    FeatureDialog dialog(*view, view->features()[0].index, session.job(), "form.json");
+    auto * width = dialog.findChild<KVLineEdit *>("width");
+    width->selectAll();
+    QTest::keyClicks(width, "254.1x"); // a letter is refused
+    EXPECT_EQ(width->text(), "254.1");
+    EXPECT_EQ(dialog.exactWidth(), 6454140);
+    QString const inch = dialog.symbol();
+    EXPECT_TRUE(inch.contains("254.1")) << inch.toStdString();
+    for (int i = 0; i < 100; ++i) {
+        setUnit(view->handle(), 1 - i % 2);
+        EXPECT_EQ(dialog.symbol() == inch, i % 2 == 1) << i;
+    }
+    EXPECT_EQ(dialog.symbol(), inch);
+    EXPECT_EQ(width->text(), "254.1");
+}
+
+TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
+{
+    writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\n"
+                                    "NAME=TOP\nPOLARITY=POSITIVE\nOLD_NAME=\n}\n");
+    writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+    writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 rect2000x1000\n$1 r100\n"
+                                                    "P 0 0 0 P 0 0\n"
+                                                    "P 0 0 0 P 0 1\n"
+                                                    "P 0 0 0 N 0 8 90\n"
+                                                    "A 1 0 0 1 0 0 1 P 0 N\n"
+                                                    "A 1 0 0 1 0 0 1 P 0 Y\n"
+                                                    "A 1 0 1 0 0 0 1 P 0 Y\n"
+                                                    "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOS 0 0\nOE\n"
+                                                    "OB 4 4 H\nOS 5 4\nOS 5 5\nOS 4 5\nOS 4 4\nOE\nSE\n");
+    Session session;
+    ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
+    auto const shapes = featureShapes("tiny", "pcb", "top");
+    QRectF const boxes[] = {
+        {-1000, -500, 2000, 1000},  // as it stands
+        {-500, -1000, 1000, 2000},  // a quarter turn
+        {-500, -1000, 1000, 2000},  // by angle
+        {0, 0, 1000, 1000},         // counter-clockwise from 3 to 12 o'clock
+        {-1000, -1000, 2000, 2000}, // clockwise the long way round
+        {-1000, -1000, 2000, 2000}, // a full circle
+        {0, 0, 9000, 9000},
+    };
+    ASSERT_EQ(shapes.size(), std::size(boxes));
+    for (std::size_t i = 0; i < shapes.size(); ++i) {
+        QRectF const box = shapes[i].path.boundingRect();
+        EXPECT_LT(QLineF(box.topLeft(), boxes[i].topLeft()).length(), 1) << i;
+        EXPECT_LT(QLineF(box.bottomRight(), boxes[i].bottomRight()).length(), 1) << i;
+        EXPECT_EQ(shapes[i].positive, i != 2) << i;
+    }
+    EXPECT_TRUE(shapes[6].path.contains(QPointF(1000, 1000)));
+    EXPECT_FALSE(shapes[6].path.contains(QPointF(4500, 4500)));
+    EXPECT_EQ(shapes[3].penWidth, 100);
+}
+
+TEST(ConfigurationPages, AnEditedSettingIsSavedAndReachesTheEngine)
+{
+    writeFile("config/server.json", R"({"ThreadCount": 3, "Note": "kept in the backup"})");
+    Ext::setKeepBackup(true);
+    SettingsPage page;
+    auto * threads = page.findChild<QSpinBox *>("Calculation threads");
+    ASSERT_NE(threads, nullptr);
+    EXPECT_EQ(threads->value(), 3);
+    threads->setValue(5);
+    emit threads->editingFinished();
+    EXPECT_EQ(readFile("config/server.json")["ThreadCount"].toInt(), 5);
+    EXPECT_EQ(readFile("config/server.json.bak")["Note"].toString(), "kept in the backup");
+    EXPECT_EQ(KVCAM::Embedded::liveState().threadCount, 5);
+}
+
+TEST(ConfigurationPages, ATemplateIsSavedAsAFileOfItsOwnAndDeleted)
+{
+    writeFile("config/automatrix.json", R"({"template": [
+        {"name": "a: b", "prefix": {"drill": "dr"}, "suffix": {}}]})");
+    TemplatesPage page;
+    click(page, "Save as new");
+    EXPECT_EQ(getAutoMatrixTmpMap().at(2).prefix_drill, "dr");
+    EXPECT_EQ(getAutoMatrixTmpMap().at(2).name, "a: b 2");
+    EXPECT_TRUE(QFile::exists("autoMatrix/a_ b 2.json")); // a file name holds no colon
+    click(page, "Use as current");
+    EXPECT_EQ(getCurrentAutoMatrixTmp().name, "a: b 2");
+    click(page, "Delete");
+    EXPECT_EQ(getAutoMatrixTmpMap().size(), 1U);
+    EXPECT_FALSE(QFile::exists("autoMatrix/a_ b 2.json"));
+}
+
+} // namespace

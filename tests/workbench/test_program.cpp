@@ -1,0 +1,198 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QSet>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+namespace {
+
+struct Result
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+    QJsonObject facts; ///< of a headless run
+};
+
+// What the platform leaks is no fault of the program, should it be built with a LeakSanitizer.
+QProcessEnvironment environment()
+{
+    QFile suppressions("leaks.txt");
+    EXPECT_TRUE(suppressions.open(QIODevice::WriteOnly));
+    suppressions.write("leak:libqoffscreen.so\nleak:libfontconfig\nleak:libQt5DBus\n");
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert("LSAN_OPTIONS",
+                     "print_suppressions=0:suppressions=" + QDir().absoluteFilePath("leaks.txt"));
+    return variables;
+}
+
+Result run(QStringList const & arguments)
+{
+    QProcess program;
+    program.setProcessEnvironment(environment());
+    program.start(WORKBENCH_PROGRAM, arguments);
+    Result result;
+    if (program.waitForFinished(60000) && program.exitStatus() == QProcess::NormalExit) {
+        result.exitCode = program.exitCode();
+    }
+    result.out = program.readAllStandardOutput();
+    result.err = program.readAllStandardError();
+    result.facts = QJsonDocument::fromJson(result.out).object();
+    return result;
+}
+
+QString sampleJob()
+{
+    return UIAPI_SOURCE_DIR "/samples/jobs/demo-board";
+}
+
+Result runSample(QStringList const & options = {})
+{
+    Result result = run(QStringList{sampleJob(), "--headless", "--output", "out"} + options);
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    return result;
+}
+
+int shownUnit(QJsonValue const & engine)
+{
+    return engine.toObject()["show parameters"].toObject()["unit"].toInt(-1);
+}
+
+TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
+{
+    QDir().mkpath("empty");
+    struct
+    {
+        QStringList arguments;
+        char const * text;
+    } const cases[] = {
+        {{"nowhere", "--headless"}, "no such directory"},
+        {{"empty", "--headless"}, "matrix"},
+        {{"--headless"}, "no job directory"},
+        {{sampleJob(), "--headless", "--unit", "furlong"}, "furlong"},
+        {{sampleJob(), "--headless", "--wings"}, "wings"},
+    };
+    for (auto const & item : cases) {
+        Result const result = run(item.arguments);
+        EXPECT_EQ(result.exitCode, 2) << item.text;
+        EXPECT_EQ(result.err.count('\n'), 1) << result.err.toStdString();
+        EXPECT_TRUE(result.err.contains(item.text)) << result.err.toStdString();
+        EXPECT_TRUE(result.out.isEmpty());
+    }
+}
+
+TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
+{
+    QJsonObject const facts = runSample().facts;
+    EXPECT_EQ(facts["job"].toString(), "demo-board");
+    int signals_ = 0;
+    int negativePlanes = 0;
+    int lastRow = 0;
+    for (auto const & value : facts["layers"].toArray()) {
+        QJsonObject const layer = value.toObject();
+        EXPECT_EQ(layer["row"].toInt(), ++lastRow);
+        bool const onBoard = layer["context"] == "board";
+        signals_ += onBoard && layer["type"] == "signal" ? 1 : 0;
+        negativePlanes += onBoard && layer["polarity"] == "NEG" ? 1 : 0;
+    }
+    EXPECT_EQ(signals_, 5);
+    EXPECT_EQ(negativePlanes, 1);
+    EXPECT_FALSE(facts["symbols"].toArray().isEmpty());
+}
+
+TEST(Workbench, AUnitSwitchReachesTheEngineAndItsDatabase)
+{
+    QJsonObject const step =
+        runSample({"--unit", "mm", "--save-flag"}).facts["steps"].toArray()[0].toObject();
+    EXPECT_EQ(step["unit"].toString(), "MM");
+    EXPECT_EQ(shownUnit(step["engine before"]), 1);
+    EXPECT_EQ(shownUnit(step["engine after"]), 0);
+    EXPECT_TRUE(step["outline"].toArray()[0].toString().endsWith(" mm"));
+    EXPECT_TRUE(step["outline"].toArray()[1].toString().endsWith(" inch"));
+
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE");
+    database.setDatabaseName("out/uiapi-engine.sqlite");
+    ASSERT_TRUE(database.open());
+    int rows = 0;
+    for (QString const & table : database.tables()) {
+        QSqlQuery query("SELECT COUNT(*) FROM \"" + table + '"');
+        rows += query.next() ? query.value(0).toInt() : 0;
+    }
+    EXPECT_GT(rows, 0);
+}
+
+TEST(Workbench, WithoutTheSaveFlagNoDatabaseIsWritten)
+{
+    runSample();
+    EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite"));
+}
+
+TEST(Workbench, TheFormComesBackOnTheSecondRunInItsOwnUnit)
+{
+    QJsonObject const first = runSample({"--unit", "mm"}).facts["feature"].toObject();
+    EXPECT_FALSE(first["restored"].toBool());
+    EXPECT_EQ(first["width"].toString(), "317.5"); // 254+63.5
+    EXPECT_EQ(first["width after 100 switches"], first["width"]);
+    EXPECT_EQ(first["width in nm"].toDouble(), 317500);
+    EXPECT_TRUE(first["refused"].toString().endsWith("(12.70, 25400.00)"));
+
+    QJsonObject const second = runSample({"--unit", "inch"}).facts["feature"].toObject();
+    EXPECT_TRUE(second["restored"].toBool());
+    for (char const * key : {"width", "symbol in mil", "symbol in my", "description"}) {
+        EXPECT_EQ(second[key], first[key]) << key;
+    }
+}
+
+TEST(Workbench, ARefusedValueIsToldInOneBox)
+{
+    QJsonArray const boxes = runSample().facts["boxes"].toArray();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].toString(),
+              "Illegal float value\nfloating value for field is out of range: (0.5, 1000)");
+}
+
+TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
+{
+    QDir().mkpath("site/settings");
+    QFile file("site/settings/server.json");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"ThreadCount": 6, "Colour": "blue"})");
+    file.close();
+    QJsonObject const facts = runSample({"--config", "site/settings"}).facts["configuration"].toObject();
+    EXPECT_EQ(facts["threads"].toInt(), 6);
+    QStringList keys;
+    for (auto const & finding : facts["findings"].toArray()) {
+        keys.append(finding.toObject()["key"].toString());
+    }
+    EXPECT_TRUE(keys.contains("Colour")) << keys.join(' ').toStdString();
+    EXPECT_FALSE(QDir("out/workbench-session").exists());
+
+    EXPECT_EQ(run({sampleJob(), "--headless", "--config", "nowhere"}).exitCode, 2);
+}
+
+TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
+{
+    QJsonArray const pictures = runSample().facts["screenshots"].toArray();
+    EXPECT_EQ(pictures.size(), 9);
+    for (auto const & path : pictures) {
+        QImage const picture(path.toString());
+        ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); y += 3) {
+            for (int x = 0; x < picture.width(); x += 3) {
+                colours.insert(picture.pixel(x, y));
+            }
+        }
+        EXPECT_GT(colours.size(), 20) << path.toString().toStdString();
+    }
+}
+
+} // namespace

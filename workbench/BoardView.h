@@ -1,0 +1,68 @@
+#pragma once
+
+#include "FeatureShapes.h"
+
+#include <QTransform>
+#include <QWidget>
+
+#include <vector>
+
+namespace Workbench {
+
+/// The graphic view of one step, and as such the handle under which the library keeps its state: the view
+/// registers itself when it is made and shows lengths in its own unit. The library never forgets a view, so
+/// views live as long as the window.
+class BoardView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    BoardView(std::string job, std::string step, int unit, QWidget * parent = nullptr);
+
+    std::string const & step() const { return m_step; }
+    /// What the library calls this view.
+    void const * handle() const { return static_cast<QWidget const *>(this); }
+
+    /// Draws a layer of the step over its profile.
+    void showLayer(KVCAM::API::layer_info const & layer);
+    /// Marks a feature of the shown layer; -1 marks none.
+    void markFeature(int feature);
+    std::vector<KVCAM::API::feature_info> const & features() const { return m_features; }
+    std::string const & layer() const { return m_layer; }
+
+    /// A position in micrometres as text in the view's unit: "x 0.100 y 0.250 inch".
+    QString positionText(double x, double y) const;
+    /// A size in micrometres as text in the view's unit: "3.000 x 3.000 inch".
+    QString sizeText(double width, double height) const;
+
+    QSize sizeHint() const override { return {640, 520}; }
+
+signals:
+    /// The pointer is at another place of the board; the library's coordinate read-out holds it.
+    void pointerMoved();
+    void padPicked(int feature);
+
+protected:
+    void paintEvent(QPaintEvent * event) override;
+    void resizeEvent(QResizeEvent * event) override;
+    void mouseMoveEvent(QMouseEvent * event) override;
+    void mousePressEvent(QMouseEvent * event) override;
+
+private:
+    QTransform boardToWidget() const;
+    void paintBoard(QPainter & painter, QTransform const & transform) const;
+    void paintScale(QPainter & painter, QTransform const & transform) const;
+
+    std::string m_job;
+    std::string m_step;
+    std::string m_layer;
+    QColor m_colour;
+    QPainterPath m_profile;
+    std::vector<KVCAM::API::feature_info> m_features;
+    std::vector<FeatureShape> m_shapes;
+    QRectF m_extent; // of what is shown, in micrometres
+    QPixmap m_picture;
+    int m_marked = -1;
+};
+
+} // namespace Workbench

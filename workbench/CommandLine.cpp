@@ -1,0 +1,94 @@
+#include "CommandLine.h"
+
+#include <UIAPICommonVersion.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+#include <cstring>
+
+namespace Workbench {
+
+namespace {
+
+QString absolute(QString const & path)
+{
+    return path.isEmpty() ? path : QDir::cleanPath(QDir::current().absoluteFilePath(path));
+}
+
+ParsedArguments failure(QString const & text)
+{
+    return {ParsedArguments::Outcome::Error, {}, text};
+}
+
+bool hasDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        QString const platform = qEnvironmentVariable("QT_QPA_PLATFORM");
+        return platform != "offscreen" && platform != "minimal";
+    }
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+} // namespace
+
+ParsedArguments parseArguments(QStringList const & arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Shows a board's job through UIAPICommon and the default engine.");
+    QCommandLineOption const help = parser.addHelpOption();
+    QCommandLineOption const version = parser.addVersionOption();
+    QCommandLineOption const headless(
+        "headless", "Open no window: print the facts of the job as JSON and write screenshots.");
+    QCommandLineOption const config("config", "Start from this configuration directory.", "DIR");
+    QCommandLineOption const output("output", "Where files are written (default: the current directory).",
+                                    "DIR", ".");
+    QCommandLineOption const unit("unit", "Unit in which the views start: inch or mm.", "inch|mm", "inch");
+    QCommandLineOption const saveFlag("save-flag", "Start with the engine's save flag on.");
+    parser.addOptions({headless, config, output, unit, saveFlag});
+    parser.addPositionalArgument("JOB-DIRECTORY", "The folder of the job.", "JOB-DIRECTORY");
+
+    if (!parser.parse(arguments)) {
+        return failure(parser.errorText());
+    }
+    if (parser.isSet(help) || parser.isSet("help-all")) {
+        return {ParsedArguments::Outcome::Print, {}, parser.helpText()};
+    }
+    if (parser.isSet(version)) {
+        return {ParsedArguments::Outcome::Print, {}, "uiapi-workbench " UIAPICOMMON_VERSION "\n"};
+    }
+    QStringList const positional = parser.positionalArguments();
+    if (positional.size() != 1) {
+        return failure(positional.isEmpty() ? "no job directory given, see --help"
+                                            : "more than one job directory given");
+    }
+    QStringList const units{"inch", "mm"}; // a unit's code is its place here
+    CommandLine commandLine;
+    commandLine.job = absolute(positional.first());
+    commandLine.config = absolute(parser.value(config));
+    commandLine.output = absolute(parser.value(output));
+    commandLine.unit = units.indexOf(parser.value(unit));
+    commandLine.headless = parser.isSet(headless);
+    commandLine.saveFlag = parser.isSet(saveFlag);
+    if (commandLine.unit < 0) {
+        return failure("the unit is inch or mm, not \"" + parser.value(unit) + '"');
+    }
+    return {ParsedArguments::Outcome::Run, commandLine, {}};
+}
+
+bool runsHeadless(int argc, char ** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--headless") == 0) {
+            return true;
+        }
+    }
+    return !hasDisplay();
+}
+
+} // namespace Workbench

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Workbench {
+
+/// What the user asked for. Paths are absolute, since the program changes its current directory later.
+struct CommandLine
+{
+    QString job;    ///< the job's folder
+    QString config; ///< the configuration folder; empty: a copy of the samples
+    QString output; ///< where screenshots, the database and the saved form go
+    int unit = 0;
+    bool headless = false;
+    bool saveFlag = false;
+};
+
+/// What became of the arguments: a command line, a text to print and to leave with success (help, version),
+/// or an error.
+struct ParsedArguments
+{
+    enum class Outcome
+    {
+        Run,
+        Print,
+        Error
+    };
+    Outcome outcome = Outcome::Run;
+    CommandLine commandLine;
+    QString text; ///< for Print and Error
+};
+
+/// Judges the arguments, the program's name first. Touches no file.
+ParsedArguments parseArguments(QStringList const & arguments);
+
+/// Whether the program must run without a window: asked for, or there is no display. Called before the
+/// QApplication, which needs to know.
+bool runsHeadless(int argc, char ** argv);
+
+} // namespace Workbench

@@ -1,0 +1,43 @@
+#include "ConfigDirectory.h"
+
+#include <EmbeddedEngine.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Workbench {
+
+namespace {
+
+// WORKBENCH_SAMPLE_CONFIG is the samples' place at build time; elsewhere the program starts without settings.
+void copySamples(QString const & directory)
+{
+    QDir().mkpath(directory);
+    QDir const samples(QStringLiteral(WORKBENCH_SAMPLE_CONFIG));
+    for (QString const & name : samples.entryList(QDir::Files)) {
+        QString const copy = directory + '/' + name;
+        QFile::copy(samples.filePath(name), copy);
+        QFile::setPermissions(copy,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    }
+}
+
+} // namespace
+
+QString enterConfiguration(QString const & directory, QString const & output)
+{
+    QString const chosen = directory.isEmpty() ? output + "/workbench-session/config" : directory;
+    QFileInfo const folder(chosen);
+    if (!folder.exists() && directory.isEmpty()) {
+        copySamples(chosen);
+    } else if (!folder.isDir()) {
+        return QString("the configuration directory \"%1\" is not there").arg(chosen);
+    }
+    KVCAM::Embedded::setConfigDirectory(chosen.toStdString());
+    if (!QDir::setCurrent(folder.path())) {
+        return QString("cannot enter \"%1\"").arg(folder.path());
+    }
+    return {};
+}
+
+} // namespace Workbench

@@ -1,0 +1,204 @@
+// How the dialog is put together; what it does stands in FeatureDialog.cpp.
+#include "BoardView.h"
+#include "FeatureDialog.h"
+
+#include <UIAPICommon.h>
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+QIcon dot(QColor const & colour)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(colour);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(3, 3, 10, 10);
+    return pixmap;
+}
+
+QWidget * beside(QWidget * field, QWidget * button)
+{
+    auto * row = new QWidget;
+    auto * layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(field, 1);
+    layout->addWidget(button);
+    return row;
+}
+
+QLabel * wrappedLabel()
+{
+    auto * label = new QLabel;
+    label->setWordWrap(true);
+    label->setMinimumHeight(3 * label->fontMetrics().lineSpacing());
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+} // namespace
+
+QWidget * FeatureDialog::makePadGroup()
+{
+    // A field's parent at its making is the view whose unit it has; the layout gives it another one.
+    m_name = new KVLineEdit(RegSymbolName, &m_view);
+    m_width = new KVLineEdit(RegPositive, &m_view);
+    m_height = new KVLineEdit(RegPositive, &m_view);
+    m_offset = new KVLineEdit("0", RegNumber, &m_view);
+    m_expression = new KVLineEdit(RegExpression, &m_view);
+    m_name->setObjectName("symbol");
+    m_width->setObjectName("width");
+    m_height->setObjectName("height");
+    m_offset->setObjectName("offset");
+    m_expression->setObjectName("expression");
+    m_description = wrappedLabel();
+    m_verdict = wrappedLabel();
+    m_exact = new QLabel;
+
+    auto * names = new QPushButton(tr("Names"));
+    connect(names, &QPushButton::clicked, this, &FeatureDialog::showNames);
+    auto * equals = new QPushButton("=");
+    equals->setToolTip(tr("Takes the value as the width"));
+    connect(equals, &QPushButton::clicked, this, [this] { calculate(m_expression->text()); });
+    equals->setMaximumWidth(40);
+    for (QPushButton * button : {names, equals}) {
+        button->setAutoDefault(false);
+    }
+
+    m_polarity = new QComboBox;
+    m_polarity->setObjectName("polarity");
+    m_polarity->addItems({tr("Positive"), tr("Negative")});
+    m_plated = new QCheckBox(tr("Plated"));
+    m_plated->setObjectName("plated");
+
+    auto * group = new QGroupBox(tr("Pad"));
+    group->setStyleSheet("KVCAM--UIAPI--KVLineEdit[uiapiValid=\"false\"] { background: #fde0e0 }");
+    auto * form = new QFormLayout(group);
+    addRow(*form, tr("Symbol"), "small", beside(m_name, names));
+    form->addRow(QString(), m_description);
+    addRow(*form, tr("Width"), "small", m_width);
+    addRow(*form, tr("Height"), "small", m_height);
+    form->addRow(QString(), m_exact);
+    addRow(*form, tr("Offset"), "small", m_offset);
+    addRow(*form, tr("Calculate"), "small", beside(m_expression, equals));
+    form->addRow(QString(), m_verdict);
+    form->addRow(tr("Polarity"), m_polarity);
+    form->addRow(QString(), m_plated);
+    return group;
+}
+
+// The label's attributes hold its title and the scale of its unit, for refreshUnit().
+void FeatureDialog::addRow(QFormLayout & form, QString title, QString scale, QWidget * field)
+{
+    auto * label = new KVLabel;
+    label->setAttribute1(title);
+    label->setAttribute2(scale);
+    form.addRow(label, field);
+}
+
+QWidget * FeatureDialog::makeRemarksGroup()
+{
+    m_side = new QButtonGroup(this);
+    m_side->setObjectName("side");
+    auto * sides = new QWidget;
+    auto * sidesLayout = new QHBoxLayout(sides);
+    sidesLayout->setContentsMargins(0, 0, 0, 0);
+    int id = 0; // the ids are the positions, by which a saved group is restored
+    for (QString const & text : {tr("This side"), tr("Both sides")}) {
+        auto * button = new QRadioButton(text);
+        m_side->addButton(button, id++);
+        sidesLayout->addWidget(button);
+    }
+    m_side->button(0)->setChecked(true);
+    m_author = new QLineEdit;
+    m_author->setObjectName("author");
+    m_note = new KVTextEdit(nullptr);
+    m_note->setTabChangesFocus(true);
+    connect(m_note, &KVTextEdit::LostFocus, this, [this] { saveForm(); });
+    m_documents = new QListWidget;
+    m_documents->setTextElideMode(Qt::ElideMiddle);
+    m_documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto * attach = new QPushButton(tr("Attach files"));
+    attach->setAutoDefault(false);
+    connect(attach, &QPushButton::clicked, this, &FeatureDialog::attachFiles);
+
+    auto * group = new QGroupBox(tr("Remarks"));
+    auto * form = new QFormLayout(group);
+    form->addRow(tr("Applies to"), sides);
+    form->addRow(tr("Author"), m_author);
+    form->addRow(tr("Note"), m_note);
+    form->addRow(tr("Documents"), m_documents);
+    form->addRow(QString(), attach);
+    return group;
+}
+
+QWidget * FeatureDialog::makeButtons()
+{
+    auto * buttons = new QDialogButtonBox;
+    auto * unit = buttons->addButton(tr("Switch unit"), QDialogButtonBox::ActionRole);
+    auto * save = buttons->addButton(tr("Save form"), QDialogButtonBox::ActionRole);
+    buttons->addButton(QDialogButtonBox::Close);
+    connect(unit, &QPushButton::clicked, this,
+            [this] { setUnit(m_view.handle(), getUnit(m_view.handle()) == 0 ? 1 : 0); });
+    connect(save, &QPushButton::clicked, this, [this] { saveForm(); });
+    connect(buttons, &QDialogButtonBox::rejected, this, &FeatureDialog::reject);
+    return buttons;
+}
+
+// A list that goes away by itself when the focus leaves it.
+void FeatureDialog::showNames()
+{
+    if (m_names != nullptr) {
+        m_names->deleteLater();
+    }
+    m_names = new KVListWidget(this);
+    QIcon const standard = dot("#b5582a");
+    QIcon const own = dot("#3f51b5");
+    for (auto const & use : KVCAM::Embedded::layerSymbols(m_job, m_view.step(), m_view.layer())) {
+        PadSymbol const symbol(QString::fromStdString(use.name), use.unit);
+        auto * item = new KVListWidgetItem(m_names);
+        item->setText(symbol.in(m_shownUnit));
+        item->setItemUserData(symbol.name());
+        item->setData(Qt::UserRole, symbol.unit());
+        item->setItemIcon(symbol.width().text.isEmpty() ? own : standard, standard, own);
+        item->setToolTip(Ext::describeSymbol(symbol.name(), symbol.unit()));
+    }
+    connect(m_names, &QListWidget::itemClicked, this, [this](QListWidgetItem * item) {
+        auto const * chosen = static_cast<KVListWidgetItem *>(item);
+        m_symbol = {chosen->getItemUserData(), chosen->data(Qt::UserRole).toInt()};
+        showSymbol();
+        m_names->hide();
+    });
+    QPoint const below = m_name->mapTo(this, QPoint(0, m_name->height()));
+    m_names->setGeometry(below.x(), below.y(), m_name->width(), 10 * fontMetrics().lineSpacing());
+    m_names->show();
+    m_names->setFocus();
+}
+
+void FeatureDialog::attachFiles()
+{
+    KVFileDialog dialog(this);
+    if (dialog.exec() == QDialog::Accepted) {
+        m_documents->addItems(dialog.selectedFiles());
+    }
+}
+
+} // namespace Workbench

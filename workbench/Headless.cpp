@@ -1,0 +1,184 @@
+#include "Headless.h"
+
+#include "BoardView.h"
+#include "EnginePane.h"
+#include "FeatureDialog.h"
+#include "MainWindow.h"
+#include "SymbolsPage.h"
+
+#include <UIAPICommon.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QPixmap>
+
+namespace Workbench {
+
+namespace {
+
+using namespace KVCAM::UIAPI;
+
+// Takes screenshots into a folder and remembers where they are.
+class Camera
+{
+public:
+    explicit Camera(QString const & folder) : m_folder(folder) {}
+
+    void take(QWidget & widget, QString const & name)
+    {
+        QApplication::processEvents(); // layouts settle before the picture is taken
+        QString const path = m_folder.filePath(name);
+        if (widget.grab().save(path)) {
+            m_pictures.append(path);
+        }
+    }
+    QJsonArray const & pictures() const { return m_pictures; }
+
+private:
+    QDir m_folder;
+    QJsonArray m_pictures;
+};
+
+QJsonArray layersOf(Session const & session)
+{
+    QJsonArray layers;
+    for (Session::Layer const & layer : session.layers()) {
+        QJsonArray counts;
+        for (int count : layer.features) {
+            counts.append(count);
+        }
+        layers.append(QJsonObject{{"row", layer.info.row},
+                                  {"name", QString::fromStdString(layer.info.name)},
+                                  {"context", QString::fromStdString(layer.info.context)},
+                                  {"type", QString::fromStdString(layer.info.type)},
+                                  {"polarity", QString::fromStdString(layer.info.polarity)},
+                                  {"features", counts}});
+    }
+    return layers;
+}
+
+QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Box> const & outline)
+{
+    int const unit = getUnit(view.handle());
+    setStepConfigToAPI(view.handle());
+    QJsonObject facts{{"name", QString::fromStdString(view.step())},
+                      {"unit", QString::fromStdString(getUnitString(view.handle()))},
+                      {"engine before", toJson(KVCAM::Embedded::liveState())}};
+    QJsonArray sizes;
+    for (int const shown : {unit, 1 - unit}) {
+        if (shown != unit) {
+            setUnit(view.handle(), shown);
+            facts["engine after"] = toJson(KVCAM::Embedded::liveState());
+        }
+        if (outline) {
+            sizes.append(view.sizeText(outline->right - outline->left, outline->top - outline->bottom));
+        }
+    }
+    setUnit(view.handle(), unit);
+    facts["outline"] = sizes;
+    return facts;
+}
+
+// Works through the feature dialog as a user would: calculates a width, tries an illegal one, switches the
+// unit a hundred times. A form that was restored is left as it is.
+QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
+{
+    int const pad = window.firstPad();
+    if (pad < 0) {
+        return {};
+    }
+    FeatureDialog & dialog = *window.openFeature(pad);
+    void const * const view = window.currentView()->handle();
+    int const unit = getUnit(view);
+    QJsonObject facts{{"layer", QString::fromStdString(window.currentView()->layer())},
+                      {"pad", pad},
+                      {"restored", dialog.isRestored()}};
+    if (!dialog.isRestored()) {
+        facts["refused"] = dialog.calculate("90000*2") ? QString() : dialog.verdict();
+        dialog.calculate(unit == 0 ? "10+2.5" : "254+63.5");
+        dialog.remark("uiapi-workbench",
+                      "The width was calculated and is kept with this note until the next run.",
+                      session.directory() + "/matrix/matrix");
+    }
+    QString const before = dialog.width();
+    for (int i = 0; i < 100; ++i) {
+        setUnit(view, 1 - getUnit(view));
+    }
+    facts["width"] = before;
+    facts["width after 100 switches"] = dialog.width();
+    facts["width in nm"] = static_cast<double>(dialog.exactWidth());
+    facts["description"] = dialog.description();
+    for (int const shown : {0, 1}) {
+        setUnit(view, shown);
+        facts[shown == 0 ? "symbol in mil" : "symbol in my"] = dialog.symbol();
+        camera.take(dialog, shown == 0 ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
+    }
+    dialog.showNames();
+    camera.take(dialog, "feature-dialog-names.png");
+    dialog.setFocus(); // the list goes away by itself
+    window.setLanguage(LANGUAGE_CHINESE);
+    camera.take(dialog, "feature-dialog-chinese.png"); // which lets the dialog hear of the change
+    facts["description in Chinese"] = dialog.description();
+    window.setLanguage(LANGUAGE_ENGLISH);
+    setUnit(view, unit);
+    facts["saved"] = dialog.saveForm();
+    dialog.close();
+    return facts;
+}
+
+QJsonObject configuration()
+{
+    QJsonArray templates;
+    for (auto const & [index, tmpl] : getAutoMatrixTmpMap()) {
+        templates.append(QJsonObject{{"index", index}, {"name", QString::fromStdString(tmpl.name)}});
+    }
+    std::vector<std::string> attributes;
+    getParentAttribute(attributes);
+    QJsonArray findings;
+    for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
+        findings.append(QJsonObject{{"file", finding.file}, {"key", finding.key}, {"text", finding.text}});
+    }
+    return {{"threads", getThreadCount()},
+            {"templates", templates},
+            {"attributes", static_cast<int>(attributes.size())},
+            {"findings", findings}};
+}
+
+} // namespace
+
+QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine)
+{
+    // Nobody is there to close a box: the texts go into the facts instead.
+    QJsonArray boxes;
+    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
+        boxes.append(message.text);
+        return message.kind == Ext::MessageKind::Question ? Ext::MessageAnswer::No : Ext::MessageAnswer::Ok;
+    });
+    Camera camera(commandLine.output);
+    window.show();
+    QJsonArray steps;
+    for (std::size_t i = 0; i < session.steps().size(); ++i) {
+        steps.append(switchUnit(*window.views()[i], session.steps()[i].outline));
+    }
+    setStepConfigToAPI(window.currentView()->handle());
+    camera.take(window, "workbench.png");
+    for (QString const page : {"symbols", "settings", "templates", "attributes"}) {
+        window.showPage(page);
+        camera.take(window, page + ".png");
+    }
+    window.showPage("board");
+    QJsonObject const feature = useFeatureDialog(window, session, camera);
+    Ext::setMessagePresenter({});
+    return {{"job", QString::fromStdString(session.job())},
+            {"directory", session.directory()},
+            {"steps", steps},
+            {"layers", layersOf(session)},
+            {"symbols", toJson(symbolRows(session.job()))},
+            {"feature", feature},
+            {"configuration", configuration()},
+            {"boxes", boxes},
+            {"screenshots", camera.pictures()}};
+}
+
+} // namespace Workbench

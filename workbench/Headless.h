@@ -1,0 +1,16 @@
+#pragma once
+
+#include "CommandLine.h"
+#include "Session.h"
+
+#include <QJsonObject>
+
+namespace Workbench {
+
+class MainWindow;
+
+/// Switches the unit of every view there and back, as a user would, and gives the facts of the job with what
+/// the engine was told before and after; then writes the screenshots and lists them.
+QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine);
+
+} // namespace Workbench

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+namespace Workbench {
+
+/// A length as it was typed or stored: unit 0 mil, 1 micrometre.
+struct PadSize
+{
+    QString text;
+    int unit = 0;
+
+    /// The text in a unit, six significant digits where it has to be converted.
+    QString in(int otherUnit) const;
+    qint64 nanometres() const;
+};
+
+/// A pad's symbol: its name as it was typed or stored, and its first two sizes, each with the unit it was
+/// typed in. Asking for a unit converts what was typed, never what was converted before, so that no digit
+/// is lost by switching.
+class PadSymbol
+{
+public:
+    PadSymbol() = default;
+    PadSymbol(QString name, int unit);
+
+    QString const & name() const { return m_name; }
+    int unit() const { return m_unit; }
+    /// Empty for a symbol whose name begins with no family that has sizes.
+    PadSize const & width() const { return m_width; }
+    /// Empty for a family with one size, too.
+    PadSize const & height() const { return m_height; }
+    QString in(int otherUnit) const;
+
+    void setWidth(PadSize const & size);
+    void setHeight(PadSize const & size);
+
+    QJsonObject toJson() const;
+    static PadSymbol fromJson(QJsonObject const & json);
+
+private:
+    QString withSizes(QString const & name, int unit) const;
+
+    QString m_name;
+    int m_unit = 0;
+    PadSize m_width;
+    PadSize m_height;
+};
+
+} // namespace Workbench

@@ -1,0 +1,179 @@
+#include "SettingsPage.h"
+
+#include "TableTools.h"
+
+#include <EmbeddedEngine.h>
+
+#include <UIAPICommon.h>
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <limits>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+struct Setting
+{
+    char const * title;
+    QVariant (*read)();
+    void (*write)(QVariant const &); ///< null: the library reads the setting at its start only
+};
+
+namespace {
+
+QVariant text(std::string const & value)
+{
+    return QString::fromStdString(value);
+}
+
+UIAPIGlobalVar & globals()
+{
+    return *UIAPIGlobalVar::instance();
+}
+
+// Getters are the flat functions; most setters are methods of UIAPIGlobalVar alone. The suffix record has no
+// getter: the library hands it to the engine, which tells it here.
+constexpr Setting settings[] = {
+    {QT_TR_NOOP("Server address"), [] { return text(getServerIP()); },
+     [](QVariant const & v) { globals().setServerIP(v.toString().toStdString()); }},
+    {QT_TR_NOOP("Client address"), [] { return text(getClientIP()); },
+     [](QVariant const & v) { globals().setClientIP(v.toString().toStdString()); }},
+    {QT_TR_NOOP("Server port"), [] { return QVariant(getServerPort()); },
+     [](QVariant const & v) { globals().setServerPort(v.toInt()); }},
+    {QT_TR_NOOP("Database path"), [] { return text(getDBPath()); },
+     [](QVariant const & v) { globals().setDBPath(v.toString().toStdString()); }},
+    {QT_TR_NOOP("Share path"), [] { return text(getSharePath()); },
+     [](QVariant const & v) { globals().setSharePath(v.toString().toStdString()); }},
+    {QT_TR_NOOP("Operating system code"), [] { return QVariant(getOS()); },
+     [](QVariant const & v) { globals().setOS(v.toInt()); }},
+    {QT_TR_NOOP("Timeout"), [] { return QVariant(getTimeout()); },
+     [](QVariant const & v) { globals().setTimeout(v.toInt()); }},
+    {QT_TR_NOOP("Selection-outside hint"), [] { return QVariant(getSelectionOutsideHint()); },
+     [](QVariant const & v) { setSelectionOutsideHint(v.toBool()); }},
+    {QT_TR_NOOP("Calculation threads"), [] { return QVariant(getThreadCount()); },
+     [](QVariant const & v) { setThreadCount(v.toInt()); }},
+    {QT_TR_NOOP("Backup layers take the suffix"),
+     [] { return QVariant(KVCAM::Embedded::liveState().backup.use_suffix); }, nullptr},
+    {QT_TR_NOOP("Backup layer suffix"), [] { return text(KVCAM::Embedded::liveState().backup.suffix); },
+     nullptr},
+    {QT_TR_NOOP("Layer copy suffix"), [] { return text(getLayerCopySuffix()); }, nullptr},
+    {QT_TR_NOOP("Movement factor"), [] { return QVariant(getMovementFactor()); }, nullptr},
+    {QT_TR_NOOP("Shift factor"), [] { return QVariant(getShiftConfict()); }, nullptr},
+    {QT_TR_NOOP("Contour accuracy"), [] { return QVariant(getContourAccuracy()); }, nullptr},
+    {QT_TR_NOOP("Hot keys may be modified"), [] { return QVariant(getModifyHotKey()); }, nullptr},
+    {QT_TR_NOOP("Python home"), [] { return QVariant(getPythonHome()); }, nullptr},
+};
+static_assert(std::size(settings) == 17);
+
+QString kindText(Ext::DiagnosticKind kind)
+{
+    switch (kind) {
+    case Ext::DiagnosticKind::MissingFile:
+        return SettingsPage::tr("missing file");
+    case Ext::DiagnosticKind::OpenFailed:
+        return SettingsPage::tr("cannot be opened");
+    case Ext::DiagnosticKind::ParseError:
+        return SettingsPage::tr("not JSON");
+    case Ext::DiagnosticKind::MissingKey:
+        return SettingsPage::tr("missing key");
+    case Ext::DiagnosticKind::WrongType:
+        return SettingsPage::tr("wrong type");
+    case Ext::DiagnosticKind::UnknownKey:
+        return SettingsPage::tr("unknown key");
+    case Ext::DiagnosticKind::DuplicateElement:
+        return SettingsPage::tr("duplicate");
+    case Ext::DiagnosticKind::KeyNotReadBack:
+        return SettingsPage::tr("not read back");
+    case Ext::DiagnosticKind::IndexTaken:
+        return SettingsPage::tr("index taken");
+    }
+    return {};
+}
+
+} // namespace
+
+SettingsPage::SettingsPage(QWidget * parent) : QWidget(parent)
+{
+    auto * values = new QGroupBox(tr("Settings of server.json"));
+    auto * form = new QGridLayout(values);
+    form->setColumnStretch(1, 1);
+    for (Setting const & setting : settings) {
+        addSetting(*form, setting);
+    }
+    form->setRowStretch(form->rowCount(), 1);
+
+    m_diagnostics = makeTable({tr("File"), tr("Key"), tr("Finding"), tr("Text")});
+    wrapLastColumn(*m_diagnostics);
+    auto * findings = new QGroupBox(tr("What the loaders found"));
+    auto * findingsLayout = new QVBoxLayout(findings);
+    m_summary = new QLabel;
+    findingsLayout->addWidget(m_summary);
+    findingsLayout->addWidget(m_diagnostics);
+
+    auto * layout = new QHBoxLayout(this);
+    layout->addWidget(values, 2);
+    layout->addWidget(findings, 3);
+    refreshDiagnostics();
+}
+
+void SettingsPage::addSetting(QGridLayout & form, Setting const & setting)
+{
+    int const row = form.rowCount();
+    QVariant const value = setting.read();
+    QWidget * editor = nullptr;
+    if (value.type() == QVariant::Bool) {
+        auto * box = new QCheckBox;
+        box->setChecked(value.toBool());
+        connect(box, &QCheckBox::toggled, this, [this, &setting](bool on) { store(setting, on); });
+        editor = box;
+    } else if (value.type() == QVariant::Int && setting.write != nullptr) {
+        auto * box = new QSpinBox;
+        box->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+        box->setValue(value.toInt());
+        connect(box, &QSpinBox::editingFinished, this,
+                [this, &setting, box] { store(setting, box->value()); });
+        editor = box;
+    } else {
+        auto * line = new QLineEdit(value.toString());
+        connect(line, &QLineEdit::editingFinished, this,
+                [this, &setting, line] { store(setting, line->text()); });
+        editor = line;
+    }
+    editor->setObjectName(setting.title);
+    editor->setEnabled(setting.write != nullptr);
+    form.addWidget(new QLabel(tr(setting.title)), row, 0);
+    form.addWidget(editor, row, 1);
+    form.addWidget(new QLabel(setting.write != nullptr ? tr("saved at once") : tr("read at start only")), row,
+                   2);
+}
+
+void SettingsPage::store(Setting const & setting, QVariant const & value)
+{
+    if (setting.write != nullptr && setting.read() != value) {
+        setting.write(value);
+        refreshDiagnostics(); // a save may find that it drops keys
+    }
+}
+
+void SettingsPage::refreshDiagnostics()
+{
+    m_diagnostics->setRowCount(0);
+    m_summary->setText(Ext::diagnostics().empty() ? tr("All files were read; nothing is wrong with them.")
+                                                  : tr("Findings: %1").arg(Ext::diagnostics().size()));
+    for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
+        addRow(*m_diagnostics,
+               {QFileInfo(finding.file).fileName(), finding.key, kindText(finding.kind), finding.text});
+    }
+    m_diagnostics->resizeRowsToContents();
+}
+
+} // namespace Workbench

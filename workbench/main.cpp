@@ -1,0 +1,114 @@
+#include "CommandLine.h"
+#include "ConfigDirectory.h"
+#include "Headless.h"
+#include "JobLoading.h"
+#include "LogPane.h"
+#include "MainWindow.h"
+#include "Session.h"
+
+#include <UIAPICommon.h>
+
+#include <glog/logging.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int exitWrongInput = 2;
+
+void print(std::FILE * stream, QByteArray const & text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
+}
+
+int fail(QString const & text)
+{
+    print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
+    return exitWrongInput;
+}
+
+// The library logs through glog and leaves its start to the host. No log files: warnings and errors go to
+// stderr, and the window's pane shows every line.
+void initialiseLog(char const * program)
+{
+    google::InitGoogleLogging(program);
+    for (auto const severity : {google::GLOG_INFO, google::GLOG_WARNING, google::GLOG_ERROR}) {
+        google::SetLogDestination(severity, "");
+    }
+    google::SetStderrLogging(google::GLOG_WARNING);
+}
+
+// Qt's remarks about the desktop belong into the pane with the rest, not between the lines of the terminal.
+void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QString const & text)
+{
+    bool const isError = type == QtCriticalMsg || type == QtFatalMsg;
+    google::LogMessage("Qt", 0, isError ? google::GLOG_ERROR : google::GLOG_INFO).stream()
+        << qPrintable(text);
+}
+
+} // namespace
+
+int main(int argc, char ** argv)
+{
+    initialiseLog(argv[0]);
+    Workbench::LogLines log;
+    qInstallMessageHandler(logQtMessage);
+    bool const headless = Workbench::runsHeadless(argc, argv);
+    if (headless) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    QApplication::setStyle("fusion");
+    if (headless) { // screenshots do not depend on a desktop's taste
+        QFont font = QApplication::font();
+        font.setPointSize(10);
+        QApplication::setFont(font);
+    }
+
+    auto const parsed = Workbench::parseArguments(QApplication::arguments());
+    if (parsed.outcome == Workbench::ParsedArguments::Outcome::Print) {
+        print(stdout, parsed.text.toUtf8());
+        return 0;
+    }
+    if (parsed.outcome == Workbench::ParsedArguments::Outcome::Error) {
+        return fail(parsed.text);
+    }
+    Workbench::CommandLine const & commandLine = parsed.commandLine;
+
+    Workbench::Session session;
+    QString const error = session.open(commandLine.job);
+    if (!error.isEmpty()) {
+        return fail(error);
+    }
+    if (!QDir().mkpath(commandLine.output)) {
+        return fail("cannot write to \"" + commandLine.output + '"');
+    }
+    QString const wrongConfiguration = Workbench::enterConfiguration(commandLine.config, commandLine.output);
+    if (!wrongConfiguration.isEmpty()) {
+        return fail(wrongConfiguration);
+    }
+    KVCAM::UIAPI::Ext::setKeepBackup(true);
+    Workbench::readLayers(session);
+    LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
+              << " step(s) and " << session.layers().size() << " layers";
+
+    Workbench::MainWindow window(session, log, commandLine);
+    if (!headless) {
+        window.show();
+        return QApplication::exec();
+    }
+    if (!commandLine.headless) {
+        print(stderr, "uiapi-workbench: no display, working as with --headless\n");
+    }
+    QJsonObject const facts = Workbench::runHeadless(window, session, commandLine);
+    print(stdout, QJsonDocument(facts).toJson());
+    for (auto const & picture : facts["screenshots"].toArray()) {
+        print(stderr, "uiapi-workbench: wrote " + picture.toString().toUtf8() + '\n');
+    }
+    return 0;
+}
