@@ -17,8 +17,10 @@ UIAPICommonPara * UIAPICommonPara::instance()
     return m_pUIAPICommonParaInstance;
 }
 
-// What is loaded here is loaded in this order, which the log shows: the range files, the category tables, the
-// attribute list, and last the EDA link. No flat function may be called: instance() is not stored yet.
+// What is loaded here is loaded in a fixed order, which the log shows: the range files (loadAllRanges), the
+// category tables, the attribute list, and last the EDA link. Ranges, tables and link are not part of the
+// library yet; their places are above and below the attributes. No flat function may be called: instance() is
+// not stored.
 UIAPICommonPara::UIAPICommonPara() : d(new Private)
 {
     d->builtInAttributes.initTotalAttributes();
