@@ -5,7 +5,9 @@
 #include <QFileDialog>
 
 /// A file dialog that selects several entries, folders among them, and has a "Select All" button. It is
-/// Qt's own dialog, never the desktop's.
+/// Qt's own dialog, never the desktop's. Read selectedFiles() after accepted(): fileSelected() and
+/// filesSelected() are not emitted, since the choice passes the base's accept() over, which would enter a
+/// selected folder.
 class UIAPICOMMON_EXPORT KVFileDialog : public QFileDialog
 {
     Q_OBJECT

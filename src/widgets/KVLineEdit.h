@@ -85,11 +85,10 @@ public:
     /// From now on what is typed is checked at every edit as isValueLegal() would, but without a box: bounds
     /// in mil, nothing but the numbers counts, and a text that is no number is 0. With lengthScale() Large
     /// inches and millimetres are taken for what they are. A symbol name (kinds 7 to 9) is checked as by
-    /// isSymbolValueLegal(); an expression is evaluated, and a malformed one is not legal; any other kind is
-    /// always legal. A number or name keeps its verdict through a unit switch; an expression, whose text
-    /// stays, is judged anew.
-    /// The verdict is told by validityChanged() and by the dynamic property "uiapiValid" (bool), which style
-    /// sheets can select on: [uiapiValid="false"].
+    /// isSymbolValueLegal(); an expression is evaluated (an empty one is 0), and one with two non-digits in a
+    /// row is not legal; any other kind is always legal. A number or name keeps its verdict through a unit
+    /// switch; an expression, whose text stays, is judged anew. The verdict is told by validityChanged() and
+    /// by the dynamic property "uiapiValid" (bool), which style sheets can select on: [uiapiValid="false"].
     void setRange(double minimum, double maximum);
     /// Ends the checks and removes the property.
     void clearRange();

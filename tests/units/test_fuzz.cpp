@@ -1,7 +1,8 @@
-// A seeded random run over everything that reads typed text. Each input is checked against a second, plainer
-// way to the same result. UIAPI_FUZZ_COUNT sets the number of inputs of each case, UIAPI_FUZZ_SEED the seed.
+// A seeded random run over everything that reads typed text. What has a result is checked against a second,
+// plainer way to it. UIAPI_FUZZ_COUNT sets the number of inputs of each case, UIAPI_FUZZ_SEED the seed.
 #include "harness/UiapiTest.h"
 
+#include "support/Narrowing.h"
 #include "units/DecimalText.h"
 #include "units/Expression.h"
 #include "units/NameSearch.h"
@@ -94,14 +95,38 @@ bool isPlain(QString const & text)
     return std::none_of(text.begin(), text.end(), [](QChar c) { return c.isSurrogate(); });
 }
 
-// The family-aware rewrite to the letter, one family after the other.
-QString toMetricByParts(QString const & name)
+QString sixDigits(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+double snapped(double x)
+{
+    double const whole = saturatedInt(x);
+    double const fraction = std::round((x - whole) * 100) / 100;
+    return fraction == 0.99 ? whole + 1 : fraction == 0.01 ? whole : whole + fraction;
+}
+
+double toMicrometres(double mil)
+{
+    return snapped(QString::number(mil, 'f', 3).toDouble() * 25.4);
+}
+
+double thousandths(double value)
+{
+    return std::round(value * 1000) / 1000;
+}
+
+// The family-aware rewrites to the letter, one family after the other.
+template <class Convert>
+QString byParts(QString const & name, bool isChecked, Convert const & convert)
 {
     static QRegularExpression const simple(
         "^(r|s|oval|di|oct|donut_[rs]|hex_[ls]|bf[rs]|tri|oval_h|el|hole)(?![^0-9])");
-    static QRegularExpression const fields("^(rect|thr|ths|s_ths|sr_ths|rc_ths|moire)(?![^0-9])");
+    static QRegularExpression const fields(
+        "^(rect(?=x?(?![^0-9]))|(thr|ths|s_ths|sr_ths|rc_ths|moire)(?![^0-9]))");
     static QRegularExpression const run("[0-9.]+");
-    auto const length = [](QString const & text) { return QString::number(text.toDouble() * 25.4, 'g', 6); };
+    auto const length = [&](QString const & text) { return sixDigits(convert(text.toDouble())); };
     if (name.contains(simple)) {
         QString out;
         int end = 0;
@@ -115,8 +140,9 @@ QString toMetricByParts(QString const & name)
     QString const prefix = fields.match(name).captured(1);
     QStringList parts = name.mid(prefix.size()).split('x');
     int const count = parts.size();
-    bool const isRectangle = prefix == "rect" && count >= 2 && count <= 4 && !parts[0].isEmpty() &&
-                             (count == 2 || parts[2].size() >= 2);
+    bool const isRectangle = prefix == "rect" && count >= 2 && count <= 4 &&
+                             (!isChecked || !parts[0].isEmpty()) &&
+                             (count == 2 || parts[2].size() >= (isChecked ? 2 : 1));
     bool const isMoire = prefix == "moire" && count == 6;
     bool const isThermal = prefix.contains("th") && count >= 5;
     QString const layout = isRectangle ? "yyc" : isMoire ? "yynyyn" : isThermal ? "yynnyy" : "";
@@ -125,6 +151,55 @@ QString toMetricByParts(QString const & name)
         parts[i] = layout[i] == 'n' ? parts[i] : kind + length(parts[i].mid(kind.size()));
     }
     return prefix + (isThermal ? parts.mid(0, 6) : parts).join('x');
+}
+
+// The generic rewrites to the letter: two lists, put together again.
+template <class Convert>
+QString byRuns(QString const & name, Convert const & convert)
+{
+    static QRegularExpression const run("[0-9.]+|[^0-9.]+", QRegularExpression::DotMatchesEverythingOption);
+    QStringList lists[2];
+    for (auto matches = run.globalMatch(name); matches.hasNext();) {
+        QString const text = matches.next().captured();
+        bool const isNumber = text[0] == '.' || (text[0] >= '0' && text[0] <= '9');
+        lists[isNumber ? 0 : 1] += isNumber ? convert(text) : text;
+    }
+    int const first = lists[0].size() > lists[1].size() ? 0 : 1;
+    QString out;
+    for (int i = 0; i < std::max(lists[0].size(), lists[1].size()); ++i) {
+        out += lists[first].value(i) + lists[1 - first].value(i);
+    }
+    return out;
+}
+
+void compareRewrites(QString const & name)
+{
+    auto const number = [](auto const & convert) {
+        return [&convert](QString const & text) { return sixDigits(convert(text.toDouble())); };
+    };
+    auto const perUnit = [](double v) { return v / 25.4; };
+    auto const timesUnit = [](double v) { return v * 25.4; };
+    auto const perInch = [](double v) { return thousandths(v / 25.4); };
+    auto const rounded = [](double v) {
+        double const x = v * 25.4;
+        double const whole = saturatedInt(x);
+        return whole + std::round((x - whole) * 100) / 100;
+    };
+    auto const roundedAndSnapped = [&](double v) { return snapped(rounded(v)); };
+    auto const kept = [](QString const & text) { return text; };
+    for (int unit : {0, 1, -1}) {
+        bool const isMetric = unit == 1;
+        EXPECT_EQ(Symbols::toOtherUnit(name, unit),
+                  unit == 0 ? byParts(name, true, perUnit) : byParts(name, true, timesUnit));
+        EXPECT_EQ(Symbols::fromMil(name, unit),
+                  unit == 0 ? byParts(name, false, thousandths) : byParts(name, false, toMicrometres));
+        EXPECT_EQ(Symbols::runsToOtherUnit(name, unit),
+                  isMetric ? byRuns(name, number(rounded)) : byRuns(name, number(perInch)));
+        EXPECT_EQ(Symbols::runsFromMil(name, unit),
+                  isMetric ? byRuns(name, number(roundedAndSnapped)) : byRuns(name, number(thousandths)));
+        EXPECT_EQ(Symbols::runsToMil(name, unit),
+                  isMetric ? byRuns(name, number(perInch)) : byRuns(name, kept));
+    }
 }
 
 // Evaluation to the letter: a postfix list, then a stack.
@@ -192,16 +267,9 @@ TEST_F(Fuzz, SymbolNames)
             }
         }
         SCOPED_TRACE(name.toStdString());
-        for (int unit : {0, 1, -1}) {
-            Symbols::toOtherUnit(name, unit);
-            Symbols::fromMil(name, unit);
-            Symbols::runsToOtherUnit(name, unit);
-            Symbols::runsFromMil(name, unit);
-            Symbols::runsToMil(name, unit);
-        }
         EXPECT_EQ(Ext::describeSymbol(name, number(-1, 2)).isEmpty(), name.isEmpty());
         if (isPlain(name)) {
-            EXPECT_EQ(Symbols::toOtherUnit(name, 1), toMetricByParts(name));
+            compareRewrites(name);
         }
     });
 }

@@ -2,7 +2,9 @@
 
 #include "support/MessagePresenter.h"
 #include "widgets/KVFileDialog.h"
+#include "widgets/KVLabel.h"
 #include "widgets/KVListWidget.h"
+#include "widgets/KVListWidgetItem.h"
 #include "widgets/KVProgressDialog.h"
 #include "widgets/KVTextEdit.h"
 #include "widgets/Translation.h"
@@ -39,6 +41,46 @@ struct Form
         widget->setFocus();
     }
 };
+
+TEST(Companions, LabelKeepsItsThreeAttributesApart)
+{
+    KVLabel label(QStringLiteral("text"));
+    QStringList texts{"a", "b", "c"};
+    label.setAttribute1(texts[0]);
+    label.setAttribute2(texts[1]);
+    label.setAttribute3(texts[2]);
+    EXPECT_EQ(label.getAttribute1() + label.getAttribute2() + label.getAttribute3(), "abc");
+    EXPECT_EQ(label.property("Attribute2").toString(), "b");
+    EXPECT_TRUE(label.setProperty("Attribute3", "d"));
+    EXPECT_EQ(label.getAttribute3(), "d");
+    EXPECT_EQ(label.text(), "text");
+}
+
+TEST(Companions, ListItemShowsItsFirstIconAndIsCopiedWhole)
+{
+    auto const icon = [](Qt::GlobalColor colour) {
+        QPixmap pixmap(4, 4);
+        pixmap.fill(colour);
+        return QIcon(pixmap);
+    };
+    QIcon const first = icon(Qt::red);
+    QListWidget list;
+    auto * item = new KVListWidgetItem(&list);
+    EXPECT_EQ(item->type(), 0);
+    item->setItemIcon(first, icon(Qt::green), icon(Qt::blue));
+    item->setItemUserData("data");
+    EXPECT_EQ(item->icon().cacheKey(), first.cacheKey());
+
+    KVListWidgetItem const copy(*item);
+    KVListWidgetItem assigned;
+    assigned = copy;
+    for (KVListWidgetItem const * other : {&copy, static_cast<KVListWidgetItem const *>(&assigned)}) {
+        EXPECT_EQ(other->getItemUserData(), "data");
+        EXPECT_EQ(other->icon().cacheKey(), first.cacheKey());
+        EXPECT_EQ(other->listWidget(), nullptr);
+    }
+    EXPECT_EQ(list.count(), 1);
+}
 
 TEST(Companions, ListHidesWhenTheFocusLeaves)
 {
