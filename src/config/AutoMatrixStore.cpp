@@ -1,8 +1,8 @@
 #include "config/AutoMatrixStore.h"
 
 #include "config/ConfigFiles.h"
+#include "support/Boxes.h"
 #include "support/HostPaths.h"
-#include "support/MessagePresenter.h"
 
 #include <QDir>
 #include <QFile>

@@ -19,7 +19,8 @@ public:
     /// the fallback defaults, without a word. Throws nothing.
     void getGlobalConfig();
 
-    /// Rewrites the whole file; a file that cannot be written stays as it was, without a word. A missing
+    /// Rewrites the whole file; a file that cannot be written stays as it was, without a word (a full disk
+    /// loses it only where it is written in place, see JsonFile::replace). A missing
     /// directory is only warned about and created.
     void saveGlobalConfig();
 

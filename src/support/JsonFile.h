@@ -32,7 +32,7 @@ enum class WriteStatus
 {
     Ok,
     OpenFailed,
-    CommitFailed ///< written in part or not at all; the old file is whole
+    CommitFailed ///< the old file is whole, except where it was written in place
 };
 
 /// Replaces a file by `bytes` so that a crash, a full disk or a killed process leaves the old file whole: a

@@ -1,5 +1,6 @@
 #include "support/MessagePresenter.h"
 
+#include "support/Boxes.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 

@@ -46,14 +46,3 @@ UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter present
 UIAPICOMMON_EXPORT MessageAnswer showMessage(Message const & message);
 
 } // namespace KVCAM::UIAPI::Ext
-
-namespace KVCAM::UIAPI {
-
-/// The widget behind a view handle if it is one that is alive, else null: a handle is any pointer, so it is
-/// only compared, never followed. Null without a QApplication.
-QWidget * aliveWidget(void const * view);
-
-/// An information box with the translated title "Information".
-void showInformation(QWidget * parent, QString const & text);
-
-} // namespace KVCAM::UIAPI

@@ -23,10 +23,6 @@
         <source>Are you sure to cancel?</source>
         <translation>确定要撤销吗？</translation>
     </message>
-    <message>
-        <source>未能找到此graphic的全局参数</source>
-        <translation>未能找到此graphic的全局参数</translation>
-    </message>
 </context>
 <context>
     <name>KVFileDialog</name>

@@ -12,7 +12,7 @@ namespace KVCAM::UIAPI {
 namespace {
 
 template <class Record, class Save, class Push>
-void send(char const * operation, Record const & record, Save save, Push push)
+void send(char const * operation, Record const & record, Save save, Push push, int line = __builtin_LINE())
 {
     guard(
         [&] {
@@ -21,7 +21,7 @@ void send(char const * operation, Record const & record, Save save, Push push)
             }
             push(record);
         },
-        [operation](std::string const & what) { Log::operationError(operation, what); });
+        [&](std::string const & what) { Log::operationError(operation, what, line); });
 }
 
 } // namespace

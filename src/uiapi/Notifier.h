@@ -3,6 +3,7 @@
 #include "UIAPICommonExport.h"
 
 #include <QFlags>
+#include <QMetaType>
 #include <QObject>
 
 namespace KVCAM::UIAPI::Ext {
@@ -28,12 +29,15 @@ public:
 
 signals:
     /// Emitted once for each store into a registered view, after the engine was told (also when the engine
-    /// threw: the record holds the new value), and after the registration of a view with all three aspects.
-    /// `view` is the handle; read the state itself through the library.
+    /// threw: the record holds the new value; a slot must not throw, and what one throws is logged and
+    /// changes no result), and after the registration of a view with all three aspects. `view` is the handle;
+    /// read the state itself through the library.
     void viewChanged(void const * view, KVCAM::UIAPI::Ext::ViewAspects aspects);
 
 private:
-    Notifier() = default;
+    Notifier();
 };
 
 } // namespace KVCAM::UIAPI::Ext
+
+Q_DECLARE_METATYPE(KVCAM::UIAPI::Ext::ViewAspects)

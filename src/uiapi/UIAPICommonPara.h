@@ -61,19 +61,21 @@ public:
     Snap_Control getSnapControl(void const * view) const;
     /// Stores the first word and the mode; the size changes through setSnapSize() alone. Nothing is pushed.
     void setSnapControl(void const * view, Snap_Control const & value);
-    /// 5 for an unknown view.
+    /// 5 for an unknown view, after "KVCAM UIAPI getSnapControl error, use default snap size!".
     int getSnapSize(void const * view) const;
     /// Nothing is pushed. An unknown view is reported as "setSnapControl".
     void setSnapSize(void const * view, int size);
-    /// The mode of the view's record, 7 for an unknown view (reported as "getStepConfig").
+    /// The mode of the view's record without copying the record; 7 for an unknown view (reported as
+    /// "getStepConfig"). What the flat function of this name is made of.
     SNAP_TYPE_MODE getSnapMode(void const * view) const;
 
-    /// The view's edit buffer, owned by the registry and valid as long as it; null for an unknown view.
+    /// The view's edit buffer, owned by this object and valid until it is assigned to; null for an unknown
+    /// view.
     Edit_Buffer * getEditBuffer(void const * view);
     /// Replaces the feature lists of the view's edit buffer.
     void setEditBufferFeatureInfo(void const * view, std::map<std::string, FeatureList> const & features);
-    /// The view's coordinate read-out, owned by the registry; null for an unknown view, which is reported as
-    /// "getEditBuffer".
+    /// The view's coordinate read-out, owned by this object and valid until it is assigned to; null for an
+    /// unknown view, which is reported as "getEditBuffer".
     coordinate * getCoordinate(void const * view);
 
     /// Pushes show_param, Selection and select_info of a view to the engine, in this order. For an unknown
@@ -84,6 +86,7 @@ public:
 
     /// Default 1, English.
     LANGUAGE_MODE getCurrentLanguageMode() const;
+    /// Leaves its argument as it is.
     void setCurrentLanguageMode(LANGUAGE_MODE & mode);
     /// Default false.
     bool getPanelPositionStatus() const;
@@ -129,7 +132,8 @@ public:
     int getUnitJudgeData(void const * view, double value) const;
     /// Mil to the small unit, unrounded.
     double getUnitJudgeDouble(void const * view, double value) const;
-    /// Mil as text in the small unit: six significant digits for inch, else `precision` decimals.
+    /// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most
+    /// 1074; negative: 6).
     QString getUnitJudgeString(void const * view, double value, int precision) const;
     /// Micrometres as text in the large unit, 3 decimals.
     QString getUnitJudgeStringMetric(void const * view, double value) const;
@@ -148,7 +152,8 @@ public:
 
     /// The lengths of a standard symbol / 25.4 for unit 0, else * 25.4, in place.
     void setSymbolUIData(QString & name, int unit) const;
-    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view.
+    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view. Lets
+    /// through what the engine throws; the flat function does not.
     void setSymbolAPIData(void const * view, QString & name) const;
     /// Every number * 25.4 at 2 decimals in a metric view, else / 25.4 at 3 decimals.
     void setSymbolDataByUnit(void const * view, QString & name) const;
@@ -193,8 +198,6 @@ public:
 private:
     UIAPICommonPara();
     ~UIAPICommonPara();
-
-    int displayUnit(void const * view) const;
 
     struct Private;
     Private * d; // owned

@@ -1,7 +1,7 @@
 // Typed values: log lines, boxes and look-ups of the view. The rules stand in units/.
 
+#include "support/Boxes.h"
 #include "support/Log.h"
-#include "support/MessagePresenter.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "units/Expression.h"
 #include "units/NameSearch.h"

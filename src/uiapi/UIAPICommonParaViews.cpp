@@ -1,7 +1,8 @@
 // The per-view records of UIAPICommonPara.
 
+#include "support/Boxes.h"
+#include "support/Guard.h"
 #include "support/Log.h"
-#include "support/MessagePresenter.h"
 #include "uiapi/EngineBridge.h"
 #include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"
@@ -13,18 +14,19 @@ namespace {
 // Copies one field of a view's record out; an unknown view is logged and leaves `out` untouched.
 template <class Field>
 void copyOut(ViewRegistry const & views, void const * view, Field Step_Config::*field, Field & out,
-             char const * operation)
+             char const * operation, int line = __builtin_LINE())
 {
     if (Step_Config const * record = views.find(view)) {
         out = record->*field;
     } else {
-        Log::operationError(operation);
+        Log::operationError(operation, {}, line);
     }
 }
 
+// Who listens changes no result: what a slot throws ends here.
 void notify(void const * view, Ext::ViewAspects aspects)
 {
-    emit Ext::Notifier::instance()->viewChanged(view, aspects);
+    guarded(Log::commonPara, [&] { emit Ext::Notifier::instance()->viewChanged(view, aspects); });
 }
 
 void storeShowPara(Step_Config & record, show_param const & value)
@@ -215,7 +217,7 @@ void UIAPICommonPara::setStepConfigToAPI(void const * view)
     Step_Config const * record = d->views.find(view);
     if (record == nullptr) {
         Log::operationError("setStepConfigToAPI");
-        showInformation(nullptr, QObject::tr("未能找到此graphic的全局参数"));
+        showInformation(nullptr, QStringLiteral("未能找到此graphic的全局参数")); // not translated
         return;
     }
     // Each is read just before it is pushed: an engine that calls back during one push may change the next.

@@ -6,6 +6,14 @@
 
 namespace KVCAM::UIAPI {
 
+ViewRegistry & ViewRegistry::operator=(ViewRegistry const & other)
+{
+    ViewRegistry copy(other);
+    m_handles.swap(copy.m_handles);
+    m_records.swap(copy.m_records);
+    return *this;
+}
+
 Step_Config const * ViewRegistry::find(void const * view) const noexcept
 {
     auto const found = std::find(m_handles.cbegin(), m_handles.cend(), view);

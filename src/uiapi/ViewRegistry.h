@@ -13,6 +13,11 @@ namespace KVCAM::UIAPI {
 class ViewRegistry
 {
 public:
+    ViewRegistry() = default;
+    ViewRegistry(ViewRegistry const &) = default;
+    /// All or nothing: the two members cannot get out of step.
+    ViewRegistry & operator=(ViewRegistry const & other);
+
     /// The first record of a view; null when there is none (and for a null handle, which is never stored).
     Step_Config * find(void const * view) noexcept;
     Step_Config const * find(void const * view) const noexcept;

@@ -11,6 +11,12 @@
 #include <vector>
 
 namespace KVCAM::UIAPI::Units {
+namespace {
+
+// No double has more. Qt aborts the process where a text would need more memory than an int can count.
+constexpr int mostDecimals = 1074;
+
+} // namespace
 
 double toUnit(int unit, double value)
 {
@@ -67,7 +73,7 @@ int smallUnitToMilTruncated(int unit, double value)
 QString milText(int unit, double value, int precision)
 {
     return unit == inch ? QString::number(value, 'g', 6)
-                        : QString::number(value * millimetresPerInch, 'f', precision);
+                        : QString::number(value * millimetresPerInch, 'f', std::min(precision, mostDecimals));
 }
 
 QString micrometresText(int unit, double value)

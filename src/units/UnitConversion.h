@@ -38,7 +38,7 @@ int milToSmallUnitTruncated(int unit, double value);
 int smallUnitToMilTruncated(int unit, double value);
 
 /// Mil as text in the small unit: for unit 0 six significant digits (`precision` is not used), else
-/// `precision` decimals.
+/// `precision` decimals, at most 1074; a negative precision is 6.
 QString milText(int unit, double value, int precision);
 /// Micrometres as text in the large unit with 3 decimals.
 QString micrometresText(int unit, double value);

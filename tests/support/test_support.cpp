@@ -1,5 +1,6 @@
 #include "harness/UiapiTest.h"
 
+#include "support/Boxes.h"
 #include "support/Guard.h"
 #include "support/HostPaths.h"
 #include "support/JsonFile.h"

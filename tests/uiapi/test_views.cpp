@@ -1,16 +1,15 @@
 #include "harness/UiapiTest.h"
 
-#include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/Selections.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "uiapi/flat/Snap.h"
 #include "uiapi/flat/ViewAccess.h"
 
-#include <QObject>
+#include <QCoreApplication>
+#include <QTranslator>
 
 #include <functional>
-#include <utility>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -312,45 +311,45 @@ TEST_F(Views, AnEngineThatCallsBackFindsTheRegistryConsistent)
 {
     engine.onNextCall("set_show_para", [this] {
         EXPECT_EQ(getUnit(view), 1);
-        registerView(viewHandle(1));
+        Step_Config another;
+        another.view = viewHandle(1);
+        EXPECT_TRUE(insertStepConfig(another));
         setSelectionClear(view, true);
     });
     Step_Config config;
     config.view = view;
     config.show_param.unit = 1;
     EXPECT_TRUE(insertStepConfig(config));
-    // what the callback changed is what the engine is told last
-    Calls const calls = engine.take();
-    ASSERT_GE(calls.size(), 4U);
-    EXPECT_EQ(calls[calls.size() - 3], "API::set_selection(false true false false false false)");
-
-    engine.onNextCall("set_show_para", [this] { setUnit(view, 0); });
-    setUnit(view, 1);
-    EXPECT_EQ(getUnit(view), 0);
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "API::set_show_para(1 0 false true true)",
+                     // from within: a registration and a store
+                     "DB::get_SaveFlag()", "API::set_show_para(0 0 false true true)", "DB::get_SaveFlag()",
+                     "API::set_selection(false false false false false false)", "DB::get_SaveFlag()",
+                     "API::set_select_param(0)", "DB::get_SaveFlag()",
+                     "API::set_selection(false true false false false false)",
+                     // then the rest, as the store left it
+                     "DB::get_SaveFlag()", "API::set_selection(false true false false false false)",
+                     "DB::get_SaveFlag()", "API::set_select_param(0)"}));
 }
 
-TEST_F(Views, NotifierTellsOfEachStoreAfterThePush)
+// The title is looked up in the translation, the body is fixed.
+TEST_F(Views, OnlyTheTitleOfTheBoxIsTranslated)
 {
-    QObject context;
-    std::vector<std::pair<void const *, int>> heard;
-    std::vector<std::size_t> callsBefore;
-    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
-                     [&](void const * changed, Ext::ViewAspects aspects) {
-                         heard.emplace_back(changed, int(aspects));
-                         callsBefore.push_back(engine.take().size());
-                     });
-    Step_Config config;
-    config.view = view;
-    insertStepConfig(config);
-    setUnit(view, 1);
-    setUnit(view, 1);
-    UIAPICommonPara::instance()->setUnit(view, 0);
-    setSelectionClear(view, true);
-    setSelectedPara(view, 1); // no aspect of its own
-    setSnapSize(view, 1);
-    using Heard = std::vector<std::pair<void const *, int>>;
-    EXPECT_EQ(heard, (Heard{{view, 7}, {view, 3}, {view, 2}, {view, 3}, {view, 4}}));
-    EXPECT_EQ(callsBefore, (std::vector<std::size_t>{6, 2, 2, 2, 2}));
+    class Marker : public QTranslator
+    {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(char const *, char const * text, char const *, int) const override
+        {
+            return QStringLiteral("T:") + QString::fromUtf8(text);
+        }
+    };
+    Marker marker;
+    QCoreApplication::installTranslator(&marker);
+    setStepConfigToAPI(unknown);
+    QCoreApplication::removeTranslator(&marker);
+    EXPECT_EQ(boxes.take(), Lines{"information|T:Information|未能找到此graphic的全局参数"});
+    EXPECT_EQ(log.take(), Lines{operationError("setStepConfigToAPI")});
 }
 
 TEST_F(Views, CopiesAreDetached)

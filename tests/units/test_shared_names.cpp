@@ -1,5 +1,6 @@
 // Every symbol name of real boards and of public parsers' tests, where such a collection is at hand: the
 // folder UIAPI_SHARED_DIR, with symbol_names.txt and jobs/. Skipped without it.
+#include "harness/SharedFolder.h"
 #include "harness/UiapiTest.h"
 
 #include "uiapi/flat/SymbolNames.h"
@@ -25,10 +26,9 @@ protected:
     void SetUp() override
     {
         UiapiTest::SetUp();
-        QString const folder = qEnvironmentVariable("UIAPI_SHARED_DIR", UIAPI_SOURCE_DIR "/../shared");
-        readLines(folder + "/symbol_names.txt",
+        readLines(sharedPath("symbol_names.txt"),
                   [this](QString const & line) { m_names.insert(line.section('\t', 0, 0)); });
-        QDirIterator files(folder + "/jobs", {"features", "features.tables"}, QDir::Files,
+        QDirIterator files(sharedPath("jobs"), {"features", "features.tables"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             readLines(files.next(), [this](QString const & line) {

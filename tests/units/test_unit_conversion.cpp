@@ -145,6 +145,8 @@ TEST(UnitConversion, SixDigitTextsTurnToExponents)
     EXPECT_EQ(Units::milText(0, 1234567.0, 2), "1.23457e+06");
     EXPECT_EQ(Units::milText(0, 0.1234567, 9), "0.123457"); // precision is not used for inch
     EXPECT_EQ(Units::milText(1, 1.0, 0), "25");
+    EXPECT_EQ(Units::milText(1, 1.0, -1), "25.400000");
+    EXPECT_EQ(Units::milText(1, 1.0, std::numeric_limits<int>::max()).size(), 3 + 1074);
     EXPECT_EQ(Units::areaText(0, 1234567.0), "1.23457e+06");
 }
 

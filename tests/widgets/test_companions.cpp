@@ -1,6 +1,6 @@
 #include "harness/UiapiTest.h"
 
-#include "support/MessagePresenter.h"
+#include "support/Boxes.h"
 #include "widgets/KVFileDialog.h"
 #include "widgets/KVLabel.h"
 #include "widgets/KVListWidget.h"

@@ -16,8 +16,9 @@ UIAPICOMMON_EXPORT int getServerPort();
 UIAPICOMMON_EXPORT std::string getClientIP();
 UIAPICOMMON_EXPORT int getTimeout();
 UIAPICOMMON_EXPORT int getThreadCount();
-/// Saves the settings and then pushes the count to the engine. A file that cannot be written stays as it was;
-/// a missing configuration directory is logged at WARNING and created, and nothing is written.
+/// Saves the settings and then pushes the count to the engine. A file that cannot be written stays as it was,
+/// unless the disk is full and the directory takes no new file; a missing configuration directory is logged
+/// at WARNING and created, and nothing is written.
 UIAPICOMMON_EXPORT void setThreadCount(int count);
 UIAPICOMMON_EXPORT std::string getDBPath();
 UIAPICOMMON_EXPORT std::string getSharePath();

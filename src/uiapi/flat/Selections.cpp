@@ -5,9 +5,10 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-void change(void const * view, bool Selection::*field, bool value)
+void change(void const * view, bool Selection::*field, bool value, int line = __builtin_LINE())
 {
-    Flat::changeField(view, &UIAPICommonPara::getSelection, &UIAPICommonPara::setSelection, field, value);
+    Flat::changeField(view, &UIAPICommonPara::getSelection, &UIAPICommonPara::setSelection, field, value,
+                      line);
 }
 
 } // namespace

@@ -17,7 +17,8 @@ UIAPICOMMON_EXPORT bool getSelectionTouching(void const * view);
 
 /// The setting of "server.json"; false where it holds none. No view is concerned.
 UIAPICOMMON_EXPORT bool getSelectionOutsideHint();
-/// Saves the settings. A file that cannot be written stays as it was; a missing configuration directory is
+/// Saves the settings. A file that cannot be written stays as it was, unless the disk is full
+/// and the directory takes no new file; a missing configuration directory is
 /// logged at WARNING and created, and nothing is written.
 UIAPICOMMON_EXPORT void setSelectionOutsideHint(bool value);
 

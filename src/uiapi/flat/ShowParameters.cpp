@@ -6,15 +6,15 @@ namespace KVCAM::UIAPI {
 namespace {
 
 template <class Value>
-Value read(void const * view, Value show_param::*field)
+Value read(void const * view, Value show_param::*field, int line = __builtin_LINE())
 {
-    return Flat::readField(view, &UIAPICommonPara::getShowPara, field);
+    return Flat::readField(view, &UIAPICommonPara::getShowPara, field, line);
 }
 
 template <class Value>
-void change(void const * view, Value show_param::*field, Value value)
+void change(void const * view, Value show_param::*field, Value value, int line = __builtin_LINE())
 {
-    Flat::changeField(view, &UIAPICommonPara::getShowPara, &UIAPICommonPara::setShowPara, field, value);
+    Flat::changeField(view, &UIAPICommonPara::getShowPara, &UIAPICommonPara::setShowPara, field, value, line);
 }
 
 } // namespace

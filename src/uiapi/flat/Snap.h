@@ -8,6 +8,7 @@ namespace KVCAM::UIAPI {
 
 /// 7 for an unknown view, which is logged as "getSnapControl".
 UIAPICOMMON_EXPORT SNAP_TYPE_MODE getSnapType(void const * view);
+/// An unknown view is logged twice, as "getSnapControl" and "setSnapControl".
 UIAPICOMMON_EXPORT void setSnapType(void const * view, SNAP_TYPE_MODE mode);
 /// The same operation as setSnapType().
 UIAPICOMMON_EXPORT void setSnapMode(void const * view, SNAP_TYPE_MODE mode);

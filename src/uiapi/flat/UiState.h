@@ -24,7 +24,8 @@ UIAPICOMMON_EXPORT void setPanelPositionStatus(bool status);
 UIAPICOMMON_EXPORT LANGUAGE_MODE getCurrentLanguageMode();
 UIAPICOMMON_EXPORT void setCurrentLanguageMode(LANGUAGE_MODE & mode);
 
-// Kept in globals of the library, zero at load; no singleton is created.
+// Kept in globals of the library, false, 0 or empty at load and for as long as the process; no singleton is
+// created and nothing is logged. What the values mean is the business of the modules that share them.
 UIAPICOMMON_EXPORT bool getEQMode();
 UIAPICOMMON_EXPORT void setEQMode(bool value);
 UIAPICOMMON_EXPORT int getEQSelectionType();

@@ -1,19 +1,11 @@
 #include "uiapi/flat/Units.h"
 
+#include "uiapi/DisplayUnit.h"
 #include "uiapi/flat/Forward.h"
 #include "units/UnitConversion.h"
 
 namespace KVCAM::UIAPI {
-namespace {
-
 using Flat::onCommonPara;
-
-int displayUnit(void const * view)
-{
-    return Flat::readField(view, &UIAPICommonPara::getShowPara, &show_param::unit);
-}
-
-} // namespace
 
 double getUnitData(void const * view, double value)
 {
@@ -42,7 +34,8 @@ int getUnitJudgeData(void const * view, double value)
 
 int getUnitJudgeData2(void const * view, double value)
 {
-    return Units::smallUnitToMilTruncated(displayUnit(view), value);
+    return onCommonPara(
+        [&](auto & para) { return Units::smallUnitToMilTruncated(displayUnit(para, view), value); });
 }
 
 double getUnitJudgeDouble(void const * view, double value)
@@ -62,12 +55,12 @@ QString getUnitJudgeStringMetric(void const * view, double value)
 
 std::string getUnitString(void const * view)
 {
-    return Units::name(displayUnit(view));
+    return onCommonPara([&](auto & para) { return Units::name(displayUnit(para, view)); });
 }
 
 std::string getUnitStringType(void const * view, int kind)
 {
-    return Units::nameByKind(displayUnit(view), kind);
+    return onCommonPara([&](auto & para) { return Units::nameByKind(displayUnit(para, view), kind); });
 }
 
 std::string getAreaUnitStringType(void const * view)

@@ -22,7 +22,7 @@ UIAPICOMMON_EXPORT void setSelectInfo(void const * view, KVCAM::API::select_info
 UIAPICOMMON_EXPORT Snap_Control getSnapControl(void const * view);
 /// Keeps the snap size.
 UIAPICOMMON_EXPORT void setSnapControl(void const * view, Snap_Control const & value);
-/// 5 for an unknown view.
+/// 5 for an unknown view, after "KVCAM UIAPI getSnapControl error, use default snap size!".
 UIAPICOMMON_EXPORT int getSnapSize(void const * view);
 UIAPICOMMON_EXPORT void setSnapSize(void const * view, int size);
 /// Owned by the registry; null for an unknown view.

@@ -31,7 +31,7 @@ int main(int argc, char ** argv)
     UIAPI::setUnit(&view, 1);
     check(Embedded::liveState().show.unit == 1, "the engine was told of the unit");
     check(UIAPI::getUnitJudgeString(&view, 1.0, 2) == "25.40", "values follow the unit");
-    check(std::string(UIAPICOMMON_VERSION) == "0.1.0", "headers and package agree on the version");
+    check(std::string(UIAPICOMMON_VERSION) == PACKAGE_VERSION, "headers and package agree on the version");
     check(signatures() > 0, "the flat functions link");
 
     int heard = 0;

@@ -1,0 +1,83 @@
+#include "harness/UiapiTest.h"
+
+#include "uiapi/Notifier.h"
+#include "uiapi/UIAPICommonPara.h"
+#include "uiapi/flat/Selections.h"
+#include "uiapi/flat/ShowParameters.h"
+#include "uiapi/flat/Snap.h"
+#include "uiapi/flat/ViewAccess.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include <stdexcept>
+#include <utility>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+class NotifierTest : public UiapiTest
+{
+protected:
+    void const * const view = viewHandle(0);
+
+    bool registerView()
+    {
+        Step_Config config;
+        config.view = view;
+        return insertStepConfig(config);
+    }
+};
+
+TEST_F(NotifierTest, TellsOfEachStoreAfterThePush)
+{
+    QObject context;
+    std::vector<std::pair<void const *, int>> heard;
+    std::vector<std::size_t> callsBefore;
+    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
+                     [&](void const * changed, Ext::ViewAspects aspects) {
+                         heard.emplace_back(changed, int(aspects));
+                         callsBefore.push_back(engine.take().size());
+                     });
+    registerView();
+    setUnit(view, 1);
+    setUnit(view, 1);
+    UIAPICommonPara::instance()->setUnit(view, 0);
+    setSelectionClear(view, true);
+    setSelectedPara(view, 1); // no aspect of its own
+    setSnapSize(view, 1);
+    using Heard = std::vector<std::pair<void const *, int>>;
+    EXPECT_EQ(heard, (Heard{{view, 7}, {view, 3}, {view, 2}, {view, 3}, {view, 4}}));
+    EXPECT_EQ(callsBefore, (std::vector<std::size_t>{6, 2, 2, 2, 2}));
+}
+
+TEST_F(NotifierTest, ASlotThatThrowsChangesNoResult)
+{
+    QObject context;
+    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
+                     [] { throw std::runtime_error("slot"); });
+    EXPECT_TRUE(registerView());
+    Lines const lines = log.take();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[1], paraError("异常描述：slot"));
+}
+
+TEST_F(NotifierTest, CanBeSpiedOnAndQueued)
+{
+    QObject context;
+    int heard = 0;
+    QObject::connect(
+        Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context, [&heard] { ++heard; },
+        Qt::QueuedConnection);
+    QSignalSpy const spy(Ext::Notifier::instance(), &Ext::Notifier::viewChanged);
+    registerView();
+    ASSERT_EQ(spy.count(), 1);
+    EXPECT_EQ(*static_cast<void const * const *>(spy.first().first().constData()), view);
+    EXPECT_EQ(spy.first().last().value<Ext::ViewAspects>(), Ext::ViewAspects(7));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard, 1);
+}
+
+} // namespace
