@@ -9,14 +9,14 @@ namespace Workbench {
 
 namespace {
 
-// WORKBENCH_SAMPLE_CONFIG is the samples' place at build time; elsewhere the program starts without settings.
-void copySamples(QString const & directory)
+// WORKBENCH_SAMPLES is the samples' place at build time; elsewhere the program starts without settings.
+void copySamples(QString const & name, QString const & directory)
 {
     QDir().mkpath(directory);
-    QDir const samples(QStringLiteral(WORKBENCH_SAMPLE_CONFIG));
-    for (QString const & name : samples.entryList(QDir::Files)) {
-        QString const copy = directory + '/' + name;
-        QFile::copy(samples.filePath(name), copy);
+    QDir const samples(QStringLiteral(WORKBENCH_SAMPLES "/") + name);
+    for (QString const & file : samples.entryList(QDir::Files)) {
+        QString const copy = directory + '/' + file;
+        QFile::copy(samples.filePath(file), copy);
         QFile::setPermissions(copy,
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
@@ -29,7 +29,8 @@ QString enterConfiguration(QString const & directory, QString const & output)
     QString const chosen = directory.isEmpty() ? output + "/workbench-session/config" : directory;
     QFileInfo const folder(chosen);
     if (!folder.exists() && directory.isEmpty()) {
-        copySamples(chosen);
+        copySamples("config", chosen);
+        copySamples("autoMatrix", folder.path() + "/autoMatrix"); // the user's own templates
     } else if (!folder.isDir()) {
         return QString("the configuration directory \"%1\" is not there").arg(chosen);
     }

@@ -95,6 +95,8 @@ QString kindText(Ext::DiagnosticKind kind)
         return SettingsPage::tr("not read back");
     case Ext::DiagnosticKind::IndexTaken:
         return SettingsPage::tr("index taken");
+    case Ext::DiagnosticKind::BackupFailed:
+        return SettingsPage::tr("no backup");
     }
     return {};
 }

@@ -12,6 +12,7 @@
 #include <QObject>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace KVCAM::UIAPI {
@@ -175,11 +176,18 @@ void AutoMatrixStore::selectFirst()
 void AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
 {
     FileDiagnostics const diagnostics(path);
+    std::set<std::string> names;
     QJsonArray const array = ConfigFiles::loadArray(path, texts, arrayKey, diagnostics, QIODevice::Text);
     for (int i = 0; i < array.size(); ++i) {
         AutoMatrixTmp tmpl;
         if (!readTemplate(array.at(i), i, diagnostics, tmpl)) {
             continue; // uses no index
+        }
+        if (!tmpl.name.empty() && !names.insert(tmpl.name).second) {
+            diagnostics.report(
+                Ext::DiagnosticKind::DuplicateElement, JsonPlace{arrayKey, i}.key(),
+                QStringLiteral("\"%1\" stands in the file already; its index is not found by name.")
+                    .arg(QString::fromStdString(tmpl.name)));
         }
         // A template whose index is taken is left out and still uses it up.
         if (auto const [entry, isNew] = m_templates.try_emplace(index, std::move(tmpl)); !isNew) {

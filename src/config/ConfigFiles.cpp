@@ -9,23 +9,21 @@ namespace {
 
 using JsonFile::ReadStatus;
 
-void logLine(char const * text, QString const & shown)
+void log(ReadStatus status, LoadTexts const & texts, QString const & shown, bool allSteps, int line)
 {
-    if (text != nullptr) {
-        Log::error(Log::globalVar, text + shown.toStdString());
-    }
-}
-
-void log(ReadStatus status, LoadTexts const & texts, QString const & shown, bool allSteps)
-{
+    auto const logLine = [&](char const * text) {
+        if (text != nullptr) {
+            Log::error(Log::globalVar, text + shown.toStdString(), line);
+        }
+    };
     if (status == ReadStatus::Missing) {
-        logLine(texts.missing, shown);
+        logLine(texts.missing);
     }
     if (status == ReadStatus::OpenFailed || (allSteps && status == ReadStatus::Missing)) {
-        logLine(texts.openFailed, shown);
+        logLine(texts.openFailed);
     }
     if (status == ReadStatus::ParseError || (allSteps && status != ReadStatus::Ok)) {
-        logLine(parseFailed, shown);
+        logLine(parseFailed);
     }
 }
 
@@ -55,18 +53,18 @@ void diagnose(JsonFile::ReadResult const & result, FileDiagnostics const & diagn
 char const * const parseFailed = "解析config json文件错误！路径：";
 
 JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown, Steps steps,
-                          QIODevice::OpenMode extra)
+                          QIODevice::OpenMode extra, int line)
 {
     JsonFile::ReadResult result = JsonFile::read(path, extra);
-    log(result.status, texts, shown, steps == Steps::All);
+    log(result.status, texts, shown, steps == Steps::All, line);
     diagnose(result, FileDiagnostics(path));
     return result;
 }
 
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
-                     FileDiagnostics const & diagnostics, QIODevice::OpenMode extra)
+                     FileDiagnostics const & diagnostics, QIODevice::OpenMode extra, int line)
 {
-    JsonFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra);
+    JsonFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra, line);
     if (result.status != ReadStatus::Ok || !diagnostics.checkTop(result.document.isObject(), "an object")) {
         return {};
     }

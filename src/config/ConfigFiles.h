@@ -29,14 +29,16 @@ enum class Steps
 };
 
 /// Reads a file and reports failures: ERROR lines under "UIAPIGlobalVar", each with `shown` at its end, and
-/// one finding.
+/// one finding. The line shown is the caller's.
 JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown,
-                          Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {});
+                          Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
+                          int line = __builtin_LINE());
 
 /// Loads a file whose top-level object has one member, the array `key`. Empty when the file cannot be read,
 /// which is reported as by load() with the path shown, and, without a log line, when it is shaped otherwise.
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
-                     FileDiagnostics const & diagnostics, QIODevice::OpenMode extra = {});
+                     FileDiagnostics const & diagnostics, QIODevice::OpenMode extra = {},
+                     int line = __builtin_LINE());
 
 /// The text of a value as UTF-8; empty for a value of another type.
 std::string textOf(QJsonValue const & value);

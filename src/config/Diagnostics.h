@@ -20,7 +20,8 @@ enum class DiagnosticKind : int
     UnknownKey,       ///< a key that no loader reads
     DuplicateElement, ///< an element whose name an earlier element of the file bears
     KeyNotReadBack,   ///< a key that is written at a save and not read at a start
-    IndexTaken        ///< a template that was not added, because its index is in use
+    IndexTaken,       ///< a template that was not added, because its index is in use
+    BackupFailed      ///< the old file could not be kept before a save replaced it
 };
 
 /// One finding.
@@ -38,7 +39,8 @@ UIAPICOMMON_EXPORT std::vector<Diagnostic> diagnostics();
 
 /// Whether the first save of the process that writes "server.json" keeps the old file beside it as
 /// "server.json.bak" (an older one is replaced), when the last load failed or the file holds keys that the
-/// save would drop. Off until set. A backup that cannot be written is given up silently.
+/// save would drop. Off until set. A backup that cannot be written is given up; diagnostics()
+/// says so.
 UIAPICOMMON_EXPORT void setKeepBackup(bool keep);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -70,8 +70,11 @@ void GlobalConfigStore::keepBackup(QString const & path)
         return;
     }
     QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        JsonFile::replace(path + QStringLiteral(".bak"), file.readAll());
+    if (file.open(QIODevice::ReadOnly) &&
+        JsonFile::replace(path + QStringLiteral(".bak"), file.readAll()) != JsonFile::WriteStatus::Ok) {
+        FileDiagnostics(path).report(
+            Ext::DiagnosticKind::BackupFailed, {},
+            QStringLiteral("The file was replaced and no copy of it could be kept."));
     }
 }
 

@@ -13,25 +13,32 @@
 
 #ifdef Q_OS_LINUX
 #include <csignal>
+#include <grp.h>
 #include <sys/resource.h>
+#include <unistd.h>
 #endif
 
 // config_writer DIRECTORY loop FIRST: saves generation after generation until it is killed.
-// config_writer DIRECTORY once NUMBER [LIMIT]: saves one; no file may then grow beyond LIMIT bytes, as on a
-// full disk.
+// config_writer DIRECTORY once NUMBER [limit BYTES | user ID]: saves one; no file may then grow beyond BYTES,
+// as on a full disk, or the process has no more rights than that user.
 
 using namespace KVCAM::UIAPI;
 
 namespace {
 
-bool limitFileSize(char const * limit)
+bool restrictProcess(char const * what, char const * value)
 {
 #ifdef Q_OS_LINUX
+    if (std::strcmp(what, "user") == 0) {
+        auto const id = static_cast<uid_t>(std::strtoul(value, nullptr, 10));
+        return setgroups(0, nullptr) == 0 && setgid(id) == 0 && setuid(id) == 0;
+    }
     std::signal(SIGXFSZ, SIG_IGN); // writes fail instead
-    rlimit const size{std::strtoul(limit, nullptr, 10), RLIM_INFINITY};
+    rlimit const size{std::strtoul(value, nullptr, 10), RLIM_INFINITY};
     return setrlimit(RLIMIT_FSIZE, &size) == 0;
 #else
-    static_cast<void>(limit);
+    static_cast<void>(what);
+    static_cast<void>(value);
     return false;
 #endif
 }
@@ -48,7 +55,7 @@ int main(int argc, char ** argv)
     GlobalConfigStore store;
     store.getGlobalConfig();
     int number = std::atoi(argv[3]);
-    if (argc > 4 && !limitFileSize(argv[4])) {
+    if (argc > 5 && !restrictProcess(argv[4], argv[5])) {
         return 3;
     }
     if (std::strcmp(argv[2], "once") == 0) {

@@ -18,7 +18,7 @@ namespace {
 char const * kindName(DiagnosticKind kind)
 {
     static char const * const names[] = {"missing file", "open",  "parse",    "missing", "type",
-                                         "unknown",      "twice", "not read", "taken"};
+                                         "unknown",      "twice", "not read", "taken",   "backup"};
     return names[static_cast<int>(kind)];
 }
 
@@ -60,38 +60,41 @@ TEST_F(DiagnosticsTest, EachLoaderTellsWhatItFinds)
         QByteArray content;
         Lines expected;
     };
-    for (Row const & row : {
-             Row{"server.json", wholeSettings + readKeys + "}", {}},
-             Row{"server.json",
-                 wholeSettings + ",\"LayerCopySuffix\":\"\",\"Movement_factor\":\"x\",\"Shift_confict\":null,"
-                                 "\"contour_accuracy\":1.5,\"Extra\":1}",
-                 {"missing layer_copy_suffix", "type Movement_factor", "type Shift_confict",
-                  "type contour_accuracy", "unknown Extra", "not read LayerCopySuffix"}},
-             Row{"server.json", "[]", {"type"}},
-             Row{"server.json", "", {"parse"}},
-             Row{"automatrix.json", "{\"template\":[" + emptyTemplate + "]}", {}},
-             Row{"automatrix.json",
-                 R"({"template":[5,{"prefix":{}},{"prefix":{},"suffix":"x"},)"
-                 R"({"prefix":{"drill":1,"drll":"x"},"suffix":{},"Name":"n"}],"version":1})",
-                 {"unknown version", "type template[0]", "missing template[1].suffix",
-                  "type template[2].suffix", "unknown template[3].Name", "type template[3].prefix.drill",
-                  "unknown template[3].prefix.drll"}},
-             Row{"automatrix.json", "{}", {"missing template"}},
-             Row{"attributes.json", R"({"TotalAttributes":[{"Attribute":".a"},{"Attribute":".b"}]})", {}},
-             Row{"attributes.json",
-                 R"({"TotalAttributes":[{"Attribute":".a"},".b",{"Attribute":".a","unit":"1","Unit":1},)"
-                 R"({"hasParam":1e10,"ProAttribute":["x",5]}]})",
-                 {"type TotalAttributes[1]", "unknown TotalAttributes[2].Unit",
-                  "type TotalAttributes[2].unit", "twice TotalAttributes[2]",
-                  "type TotalAttributes[3].ProAttribute", "type TotalAttributes[3].hasParam",
-                  "missing TotalAttributes[3].Attribute"}},
-             Row{"attributes.json", R"({"TotalAttributes":{}})", {"type TotalAttributes"}},
-             Row{"cammatenodes.json",
-                 R"([{"FlowName":"a"},{"FlowName":"a","x":1},{},5,{"FlowName":5}])",
-                 {"unknown [1].x", "twice [1].FlowName", "missing [2].FlowName", "type [3]",
-                  "type [4].FlowName"}},
-             Row{"cammatenodes.json", R"({"FlowName":["a","a"]})", {"twice FlowName[1]"}},
-         }) {
+    for (
+        Row const & row : {
+            Row{"server.json", wholeSettings + readKeys + "}", {}},
+            Row{"server.json",
+                wholeSettings + ",\"LayerCopySuffix\":\"\",\"Movement_factor\":\"x\",\"Shift_confict\":null,"
+                                "\"contour_accuracy\":1.5,\"Extra\":1}",
+                {"missing layer_copy_suffix", "type Movement_factor", "type Shift_confict",
+                 "type contour_accuracy", "unknown Extra", "not read LayerCopySuffix"}},
+            Row{"server.json", "[]", {"type"}},
+            Row{"server.json", "", {"parse"}},
+            Row{"automatrix.json", "{\"template\":[" + emptyTemplate + "]}", {}},
+            Row{"automatrix.json",
+                R"({"template":[5,{"prefix":{}},{"prefix":{},"suffix":"x"},)"
+                R"({"prefix":{"drill":1,"drll":"x"},"suffix":{},"Name":"n"}],"version":1})",
+                {"unknown version", "type template[0]", "missing template[1].suffix",
+                 "type template[2].suffix", "unknown template[3].Name", "type template[3].prefix.drill",
+                 "unknown template[3].prefix.drll"}},
+            Row{"automatrix.json", "{}", {"missing template"}},
+            Row{"automatrix.json",
+                R"({"template":[{"name":"x","prefix":{},"suffix":{}},{"name":"x","prefix":{},"suffix":{}}]})",
+                {"twice template[1]"}},
+            Row{"attributes.json", R"({"TotalAttributes":[{"Attribute":".a"},{"Attribute":".b"}]})", {}},
+            Row{"attributes.json",
+                R"({"TotalAttributes":[{"Attribute":".a"},".b",{"Attribute":".a","unit":"1","Unit":1},)"
+                R"({"hasParam":1e10,"ProAttribute":["x",5]}]})",
+                {"type TotalAttributes[1]", "unknown TotalAttributes[2].Unit", "type TotalAttributes[2].unit",
+                 "twice TotalAttributes[2]", "type TotalAttributes[3].ProAttribute",
+                 "type TotalAttributes[3].hasParam", "missing TotalAttributes[3].Attribute"}},
+            Row{"attributes.json", R"({"TotalAttributes":{}})", {"type TotalAttributes"}},
+            Row{"cammatenodes.json",
+                R"([{"FlowName":"a"},{"FlowName":"a","x":1},{},5,{"FlowName":5}])",
+                {"unknown [1].x", "twice [1].FlowName", "missing [2].FlowName", "type [3]",
+                 "type [4].FlowName"}},
+            Row{"cammatenodes.json", R"({"FlowName":["a","a"]})", {"twice FlowName[1]"}},
+        }) {
         writeFile(config + row.file, row.content);
         QString const file = row.file;
         if (file == "server.json") {
@@ -199,6 +202,14 @@ TEST_F(DiagnosticsTest, TheFirstSaveKeepsABackupOfWhatItWouldLose)
             << row.name << ": the second save keeps nothing";
     }
     log.take();
+
+    found();
+    writeFile(config + "server.json", "[1]");
+    ASSERT_TRUE(QFile::remove(config + "server.json.bak") && QDir().mkdir(config + "server.json.bak"));
+    GlobalConfigStore unkept;
+    unkept.getGlobalConfig();
+    unkept.set(&ServerSettings::os, 4);
+    EXPECT_EQ(found(), (Lines{"server.json type", "server.json backup"}));
 
     GlobalConfigStore store;
     store.getGlobalConfig();
