@@ -166,7 +166,9 @@ bool deleteFeatures(std::string const & job, std::string const & step, std::stri
         std::string const stepName = lowerCase(step);
         Deletion deletion = owner.checkedDeletion(stepName, lowerCase(layer), indices);
         if (state.database.isOpen()) {
-            state.database.addOperation(state.nextSequence(), lowerCase(owner.name()), stepName, deletion);
+            state.addRow([&](long long number) {
+                state.database.addOperation(number, lowerCase(owner.name()), stepName, deletion);
+            });
         }
         owner.apply(stepName, std::move(deletion));
         return true;
