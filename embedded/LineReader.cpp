@@ -11,8 +11,8 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr qint64 largestFile =
-    64LL * 1024 * 1024; // what is read of one takes some twenty times as much memory
+// What is read of a file may take some twenty times as much memory.
+constexpr qint64 largestFile = 64LL * 1024 * 1024;
 constexpr std::size_t longestLine = 1024UL * 1024;
 constexpr double largestNumber = 1e9;
 constexpr std::string_view blanks = " \t\r\v\f";

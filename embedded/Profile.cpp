@@ -70,7 +70,7 @@ std::vector<std::vector<API::point>> outlines(FeaturesFile const & file, Feature
     std::vector<std::vector<API::point>> polygons;
     polygons.reserve(feature.contours.size());
     for (Contour const & contour : feature.contours) {
-        polygons.push_back(polygon(file, contour, mostPoints - total));
+        polygons.push_back(polygon(file, contour, mostPoints - std::min(total, mostPoints)));
         total += polygons.back().size();
     }
     return polygons;
