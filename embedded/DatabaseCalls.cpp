@@ -18,7 +18,7 @@ void set_show_para_db_save(API::show_param const & value)
 {
     EngineState & state = EngineState::get();
     if (state.database.isOpen()) {
-        state.database.addShowPara(state.nextSequence(), value);
+        state.addRow([&](long long number) { state.database.addShowPara(number, value); });
     }
 }
 
@@ -26,7 +26,7 @@ void set_selection_db_save(API::Selection const & value)
 {
     EngineState & state = EngineState::get();
     if (state.database.isOpen()) {
-        state.database.addSelection(state.nextSequence(), value);
+        state.addRow([&](long long number) { state.database.addSelection(number, value); });
     }
 }
 
@@ -34,7 +34,7 @@ void set_select_param_db_save(API::select_info value)
 {
     EngineState & state = EngineState::get();
     if (state.database.isOpen()) {
-        state.database.addSelectParam(state.nextSequence(), value);
+        state.addRow([&](long long number) { state.database.addSelectParam(number, value); });
     }
 }
 
@@ -51,8 +51,9 @@ void undoCall(char const * call, std::string const & job, std::string const & st
     std::string const jobName = lowerCase(job);
     std::string const stepName = lowerCase(step);
     state.database.inTransaction([&] {
-        state.database.addUndoCall(state.nextSequence(), call, jobName, stepName,
-                                   state.operations(jobName, stepName));
+        state.addRow([&](long long number) {
+            state.database.addUndoCall(number, call, jobName, stepName, state.operations(jobName, stepName));
+        });
         work(state, jobName, stepName);
     });
 }

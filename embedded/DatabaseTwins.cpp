@@ -25,6 +25,8 @@ QSqlDatabase connection()
     return QSqlDatabase::database(connectionName(), false);
 }
 
+constexpr long long largestSequence = 1LL << 62;
+
 constexpr char const * tables[] = {
     "CREATE TABLE IF NOT EXISTS show_para (sequence INTEGER PRIMARY KEY, unit INTEGER, width INTEGER,"
     " negative INTEGER, textax INTEGER, profile INTEGER)",
@@ -46,12 +48,20 @@ QString text(std::string const & value)
 
 void DatabaseTwins::fail(QString const & reason) const
 {
-    throw std::runtime_error((m_file + ": " + reason.trimmed()).toStdString());
+    throw std::runtime_error(message(reason));
+}
+
+std::string DatabaseTwins::message(QString const & reason) const
+{
+    return (m_file + ": " + reason.trimmed()).toStdString();
 }
 
 void DatabaseTwins::open(std::string const & file)
 {
     close();
+    if (file.empty()) {
+        throw std::runtime_error("the database file has no name"); // SQLite would take a file of its own
+    }
     m_file = QFileInfo(QString::fromStdString(file)).absoluteFilePath();
     if (QCoreApplication::instance() == nullptr) {
         fail("the database needs a running application object");
@@ -97,7 +107,12 @@ void DatabaseTwins::run(char const * sql, QVariantList const & values)
         done = query.exec();
     }
     if (!done) {
-        fail(query.lastError().text());
+        constexpr int constraint = 19; // SQLite's code; extended codes keep it in the low byte
+        QSqlError const error = query.lastError();
+        if ((error.nativeErrorCode().toInt() & 0xFF) == constraint) {
+            throw SequenceTaken(message(error.text()));
+        }
+        fail(error.text());
     }
 }
 
@@ -114,10 +129,15 @@ long long DatabaseTwins::highestSequence()
     for (char const * const table : {"show_para", "selection", "select_param", "undo_call", "operation"}) {
         parts << QStringLiteral("SELECT max(sequence) AS s FROM ") + QString::fromLatin1(table);
     }
-    if (!query.exec("SELECT max(s) FROM (" + parts.join(" UNION ALL ") + ')') || !query.next()) {
+    if (!query.exec("SELECT CAST(max(s) AS INTEGER) FROM (" + parts.join(" UNION ALL ") + ')') ||
+        !query.next()) {
         fail(query.lastError().text());
     }
-    return query.value(0).toLongLong();
+    long long const highest = query.value(0).toLongLong();
+    if (highest > largestSequence) {
+        fail("the sequence numbers are used up");
+    }
+    return highest;
 }
 
 void DatabaseTwins::addShowPara(long long sequence, API::show_param const & value)

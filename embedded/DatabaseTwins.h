@@ -5,10 +5,18 @@
 #include <QString>
 #include <QVariantList>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace KVCAM::Embedded {
+
+/// What adding a row throws when its sequence number is taken, as by another process on the same file.
+class SequenceTaken : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
 
 /// The SQLite file that the database twins write to. Every change of a view's state is a row with its
 /// sequence number; the table of operations mirrors what can be undone. Methods throw std::runtime_error with
@@ -22,7 +30,8 @@ public:
     void open(std::string const & file);
     void close();
 
-    /// The highest sequence number in the file, 0 when it is new.
+    /// The highest sequence number in the file, 0 when it is new. Fails above 2^62, where counting on would
+    /// soon overflow: no such file is the engine's own.
     long long highestSequence();
 
     void addShowPara(long long sequence, API::show_param const & value);
@@ -56,6 +65,7 @@ private:
     void run(char const * sql, QVariantList const & values = {});
     void rollback() noexcept;
     [[noreturn]] void fail(QString const & reason) const;
+    std::string message(QString const & reason) const;
 
     bool m_open = false;
     QString m_file;

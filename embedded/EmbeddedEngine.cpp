@@ -141,6 +141,7 @@ std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string
 {
     return answered(std::vector<FeatureDrawing>(), [&](EngineState & state) {
         LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
+        std::size_t points = 0;
         std::vector<FeatureDrawing> list;
         list.reserve(graphics.file.features.size());
         for (std::size_t i = 0; i < graphics.file.features.size(); ++i) {
@@ -148,13 +149,18 @@ std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string
                 continue;
             }
             Feature const & feature = graphics.file.features[i];
-            FeatureDrawing drawing{feature.angle, feature.clockwise, {}};
-            for (Contour const & contour : feature.contours) {
-                drawing.outlines.push_back(polygon(contour));
-            }
-            list.push_back(std::move(drawing));
+            list.push_back({feature.angle, feature.mirrored, feature.clockwise,
+                            feature.symbol < 0 ? 0 : graphics.file.symbols.at(feature.symbol).unit,
+                            outlines(graphics.file, feature, points)});
         }
         return list;
+    });
+}
+
+bool isCutToTables(std::string const & job, std::string const & step, std::string const & layer)
+{
+    return answered(false, [&](EngineState & state) {
+        return state.job(job).graphics(lowerCase(step), lowerCase(layer)).cutToTables;
     });
 }
 
@@ -166,7 +172,9 @@ bool deleteFeatures(std::string const & job, std::string const & step, std::stri
         std::string const stepName = lowerCase(step);
         Deletion deletion = owner.checkedDeletion(stepName, lowerCase(layer), indices);
         if (state.database.isOpen()) {
-            state.database.addOperation(state.nextSequence(), lowerCase(owner.name()), stepName, deletion);
+            state.addRow([&](long long number) {
+                state.database.addOperation(number, lowerCase(owner.name()), stepName, deletion);
+            });
         }
         owner.apply(stepName, std::move(deletion));
         return true;

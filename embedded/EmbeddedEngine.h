@@ -15,7 +15,8 @@ namespace KVCAM::Embedded {
 KVCAM_API_EXPORT std::string lastError();
 
 /// Turns the save flag on or off. While it is on, the database twins write to the database file. False, with
-/// lastError() set, when the file cannot be opened; the flag is then off.
+/// lastError() set, when the file has no name, cannot be opened or leaves no sequence numbers to count on
+/// with; the flag is then off.
 KVCAM_API_EXPORT bool setSaveFlag(bool on);
 /// The SQLite file of the twins, "uiapi-engine.sqlite" in the current directory unless set. Takes effect the
 /// next time that the flag is turned on.
@@ -72,7 +73,7 @@ KVCAM_API_EXPORT std::vector<std::vector<API::point>> profileOutlines(std::strin
                                                                       std::string const & step);
 
 /// The features of a layer in file order, without the deleted ones; `index` counts over the file. Symbol
-/// names carry no unit mark; their sizes are in the unit of symbolUnit(). Empty, with lastError() set, on
+/// names carry no unit mark; FeatureDrawing says what their sizes are in. Empty, with lastError() set, on
 /// failure; a layer without a features file has none.
 KVCAM_API_EXPORT std::vector<API::feature_info> features(std::string const & job, std::string const & step,
                                                          std::string const & layer);
@@ -80,7 +81,11 @@ KVCAM_API_EXPORT std::vector<API::feature_info> features(std::string const & job
 struct FeatureDrawing
 {
     double angle = 0;       ///< of a pad, degrees clockwise
+    bool mirrored = false;  ///< of a pad
     bool clockwise = false; ///< of an arc
+    /// What the sizes in the feature's symbol name are in: 0 mil, 1 micrometre; 0 for a surface. One layer
+    /// may use the same name in both units.
+    int unit = 0;
     /// Of a surface: its islands and holes as closed polygons in micrometres (arcs as short chords), to be
     /// filled by the odd-even rule.
     std::vector<std::vector<API::point>> outlines;
@@ -88,6 +93,10 @@ struct FeatureDrawing
 /// One entry for each feature that features() gives, in the same order.
 KVCAM_API_EXPORT std::vector<FeatureDrawing>
 featureDrawings(std::string const & job, std::string const & step, std::string const & layer);
+/// Whether all that the job holds of a layer's features is their head and tables (a file features.tables), so
+/// that features() gives none although the layer is not empty.
+KVCAM_API_EXPORT bool isCutToTables(std::string const & job, std::string const & step,
+                                    std::string const & layer);
 /// Deletes features by index: the engine's one operation, recorded for Undo(). False, and nothing changed,
 /// and lastError() set, when the layer is not known, an index does not stand for a feature, the list is
 /// empty, or the save flag is on and the database cannot be written. The files of the job are never changed.

@@ -40,7 +40,7 @@ void EngineState::openDatabase()
 {
     database.open(databaseFile);
     try {
-        raiseSequence(database.highestSequence());
+        raiseSequence();
         database.inTransaction([this] {
             database.removeOperations({}, {}); // those of an earlier process cannot be undone any more
             for (std::unique_ptr<Job> const & open : jobs) {
@@ -67,7 +67,7 @@ void EngineState::mirrorHistory(std::string const & jobName, std::string const &
 void EngineState::addHistory(std::string const & jobName, Step const & step)
 {
     for (Deletion const & deletion : step.history) {
-        database.addOperation(nextSequence(), jobName, step.name, deletion);
+        addRow([&](long long number) { database.addOperation(number, jobName, step.name, deletion); });
     }
 }
 

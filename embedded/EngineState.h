@@ -31,8 +31,20 @@ public:
 
     /// Counts the changes of the live state and the rows of the database, so that their order can be told.
     long long nextSequence() { return ++m_sequence; }
-    /// Goes on above the rows that a database file already holds.
-    void raiseSequence(long long used) { m_sequence = std::max(m_sequence, used); }
+    /// Goes on above the rows that the database file already holds.
+    void raiseSequence() { m_sequence = std::max(m_sequence, database.highestSequence()); }
+    /// Has `insert` add a row with the next number. Another process may have written to the file meanwhile:
+    /// when the number is taken, counting goes on above its rows.
+    template <class Insert>
+    void addRow(Insert insert)
+    {
+        try {
+            return insert(nextSequence());
+        } catch (SequenceTaken const &) {
+            raiseSequence();
+        }
+        insert(nextSequence());
+    }
 
     /// By name in any case; null when it is not open.
     Job * findJob(std::string const & name);

@@ -2,15 +2,19 @@
 
 #include "LineReader.h"
 
-#include <optional>
+#include <algorithm>
+#include <set>
+#include <utility>
 
 namespace KVCAM::Embedded {
 namespace {
 
+constexpr std::size_t longestName = 128; // each record of a feature holds a copy
+
 class FeaturesReader
 {
 public:
-    explicit FeaturesReader(QString const & path) : m_reader(path) {}
+    explicit FeaturesReader(QString const & path) : m_reader(path) { m_file.path = path; }
 
     FeaturesFile read(bool tablesOnly)
     {
@@ -24,9 +28,10 @@ public:
             symbol.unit = symbol.unit < 0 ? m_file.unit : symbol.unit;
         }
         auto const count = static_cast<int>(m_file.features.size());
-        if (m_announced && *m_announced > count && !tablesOnly) {
-            m_reader.fail("the file is cut short: " + std::to_string(*m_announced) + " features announced, " +
-                          std::to_string(count) + " found");
+        if (m_announcedLine != 0 && m_announced != count && !tablesOnly) {
+            m_reader.fail(std::to_string(m_announced) + " features announced, " + std::to_string(count) +
+                              " found",
+                          m_announcedLine);
         }
         return std::move(m_file);
     }
@@ -39,9 +44,9 @@ private:
         case '$':
             return readSymbol(line.substr(1));
         case '@':
-            return readText(line.substr(1), m_file.attributeNames);
+            return checkText(line.substr(1), m_attributeNames);
         case '&':
-            return readText(line.substr(1), m_file.attributeTexts);
+            return checkText(line.substr(1), m_attributeTexts);
         default:
             break;
         }
@@ -57,7 +62,7 @@ private:
         } else if (letter == "U") {
             setUnit(words.next("unit"));
         } else if (letter == "F") {
-            m_announced = words.integer("number of features");
+            readAnnounced(words);
         } else {
             readFeature(letter, words, tail);
         }
@@ -67,8 +72,21 @@ private:
     void readHead()
     {
         KeyValue const pair = keyValue(m_reader);
+        // The head's keys are words, and they stand above the features: the rest are damaged records.
+        if (!m_file.features.empty() || pair.key.size() < 2) {
+            m_reader.fail("a record expected, not " + quoted(m_reader.line()));
+        }
         if (pair.key == "UNITS") {
             setUnit(pair.value);
+        }
+    }
+
+    void readAnnounced(Words & words)
+    {
+        m_announced = words.integer("number of features");
+        m_announcedLine = m_reader.lineNumber();
+        if (m_announced < 0) {
+            m_reader.fail("negative number of features");
         }
     }
 
@@ -96,10 +114,9 @@ private:
         return {index, trimmed(line.substr(digits.size()))};
     }
 
-    void readText(std::string_view line, std::map<int, std::string> & table)
+    void checkText(std::string_view line, std::set<int> & table)
     {
-        auto const [index, text] = entry(line);
-        if (!table.emplace(index, validText(text)).second) {
+        if (!table.insert(entry(line).first).second) {
             m_reader.fail("the table index stands twice");
         }
     }
@@ -115,7 +132,8 @@ private:
                 name = trimmed(bare);
             }
         }
-        if (name.empty() || name.find_first_of(" \t") != std::string_view::npos) {
+        if (name.empty() || name.size() > longestName ||
+            name.find_first_of(" \t") != std::string_view::npos) {
             m_reader.fail("bad symbol name " + quoted(name));
         }
         if (!m_file.symbols.emplace(index, SymbolEntry{validText(name), unit}).second) {
@@ -133,15 +151,17 @@ private:
     void readFeature(std::string_view letter, Words & words, std::string_view tail)
     {
         static constexpr std::string_view kinds = "PLAS";
+        if (letter == "T" || letter == "B") {
+            m_reader.fail(std::string(letter == "T" ? "text" : "barcode") + " records are not read");
+        }
         if (letter.size() != 1 || kinds.find(letter.front()) == std::string_view::npos) {
             m_reader.fail("unknown record " + quoted(letter));
         }
         Feature feature;
         feature.kind = letter.front();
         if (feature.kind != 'S') {
-            int const points = feature.kind == 'P' ? 1 : feature.kind == 'L' ? 2 : 3;
-            for (int i = 0; i < points; ++i) {
-                feature.points.push_back(point(words));
+            for (std::size_t i = 0; i < feature.pointCount(); ++i) {
+                feature.points.at(i) = point(words);
             }
             feature.symbol = symbol(words);
         }
@@ -154,7 +174,7 @@ private:
         } else if (feature.kind == 'S') {
             m_surfaceLine = m_reader.lineNumber();
         }
-        readAttributes(tail, feature);
+        checkAttributes(tail);
         m_file.features.push_back(std::move(feature));
     }
 
@@ -181,21 +201,22 @@ private:
         feature.angle = orientation >= 8 ? words.decimal("angle") : 90.0 * (orientation % 4);
     }
 
-    // ";<index>[=<value>],...;ID=<n>", each part optional.
-    void readAttributes(std::string_view tail, Feature & feature) const
+    // ";<index>[=<value>],...;ID=<n>", each part optional, and the ID may stand first.
+    void checkAttributes(std::string_view tail) const
     {
         if (tail.empty()) {
             return;
         }
         tail.remove_prefix(1);
         std::string_view list = tail.substr(0, tail.find(';'));
+        if (trimmed(list).substr(0, 3) == "ID=") {
+            return;
+        }
         while (!trimmed(list).empty()) {
             std::string_view const item = trimmed(list.substr(0, list.find(',')));
             list.remove_prefix(std::min(
                 list.size(), list.find(',') == std::string_view::npos ? list.size() : list.find(',') + 1));
-            std::string_view const index = item.substr(0, item.find('='));
-            std::string_view const value = item.substr(std::min(item.size(), index.size() + 1));
-            feature.attributes.push_back({m_reader.integer(index, "attribute index"), validText(value)});
+            m_reader.integer(item.substr(0, item.find('=')), "attribute index");
         }
     }
 
@@ -232,7 +253,10 @@ private:
     LineReader m_reader;
     FeaturesFile m_file;
     double m_scale = 25400.0; // micrometres per unit of the file
-    std::optional<int> m_announced;
+    int m_announced = 0;
+    int m_announcedLine = 0; // 0: the file announces no number of features
+    std::set<int> m_attributeNames;
+    std::set<int> m_attributeTexts;
     int m_surfaceLine = 0; // where the open surface begins; 0: none is open
     bool m_contourOpen = false;
 };
@@ -246,7 +270,7 @@ FeaturesFile readFeatures(QString const & path, bool tablesOnly)
 
 std::vector<API::point> recordPoints(Feature const & feature)
 {
-    std::vector<API::point> points = feature.points;
+    std::vector<API::point> points(feature.points.data(), feature.points.data() + feature.pointCount());
     for (Contour const & contour : feature.contours) {
         points.push_back(contour.start);
         for (Side const & side : contour.sides) {

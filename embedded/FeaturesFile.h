@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <array>
+#include <cstddef>
 #include <map>
 #include <string>
 #include <vector>
@@ -34,15 +36,9 @@ struct Contour
     std::vector<Side> sides;
 };
 
-/// An attribute of a feature: an index of the file's attribute-name table, and the value as it stands there.
-struct AttributeUse
-{
-    int index = 0;
-    std::string value;
-};
-
 /// A graphic of a layer, in micrometres. A surface has contours, every other kind has a symbol and points:
-/// a pad its place, a line its start and end, an arc its start, end and centre.
+/// a pad its place, a line its start and end, an arc its start, end and centre. A file may hold millions of
+/// them, so they keep no list of their own for the few points; attributes are checked but not kept.
 struct Feature
 {
     char kind = 'P';
@@ -51,17 +47,18 @@ struct Feature
     bool mirrored = false;  ///< of a pad
     double angle = 0;       ///< of a pad, degrees clockwise
     int symbol = -1;        ///< index of the symbol table
-    std::vector<API::point> points;
+    std::array<API::point, 3> points{};
     std::vector<Contour> contours;
-    std::vector<AttributeUse> attributes;
+
+    /// How many of `points` are in use.
+    std::size_t pointCount() const { return kind == 'P' ? 1 : kind == 'L' ? 2 : kind == 'A' ? 3 : 0; }
 };
 
 struct FeaturesFile
 {
+    QString path; ///< for messages
     int unit = 0; ///< 0 inch, 1 millimetre
     std::map<int, SymbolEntry> symbols;
-    std::map<int, std::string> attributeNames;
-    std::map<int, std::string> attributeTexts;
     std::vector<Feature> features;
 };
 

@@ -38,7 +38,7 @@ std::vector<std::string> folderNames(QString const & folder)
 {
     std::vector<std::string> names;
     if (!folder.isEmpty()) {
-        for (QString const & name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        for (QString const & name : entriesOf(folder, QDir::Dirs | QDir::NoDotAndDotDot)) {
             names.push_back(name.toStdString());
         }
     }
@@ -79,6 +79,10 @@ Step Job::readStep(std::string const & name) const
     if (step.folder.isEmpty()) {
         throw JobError(QDir(m_folder).filePath("steps/" + QString::fromStdString(name)).toStdString() +
                        ": no such folder, but the matrix names the step");
+    }
+    if (!m_matrix.layers.empty() && findFolder(step.folder, "layers").isEmpty()) {
+        throw JobError(QDir(step.folder).filePath("layers").toStdString() +
+                       ": no such folder, but the matrix names layers");
     }
     if (QString const header = findFile(step.folder, "stephdr"); !header.isEmpty()) {
         checkStepHeader(header);
@@ -133,6 +137,7 @@ LayerGraphics & Job::graphics(std::string const & stepName, std::string const & 
             graphics.file = readFeatures(file);
         } else if (QString const tables = findFile(folder, "features.tables"); !tables.isEmpty()) {
             graphics.file = readFeatures(tables, true);
+            graphics.cutToTables = true;
         }
     }
     graphics.deleted.resize(graphics.file.features.size());

@@ -19,6 +19,7 @@ struct LayerGraphics
 {
     FeaturesFile file;
     std::vector<bool> deleted; ///< as many as features
+    bool cutToTables = false;  ///< the file holds the head and the tables alone
 };
 
 /// One deletion: the layer, and the indices of what was deleted, ascending.

@@ -2,7 +2,7 @@
 
 #include "LineReader.h"
 
-#include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -12,9 +12,8 @@ namespace {
 QString find(QString const & folder, QString const & name, QDir::Filters filters)
 {
     QDir const dir(folder);
-    QStringList const entries = dir.entryList(filters | QDir::Hidden, QDir::Name);
     QString found;
-    for (QString const & entry : entries) {
+    for (QString const & entry : entriesOf(folder, filters | QDir::Hidden)) {
         if (entry == name) {
             return dir.filePath(entry);
         }
@@ -43,6 +42,15 @@ std::string refusal(std::string const & name)
     return unsafe ? "the name " + quoted(name) + " cannot be used as a folder" : std::string();
 }
 
+QStringList entriesOf(QString const & folder, QDir::Filters filters)
+{
+    // Qt lists what cannot be read as empty, and nothing must be taken for absent because of that.
+    if (QFileInfo const info(folder); info.isDir() && !(info.isReadable() && info.isExecutable())) {
+        throw JobError(folder.toStdString() + ": no permission to read the folder");
+    }
+    return QDir(folder).entryList(filters, QDir::Name);
+}
+
 QString findFolder(QString const & folder, std::string const & name)
 {
     return find(folder, QString::fromStdString(name), QDir::Dirs | QDir::NoDotAndDotDot);
@@ -53,6 +61,9 @@ QString findFile(QString const & folder, std::string const & name)
     QString const wanted = QString::fromStdString(name);
     if (QString plain = find(folder, wanted, QDir::Files); !plain.isEmpty()) {
         return plain;
+    }
+    if (QString const folderInstead = findFolder(folder, name); !folderInstead.isEmpty()) {
+        throw JobError(folderInstead.toStdString() + ": a folder, where a file belongs");
     }
     if (QString const packed = find(folder, wanted + ".Z", QDir::Files); !packed.isEmpty()) {
         throw JobError(packed.toStdString() +

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QStringList>
 
@@ -14,10 +15,12 @@ std::string lowerCase(std::string const & name);
 /// or ".." would lead out of the job.
 std::string refusal(std::string const & name);
 
+/// The names in a folder, sorted; none when there is no such folder. Throws JobError when it may not be read.
+QStringList entriesOf(QString const & folder, QDir::Filters filters);
 /// The sub-folder of that name in any case, or "" when there is none.
 QString findFolder(QString const & folder, std::string const & name);
-/// The file of that name in any case, or "" when there is none. Throws JobError when only a compressed form
-/// of it (".Z") is there.
+/// The file of that name in any case, or "" when there is none. Throws JobError when only a folder of
+/// that name or a compressed form of it (".Z") is there.
 QString findFile(QString const & folder, std::string const & name);
 
 } // namespace KVCAM::Embedded

@@ -11,7 +11,8 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr qint64 largestFile = 512LL * 1024 * 1024;
+// What is read of a file may take some twenty times as much memory.
+constexpr qint64 largestFile = 64LL * 1024 * 1024;
 constexpr std::size_t longestLine = 1024UL * 1024;
 constexpr double largestNumber = 1e9;
 constexpr std::string_view blanks = " \t\r\v\f";
@@ -60,7 +61,7 @@ LineReader::LineReader(QString const & path) : m_path(QDir::cleanPath(path))
         throw JobError(shown + ": " + file.errorString().toStdString());
     }
     if (file.size() > largestFile) {
-        throw JobError(shown + ": the file is larger than 512 MiB");
+        throw JobError(shown + ": the file is larger than 64 MiB");
     }
     m_text = file.read(file.size()); // allocates what it is asked for
     if (file.error() != QFileDevice::NoError) {
@@ -90,6 +91,11 @@ bool LineReader::next()
 void LineReader::fail(std::string const & reason) const
 {
     fail(reason, m_number);
+}
+
+void LineReader::failWhole(std::string const & reason) const
+{
+    throw JobError(m_path.toStdString() + ": " + reason);
 }
 
 void LineReader::fail(std::string const & reason, int lineNumber) const

@@ -16,7 +16,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The lines of one text file of a job, LF or CRLF. Files are untrusted: a file over 512 MiB or a line over
+/// The lines of one text file of a job, LF or CRLF. Files are untrusted: a file over 64 MiB or a line over
 /// 1 MiB is refused.
 class LineReader
 {
@@ -33,6 +33,8 @@ public:
     /// Throws a JobError for the current line.
     [[noreturn]] void fail(std::string const & reason) const;
     [[noreturn]] void fail(std::string const & reason, int lineNumber) const;
+    /// Throws a JobError for the file, where no line is to blame.
+    [[noreturn]] void failWhole(std::string const & reason) const;
 
     /// A whole text as a number, whatever the locale; fails with `what` otherwise. A decimal is finite and
     /// within +-1e9.

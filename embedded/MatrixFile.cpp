@@ -111,6 +111,9 @@ API::layer_info layer(Block const & block)
 {
     API::layer_info info;
     info.context = lowerCase(block.text("CONTEXT"));
+    if (info.context != "board" && info.context != "misc") {
+        block.fail("CONTEXT", "is neither BOARD nor MISC");
+    }
     info.type = lowerCase(block.text("TYPE"));
     info.name = block.name();
     info.row = block.position("ROW");
@@ -147,7 +150,7 @@ Matrix readMatrix(QString const & path)
         }
     }
     if (empty) {
-        reader.fail("the matrix holds no steps and no layers");
+        reader.failWhole("the matrix holds no steps and no layers");
     }
     return {steps.take(), layers.take()};
 }

@@ -1,12 +1,17 @@
 #include "Profile.h"
 
+#include "LineReader.h"
+
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <utility>
 
 namespace KVCAM::Embedded {
 namespace {
 
 constexpr double pi = 3.14159265358979323846;
+constexpr std::size_t mostPoints = 10'000'000; // a file of straight sides cannot hold so many
 constexpr int chordsPerTurn = 72; // a multiple of four: the extreme points of a circle are among them
 
 // Appends the points between the ends of an arc. Equal ends make a full circle.
@@ -35,9 +40,8 @@ bool same(API::point a, API::point b)
     return a.x == b.x && a.y == b.y;
 }
 
-} // namespace
-
-std::vector<API::point> polygon(Contour const & contour)
+// Fails beyond `room` points.
+std::vector<API::point> polygon(FeaturesFile const & file, Contour const & contour, std::size_t room)
 {
     std::vector<API::point> points{contour.start};
     for (Side const & side : contour.sides) {
@@ -47,6 +51,10 @@ std::vector<API::point> polygon(Contour const & contour)
         if (!same(side.to, points.back())) {
             points.push_back(side.to);
         }
+        if (points.size() > room) {
+            throw JobError(file.path.toStdString() + ": the outlines take more than " +
+                           std::to_string(mostPoints) + " points");
+        }
     }
     if (points.size() > 1 && same(points.front(), points.back())) {
         points.pop_back();
@@ -54,12 +62,27 @@ std::vector<API::point> polygon(Contour const & contour)
     return points;
 }
 
+} // namespace
+
+std::vector<std::vector<API::point>> outlines(FeaturesFile const & file, Feature const & feature,
+                                              std::size_t & total)
+{
+    std::vector<std::vector<API::point>> polygons;
+    polygons.reserve(feature.contours.size());
+    for (Contour const & contour : feature.contours) {
+        polygons.push_back(polygon(file, contour, mostPoints - std::min(total, mostPoints)));
+        total += polygons.back().size();
+    }
+    return polygons;
+}
+
 std::optional<Profile> profileOf(FeaturesFile const & file)
 {
     Profile profile;
+    std::size_t total = 0;
     for (Feature const & feature : file.features) {
-        for (Contour const & contour : feature.contours) {
-            profile.outlines.push_back(polygon(contour));
+        for (std::vector<API::point> & outline : outlines(file, feature, total)) {
+            profile.outlines.push_back(std::move(outline));
         }
     }
     if (profile.outlines.empty()) {

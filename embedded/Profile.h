@@ -3,7 +3,9 @@
 #include "EmbeddedEngine.h"
 #include "FeaturesFile.h"
 
+#include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace KVCAM::Embedded {
 
@@ -14,11 +16,13 @@ struct Profile
     Box box;
 };
 
-/// Nothing when the file holds no surface.
+/// Nothing when the file holds no surface. Throws JobError as outlines() does.
 std::optional<Profile> profileOf(FeaturesFile const & file);
 
-/// A contour as a polygon without a repeated last point. An arc gives a point at each multiple of five
-/// degrees, so that the polygon's extent is the arc's.
-std::vector<API::point> polygon(Contour const & contour);
+/// The contours of a feature of `file` as polygons without a repeated last point. An arc gives a point at
+/// each multiple of five degrees, so that the polygon's extent is the arc's. `total` counts the points over
+/// the features of the file; throws JobError when it passes 10 million, which arcs alone can bring about.
+std::vector<std::vector<API::point>> outlines(FeaturesFile const & file, Feature const & feature,
+                                              std::size_t & total);
 
 } // namespace KVCAM::Embedded

@@ -59,7 +59,7 @@ protected:
     static void makeBoard()
     {
         write("jobs/board/matrix/matrix", step(1, "PCB") + "\n" + layer(1, "TOP") + layer(2, "BOTTOM"));
-        ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb"));
+        ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb/layers"));
     }
 
     static void writeFeatures(QByteArray const & bytes)

@@ -38,7 +38,7 @@ TEST_F(FeaturesTest, EveryRecordIsRead)
 {
     QByteArray const body = "#\nF 4\n$1 r10 I\n$0 rect2x3 M\n$7 my-symbol+1\n@0 .smd\n&0 a text\n\n"
                             "P 1 2 0 P 0 8 45.5 ;0,1=2;ID=7\nL 0 0 1e0 -.5 7 N 0;;ID=1\n"
-                            "A 1 0 0 1 0 0 1 P 0 Y\n"
+                            "A 1 0 0 1 0 0 1 P 0 Y;ID=75\n"
                             "S N 0\nOB 0 0 I\nOS 1 0\nOC 0 1 0 0 N\nOE\nOB 2 2 H\nOE\nSE\n";
     struct Row
     {
@@ -77,33 +77,34 @@ TEST_F(FeaturesTest, DamageNamesFileAndLineAndLoadsNothing)
              Row{good + "P 1e99 2 0 P 0 0", "3: bad x \"1e99\""},
              Row{good + "P 0 0 1 P 0 0", "3: unknown symbol index 1"},
              Row{good + "P 0 0 -1 0 2 P 0 0", "3: resized symbols are not read"},
-             Row{good + "P 0 0 99999999999 P 0 0", "3: bad symbol index \"99999999999\""},
              Row{good + "P 0 0 0 X 0 0", "3: bad polarity \"X\""},
              Row{good + "P 0 0 0 P 0 10", "3: bad orientation 10"},
-             Row{good + "P 0 0 0 P 0 8", "3: the record is cut short: no angle"},
              Row{good + "P 0 0 0 P 0 0 0", "3: unexpected \"0\""},
              Row{good + "L 0 0 1", "3: the record is cut short: no y"},
-             Row{good + "L 0 0 1 1 0", "3: the record is cut short: no polarity"},
-             Row{good + "A 0 0 1 1 0 0 0 P 0", "3: the record is cut short: no direction"},
              Row{good + "P 0 0 0 P 0 0 ;x=1", "3: bad attribute index \"x\""},
-             Row{good + "T 0 0 0 P", "3: unknown record \"T\""},
-             Row{good + "OB 0 0 I", "3: unknown record \"OB\""},
+             Row{good + "T 0 0 0 P", "3: text records are not read"},
+             Row{good + "B 0 0 0 P", "3: barcode records are not read"},
              Row{good + "p 0 0 0 P 0 0", "3: unknown record \"p\""},
              Row{good + "S P 0\nOB 0 0 I\nOS 1 1\nOE\n", "3: the surface is not ended by SE"},
              Row{good + "S P 0\nOB 0 0 I\nSE\n", "5: \"SE\" is out of place in the surface of line 3"},
-             Row{good + "S P 0\nSE\n", "4: \"SE\" is out of place in the surface of line 3"},
              Row{good + "S P 0\nOS 0 0\n", "4: \"OS\" is out of place in the surface of line 3"},
              Row{good + "S P 0\nOB 0 0 I\nOE\nP 0 0 0 P 0 0\n",
                  "6: \"P\" is out of place in the surface of line 3"},
              Row{good + "S P 0\nOB 0 0 J\n", "4: bad kind of contour \"J\""},
              Row{good + "$0 r11\n", "3: the table index stands twice"},
              Row{good + "\x1b[2J\xff 0", "3: unknown record \"?[2J\xef\xbf\xbd\""},
-             Row{good + "$1\n", "3: bad symbol name \"\""},
              Row{good + "$1 r10 Q\n", "3: bad symbol name \"r10 Q\""},
              Row{good + "@-1 .smd\n", "3: negative table index"},
-             Row{good + "UNITS=MM\n", "3: the unit stands after the first feature"},
+             Row{"P=0.1 0.2 0 P 0 0\n", "1: a record expected, not \"P=0.1 0.2 0 P 0 0\""},
+             Row{good + "PX=1 0 0 P 0 0\n", "3: a record expected, not \"PX=1 0 0 P 0 0\""},
+             Row{good + "S P 0\nOB 0 0 I\nOS=1 0\n", "5: a record expected, not \"OS=1 0\""},
+             Row{good + "U MM\n", "3: the unit stands after the first feature"},
              Row{"UNITS=FEET\n", "1: unknown unit \"FEET\""},
-             Row{"F 2\n" + good, "3: the file is cut short: 2 features announced, 1 found"},
+             Row{"F 2\n" + good, "1: 2 features announced, 1 found"},
+             Row{"F 0\n" + good, "1: 0 features announced, 1 found"},
+             Row{"F -1\n", "1: negative number of features"},
+             Row{"$0 " + QByteArray(129, 'a'),
+                 "1: bad symbol name \"aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa...\""},
          }) {
         writeFeatures(row.text);
         EXPECT_EQ(read(), Texts());
@@ -135,10 +136,10 @@ TEST_F(FeaturesTest, AFileOverTheLimitIsRefusedUnread)
 {
     writeFeatures("");
     QFile file("jobs/board/steps/pcb/layers/top/features");
-    ASSERT_TRUE(file.resize(512LL * 1024 * 1024 + 1)); // sparse: takes no room
+    ASSERT_TRUE(file.resize(64LL * 1024 * 1024 + 1)); // sparse: takes no room
     EXPECT_EQ(read(), Texts());
     EXPECT_EQ(Embedded::lastError(),
-              "jobs/board/steps/pcb/layers/top/features: the file is larger than 512 MiB");
+              "jobs/board/steps/pcb/layers/top/features: the file is larger than 64 MiB");
 }
 
 TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
@@ -146,6 +147,8 @@ TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
     writeFeatures("$0 r10\n$1 rect4x5 M\n$2 r10 I\n$3 r3\nP 0 0 0 P 0 0\nP 0 0 1 P 0 0\nP 0 0 2 P 0 0\n");
     write("jobs/board/steps/pcb/layers/bottom/features.tables", "UNITS=MM\nF 5\n$0 r10\n$1 rect4x5\n");
     ASSERT_TRUE(open());
+    EXPECT_TRUE(Embedded::isCutToTables("board", "pcb", "BOTTOM"));
+    EXPECT_FALSE(Embedded::isCutToTables("board", "pcb", "top"));
     auto const shown = [](std::vector<Embedded::SymbolUse> const & uses) {
         Texts lines;
         for (Embedded::SymbolUse const & use : uses) {
@@ -159,6 +162,39 @@ TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
     ASSERT_TRUE(Embedded::deleteFeatures("board", "pcb", "top", {0}));
     EXPECT_EQ(shown(Embedded::layerSymbols("board", "pcb", "top")),
               (Texts{"r10 0 1", "rect4x5 1 1", "r3 0 0"}));
+}
+
+TEST_F(FeaturesTest, ADrawingSaysWhatTheRecordLeavesOpen)
+{
+    writeFeatures("U MM\n$0 r40 I\n$1 r40 M\n$2 r40\nP 0 0 0 P 0 5\nP 0 0 1 P 0 8 30\nL 0 0 1 1 2 P 0\n"
+                  "A 1 0 0 1 0 0 0 P 0 Y\nS P 0\nOB 0 0 I\nOS 1 0\nOE\nSE\n");
+    ASSERT_TRUE(open());
+    Texts lines;
+    for (Embedded::FeatureDrawing const & drawing : Embedded::featureDrawings("board", "pcb", "top")) {
+        lines.push_back(QString("%1 %2 %3 %4 %5")
+                            .arg(drawing.unit)
+                            .arg(drawing.angle)
+                            .arg(int(drawing.mirrored))
+                            .arg(int(drawing.clockwise))
+                            .arg(drawing.outlines.size())
+                            .toStdString());
+    }
+    EXPECT_EQ(lines, (Texts{"0 90 1 0 0", "1 30 0 0 0", "1 0 0 0 0", "0 0 0 1 0", "0 0 0 0 1"}));
+}
+
+// One arc of thirteen bytes gives 72 points.
+TEST_F(FeaturesTest, OutlinesOfTooManyPointsAreRefused)
+{
+    QByteArray const text = "S P 0\nOB 1 0 I\n" + QByteArray("OC 1 0 0 0 Y\n").repeated(140'000) + "OE\nSE\n";
+    writeFeatures(text);
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(Embedded::featureDrawings("board", "pcb", "top").empty());
+    EXPECT_EQ(Embedded::lastError(),
+              "jobs/board/steps/pcb/layers/top/features: the outlines take more than 10000000 points");
+    write("jobs/board/steps/pcb/profile", text);
+    EXPECT_FALSE(open());
+    EXPECT_EQ(Embedded::lastError(),
+              "jobs/board/steps/pcb/profile: the outlines take more than 10000000 points");
 }
 
 TEST_F(FeaturesTest, ToolsAreInMicrometres)

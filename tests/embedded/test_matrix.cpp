@@ -27,8 +27,8 @@ TEST_F(MatrixTest, IsTranslatedAndOrderedByColumnAndRow)
           "\r\n" + step(2, "Panel").replace('\n', "\r\n") + step(1, "PCB") + layer(2, "BOTTOM=1") +
               "layer  {\n name = comp_+_top\n old_name=\n polarity=Negative\n TYPE=Power_Ground\n"
               " Context=Misc\n UNHEARD OF=a=b\n row= 1 \n}\n");
-    ASSERT_TRUE(QDir().mkpath("jobs/board/Steps/Pcb"));
-    ASSERT_TRUE(QDir().mkpath("jobs/board/Steps/PANEL"));
+    ASSERT_TRUE(QDir().mkpath("jobs/board/Steps/Pcb/Layers"));
+    ASSERT_TRUE(QDir().mkpath("jobs/board/Steps/PANEL/layers"));
     ASSERT_TRUE(open("BOARD")) << Embedded::lastError();
     EXPECT_EQ(layerTexts("Board"),
               (Texts{"pcb", "panel", "1 misc power_ground comp_+_top NEG", "2 board signal bottom=1 POS"}));
@@ -44,17 +44,16 @@ TEST_F(MatrixTest, DamageNamesFileAndLineAndLoadsNothing)
     };
     QByteArray const good = step(1, "PCB"); // four lines
     for (Row const & row : {
-             Row{"", "0: the matrix holds no steps and no layers"},
+             Row{"\n", " the matrix holds no steps and no layers"},
              Row{good + "LAYER {\n ROW=1\n", "5: the LAYER block is not closed"},
              Row{good + "LAYER {\n ROW=1\n" + layer(2, "TOP"), "7: KEY=VALUE expected, not \"LAYER {\""},
              Row{good + "LAYER\n{\n}\n", "5: \"STEP {\" or \"LAYER {\" expected"},
-             Row{good + "COMPONENT {\n}\n", "5: \"STEP {\" or \"LAYER {\" expected"},
              Row{good + layer(1, "TOP").replace("    NAME=TOP\n", ""), "5: the LAYER block has no NAME"},
              Row{good + layer(1, ""), "5: the LAYER block has no NAME"},
-             Row{good + layer(1, "TOP").replace("    TYPE=SIGNAL\n", ""), "5: the LAYER block has no TYPE"},
              Row{good + layer(1, "TOP").replace("ROW=1", "ROW=1x"), "6: ROW=1x is not a positive number"},
              Row{good + layer(0, "TOP"), "6: ROW=0 is not a positive number"},
-             Row{good + layer(-1, "TOP"), "6: ROW=-1 is not a positive number"},
+             Row{good + layer(1, "TOP").replace("BOARD", "BORD"),
+                 "7: CONTEXT=BORD is neither BOARD nor MISC"},
              Row{good + layer(1, "TOP").replace("ROW=1", "ROW=99999999999"),
                  "6: ROW=99999999999 is not a positive number"},
              Row{good + layer(1, "TOP").replace("POSITIVE", "POS"),
@@ -99,10 +98,37 @@ TEST_F(MatrixTest, MissingFilesAndFoldersRefuseTheJob)
     EXPECT_EQ(Embedded::lastError(), "jobs/board/matrix/matrix.Z: compressed files are not read; unpack it "
                                      "first, for example with gzip -d");
 
-    write("jobs/board/matrix/matrix", step(1, "PCB"));
+    write("jobs/board/matrix/matrix", step(1, "PCB") + layer(1, "TOP"));
     EXPECT_FALSE(open());
     EXPECT_EQ(Embedded::lastError(), "jobs/board/steps/pcb: no such folder, but the matrix names the step");
+    ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb"));
+    EXPECT_FALSE(open());
+    EXPECT_EQ(Embedded::lastError(),
+              "jobs/board/steps/pcb/layers: no such folder, but the matrix names layers");
+    ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb/layers"));
+    ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb/profile"));
+    EXPECT_FALSE(open());
+    EXPECT_EQ(Embedded::lastError(), "jobs/board/steps/pcb/profile: a folder, where a file belongs");
     EXPECT_TRUE(Embedded::openJobs().empty());
+}
+
+TEST_F(MatrixTest, WhatMayNotBeReadIsNotTakenForAbsent)
+{
+    makeBoard();
+    ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb/layers/top"));
+    for (auto const & [path, error] :
+         {std::pair("jobs/board/matrix/matrix", ": Permission denied"),
+          std::pair("jobs/board/matrix", ": no permission to read the folder"),
+          std::pair("jobs/board/steps/pcb/layers/top", ": no permission to read the folder")}) {
+        QFile::Permissions const before = QFile::permissions(path);
+        ASSERT_TRUE(QFile::setPermissions(path, {}));
+        if (QFileInfo(path).isReadable()) {
+            GTEST_SKIP() << "permissions do not bind this user";
+        }
+        EXPECT_TRUE(!open() || Embedded::features("board", "pcb", "top").empty());
+        EXPECT_EQ(Embedded::lastError(), std::string(path) + error);
+        ASSERT_TRUE(QFile::setPermissions(path, before));
+    }
 }
 
 TEST_F(MatrixTest, ADamagedStepRefusesTheJob)

@@ -60,9 +60,9 @@ protected:
         database.close();
         return lines;
     }
-    static Texts operations()
+    static Texts operations(QString const & file = "uiapi-engine.sqlite")
     {
-        return rows("SELECT job, step, layer, features FROM operation ORDER BY sequence");
+        return rows("SELECT job, step, layer, features FROM operation ORDER BY sequence", file);
     }
 };
 
@@ -175,6 +175,17 @@ TEST_F(UndoTest, TwinsWriteOnlyWhileTheFlagIsOnAndBeforeTheLiveCall)
     ASSERT_TRUE(Embedded::setSaveFlag(true));
     DB::set_select_param_db_save({13});
     EXPECT_EQ(rows("SELECT * FROM select_param WHERE sequence > 5000", "state.sqlite"), Texts{"5001 13"});
+    // And so it may while the flag is on.
+    rows("INSERT INTO select_param VALUES (5002, 1), (5003, 1)", "state.sqlite");
+    DB::set_select_param_db_save({14});
+    EXPECT_EQ(rows("SELECT * FROM select_param WHERE sequence > 5003", "state.sqlite"), Texts{"5004 14"});
+    rows("INSERT INTO operation VALUES (5005, 'a', 'b', 'c', '0')", "state.sqlite");
+    ASSERT_TRUE(remove({1}));
+    EXPECT_EQ(operations("state.sqlite"), (Texts{"a b c 0", "board pcb top 1"}));
+    rows("INSERT INTO undo_call VALUES (5007, 'x', 'a', 'b', 0)", "state.sqlite");
+    DB::Undo_db_save("board", "pcb");
+    EXPECT_EQ(rows("SELECT max(sequence) FROM undo_call", "state.sqlite"), Texts{"5008"});
+    EXPECT_EQ(operations("state.sqlite"), Texts{"a b c 0"});
 }
 
 TEST_F(UndoTest, TheLiveStateIsWhatTheEngineWasToldLast)
@@ -192,10 +203,19 @@ TEST_F(UndoTest, TheLiveStateIsWhatTheEngineWasToldLast)
     EXPECT_EQ(state.sequence, 4);
 }
 
-TEST_F(UndoTest, AFileThatIsNoDatabaseLeavesTheFlagOff)
+TEST_F(UndoTest, AFileThatCannotServeLeavesTheFlagOff)
 {
+    Embedded::setDatabaseFile("");
+    EXPECT_FALSE(Embedded::setSaveFlag(true));
+    EXPECT_EQ(Embedded::lastError(), "the database file has no name");
+
+    rows("CREATE TABLE select_param (sequence INTEGER PRIMARY KEY, selected_para INTEGER)", "full.sqlite");
+    rows("INSERT INTO select_param VALUES (9223372036854775807, 1)", "full.sqlite");
+    rows("CREATE TABLE select_param (sequence REAL, selected_para INTEGER)", "real.sqlite");
+    rows("INSERT INTO select_param VALUES (1e300, 1)", "real.sqlite");
     write("text.sqlite", QByteArray(4096, 'x'));
-    for (char const * const file : {"text.sqlite", "no/such/folder/file.sqlite"}) {
+    for (char const * const file :
+         {"text.sqlite", "full.sqlite", "real.sqlite", "no/such/folder/file.sqlite"}) {
         Embedded::setDatabaseFile(file);
         EXPECT_FALSE(Embedded::setSaveFlag(true));
         EXPECT_NE(Embedded::lastError().find(std::string(file) + ": "), std::string::npos);
