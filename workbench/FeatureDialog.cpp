@@ -257,6 +257,11 @@ void FeatureDialog::showFacts()
 void FeatureDialog::changeEvent(QEvent * event)
 {
     if (event->type() == QEvent::LanguageChange && m_exact != nullptr) {
+        for (KVLineEdit * field : {m_width, m_height}) {
+            if (field->isEnabled()) {
+                field->setRange(smallestMil, largestMil); // which tells the words anew
+            }
+        }
         showFacts();
     }
     QDialog::changeEvent(event);

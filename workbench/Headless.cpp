@@ -119,6 +119,7 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     if (!dialog.isRestored()) {
         auto & width = *dialog.findChild<KVLineEdit *>("width");
         QString const calculation = unit == 0 ? "10+2.5" : "254+63.5";
+        width.setFocus();
         type(width, "90000*2");
         facts["refused"] = dialog.verdict();
         camera.take(dialog, "feature-dialog-refused.png");

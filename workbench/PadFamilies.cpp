@@ -48,7 +48,7 @@ constexpr PadFamily families[] = {
 std::optional<PadName> parsePadName(QString const & name)
 {
     static QRegularExpression const pattern(
-        R"(^([a-z_]+)([0-9]+\.?[0-9]*)(?:x([0-9]+\.?[0-9]*)(?=x|$))?(x.*)?$)");
+        R"(^([a-z_]+)([0-9]+\.?[0-9]*)(?:x([0-9]+\.?[0-9]*)(?=x|$)|(?!x[0-9]))(x.*)?$)");
     auto const parts = pattern.match(name);
     if (!parts.hasMatch()) {
         return std::nullopt;

@@ -68,7 +68,8 @@ bool PadSymbol::hasHeight() const
 
 QString PadSymbol::in(int otherUnit) const
 {
-    return withSizes(converted(m_name, m_unit, otherUnit), otherUnit);
+    // A name of the user's own may look as if it had sizes.
+    return hasWidth() ? withSizes(converted(m_name, m_unit, otherUnit), otherUnit) : m_name;
 }
 
 void PadSymbol::setWidth(PadSize const & size)
