@@ -77,6 +77,14 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     m_opened = remarks();
 }
 
+// The base hides the dialog once more, and a field that loses the focus then would finish its size.
+FeatureDialog::~FeatureDialog()
+{
+    for (auto * child : findChildren<QWidget *>()) {
+        child->disconnect(this);
+    }
+}
+
 void FeatureDialog::followView()
 {
     for (KVLineEdit * field : {m_name, m_width, m_height, m_offset}) {

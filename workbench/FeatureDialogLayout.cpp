@@ -48,11 +48,11 @@ QWidget * beside(QWidget * field, QWidget * button)
     return row;
 }
 
-QLabel * wrappedLabel(int lines)
+QLabel * wrappedLabel()
 {
     auto * label = new QLabel;
     label->setWordWrap(true);
-    label->setMinimumHeight(lines * label->fontMetrics().lineSpacing());
+    label->setMinimumHeight(3 * label->fontMetrics().lineSpacing());
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }
@@ -82,8 +82,8 @@ QWidget * FeatureDialog::makePadGroup()
     m_width->setObjectName("width");
     m_height->setObjectName("height");
     m_offset->setObjectName("offset");
-    m_description = wrappedLabel(3);
-    m_verdict = wrappedLabel(2);
+    m_description = wrappedLabel();
+    m_verdict = wrappedLabel();
     m_exact = new QLabel;
 
     auto * names = new QPushButton(tr("Names"));

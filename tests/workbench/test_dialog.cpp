@@ -130,6 +130,17 @@ TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
     EXPECT_EQ(boxes, QStringList());
 }
 
+TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
+{
+    auto & width = field(*window->openFeature(0), "width");
+    width.activateWindow();
+    width.setFocus();
+    QApplication::processEvents();
+    type(width, "90000*2");
+    window.reset();
+    EXPECT_EQ(boxes, QStringList());
+}
+
 TEST_F(Windows, TypingASymbolCanBeUndone)
 {
     FeatureDialog & dialog = *window->openFeature(0);
