@@ -1,7 +1,7 @@
 #include "FeatureDialog.h"
 
 #include "BoardView.h"
-#include "FormFile.h"
+#include "PadFamilies.h"
 
 #include <UIAPICommon.h>
 
@@ -10,13 +10,13 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QFormLayout>
-#include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Workbench {
@@ -28,6 +28,23 @@ namespace {
 // The legal sizes of a pad, in mil.
 constexpr double smallestMil = 0.5;
 constexpr double largestMil = 1000;
+
+// 0/0 lies in every range; like any other text that is no number it counts as 0.
+double sizeValue(QString const & calculation)
+{
+    double const value = caculateData(calculation);
+    return std::isnan(value) ? 0 : value;
+}
+
+// Plain digits as a symbol name has them, far below a nanometre.
+QString sizeText(double value)
+{
+    QString text = QString::number(value, 'f', 6);
+    while (text.endsWith('0')) {
+        text.chop(1);
+    }
+    return text.endsWith('.') ? text.chopped(1) : text;
+}
 
 } // namespace
 
@@ -50,24 +67,41 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     columns->addWidget(makeRemarksGroup(), 2);
     layout->addLayout(columns);
     layout->addWidget(makeButtons());
-    m_fields = {m_name, m_width, m_height, m_offset, m_expression, m_polarity, m_plated, m_side, m_author};
+    m_fields = {m_name, m_width, m_height, m_offset, m_polarity, m_plated, m_side, m_author};
 
     followView();
     fillFromPad();
     refreshUnit();
+    m_opened = remarks();
+}
+
+// The base hides the dialog once more, and a field that loses the focus then would finish its size.
+FeatureDialog::~FeatureDialog()
+{
+    for (auto * child : findChildren<QWidget *>()) {
+        child->disconnect(this);
+    }
 }
 
 void FeatureDialog::followView()
 {
-    for (KVLineEdit * field : {m_name, m_width, m_height, m_offset, m_expression}) {
-        field->setFollowView(true);
+    for (KVLineEdit * field : {m_name, m_width, m_height, m_offset}) {
         field->setRefusalHints(true);
     }
+    m_name->setFollowView(true);
+    m_offset->setFollowView(true);
     connect(m_name, &QLineEdit::textChanged, this, &FeatureDialog::symbolEdited);
-    connect(m_width, &QLineEdit::textChanged, this, &FeatureDialog::sizeEdited);
-    connect(m_height, &QLineEdit::textChanged, this, &FeatureDialog::sizeEdited);
-    connect(m_offset, &QLineEdit::textChanged, this, &FeatureDialog::showFacts);
-    connect(m_expression, &QLineEdit::textChanged, this, &FeatureDialog::judgeExpression);
+    connect(m_offset, &QLineEdit::textChanged, this, &FeatureDialog::offsetEdited);
+    // The text of a calculation has no other unit: refreshUnit() shows the sizes anew.
+    for (KVLineEdit * field : {m_width, m_height}) {
+        field->installEventFilter(this);
+        connect(field, &QLineEdit::textChanged, this, &FeatureDialog::showVerdict);
+        connect(field, &QLineEdit::editingFinished, this, [this, field] { finishSize(*field); });
+        connect(field, &KVLineEdit::validityChanged, this, [this, field](bool /*legal*/, QString words) {
+            m_words[field] = words;
+            showVerdict();
+        });
+    }
     // After the fields, which were connected above: they follow first.
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
             [this](void const * view, Ext::ViewAspects aspects) {
@@ -101,21 +135,26 @@ void FeatureDialog::fillFromPad()
     m_polarity->setCurrentIndex(pad->positive ? 0 : 1);
 }
 
-// Shows the symbol and its sizes in the view's unit. The fields follow a switch by themselves; the dialog
+// Shows the symbol and its sizes in the view's unit. The symbol field follows a switch by itself; the dialog
 // knows besides in which unit each text was typed or stored, and converts from there: a symbol field alone
 // converts by the same factor in both directions, and a number that was stored in the other unit has been
-// rounded for the field.
+// rounded for the field. A text that stays is not set, since that would end the field's undo history.
 void FeatureDialog::showSymbol()
 {
     m_isFilling = true;
+    auto const show = [](QLineEdit & field, QString const & text) {
+        if (field.text() != text) {
+            field.setText(text);
+        }
+        field.setModified(false);
+    };
     int const cursor = m_name->cursorPosition();
-    m_name->setText(m_symbol.in(m_shownUnit));
+    show(*m_name, m_symbol.in(m_shownUnit));
     m_name->setCursorPosition(cursor);
-    m_width->setText(m_symbol.width().in(m_shownUnit));
-    m_height->setText(m_symbol.height().in(m_shownUnit));
     for (auto const & [field, size] :
          {std::pair(m_width, m_symbol.width()), std::pair(m_height, m_symbol.height())}) {
-        field->setEnabled(!size.text.isEmpty());
+        field->setEnabled(hasSize(field));
+        show(*field, size.in(m_shownUnit));
         if (field->isEnabled()) {
             field->setRange(smallestMil, largestMil);
         } else {
@@ -126,6 +165,11 @@ void FeatureDialog::showSymbol()
     showFacts();
 }
 
+bool FeatureDialog::hasSize(KVLineEdit const * field) const
+{
+    return field == m_width ? m_symbol.hasWidth() : m_symbol.hasHeight();
+}
+
 void FeatureDialog::symbolEdited()
 {
     if (!isFollowing()) {
@@ -134,26 +178,65 @@ void FeatureDialog::symbolEdited()
     }
 }
 
-void FeatureDialog::sizeEdited()
+void FeatureDialog::offsetEdited()
 {
-    if (isFollowing()) {
+    if (!isFollowing()) {
+        m_typedOffset = {m_offset->text(), m_shownUnit};
+    }
+    showFacts();
+}
+
+// What was typed becomes the size, or the last legal size comes back; the library says in a box why.
+void FeatureDialog::finishSize(KVLineEdit & field)
+{
+    if (!field.isModified()) {
         return;
     }
-    auto * field = qobject_cast<QLineEdit *>(sender());
-    PadSize const size{field->text().remove('+'), m_shownUnit}; // the field takes a sign, a name does not
-    if (field == m_width) {
+    field.setModified(false); // the box takes the focus, which must not finish the field once more
+    QString const typed = field.text();
+    if (judgeCaculateIsStandard(typed) &&
+        isValueLegal(sizeValue(typed), smallestMil, largestMil, m_view.handle())) {
+        takeSize(field);
+    }
+    showSymbol();
+}
+
+// The same without a box, for a form that is closed, saved or shown in the other unit while a size is being
+// typed; showSymbol() then brings back what is not taken. What was typed counts in the unit that was shown.
+void FeatureDialog::settleSizes()
+{
+    for (KVLineEdit * field : {m_width, m_height}) {
+        double const value = sizeValue(field->text());
+        if (field->isModified() && m_words[field].isEmpty() &&
+            Ext::checkValue(value, smallestMil, largestMil, m_shownUnit).legal) {
+            takeSize(*field);
+        }
+    }
+}
+
+void FeatureDialog::takeSize(KVLineEdit const & field)
+{
+    PadSize const size{sizeText(sizeValue(field.text())), m_shownUnit};
+    if (&field == m_width) {
         m_symbol.setWidth(size);
     } else {
         m_symbol.setHeight(size);
     }
-    m_isFilling = true;
-    m_name->setText(m_symbol.in(m_shownUnit));
-    m_isFilling = false;
-    showFacts();
+}
+
+bool FeatureDialog::eventFilter(QObject * watched, QEvent * event)
+{
+    // An empty field never finishes, so that leaving it has to bring its size back.
+    auto * field = qobject_cast<KVLineEdit *>(watched);
+    if (event->type() == QEvent::FocusOut && field != nullptr && field->text().isEmpty()) {
+        finishSize(*field);
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void FeatureDialog::refreshUnit()
 {
+    settleSizes(); // in the unit that was shown so far
     m_shownUnit = getUnit(m_view.handle());
     showSymbol();
     for (auto * label : findChildren<KVLabel *>()) {
@@ -174,45 +257,40 @@ void FeatureDialog::showFacts()
 {
     m_description->setText(Ext::describeSymbol(m_symbol.name(), m_symbol.unit()));
     m_exact->setText(tr("Width %1 nm, offset %2 nm").arg(exactWidth()).arg(m_offset->exactLengthNm()));
-    judgeExpression();
+    showVerdict();
 }
 
 void FeatureDialog::changeEvent(QEvent * event)
 {
     if (event->type() == QEvent::LanguageChange && m_exact != nullptr) {
+        for (KVLineEdit * field : {m_width, m_height}) {
+            if (field->isEnabled()) {
+                field->setRange(smallestMil, largestMil); // which tells the words anew
+            }
+        }
         showFacts();
     }
     QDialog::changeEvent(event);
 }
 
-// The verdict beside the field comes without a box; calculate() shows the box.
-void FeatureDialog::judgeExpression()
+void FeatureDialog::showVerdict()
 {
     QString const unit = QString::fromStdString(getUnitStringType(m_view.handle(), 1));
-    if (m_expression->text().isEmpty()) {
-        m_verdict->clear();
-        return;
+    QStringList words;
+    QStringList values;
+    for (KVLineEdit const * field : {m_width, m_height}) {
+        if (!m_words[field].isEmpty()) {
+            words.append(m_words[field]);
+            continue;
+        }
+        double const value = sizeValue(field->text());
+        if (field->isModified() && !isSizeText(field->text()) && value > 0) {
+            values.append(QString("= %1 %2").arg(sizeText(value), unit));
+        }
     }
-    double const value = caculateData(m_expression->text());
-    Ext::ValueVerdict const verdict = Ext::checkValue(value, smallestMil, largestMil, m_shownUnit);
-    m_verdict->setText(verdict.legal
-                           ? QString("= %1 %2").arg(QString::fromStdString(doubleToString(value)), unit)
-                           : verdict.text);
-    m_verdict->setStyleSheet(verdict.legal ? "color: #20642f" : "color: #b00020");
-}
-
-bool FeatureDialog::calculate(QString const & expression)
-{
-    m_expression->setText(expression);
-    if (!judgeCaculateIsStandard(expression)) {
-        return false;
-    }
-    double const value = caculateData(expression);
-    if (!isValueLegal(value, smallestMil, largestMil, m_view.handle())) {
-        return false;
-    }
-    m_width->setText(QString::fromStdString(doubleToString(value)));
-    return true;
+    words.removeDuplicates();
+    m_verdict->setText((words.isEmpty() ? values : words).join('\n'));
+    m_verdict->setStyleSheet(words.isEmpty() ? "color: #20642f" : "color: #b00020");
 }
 
 void FeatureDialog::remark(QString const & author, QString const & note, QString const & document)
@@ -245,50 +323,6 @@ QString FeatureDialog::description() const
 qint64 FeatureDialog::exactWidth() const
 {
     return m_symbol.width().nanometres();
-}
-
-QString FeatureDialog::padKey() const
-{
-    return QString::fromStdString(m_job + '/' + m_view.step() + '/' + m_view.layer() + '/' +
-                                  std::to_string(m_feature));
-}
-
-bool FeatureDialog::restoreForm()
-{
-    SavedForm form;
-    if (!readForm(m_formFile, form) || form.extra["pad"].toString() != padKey()) {
-        return false;
-    }
-    setUnit(m_view.handle(), form.unit); // first, since the texts are in that unit
-    m_isFilling = true;                  // the saved texts agree with each other
-    writeJsonToList(form.fields, m_fields);
-    m_isFilling = false;
-    m_symbol = PadSymbol::fromJson(form.extra["symbol"].toObject());
-    m_note->setPlainText(form.extra["note"].toString());
-    m_documents->clear();
-    for (auto const & path : form.extra["documents"].toArray()) {
-        m_documents->addItem(path.toString());
-    }
-    m_name->setCursorPosition(0);
-    showSymbol();
-    m_isRestored = true;
-    return true;
-}
-
-bool FeatureDialog::saveForm() const
-{
-    SavedForm form;
-    form.unit = m_shownUnit;
-    readListToJson(m_fields, form.fields);
-    QJsonArray documents;
-    for (int i = 0; i < m_documents->count(); ++i) {
-        documents.append(m_documents->item(i)->text());
-    }
-    form.extra = {{"pad", padKey()},
-                  {"symbol", m_symbol.toJson()},
-                  {"note", m_note->toPlainText()},
-                  {"documents", documents}};
-    return writeForm(m_formFile, form);
 }
 
 } // namespace Workbench

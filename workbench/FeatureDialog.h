@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QList>
+#include <QMap>
 
 class KVListWidget;
 class KVTextEdit;
@@ -23,8 +24,10 @@ namespace Workbench {
 
 class BoardView;
 
-/// What one pad of a view looks like: its symbol and sizes in the view's unit, which they follow, with an
-/// entry that calculates. Nothing is written to the job; the form itself is kept in a file between runs.
+/// What one pad of a view looks like: its symbol and sizes in the view's unit, which they follow. A size
+/// field takes a calculation: while it is typed its words or its value stand below, and once it is finished
+/// (Return, or the focus leaves) its value becomes the size if it is legal; else a box says why and the last
+/// legal size comes back. Nothing is written to the job; the form itself is kept in a file between runs.
 class FeatureDialog : public QDialog
 {
     Q_OBJECT
@@ -34,16 +37,14 @@ public:
     /// the view outlives the dialog.
     FeatureDialog(BoardView & view, int feature, std::string job, QString formFile,
                   QWidget * parent = nullptr);
+    ~FeatureDialog() override;
 
     /// Whether the form was restored.
     bool isRestored() const { return m_isRestored; }
     /// Restores the form if the file holds this pad's. The view then has the unit that the form was saved in.
     bool restoreForm();
-    bool saveForm() const;
-
-    /// Types an expression and takes its value as the width. False when it was refused, which the library
-    /// has told the user.
-    bool calculate(QString const & expression);
+    /// Saves the form. Closing does so, too, if there is anything of the user's to keep.
+    bool saveForm();
 
     /// Lists the layer's symbol names below the symbol field until the focus leaves the list.
     void showNames();
@@ -53,9 +54,13 @@ public:
     QString symbol() const;
     QString width() const;
     QString description() const;
+    /// What stands below the sizes: the words of an illegal one, else the value of a calculation.
     QString verdict() const;
     /// The width in nanometres, as typed or stored.
     qint64 exactWidth() const;
+
+    void done(int result) override;
+    bool eventFilter(QObject * watched, QEvent * event) override;
 
 protected:
     void changeEvent(QEvent * event) override;
@@ -70,11 +75,17 @@ private:
     void showSymbol();
     void showFacts();
     void symbolEdited();
-    void sizeEdited();
-    void judgeExpression();
+    void offsetEdited();
+    void finishSize(KVCAM::UIAPI::KVLineEdit & field);
+    void settleSizes();
+    void takeSize(KVCAM::UIAPI::KVLineEdit const & field);
+    void showVerdict();
     void refreshUnit();
     void attachFiles();
     bool isFollowing() const;
+    bool hasSize(KVCAM::UIAPI::KVLineEdit const * field) const;
+    QJsonObject extras() const;
+    QJsonObject remarks() const;
     QString padKey() const;
 
     BoardView & m_view;
@@ -82,6 +93,9 @@ private:
     std::string m_job;
     QString m_formFile;
     PadSymbol m_symbol;
+    PadSize m_typedOffset{"0", 0};
+    QJsonObject m_opened; ///< what remarks() was before the user did anything
+    QMap<KVCAM::UIAPI::KVLineEdit const *, QString> m_words; ///< of illegal sizes
     int m_shownUnit;
     bool m_isRestored = false;
     bool m_isFilling = false; ///< the dialog changes its fields itself
@@ -94,7 +108,6 @@ private:
     KVCAM::UIAPI::KVLineEdit * m_width = nullptr;
     KVCAM::UIAPI::KVLineEdit * m_height = nullptr;
     KVCAM::UIAPI::KVLineEdit * m_offset = nullptr;
-    KVCAM::UIAPI::KVLineEdit * m_expression = nullptr;
     QComboBox * m_polarity = nullptr;
     QCheckBox * m_plated = nullptr;
     QButtonGroup * m_side = nullptr;

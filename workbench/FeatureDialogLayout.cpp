@@ -2,6 +2,7 @@
 #include "BoardView.h"
 #include "FeatureDialog.h"
 
+#include <KVCAM_API.h>
 #include <UIAPICommon.h>
 
 #include <QButtonGroup>
@@ -16,6 +17,8 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -54,33 +57,40 @@ QLabel * wrappedLabel()
     return label;
 }
 
+// The engine knows the standard symbols and those of its open jobs; `own` are those of the job shown.
+bool isStandardSymbol(std::string const & name, std::vector<std::string> const & own)
+{
+    KVCAM::API::symboltype type{};
+    int first = 0;
+    int second = 0;
+    return KVCAM::API::identify_symbol(name, type, first, second, false) &&
+           std::none_of(own.begin(), own.end(), [wanted = QString::fromStdString(name)](auto const & item) {
+               return wanted.compare(QString::fromStdString(item), Qt::CaseInsensitive) == 0;
+           });
+}
+
 } // namespace
 
 QWidget * FeatureDialog::makePadGroup()
 {
     // A field's parent at its making is the view whose unit it has; the layout gives it another one.
     m_name = new KVLineEdit(RegSymbolName, &m_view);
-    m_width = new KVLineEdit(RegPositive, &m_view);
-    m_height = new KVLineEdit(RegPositive, &m_view);
+    m_width = new KVLineEdit(RegExpression, &m_view);
+    m_height = new KVLineEdit(RegExpression, &m_view);
     m_offset = new KVLineEdit("0", RegNumber, &m_view);
-    m_expression = new KVLineEdit(RegExpression, &m_view);
     m_name->setObjectName("symbol");
     m_width->setObjectName("width");
     m_height->setObjectName("height");
     m_offset->setObjectName("offset");
-    m_expression->setObjectName("expression");
     m_description = wrappedLabel();
     m_verdict = wrappedLabel();
     m_exact = new QLabel;
 
     auto * names = new QPushButton(tr("Names"));
     connect(names, &QPushButton::clicked, this, &FeatureDialog::showNames);
-    auto * equals = new QPushButton("=");
-    equals->setToolTip(tr("Takes the value as the width"));
-    connect(equals, &QPushButton::clicked, this, [this] { calculate(m_expression->text()); });
-    equals->setMaximumWidth(40);
-    for (QPushButton * button : {names, equals}) {
-        button->setAutoDefault(false);
+    names->setAutoDefault(false);
+    for (KVLineEdit * field : {m_width, m_height}) {
+        field->setToolTip(tr("A number or a calculation such as 10+2.5"));
     }
 
     m_polarity = new QComboBox;
@@ -96,10 +106,9 @@ QWidget * FeatureDialog::makePadGroup()
     form->addRow(QString(), m_description);
     addRow(*form, tr("Width"), "small", m_width);
     addRow(*form, tr("Height"), "small", m_height);
-    form->addRow(QString(), m_exact);
-    addRow(*form, tr("Offset"), "small", m_offset);
-    addRow(*form, tr("Calculate"), "small", beside(m_expression, equals));
     form->addRow(QString(), m_verdict);
+    addRow(*form, tr("Offset"), "small", m_offset);
+    form->addRow(QString(), m_exact);
     form->addRow(tr("Polarity"), m_polarity);
     form->addRow(QString(), m_plated);
     return group;
@@ -152,10 +161,14 @@ QWidget * FeatureDialog::makeRemarksGroup()
 
 QWidget * FeatureDialog::makeButtons()
 {
+    // Return finishes a field and presses no button, so none of them is a default.
     auto * buttons = new QDialogButtonBox;
     auto * unit = buttons->addButton(tr("Switch unit"), QDialogButtonBox::ActionRole);
     auto * save = buttons->addButton(tr("Save form"), QDialogButtonBox::ActionRole);
-    buttons->addButton(QDialogButtonBox::Close);
+    auto * close = buttons->addButton(QDialogButtonBox::Close);
+    for (QPushButton * button : {unit, save, close}) {
+        button->setAutoDefault(false);
+    }
     connect(unit, &QPushButton::clicked, this,
             [this] { setUnit(m_view.handle(), getUnit(m_view.handle()) == 0 ? 1 : 0); });
     connect(save, &QPushButton::clicked, this, [this] { saveForm(); });
@@ -170,6 +183,8 @@ void FeatureDialog::showNames()
         m_names->deleteLater();
     }
     m_names = new KVListWidget(this);
+    std::vector<std::string> ownSymbols;
+    KVCAM::API::get_special_symbol_names(m_job, ownSymbols);
     QIcon const standard = dot("#b5582a");
     QIcon const own = dot("#3f51b5");
     for (auto const & use : KVCAM::Embedded::layerSymbols(m_job, m_view.step(), m_view.layer())) {
@@ -178,7 +193,7 @@ void FeatureDialog::showNames()
         item->setText(symbol.in(m_shownUnit));
         item->setItemUserData(symbol.name());
         item->setData(Qt::UserRole, symbol.unit());
-        item->setItemIcon(symbol.width().text.isEmpty() ? own : standard, standard, own);
+        item->setItemIcon(isStandardSymbol(use.name, ownSymbols) ? standard : own, standard, own);
         item->setToolTip(Ext::describeSymbol(symbol.name(), symbol.unit()));
     }
     connect(m_names, &QListWidget::itemClicked, this, [this](QListWidgetItem * item) {

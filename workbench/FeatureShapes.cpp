@@ -1,7 +1,8 @@
 #include "FeatureShapes.h"
 
+#include "PadFamilies.h"
+
 #include <QPolygonF>
-#include <QRegularExpression>
 #include <QString>
 #include <QTransform>
 
@@ -17,24 +18,25 @@ using KVCAM::API::feature_info;
 constexpr double micrometresPerMil = 25.4;
 constexpr double crossSize = 300; // half the arm of the cross that stands for a user-defined symbol
 
+double micrometresPer(int unit)
+{
+    return unit == 0 ? micrometresPerMil : 1;
+}
+
 QPointF toPoint(KVCAM::API::point const & point)
 {
     return {point.x, point.y};
 }
 
-bool isRoundFamily(std::string const & name)
+QRectF centred(QSizeF size)
 {
-    for (char const * prefix : {"oval", "donut_r", "el", "th", "moire", "hole"}) {
-        if (name.rfind(prefix, 0) == 0) {
-            return true;
-        }
-    }
-    return name.size() > 1 && name[0] == 'r' && name[1] >= '0' && name[1] <= '9';
+    return {QPointF(-size.width() / 2, -size.height() / 2), size};
 }
 
-QPainterPath padPath(std::string const & symbol, QSizeF size)
+QPainterPath padPath(std::string const & symbol, int unit)
 {
     QPainterPath path;
+    QSizeF const size = symbolExtent(symbol, unit);
     if (size.isEmpty()) {
         path.moveTo(-crossSize, 0);
         path.lineTo(crossSize, 0);
@@ -42,19 +44,26 @@ QPainterPath padPath(std::string const & symbol, QSizeF size)
         path.lineTo(0, crossSize);
         return path;
     }
-    bool const isDonut = symbol.rfind("donut", 0) == 0;
-    QSizeF const outer = isDonut ? QSizeF(size.width(), size.width()) : size;
-    QRectF const box(QPointF(-outer.width() / 2, -outer.height() / 2), outer);
-    if (symbol.rfind("oval", 0) == 0) {
+    auto const name = parsePadName(QString::fromStdString(symbol));
+    QRectF const box = centred(size);
+    switch (name->family->outline) {
+    case PadFamily::Outline::Oval: {
         double const radius = std::min(size.width(), size.height()) / 2;
         path.addRoundedRect(box, radius, radius);
-    } else if (isRoundFamily(symbol)) {
-        path.addEllipse(box);
-    } else {
-        path.addRect(box);
+        break;
     }
-    if (isDonut) {
-        path.addEllipse(QPointF(), size.height() / 2, size.height() / 2); // its second size is the hole
+    case PadFamily::Outline::Round:
+        path.addEllipse(box);
+        break;
+    case PadFamily::Outline::Box:
+        path.addRect(box);
+        break;
+    }
+    double const hole = name->second.toDouble() * micrometresPer(unit);
+    if (name->family->second == PadFamily::Second::RoundHole) {
+        path.addEllipse(centred({hole, hole}));
+    } else if (name->family->second == PadFamily::Second::SquareHole) {
+        path.addRect(centred({hole, hole}));
     }
     return path;
 }
@@ -92,8 +101,9 @@ QPainterPath surfacePath(std::vector<std::vector<KVCAM::API::point>> const & out
 }
 
 FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing,
-                          QSizeF size)
+                          int unit)
 {
+    QSizeF const size = symbolExtent(feature.symbol, unit);
     auto const & points = feature.points;
     FeatureShape shape;
     shape.feature = feature.index;
@@ -104,7 +114,7 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     case 'P': {
         QPointF const place = toPoint(points.at(0));
         QTransform const turned = QTransform::fromTranslate(place.x(), place.y()).rotate(-drawing.angle);
-        shape.path = turned.map(padPath(feature.symbol, size));
+        shape.path = turned.map(padPath(feature.symbol, unit));
         break;
     }
     case 'L':
@@ -126,25 +136,29 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
 
 QSizeF symbolExtent(std::string const & name, int unit)
 {
-    static QRegularExpression const standard(
-        "^(?:r|s|rect|oval|oval_h|di|oct|el|tri|bfr|bfs|hex_[ls]|hole|donut_\\w+|\\w*th[rso]|moire)"
-        "(\\d+(?:\\.\\d+)?)(?:x(\\d+(?:\\.\\d+)?))?(?:x|$)");
-    auto const match = standard.match(QString::fromStdString(name));
-    if (!match.hasMatch()) {
+    auto const parts = parsePadName(QString::fromStdString(name));
+    if (!parts) {
         return {};
     }
-    double const scale = unit == 0 ? micrometresPerMil : 1;
-    double const width = match.captured(1).toDouble() * scale;
-    double const height = match.capturedLength(2) > 0 ? match.captured(2).toDouble() * scale : width;
-    return {width, height};
+    double const width = parts->first.toDouble() * micrometresPer(unit);
+    switch (parts->family->second) {
+    case PadFamily::Second::Height:
+        return {width, parts->second.toDouble() * micrometresPer(unit)};
+    case PadFamily::Second::RingGap: { // x rings x line width x line length x angle
+        double const line = parts->rest.section('x', 3, 3).toDouble() * micrometresPer(unit);
+        return {line, line};
+    }
+    default:
+        return {width, width};
+    }
 }
 
 std::vector<FeatureShape> featureShapes(std::string const & job, std::string const & step,
                                         std::string const & layer)
 {
-    std::map<std::string, QSizeF> sizes;
+    std::map<std::string, int> units;
     for (KVCAM::Embedded::SymbolUse const & symbol : KVCAM::Embedded::layerSymbols(job, step, layer)) {
-        sizes.emplace(symbol.name, symbolExtent(symbol.name, symbol.unit));
+        units.emplace(symbol.name, symbol.unit);
     }
     auto const features = KVCAM::Embedded::features(job, step, layer);
     auto const drawings = KVCAM::Embedded::featureDrawings(job, step, layer);
@@ -152,9 +166,8 @@ std::vector<FeatureShape> featureShapes(std::string const & job, std::string con
     shapes.reserve(features.size());
     for (std::size_t i = 0; i < features.size(); ++i) {
         feature_info const & feature = features[i];
-        auto const known = sizes.find(feature.symbol);
-        QSizeF const size = known == sizes.end() ? QSizeF() : known->second;
-        shapes.push_back(featureShape(feature, drawings[i], size));
+        auto const known = units.find(feature.symbol);
+        shapes.push_back(featureShape(feature, drawings[i], known == units.end() ? 0 : known->second));
     }
     return shapes;
 }

@@ -21,8 +21,8 @@ struct FeatureShape
     QPainterPath path;
 };
 
-/// The extent of a symbol in micrometres as far as its name tells: the first two sizes. `unit` is 0 when the
-/// name's sizes are in mil, 1 for micrometres. An empty size for a user-defined symbol.
+/// The extent of a symbol in micrometres as far as its name tells. `unit` is 0 when the name's sizes are in
+/// mil, 1 for micrometres. An empty size for a user-defined symbol.
 QSizeF symbolExtent(std::string const & name, int unit);
 
 /// A simple picture of a layer: pads as ellipses, rectangles or crosses, lines and arcs as round strokes,

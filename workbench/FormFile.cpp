@@ -6,25 +6,37 @@
 
 namespace Workbench {
 
-bool readForm(QString const & path, SavedForm & form)
+namespace {
+
+QJsonObject readForms(QString const & path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    QJsonObject const json = QJsonDocument::fromJson(file.readAll()).object();
-    if (!json["unit"].isDouble() || !json["fields"].isObject()) {
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+} // namespace
+
+bool isUnit(QJsonValue const & value)
+{
+    return value == QJsonValue(0) || value == QJsonValue(1);
+}
+
+bool readForm(QString const & path, QString const & pad, SavedForm & form)
+{
+    QJsonObject const json = readForms(path)[pad].toObject();
+    if (!isUnit(json["unit"]) || !json["fields"].isObject()) {
         return false;
     }
     form = {json["unit"].toInt(), json["fields"].toObject(), json["extra"].toObject()};
     return true;
 }
 
-bool writeForm(QString const & path, SavedForm const & form)
+bool writeForm(QString const & path, QString const & pad, SavedForm const & form)
 {
+    QJsonObject forms = readForms(path);
+    forms[pad] = QJsonObject{{"unit", form.unit}, {"fields", form.fields}, {"extra", form.extra}};
     QSaveFile file(path);
-    QJsonObject const json{{"unit", form.unit}, {"fields", form.fields}, {"extra", form.extra}};
-    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(json).toJson()) > 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(forms).toJson()) > 0 && file.commit();
 }
 
 } // namespace Workbench

@@ -14,9 +14,12 @@ struct SavedForm
     QJsonObject extra;
 };
 
-/// Reads the form saved in a file. False when there is none or it is not such a file.
-bool readForm(QString const & path, SavedForm & form);
-/// Writes it whole or not at all. False when it cannot be written.
-bool writeForm(QString const & path, SavedForm const & form);
+/// Whether a value of such a file is a unit, 0 or 1. Any other number would multiply sizes once more.
+bool isUnit(QJsonValue const & value);
+
+/// Reads the form saved for a pad in a file. False when there is none or it is not such a file.
+bool readForm(QString const & path, QString const & pad, SavedForm & form);
+/// Writes it beside the forms of other pads, the file whole or not at all. False when it cannot be written.
+bool writeForm(QString const & path, QString const & pad, SavedForm const & form);
 
 } // namespace Workbench

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QJsonArray>
+#include <QKeyEvent>
 #include <QPixmap>
 
 namespace Workbench {
@@ -43,6 +44,23 @@ private:
     QDir m_folder;
     QJsonArray m_pictures;
 };
+
+void press(QLineEdit & field, int key, QString const & text = {})
+{
+    for (auto const kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(kind, key, Qt::NoModifier, text);
+        QApplication::sendEvent(&field, &event);
+    }
+}
+
+// In place of what stands in the field.
+void type(QLineEdit & field, QString const & text)
+{
+    field.selectAll();
+    for (QChar const letter : text) {
+        press(field, letter.unicode(), letter);
+    }
+}
 
 QJsonArray layersOf(Session const & session)
 {
@@ -84,7 +102,7 @@ QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Bo
     return facts;
 }
 
-// Works through the feature dialog as a user would: calculates a width, tries an illegal one, switches the
+// Works through the feature dialog as a user would: types an illegal width and one to calculate, switches the
 // unit a hundred times. A form that was restored is left as it is.
 QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
 {
@@ -99,10 +117,19 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
                       {"pad", pad},
                       {"restored", dialog.isRestored()}};
     if (!dialog.isRestored()) {
-        facts["refused"] = dialog.calculate("90000*2") ? QString() : dialog.verdict();
-        dialog.calculate(unit == 0 ? "10+2.5" : "254+63.5");
+        auto & width = *dialog.findChild<KVLineEdit *>("width");
+        QString const calculation = unit == 0 ? "10+2.5" : "254+63.5";
+        width.setFocus();
+        type(width, "90000*2");
+        facts["refused"] = dialog.verdict();
+        camera.take(dialog, "feature-dialog-refused.png");
+        press(width, Qt::Key_Return);
+        facts["width after refusal"] = dialog.width();
+        type(width, calculation);
+        facts["typed"] = dialog.width();
+        press(width, Qt::Key_Return);
         dialog.remark("uiapi-workbench",
-                      "The width was calculated and is kept with this note until the next run.",
+                      "The width was typed as " + calculation + " and is kept with this note.",
                       session.directory() + "/matrix/matrix");
     }
     QString const before = dialog.width();

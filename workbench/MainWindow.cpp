@@ -151,7 +151,8 @@ void MainWindow::makeToolBar()
 
 void MainWindow::addPages()
 {
-    addPage(new SymbolsPage(m_session.job(), m_views.front()->handle()), "symbols", tr("Symbols"));
+    m_symbols = new SymbolsPage(m_session.job(), m_views.front()->handle());
+    addPage(m_symbols, "symbols", tr("Symbols"));
     addPage(new SettingsPage, "settings", tr("Settings"));
     addPage(new TemplatesPage, "templates", tr("Templates"));
     addPage(new AttributesPage, "attributes", tr("Attributes"));
@@ -176,6 +177,12 @@ void MainWindow::closeFeature()
     }
 }
 
+void MainWindow::closeEvent(QCloseEvent * event)
+{
+    closeFeature(); // which saves its form
+    QMainWindow::closeEvent(event);
+}
+
 void MainWindow::openFirstPad()
 {
     int const pad = firstPad();
@@ -191,7 +198,7 @@ int MainWindow::firstPad() const
 {
     for (auto const & feature : currentView()->features()) {
         PadSymbol const symbol(QString::fromStdString(feature.symbol), 0);
-        if (feature.kind == 'P' && !symbol.width().text.isEmpty()) {
+        if (feature.kind == 'P' && symbol.hasWidth()) {
             return feature.index;
         }
     }
@@ -220,6 +227,7 @@ void MainWindow::showStep()
     }
     setStepConfigToAPI(currentView()->handle()); // the engine holds the state of the view in front
     m_engine->refresh();
+    m_symbols->setView(currentView()->handle());
     refreshUnit();
 }
 

@@ -21,6 +21,7 @@ class EnginePane;
 class FeatureDialog;
 class LayerTable;
 class LogLines;
+class SymbolsPage;
 
 /// The window: one view per step with the job's layers beside it, what the engine was told, and the log.
 class MainWindow : public QMainWindow
@@ -41,6 +42,9 @@ public:
     int firstPad() const;
     /// Shows the library's texts in a language.
     void setLanguage(KVCAM::UIAPI::LANGUAGE_MODE language);
+
+protected:
+    void closeEvent(QCloseEvent * event) override;
 
 private:
     void makeViews(int unit);
@@ -64,6 +68,7 @@ private:
     QTabWidget * m_steps = nullptr;
     LayerTable * m_layers = nullptr;
     EnginePane * m_engine = nullptr;
+    SymbolsPage * m_symbols = nullptr;
     FeatureDialog * m_feature = nullptr;
     QLabel * m_outline = nullptr;
     QLabel * m_pointer = nullptr;

@@ -1,9 +1,11 @@
 #include "PadSymbol.h"
 
+#include "FormFile.h"
+#include "PadFamilies.h"
+
 #include <UIAPICommon.h>
 
-#include <QRegularExpression>
-
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -11,12 +13,14 @@ namespace Workbench {
 
 namespace {
 
-// Family, first size, second size, the rest.
-QRegularExpressionMatch match(QString const & name)
+constexpr double nanometresPerMil = 25400;
+constexpr double nanometresPerMicrometre = 1000;
+
+// A name whose sizes can be shown and set: they are turned into the other unit together with the name.
+std::optional<PadName> sizedName(QString const & name)
 {
-    static QRegularExpression const pattern(
-        R"(^(r|s|rect|oval|oval_h|di|el|oct|tri|donut_[rs])(\d+\.?\d*)(?:x(\d+\.?\d*))?(x.*)?$)");
-    return pattern.match(name);
+    auto parts = parsePadName(name);
+    return parts && parts->family->isConverted ? parts : std::nullopt;
 }
 
 // The library converts names, and a length is the size of a round.
@@ -37,19 +41,35 @@ QString PadSize::in(int otherUnit) const
 
 qint64 PadSize::nanometres() const
 {
-    return std::llround(text.toDouble() * (unit == 0 ? 25400 : 1000));
+    // A rounding that does not fit is undefined; this is the last double below 2^63.
+    constexpr double most = 9223372036854774784.0;
+    double const scale = unit == 0 ? nanometresPerMil : nanometresPerMicrometre;
+    return std::llround(std::min(text.toDouble() * scale, most));
 }
 
-PadSymbol::PadSymbol(QString name, int unit)
-    : m_name(std::move(name))
-    , m_unit(unit)
-    , m_width{match(m_name).captured(2), unit}
-    , m_height{match(m_name).captured(3), unit}
-{}
+PadSymbol::PadSymbol(QString name, int unit) : m_name(std::move(name)), m_unit(unit)
+{
+    if (auto const parts = sizedName(m_name)) {
+        m_width = {parts->first, unit};
+        m_height = {parts->second, unit};
+    }
+}
+
+bool PadSymbol::hasWidth() const
+{
+    return sizedName(m_name).has_value();
+}
+
+bool PadSymbol::hasHeight() const
+{
+    auto const parts = sizedName(m_name);
+    return parts && parts->family->second != PadFamily::Second::None;
+}
 
 QString PadSymbol::in(int otherUnit) const
 {
-    return withSizes(converted(m_name, m_unit, otherUnit), otherUnit);
+    // A name of the user's own may look as if it had sizes.
+    return hasWidth() ? withSizes(converted(m_name, m_unit, otherUnit), otherUnit) : m_name;
 }
 
 void PadSymbol::setWidth(PadSize const & size)
@@ -66,12 +86,16 @@ void PadSymbol::setHeight(PadSize const & size)
 
 QString PadSymbol::withSizes(QString const & name, int unit) const
 {
-    auto const parts = match(name);
-    if (!parts.hasMatch() || m_width.text.isEmpty()) {
+    auto const parts = sizedName(name);
+    if (!parts || m_width.text.isEmpty()) {
         return name;
     }
-    QString const second = m_height.text.isEmpty() ? QString() : 'x' + m_height.in(unit);
-    return parts.captured(1) + m_width.in(unit) + second + parts.captured(4);
+    QString const start = parts->family->prefix + m_width.in(unit);
+    if (m_height.text.isEmpty()) {
+        return start + parts->rest;
+    }
+    bool const isUnfinished = parts->second.isEmpty() && parts->rest == "x"; // "rect10x" gets its height
+    return start + 'x' + m_height.in(unit) + (isUnfinished ? QString() : parts->rest);
 }
 
 QJsonObject PadSymbol::toJson() const
@@ -81,13 +105,23 @@ QJsonObject PadSymbol::toJson() const
             {"height", m_height.text}, {"height unit", m_height.unit}};
 }
 
-PadSymbol PadSymbol::fromJson(QJsonObject const & json)
+std::optional<PadSymbol> PadSymbol::fromJson(QJsonObject const & json)
 {
-    PadSymbol symbol;
-    symbol.m_name = json["name"].toString();
-    symbol.m_unit = json["unit"].toInt();
-    symbol.m_width = {json["width"].toString(), json["width unit"].toInt()};
-    symbol.m_height = {json["height"].toString(), json["height unit"].toInt()};
+    for (char const * key : {"unit", "width unit", "height unit"}) {
+        if (!isUnit(json[key])) {
+            return std::nullopt;
+        }
+    }
+    PadSymbol symbol(json["name"].toString(), json["unit"].toInt());
+    PadSize const width{json["width"].toString(), json["width unit"].toInt()};
+    PadSize const height{json["height"].toString(), json["height unit"].toInt()};
+    for (auto const & [target, size] :
+         {std::pair(&symbol.m_width, width), std::pair(&symbol.m_height, height)}) {
+        if (!size.text.isEmpty() && !isSizeText(size.text)) {
+            return std::nullopt;
+        }
+        *target = size;
+    }
     return symbol;
 }
 

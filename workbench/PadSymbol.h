@@ -3,6 +3,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <optional>
+
 namespace Workbench {
 
 /// A length as it was typed or stored: unit 0 mil, 1 micrometre.
@@ -13,6 +15,7 @@ struct PadSize
 
     /// The text in a unit, six significant digits where it has to be converted.
     QString in(int otherUnit) const;
+    /// To the nearest; saturates at the ends of qint64.
     qint64 nanometres() const;
 };
 
@@ -27,9 +30,13 @@ public:
 
     QString const & name() const { return m_name; }
     int unit() const { return m_unit; }
-    /// Empty for a symbol whose name begins with no family that has sizes.
+    /// Whether the name is of a standard family whose sizes the library turns from one unit into the other.
+    bool hasWidth() const;
+    /// False for a family with one size, too.
+    bool hasHeight() const;
+    /// Empty without hasWidth().
     PadSize const & width() const { return m_width; }
-    /// Empty for a family with one size, too.
+    /// Empty when the name does not have it, or not yet.
     PadSize const & height() const { return m_height; }
     QString in(int otherUnit) const;
 
@@ -37,7 +44,8 @@ public:
     void setHeight(PadSize const & size);
 
     QJsonObject toJson() const;
-    static PadSymbol fromJson(QJsonObject const & json);
+    /// Nothing when the text of a size is no size or a unit is neither 0 nor 1.
+    static std::optional<PadSymbol> fromJson(QJsonObject const & json);
 
 private:
     QString withSizes(QString const & name, int unit) const;

@@ -4,6 +4,7 @@
 
 #include <UIAPICommon.h>
 
+#include <QEvent>
 #include <QGroupBox>
 #include <QJsonObject>
 #include <QVBoxLayout>
@@ -13,6 +14,8 @@ namespace Workbench {
 namespace {
 
 using namespace KVCAM::UIAPI;
+
+constexpr int descriptionColumn = 5;
 
 // Names that are stored in mil are shown rounded and snapped, as the library does for its own lists; those in
 // micrometres are first turned into mil.
@@ -59,7 +62,7 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
 }
 
 SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * parent)
-    : QWidget(parent), m_view(view)
+    : QWidget(parent), m_job(job), m_view(view)
 {
     m_names = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
                          tr("Features"), tr("Description")});
@@ -81,6 +84,23 @@ SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * p
     connect(m_names, &QTableWidget::itemSelectionChanged, this, &SymbolsPage::showResults);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &SymbolsPage::showResults);
     m_names->selectRow(0);
+}
+
+void SymbolsPage::setView(void const * view)
+{
+    m_view = view;
+    showResults();
+}
+
+void SymbolsPage::changeEvent(QEvent * event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        auto const rows = symbolRows(m_job);
+        for (int i = 0; i < m_names->rowCount() && i < static_cast<int>(rows.size()); ++i) {
+            m_names->item(i, descriptionColumn)->setText(rows[static_cast<std::size_t>(i)].description);
+        }
+    }
+    QWidget::changeEvent(event);
 }
 
 void SymbolsPage::showResults()

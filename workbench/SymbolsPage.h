@@ -34,9 +34,16 @@ class SymbolsPage : public QWidget
 public:
     SymbolsPage(std::string const & job, void const * view, QWidget * parent = nullptr);
 
+    /// Shows the functions' results in the unit of another view.
+    void setView(void const * view);
+
+protected:
+    void changeEvent(QEvent * event) override;
+
 private:
     void showResults();
 
+    std::string m_job;
     void const * m_view;
     QTableWidget * m_names;
     QGroupBox * m_resultsTitle;

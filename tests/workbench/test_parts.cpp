@@ -1,5 +1,4 @@
 #include "BoardView.h"
-#include "FeatureDialog.h"
 #include "FeatureShapes.h"
 #include "PadSymbol.h"
 #include "Session.h"
@@ -19,10 +18,10 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTest>
 
 #include <iterator>
 #include <memory>
+#include <utility>
 
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
@@ -62,19 +61,35 @@ TEST(PadSymbols, AreConvertedFromWhatWasTyped)
         int unit;
         char const * mil;
         char const * micrometre;
+        char const * sizes; ///< as they can be set, "-" where the family has none
     } const rows[] = {
-        {"r10", 0, "r10", "r254"},
-        {"rect500x500", 1, "rect19.685x19.685", "rect500x500"},
-        {"rect10x20xr5x13", 0, "rect10x20xr5x13", "rect254x508xr127x13"},
-        {"r254.1234", 1, "r10.0049", "r254.1234"},
-        {"logo_mark", 1, "logo_mark", "logo_mark"},
-        {"", 0, "", ""},
+        {"r10", 0, "r10", "r254", "10 -"},
+        {"rect500x500", 1, "rect19.685x19.685", "rect500x500", "500 500"},
+        {"rect10x20xr5x13", 0, "rect10x20xr5x13", "rect254x508xr127x13", "10 20"},
+        {"rect10", 0, "rect10", "rect254", "10 "},
+        {"r254.1234", 1, "r10.0049", "r254.1234", "254.1234 -"},
+        {"bfs254", 1, "bfs10", "bfs254", "254 -"},
+        {"hex_l100x70x25", 0, "hex_l100x70x25", "hex_l2540x1778x635", "100 70"},
+        {"hole10xpx1x2", 0, "hole10xpx1x2", "hole254xpx25.4x50.8", "10 -"},
+        {"ths100x50x45x4x10", 0, "ths100x50x45x4x10", "ths2540x1270x45x4x254", "100 50"},
+        {"moire5x5x3x4x120x45", 0, "moire5x5x3x4x120x45", "moire127x127x3x101.6x3048x45", "5 5"},
+        {"donut_rc30x20x5", 0, "donut_rc30x20x5", "donut_rc30x20x5", "- -"}, // which the library leaves alone
+        {"r10x20", 0, "r10x20", "r10x20", "- -"},
+        {"rect10x20_135", 0, "rect10x20_135", "rect10x20_135", "- -"},
+        {"logo_mark", 1, "logo_mark", "logo_mark", "- -"},
+        {"", 0, "", "", "- -"},
     };
     for (auto const & row : rows) {
         PadSymbol const symbol(row.name, row.unit);
         EXPECT_EQ(symbol.in(0), row.mil) << row.name;
         EXPECT_EQ(symbol.in(1), row.micrometre) << row.name;
-        EXPECT_EQ(PadSymbol::fromJson(symbol.toJson()).in(0), row.mil) << row.name;
+        EXPECT_EQ((symbol.hasWidth() ? symbol.width().text : "-") + ' ' +
+                      (symbol.hasHeight() ? symbol.height().text : "-"),
+                  row.sizes)
+            << row.name;
+        auto const restored = PadSymbol::fromJson(symbol.toJson());
+        ASSERT_TRUE(restored) << row.name;
+        EXPECT_EQ(restored->in(0), row.mil) << row.name;
     }
 }
 
@@ -85,7 +100,25 @@ TEST(PadSymbols, ASizeTypedInTheOtherUnitLeavesTheRestAlone)
     EXPECT_EQ(symbol.in(0), "rect12.5x27.5591xr1.9685");
     EXPECT_EQ(symbol.in(1), "rect317.5x700xr50");
     EXPECT_EQ(symbol.width().nanometres(), 317500);
-    EXPECT_EQ(symbol.height().nanometres(), 700000);
+    EXPECT_EQ(PadSymbol("r99999999999999999999999999", 0).width().nanometres(), 9223372036854774784);
+
+    PadSymbol unfinished("rect10x", 0);
+    unfinished.setHeight({"20", 0});
+    EXPECT_EQ(unfinished.name(), "rect10x20");
+}
+
+TEST(PadSymbols, AreNotRestoredFromAnotherUnitOrSize)
+{
+    QJsonObject const good = PadSymbol("rect10x20", 0).toJson();
+    std::pair<char const *, QJsonValue> const changes[] = {
+        {"unit", 7},      {"width unit", 0.5}, {"height unit", -1}, {"unit", "1"}, {"unit", QJsonValue()},
+        {"width", "abc"}, {"height", "1x2"},
+    };
+    for (auto const & [key, value] : changes) {
+        QJsonObject changed = good;
+        changed[key] = value;
+        EXPECT_FALSE(PadSymbol::fromJson(changed)) << key;
+    }
 }
 
 class Boards : public ::testing::Test
@@ -124,30 +157,13 @@ TEST_F(Boards, TheLibraryHoldsThePointersPlace)
     EXPECT_NEAR(place->y, (box.bottom + box.top) / 2, 1e-6);
 }
 
-TEST_F(Boards, TheSymbolFollowsTypedSizesAndTheUnit)
-{
-    FeatureDialog dialog(*view, view->features()[0].index, session.job(), "form.json");
-    auto * width = dialog.findChild<KVLineEdit *>("width");
-    width->selectAll();
-    QTest::keyClicks(width, "254.1x"); // a letter is refused
-    EXPECT_EQ(width->text(), "254.1");
-    EXPECT_EQ(dialog.exactWidth(), 6454140);
-    QString const inch = dialog.symbol();
-    EXPECT_TRUE(inch.contains("254.1")) << inch.toStdString();
-    for (int i = 0; i < 100; ++i) {
-        setUnit(view->handle(), 1 - i % 2);
-        EXPECT_EQ(dialog.symbol() == inch, i % 2 == 1) << i;
-    }
-    EXPECT_EQ(dialog.symbol(), inch);
-    EXPECT_EQ(width->text(), "254.1");
-}
-
 TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
 {
     writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\n"
                                     "NAME=TOP\nPOLARITY=POSITIVE\nOLD_NAME=\n}\n");
     writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
     writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 rect2000x1000\n$1 r100\n"
+                                                    "$2 thr1000x600x45x4x100\n$3 moire9x9x3x9x2000x0\n"
                                                     "P 0 0 0 P 0 0\n"
                                                     "P 0 0 0 P 0 1\n"
                                                     "P 0 0 0 N 0 8 90\n"
@@ -155,18 +171,20 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
                                                     "A 1 0 0 1 0 0 1 P 0 Y\n"
                                                     "A 1 0 1 0 0 0 1 P 0 Y\n"
                                                     "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOS 0 0\nOE\n"
-                                                    "OB 4 4 H\nOS 5 4\nOS 5 5\nOS 4 5\nOS 4 4\nOE\nSE\n");
+                                                    "OB 4 4 H\nOS 5 4\nOS 5 5\nOS 4 5\nOS 4 4\nOE\nSE\n"
+                                                    "P 0 0 2 P 0 0\nP 0 0 3 P 0 0\n");
     Session session;
     ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
     auto const shapes = featureShapes("tiny", "pcb", "top");
     QRectF const boxes[] = {
-        {-1000, -500, 2000, 1000},  // as it stands
-        {-500, -1000, 1000, 2000},  // a quarter turn
-        {-500, -1000, 1000, 2000},  // by angle
-        {0, 0, 1000, 1000},         // counter-clockwise from 3 to 12 o'clock
-        {-1000, -1000, 2000, 2000}, // clockwise the long way round
-        {-1000, -1000, 2000, 2000}, // a full circle
-        {0, 0, 9000, 9000},
+        {-1000, -500, 2000, 1000},                            // as it stands
+        {-500, -1000, 1000, 2000},                            // a quarter turn
+        {-500, -1000, 1000, 2000},                            // by angle
+        {0, 0, 1000, 1000},                                   // counter-clockwise from 3 to 12 o'clock
+        {-1000, -1000, 2000, 2000},                           // clockwise the long way round
+        {-1000, -1000, 2000, 2000},                           // a full circle
+        {0, 0, 9000, 9000},         {-500, -500, 1000, 1000}, // a thermal by its outer size
+        {-1000, -1000, 2000, 2000},                           // a moire by its lines
     };
     ASSERT_EQ(shapes.size(), std::size(boxes));
     for (std::size_t i = 0; i < shapes.size(); ++i) {
@@ -177,6 +195,7 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
     }
     EXPECT_TRUE(shapes[6].path.contains(QPointF(1000, 1000)));
     EXPECT_FALSE(shapes[6].path.contains(QPointF(4500, 4500)));
+    EXPECT_FALSE(shapes[7].path.contains(QPointF(250, 0)));
     EXPECT_EQ(shapes[3].penWidth, 100);
 }
 

@@ -106,6 +106,7 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(signals_, 5);
     EXPECT_EQ(negativePlanes, 1);
     EXPECT_FALSE(facts["symbols"].toArray().isEmpty());
+    EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
 }
 
 TEST(Workbench, AUnitSwitchReachesTheEngineAndItsDatabase)
@@ -129,17 +130,14 @@ TEST(Workbench, AUnitSwitchReachesTheEngineAndItsDatabase)
     EXPECT_GT(rows, 0);
 }
 
-TEST(Workbench, WithoutTheSaveFlagNoDatabaseIsWritten)
-{
-    runSample();
-    EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite"));
-}
-
 TEST(Workbench, TheFormComesBackOnTheSecondRunInItsOwnUnit)
 {
-    QJsonObject const first = runSample({"--unit", "mm"}).facts["feature"].toObject();
+    QJsonObject const facts = runSample({"--unit", "mm"}).facts;
+    QJsonObject const first = facts["feature"].toObject();
+    EXPECT_EQ(facts["boxes"].toArray(), QJsonArray{first["refused"]});
     EXPECT_FALSE(first["restored"].toBool());
-    EXPECT_EQ(first["width"].toString(), "317.5"); // 254+63.5
+    EXPECT_EQ(first["typed"].toString(), "254+63.5");
+    EXPECT_EQ(first["width"].toString(), "317.5");
     EXPECT_EQ(first["width after 100 switches"], first["width"]);
     EXPECT_EQ(first["width in nm"].toDouble(), 317500);
     EXPECT_TRUE(first["refused"].toString().endsWith("(12.70, 25400.00)"));
@@ -149,14 +147,6 @@ TEST(Workbench, TheFormComesBackOnTheSecondRunInItsOwnUnit)
     for (char const * key : {"width", "symbol in mil", "symbol in my", "description"}) {
         EXPECT_EQ(second[key], first[key]) << key;
     }
-}
-
-TEST(Workbench, ARefusedValueIsToldInOneBox)
-{
-    QJsonArray const boxes = runSample().facts["boxes"].toArray();
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].toString(),
-              "Illegal float value\nfloating value for field is out of range: (0.5, 1000)");
 }
 
 TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
@@ -181,7 +171,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    EXPECT_EQ(pictures.size(), 9);
+    EXPECT_EQ(pictures.size(), 10);
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
