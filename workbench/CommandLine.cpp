@@ -62,7 +62,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
         return failure(parser.errorText());
     }
     if (parser.isSet(help) || parser.isSet("help-all")) {
-        return {ParsedArguments::Outcome::Print, {}, parser.helpText()};
+        return {ParsedArguments::Outcome::Print, {}, parser.helpText().trimmed() + '\n'};
     }
     if (parser.isSet(version)) {
         return {ParsedArguments::Outcome::Print, {}, "uiapi-workbench " UIAPICOMMON_VERSION "\n"};
