@@ -12,6 +12,8 @@ namespace Workbench {
 
 namespace {
 
+constexpr char const * defaultJob = "UIAPI_WORKBENCH_JOB";
+
 QString absolute(QString const & path)
 {
     return path.isEmpty() ? path : QDir::cleanPath(QDir::current().absoluteFilePath(path));
@@ -51,25 +53,31 @@ ParsedArguments parseArguments(QStringList const & arguments)
     QCommandLineOption const unit("unit", "Unit in which the views start: inch or mm.", "inch|mm", "inch");
     QCommandLineOption const saveFlag("save-flag", "Start with the engine's save flag on.");
     parser.addOptions({headless, config, output, unit, saveFlag});
-    parser.addPositionalArgument("JOB-DIRECTORY", "The folder of the job.", "JOB-DIRECTORY");
+    parser.addPositionalArgument("JOB-DIRECTORY",
+                                 "The folder of the job (default: the environment variable " +
+                                     QString(defaultJob) + ").",
+                                 "[JOB-DIRECTORY]");
 
     if (!parser.parse(arguments)) {
         return failure(parser.errorText());
     }
     if (parser.isSet(help) || parser.isSet("help-all")) {
-        return {ParsedArguments::Outcome::Print, {}, parser.helpText()};
+        return {ParsedArguments::Outcome::Print, {}, parser.helpText().trimmed() + '\n'};
     }
     if (parser.isSet(version)) {
         return {ParsedArguments::Outcome::Print, {}, "uiapi-workbench " UIAPICOMMON_VERSION "\n"};
     }
     QStringList const positional = parser.positionalArguments();
-    if (positional.size() != 1) {
-        return failure(positional.isEmpty() ? "no job directory given, see --help"
-                                            : "more than one job directory given");
+    if (positional.size() > 1) {
+        return failure("more than one job directory given");
+    }
+    QString const job = positional.isEmpty() ? qEnvironmentVariable(defaultJob) : positional.first();
+    if (job.isEmpty()) {
+        return failure("no job directory given, see --help");
     }
     QStringList const units{"inch", "mm"}; // a unit's code is its place here
     CommandLine commandLine;
-    commandLine.job = absolute(positional.first());
+    commandLine.job = absolute(job);
     commandLine.config = absolute(parser.value(config));
     commandLine.output = absolute(parser.value(output));
     commandLine.unit = units.indexOf(parser.value(unit));

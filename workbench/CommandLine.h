@@ -31,7 +31,8 @@ struct ParsedArguments
     QString text; ///< for Print and Error
 };
 
-/// Judges the arguments, the program's name first. Touches no file.
+/// Judges the arguments, the program's name first. Without a job the one that the environment variable
+/// UIAPI_WORKBENCH_JOB names is taken. Touches no file.
 ParsedArguments parseArguments(QStringList const & arguments);
 
 /// Whether the program must run without a window: asked for, or there is no display. Called before the

@@ -1,9 +1,11 @@
 #include "ConfigDirectory.h"
 
 #include <EmbeddedEngine.h>
+#include <KVCAM_API.h>
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
 
 namespace Workbench {
 
@@ -39,6 +41,20 @@ QString enterConfiguration(QString const & directory, QString const & output)
         return QString("cannot enter \"%1\"").arg(folder.path());
     }
     return {};
+}
+
+QString configurationDirectory()
+{
+    QString const root = QString::fromStdString(Common::getPath());
+    return (root.isEmpty() ? QDir::currentPath() : root) + '/' +
+           QString::fromStdString(Common::getPath_config());
+}
+
+QJsonObject readJsonObject(QString const & path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QJsonDocument::fromJson(file.readAll()).object()
+                                                            : QJsonObject();
 }
 
 } // namespace Workbench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QString>
 
 namespace Workbench {
@@ -10,5 +11,11 @@ namespace Workbench {
 /// as they are. The result is one line that says what is wrong, empty on success. Call it before the
 /// library's first function.
 QString enterConfiguration(QString const & directory, QString const & output);
+
+/// The configuration directory as the host tells it to the library, without a "/" at its end.
+QString configurationDirectory();
+
+/// The JSON object in a file; an empty one when it cannot be read.
+QJsonObject readJsonObject(QString const & path);
 
 } // namespace Workbench

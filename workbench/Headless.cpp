@@ -35,14 +35,17 @@ public:
         if (widget.grab().save(path)) {
             m_pictures.append(path);
         } else {
-            LOG(ERROR) << "workbench: cannot write " << qPrintable(path);
+            LOG(ERROR) << "workbench: cannot write " << path.toStdString();
+            m_errors.append(QJsonObject{{"file", path}, {"text", "the screenshot cannot be written"}});
         }
     }
     QJsonArray const & pictures() const { return m_pictures; }
+    QJsonArray const & errors() const { return m_errors; }
 
 private:
     QDir m_folder;
     QJsonArray m_pictures;
+    QJsonArray m_errors;
 };
 
 void press(QLineEdit & field, int key, QString const & text = {})
@@ -67,8 +70,8 @@ QJsonArray layersOf(Session const & session)
     QJsonArray layers;
     for (Session::Layer const & layer : session.layers()) {
         QJsonArray counts;
-        for (int count : layer.features) {
-            counts.append(count);
+        for (std::optional<int> const & count : layer.features) {
+            counts.append(count ? QJsonValue(*count) : QJsonValue());
         }
         layers.append(QJsonObject{{"row", layer.info.row},
                                   {"name", QString::fromStdString(layer.info.name)},
@@ -78,6 +81,22 @@ QJsonArray layersOf(Session const & session)
                                   {"features", counts}});
     }
     return layers;
+}
+
+// What the job's files and the camera could not do.
+QJsonArray errorsOf(Session const & session, Camera const & camera)
+{
+    QJsonArray errors = camera.errors();
+    for (Session::Layer const & layer : session.layers()) {
+        for (std::size_t i = 0; i < layer.errors.size(); ++i) {
+            if (!layer.errors[i].isEmpty()) {
+                errors.append(QJsonObject{{"layer", QString::fromStdString(layer.info.name)},
+                                          {"step", QString::fromStdString(session.steps()[i].name)},
+                                          {"text", layer.errors[i]}});
+            }
+        }
+    }
+    return errors;
 }
 
 QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Box> const & outline)
@@ -209,6 +228,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"feature", feature},
             {"configuration", configuration()},
             {"boxes", boxes},
+            {"errors", errorsOf(session, camera)},
             {"screenshots", camera.pictures()}};
 }
 

@@ -26,12 +26,19 @@ void LayerTable::show(Session const & session, std::size_t step)
     int const selected = currentRow();
     setRowCount(0);
     for (Session::Layer const & layer : session.layers()) {
-        int const features = step < layer.features.size() ? layer.features[step] : 0;
+        bool const isCounted = step < layer.features.size();
+        std::optional<int> const features = isCounted ? layer.features[step] : std::nullopt;
         addRow(*this,
                {QString::number(layer.info.row), QString::fromStdString(layer.info.name),
                 QString::fromStdString(layer.info.context), QString::fromStdString(layer.info.type),
-                QString::fromStdString(layer.info.polarity), QString::number(features)},
+                QString::fromStdString(layer.info.polarity), features ? QString::number(*features) : "?"},
                {0, 5});
+        QString const error = isCounted ? layer.errors[step] : tr("not counted, since reading was stopped");
+        if (!error.isEmpty()) {
+            QTableWidgetItem & cell = *item(rowCount() - 1, 5);
+            cell.setToolTip(error);
+            cell.setForeground(QColor("#b00020"));
+        }
     }
     setCurrentCell(selected, 0);
 }

@@ -1,5 +1,7 @@
 #include "Session.h"
 
+#include <glog/logging.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -13,6 +15,12 @@ QString failure(QString const & directory, std::string const & reason)
 {
     return QString("cannot open the job \"%1\": ").arg(QDir::toNativeSeparators(directory)) +
            QString::fromStdString(reason).simplified();
+}
+
+// What the latest reading said, if it failed: an empty list alone tells nothing.
+QString readingError()
+{
+    return QString::fromStdString(KVCAM::Embedded::lastError()).simplified();
 }
 
 } // namespace
@@ -46,7 +54,7 @@ QString Session::open(QString const & directory)
     }
     m_layers.clear();
     for (KVCAM::API::layer_info const & info : layers) {
-        m_layers.push_back({info, {}});
+        m_layers.push_back({info, {}, {}});
     }
     return {};
 }
@@ -54,9 +62,20 @@ QString Session::open(QString const & directory)
 void Session::countFeatures(Layer & layer) const
 {
     layer.features.clear();
+    layer.errors.clear();
     for (Step const & step : m_steps) {
         auto const features = KVCAM::Embedded::features(m_job, step.name, layer.info.name);
-        layer.features.push_back(static_cast<int>(features.size()));
+        QStringList errors{readingError()};
+        layer.features.push_back(errors.first().isEmpty() ? std::optional(static_cast<int>(features.size()))
+                                                          : std::nullopt);
+        KVCAM::Embedded::tools(m_job, step.name, layer.info.name);
+        errors.append(readingError());
+        errors.removeAll(QString());
+        for (QString const & error : errors) {
+            LOG(ERROR) << "workbench: cannot read layer " << layer.info.name << " of step " << step.name
+                       << ": " << error.toStdString();
+        }
+        layer.errors.push_back(errors.join('\n'));
     }
 }
 

@@ -19,7 +19,9 @@ public:
     struct Layer
     {
         KVCAM::API::layer_info info;
-        std::vector<int> features; ///< how many, by step
+        /// How many, by step; without a value where they cannot be read. Empty until they are counted.
+        std::vector<std::optional<int>> features;
+        std::vector<QString> errors; ///< what could not be read, by step; empty texts where all was
     };
     struct Step
     {
@@ -30,7 +32,7 @@ public:
     /// Opens the job in a folder. The result is one line that says what is wrong, empty on success.
     QString open(QString const & directory);
     /// Counts the features of a layer in every step; the slow part of opening, for which a progress dialog
-    /// may be shown.
+    /// may be shown. Reads the layer's tools as well. What fails is kept in the layer and logged at ERROR.
     void countFeatures(Layer & layer) const;
 
     std::string const & job() const { return m_job; }

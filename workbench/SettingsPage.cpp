@@ -1,5 +1,6 @@
 #include "SettingsPage.h"
 
+#include "ConfigDirectory.h"
 #include "TableTools.h"
 
 #include <EmbeddedEngine.h>
@@ -10,6 +11,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -24,6 +26,7 @@ using namespace KVCAM::UIAPI;
 struct Setting
 {
     char const * title;
+    char const * key; ///< in "server.json", for what can be written
     QVariant (*read)();
     void (*write)(QVariant const &); ///< null: the library reads the setting at its start only
 };
@@ -43,34 +46,35 @@ UIAPIGlobalVar & globals()
 // Getters are the flat functions; most setters are methods of UIAPIGlobalVar alone. The suffix record has no
 // getter: the library hands it to the engine, which tells it here.
 constexpr Setting settings[] = {
-    {QT_TR_NOOP("Server address"), [] { return text(getServerIP()); },
+    {QT_TR_NOOP("Server address"), "ServerIp", [] { return text(getServerIP()); },
      [](QVariant const & v) { globals().setServerIP(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Client address"), [] { return text(getClientIP()); },
+    {QT_TR_NOOP("Client address"), "ClientIp", [] { return text(getClientIP()); },
      [](QVariant const & v) { globals().setClientIP(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Server port"), [] { return QVariant(getServerPort()); },
+    {QT_TR_NOOP("Server port"), "Port", [] { return QVariant(getServerPort()); },
      [](QVariant const & v) { globals().setServerPort(v.toInt()); }},
-    {QT_TR_NOOP("Database path"), [] { return text(getDBPath()); },
+    {QT_TR_NOOP("Database path"), "DBPath", [] { return text(getDBPath()); },
      [](QVariant const & v) { globals().setDBPath(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Share path"), [] { return text(getSharePath()); },
+    {QT_TR_NOOP("Share path"), "SharePath", [] { return text(getSharePath()); },
      [](QVariant const & v) { globals().setSharePath(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Operating system code"), [] { return QVariant(getOS()); },
+    {QT_TR_NOOP("Operating system code"), "OS", [] { return QVariant(getOS()); },
      [](QVariant const & v) { globals().setOS(v.toInt()); }},
-    {QT_TR_NOOP("Timeout"), [] { return QVariant(getTimeout()); },
+    {QT_TR_NOOP("Timeout"), "TimeOut", [] { return QVariant(getTimeout()); },
      [](QVariant const & v) { globals().setTimeout(v.toInt()); }},
-    {QT_TR_NOOP("Selection-outside hint"), [] { return QVariant(getSelectionOutsideHint()); },
+    {QT_TR_NOOP("Selection-outside hint"), "SelectionOutsideHint",
+     [] { return QVariant(getSelectionOutsideHint()); },
      [](QVariant const & v) { setSelectionOutsideHint(v.toBool()); }},
-    {QT_TR_NOOP("Calculation threads"), [] { return QVariant(getThreadCount()); },
+    {QT_TR_NOOP("Calculation threads"), "ThreadCount", [] { return QVariant(getThreadCount()); },
      [](QVariant const & v) { setThreadCount(v.toInt()); }},
-    {QT_TR_NOOP("Backup layers take the suffix"),
+    {QT_TR_NOOP("Backup layers take the suffix"), nullptr,
      [] { return QVariant(KVCAM::Embedded::liveState().backup.use_suffix); }, nullptr},
-    {QT_TR_NOOP("Backup layer suffix"), [] { return text(KVCAM::Embedded::liveState().backup.suffix); },
-     nullptr},
-    {QT_TR_NOOP("Layer copy suffix"), [] { return text(getLayerCopySuffix()); }, nullptr},
-    {QT_TR_NOOP("Movement factor"), [] { return QVariant(getMovementFactor()); }, nullptr},
-    {QT_TR_NOOP("Shift factor"), [] { return QVariant(getShiftConfict()); }, nullptr},
-    {QT_TR_NOOP("Contour accuracy"), [] { return QVariant(getContourAccuracy()); }, nullptr},
-    {QT_TR_NOOP("Hot keys may be modified"), [] { return QVariant(getModifyHotKey()); }, nullptr},
-    {QT_TR_NOOP("Python home"), [] { return QVariant(getPythonHome()); }, nullptr},
+    {QT_TR_NOOP("Backup layer suffix"), nullptr,
+     [] { return text(KVCAM::Embedded::liveState().backup.suffix); }, nullptr},
+    {QT_TR_NOOP("Layer copy suffix"), nullptr, [] { return text(getLayerCopySuffix()); }, nullptr},
+    {QT_TR_NOOP("Movement factor"), nullptr, [] { return QVariant(getMovementFactor()); }, nullptr},
+    {QT_TR_NOOP("Shift factor"), nullptr, [] { return QVariant(getShiftConfict()); }, nullptr},
+    {QT_TR_NOOP("Contour accuracy"), nullptr, [] { return QVariant(getContourAccuracy()); }, nullptr},
+    {QT_TR_NOOP("Hot keys may be modified"), nullptr, [] { return QVariant(getModifyHotKey()); }, nullptr},
+    {QT_TR_NOOP("Python home"), nullptr, [] { return QVariant(getPythonHome()); }, nullptr},
 };
 static_assert(std::size(settings) == 17);
 
@@ -154,15 +158,32 @@ void SettingsPage::addSetting(QGridLayout & form, Setting const & setting)
     editor->setEnabled(setting.write != nullptr);
     form.addWidget(new QLabel(tr(setting.title)), row, 0);
     form.addWidget(editor, row, 1);
-    form.addWidget(new QLabel(setting.write != nullptr ? tr("saved at once") : tr("read at start only")), row,
-                   2);
+    auto * state = new QLabel(setting.write != nullptr ? tr("saved at once") : tr("read at start only"));
+    state->setObjectName(QString(setting.title) + " state");
+    m_states[&setting] = state;
+    form.addWidget(state, row, 2);
 }
 
 void SettingsPage::store(Setting const & setting, QVariant const & value)
 {
-    if (setting.write != nullptr && setting.read() != value) {
-        setting.write(value);
-        refreshDiagnostics(); // a save may find that it drops keys
+    if (setting.write == nullptr || (setting.read() == value && m_unsaved.count(&setting) == 0)) {
+        return;
+    }
+    setting.write(value);
+    m_unsaved.insert(&setting);
+    // The library writes all settings at every save and is silent about one that failed: ask the file. What
+    // failed before may have reached it now.
+    QJsonObject const stored = readJsonObject(configurationDirectory() + "/server.json");
+    for (auto const & [each, state] : m_states) {
+        if (m_unsaved.count(each) == 0) {
+            continue;
+        }
+        bool const isSaved = stored[QLatin1String(each->key)] == QJsonValue::fromVariant(each->read());
+        state->setText(isSaved ? tr("saved at once") : tr("not saved"));
+        state->setStyleSheet(isSaved ? QString() : "color: #b00020");
+        if (isSaved) {
+            m_unsaved.erase(each);
+        }
     }
 }
 

@@ -3,6 +3,9 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <map>
+#include <set>
+
 class QGridLayout;
 class QLabel;
 class QTableWidget;
@@ -12,7 +15,7 @@ namespace Workbench {
 struct Setting;
 
 /// The settings of "server.json" and what the loaders found wrong in the configuration files. A setting that
-/// can be saved is saved as soon as it is edited.
+/// can be saved is saved as soon as it is edited; the page says where that failed.
 class SettingsPage : public QWidget
 {
     Q_OBJECT
@@ -25,6 +28,8 @@ private:
     void store(Setting const & setting, QVariant const & value);
     void refreshDiagnostics();
 
+    std::map<Setting const *, QLabel *> m_states; ///< whether each is saved
+    std::set<Setting const *> m_unsaved;          ///< which the file does not hold
     QLabel * m_summary;
     QTableWidget * m_diagnostics;
 };

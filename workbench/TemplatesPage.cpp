@@ -2,6 +2,7 @@
 
 #include "TableTools.h"
 
+#include <QFile>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -19,18 +20,31 @@ namespace {
 
 using namespace KVCAM::UIAPI;
 
-constexpr int firstUserIndex = 2; // where the library counts the user's templates from
+constexpr int firstUserIndex = 2;    // where the library counts the user's templates from
+constexpr int noIndex = -1;          // for deleting a file alone
+constexpr char const * noFile = "/"; // for deleting a template alone: no file has this name
 
 // A template's file is called after it; what no file may be called is replaced.
 QString fileName(AutoMatrixTmp const & tmpl)
 {
-    static QRegularExpression const forbidden(R"([\\/:*?"<>|]|^\.+)");
+    static QRegularExpression const forbidden(R"([\\/:*?"<>|\p{Cc}]|^\.+)");
     return QString::fromStdString(tmpl.name).replace(forbidden, "_");
+}
+
+QString shownFile(QString const & file)
+{
+    return "autoMatrix/" + file + ".json";
+}
+
+bool isSameFile(QString const & a, QString const & b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0; // some file systems know no case
 }
 
 } // namespace
 
-TemplatesPage::TemplatesPage(QWidget * parent) : QWidget(parent)
+TemplatesPage::TemplatesPage(QWidget * parent)
+    : QWidget(parent), m_files(userTemplates(getAutoMatrixTmpMap()))
 {
     m_list = makeTable({tr("Index"), tr("Name"), tr("Current")});
     m_list->horizontalHeader()->setStretchLastSection(false);
@@ -55,6 +69,7 @@ QWidget * TemplatesPage::makeEditor()
     auto * editor = new QGroupBox(tr("How the layers are recognised"));
     auto * grid = new QGridLayout(editor);
     m_name = new QLineEdit;
+    m_name->setObjectName("name");
     grid->addWidget(new QLabel(tr("Name")), 0, 0);
     grid->addWidget(m_name, 0, 1, 1, 2);
     grid->addWidget(new QLabel(tr("Role")), 1, 0);
@@ -80,6 +95,10 @@ QWidget * TemplatesPage::makeEditor()
     addButton(tr("Delete"), &TemplatesPage::remove);
     buttons->addStretch(1);
     grid->addLayout(buttons, grid->rowCount(), 0, 1, 3);
+    m_hint = new QLabel;
+    m_hint->setObjectName("hint");
+    m_hint->setWordWrap(true);
+    grid->addWidget(m_hint, grid->rowCount(), 0, 1, 3);
     grid->setRowStretch(grid->rowCount(), 1);
     return editor;
 }
@@ -114,6 +133,30 @@ void TemplatesPage::showSelected()
         m_prefixes[i]->setText(QString::fromStdString(tmpl.*Ext::autoMatrixRoles[i].prefix));
         m_suffixes[i]->setText(QString::fromStdString(tmpl.*Ext::autoMatrixRoles[i].suffix));
     }
+    describeFile(selectedIndex());
+}
+
+void TemplatesPage::describeFile(int index)
+{
+    auto const file = m_files.find(index);
+    if (index < 0) {
+        m_hint->clear();
+    } else if (ownFile(index) != nullptr) {
+        m_hint->setText(tr("Save and Delete change the file \"%1\".").arg(shownFile(file->second.file)));
+    } else {
+        QString const origin =
+            file == m_files.end()
+                ? tr("This template is a shipped one.")
+                : tr("This template shares the file \"%1\" with others.").arg(shownFile(file->second.file));
+        m_hint->setText(origin + ' ' +
+                        tr("Save makes a copy of it under a new index; Delete lasts until the next start."));
+    }
+}
+
+UserTemplate const * TemplatesPage::ownFile(int index) const
+{
+    auto const file = m_files.find(index);
+    return file != m_files.end() && file->second.isAlone ? &file->second : nullptr;
 }
 
 AutoMatrixTmp TemplatesPage::edited() const
@@ -136,17 +179,26 @@ void TemplatesPage::select()
 void TemplatesPage::save()
 {
     int const index = selectedIndex();
-    if (index < 0) {
+    UserTemplate const * own = ownFile(index);
+    if (own == nullptr) {
         saveAsNew();
         return;
     }
-    AutoMatrixTmp const before = getAutoMatrixTmpMap()[index];
     AutoMatrixTmp const tmpl = edited();
-    if (before.name != tmpl.name) { // the file of the old name would come back at the next start
-        deleteAutoMatrix(index, fileName(before));
+    QString const old = own->file; // which may be called otherwise than its template
+    bool const isRenamed = getAutoMatrixTmpMap()[index].name != tmpl.name;
+    QString const file = isRenamed && !isSameFile(fileName(tmpl), old) ? fileName(tmpl) : old;
+    if (file != old && refuseUsedFile(file)) {
+        return;
     }
-    saveCurrentAutoMatrixTmp(index, fileName(tmpl), tmpl);
+    saveCurrentAutoMatrixTmp(index, file, tmpl);
+    // The old file, which would come back at the next start, goes only when the new one is whole.
+    if (file != old && isStored(tmpl, file)) {
+        deleteAutoMatrix(noIndex, old);
+        m_files[index] = {file, true};
+    }
     refreshList(index);
+    checkStored(tmpl, file);
 }
 
 void TemplatesPage::saveAsNew()
@@ -158,18 +210,54 @@ void TemplatesPage::saveAsNew()
     if (getAutomatrixMatrixIndex(QString::fromStdString(tmpl.name)) >= 0) {
         tmpl.name += ' ' + std::to_string(index); // a file of its own
     }
-    saveCurrentAutoMatrixTmp(index, fileName(tmpl), tmpl);
+    QString const file = fileName(tmpl);
+    if (refuseUsedFile(file)) {
+        return;
+    }
+    saveCurrentAutoMatrixTmp(index, file, tmpl);
+    m_files[index] = {file, true};
     refreshList(index);
+    checkStored(tmpl, file);
+}
+
+void TemplatesPage::checkStored(AutoMatrixTmp const & tmpl, QString const & file)
+{
+    if (!isStored(tmpl, file)) {
+        m_hint->setText(tr("The file \"%1\" was not saved; what you see lasts until the next start.")
+                            .arg(shownFile(file)));
+    }
+}
+
+bool TemplatesPage::refuseUsedFile(QString const & file)
+{
+    bool const isUsed = // a file that holds no template the library took is not overwritten either
+        QFile::exists(userTemplatePath(file)) ||
+        std::any_of(m_files.begin(), m_files.end(),
+                    [&file](auto const & entry) { return isSameFile(entry.second.file, file); });
+    if (isUsed) {
+        tell(tr("The file \"%1\" is there already. Choose another name.").arg(shownFile(file)));
+    }
+    return isUsed;
+}
+
+void TemplatesPage::tell(QString const & text)
+{
+    Ext::showMessage({Ext::MessageKind::Information, this, tr("Information"), text});
 }
 
 void TemplatesPage::remove()
 {
-    auto const templates = getAutoMatrixTmpMap();
-    auto const found = templates.find(selectedIndex());
-    if (found == templates.end()) {
+    int const index = selectedIndex();
+    if (index < 0) {
         return;
     }
-    deleteAutoMatrix(found->first, fileName(found->second));
+    UserTemplate const * own = ownFile(index);
+    QString const file = own != nullptr ? own->file : noFile;
+    deleteAutoMatrix(index, file);
+    if (own != nullptr && QFile::exists(userTemplatePath(file))) {
+        tell(tr("The file \"%1\" cannot be deleted.").arg(shownFile(file)));
+    }
+    m_files.erase(index);
     auto const left = getAutoMatrixTmpMap();
     refreshList(left.empty() ? -1 : left.begin()->first);
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <KVCAM_API.h>
-
-#include <QWidget>
+#include "UserTemplates.h"
 
 #include <UIAPICommon.h>
 
+#include <QWidget>
+
 #include <array>
+#include <map>
 
 class QLabel;
 class QLineEdit;
@@ -16,7 +17,8 @@ class QTableWidget;
 namespace Workbench {
 
 /// The auto-matrix templates: all of them by index, and the 25 texts of the one at hand, which can be
-/// selected as the current template, saved as one of the user's and deleted.
+/// selected as the current template, saved as one of the user's and deleted. Files are written and deleted
+/// only for templates that stand alone in a file of the user's.
 class TemplatesPage : public QWidget
 {
     Q_OBJECT
@@ -34,12 +36,20 @@ private:
     void save();
     void saveAsNew();
     void remove();
+    void describeFile(int index);
+    /// The file of a template that stands alone in one; null for every other.
+    UserTemplate const * ownFile(int index) const;
+    bool refuseUsedFile(QString const & file);
+    void checkStored(KVCAM::UIAPI::AutoMatrixTmp const & tmpl, QString const & file);
+    void tell(QString const & text);
 
     QTableWidget * m_list;
     QLabel * m_current;
+    QLabel * m_hint = nullptr;
     QLineEdit * m_name = nullptr;
     std::array<QLineEdit *, KVCAM::UIAPI::Ext::autoMatrixRoles.size()> m_prefixes{};
     std::array<QLineEdit *, KVCAM::UIAPI::Ext::autoMatrixRoles.size()> m_suffixes{};
+    std::map<int, UserTemplate> m_files; ///< by index
 };
 
 } // namespace Workbench

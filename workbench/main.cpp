@@ -14,11 +14,13 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTemporaryFile>
 
 #include <cstdio>
 
 namespace {
 
+constexpr int exitIncomplete = 1; // of a headless run that could not read or write everything
 constexpr int exitWrongInput = 2;
 
 void print(std::FILE * stream, QByteArray const & text)
@@ -30,6 +32,11 @@ int fail(QString const & text)
 {
     print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
     return exitWrongInput;
+}
+
+bool canWriteInto(QString const & directory)
+{
+    return QDir().mkpath(directory) && QTemporaryFile(directory + "/probe-XXXXXX").open();
 }
 
 // The library logs through glog and leaves its start to the host. No log files: warnings and errors go to
@@ -85,7 +92,7 @@ int main(int argc, char ** argv)
     if (!error.isEmpty()) {
         return fail(error);
     }
-    if (!QDir().mkpath(commandLine.output)) {
+    if (!canWriteInto(commandLine.output)) {
         return fail("cannot write to \"" + commandLine.output + '"');
     }
     QString const wrongConfiguration = Workbench::enterConfiguration(commandLine.config, commandLine.output);
@@ -110,5 +117,5 @@ int main(int argc, char ** argv)
     for (auto const & picture : facts["screenshots"].toArray()) {
         print(stderr, "uiapi-workbench: wrote " + picture.toString().toUtf8() + '\n');
     }
-    return 0;
+    return facts["errors"].toArray().isEmpty() ? 0 : exitIncomplete;
 }

@@ -29,6 +29,7 @@ QProcessEnvironment environment()
     EXPECT_TRUE(suppressions.open(QIODevice::WriteOnly));
     suppressions.write("leak:libqoffscreen.so\nleak:libfontconfig\nleak:libQt5DBus\n");
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.remove("UIAPI_WORKBENCH_JOB");
     variables.insert("LSAN_OPTIONS",
                      "print_suppressions=0:suppressions=" + QDir().absoluteFilePath("leaks.txt"));
     return variables;
@@ -69,6 +70,8 @@ int shownUnit(QJsonValue const & engine)
 TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
 {
     QDir().mkpath("empty");
+    QFile file("file");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     struct
     {
         QStringList arguments;
@@ -79,6 +82,10 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         {{"--headless"}, "no job directory"},
         {{sampleJob(), "--headless", "--unit", "furlong"}, "furlong"},
         {{sampleJob(), "--headless", "--wings"}, "wings"},
+        {{sampleJob(), "--headless", "--output", "file"}, "cannot write to \""},
+#ifdef Q_OS_LINUX // a directory that takes no files from anybody
+        {{sampleJob(), "--headless", "--output", "/proc"}, "cannot write to \""},
+#endif
     };
     for (auto const & item : cases) {
         Result const result = run(item.arguments);
@@ -87,6 +94,34 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         EXPECT_TRUE(result.err.contains(item.text)) << result.err.toStdString();
         EXPECT_TRUE(result.out.isEmpty());
     }
+}
+
+TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
+{
+    QDir().mkpath("out/settings.png");
+    QDir().mkpath("job/steps/pcb/layers/top");
+    QDir().mkpath("job/matrix");
+    QFile matrix("job/matrix/matrix");
+    ASSERT_TRUE(matrix.open(QIODevice::WriteOnly));
+    matrix.write("STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\nNAME=TOP\n"
+                 "POLARITY=POSITIVE\n}\n");
+    matrix.close();
+    QFile features("job/steps/pcb/layers/top/features");
+    ASSERT_TRUE(features.open(QIODevice::WriteOnly));
+    features.write("P nonsense\n");
+    features.close();
+    Result const result = run({"job", "--headless", "--output", "out"});
+    EXPECT_EQ(result.exitCode, 1) << result.err.toStdString();
+    QJsonArray const errors = result.facts["errors"].toArray();
+    ASSERT_EQ(errors.size(), 2);
+    EXPECT_TRUE(errors[0].toObject()["file"].toString().endsWith("settings.png"));
+    EXPECT_EQ(errors[1].toObject()["layer"].toString(), "top");
+    EXPECT_EQ(errors[1].toObject()["step"].toString(), "pcb");
+    EXPECT_TRUE(errors[1].toObject()["text"].toString().contains("features:1: "));
+    QJsonArray const counts = result.facts["layers"].toArray()[0].toObject()["features"].toArray();
+    EXPECT_EQ(counts, QJsonArray{QJsonValue()});
+    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 4); // no dialog without a pad
+    EXPECT_EQ(result.err.count("cannot read layer top"), 1);
 }
 
 TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
