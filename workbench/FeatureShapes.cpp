@@ -100,10 +100,9 @@ QPainterPath surfacePath(std::vector<std::vector<KVCAM::API::point>> const & out
     return path;
 }
 
-FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing,
-                          int unit)
+FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing)
 {
-    QSizeF const size = symbolExtent(feature.symbol, unit);
+    QSizeF const size = symbolExtent(feature.symbol, drawing.unit);
     auto const & points = feature.points;
     FeatureShape shape;
     shape.feature = feature.index;
@@ -114,7 +113,7 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     case 'P': {
         QPointF const place = toPoint(points.at(0));
         QTransform const turned = QTransform::fromTranslate(place.x(), place.y()).rotate(-drawing.angle);
-        shape.path = turned.map(padPath(feature.symbol, unit));
+        shape.path = turned.map(padPath(feature.symbol, drawing.unit));
         break;
     }
     case 'L':
@@ -156,18 +155,12 @@ QSizeF symbolExtent(std::string const & name, int unit)
 std::vector<FeatureShape> featureShapes(std::string const & job, std::string const & step,
                                         std::string const & layer)
 {
-    std::map<std::string, int> units;
-    for (KVCAM::Embedded::SymbolUse const & symbol : KVCAM::Embedded::layerSymbols(job, step, layer)) {
-        units.emplace(symbol.name, symbol.unit);
-    }
     auto const features = KVCAM::Embedded::features(job, step, layer);
     auto const drawings = KVCAM::Embedded::featureDrawings(job, step, layer);
     std::vector<FeatureShape> shapes;
     shapes.reserve(features.size());
     for (std::size_t i = 0; i < features.size(); ++i) {
-        feature_info const & feature = features[i];
-        auto const known = units.find(feature.symbol);
-        shapes.push_back(featureShape(feature, drawings[i], known == units.end() ? 0 : known->second));
+        shapes.push_back(featureShape(features[i], drawings[i]));
     }
     return shapes;
 }

@@ -34,10 +34,12 @@ void LayerTable::show(Session const & session, std::size_t step)
                 QString::fromStdString(layer.info.polarity), features ? QString::number(*features) : "?"},
                {0, 5});
         QString const error = isCounted ? layer.errors[step] : tr("not counted, since reading was stopped");
+        QTableWidgetItem & cell = *item(rowCount() - 1, 5);
         if (!error.isEmpty()) {
-            QTableWidgetItem & cell = *item(rowCount() - 1, 5);
             cell.setToolTip(error);
             cell.setForeground(QColor("#b00020"));
+        } else if (!features) {
+            cell.setToolTip(tr("the job holds only the tables of this layer"));
         }
     }
     setCurrentCell(selected, 0);

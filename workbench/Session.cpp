@@ -66,8 +66,9 @@ void Session::countFeatures(Layer & layer) const
     for (Step const & step : m_steps) {
         auto const features = KVCAM::Embedded::features(m_job, step.name, layer.info.name);
         QStringList errors{readingError()};
-        layer.features.push_back(errors.first().isEmpty() ? std::optional(static_cast<int>(features.size()))
-                                                          : std::nullopt);
+        bool const isKnown =
+            errors.first().isEmpty() && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
+        layer.features.push_back(isKnown ? std::optional(static_cast<int>(features.size())) : std::nullopt);
         KVCAM::Embedded::tools(m_job, step.name, layer.info.name);
         errors.append(readingError());
         errors.removeAll(QString());
