@@ -4,6 +4,7 @@
 #include "Session.h"
 #include "SettingsPage.h"
 #include "TemplatesPage.h"
+#include "TestFiles.h"
 
 #include <UIAPICommon.h>
 
@@ -25,14 +26,6 @@ using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
 namespace {
-
-void writeFile(QString const & path, QByteArray const & content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 // A file of templates; the prefix of the drill layer tells them apart.
 QByteArray templates(QStringList const & names)

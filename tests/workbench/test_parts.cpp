@@ -4,6 +4,7 @@
 #include "Session.h"
 #include "SettingsPage.h"
 #include "TemplatesPage.h"
+#include "TestFiles.h"
 
 #include <UIAPICommon.h>
 
@@ -27,14 +28,6 @@ using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
 namespace {
-
-void writeFile(QString const & path, QByteArray const & content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 QJsonObject readFile(QString const & path)
 {
