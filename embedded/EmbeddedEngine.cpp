@@ -2,6 +2,7 @@
 
 #include "EngineState.h"
 #include "JobPaths.h"
+#include "LineReader.h"
 
 #include <algorithm>
 #include <map>
@@ -198,7 +199,11 @@ std::vector<SymbolUse> jobSymbols(std::string const & job)
         std::vector<SymbolUse> uses;
         for (Step const & step : owner.steps()) {
             for (API::layer_info const & layer : owner.matrix().layers) {
-                addSymbols(owner.graphics(step.name, layer.name), uses);
+                try {
+                    addSymbols(owner.graphics(step.name, layer.name), uses);
+                } catch (JobError const & error) {
+                    state.lastError = state.lastError.empty() ? error.what() : state.lastError;
+                }
             }
         }
         std::sort(uses.begin(), uses.end(), [](SymbolUse const & a, SymbolUse const & b) {

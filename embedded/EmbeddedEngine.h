@@ -113,7 +113,8 @@ struct SymbolUse
 /// The distinct symbol names of a layer in order of first definition, used or not.
 KVCAM_API_EXPORT std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const & step,
                                                      std::string const & layer);
-/// The distinct symbol names of all steps and layers of a job, sorted by name and unit.
+/// The distinct symbol names of all steps and layers of a job, sorted by name and unit. A layer that cannot
+/// be read is left out; lastError() then says why the first one could not.
 KVCAM_API_EXPORT std::vector<SymbolUse> jobSymbols(std::string const & job);
 
 /// One tool of a drill or rout layer; sizes in micrometres.

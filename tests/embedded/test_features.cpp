@@ -159,6 +159,12 @@ TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
     EXPECT_EQ(shown(Embedded::layerSymbols("board", "pcb", "top")),
               (Texts{"r10 0 2", "rect4x5 1 1", "r3 0 0"}));
     EXPECT_EQ(shown(Embedded::jobSymbols("board")), (Texts{"r10 0 2", "r10 1 0", "r3 0 0", "rect4x5 1 1"}));
+    // A layer that cannot be read takes no other with it.
+    write("jobs/board/steps/pcb/layers/bottom/features", "$0 r1\nX\n");
+    ASSERT_TRUE(open());
+    EXPECT_EQ(shown(Embedded::jobSymbols("board")), (Texts{"r10 0 2", "r3 0 0", "rect4x5 1 1"}));
+    EXPECT_TRUE(Embedded::lastError().find("bottom/features:2: ") != std::string::npos)
+        << Embedded::lastError();
     ASSERT_TRUE(Embedded::deleteFeatures("board", "pcb", "top", {0}));
     EXPECT_EQ(shown(Embedded::layerSymbols("board", "pcb", "top")),
               (Texts{"r10 0 1", "rect4x5 1 1", "r3 0 0"}));
