@@ -1,3 +1,4 @@
+#include "CheckReply.h"
 #include "EngineState.h"
 #include "JobPaths.h"
 #include "StandardSymbol.h"
@@ -15,23 +16,6 @@ using Embedded::answered;
 using Embedded::EngineState;
 using Embedded::Job;
 using Embedded::lowerCase;
-
-template <class Item, class Info>
-void check_reply<Item, Info>::add(Item item, int level, Info info)
-{
-    if (level >= 0 && level < 3) {
-        m_lists[item][static_cast<std::size_t>(level)].push_back(std::move(info));
-    }
-}
-
-template <class Item, class Info>
-std::vector<Info> const & check_reply<Item, Info>::list(Item item, int level) const
-{
-    static std::vector<Info> const none;
-    auto const found = m_lists.find(item);
-    return found == m_lists.end() || level < 0 || level >= 3 ? none
-                                                             : found->second[static_cast<std::size_t>(level)];
-}
 
 template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
 

@@ -64,7 +64,7 @@ void BoardView::showLayer(layer_info const & layer)
     m_layer = layer.name;
     m_colour = layerColour(layer);
     m_features = KVCAM::Embedded::features(m_job, m_step, m_layer);
-    m_shapes = featureShapes(m_job, m_step, m_layer);
+    m_shapes = featureShapes(m_features, KVCAM::Embedded::featureDrawings(m_job, m_step, m_layer));
     m_extent = m_profile.boundingRect();
     if (m_extent.isEmpty()) { // a step without a profile is shown as large as its features
         for (FeatureShape const & shape : m_shapes) {

@@ -28,6 +28,8 @@ public:
     /// Marks a feature of the shown layer; -1 marks none.
     void markFeature(int feature);
     std::vector<KVCAM::API::feature_info> const & features() const { return m_features; }
+    /// Their pictures, in the same order.
+    std::vector<FeatureShape> const & shapes() const { return m_shapes; }
     std::string const & layer() const { return m_layer; }
 
     /// A position in micrometres as text in the view's unit: "x 0.100 y 0.250 inch".

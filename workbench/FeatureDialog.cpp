@@ -126,9 +126,9 @@ void FeatureDialog::fillFromPad()
         return;
     }
     // One layer may use the same name in both units, so the feature itself is asked.
-    auto const drawings = KVCAM::Embedded::featureDrawings(m_job, m_view.step(), m_view.layer());
     auto const position = static_cast<std::size_t>(pad - features.begin());
-    int const unit = position < drawings.size() ? drawings[position].unit : 0;
+    auto const & shapes = m_view.shapes();
+    int const unit = position < shapes.size() ? shapes[position].unit : 0;
     m_symbol = {QString::fromStdString(pad->symbol), unit};
     m_polarity->setCurrentIndex(pad->positive ? 0 : 1);
 }

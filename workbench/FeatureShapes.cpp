@@ -106,6 +106,7 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     auto const & points = feature.points;
     FeatureShape shape;
     shape.feature = feature.index;
+    shape.unit = drawing.unit;
     shape.positive = feature.positive;
     shape.filled = feature.kind == 'S' || (feature.kind == 'P' && !size.isEmpty());
     shape.penWidth = shape.filled ? 0 : std::min(size.width(), size.height());
@@ -152,14 +153,12 @@ QSizeF symbolExtent(std::string const & name, int unit)
     }
 }
 
-std::vector<FeatureShape> featureShapes(std::string const & job, std::string const & step,
-                                        std::string const & layer)
+std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
+                                        std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings)
 {
-    auto const features = KVCAM::Embedded::features(job, step, layer);
-    auto const drawings = KVCAM::Embedded::featureDrawings(job, step, layer);
     std::vector<FeatureShape> shapes;
     shapes.reserve(features.size());
-    for (std::size_t i = 0; i < features.size(); ++i) {
+    for (std::size_t i = 0; i < features.size() && i < drawings.size(); ++i) {
         shapes.push_back(featureShape(features[i], drawings[i]));
     }
     return shapes;

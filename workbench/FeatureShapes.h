@@ -5,7 +5,6 @@
 #include <QPainterPath>
 #include <QSizeF>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -18,6 +17,7 @@ struct FeatureShape
     bool positive = true;
     bool filled = true;  ///< else the path is a stroke
     double penWidth = 0; ///< of a stroke
+    int unit = 0;        ///< what the sizes in the feature's symbol name are in: 0 mil, 1 micrometre
     QPainterPath path;
 };
 
@@ -27,8 +27,9 @@ QSizeF symbolExtent(std::string const & name, int unit);
 
 /// A simple picture of a layer: pads as ellipses, rectangles or crosses, lines and arcs as round strokes,
 /// surfaces as filled contours. It is meant for finding one's way, not for judging a board: a pad shows the
-/// outer shape of its symbol's family, and a user-defined symbol is a cross.
-std::vector<FeatureShape> featureShapes(std::string const & job, std::string const & step,
-                                        std::string const & layer);
+/// outer shape of its symbol's family, and a user-defined symbol is a cross. One shape for each feature, in
+/// order; `drawings` has an entry for each as well.
+std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
+                                        std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings);
 
 } // namespace Workbench

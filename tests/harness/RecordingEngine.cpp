@@ -1,5 +1,7 @@
 #include "harness/RecordingEngine.h"
 
+#include "CheckReply.h"
+
 #include <KVCAM_API.h>
 
 #include <sstream>
@@ -94,23 +96,6 @@ using KVCAM::Testing::list;
 using KVCAM::Testing::show;
 
 namespace KVCAM::API {
-
-template <class Item, class Info>
-void check_reply<Item, Info>::add(Item item, int level, Info info)
-{
-    if (level >= 0 && level < 3) {
-        m_lists[item][static_cast<std::size_t>(level)].push_back(std::move(info));
-    }
-}
-
-template <class Item, class Info>
-std::vector<Info> const & check_reply<Item, Info>::list(Item item, int level) const
-{
-    static std::vector<Info> const none;
-    auto const found = m_lists.find(item);
-    return found == m_lists.end() || level < 0 || level >= 3 ? none
-                                                             : found->second[static_cast<std::size_t>(level)];
-}
 
 template class check_reply<drill_check_item, check_info>;
 

@@ -192,6 +192,15 @@ TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
     EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
+TEST_F(LineEditExtras, ASymbolIsJudgedInTheUnitItWasTypedIn)
+{
+    KVLineEdit & edit = field(RegSymbolName);
+    type(edit, "r3");
+    edit.setRange(1, 3);
+    show(edit, 1);
+    EXPECT_TRUE(edit.property("uiapiValid").toBool()) << "3 mil, whatever the text shown";
+}
+
 TEST_F(LineEditExtras, RefusedKeyIsExplainedInTheLanguage)
 {
     for (bool chinese : {false, true}) {

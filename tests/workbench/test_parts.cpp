@@ -168,7 +168,8 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
                                                     "P 0 0 2 P 0 0\nP 0 0 3 P 0 0\n");
     Session session;
     ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
-    auto const shapes = featureShapes("tiny", "pcb", "top");
+    auto const shapes = featureShapes(KVCAM::Embedded::features("tiny", "pcb", "top"),
+                                      KVCAM::Embedded::featureDrawings("tiny", "pcb", "top"));
     QRectF const boxes[] = {
         {-1000, -500, 2000, 1000},                            // as it stands
         {-500, -1000, 1000, 2000},                            // a quarter turn
