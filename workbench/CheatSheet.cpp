@@ -124,7 +124,7 @@ void CheatSheet::showFile()
                {finding.element < 0 ? QString() : QString::number(finding.element + 1), finding.text});
     }
     m_findings->resizeRowsToContents();
-    m_file->setText(trial.loads ? tr("%1 binds %2 keys. Findings: %3.")
+    m_file->setText(trial.loads ? tr("%1 holds %2 bindings. Findings: %3.")
                                       .arg(path)
                                       .arg(trial.bindings.size())
                                       .arg(trial.findings.size())

@@ -139,6 +139,9 @@ void MainWindow::makeToolBar()
     QAction * feature = bar->addAction(tr("Feature"));
     feature->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
     connect(feature, &QAction::triggered, this, &MainWindow::openFirstPad);
+    QAction * keys = bar->addAction(tr("Keys"), this, &MainWindow::showKeys);
+    keys->setShortcut(Qt::Key_F1);
+    keys->setToolTip(tr("Shows the hot keys and judges your own file of them (F1)"));
     auto * language = new QComboBox;
     language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
     language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
@@ -163,9 +166,6 @@ void MainWindow::addPages()
 
 void MainWindow::addHotkeys()
 {
-    auto * keys = findChild<QToolBar *>()->addAction(tr("Keys"), this, &MainWindow::showKeys);
-    keys->setShortcut(Qt::Key_F1);
-    keys->setToolTip(tr("Shows the hot keys and judges your own file of them"));
     auto * told = new QLabel;
     told->setObjectName("hot keys");
     told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window

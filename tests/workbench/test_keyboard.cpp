@@ -224,7 +224,7 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
         }
     }
     EXPECT_EQ(bindings.rowCount(), 2);
-    EXPECT_TRUE(file.text().endsWith("binds 2 keys. Findings: 42."));
+    EXPECT_TRUE(file.text().endsWith("holds 2 bindings. Findings: 42."));
     EXPECT_EQ(rowOf(findings, 0)[0], "2");
     EXPECT_EQ(rowOf(findings, 1),
               (QStringList{"3", "\"func_name\" is \"KP_Profil\", which is no function."}));
