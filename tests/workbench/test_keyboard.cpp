@@ -146,6 +146,7 @@ TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
     auto * layers = window->findChild<LayerTable *>();
     layers->setFocus();
     int const row = layers->currentRow();
+    layers->setCurrentCell(row, 1); // the names
     EXPECT_EQ(press("S"), snaps); // no search for a layer that begins with an s
     EXPECT_EQ(press("G"), "Snap: grid");
     EXPECT_EQ(layers->currentRow(), row);
@@ -201,6 +202,9 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
     auto * sheet = window->findChild<CheatSheet *>();
     ASSERT_NE(sheet, nullptr);
     EXPECT_TRUE(sheet->isVisible());
+    std::string const before = state();
+    QTest::keyClick(sheet, Qt::Key_U, Qt::ShiftModifier);
+    EXPECT_EQ(state(), before) << "another window's key";
     auto const & bindings = *sheet->findChild<QTableWidget *>("bindings");
     auto const & findings = *sheet->findChild<QTableWidget *>("findings");
     auto const & file = *sheet->findChild<QLabel *>("file");
