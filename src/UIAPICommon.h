@@ -4,6 +4,7 @@
 
 #include "UIAPICommonVersion.h"
 
+#include "config/AutoMatrixFile.h"
 #include "config/AutoMatrixTmp.h"
 #include "config/Diagnostics.h"
 #include "config/UIAPIGlobalVar.h"
