@@ -5,6 +5,10 @@
 #include "UIAPICommonVersion.h"
 
 #include "config/AutoMatrixFile.h"
+#include "analysis/AnalysisRecords.h"
+#include "analysis/AnalysisReport.h"
+#include "analysis/Grade.h"
+#include "analysis/Unified_AnalysisResult.h"
 #include "config/AutoMatrixTmp.h"
 #include "config/Diagnostics.h"
 #include "config/UIAPIGlobalVar.h"
@@ -19,6 +23,7 @@
 #include "uiapi/flat/Forms.h"
 #include "uiapi/flat/GlobalConfig.h"
 #include "uiapi/flat/ModifierKeys.h"
+#include "uiapi/flat/Ranges.h"
 #include "uiapi/flat/Selections.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "uiapi/flat/Snap.h"

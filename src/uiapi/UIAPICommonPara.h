@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UIAPICommonExport.h"
+#include "analysis/AnalysisRecords.h"
 #include "uiapi/ViewRecords.h"
 
 #include <QJsonObject>
@@ -14,6 +15,11 @@
 
 class QObject;
 class QWidget;
+
+namespace KVCAM::UIAPI::Ext {
+struct SaveResult;
+UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
+} // namespace KVCAM::UIAPI::Ext
 
 namespace KVCAM::UIAPI {
 
@@ -195,7 +201,19 @@ public:
     /// Puts the members of `json` back into the controls of their names.
     void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
+    // --- Ranges -------------------------------------------------------------------------------------------
+    // See the flat functions of the same names.
+
+    void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const;
+    int getRangesEnum(std::string const & tableName, std::string const & categoryName) const;
+    std::string getRangesName(std::string const & tableName, int number) const;
+    void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
+                           std::string const & levelName, double value);
+    void getERFList(std::string folder, std::vector<std::string> & names) const;
+
 private:
+    friend Ext::SaveResult Ext::saveRanges(std::string const & rangeName);
+
     UIAPICommonPara();
     ~UIAPICommonPara();
 

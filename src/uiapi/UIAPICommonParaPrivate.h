@@ -1,5 +1,7 @@
 #pragma once
 
+#include "analysis/CategoryDictionary.h"
+#include "analysis/RangeStore.h"
 #include "config/BuiltInAttributes.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
@@ -19,6 +21,8 @@ struct UIAPICommonPara::Private
     QWidget * split = nullptr; // not owned
     LayerState layerState;
     BuiltInAttributes builtInAttributes;
+    RangeStore ranges;
+    CategoryDictionary categories;
 };
 
 } // namespace KVCAM::UIAPI
