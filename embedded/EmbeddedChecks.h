@@ -18,15 +18,15 @@
 /// everything lies inside. A line or arc that runs along the profile, nearer than half its width, is the
 /// outline and no track. Step and repeat is not expanded.
 ///
-/// | table, number | records | type | points, in micrometres rounded to the nearest |
-/// |---|---|---|---|
-/// | signal 46, lines | each line and arc of a copper layer | 1 | both ends, width |
-/// | signal 45, pads | each pad of a copper layer | 5 | place, its narrower and its wider side |
-/// | signal 12, SMD to SMD | each SMD pad (`.smd`) and the one nearest to it | 2 | the nearest points,
-/// spacing | | signal 33, 31, 36, annular rings | via, plated, non-plated: each hole on each copper layer
-/// that it goes through | 3 | hole, its diameter, pad, its narrower side, ring, offset of the centres | |
-/// drill 0, 1, 2, summaries | each plated, each non-plated hole, each via | 5 | place, diameter twice | |
-/// unified item 10, slots | each slot of a drill or rout layer | 1 | both ends of the middle line, width |
+/// The records, by table and number, their type and their `points` (micrometres, rounded to the nearest):
+/// - signal 46, lines: each line and arc of a copper layer; 1: both ends, width
+/// - signal 45, pads: each pad of a copper layer; 5: place, its narrower and its wider side
+/// - signal 12, SMD to SMD: each pad with `.smd` and the one nearest to it; 2: the nearest points, spacing
+/// - signal 33, 31, 36, annular rings of vias, plated and non-plated holes: each hole on each copper layer
+/// that
+///   it goes through; 3: hole, its diameter, pad, its narrower side, ring, offset of the centres
+/// - drill 0, 1, 2, summaries: each plated, each non-plated hole, each via; 5: place, diameter twice
+/// - unified item 10, slots: each slot of a drill or rout layer; 1: both ends of its middle line, width
 ///
 /// `value` is the width, smaller side, spacing, ring or diameter in mil, rounded down, never below 0; a size
 /// that is a whole number of mil but for rounding errors of a millionth counts as whole. Everything
