@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/BuiltInAttributes.h"
+#include "layers/LayerBookkeeping.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
 
@@ -19,6 +20,7 @@ struct UIAPICommonPara::Private
     QWidget * split = nullptr; // not owned
     LayerState layerState;
     BuiltInAttributes builtInAttributes;
+    LayerBookkeeping layers;
 };
 
 } // namespace KVCAM::UIAPI
