@@ -3,6 +3,7 @@
 #include "analysis/CategoryDictionary.h"
 #include "analysis/RangeStore.h"
 #include "config/BuiltInAttributes.h"
+#include "layers/LayerBookkeeping.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
 
@@ -23,6 +24,7 @@ struct UIAPICommonPara::Private
     BuiltInAttributes builtInAttributes;
     RangeStore ranges;
     CategoryDictionary categories;
+    LayerBookkeeping layers;
 };
 
 } // namespace KVCAM::UIAPI

@@ -120,7 +120,7 @@ std::string get_matrix(std::string const & job, std::vector<std::string> & steps
     engine().called("API", "get_matrix", job);
     steps = engine().steps;
     layers = engine().layers;
-    return {};
+    return engine().matrixError;
 }
 
 bool open_job(std::string const & path, std::string const & job)

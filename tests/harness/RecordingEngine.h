@@ -46,6 +46,7 @@ public:
     std::map<std::string, std::vector<std::string>> specialSymbols;
     std::vector<std::string> steps;
     std::vector<API::layer_info> layers;
+    std::string matrixError;
     int correctUndoFailures = 0; ///< so many times CorrectUndo answers false first
     int operations = 0;
     std::string root;

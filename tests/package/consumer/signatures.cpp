@@ -144,6 +144,36 @@ void const * const functions[] = {
     keep<void(std::string, std::vector<std::string> &)>(&getChildAttribute),
     keep<std::vector<std::string>()>(&getCamMateNodes),
     keep<void(QList<QString>, QString, QList<QString> &)>(&find_input_items),
+    keep<std::vector<std::string>(QString const &, QString const &)>(&getAnalyzeAndDFMLayers),
+    keep<void(std::string const &, std::string const &, std::vector<ReferenceLayerInfo> const &)>(
+        &setReferenceLayerInfo),
+    keep<std::vector<ReferenceLayerInfo>(std::string const &, std::string const &)>(&getReferenceLayerInfo),
+    keep<void(std::string const &)>(&resetReferenceLayerInfo),
+    keep<void(std::string const &, std::string const &, std::string const &)>(&renameReferenceJob),
+    keep<void(std::string const &, std::string const &, std::string const &, std::string const &)>(
+        &renameReferenceStep),
+    keep<void(std::string const &, std::string const &, std::string const &, std::string const &,
+              std::string const &)>(&renameReferenceLayer),
+    keep<void(std::string const &, std::string const &, std::string const &)>(&deleteReferenceJob),
+    keep<void(std::string const &, std::string const &, std::string const &, std::string const &)>(
+        &deleteReferenceStep),
+    keep<void(std::string const &, std::string const &, std::string const &, std::string const &,
+              std::string const &)>(&deleteReferenceLayer),
+    keep<void(std::string const &, std::string const &)>(&renameCompareJob),
+    keep<void(std::string const &, std::string const &, std::string const &)>(&renameCompareStep),
+    keep<void(std::string const &, std::string const &)>(&deleteCompareStep),
+    keep<std::vector<std::pair<std::string, int>>(std::string const &, std::string const &)>(
+        &getDrawingLayer),
+    keep<void(std::string const &, std::string const &, std::vector<std::pair<std::string, int>> const &)>(
+        &setDrawingLayer),
+    keep<void(std::string const &)>(&resetDrawingLayer),
+    keep<bool(QString const &, QString const &)>(&saveTextByIODevice),
+    keep<bool(QString const &)>(&checkDir),
+    keep<bool(std::string const &, bool)>(&delDir),
+    keep<bool(QString const &, QString const &, bool)>(&copyDirectoryFile),
+    keep<bool(std::string const &)>(&deletGeneJob),
+    keep<QString(qint64)>(&formatTime),
+    keep<void(QString const &, QString const &, QWidget *)>(&undo),
     keep<void(QList<QObject *>, QJsonObject &)>(&readListToJson),
     keep<void(QJsonObject, QList<QObject *> &)>(&writeJsonToList),
 };
