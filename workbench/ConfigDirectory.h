@@ -6,7 +6,8 @@
 namespace Workbench {
 
 /// Makes the process start from a configuration directory: it becomes the host's, and the folder it lies in
-/// the current directory, since the user's templates are kept beside it. With an empty path a copy of the
+/// the current directory, since the user's templates are kept beside it; the hot keys are looked for in its
+/// folder "config", which the directory should therefore be called. With an empty path a copy of the
 /// samples below `output` is used, made on first use and kept, so that changes survive and the samples stay
 /// as they are. The result is one line that says what is wrong, empty on success. Call it before the
 /// library's first function.

@@ -1,6 +1,7 @@
 #include "Headless.h"
 
 #include "BoardView.h"
+#include "CheatSheet.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
 #include "MainWindow.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPixmap>
 
 namespace Workbench {
@@ -48,7 +50,7 @@ private:
     QJsonArray m_errors;
 };
 
-void press(QLineEdit & field, int key, QString const & text = {})
+void press(QWidget & field, int key, QString const & text = {})
 {
     for (auto const kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(kind, key, Qt::NoModifier, text);
@@ -118,6 +120,33 @@ QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Bo
     }
     setUnit(view.handle(), unit);
     facts["outline"] = sizes;
+    return facts;
+}
+
+// Presses the keys of a sequence, and shows the hot keys.
+QJsonObject useHotkeys(MainWindow & window, Camera & camera)
+{
+    auto const & told = *window.findChild<QLabel *>("hot keys");
+    BoardView & view = *window.currentView();
+    SNAP_TYPE_MODE const mode = getSnapType(view.handle());
+    view.setFocus();
+    press(view, Qt::Key_S);
+    QJsonObject facts{{"pending", told.text()}};
+    camera.take(window, "hot-key-pending.png");
+    press(view, Qt::Key_G);
+    facts["done"] = told.text();
+    facts["snap"] = static_cast<int>(getSnapType(view.handle()));
+    setSnapType(view.handle(), mode);
+    CheatSheet & sheet = *window.showKeys();
+    camera.take(sheet, "hot-keys.png");
+    sheet.showOwnFile();
+    camera.take(sheet, "hot-keys-file.png");
+    sheet.close();
+    QJsonArray findings;
+    for (Ext::HotkeyFinding const & finding : Ext::tryLoadHotkeys(Ext::hotkeyFile).findings) {
+        findings.append(finding.text);
+    }
+    facts["findings"] = findings;
     return facts;
 }
 
@@ -218,6 +247,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
         camera.take(window, page + ".png");
     }
     window.showPage("board");
+    QJsonObject const hotkeys = useHotkeys(window, camera);
     QJsonObject const feature = useFeatureDialog(window, session, camera);
     Ext::setMessagePresenter({});
     return {{"job", QString::fromStdString(session.job())},
@@ -225,6 +255,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"steps", steps},
             {"layers", layersOf(session)},
             {"symbols", toJson(symbolRows(session.job()))},
+            {"hot keys", hotkeys},
             {"feature", feature},
             {"configuration", configuration()},
             {"boxes", boxes},

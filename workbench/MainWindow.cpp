@@ -2,8 +2,10 @@
 
 #include "AttributesPage.h"
 #include "BoardView.h"
+#include "CheatSheet.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
+#include "HotkeyCommands.h"
 #include "LayerTable.h"
 #include "LogPane.h"
 #include "SettingsPage.h"
@@ -62,6 +64,7 @@ MainWindow::MainWindow(Session const & session, LogLines const & log, CommandLin
     connect(m_steps, &QTabWidget::currentChanged, this, &MainWindow::showStep);
     connect(m_layers, &LayerTable::layerSelected, this, &MainWindow::showLayer);
     showStep();
+    addHotkeys();
 }
 
 BoardView * MainWindow::currentView() const
@@ -156,6 +159,35 @@ void MainWindow::addPages()
     addPage(new SettingsPage, "settings", tr("Settings"));
     addPage(new TemplatesPage, "templates", tr("Templates"));
     addPage(new AttributesPage, "attributes", tr("Attributes"));
+}
+
+void MainWindow::addHotkeys()
+{
+    auto * keys = findChild<QToolBar *>()->addAction(tr("Keys"), this, &MainWindow::showKeys);
+    keys->setShortcut(Qt::Key_F1);
+    keys->setToolTip(tr("Shows the hot keys and judges your own file of them"));
+    auto * told = new QLabel;
+    told->setObjectName("hot keys");
+    told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
+    statusBar()->insertWidget(0, told, 3);
+    auto * commands = new HotkeyCommands(*this, *m_pages->widget(0), this);
+    connect(commands, &HotkeyCommands::told, told, &QLabel::setText);
+}
+
+CheatSheet * MainWindow::showKeys()
+{
+    if (m_keys == nullptr) {
+        m_keys = new CheatSheet(this);
+    }
+    m_keys->refresh();
+    m_keys->show();
+    m_keys->raise();
+    return m_keys;
+}
+
+void MainWindow::refresh()
+{
+    showStep();
 }
 
 FeatureDialog * MainWindow::openFeature(int feature)

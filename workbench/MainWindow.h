@@ -17,6 +17,7 @@ class QTabWidget;
 namespace Workbench {
 
 class BoardView;
+class CheatSheet;
 class EnginePane;
 class FeatureDialog;
 class LayerTable;
@@ -42,6 +43,10 @@ public:
     int firstPad() const;
     /// Shows the library's texts in a language.
     void setLanguage(KVCAM::UIAPI::LANGUAGE_MODE language);
+    /// Shows the step in front and its state anew.
+    void refresh();
+    /// Shows the hot keys. Owned by the window.
+    CheatSheet * showKeys();
 
 protected:
     void closeEvent(QCloseEvent * event) override;
@@ -51,6 +56,7 @@ private:
     QWidget * makeBoardPage(LogLines const & log);
     void makeToolBar();
     void addPages();
+    void addHotkeys();
     void addPage(QWidget * page, QString const & name, QString const & title);
     void showStep();
     void showLayer(int layer);
@@ -70,6 +76,7 @@ private:
     EnginePane * m_engine = nullptr;
     SymbolsPage * m_symbols = nullptr;
     FeatureDialog * m_feature = nullptr;
+    CheatSheet * m_keys = nullptr;
     QLabel * m_outline = nullptr;
     QLabel * m_pointer = nullptr;
     QAction * m_unit = nullptr;

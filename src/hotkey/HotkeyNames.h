@@ -1,0 +1,28 @@
+#pragma once
+
+#include "hotkey/FuncCode.h"
+
+#include <QMap>
+#include <QString>
+
+namespace KVCAM::UIAPI {
+
+/// The words of the hot-key file. All are compared exactly.
+struct HotkeyNames
+{
+    QMap<QString, int> keys;
+    QMap<QString, Qt::KeyboardModifier> modifiers;
+    QMap<QString, FuncCode> functions;
+
+    void addKeys();
+    void addModifiers();
+    void addFunctions();
+};
+
+// The way back, as the file is written. Null where there is no such word.
+
+QString nameOfKey(int key);
+QString nameOfModifiers(Qt::KeyboardModifiers modifiers);
+QString nameOfFunction(FuncCode code);
+
+} // namespace KVCAM::UIAPI

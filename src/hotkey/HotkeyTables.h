@@ -1,0 +1,52 @@
+#pragma once
+
+#include "hotkey/FunctionTable.h"
+
+#include <QKeyEvent>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace KVCAM::UIAPI {
+
+/// One binding as plain numbers.
+struct HotkeyEntry
+{
+    FuncCode code = KP_NoFunction;
+    Qt::KeyboardModifiers modifiers; ///< of a single key
+    int key = noKey;                 ///< the key, or the first of a sequence
+    int second = noKey;              ///< the second of a sequence, else noKey
+
+    bool isSequence() const { return second != noKey; }
+};
+
+/// The two tables of bindings. Entries keep the order in which they were added and may be equal; the first of
+/// equal ones answers. Each owns the object that stands for its keys.
+struct HotkeyTables
+{
+    struct Single
+    {
+        std::unique_ptr<QKeyEvent> event;
+        FuncCode code;
+    };
+    struct Sequence
+    {
+        std::unique_ptr<std::pair<int, int>> keys;
+        FuncCode code;
+    };
+    std::vector<Single> singles;
+    std::vector<Sequence> sequences;
+
+    void add(HotkeyEntry const & entry);
+    /// The bindings of the default table.
+    void addDefaults();
+    /// The code of a key with exactly these modifiers, else KP_NoFunction.
+    FuncCode find(int key, Qt::KeyboardModifiers modifiers) const;
+    /// The code of a sequence, else KP_NoFunction.
+    FuncCode find(std::pair<int, int> const & keys) const;
+    /// All bindings, the single keys first.
+    std::vector<HotkeyEntry> entries() const;
+};
+
+} // namespace KVCAM::UIAPI

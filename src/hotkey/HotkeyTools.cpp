@@ -1,0 +1,215 @@
+#include "hotkey/HotkeyTools.h"
+
+#include "hotkey/HotkeyFile.h"
+#include "hotkey/KVHotKeyPrivate.h"
+#include "support/JsonFile.h"
+
+#include <QKeySequence>
+
+#include <bitset>
+#include <map>
+#include <tuple>
+
+namespace KVCAM::UIAPI::Ext {
+namespace {
+
+QString keyText(int key, Qt::KeyboardModifiers modifiers = {})
+{
+    return QKeySequence(key | static_cast<int>(modifiers)).toString(QKeySequence::PortableText);
+}
+
+QString keysText(HotkeyEntry const & entry)
+{
+    return entry.isSequence() ? keyText(entry.key) + QStringLiteral(", ") + keyText(entry.second)
+                              : keyText(entry.key, entry.modifiers);
+}
+
+QString functionText(FuncCode code)
+{
+    QString const name = nameOfFunction(code);
+    return name.isNull() ? QStringLiteral("Function %1").arg(int{code}) : name;
+}
+
+bool canFire(HotkeyEntry const & entry)
+{
+    return entry.isSequence() ? KeyBuffer::isGroup(entry.key, entry.second)
+                              : entry.modifiers != Qt::NoModifier;
+}
+
+/// Goes through bindings in the order in which they are searched and keeps what is odd about them.
+class Judge
+{
+public:
+    HotkeyBinding judge(HotkeyEntry const & entry, int element = -1)
+    {
+        HotkeyBinding binding{entry.code, nameOfFunction(entry.code), keysText(entry), false};
+        QString const function = functionText(entry.code);
+        auto const [first, isNew] =
+            m_bound.try_emplace({entry.key, entry.second, static_cast<int>(entry.modifiers)}, entry.code);
+        if (!isNew) {
+            find(HotkeyFindingKind::SameKeys, element,
+                 QStringLiteral("%1 has %2, which %3 has already: this binding never answers.")
+                     .arg(function, binding.keys, functionText(first->second)));
+        } else if (!canFire(entry)) {
+            find(HotkeyFindingKind::NeverFires, element,
+                 entry.isSequence()
+                     ? QStringLiteral("%1 has %2, and these keys never form a sequence.")
+                           .arg(function, binding.keys)
+                     : QStringLiteral("%1 has %2, and a key without a modifier never answers by itself.")
+                           .arg(function, binding.keys));
+        } else {
+            binding.answers = true;
+            m_reached.set(static_cast<std::size_t>(entry.code));
+        }
+        return binding;
+    }
+
+    void find(HotkeyFindingKind kind, int element, QString const & text)
+    {
+        findings.push_back({kind, element, text});
+    }
+    void findFunctionsWithoutKey()
+    {
+        for (HotkeyFunction const & row : HotkeyFunctions::table) {
+            if (!m_reached.test(static_cast<std::size_t>(row.code))) {
+                find(HotkeyFindingKind::WithoutKey, -1,
+                     row.name != nullptr ? QStringLiteral("%1 has no key.").arg(QLatin1String(row.name))
+                                         : QStringLiteral("Function %1 has no key; a file cannot name it.")
+                                               .arg(int{row.code}));
+            }
+        }
+    }
+
+    std::vector<HotkeyFinding> findings;
+
+private:
+    std::map<std::tuple<int, int, int>, FuncCode> m_bound;
+    std::bitset<std::size(HotkeyFunctions::table) + 1> m_reached;
+};
+
+QString faultText(HotkeyElement const & element)
+{
+    QString const member = QLatin1String(element.member);
+    switch (*element.fault) {
+    case HotkeyFindingKind::UnknownFunction:
+        return QStringLiteral("\"%1\" is \"%2\", which is no function.").arg(member, element.word);
+    case HotkeyFindingKind::UnknownModifier:
+        return QStringLiteral("\"%1\" is \"%2\", which is no modifier.").arg(member, element.word);
+    case HotkeyFindingKind::KeyBesidePair:
+        return QStringLiteral("\"%1\" stands beside a sequence, which is then left out.").arg(member);
+    default:
+        return QStringLiteral("\"%1\" is \"%2\", which is no key.").arg(member, element.word);
+    }
+}
+
+QString unreadableText(JsonFile::ReadResult const & file)
+{
+    switch (file.status) {
+    case JsonFile::ReadStatus::Missing:
+        return QStringLiteral("The file is not there.");
+    case JsonFile::ReadStatus::ParseError:
+        return QStringLiteral("The file is not JSON: %1 at byte %2.")
+            .arg(file.parseError, QString::number(file.errorOffset));
+    default:
+        return QStringLiteral("The file cannot be opened.");
+    }
+}
+
+} // namespace
+
+std::vector<HotkeyBinding> bindings()
+{
+    Judge judge;
+    std::vector<HotkeyBinding> result;
+    for (HotkeyEntry const & entry : HotkeyDoor::read().tables.entries()) {
+        result.push_back(judge.judge(entry));
+    }
+    return result;
+}
+
+std::vector<HotkeyFinding> hotkeyReport()
+{
+    Judge judge;
+    for (HotkeyEntry const & entry : HotkeyDoor::read().tables.entries()) {
+        judge.judge(entry);
+    }
+    judge.findFunctionsWithoutKey();
+    return judge.findings;
+}
+
+HotkeyTrial tryLoadHotkeys(QString const & path)
+{
+    Judge judge;
+    HotkeyTrial trial;
+    JsonFile::ReadResult const file = JsonFile::read(path, QIODevice::Text);
+    trial.loads = file.status == JsonFile::ReadStatus::Ok;
+    if (!trial.loads) {
+        judge.find(HotkeyFindingKind::Unreadable, -1, unreadableText(file));
+        trial.findings = judge.findings;
+        return trial;
+    }
+    QJsonArray const array = file.document.array();
+    for (int i = 0; i < array.size(); ++i) {
+        HotkeyElement const element = readElement(array.at(i), HotkeyDoor::read().names);
+        if (element.fault) {
+            judge.find(*element.fault, i, faultText(element));
+        } else {
+            trial.bindings.push_back(judge.judge(element.entry, i));
+        }
+    }
+    if (!file.document.isArray()) {
+        judge.find(HotkeyFindingKind::NotAnArray, -1, QStringLiteral("The top level is not an array."));
+    }
+    judge.findFunctionsWithoutKey();
+    trial.findings = judge.findings;
+    return trial;
+}
+
+HotkeyExport exportHotkeys(QString const & path)
+{
+    HotkeyExport result;
+    QJsonArray array;
+    Judge judge;
+    for (HotkeyEntry const & entry : HotkeyDoor::read().tables.entries()) {
+        HotkeyBinding const binding = judge.judge(entry);
+        QJsonValue const element = writeElement(entry);
+        if (element.isNull()) {
+            result.leftOut.push_back(binding);
+        } else {
+            array.append(element);
+        }
+    }
+    switch (JsonFile::replace(path, QJsonDocument(array).toJson())) {
+    case JsonFile::WriteStatus::Ok:
+        break;
+    case JsonFile::WriteStatus::OpenFailed:
+        result.error = QStringLiteral("The file cannot be opened for writing.");
+        break;
+    case JsonFile::WriteStatus::CommitFailed:
+        result.error = QStringLiteral("The file cannot be written.");
+        break;
+    }
+    return result;
+}
+
+QString pendingKey()
+{
+    int const key = HotkeyDoor::read().buffer.pending();
+    return key == noKey ? QString() : keyText(key);
+}
+
+std::vector<HotkeyContinuation> continuations()
+{
+    auto const & state = HotkeyDoor::read();
+    Judge judge;
+    std::vector<HotkeyContinuation> result;
+    for (HotkeyEntry const & entry : state.tables.entries()) {
+        bool const answers = judge.judge(entry).answers;
+        if (answers && entry.isSequence() && entry.key == state.buffer.pending()) {
+            result.push_back({keyText(entry.second), entry.code, nameOfFunction(entry.code)});
+        }
+    }
+    return result;
+}
+
+} // namespace KVCAM::UIAPI::Ext

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "hotkey/HotkeyNames.h"
+#include "hotkey/HotkeyTables.h"
+#include "hotkey/KVHotKey.h"
+#include "hotkey/KeyBuffer.h"
+
+namespace KVCAM {
+
+struct KVHotKey::Private
+{
+    UIAPI::HotkeyNames names;
+    UIAPI::HotkeyTables tables;
+    UIAPI::KeyBuffer buffer;
+};
+
+/// Through which the tools look at the object's state.
+struct UIAPI::HotkeyDoor
+{
+    static KVHotKey::Private const & read() { return *KVHotKey::getInstance()->d; }
+};
+
+} // namespace KVCAM

@@ -1,0 +1,237 @@
+#include "BoardView.h"
+#include "CheatSheet.h"
+#include "CommandLine.h"
+#include "HotkeyCommands.h"
+#include "LayerTable.h"
+#include "LogPane.h"
+#include "MainWindow.h"
+#include "Session.h"
+#include "TestFiles.h"
+
+#include <UIAPICommon.h>
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QWindow>
+
+#include <memory>
+
+using namespace KVCAM;
+using namespace KVCAM::UIAPI;
+using namespace Workbench;
+
+namespace {
+
+// A window on the sample job, and keys that reach it as those of a keyboard do.
+class Keyboard : public ::testing::Test
+{
+protected:
+    void open()
+    {
+        ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
+        CommandLine commandLine;
+        commandLine.output = ".";
+        window = std::make_unique<MainWindow>(session, log, commandLine);
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    void const * view() const { return window->currentView()->handle(); }
+    QString told() const { return window->findChild<QLabel *>("hot keys")->text(); }
+    /// Presses keys that blanks part, "S G Shift+U"; what the window tells in the end is the result.
+    QString press(QString const & keys)
+    {
+        for (QString const & key : keys.split(' ')) {
+            int const number = QKeySequence(key)[0];
+            int const mask = static_cast<int>(Qt::KeyboardModifierMask);
+            QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(number & ~mask),
+                            Qt::KeyboardModifiers(number & mask));
+        }
+        return told();
+    }
+    /// What the keys of the view can change.
+    std::string state() const
+    {
+        return "unit " + std::to_string(getUnit(view())) + " width " + std::to_string(getWidth(view())) +
+               (getNegative(view()) ? " negative" : "") + (getProfile(view()) ? " profile" : "") + " snap " +
+               std::to_string(getSnapType(view()));
+    }
+
+    Session session;
+    LogLines log;
+    std::unique_ptr<MainWindow> window;
+};
+
+char const * const snaps = "S ... S skeleton, O off, G grid, C centre, R arc, E edge, I intersection, "
+                           "M midpoint, P profile, A advanced, N Highlight";
+
+TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
+{
+    open();
+    QString const pending = snaps;
+    QString const next = "   |   " + pending;
+    struct
+    {
+        char const * keys;
+        QString told;
+        char const * state;
+    } const rows[] = {
+        {"Shift+U", "Unit: MM", "unit 1 width 0 profile snap 7"},
+        {"Ctrl+N", "Negative: on", "unit 1 width 0 negative profile snap 7"},
+        {"Ctrl+T", "Profile: off", "unit 1 width 0 negative snap 7"},
+        {"Ctrl+W", "Width mode: on", "unit 1 width 1 negative snap 7"},
+        {"S", pending, "unit 1 width 1 negative snap 7"},
+        {"G", "Snap: grid", "unit 1 width 1 negative snap 1"},
+        {"Q", "", "unit 1 width 1 negative snap 1"},
+        {"S S", "Snap: skeleton" + next, "unit 1 width 1 negative snap 3"},
+        {"O", "Snap: off", "unit 1 width 1 negative snap 0"},
+        {"S C", "Snap: centre", "unit 1 width 1 negative snap 2"},
+        {"S R", "Snap: arc", "unit 1 width 1 negative snap 8"},
+        {"S E", "Snap: edge", "unit 1 width 1 negative snap 4"},
+        {"S I", "Snap: intersection", "unit 1 width 1 negative snap 5"},
+        {"S M", "Snap: midpoint", "unit 1 width 1 negative snap 6"},
+        {"S P", "Snap: profile", "unit 1 width 1 negative snap 9"},
+        {"S A", "Snap: advanced", "unit 1 width 1 negative snap 7"},
+        {"S Shift+U G", "", "unit 0 width 1 negative snap 7"}, // a modifier ends the sequence
+        {"Ctrl+W Ctrl+T Ctrl+N", "Negative: off", "unit 0 width 0 profile snap 7"},
+        {"Ctrl+F", "Refresh", "unit 0 width 0 profile snap 7"},
+        {"Ctrl+X", "Move within the layer: not available in this host", "unit 0 width 0 profile snap 7"},
+        {"Ctrl+B", "The function without a name: not available in this host",
+         "unit 0 width 0 profile snap 7"},
+    };
+    for (auto const & row : rows) {
+        EXPECT_EQ(press(row.keys), row.told) << row.keys;
+        EXPECT_EQ(state(), row.state) << row.keys;
+    }
+    for (int code = KP_AllSelect; code <= KK_Hightlight; ++code) {
+        EXPECT_FALSE(HotkeyCommands::text(static_cast<FuncCode>(code)).isEmpty()) << code;
+    }
+}
+
+TEST_F(Keyboard, MeasuringTakesTwoPressesAndTheUnitOfTheView)
+{
+    open();
+    coordinate & pointer = *getCoordinate(view());
+    pointer = {25400, 0};
+    EXPECT_EQ(press("Shift+V"), "Measure: from x 1.000 y 0.000 inch; once more at the other end");
+    pointer = {25400 + 3 * 25400, -4 * 25400};
+    EXPECT_EQ(press("Shift+V"), "Measure: 5.000 inch (3.000 x 4.000 inch)");
+    EXPECT_TRUE(press("Shift+V").startsWith("Measure: from"));
+}
+
+TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
+{
+    open();
+    std::string const before = state();
+    auto * board = window->findChild<QWidget *>("board");
+    QLineEdit field(board);
+    field.show();
+    field.setFocus();
+    for (char const letter : {'s', 'g'}) {
+        QTest::keyClick(window->windowHandle(), letter);
+    }
+    press("Shift+U Ctrl+A");
+    EXPECT_EQ(field.text().toLower(), "sgu");
+    EXPECT_EQ(field.selectedText(), field.text());
+    EXPECT_EQ(state(), before);
+
+    auto * layers = window->findChild<LayerTable *>();
+    layers->setFocus();
+    int const row = layers->currentRow();
+    EXPECT_EQ(press("S"), snaps); // no search for a layer that begins with an s
+    EXPECT_EQ(press("G"), "Snap: grid");
+    EXPECT_EQ(layers->currentRow(), row);
+    press("Down"); // what is no hot key is the table's
+    EXPECT_EQ(layers->currentRow(), row + 1);
+
+    std::string const after = state();
+    window->showPage("attributes");
+    press("Shift+U S O");
+    EXPECT_EQ(state(), after) << "the board is not in front";
+}
+
+TEST_F(Keyboard, EveryCommandOfTheHostHasAKeyUnderTheDefaultsAndTheSample)
+{
+    for (bool const isSample : {false, true}) {
+        if (isSample) {
+            QDir().mkdir("config");
+            ASSERT_TRUE(QFile::copy(UIAPI_SOURCE_DIR "/samples/config/keyboard.json", Ext::hotkeyFile));
+            KVHotKey::getInstance()->uploadHotkeyModel();
+            Ext::HotkeyTrial const trial = Ext::tryLoadHotkeys(Ext::hotkeyFile);
+            ASSERT_EQ(trial.findings.size(), 1U);
+            EXPECT_EQ(trial.findings[0].text, "Function 11 has no key; a file cannot name it.");
+        }
+        QSet<int> reached;
+        for (Ext::HotkeyBinding const & binding : Ext::bindings()) {
+            if (binding.answers) {
+                reached.insert(binding.code);
+            }
+        }
+        for (int code = KP_AllSelect; code <= KK_Hightlight; ++code) {
+            EXPECT_TRUE(reached.contains(code) || !HotkeyCommands::isAvailable(static_cast<FuncCode>(code)))
+                << code;
+        }
+    }
+    open();
+    EXPECT_EQ(press("V"), "V ... N Negative, P Profile, W Width mode, U Unit, R Refresh, H home, M Measure");
+    EXPECT_EQ(press("U"), "Unit: MM");
+}
+
+QStringList rowOf(QTableWidget const & table, int row)
+{
+    QStringList texts;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        texts.append(table.item(row, column)->text());
+    }
+    return texts;
+}
+
+TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
+{
+    open();
+    press("F1");
+    auto * sheet = window->findChild<CheatSheet *>();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_TRUE(sheet->isVisible());
+    auto const & bindings = *sheet->findChild<QTableWidget *>("bindings");
+    auto const & findings = *sheet->findChild<QTableWidget *>("findings");
+    auto const & file = *sheet->findChild<QLabel *>("file");
+    EXPECT_EQ(bindings.rowCount(), 41);
+    EXPECT_EQ(rowOf(bindings, 0),
+              (QStringList{"Ctrl+A", "Select all", "KP_AllSelect", "not available in this host"}));
+    EXPECT_EQ(rowOf(bindings, 27),
+              (QStringList{"E", "Select the same features", "KP_SelectSameFeature", "never answers"}));
+    EXPECT_EQ(rowOf(bindings, 32), (QStringList{"S, G", "Snap: grid", "KK_SnapGrid", ""}));
+    EXPECT_TRUE(file.text().endsWith("the default keys are in use."));
+    sheet->exportTo("nowhere/keys.json");
+    EXPECT_EQ(sheet->findChild<QLabel *>("hint")->text().section('.', 0, 0),
+              "The file cannot be opened for writing");
+
+    writeFile(Ext::hotkeyFile, R"([{"func_name":"KP_Measure","Modifier":"Ctrl","key":"A"},
+                                   {"func_name":"KP_Profile","Modifier":"Ctrl","key":"A"},
+                                   {"func_name":"KP_Profil","Modifier":"Ctrl","key":"B"}])");
+    for (auto * button : sheet->findChildren<QPushButton *>()) {
+        if (button->text() == "Load the file again") {
+            button->click();
+        }
+    }
+    EXPECT_EQ(bindings.rowCount(), 2);
+    EXPECT_TRUE(file.text().endsWith("binds 2 keys. Findings: 42."));
+    EXPECT_EQ(rowOf(findings, 0)[0], "2");
+    EXPECT_EQ(rowOf(findings, 1),
+              (QStringList{"3", "\"func_name\" is \"KP_Profil\", which is no function."}));
+    writeFile(Ext::hotkeyFile, "[");
+    sheet->refresh();
+    EXPECT_TRUE(file.text().endsWith("cannot be loaded; the keys stay as they are."));
+    EXPECT_EQ(findings.rowCount(), 1);
+}
+
+} // namespace
