@@ -1,8 +1,12 @@
 #pragma once
 
 #include "config/BuiltInAttributes.h"
+#include "links/ConnectEDA.h"
+#include "links/PluginCommandRelay.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
+
+#include <QPointer>
 
 namespace KVCAM::UIAPI {
 
@@ -19,6 +23,8 @@ struct UIAPICommonPara::Private
     QWidget * split = nullptr; // not owned
     LayerState layerState;
     BuiltInAttributes builtInAttributes;
+    PluginCommandRelay pluginCommands;
+    QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
 };
 
 } // namespace KVCAM::UIAPI

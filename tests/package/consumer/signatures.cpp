@@ -141,6 +141,12 @@ void const * const functions[] = {
     keep<void(QList<QString>, QString, QList<QString> &)>(&find_input_items),
     keep<void(QList<QObject *>, QJsonObject &)>(&readListToJson),
     keep<void(QJsonObject, QList<QObject *> &)>(&writeJsonToList),
+    keep<void(int)>(&setEdaPort),
+    keep<void(QJsonObject const &)>(&sendEdaData),
+    keep<QString()>(&getReceiveStr),
+    keep<void(int, std::string const &, void *)>(&setPluginCmd),
+    keep<std::string()>(&getHostIP),
+    keep<std::string()>(&getLocalInfo),
 };
 
 } // namespace
