@@ -48,7 +48,8 @@ class UIAPICOMMON_EXPORT ConnectEDA : public QObject
 
 public:
     /// Creates both sockets as children of `parent` (not of the link) and binds the receiving one. A failed
-    /// bind shows in state() alone. Without a QCoreApplication the link sends, and receives by receive().
+    /// bind shows in state() alone. A link made before the QCoreApplication sends, and receives by receive();
+    /// the event loop hears it once receive() has read a datagram there.
     explicit ConnectEDA(QObject * parent = nullptr);
     /// Destroys the sockets that are still there. May be called by a slot of the link's own signals.
     ~ConnectEDA() override;

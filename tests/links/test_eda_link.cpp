@@ -258,6 +258,27 @@ TEST_F(EdaLinkTest, SlotsMayThrowReadAndDelete)
     }
 }
 
+// The socket is on the stack below a slot that deletes the link.
+TEST_F(EdaLinkTest, AReceiverInTheMiddleOfItsSignalDiesAfterIt)
+{
+    QObject parent;
+    auto * const link = new ConnectEDA(&parent);
+    QPointer<QUdpSocket> receiver;
+    for (auto * socket : parent.findChildren<QUdpSocket *>()) {
+        receiver = socket->localPort() == receivePort ? socket : receiver.data();
+    }
+    ASSERT_FALSE(receiver.isNull());
+    bool survived = false;
+    QObject::connect(link, &ConnectEDA::datagramReceived, link, [&] {
+        delete link;
+        survived = !receiver.isNull() && receiver->state() == QAbstractSocket::UnconnectedState;
+    });
+    toLibrary("x");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return receiver.isNull(); }));
+    EXPECT_TRUE(survived);
+    EXPECT_TRUE(parent.children().isEmpty());
+}
+
 // The sockets belong to the constructor's parent, which may die before the link, with it or after it.
 TEST_F(EdaLinkTest, OutlivesItsSocketsAndIsOutlivedByTheirParent)
 {
