@@ -65,12 +65,12 @@ struct ConnectEDA::Private
     Ext::EdaSendResult send(QByteArray const & bytes)
     {
         if (sender.isNull()) {
-            lastError = QStringLiteral("the sending socket is gone");
+            lastError = QLatin1String("the sending socket is gone");
             return Ext::EdaSendResult::NoLink;
         }
         // Cast to a port, such a number would become another one.
         if (edaPort < 1 || edaPort > 65535) {
-            lastError = QStringLiteral("%1 is no port").arg(edaPort);
+            lastError = QString::number(edaPort) + QLatin1String(" is no port");
             return Ext::EdaSendResult::NoPort;
         }
         auto const port = static_cast<quint16>(edaPort);
