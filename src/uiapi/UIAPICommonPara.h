@@ -27,6 +27,13 @@ UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
 
 namespace KVCAM::UIAPI {
 
+class ConnectEDA;
+
+namespace Ext {
+struct EdaLinkState;
+enum class EdaSendResult : int;
+} // namespace Ext
+
 /// The per-view and UI-wide state of the process, and the rules that need it: one object, created by the
 /// first call that needs it and alive until the process ends. Use it from the GUI thread only; nothing is
 /// locked.
@@ -287,6 +294,27 @@ public:
     bool copyDirectoryFile(QString const & from, QString const & to, bool overwrite) const;
     bool deletGeneJob(std::string const & job) const;
     QString formatTime(qint64 milliseconds) const;
+    // --- EDA link and plug-in commands --------------------------------------------------------------------
+    // Copies of this object share the one link. Without a link nothing happens.
+
+    /// The port that messages to the EDA tool go to; 22333 at start.
+    void setEdaPort(int port);
+    /// Sends an object as compact JSON; nothing tells whether it went.
+    void sendEdaData(QJsonObject const & data);
+    /// The text of the datagram received last, else empty.
+    QString getReceiveStr() const;
+    /// The link, owned by nobody and alive until the process ends; null when there is none.
+    ConnectEDA * edaLink() const;
+    Ext::EdaLinkState edaLinkState() const;
+    Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
+
+    /// Hands a command to the modules that have a route for it, see the flat function of this name.
+    void setPluginCmd(int command, std::string const & key, void * data) const;
+    /// From now on setPluginCmd() hands this command with this key to a plug-in module too. The host adds
+    /// them, none are there at start; not persisted. False when the route is there already.
+    bool addPluginRoute(int command, std::string const & key, std::string const & module);
+    /// Takes a route back, as when its module is unloaded. False when there is no such route.
+    bool removePluginRoute(int command, std::string const & key, std::string const & module);
 
 private:
     friend Ext::SaveResult Ext::saveRanges(std::string const & rangeName);

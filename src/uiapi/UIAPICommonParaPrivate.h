@@ -4,8 +4,12 @@
 #include "analysis/RangeStore.h"
 #include "config/BuiltInAttributes.h"
 #include "layers/LayerBookkeeping.h"
+#include "links/ConnectEDA.h"
+#include "links/PluginCommandRelay.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
+
+#include <QPointer>
 
 namespace KVCAM::UIAPI {
 
@@ -25,6 +29,8 @@ struct UIAPICommonPara::Private
     RangeStore ranges;
     CategoryDictionary categories;
     LayerBookkeeping layers;
+    PluginCommandRelay pluginCommands;
+    QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
 };
 
 } // namespace KVCAM::UIAPI

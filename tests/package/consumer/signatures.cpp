@@ -176,6 +176,12 @@ void const * const functions[] = {
     keep<void(QString const &, QString const &, QWidget *)>(&undo),
     keep<void(QList<QObject *>, QJsonObject &)>(&readListToJson),
     keep<void(QJsonObject, QList<QObject *> &)>(&writeJsonToList),
+    keep<void(int)>(&setEdaPort),
+    keep<void(QJsonObject const &)>(&sendEdaData),
+    keep<QString()>(&getReceiveStr),
+    keep<void(int, std::string const &, void *)>(&setPluginCmd),
+    keep<std::string()>(&getHostIP),
+    keep<std::string()>(&getLocalInfo),
 };
 
 } // namespace
