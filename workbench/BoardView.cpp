@@ -2,8 +2,11 @@
 
 #include <UIAPICommon.h>
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <utility>
@@ -14,7 +17,11 @@ namespace {
 
 using namespace KVCAM::UIAPI;
 
-constexpr int margin = 28; // pixels around the board, room for the scale
+constexpr int scaleMargin = 28;    // pixels left of the length scale
+constexpr double zoomStep = 1.5;   // of a key
+constexpr double wheelStep = 1.25; // of a notch of the wheel
+constexpr double closeZoom = 4;    // at which a place is looked at
+constexpr double markRadius = 9;   // pixels
 
 QColor layerColour(layer_info const & layer)
 {
@@ -65,12 +72,13 @@ void BoardView::showLayer(layer_info const & layer)
     m_colour = layerColour(layer);
     m_features = KVCAM::Embedded::features(m_job, m_step, m_layer);
     m_shapes = featureShapes(m_features, KVCAM::Embedded::featureDrawings(m_job, m_step, m_layer));
-    m_extent = m_profile.boundingRect();
-    if (m_extent.isEmpty()) { // a step without a profile is shown as large as its features
+    QRectF extent = m_profile.boundingRect();
+    if (extent.isEmpty()) { // a step without a profile is shown as large as its features
         for (FeatureShape const & shape : m_shapes) {
-            m_extent |= shape.path.boundingRect();
+            extent |= shape.path.boundingRect();
         }
     }
+    m_port.setExtent(extent);
     m_marked = -1;
     m_picture = {};
     update();
@@ -96,18 +104,62 @@ QString BoardView::sizeText(double width, double height) const
              QString::fromStdString(getUnitStringType(handle(), 0)));
 }
 
-QTransform BoardView::boardToWidget() const
+void BoardView::setMarks(std::vector<Mark> marks)
 {
-    double const room[] = {width() - 2.0 * margin, height() - 2.0 * margin};
-    if (m_extent.isEmpty() || room[0] <= 0 || room[1] <= 0) {
-        return {};
+    m_marks = std::move(marks);
+    update();
+}
+
+void BoardView::centreOn(double x, double y)
+{
+    if (!std::isfinite(x) || !std::isfinite(y)) {
+        return;
     }
-    double const scale = std::min(room[0] / m_extent.width(), room[1] / m_extent.height());
-    QTransform transform;
-    transform.translate(width() / 2.0, height() / 2.0);
-    transform.scale(scale, -scale); // the board's y axis points upwards
-    transform.translate(-m_extent.center().x(), -m_extent.center().y());
-    return transform;
+    m_port.zoomAbout(rect().center(), std::max(closeZoom / zoom(), 1.0));
+    m_port.centreOn({x, y});
+    changePort();
+}
+
+void BoardView::zoomHome()
+{
+    m_port.home();
+    changePort();
+}
+
+void BoardView::zoomIn()
+{
+    m_port.zoomAbout(QRectF(rect()).center(), zoomStep);
+    changePort();
+}
+
+void BoardView::zoomOut()
+{
+    m_port.zoomAbout(QRectF(rect()).center(), 1 / zoomStep);
+    changePort();
+}
+
+void BoardView::pan(QPointF fraction)
+{
+    m_port.drag({-fraction.x() * width(), fraction.y() * height()});
+    changePort();
+}
+
+void BoardView::changePort()
+{
+    m_picture = {};
+    update();
+    emit portChanged();
+}
+
+int BoardView::markAt(QPointF pixel) const
+{
+    for (std::size_t i = m_marks.size(); i-- > 0;) {
+        QPointF const place = boardToWidget().map(QPointF(m_marks[i].x, m_marks[i].y));
+        if (QLineF(place, pixel).length() <= markRadius) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
 }
 
 void BoardView::paintEvent(QPaintEvent * /*event*/)
@@ -133,6 +185,7 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
             painter.drawEllipse(path.boundingRect().center(), 14, 14);
         }
     }
+    paintMarks(painter);
     paintScale(painter, transform);
 }
 
@@ -170,7 +223,7 @@ void BoardView::paintScale(QPainter & painter, QTransform const & transform) con
     // The largest round length in the view's unit that takes at most 160 pixels.
     double const perLargeUnit = 1000.0 / getUnitPointData(handle(), 1000.0); // micrometres
     double const available = 160 / transform.m11() / perLargeUnit;
-    if (!(available > 0) || !std::isfinite(available) || m_extent.isEmpty()) {
+    if (!(available > 0) || !std::isfinite(available) || m_port.scale() <= 0) {
         return;
     }
     double const decade = std::pow(10, std::floor(std::log10(available)));
@@ -180,22 +233,64 @@ void BoardView::paintScale(QPainter & painter, QTransform const & transform) con
     double const pixels = length * perLargeUnit * transform.m11();
     QString const text =
         QString::fromStdString(doubleToString(length) + ' ' + getUnitStringType(handle(), 0));
-    QLineF const bar(margin, height() - 10, margin + pixels, height() - 10);
-    QRectF const ground(margin - 8, height() - 24, pixels + fontMetrics().horizontalAdvance(text) + 24, 24);
+    QLineF const bar(scaleMargin, height() - 10, scaleMargin + pixels, height() - 10);
+    QRectF const ground(scaleMargin - 8, height() - 24, pixels + fontMetrics().horizontalAdvance(text) + 24,
+                        24);
     painter.fillRect(ground, Qt::white);
     painter.setPen(QPen(QColor("#20242a"), 2));
     painter.drawLine(bar);
     painter.drawText(QPointF(bar.x2() + 8, bar.y2() + 4), text);
 }
 
+void BoardView::paintMarks(QPainter & painter) const
+{
+    QTransform const transform = boardToWidget();
+    QRectF const shown = QRectF(rect()).adjusted(-markRadius, -markRadius, markRadius, markRadius);
+    QFont font = painter.font();
+    font.setBold(true);
+    painter.setFont(font);
+    for (Mark const & mark : m_marks) {
+        QPointF const place = transform.map(QPointF(mark.x, mark.y));
+        if (!shown.contains(place)) {
+            continue;
+        }
+        QRectF const sign(place - QPointF(markRadius, markRadius), QSizeF(2 * markRadius, 2 * markRadius));
+        painter.setPen(QPen(Qt::white, 1.5));
+        painter.setBrush(mark.colour);
+        painter.drawEllipse(sign);
+        painter.setPen(qGray(mark.colour.rgb()) < 150 ? Qt::white : Qt::black);
+        painter.drawText(sign, Qt::AlignCenter, mark.letter);
+    }
+}
+
+bool BoardView::event(QEvent * event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        auto const * help = static_cast<QHelpEvent *>(event);
+        int const mark = markAt(help->pos());
+        QToolTip::showText(help->globalPos(),
+                           mark < 0 ? QString() : m_marks[static_cast<std::size_t>(mark)].toolTip, this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void BoardView::resizeEvent(QResizeEvent * /*event*/)
 {
-    m_picture = {};
+    m_port.setSize(size());
+    changePort();
+}
+
+void BoardView::wheelEvent(QWheelEvent * event)
+{
+    m_port.zoomAbout(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
+    changePort();
+    event->accept();
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent * event)
 {
-    QPointF const place = boardToWidget().inverted().map(event->localPos());
+    QPointF const place = m_port.toBoard(event->localPos());
     if (coordinate * readOut = getCoordinate(handle())) {
         readOut->x = place.x();
         readOut->y = place.y();
@@ -205,7 +300,11 @@ void BoardView::mouseMoveEvent(QMouseEvent * event)
 
 void BoardView::mousePressEvent(QMouseEvent * event)
 {
-    QPointF const place = boardToWidget().inverted().map(event->localPos());
+    if (int const mark = markAt(event->localPos()); mark >= 0) {
+        emit markPicked(mark);
+        return;
+    }
+    QPointF const place = m_port.toBoard(event->localPos());
     for (std::size_t i = m_shapes.size(); i-- > 0;) { // what was drawn last lies on top
         if (m_features[i].kind == 'P' && m_shapes[i].path.boundingRect().contains(place)) {
             markFeature(m_shapes[i].feature);
