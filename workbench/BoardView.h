@@ -1,29 +1,27 @@
 #pragma once
 
-#include "FeatureShapes.h"
+#include "BoardPicture.h"
+#include "BoardSigns.h"
+#include "LayerPicture.h"
 #include "ViewPort.h"
 
-#include <QColor>
-#include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 
+#include <map>
+#include <memory>
+#include <string>
 #include <vector>
 
 namespace Workbench {
 
-/// A place of the board to be pointed out: a lettered sign that keeps its size at every zoom.
-struct Mark
-{
-    double x = 0; ///< micrometres
-    double y = 0;
-    QColor colour;
-    QString letter;
-    QString toolTip;
-};
-
 /// The graphic view of one step, and as such the handle under which the library keeps its state: the view
 /// registers itself when it is made and shows lengths in its own unit. The library never forgets a view, so
 /// views live as long as the window.
+///
+/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or a pad. With the focus
+/// the arrows move, + and - zoom, Home shows the whole board. Zoom and place stay when the layer or the unit
+/// changes.
 class BoardView : public QWidget
 {
     Q_OBJECT
@@ -35,14 +33,22 @@ public:
     /// What the library calls this view.
     void const * handle() const { return static_cast<QWidget const *>(this); }
 
-    /// Draws a layer of the step over its profile.
+    /// Makes a layer the one that is worked on: it is drawn on top, and its pads can be picked.
     void showLayer(KVCAM::API::layer_info const & layer);
+    /// Draws these layers below it, the first one uppermost.
+    void showBeside(std::vector<KVCAM::API::layer_info> layers);
+    /// Reads the layers again: the engine's features have changed.
+    void reload();
+    /// Finishes the picture, which is otherwise made while the program has nothing else to do.
+    void finishPicture();
     /// Marks a feature of the shown layer; -1 marks none.
     void markFeature(int feature);
-    std::vector<KVCAM::API::feature_info> const & features() const { return m_features; }
+    std::vector<KVCAM::API::feature_info> const & features() const { return m_shown->features(); }
     /// Their pictures, in the same order.
-    std::vector<FeatureShape> const & shapes() const { return m_shapes; }
-    std::string const & layer() const { return m_layer; }
+    std::vector<FeatureShape> const & shapes() const { return m_shown->shapes(); }
+    std::string const & layer() const { return m_shown->info().name; }
+    /// Why nothing is drawn; empty when something is.
+    QString emptyText() const;
 
     /// Shows these marks in place of those before, the last one on top; they stay when another layer is
     /// shown.
@@ -64,6 +70,8 @@ public:
 public slots:
     /// Shows the whole board.
     void zoomHome();
+    /// Shows all features of the shown layers, beyond the board as well.
+    void zoomFit();
     /// About the middle.
     void zoomIn();
     void zoomOut();
@@ -86,26 +94,35 @@ protected:
     void wheelEvent(QWheelEvent * event) override;
     void mouseMoveEvent(QMouseEvent * event) override;
     void mousePressEvent(QMouseEvent * event) override;
+    void mouseReleaseEvent(QMouseEvent * event) override;
+    void keyPressEvent(QKeyEvent * event) override;
+    void changeEvent(QEvent * event) override;
 
 private:
     QTransform boardToWidget() const { return m_port.boardToWidget(); }
+    std::shared_ptr<LayerPicture const> picture(KVCAM::API::layer_info const & layer);
+    void updateLayers();
     void changePort();
-    int markAt(QPointF pixel) const;
-    void paintMarks(QPainter & painter) const;
-    void paintBoard(QPainter & painter, QTransform const & transform) const;
-    void paintScale(QPainter & painter, QTransform const & transform) const;
+    void beginPicture();
+    void goOnWithPicture();
+    void pickAt(QPointF pixel);
+    void paintMarkedFeature(QPainter & painter) const;
 
     std::string m_job;
     std::string m_step;
-    std::string m_layer;
-    QColor m_colour;
     QPainterPath m_profile;
-    std::vector<KVCAM::API::feature_info> m_features;
-    std::vector<FeatureShape> m_shapes;
+    std::vector<KVCAM::API::layer_info> m_beside;
+    std::map<std::string, std::shared_ptr<LayerPicture const>> m_pictures; // of the shown layers, by name
+    std::shared_ptr<LayerPicture const> m_shown;
     std::vector<Mark> m_marks;
     ViewPort m_port;
-    QPixmap m_picture;
+    BoardPicture m_picture;
+    bool m_isStale = true; // the picture is to be begun anew
+    QTimer m_goOn;
     int m_marked = -1;
+    QPointF m_pressedAt;
+    QPointF m_draggedTo;
+    bool m_isDragging = false;
 };
 
 } // namespace Workbench
