@@ -136,6 +136,15 @@ QString BoardView::positionText(double x, double y) const
              QString::fromStdString(getUnitStringType(handle(), 0)));
 }
 
+QString BoardView::finePositionText(double x, double y) const
+{
+    auto const text = [this](double value) { // a thousandth of the large unit, whichever it is
+        return QString::number(getUnitPointData(handle(), value) * 1000, 'f', 2);
+    };
+    return QString("(x %1 y %2 %3)")
+        .arg(text(x), text(y), QString::fromStdString(getUnitStringType(handle(), 1)));
+}
+
 QString BoardView::sizeText(double width, double height) const
 {
     return QString("%1 x %2 %3")

@@ -62,6 +62,8 @@ public:
 
     /// A position in micrometres as text in the view's unit: "x 0.100 y 0.250 inch".
     QString positionText(double x, double y) const;
+    /// The same in the view's small unit: "(x 100.00 y 250.00 mil)".
+    QString finePositionText(double x, double y) const;
     /// A size in micrometres as text in the view's unit: "3.000 x 3.000 inch".
     QString sizeText(double width, double height) const;
 

@@ -120,7 +120,7 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     EXPECT_TRUE(errors[1].toObject()["text"].toString().contains("features:1: "));
     QJsonArray const counts = result.facts["layers"].toArray()[0].toObject()["features"].toArray();
     EXPECT_EQ(counts, QJsonArray{QJsonValue()});
-    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 4); // no dialog without a pad
+    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 6); // no dialog without a pad
     EXPECT_EQ(result.err.count("cannot read layer top"), 1);
 }
 
@@ -206,7 +206,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    EXPECT_EQ(pictures.size(), 10);
+    EXPECT_EQ(pictures.size(), 12);
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
