@@ -137,6 +137,14 @@ std::vector<API::feature_info> features(std::string const & job, std::string con
     });
 }
 
+int featureCount(std::string const & job, std::string const & step, std::string const & layer)
+{
+    return answered(-1, [&](EngineState & state) {
+        LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
+        return static_cast<int>(std::count(graphics.deleted.begin(), graphics.deleted.end(), false));
+    });
+}
+
 std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string const & step,
                                             std::string const & layer)
 {

@@ -77,6 +77,9 @@ KVCAM_API_EXPORT std::vector<std::vector<API::point>> profileOutlines(std::strin
 /// failure; a layer without a features file has none.
 KVCAM_API_EXPORT std::vector<API::feature_info> features(std::string const & job, std::string const & step,
                                                          std::string const & layer);
+/// How many features() gives, without making the list; -1, with lastError() set, on failure.
+KVCAM_API_EXPORT int featureCount(std::string const & job, std::string const & step,
+                                  std::string const & layer);
 /// What a picture of a feature needs beyond its record.
 struct FeatureDrawing
 {

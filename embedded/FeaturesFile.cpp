@@ -1,5 +1,6 @@
 #include "FeaturesFile.h"
 
+#include "JobPaths.h"
 #include "LineReader.h"
 
 #include <algorithm>
@@ -44,7 +45,7 @@ private:
         case '$':
             return readSymbol(line.substr(1));
         case '@':
-            return checkText(line.substr(1), m_attributeNames);
+            return readAttributeName(line.substr(1));
         case '&':
             return checkText(line.substr(1), m_attributeTexts);
         default:
@@ -121,6 +122,18 @@ private:
         }
     }
 
+    void readAttributeName(std::string_view line)
+    {
+        auto const [index, text] = entry(line);
+        checkText(line, m_attributeNames);
+        std::string const name = lowerCase(std::string(text));
+        m_marks[index] = name == ".smd"            ? markSmd
+                         : name == ".nomenclature" ? markNomenclature
+                         : name == ".string"       ? markString
+                                                   : 0;
+        m_drillAttribute = name == ".drill" ? index : m_drillAttribute;
+    }
+
     void readSymbol(std::string_view line)
     {
         auto [index, name] = entry(line);
@@ -166,7 +179,7 @@ private:
             feature.symbol = symbol(words);
         }
         feature.positive = words.choice('P', 'N', "polarity");
-        words.integer("code");
+        feature.code = words.integer("code");
         if (feature.kind == 'P') {
             readOrientation(words, feature);
         } else if (feature.kind == 'A') {
@@ -174,7 +187,7 @@ private:
         } else if (feature.kind == 'S') {
             m_surfaceLine = m_reader.lineNumber();
         }
-        checkAttributes(tail);
+        readAttributes(tail, feature);
         m_file.features.push_back(std::move(feature));
     }
 
@@ -202,7 +215,7 @@ private:
     }
 
     // ";<index>[=<value>],...;ID=<n>", each part optional, and the ID may stand first.
-    void checkAttributes(std::string_view tail) const
+    void readAttributes(std::string_view tail, Feature & feature) const
     {
         if (tail.empty()) {
             return;
@@ -216,7 +229,15 @@ private:
             std::string_view const item = trimmed(list.substr(0, list.find(',')));
             list.remove_prefix(std::min(
                 list.size(), list.find(',') == std::string_view::npos ? list.size() : list.find(',') + 1));
-            m_reader.integer(item.substr(0, item.find('=')), "attribute index");
+            std::string_view const key = item.substr(0, item.find('='));
+            int const index = m_reader.integer(key, "attribute index");
+            if (auto const mark = m_marks.find(index); mark != m_marks.end()) {
+                feature.marks |= mark->second;
+            }
+            if (index == m_drillAttribute) {
+                std::string_view const option = trimmed(item.substr(key.size()));
+                feature.drill = option == "=0" ? 0 : option == "=1" ? 1 : option == "=2" ? 2 : -1;
+            }
         }
     }
 
@@ -256,6 +277,8 @@ private:
     int m_announced = 0;
     int m_announcedLine = 0; // 0: the file announces no number of features
     std::set<int> m_attributeNames;
+    std::map<int, std::uint8_t> m_marks; // by attribute index
+    int m_drillAttribute = -1;           // index of .drill; -1: the file does not name it
     std::set<int> m_attributeTexts;
     int m_surfaceLine = 0; // where the open surface begins; 0: none is open
     bool m_contourOpen = false;

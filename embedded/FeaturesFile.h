@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -36,17 +37,28 @@ struct Contour
     std::vector<Side> sides;
 };
 
+/// The attributes of a feature that the checks ask for, as bits.
+enum Mark : std::uint8_t
+{
+    markSmd = 1,
+    markNomenclature = 2,
+    markString = 4
+};
+
 /// A graphic of a layer, in micrometres. A surface has contours, every other kind has a symbol and points:
 /// a pad its place, a line its start and end, an arc its start, end and centre. A file may hold millions of
-/// them, so they keep no list of their own for the few points; attributes are checked but not kept.
+/// them, so they keep no list of their own for the few points; attributes are checked, but few are kept.
 struct Feature
 {
     char kind = 'P';
     bool positive = true;
     bool clockwise = false; ///< of an arc
     bool mirrored = false;  ///< of a pad
+    std::uint8_t marks = 0; ///< which Mark attributes it has
+    std::int8_t drill = -1; ///< the option of its .drill: 0 plated, 1 non-plated, 2 via; -1 for none
     double angle = 0;       ///< of a pad, degrees clockwise
     int symbol = -1;        ///< index of the symbol table
+    int code = 0;           ///< on a drill layer the number of its tool
     std::array<API::point, 3> points{};
     std::vector<Contour> contours;
 

@@ -99,6 +99,17 @@ bool Job::hasSymbol(std::string const & name) const
                        [&name](std::string const & symbol) { return lowerCase(symbol) == name; });
 }
 
+std::optional<FeaturesFile> Job::symbolDrawing(std::string const & name) const
+{
+    if (!hasSymbol(lowerCase(name))) {
+        return std::nullopt;
+    }
+    QString const symbols = findFolder(m_folder, "symbols");
+    QString const folder = symbols.isEmpty() ? QString() : findFolder(symbols, name);
+    QString const file = folder.isEmpty() ? QString() : findFile(folder, "features");
+    return file.isEmpty() ? std::nullopt : std::optional(readFeatures(file));
+}
+
 Step * Job::findStep(std::string const & name)
 {
     auto const found = std::find_if(m_steps.begin(), m_steps.end(),

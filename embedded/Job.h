@@ -51,6 +51,8 @@ public:
     /// The names of its own symbols, sorted.
     std::vector<std::string> const & symbols() const { return m_symbols; }
     bool hasSymbol(std::string const & name) const;
+    /// The drawing of one of its own symbols; nothing when the job does not hold it.
+    std::optional<FeaturesFile> symbolDrawing(std::string const & name) const;
 
     std::vector<Step> const & steps() const { return m_steps; }
     /// Null when there is none.

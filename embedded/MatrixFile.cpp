@@ -39,6 +39,13 @@ public:
         return found->second.value;
     }
 
+    // The value of a key that may be missing, in lower case.
+    std::string optional(char const * key) const
+    {
+        auto const found = m_entries.find(key);
+        return found == m_entries.end() ? std::string() : lowerCase(found->second.value);
+    }
+
     int position(char const * key) const
     {
         std::string const & value = text(key);
@@ -132,6 +139,7 @@ Matrix readMatrix(QString const & path)
     LineReader reader(path);
     Positions<std::string> steps;
     Positions<API::layer_info> layers;
+    std::map<std::string, std::pair<std::string, std::string>> spans;
     bool empty = true;
     while (reader.next()) {
         std::string const line = upperCase(reader.line());
@@ -147,12 +155,13 @@ Matrix readMatrix(QString const & path)
         } else {
             API::layer_info const info = layer(block);
             layers.add(block, "ROW", info.name, info);
+            spans[info.name] = {block.optional("START_NAME"), block.optional("END_NAME")};
         }
     }
     if (empty) {
         reader.failWhole("the matrix holds no steps and no layers");
     }
-    return {steps.take(), layers.take()};
+    return {steps.take(), layers.take(), std::move(spans)};
 }
 
 } // namespace KVCAM::Embedded

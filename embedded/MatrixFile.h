@@ -4,7 +4,9 @@
 
 #include <QString>
 
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace KVCAM::Embedded {
@@ -15,6 +17,9 @@ struct Matrix
 {
     std::vector<std::string> steps;
     std::vector<API::layer_info> layers;
+    /// The first and the last layer that a drill or rout layer goes through, by its name; "" where the matrix
+    /// leaves them out. They need not be layers of the matrix.
+    std::map<std::string, std::pair<std::string, std::string>> spans;
 };
 
 /// Throws JobError. Blocks must be whole, their numbers positive and distinct, their names distinct without

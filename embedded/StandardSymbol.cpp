@@ -100,24 +100,28 @@ std::optional<double> takeField(std::string_view & text, char kind)
     return plating ? std::optional(0.0) : std::nullopt;
 }
 
-// Whether a text is a whole tail "xr<radius>[x<corners>]" as the family allows it.
-bool isCornerTail(std::string_view text, Corners allowed)
+// Takes a whole tail "xr<radius>[x<corners>]" as the family allows it; false for any other text.
+bool takeCorners(std::string_view text, Corners allowed, StandardSymbol & symbol)
 {
     if (allowed == Corners::None || !take(text, 'x')) {
         return false;
     }
-    if (!take(text, 'r') && !(allowed == Corners::RoundedOrChamfered && take(text, 'c'))) {
+    symbol.cut = !take(text, 'r');
+    if (symbol.cut && !(allowed == Corners::RoundedOrChamfered && take(text, 'c'))) {
         return false;
     }
-    if (!takeNumber(text, true)) {
+    std::optional<double> const corner = takeNumber(text, true);
+    if (!corner) {
         return false;
     }
+    symbol.corner = *corner;
     if (text.empty()) {
         return true;
     }
     if (!take(text, 'x') || text.empty() || text.find_first_not_of("1234") != std::string_view::npos) {
         return false;
     }
+    symbol.someCorners = text.size() < 4;
     return std::all_of(text.begin(), text.end(),
                        [text](char c) { return std::count(text.begin(), text.end(), c) == 1; });
 }
@@ -145,11 +149,13 @@ std::optional<StandardSymbol> standardSymbol(std::string_view name)
         if (!value) {
             return std::nullopt;
         }
+        symbol.fields.at(i) = *value;
         if (family->fields[i] == 's' && sizes < 2) {
             (sizes++ == 0 ? symbol.first : symbol.second) = *value;
         }
     }
-    return rest.empty() || isCornerTail(rest, family->corners) ? std::optional(symbol) : std::nullopt;
+    bool const whole = rest.empty() || takeCorners(rest, family->corners, symbol);
+    return whole ? std::optional(symbol) : std::nullopt;
 }
 
 } // namespace KVCAM::Embedded

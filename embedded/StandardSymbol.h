@@ -2,6 +2,7 @@
 
 #include <kvcam/Records.h>
 
+#include <array>
 #include <optional>
 #include <string_view>
 
@@ -51,6 +52,11 @@ struct StandardSymbol
     API::symboltype type = API::symbol_user;
     double first = 0;  ///< as in the name: mil or micrometre
     double second = 0; ///< 0 for a family of one size
+    /// All numbers between the 'x', in their order; 0 for the plating of a hole.
+    std::array<double, 6> fields{};
+    double corner = 0;        ///< how far the corners are rounded or cut
+    bool cut = false;         ///< they are cut
+    bool someCorners = false; ///< only some of the four are
 };
 
 /// What a symbol name says by the grammar of the standard families; nothing when it does not follow it.

@@ -2,9 +2,15 @@
 
 #include <UIAPICommon.h>
 
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
+#include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -14,31 +20,25 @@ namespace {
 
 using namespace KVCAM::UIAPI;
 
-constexpr int margin = 28; // pixels around the board, room for the scale
-
-QColor layerColour(layer_info const & layer)
-{
-    static std::pair<char const *, char const *> const colours[] = {
-        {"signal", "#b5582a"},      {"power_ground", "#8c4a86"}, {"mixed", "#8c4a86"},
-        {"solder_mask", "#2e7d4f"}, {"solder_paste", "#6b7280"}, {"silk_screen", "#3f51b5"},
-        {"drill", "#1f2937"},       {"rout", "#1f2937"},
-    };
-    for (auto const & [type, colour] : colours) {
-        if (layer.type == type) {
-            return colour;
-        }
-    }
-    return "#44617b";
-}
+constexpr double zoomStep = 1.5;   // of a key
+constexpr double wheelStep = 1.25; // of a notch of the wheel
+constexpr double panStep = 0.1;    // of a key, in widths of the view
+constexpr double closeZoom = 4;    // at which a place is looked at
+constexpr int slice = 25;          // milliseconds of drawing before the program looks for events again
 
 } // namespace
 
 BoardView::BoardView(std::string job, std::string step, int unit, QWidget * parent)
-    : QWidget(parent), m_job(std::move(job)), m_step(std::move(step))
+    : QWidget(parent)
+    , m_job(std::move(job))
+    , m_step(std::move(step))
+    , m_shown(std::make_shared<LayerPicture>())
 {
     setMouseTracking(true);
     setMinimumSize(320, 260);
     setCursor(Qt::CrossCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Board picture"));
 
     for (auto const & outline : KVCAM::Embedded::profileOutlines(m_job, m_step)) {
         QPolygonF polygon;
@@ -57,29 +57,76 @@ BoardView::BoardView(std::string job, std::string step, int unit, QWidget * pare
             update();
         }
     });
+    m_goOn.setSingleShot(true);
+    connect(&m_goOn, &QTimer::timeout, this, &BoardView::goOnWithPicture);
 }
 
 void BoardView::showLayer(layer_info const & layer)
 {
-    m_layer = layer.name;
-    m_colour = layerColour(layer);
-    m_features = KVCAM::Embedded::features(m_job, m_step, m_layer);
-    m_shapes = featureShapes(m_features, KVCAM::Embedded::featureDrawings(m_job, m_step, m_layer));
-    m_extent = m_profile.boundingRect();
-    if (m_extent.isEmpty()) { // a step without a profile is shown as large as its features
-        for (FeatureShape const & shape : m_shapes) {
-            m_extent |= shape.path.boundingRect();
-        }
-    }
+    m_shown = picture(layer);
     m_marked = -1;
-    m_picture = {};
-    update();
+    updateLayers();
+}
+
+void BoardView::showBeside(std::vector<layer_info> layers)
+{
+    m_beside = std::move(layers);
+    updateLayers();
+}
+
+void BoardView::reload()
+{
+    m_pictures.clear();
+    if (!layer().empty()) {
+        m_shown = picture(layer_info(m_shown->info()));
+    }
+    updateLayers();
+}
+
+std::shared_ptr<LayerPicture const> BoardView::picture(layer_info const & layer)
+{
+    auto & known = m_pictures[layer.name];
+    if (known == nullptr) {
+        known = std::make_shared<LayerPicture const>(m_job, m_step, layer);
+    }
+    return known;
+}
+
+void BoardView::updateLayers()
+{
+    QRectF extent = m_profile.boundingRect();
+    if (extent.isEmpty()) { // a step without a profile is shown as large as its features
+        extent = m_shown->extent();
+    }
+    m_port.setSize(size());
+    m_port.setExtent(extent);
+    changePort();
 }
 
 void BoardView::markFeature(int feature)
 {
     m_marked = feature;
     update();
+}
+
+QString BoardView::emptyText() const
+{
+    if (!features().empty() || !m_beside.empty()) {
+        return {};
+    }
+    QString const name = QString::fromStdString(layer());
+    if (name.isEmpty()) {
+        return tr("No layer is shown");
+    }
+    switch (m_shown->state()) {
+    case LayerPicture::State::CutToTables:
+        return tr("The job holds only the tables of the layer %1").arg(name);
+    case LayerPicture::State::Unreadable:
+        return tr("The layer %1 cannot be read: see the log").arg(name);
+    case LayerPicture::State::Read:
+        break;
+    }
+    return tr("The layer %1 has no features in this step").arg(name);
 }
 
 QString BoardView::positionText(double x, double y) const
@@ -89,6 +136,15 @@ QString BoardView::positionText(double x, double y) const
              QString::fromStdString(getUnitStringType(handle(), 0)));
 }
 
+QString BoardView::finePositionText(double x, double y) const
+{
+    auto const text = [this](double value) { // a thousandth of the large unit, whichever it is
+        return QString::number(getUnitPointData(handle(), value) * 1000, 'f', 2);
+    };
+    return QString("(x %1 y %2 %3)")
+        .arg(text(x), text(y), QString::fromStdString(getUnitStringType(handle(), 1)));
+}
+
 QString BoardView::sizeText(double width, double height) const
 {
     return QString("%1 x %2 %3")
@@ -96,106 +152,189 @@ QString BoardView::sizeText(double width, double height) const
              QString::fromStdString(getUnitStringType(handle(), 0)));
 }
 
-QTransform BoardView::boardToWidget() const
+void BoardView::setMarks(std::vector<Mark> marks)
 {
-    double const room[] = {width() - 2.0 * margin, height() - 2.0 * margin};
-    if (m_extent.isEmpty() || room[0] <= 0 || room[1] <= 0) {
-        return {};
+    m_marks = std::move(marks);
+    update();
+}
+
+void BoardView::centreOn(double x, double y)
+{
+    if (std::isfinite(x) && std::isfinite(y)) {
+        m_port.zoomAbout(QRectF(rect()).center(), std::max(closeZoom / zoom(), 1.0));
+        m_port.centreOn({x, y});
+        changePort();
     }
-    double const scale = std::min(room[0] / m_extent.width(), room[1] / m_extent.height());
-    QTransform transform;
-    transform.translate(width() / 2.0, height() / 2.0);
-    transform.scale(scale, -scale); // the board's y axis points upwards
-    transform.translate(-m_extent.center().x(), -m_extent.center().y());
-    return transform;
+}
+
+void BoardView::zoomHome()
+{
+    m_port.home();
+    changePort();
+}
+
+void BoardView::zoomFit()
+{
+    QRectF extent = m_shown->extent();
+    for (layer_info const & layer : m_beside) {
+        extent |= picture(layer)->extent();
+    }
+    m_port.show(extent);
+    changePort();
+}
+
+void BoardView::zoomIn()
+{
+    m_port.zoomAbout(QRectF(rect()).center(), zoomStep);
+    changePort();
+}
+
+void BoardView::zoomOut()
+{
+    m_port.zoomAbout(QRectF(rect()).center(), 1 / zoomStep);
+    changePort();
+}
+
+void BoardView::pan(QPointF fraction)
+{
+    m_port.drag({-fraction.x() * width(), fraction.y() * height()});
+    changePort();
+}
+
+void BoardView::changePort()
+{
+    m_isStale = true;
+    update();
+    emit portChanged();
+}
+
+void BoardView::beginPicture()
+{
+    m_isStale = false;
+    std::vector<std::shared_ptr<LayerPicture const>> layers;
+    for (auto layer = m_beside.rbegin(); layer != m_beside.rend(); ++layer) {
+        if (layer->name != m_shown->info().name) {
+            layers.push_back(picture(*layer));
+        }
+    }
+    layers.push_back(m_shown);
+    m_pictures.clear(); // what is not shown any more is read again when it is
+    for (auto const & layer : layers) {
+        m_pictures[layer->info().name] = layer;
+    }
+    m_picture.begin(size(), devicePixelRatioF(), boardToWidget(),
+                    m_port.scale() > 0 ? m_port.visible() : QRectF(), m_profile, std::move(layers));
+}
+
+void BoardView::goOnWithPicture()
+{
+    m_picture.work(QDeadlineTimer(slice));
+    if (m_picture.isFinished()) {
+        update();
+    } else {
+        m_goOn.start();
+    }
+}
+
+void BoardView::finishPicture()
+{
+    if (m_isStale) {
+        beginPicture();
+    }
+    m_picture.work(QDeadlineTimer::Forever);
+    update();
 }
 
 void BoardView::paintEvent(QPaintEvent * /*event*/)
 {
-    QTransform const transform = boardToWidget();
-    if (m_picture.isNull()) {
-        qreal const ratio = devicePixelRatioF();
-        m_picture = QPixmap(size() * ratio);
-        m_picture.setDevicePixelRatio(ratio);
-        m_picture.fill(Qt::white);
-        QPainter painter(&m_picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paintBoard(painter, transform);
+    if (m_isStale) {
+        beginPicture();
+        goOnWithPicture();
     }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_picture);
+    m_picture.paint(painter);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (FeatureShape const & shape : m_shapes) {
-        if (shape.feature == m_marked) {
-            QPainterPath const path = transform.map(shape.path);
-            painter.setPen(QPen(QColor("#0050d0"), 2));
-            painter.drawPath(path);
-            painter.drawEllipse(path.boundingRect().center(), 14, 14);
-        }
+    paintMarkedFeature(painter);
+    paintMarks(painter, m_marks, boardToWidget());
+    if (m_port.scale() > 0) {
+        paintLengthScale(painter, handle(), m_port.scale());
     }
-    paintScale(painter, transform);
+    painter.setPen(QColor("#5f6672"));
+    painter.drawText(rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap, emptyText());
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().highlight().color(), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
 }
 
-void BoardView::paintBoard(QPainter & painter, QTransform const & transform) const
+void BoardView::paintMarkedFeature(QPainter & painter) const
 {
-    painter.setTransform(transform);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor("#f3f6ee"));
-    painter.drawPath(m_profile);
-    for (FeatureShape const & shape : m_shapes) {
-        QColor const colour = shape.positive ? m_colour : QColor("#f3f6ee");
-        if (shape.filled) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(colour);
-        } else {
-            QPen pen(colour, shape.penWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-            pen.setCosmetic(shape.penWidth * transform.m11() < 1); // never thinner than a pixel
-            if (pen.isCosmetic()) {
-                pen.setWidth(1);
-            }
-            painter.setPen(pen);
-            painter.setBrush(Qt::NoBrush);
-        }
-        painter.drawPath(shape.path);
+    auto const & list = shapes();
+    auto const marked = std::find_if(
+        list.begin(), list.end(), [this](FeatureShape const & shape) { return shape.feature == m_marked; });
+    if (marked != list.end()) {
+        QPainterPath const path = boardToWidget().map(marked->outline());
+        painter.setPen(QPen(QColor("#0050d0"), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(path);
+        painter.drawEllipse(boardToWidget().map(marked->box.center()), 14, 14);
     }
-    QPen outline(QColor("#20242a"), 1.5);
-    outline.setCosmetic(true);
-    painter.setPen(outline);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(m_profile);
 }
 
-void BoardView::paintScale(QPainter & painter, QTransform const & transform) const
+bool BoardView::event(QEvent * event)
 {
-    // The largest round length in the view's unit that takes at most 160 pixels.
-    double const perLargeUnit = 1000.0 / getUnitPointData(handle(), 1000.0); // micrometres
-    double const available = 160 / transform.m11() / perLargeUnit;
-    if (!(available > 0) || !std::isfinite(available) || m_extent.isEmpty()) {
-        return;
+    if (event->type() == QEvent::ToolTip) {
+        auto const * help = static_cast<QHelpEvent *>(event);
+        int const mark = markAt(help->pos(), m_marks, boardToWidget());
+        QToolTip::showText(help->globalPos(),
+                           mark < 0 ? QString() : m_marks[static_cast<std::size_t>(mark)].toolTip, this);
+        return true;
     }
-    double const decade = std::pow(10, std::floor(std::log10(available)));
-    double const length = available >= 5 * decade   ? 5 * decade
-                          : available >= 2 * decade ? 2 * decade
-                                                    : decade;
-    double const pixels = length * perLargeUnit * transform.m11();
-    QString const text =
-        QString::fromStdString(doubleToString(length) + ' ' + getUnitStringType(handle(), 0));
-    QLineF const bar(margin, height() - 10, margin + pixels, height() - 10);
-    QRectF const ground(margin - 8, height() - 24, pixels + fontMetrics().horizontalAdvance(text) + 24, 24);
-    painter.fillRect(ground, Qt::white);
-    painter.setPen(QPen(QColor("#20242a"), 2));
-    painter.drawLine(bar);
-    painter.drawText(QPointF(bar.x2() + 8, bar.y2() + 4), text);
+    return QWidget::event(event);
+}
+
+void BoardView::changeEvent(QEvent * event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Board picture"));
+        update();
+    }
+    QWidget::changeEvent(event);
 }
 
 void BoardView::resizeEvent(QResizeEvent * /*event*/)
 {
-    m_picture = {};
+    m_port.setSize(size());
+    changePort();
+}
+
+void BoardView::wheelEvent(QWheelEvent * event)
+{
+    m_port.zoomAbout(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
+    changePort();
+    event->accept();
+}
+
+void BoardView::mousePressEvent(QMouseEvent * event)
+{
+    m_pressedAt = event->localPos();
+    m_draggedTo = event->localPos();
+    m_isDragging = event->button() == Qt::MiddleButton;
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent * event)
 {
-    QPointF const place = boardToWidget().inverted().map(event->localPos());
+    if ((event->buttons() & (Qt::LeftButton | Qt::MiddleButton)) != 0) {
+        m_isDragging = m_isDragging || (event->localPos() - m_pressedAt).manhattanLength() >=
+                                           QApplication::startDragDistance();
+        if (m_isDragging) {
+            m_port.drag(event->localPos() - m_draggedTo);
+            m_draggedTo = event->localPos();
+            changePort();
+        }
+    }
+    QPointF const place = m_port.toBoard(event->localPos());
     if (coordinate * readOut = getCoordinate(handle())) {
         readOut->x = place.x();
         readOut->y = place.y();
@@ -203,15 +342,54 @@ void BoardView::mouseMoveEvent(QMouseEvent * event)
     emit pointerMoved();
 }
 
-void BoardView::mousePressEvent(QMouseEvent * event)
+void BoardView::mouseReleaseEvent(QMouseEvent * event)
 {
-    QPointF const place = boardToWidget().inverted().map(event->localPos());
-    for (std::size_t i = m_shapes.size(); i-- > 0;) { // what was drawn last lies on top
-        if (m_features[i].kind == 'P' && m_shapes[i].path.boundingRect().contains(place)) {
-            markFeature(m_shapes[i].feature);
-            emit padPicked(m_shapes[i].feature);
+    if (event->button() == Qt::LeftButton && !m_isDragging) {
+        pickAt(event->localPos());
+    }
+    m_isDragging = false;
+}
+
+void BoardView::pickAt(QPointF pixel)
+{
+    if (int const mark = markAt(pixel, m_marks, boardToWidget()); mark >= 0) {
+        emit markPicked(mark);
+        return;
+    }
+    QPointF const place = m_port.toBoard(pixel);
+    auto const & list = shapes();
+    for (std::size_t i = list.size(); i-- > 0;) { // what was drawn last lies on top
+        if (list[i].kind == FeatureShape::Kind::Pad && list[i].box.contains(place)) {
+            markFeature(list[i].feature);
+            emit padPicked(list[i].feature);
             return;
         }
+    }
+}
+
+void BoardView::keyPressEvent(QKeyEvent * event)
+{
+    if ((event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier | Qt::ShiftModifier)) != 0) {
+        return QWidget::keyPressEvent(event);
+    }
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return pan({-panStep, 0});
+    case Qt::Key_Right:
+        return pan({panStep, 0});
+    case Qt::Key_Up:
+        return pan({0, panStep});
+    case Qt::Key_Down:
+        return pan({0, -panStep});
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // plus without Shift on many keyboards
+        return zoomIn();
+    case Qt::Key_Minus:
+        return zoomOut();
+    case Qt::Key_Home:
+        return zoomHome();
+    default:
+        return QWidget::keyPressEvent(event);
     }
 }
 

@@ -81,6 +81,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     commandLine.config = absolute(parser.value(config));
     commandLine.output = absolute(parser.value(output));
     commandLine.unit = units.indexOf(parser.value(unit));
+    commandLine.isUnitGiven = parser.isSet(unit);
     commandLine.headless = parser.isSet(headless);
     commandLine.saveFlag = parser.isSet(saveFlag);
     if (commandLine.unit < 0) {

@@ -12,6 +12,7 @@ struct CommandLine
     QString config; ///< the configuration folder; empty: a copy of the samples
     QString output; ///< where screenshots, the database and the saved form go
     int unit = 0;
+    bool isUnitGiven = false; ///< else the unit of the latest run may be used
     bool headless = false;
     bool saveFlag = false;
 };

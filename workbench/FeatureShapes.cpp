@@ -1,13 +1,15 @@
 #include "FeatureShapes.h"
 
-#include "PadFamilies.h"
+#include "SymbolPath.h"
 
 #include <QPolygonF>
-#include <QString>
 #include <QTransform>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <optional>
+#include <utility>
 
 namespace Workbench {
 
@@ -15,56 +17,50 @@ namespace {
 
 using KVCAM::API::feature_info;
 
-constexpr double micrometresPerMil = 25.4;
 constexpr double crossSize = 300; // half the arm of the cross that stands for a user-defined symbol
-
-double micrometresPer(int unit)
-{
-    return unit == 0 ? micrometresPerMil : 1;
-}
 
 QPointF toPoint(KVCAM::API::point const & point)
 {
     return {point.x, point.y};
 }
 
-QRectF centred(QSizeF size)
+// What a symbol name stands for; looked up once for each name and unit of a layer.
+struct Symbol
 {
-    return {QPointF(-size.width() / 2, -size.height() / 2), size};
-}
+    std::optional<QPainterPath> path;
+    double width = 0; // of a stroke that is drawn with it
+    bool isSquare = false;
+};
 
-QPainterPath padPath(std::string const & symbol, int unit)
+class Symbols
 {
-    QPainterPath path;
-    QSizeF const size = symbolExtent(symbol, unit);
-    if (size.isEmpty()) {
-        path.moveTo(-crossSize, 0);
-        path.lineTo(crossSize, 0);
-        path.moveTo(0, -crossSize);
-        path.lineTo(0, crossSize);
-        return path;
+public:
+    Symbol const & find(std::string const & name, int unit)
+    {
+        auto const [place, added] = m_symbols.emplace(std::pair(name, unit), Symbol());
+        if (added) {
+            Symbol & symbol = place->second;
+            symbol.path = symbolPath(name, unit);
+            QRectF const box = symbol.path.value_or(QPainterPath()).boundingRect();
+            symbol.width = std::min(box.width(), box.height());
+            symbol.isSquare = name.compare(0, 1, "s") == 0 || name.compare(0, 4, "rect") == 0;
+        }
+        return place->second;
     }
-    auto const name = parsePadName(QString::fromStdString(symbol));
-    QRectF const box = centred(size);
-    switch (name->family->outline) {
-    case PadFamily::Outline::Oval: {
-        double const radius = std::min(size.width(), size.height()) / 2;
-        path.addRoundedRect(box, radius, radius);
-        break;
-    }
-    case PadFamily::Outline::Round:
-        path.addEllipse(box);
-        break;
-    case PadFamily::Outline::Box:
-        path.addRect(box);
-        break;
-    }
-    double const hole = name->second.toDouble() * micrometresPer(unit);
-    if (name->family->second == PadFamily::Second::RoundHole) {
-        path.addEllipse(centred({hole, hole}));
-    } else if (name->family->second == PadFamily::Second::SquareHole) {
-        path.addRect(centred({hole, hole}));
-    }
+
+private:
+    std::map<std::pair<std::string, int>, Symbol> m_symbols;
+};
+
+QPainterPath const & cross()
+{
+    static QPainterPath const path = [] {
+        QPainterPath lines(QPointF(-crossSize, 0));
+        lines.lineTo(crossSize, 0);
+        lines.moveTo(0, -crossSize);
+        lines.lineTo(0, crossSize);
+        return lines;
+    }();
     return path;
 }
 
@@ -100,33 +96,54 @@ QPainterPath surfacePath(std::vector<std::vector<KVCAM::API::point>> const & out
     return path;
 }
 
-FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing)
+void placePad(FeatureShape & shape, Symbol const & symbol, KVCAM::Embedded::FeatureDrawing const & drawing)
 {
-    QSizeF const size = symbolExtent(feature.symbol, drawing.unit);
+    shape.kind = FeatureShape::Kind::Pad;
+    shape.filled = symbol.path.has_value();
+    shape.path = symbol.path.value_or(cross());
+    shape.angle = drawing.angle;
+    shape.mirrored = drawing.mirrored;
+    shape.box = shape.path.isEmpty() ? QRectF(shape.place, QSizeF()) : shape.outline().boundingRect();
+}
+
+void strokeWith(FeatureShape & shape, Symbol const & symbol)
+{
+    shape.filled = false;
+    shape.penWidth = symbol.width;
+    shape.squareEnds = symbol.isSquare;
+    double const reach = symbol.width * (symbol.isSquare ? M_SQRT1_2 : 0.5);
+    QRectF const box = shape.kind == FeatureShape::Kind::Line ? QRectF(shape.place, shape.end).normalized()
+                                                              : shape.path.boundingRect();
+    shape.box = box.adjusted(-reach, -reach, reach, reach);
+}
+
+FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing,
+                          Symbols & symbols)
+{
     auto const & points = feature.points;
     FeatureShape shape;
     shape.feature = feature.index;
     shape.unit = drawing.unit;
     shape.positive = feature.positive;
-    shape.filled = feature.kind == 'S' || (feature.kind == 'P' && !size.isEmpty());
-    shape.penWidth = shape.filled ? 0 : std::min(size.width(), size.height());
-    switch (feature.kind) {
-    case 'P': {
-        QPointF const place = toPoint(points.at(0));
-        QTransform const turned = QTransform::fromTranslate(place.x(), place.y()).rotate(-drawing.angle);
-        shape.path = turned.map(padPath(feature.symbol, drawing.unit));
-        break;
+    if (feature.kind == 'S') {
+        shape.path = surfacePath(drawing.outlines);
+        shape.box = shape.path.boundingRect();
+        return shape;
     }
-    case 'L':
-        shape.path.moveTo(toPoint(points.at(0)));
-        shape.path.lineTo(toPoint(points.at(1)));
+    Symbol const & symbol = symbols.find(feature.symbol, drawing.unit);
+    shape.place = toPoint(points.at(0));
+    switch (feature.kind) {
+    case 'P':
+        placePad(shape, symbol, drawing);
         break;
-    case 'A':
-        shape.path =
-            arcPath(toPoint(points.at(0)), toPoint(points.at(1)), toPoint(points.at(2)), drawing.clockwise);
+    case 'L':
+        shape.kind = FeatureShape::Kind::Line;
+        shape.end = toPoint(points.at(1));
+        strokeWith(shape, symbol);
         break;
     default:
-        shape.path = surfacePath(drawing.outlines);
+        shape.path = arcPath(shape.place, toPoint(points.at(1)), toPoint(points.at(2)), drawing.clockwise);
+        strokeWith(shape, symbol);
         break;
     }
     return shape;
@@ -134,23 +151,18 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
 
 } // namespace
 
-QSizeF symbolExtent(std::string const & name, int unit)
+QPainterPath FeatureShape::outline() const
 {
-    auto const parts = parsePadName(QString::fromStdString(name));
-    if (!parts) {
-        return {};
+    if (kind == Kind::Line) {
+        QPainterPath line(place);
+        line.lineTo(end);
+        return line;
     }
-    double const width = parts->first.toDouble() * micrometresPer(unit);
-    switch (parts->family->second) {
-    case PadFamily::Second::Height:
-        return {width, parts->second.toDouble() * micrometresPer(unit)};
-    case PadFamily::Second::RingGap: { // x rings x line width x line length x angle
-        double const line = parts->rest.section('x', 3, 3).toDouble() * micrometresPer(unit);
-        return {line, line};
+    if (kind == Kind::Path) {
+        return path;
     }
-    default:
-        return {width, width};
-    }
+    QTransform turned = QTransform::fromTranslate(place.x(), place.y()).rotate(-angle);
+    return turned.scale(mirrored ? -1 : 1, 1).map(path);
 }
 
 std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
@@ -158,8 +170,9 @@ std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> co
 {
     std::vector<FeatureShape> shapes;
     shapes.reserve(features.size());
+    Symbols symbols;
     for (std::size_t i = 0; i < features.size() && i < drawings.size(); ++i) {
-        shapes.push_back(featureShape(features[i], drawings[i]));
+        shapes.push_back(featureShape(features[i], drawings[i], symbols));
     }
     return shapes;
 }

@@ -4,6 +4,7 @@
 #include "CheatSheet.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
+#include "LayerTable.h"
 #include "MainWindow.h"
 #include "SymbolsPage.h"
 
@@ -17,6 +18,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPixmap>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -33,6 +36,9 @@ public:
     void take(QWidget & widget, QString const & name)
     {
         QApplication::processEvents(); // layouts settle before the picture is taken
+        for (auto * view : widget.findChildren<BoardView *>()) {
+            view->finishPicture();
+        }
         QString const path = m_folder.filePath(name);
         if (widget.grab().save(path)) {
             m_pictures.append(path);
@@ -206,6 +212,26 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     return facts;
 }
 
+// All layers together, the whole board and then a pad of the selected layer from near.
+void showPicture(MainWindow & window, Camera & camera)
+{
+    auto & layers = *window.findChild<LayerTable *>();
+    BoardView & view = *window.currentView();
+    layers.tickAll(true);
+    camera.take(window, "board-whole.png");
+    auto const & shapes = view.shapes();
+    auto const pad = std::find_if(shapes.begin(), shapes.end(), [](FeatureShape const & shape) {
+        return shape.kind == FeatureShape::Kind::Pad;
+    });
+    if (pad != shapes.end()) {
+        view.centreOn(pad->place.x(), pad->place.y());
+    }
+    view.zoomIn();
+    camera.take(window, "board-zoomed.png");
+    layers.tickAll(false);
+    view.zoomHome();
+}
+
 QJsonObject configuration()
 {
     QJsonArray templates;
@@ -242,6 +268,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     }
     setStepConfigToAPI(window.currentView()->handle());
     camera.take(window, "workbench.png");
+    showPicture(window, camera);
     for (QString const page : {"symbols", "settings", "templates", "attributes"}) {
         window.showPage(page);
         camera.take(window, page + ".png");

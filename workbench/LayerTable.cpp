@@ -1,15 +1,20 @@
 #include "LayerTable.h"
 
+#include "LayerPicture.h"
 #include "TableTools.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace Workbench {
 
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
-    prepareTable(*this, {tr("Row"), tr("Name"), tr("Context"), tr("Type"), tr("Polarity"), tr("Features")});
+    prepareTable(*this, {{}, {}, {}, {}, {}, {}});
+    setTitles();
     setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
@@ -18,12 +23,25 @@ LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
             emit layerSelected(row);
         }
     });
+    connect(this, &QTableWidget::itemChanged, this, [this](QTableWidgetItem const * item) {
+        if (item->column() == 0) {
+            emit ticksChanged();
+        }
+    });
+}
+
+void LayerTable::setTitles()
+{
+    setHorizontalHeaderLabels(
+        {tr("Row"), tr("Name"), tr("Context"), tr("Type"), tr("Polarity"), tr("Features")});
+    horizontalHeaderItem(0)->setToolTip(tr("Ticked layers are drawn beside the selected one (Space)"));
 }
 
 void LayerTable::show(Session const & session, std::size_t step)
 {
     QSignalBlocker const blocker(this);
     int const selected = currentRow();
+    std::vector<std::size_t> const ticked = tickedLayers();
     setRowCount(0);
     for (Session::Layer const & layer : session.layers()) {
         bool const isCounted = step < layer.features.size();
@@ -32,7 +50,12 @@ void LayerTable::show(Session const & session, std::size_t step)
                {QString::number(layer.info.row), QString::fromStdString(layer.info.name),
                 QString::fromStdString(layer.info.context), QString::fromStdString(layer.info.type),
                 QString::fromStdString(layer.info.polarity), features ? QString::number(*features) : "?"},
-               {0, 5});
+               {5});
+        QTableWidgetItem & tick = *item(rowCount() - 1, 0);
+        bool const isTicked =
+            std::binary_search(ticked.begin(), ticked.end(), static_cast<std::size_t>(rowCount() - 1));
+        tick.setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
+        tick.setData(Qt::DecorationRole, layerColour(layer.info));
         QString const error = isCounted ? layer.errors[step] : tr("not counted, since reading was stopped");
         QTableWidgetItem & cell = *item(rowCount() - 1, 5);
         if (!error.isEmpty()) {
@@ -43,6 +66,49 @@ void LayerTable::show(Session const & session, std::size_t step)
         }
     }
     setCurrentCell(selected, 0);
+}
+
+std::vector<std::size_t> LayerTable::tickedLayers() const
+{
+    std::vector<std::size_t> ticked;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (item(row, 0)->checkState() == Qt::Checked) {
+            ticked.push_back(static_cast<std::size_t>(row));
+        }
+    }
+    return ticked;
+}
+
+void LayerTable::tickAll(bool on)
+{
+    {
+        QSignalBlocker const blocker(this);
+        for (int row = 0; row < rowCount(); ++row) {
+            if (!isRowHidden(row)) {
+                item(row, 0)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
+            }
+        }
+    }
+    viewport()->update();
+    emit ticksChanged();
+}
+
+void LayerTable::keyPressEvent(QKeyEvent * event)
+{
+    if (event->key() == Qt::Key_Space && currentRow() >= 0) {
+        QTableWidgetItem & tick = *item(currentRow(), 0);
+        tick.setCheckState(tick.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        return;
+    }
+    QTableWidget::keyPressEvent(event);
+}
+
+void LayerTable::changeEvent(QEvent * event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTitles();
+    }
+    QTableWidget::changeEvent(event);
 }
 
 } // namespace Workbench

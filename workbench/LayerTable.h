@@ -4,23 +4,38 @@
 
 #include <QTableWidget>
 
+#include <cstddef>
+#include <vector>
+
 namespace Workbench {
 
-/// The layers of the job in matrix order.
+/// The layers of the job in matrix order, each with a tick for drawing it beside the selected one. The tick
+/// of the selected layer is switched with Space, too.
 class LayerTable : public QTableWidget
 {
     Q_OBJECT
 
 public:
     explicit LayerTable(QWidget * parent = nullptr);
-    /// Shows the layers with their feature counts in one step.
+    /// Shows the layers with their feature counts in one step; ticks stay.
     void show(Session const & session, std::size_t step);
     /// The index of the selected layer, -1 for none.
     int selectedLayer() const { return currentRow(); }
+    /// The indices of the ticked layers, ascending.
+    std::vector<std::size_t> tickedLayers() const;
+    void tickAll(bool on);
     using QTableWidget::show;
 
 signals:
     void layerSelected(int index);
+    void ticksChanged();
+
+protected:
+    void keyPressEvent(QKeyEvent * event) override;
+    void changeEvent(QEvent * event) override;
+
+private:
+    void setTitles();
 };
 
 } // namespace Workbench

@@ -30,6 +30,8 @@ void LogLines::send(google::LogSeverity severity, char const * /*fullFilename*/,
 LogPane::LogPane(LogLines const & log, QWidget * parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
     setMaximumBlockCount(10000);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     for (QString const & line : log.lines()) {

@@ -6,15 +6,17 @@
 #include "EnginePane.h"
 #include "FeatureDialog.h"
 #include "HotkeyCommands.h"
+#include "LanguageChange.h"
 #include "LayerTable.h"
 #include "LogPane.h"
 #include "SettingsPage.h"
 #include "SymbolsPage.h"
 #include "TemplatesPage.h"
+#include "WindowState.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QGroupBox>
+#include <QEvent>
 #include <QLabel>
 #include <QSplitter>
 #include <QStatusBar>
@@ -23,20 +25,14 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <cmath>
+#include <utility>
+
 namespace Workbench {
 
 namespace {
 
 using namespace KVCAM::UIAPI;
-
-QWidget * titled(QString const & title, QWidget * content)
-{
-    auto * box = new QGroupBox(title);
-    auto * layout = new QVBoxLayout(box);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->addWidget(content);
-    return box;
-}
 
 } // namespace
 
@@ -45,26 +41,30 @@ MainWindow::MainWindow(Session const & session, LogLines const & log, CommandLin
     , m_database(commandLine.output + "/uiapi-engine.sqlite")
     , m_formFile(commandLine.output + "/feature-form.json")
 {
-    setWindowTitle(tr("%1 - UIAPICommon workbench").arg(QString::fromStdString(session.job())));
     resize(1440, 900);
     makeToolBar();
     m_saveFlag->setChecked(commandLine.saveFlag); // before the views, so that their registration is recorded
     makeViews(commandLine.unit);
     m_pages = new QTabWidget;
     setCentralWidget(m_pages);
-    addPage(makeBoardPage(log), "board", tr("Board"));
+    addPage(makeBoardPage(log), "board", QT_TR_NOOP("&Board"));
     addPages();
+    makeMenus();
 
-    m_pointer = new QLabel(tr("Move the pointer over the board"));
+    m_pointer = new QLabel;
+    m_zoom = new QLabel;
     statusBar()->addWidget(m_pointer, 1);
+    statusBar()->addPermanentWidget(m_zoom);
     statusBar()->addPermanentWidget(new QLabel(session.directory()));
 
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &MainWindow::refreshUnit);
     connect(m_pages, &QTabWidget::currentChanged, m_engine, &EnginePane::refresh);
     connect(m_steps, &QTabWidget::currentChanged, this, &MainWindow::showStep);
     connect(m_layers, &LayerTable::layerSelected, this, &MainWindow::showLayer);
+    connect(m_layers, &LayerTable::ticksChanged, this, &MainWindow::showTicked);
     showStep();
     addHotkeys();
+    setTexts();
 }
 
 BoardView * MainWindow::currentView() const
@@ -87,8 +87,12 @@ void MainWindow::makeViews(int unit)
 {
     for (Session::Step const & step : m_session.steps()) {
         auto * view = new BoardView(m_session.job(), step.name, unit, this);
-        connect(view, &BoardView::pointerMoved, this, &MainWindow::showPointer);
+        connect(view, &BoardView::pointerMoved, this, [this] {
+            m_hasPointed = true;
+            showPointer();
+        });
         connect(view, &BoardView::padPicked, this, &MainWindow::openFeature);
+        connect(view, &BoardView::portChanged, this, &MainWindow::showZoom);
         m_views.push_back(view);
     }
 }
@@ -97,28 +101,38 @@ QWidget * MainWindow::makeBoardPage(LogLines const & log)
 {
     m_steps = new QTabWidget;
     for (BoardView * view : m_views) {
-        m_steps->addTab(view, tr("Step %1").arg(QString::fromStdString(view->step())));
+        m_steps->addTab(view, QString());
     }
+    m_texts.emplace_back([this] {
+        for (std::size_t i = 0; i < m_views.size(); ++i) {
+            m_steps->setTabText(static_cast<int>(i),
+                                tr("Step %1").arg(QString::fromStdString(m_views[i]->step())));
+        }
+    });
     m_outline = new QLabel;
     m_outline->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_layers = new LayerTable;
     m_engine = new EnginePane;
 
     auto * sides = new QSplitter(Qt::Horizontal);
-    sides->addWidget(titled(tr("Layers"), m_layers));
+    sides->setObjectName("sides");
+    sides->setChildrenCollapsible(false);
+    sides->addWidget(titled(QT_TR_NOOP("Layers"), m_layers));
     auto * middle = new QWidget;
     auto * layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_outline);
     layout->addWidget(m_steps, 1);
     sides->addWidget(middle);
-    sides->addWidget(titled(tr("What the engine was told"), m_engine));
+    sides->addWidget(titled(QT_TR_NOOP("What the engine was told"), m_engine));
     sides->setStretchFactor(1, 1);
-    sides->setSizes({680, 490, 270});
+    sides->setSizes({560, 640, 240});
 
     auto * page = new QSplitter(Qt::Vertical);
+    page->setObjectName("board and log");
+    page->setChildrenCollapsible(false);
     page->addWidget(sides);
-    page->addWidget(titled(tr("Log"), new LogPane(log)));
+    page->addWidget(titled(QT_TR_NOOP("Log"), new LogPane(log)));
     page->setStretchFactor(0, 1);
     page->setSizes({680, 140});
     return page;
@@ -126,42 +140,47 @@ QWidget * MainWindow::makeBoardPage(LogLines const & log)
 
 void MainWindow::makeToolBar()
 {
-    QToolBar * bar = addToolBar(tr("View"));
-    bar->setMovable(false);
-    m_unit = bar->addAction(QString());
-    m_unit->setToolTip(tr("Switches the unit of the shown step's view"));
-    connect(m_unit, &QAction::triggered, this,
-            [this] { setUnit(currentView()->handle(), getUnit(currentView()->handle()) == 0 ? 1 : 0); });
-    m_saveFlag = bar->addAction(tr("Save flag"));
+    m_bar = addToolBar(QString());
+    m_bar->setObjectName("tools");
+    m_bar->setMovable(false);
+    m_bar->toggleViewAction()->setVisible(false);
+    m_unit = m_bar->addAction(QString());
+    m_unit->setShortcut(Qt::Key_F5);
+    connect(m_unit, &QAction::triggered, this, &MainWindow::switchUnit);
+    m_saveFlag = m_bar->addAction(QString());
     m_saveFlag->setCheckable(true);
-    m_saveFlag->setToolTip(tr("Makes the engine write what it is told to %1 as well").arg(m_database));
     connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
-    QAction * feature = bar->addAction(tr("Feature"));
-    feature->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
-    connect(feature, &QAction::triggered, this, &MainWindow::openFirstPad);
-    QAction * keys = bar->addAction(tr("Keys"), this, &MainWindow::showKeys);
-    keys->setShortcut(Qt::Key_F1);
-    keys->setToolTip(tr("Shows the hot keys and judges your own file of them (F1)"));
-    auto * language = new QComboBox;
-    language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
-    language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
-    language->setToolTip(tr("Language of the library's texts"));
-    connect(language, QOverload<int>::of(&QComboBox::activated), this,
-            [this, language] { setLanguage(static_cast<LANGUAGE_MODE>(language->currentData().toInt())); });
-    bar->addSeparator();
-    bar->addWidget(language);
-    for (auto * button : bar->findChildren<QToolButton *>()) {
+    m_featureAction = m_bar->addAction(QString());
+    m_featureAction->setShortcut(Qt::Key_F4);
+    connect(m_featureAction, &QAction::triggered, this, &MainWindow::openFirstPad);
+    m_language = new QComboBox;
+    m_language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
+    m_language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
+    connect(m_language, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { setLanguage(static_cast<LANGUAGE_MODE>(m_language->currentData().toInt())); });
+    m_bar->addSeparator();
+    m_bar->addWidget(m_language);
+    for (auto * button : m_bar->findChildren<QToolButton *>()) {
         button->setAutoRaise(false);
     }
+    m_texts.emplace_back([this] {
+        m_bar->setWindowTitle(tr("View"));
+        m_unit->setToolTip(tr("Switches the unit of the shown step's view"));
+        m_saveFlag->setText(tr("&Save flag"));
+        m_saveFlag->setToolTip(tr("Makes the engine write what it is told to %1 as well").arg(m_database));
+        m_featureAction->setText(tr("&Feature"));
+        m_featureAction->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
+        m_language->setToolTip(tr("Language of all texts"));
+    });
 }
 
 void MainWindow::addPages()
 {
     m_symbols = new SymbolsPage(m_session.job(), m_views.front()->handle());
-    addPage(m_symbols, "symbols", tr("Symbols"));
-    addPage(new SettingsPage, "settings", tr("Settings"));
-    addPage(new TemplatesPage, "templates", tr("Templates"));
-    addPage(new AttributesPage, "attributes", tr("Attributes"));
+    addPage(m_symbols, "symbols", QT_TR_NOOP("S&ymbols"));
+    addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
+    addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
+    addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
 }
 
 void MainWindow::addHotkeys()
@@ -187,7 +206,14 @@ CheatSheet * MainWindow::showKeys()
 
 void MainWindow::refresh()
 {
+    currentView()->reload();
     showStep();
+}
+
+void MainWindow::undoLast()
+{
+    undo(QString::fromStdString(m_session.job()), QString::fromStdString(currentView()->step()), this);
+    refresh();
 }
 
 FeatureDialog * MainWindow::openFeature(int feature)
@@ -212,6 +238,11 @@ void MainWindow::closeFeature()
 void MainWindow::closeEvent(QCloseEvent * event)
 {
     closeFeature(); // which saves its form
+    if (!m_stateFile.isEmpty()) {
+        bool const chinese = m_language->currentData().toInt() == LANGUAGE_CHINESE;
+        keepWindow(*this, {m_pages->currentWidget()->objectName(), getUnit(currentView()->handle()), chinese},
+                   m_stateFile);
+    }
     QMainWindow::closeEvent(event);
 }
 
@@ -239,14 +270,55 @@ int MainWindow::firstPad() const
 
 void MainWindow::setLanguage(LANGUAGE_MODE language)
 {
-    setCurrentLanguageMode(language); // for the modules that ask; the next call changes the texts
-    Ext::installTranslation(language);
+    m_language->setCurrentIndex(m_language->findData(static_cast<int>(language)));
+    if (!showChinese(language == LANGUAGE_CHINESE)) {
+        LOG(ERROR) << "workbench: there are no texts in this language";
+    }
 }
 
+void MainWindow::useStateFile(QString const & file, bool keepsUnit)
+{
+    m_stateFile = file;
+    auto const choices = restoreWindow(*this, file);
+    if (!choices) {
+        return;
+    }
+    showPage(choices->page);
+    for (BoardView const * view : m_views) {
+        if (!keepsUnit && getUnit(view->handle()) != choices->unit) {
+            setUnit(view->handle(), choices->unit);
+        }
+    }
+    setLanguage(choices->chinese ? LANGUAGE_CHINESE : LANGUAGE_ENGLISH);
+}
+
+void MainWindow::changeEvent(QEvent * event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTexts();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::setTexts()
+{
+    setWindowTitle(tr("%1 - UIAPICommon workbench").arg(QString::fromStdString(m_session.job())));
+    for (auto const & set : m_texts) {
+        set();
+    }
+    m_layers->show(m_session, static_cast<std::size_t>(m_steps->currentIndex()));
+    refreshUnit();
+    showPointer();
+    showZoom();
+}
+
+// A title is given untranslated; the mnemonic in it brings the page to the front.
 void MainWindow::addPage(QWidget * page, QString const & name, QString const & title)
 {
     page->setObjectName(name);
-    m_pages->addTab(page, title);
+    int const index = m_pages->addTab(page, title);
+    m_texts.emplace_back(
+        [this, index, title] { m_pages->setTabText(index, tr(title.toUtf8().constData())); });
 }
 
 void MainWindow::showStep()
@@ -257,10 +329,12 @@ void MainWindow::showStep()
     } else {
         showLayer(m_layers->selectedLayer());
     }
+    showTicked();
     setStepConfigToAPI(currentView()->handle()); // the engine holds the state of the view in front
     m_engine->refresh();
     m_symbols->setView(currentView()->handle());
     refreshUnit();
+    showZoom();
 }
 
 void MainWindow::showLayer(int layer)
@@ -271,24 +345,49 @@ void MainWindow::showLayer(int layer)
     }
 }
 
+void MainWindow::showTicked()
+{
+    std::vector<layer_info> layers;
+    for (std::size_t const index : m_layers->tickedLayers()) {
+        layers.push_back(m_session.layers().at(index).info);
+    }
+    currentView()->showBeside(std::move(layers));
+}
+
 void MainWindow::showPointer()
 {
     BoardView const * view = currentView();
-    if (coordinate const * place = getCoordinate(view->handle())) {
-        m_pointer->setText(view->positionText(place->x, place->y));
-    }
+    coordinate const * place = getCoordinate(view->handle());
+    bool const isKnown = place != nullptr && m_hasPointed;
+    m_pointer->setText(isKnown ? view->positionText(place->x, place->y) + "   " +
+                                     view->finePositionText(place->x, place->y)
+                               : tr("Move the pointer over the board"));
+}
+
+void MainWindow::showZoom()
+{
+    m_zoom->setText(tr("Zoom %1 %").arg(std::lround(currentView()->zoom() * 100)));
 }
 
 void MainWindow::refreshUnit()
 {
     BoardView const * view = currentView();
-    m_unit->setText(tr("Unit: %1").arg(QString::fromStdString(getUnitString(view->handle()))));
+    m_unit->setText(tr("&Unit: %1").arg(QString::fromStdString(getUnitString(view->handle()))));
     auto const & outline = m_session.steps()[static_cast<std::size_t>(m_steps->currentIndex())].outline;
     m_outline->setText(
         outline ? tr("Board outline of step %1: %2")
                       .arg(QString::fromStdString(view->step()),
                            view->sizeText(outline->right - outline->left, outline->top - outline->bottom))
                 : tr("Step %1 has no profile").arg(QString::fromStdString(view->step())));
+    if (m_pointer != nullptr) {
+        showPointer();
+    }
+}
+
+void MainWindow::switchUnit()
+{
+    void const * view = currentView()->handle();
+    setUnit(view, getUnit(view) == 0 ? 1 : 0);
 }
 
 void MainWindow::switchSaveFlag(bool on)

@@ -7,12 +7,15 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <vector>
 
 class QAction;
 class QComboBox;
 class QLabel;
+class QMenu;
 class QTabWidget;
+class QToolBar;
 
 namespace Workbench {
 
@@ -41,26 +44,43 @@ public:
     FeatureDialog * openFeature(int feature);
     /// The first pad of the shown layer whose symbol has sizes; -1 if there is none.
     int firstPad() const;
-    /// Shows the library's texts in a language.
+    /// Shows all texts in a language.
     void setLanguage(KVCAM::UIAPI::LANGUAGE_MODE language);
-    /// Shows the step in front and its state anew.
+    /// Reads the step in front again and shows its state anew.
     void refresh();
+    /// Takes the latest operation on the step in front back; the library asks first.
+    void undoLast();
     /// Shows the hot keys. Owned by the window.
     CheatSheet * showKeys();
+    /// Brings the window back as it was kept in a file, and keeps it there when it is closed. The unit is
+    /// left alone when `keepsUnit`.
+    void useStateFile(QString const & file, bool keepsUnit);
 
 protected:
     void closeEvent(QCloseEvent * event) override;
+    void changeEvent(QEvent * event) override;
 
 private:
     void makeViews(int unit);
     QWidget * makeBoardPage(LogLines const & log);
+    void makeMenus();
     void makeToolBar();
+    QMenu * addMenu(char const * text);
+    QAction * addEntry(QMenu & menu, char const * text, char const * key, std::function<void()> act);
+    QWidget * titled(char const * title, QWidget * content);
+    void listPages();
+    void setTexts();
     void addPages();
     void addHotkeys();
     void addPage(QWidget * page, QString const & name, QString const & title);
     void showStep();
     void showLayer(int layer);
+    void showTicked();
     void showPointer();
+    void showZoom();
+    void showHelp();
+    void showAbout();
+    void switchUnit();
     void openFirstPad();
     void closeFeature();
     void refreshUnit();
@@ -79,8 +99,16 @@ private:
     CheatSheet * m_keys = nullptr;
     QLabel * m_outline = nullptr;
     QLabel * m_pointer = nullptr;
+    QLabel * m_zoom = nullptr;
     QAction * m_unit = nullptr;
     QAction * m_saveFlag = nullptr;
+    QAction * m_featureAction = nullptr;
+    bool m_hasPointed = false; ///< whether the pointer was over a board yet
+    QToolBar * m_bar = nullptr;
+    QComboBox * m_language = nullptr;
+    QMenu * m_pageMenu = nullptr;
+    std::vector<std::function<void()>> m_texts; ///< each sets what is to be told in another language
+    QString m_stateFile;                        ///< empty: the state is not kept
 };
 
 } // namespace Workbench

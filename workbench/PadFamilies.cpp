@@ -9,38 +9,35 @@ namespace Workbench {
 
 namespace {
 
-using Outline = PadFamily::Outline;
-using Second = PadFamily::Second;
-
 constexpr PadFamily families[] = {
-    {"r", Outline::Round, Second::None},
-    {"s", Outline::Box, Second::None},
-    {"rect", Outline::Box, Second::Height},
-    {"oval", Outline::Oval, Second::Height},
-    {"oval_h", Outline::Oval, Second::Height},
-    {"di", Outline::Box, Second::Height},
-    {"oct", Outline::Box, Second::Height},
-    {"el", Outline::Round, Second::Height},
-    {"tri", Outline::Box, Second::Height},
-    {"bfr", Outline::Round, Second::None},
-    {"bfs", Outline::Box, Second::None},
-    {"hex_l", Outline::Box, Second::Height},
-    {"hex_s", Outline::Box, Second::Height},
-    {"hole", Outline::Round, Second::None},
-    {"donut_r", Outline::Round, Second::RoundHole},
-    {"donut_s", Outline::Box, Second::SquareHole},
-    {"donut_sr", Outline::Box, Second::RoundHole, false},
-    {"donut_o", Outline::Oval, Second::Height, false},
-    {"donut_rc", Outline::Box, Second::Height, false},
-    {"thr", Outline::Round, Second::RoundHole},
-    {"ths", Outline::Round, Second::RoundHole},
-    {"sr_ths", Outline::Box, Second::RoundHole},
-    {"s_ths", Outline::Box, Second::SquareHole},
-    {"s_tho", Outline::Box, Second::SquareHole, false},
-    {"rc_ths", Outline::Box, Second::Height},
-    {"rc_tho", Outline::Box, Second::Height, false},
-    {"o_ths", Outline::Oval, Second::Height, false},
-    {"moire", Outline::Round, Second::RingGap},
+    {"r", false},
+    {"s", false},
+    {"rect", true},
+    {"oval", true},
+    {"oval_h", true},
+    {"di", true},
+    {"oct", true},
+    {"el", true},
+    {"tri", true},
+    {"bfr", false},
+    {"bfs", false},
+    {"hex_l", true},
+    {"hex_s", true},
+    {"hole", false},
+    {"donut_r", true},
+    {"donut_s", true},
+    {"donut_sr", true, false},
+    {"donut_o", true, false},
+    {"donut_rc", true, false},
+    {"thr", true},
+    {"ths", true},
+    {"sr_ths", true},
+    {"s_ths", true},
+    {"s_tho", true, false},
+    {"rc_ths", true},
+    {"rc_tho", true, false},
+    {"o_ths", true, false},
+    {"moire", true},
 };
 
 } // namespace
@@ -58,7 +55,7 @@ std::optional<PadName> parsePadName(QString const & name)
         return prefix == QLatin1String(row.prefix);
     });
     bool const hasStraySize =
-        family != std::end(families) && family->second == Second::None && !parts.captured(3).isEmpty();
+        family != std::end(families) && !family->hasSecond && !parts.captured(3).isEmpty();
     if (family == std::end(families) || hasStraySize) {
         return std::nullopt;
     }

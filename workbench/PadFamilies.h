@@ -6,27 +6,11 @@
 
 namespace Workbench {
 
-/// A family of standard symbols, as far as a picture and a size field need it.
+/// A family of standard symbols, as far as its names go.
 struct PadFamily
 {
-    enum class Outline
-    {
-        Round,
-        Oval,
-        Box
-    };
-    enum class Second ///< what the second size is
-    {
-        None,
-        Height,
-        RoundHole,
-        SquareHole,
-        RingGap ///< of a moire, whose first size is a ring's width
-    };
-
     char const * prefix;
-    Outline outline;
-    Second second;
+    bool hasSecond;          ///< whether a second size follows the first
     bool isConverted = true; ///< whether the library turns its names from one unit into the other
 };
 

@@ -63,7 +63,7 @@ bool PadSymbol::hasWidth() const
 bool PadSymbol::hasHeight() const
 {
     auto const parts = sizedName(m_name);
-    return parts && parts->family->second != PadFamily::Second::None;
+    return parts && parts->family->hasSecond;
 }
 
 QString PadSymbol::in(int otherUnit) const

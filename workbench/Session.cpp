@@ -64,11 +64,11 @@ void Session::countFeatures(Layer & layer) const
     layer.features.clear();
     layer.errors.clear();
     for (Step const & step : m_steps) {
-        auto const features = KVCAM::Embedded::features(m_job, step.name, layer.info.name);
+        int const features = KVCAM::Embedded::featureCount(m_job, step.name, layer.info.name);
         QStringList errors{readingError()};
         bool const isKnown =
-            errors.first().isEmpty() && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
-        layer.features.push_back(isKnown ? std::optional(static_cast<int>(features.size())) : std::nullopt);
+            features >= 0 && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
+        layer.features.push_back(isKnown ? std::optional(features) : std::nullopt);
         KVCAM::Embedded::tools(m_job, step.name, layer.info.name);
         errors.append(readingError());
         errors.removeAll(QString());

@@ -26,6 +26,7 @@ void prepareTable(QTableWidget & table, QStringList const & titles)
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
     table.setAlternatingRowColors(true);
+    table.setTabKeyNavigation(false); // Tab leaves the table, the arrows move in it
 }
 
 void wrapLastColumn(QTableWidget & table)

@@ -2,6 +2,7 @@
 
 #include "TableTools.h"
 
+#include <QDir>
 #include <QFile>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -36,6 +37,18 @@ QString shownFile(QString const & file)
     return "autoMatrix/" + file + ".json";
 }
 
+QString userTemplatePath(QString const & file)
+{
+    return QDir::currentPath() + '/' + shownFile(file);
+}
+
+// Whether the file holds what the library has under the index: it is silent about a save that failed.
+bool isStored(int index, QString const & file)
+{
+    auto const stored = Ext::autoMatrixFile(index);
+    return stored && stored->isStored && stored->name == file;
+}
+
 bool isSameFile(QString const & a, QString const & b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0; // some file systems know no case
@@ -43,8 +56,7 @@ bool isSameFile(QString const & a, QString const & b)
 
 } // namespace
 
-TemplatesPage::TemplatesPage(QWidget * parent)
-    : QWidget(parent), m_files(userTemplates(getAutoMatrixTmpMap()))
+TemplatesPage::TemplatesPage(QWidget * parent) : QWidget(parent)
 {
     m_list = makeTable({tr("Index"), tr("Name"), tr("Current")});
     m_list->horizontalHeader()->setStretchLastSection(false);
@@ -138,25 +150,24 @@ void TemplatesPage::showSelected()
 
 void TemplatesPage::describeFile(int index)
 {
-    auto const file = m_files.find(index);
+    auto const file = Ext::autoMatrixFile(index);
     if (index < 0) {
         m_hint->clear();
-    } else if (ownFile(index) != nullptr) {
-        m_hint->setText(tr("Save and Delete change the file \"%1\".").arg(shownFile(file->second.file)));
+    } else if (file && file->isAlone) {
+        m_hint->setText(tr("Save and Delete change the file \"%1\".").arg(shownFile(file->name)));
     } else {
         QString const origin =
-            file == m_files.end()
-                ? tr("This template is a shipped one.")
-                : tr("This template shares the file \"%1\" with others.").arg(shownFile(file->second.file));
+            file ? tr("This template shares the file \"%1\" with others.").arg(shownFile(file->name))
+                 : tr("This template is a shipped one.");
         m_hint->setText(origin + ' ' +
                         tr("Save makes a copy of it under a new index; Delete lasts until the next start."));
     }
 }
 
-UserTemplate const * TemplatesPage::ownFile(int index) const
+std::optional<QString> TemplatesPage::ownFile(int index)
 {
-    auto const file = m_files.find(index);
-    return file != m_files.end() && file->second.isAlone ? &file->second : nullptr;
+    auto const file = Ext::autoMatrixFile(index);
+    return file && file->isAlone ? std::optional(file->name) : std::nullopt;
 }
 
 AutoMatrixTmp TemplatesPage::edited() const
@@ -179,13 +190,13 @@ void TemplatesPage::select()
 void TemplatesPage::save()
 {
     int const index = selectedIndex();
-    UserTemplate const * own = ownFile(index);
-    if (own == nullptr) {
+    auto const own = ownFile(index);
+    if (!own) {
         saveAsNew();
         return;
     }
     AutoMatrixTmp const tmpl = edited();
-    QString const old = own->file; // which may be called otherwise than its template
+    QString const old = *own; // which may be called otherwise than its template
     bool const isRenamed = getAutoMatrixTmpMap()[index].name != tmpl.name;
     QString const file = isRenamed && !isSameFile(fileName(tmpl), old) ? fileName(tmpl) : old;
     if (file != old && refuseUsedFile(file)) {
@@ -193,12 +204,11 @@ void TemplatesPage::save()
     }
     saveCurrentAutoMatrixTmp(index, file, tmpl);
     // The old file, which would come back at the next start, goes only when the new one is whole.
-    if (file != old && isStored(tmpl, file)) {
+    if (file != old && isStored(index, file)) {
         deleteAutoMatrix(noIndex, old);
-        m_files[index] = {file, true};
     }
     refreshList(index);
-    checkStored(tmpl, file);
+    checkStored(index, file);
 }
 
 void TemplatesPage::saveAsNew()
@@ -215,14 +225,13 @@ void TemplatesPage::saveAsNew()
         return;
     }
     saveCurrentAutoMatrixTmp(index, file, tmpl);
-    m_files[index] = {file, true};
     refreshList(index);
-    checkStored(tmpl, file);
+    checkStored(index, file);
 }
 
-void TemplatesPage::checkStored(AutoMatrixTmp const & tmpl, QString const & file)
+void TemplatesPage::checkStored(int index, QString const & file)
 {
-    if (!isStored(tmpl, file)) {
+    if (!isStored(index, file)) {
         m_hint->setText(tr("The file \"%1\" was not saved; what you see lasts until the next start.")
                             .arg(shownFile(file)));
     }
@@ -230,10 +239,13 @@ void TemplatesPage::checkStored(AutoMatrixTmp const & tmpl, QString const & file
 
 bool TemplatesPage::refuseUsedFile(QString const & file)
 {
+    auto const templates = getAutoMatrixTmpMap();
     bool const isUsed = // a file that holds no template the library took is not overwritten either
         QFile::exists(userTemplatePath(file)) ||
-        std::any_of(m_files.begin(), m_files.end(),
-                    [&file](auto const & entry) { return isSameFile(entry.second.file, file); });
+        std::any_of(templates.begin(), templates.end(), [&file](auto const & entry) {
+            auto const used = Ext::autoMatrixFile(entry.first);
+            return used && isSameFile(used->name, file);
+        });
     if (isUsed) {
         tell(tr("The file \"%1\" is there already. Choose another name.").arg(shownFile(file)));
     }
@@ -251,13 +263,12 @@ void TemplatesPage::remove()
     if (index < 0) {
         return;
     }
-    UserTemplate const * own = ownFile(index);
-    QString const file = own != nullptr ? own->file : noFile;
+    auto const own = ownFile(index);
+    QString const file = own.value_or(noFile);
     deleteAutoMatrix(index, file);
-    if (own != nullptr && QFile::exists(userTemplatePath(file))) {
+    if (own && QFile::exists(userTemplatePath(file))) {
         tell(tr("The file \"%1\" cannot be deleted.").arg(shownFile(file)));
     }
-    m_files.erase(index);
     auto const left = getAutoMatrixTmpMap();
     refreshList(left.empty() ? -1 : left.begin()->first);
 }

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "UserTemplates.h"
-
 #include <UIAPICommon.h>
 
 #include <QWidget>
 
 #include <array>
-#include <map>
+#include <optional>
 
 class QLabel;
 class QLineEdit;
@@ -37,10 +35,10 @@ private:
     void saveAsNew();
     void remove();
     void describeFile(int index);
-    /// The file of a template that stands alone in one; null for every other.
-    UserTemplate const * ownFile(int index) const;
+    /// The file of a template that stands alone in one; nothing for every other.
+    static std::optional<QString> ownFile(int index);
     bool refuseUsedFile(QString const & file);
-    void checkStored(KVCAM::UIAPI::AutoMatrixTmp const & tmpl, QString const & file);
+    void checkStored(int index, QString const & file);
     void tell(QString const & text);
 
     QTableWidget * m_list;
@@ -49,7 +47,6 @@ private:
     QLineEdit * m_name = nullptr;
     std::array<QLineEdit *, KVCAM::UIAPI::Ext::autoMatrixRoles.size()> m_prefixes{};
     std::array<QLineEdit *, KVCAM::UIAPI::Ext::autoMatrixRoles.size()> m_suffixes{};
-    std::map<int, UserTemplate> m_files; ///< by index
 };
 
 } // namespace Workbench

@@ -106,6 +106,7 @@ int main(int argc, char ** argv)
 
     Workbench::MainWindow window(session, log, commandLine);
     if (!headless) {
+        window.useStateFile(Workbench::configurationDirectory() + "/workbench.ini", commandLine.isUnitGiven);
         window.show();
         return QApplication::exec();
     }

@@ -132,14 +132,33 @@ int AutoMatrixStore::getAutomatrixMatrixIndex(QString const & name) const
 void AutoMatrixStore::saveCurrentAutoMatrixTmp(int index, QString const & name, AutoMatrixTmp const & tmpl)
 {
     m_templates.insert_or_assign(index, tmpl);
-    saveAutoMatrixtoJson(name, tmpl);
+    if (saveAutoMatrixtoJson(name, tmpl)) {
+        forgetContent(name);
+        m_files[index] = {name, true, true};
+    } else if (auto const file = m_files.find(index); file != m_files.end()) {
+        file->second.isStored = false;
+    }
+}
+
+std::optional<Ext::AutoMatrixFile> AutoMatrixStore::autoMatrixFile(int index) const
+{
+    auto const file = m_files.find(index);
+    return file == m_files.end() ? std::nullopt : std::optional(file->second);
+}
+
+void AutoMatrixStore::forgetContent(QString const & name)
+{
+    for (auto & [index, file] : m_files) {
+        file.isStored = file.isStored && file.name != name;
+    }
 }
 
 void AutoMatrixStore::deleteAutoMatrix(int index, QString const & name)
 {
     m_templates.erase(index);
-    if (isTemplateFileName(name)) {
-        QFile::remove(userFile(name));
+    m_files.erase(index);
+    if (isTemplateFileName(name) && QFile::remove(userFile(name))) {
+        forgetContent(name);
     }
 }
 
@@ -156,12 +175,18 @@ void AutoMatrixStore::getAutoMatrixUserTmpFromJson()
     if (!QFileInfo(folder).isDir()) {
         return;
     }
+    int const shippedEnd = m_templates.empty() ? 0 : m_templates.rbegin()->first + 1;
     int index = firstUserIndex; // one count over all files
     // Hidden ones too: a template may be called ".x".
     QFileInfoList const files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Name);
     for (QFileInfo const & file : files) {
-        if (file.suffix() == QLatin1String("json")) {
-            readAutoMatrixFromJson(file.filePath(), index);
+        if (file.suffix() != QLatin1String("json")) {
+            continue;
+        }
+        int const first = index;
+        int const count = readAutoMatrixFromJson(file.filePath(), index);
+        for (int i = std::max(first, shippedEnd); i < index; ++i) {
+            m_files[i] = {file.completeBaseName(), count == 1, true};
         }
     }
 }
@@ -173,8 +198,9 @@ void AutoMatrixStore::selectFirst()
     }
 }
 
-void AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
+int AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
 {
+    int const first = index;
     FileDiagnostics const diagnostics(path);
     std::set<std::string> names;
     QJsonArray const array = ConfigFiles::loadArray(path, texts, arrayKey, diagnostics, QIODevice::Text);
@@ -197,18 +223,20 @@ void AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
         }
         ++index;
     }
+    return index - first;
 }
 
-void AutoMatrixStore::saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl)
+bool AutoMatrixStore::saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl)
 {
-    bool saved = false;
+    auto status = JsonFile::WriteStatus::OpenFailed;
     if (isTemplateFileName(name)) {
         QDir().mkpath(userFolder());
-        saved = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl)) != JsonFile::WriteStatus::OpenFailed;
+        status = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl));
     }
-    if (!saved) {
+    if (status == JsonFile::WriteStatus::OpenFailed) {
         showInformation(nullptr, QObject::tr("File open failed"));
     }
+    return status == JsonFile::WriteStatus::Ok;
 }
 
 } // namespace KVCAM::UIAPI

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "config/AutoMatrixFile.h"
 #include "config/AutoMatrixTmp.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <map>
+#include <optional>
 
 class QJsonObject;
 
@@ -24,6 +26,8 @@ public:
     void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl) { m_current = tmpl; }
     /// The smallest index of a template with this name, compared byte for byte; -1 if there is none.
     int getAutomatrixMatrixIndex(QString const & name) const;
+    /// Nothing for a shipped template, an index without a template, and one that has no file yet.
+    std::optional<Ext::AutoMatrixFile> autoMatrixFile(int index) const;
     /// Stores the template under the index and writes its file.
     void saveCurrentAutoMatrixTmp(int index, QString const & name, AutoMatrixTmp const & tmpl);
     /// Removes the entry and the file of this name, as far as there are such.
@@ -37,14 +41,19 @@ public:
     /// Selects the template with the smallest index, if there is one.
     void selectFirst();
 
-    /// Adds the templates of one file from `index` on, which counts on. Failures are logged.
-    void readAutoMatrixFromJson(QString const & path, int & index);
+    /// Adds the templates of one file from `index` on, which counts on. The result is how many of them there
+    /// are, those included whose index is taken. Failures are logged.
+    int readAutoMatrixFromJson(QString const & path, int & index);
     /// Writes a template to the user's file of this name. A file that cannot be opened, and a name that would
-    /// leave the folder, give the box "File open failed".
-    void saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl);
+    /// leave the folder, give the box "File open failed". False when the file was not written whole.
+    bool saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl);
 
 private:
+    // What the file of this name held is gone.
+    void forgetContent(QString const & name);
+
     std::map<int, AutoMatrixTmp> m_templates;
+    std::map<int, Ext::AutoMatrixFile> m_files; ///< of the user's templates
     AutoMatrixTmp m_current;
     QString m_templateDirectory;
 };

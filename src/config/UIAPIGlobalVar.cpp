@@ -230,6 +230,11 @@ void UIAPIGlobalVar::deleteAutoMatrix(int index, QString name)
     d->templates.deleteAutoMatrix(index, name);
 }
 
+std::optional<Ext::AutoMatrixFile> UIAPIGlobalVar::autoMatrixFile(int index) const
+{
+    return d->templates.autoMatrixFile(index);
+}
+
 int UIAPIGlobalVar::getAutomatrixMatrixIndex(QString name) const
 {
     return d->templates.getAutomatrixMatrixIndex(name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UIAPICommonExport.h"
+#include "config/AutoMatrixFile.h"
 #include "config/AutoMatrixTmp.h"
 
 #include <kvcam/Records.h>
@@ -8,6 +9,7 @@
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -102,6 +104,9 @@ public:
     void deleteAutoMatrix(int index, QString name);
     /// The smallest index of a template of this name, compared byte for byte as UTF-8; -1 if there is none.
     int getAutomatrixMatrixIndex(QString name) const;
+    /// Which file of the user's a template stands in; nothing for a shipped template, an index without a
+    /// template, and one that was never saved.
+    std::optional<Ext::AutoMatrixFile> autoMatrixFile(int index) const;
 
     // --- Attributes and CAM-mate nodes --------------------------------------------------------------------
 

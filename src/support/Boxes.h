@@ -14,4 +14,8 @@ QWidget * aliveWidget(void const * view);
 /// An information box with the translated title "Information".
 void showInformation(QWidget * parent, QString const & text);
 
+/// A question box with the translated title "Information" and the buttons Yes and No, application-modal. True
+/// for Yes alone: Escape, and a box that cannot be shown, mean No.
+bool askQuestion(QWidget * parent, QString const & text);
+
 } // namespace KVCAM::UIAPI

@@ -8,12 +8,26 @@
 
 namespace KVCAM::UIAPI::HostPaths {
 
-QString configurationDirectory()
+namespace {
+
+QString base()
 {
     std::string const root = Common::getPath();
-    QString const folder = QString::fromStdString(Common::getPath_config());
-    QString const base = root.empty() ? QDir::currentPath() : QString::fromStdString(root);
-    return base + QLatin1Char('/') + folder + QLatin1Char('/');
+    return root.empty() ? QDir::currentPath() : QString::fromStdString(root);
+}
+
+} // namespace
+
+QString configurationDirectory()
+{
+    QString const directory = base() + QLatin1Char('/');
+    return directory + QString::fromStdString(Common::getPath_config()) + QLatin1Char('/');
+}
+
+QString rangesDirectory()
+{
+    QString const directory = base() + QLatin1Char('/');
+    return directory + QString::fromStdString(Common::getPath_rangesconfig());
 }
 
 } // namespace KVCAM::UIAPI::HostPaths

@@ -10,4 +10,8 @@ namespace KVCAM::UIAPI::HostPaths {
 /// what the host throws.
 QString configurationDirectory();
 
+/// The directory of the analysis ranges without a "/" at its end, composed in the same way: root + "/" +
+/// ranges folder.
+QString rangesDirectory();
+
 } // namespace KVCAM::UIAPI::HostPaths

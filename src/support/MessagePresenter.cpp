@@ -86,4 +86,10 @@ void showInformation(QWidget * parent, QString const & text)
     Ext::showMessage({Ext::MessageKind::Information, parent, QObject::tr("Information"), text});
 }
 
+bool askQuestion(QWidget * parent, QString const & text)
+{
+    return Ext::showMessage({Ext::MessageKind::Question, parent, QObject::tr("Information"), text}) ==
+           Ext::MessageAnswer::Yes;
+}
+
 } // namespace KVCAM::UIAPI

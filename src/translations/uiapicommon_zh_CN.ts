@@ -23,6 +23,26 @@
         <source>Are you sure to cancel?</source>
         <translation>确定要撤销吗？</translation>
     </message>
+    <message>
+        <source>There is no range file &quot;%1&quot;.</source>
+        <translation>没有范围文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The range file &quot;%1&quot; cannot be read.</source>
+        <translation>无法读取范围文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The range file &quot;%1&quot; holds other categories than when it was read.</source>
+        <translation>范围文件“%1”中的类别与读取时不同。</translation>
+    </message>
+    <message>
+        <source>An element of the range file &quot;%1&quot; cannot hold levels.</source>
+        <translation>范围文件“%1”中有一个元素不能保存级别。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入文件“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>KVFileDialog</name>

@@ -1,21 +1,38 @@
 #pragma once
 
 #include "UIAPICommonExport.h"
+#include "analysis/AnalysisRecords.h"
+#include "layers/ReferenceLayerInfo.h"
 #include "uiapi/ViewRecords.h"
 
 #include <QJsonObject>
 #include <QList>
+#include <QMap>
 #include <QPoint>
 #include <QString>
+#include <QVector>
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QObject;
 class QWidget;
 
+namespace KVCAM::UIAPI::Ext {
+struct SaveResult;
+UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
+} // namespace KVCAM::UIAPI::Ext
+
 namespace KVCAM::UIAPI {
+
+class ConnectEDA;
+
+namespace Ext {
+struct EdaLinkState;
+enum class EdaSendResult : int;
+} // namespace Ext
 
 /// The per-view and UI-wide state of the process, and the rules that need it: one object, created by the
 /// first call that needs it and alive until the process ends. Use it from the GUI thread only; nothing is
@@ -195,7 +212,113 @@ public:
     /// Puts the members of `json` back into the controls of their names.
     void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
+    // --- Ranges -------------------------------------------------------------------------------------------
+    // See the flat functions of the same names.
+
+    void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const;
+    int getRangesEnum(std::string const & tableName, std::string const & categoryName) const;
+    std::string getRangesName(std::string const & tableName, int number) const;
+    void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
+                           std::string const & levelName, double value);
+    void getERFList(std::string folder, std::vector<std::string> & names) const;
+    // --- Layer filters ------------------------------------------------------------------------------------
+    // A request maps the keys "type", "context", "side" and "pos" to words joined by "|"; other keys are
+    // ignored. Keys and words are case-sensitive, an empty word counts. No word: every layer is accepted.
+
+    /// Appends the names of the layers of a job that every key accepts, in matrix order. What the engine
+    /// throws is logged, and nothing is appended.
+    void selectLayersByType(QString const & job, std::vector<std::string> & out,
+                            QMap<QString, QString> filters) const;
+    /// Appends the words of an entry whose key is `key`.
+    void fillLayerTypeFilters(QMap<QString, QString>::iterator & entry, QVector<QString> & filterWords,
+                              QString const & key) const;
+    /// Whether the layer's type is one of the words.
+    bool TypeLayersFilter(layer_info & layer, QVector<QString> & words) const;
+    /// Whether the layer's context is one of the words.
+    bool ContextLayersFilter(layer_info & layer, QVector<QString> & words) const;
+    /// Whether the layer's name is the first ("top"), the last ("bottom") or, of more than three, one between
+    /// ("inner") of the board signal layers.
+    bool SideLayersFilter(layer_info & layer, QVector<QString> & words,
+                          std::vector<std::string> & boardSignalLayers) const;
+    /// Whether the layer's polarity is "POS" and a word "positive", or "NEG" and "negative".
+    bool PosLayersFilter(layer_info & layer, QVector<QString> & words) const;
+
+    /// Replaces `out` by the affected layers and then the work layer unless it is one of them; at the start
+    /// one empty name.
+    void getAffectLayers(std::vector<std::string> & out) const;
+    void setAffectLayers(std::vector<std::string> const & layers);
+    void setWorkLayer(std::string const & layer);
+
+    /// The board layers of a job that analysis and DFM checks read, see the flat function of this name. Lets
+    /// through what the engine throws.
+    std::vector<std::string> getAnalyzeAndDFMLayers(QString const & job, QString const & step) const;
+
+    // --- References and drawing layers --------------------------------------------------------------------
+    // See the flat functions of these names.
+
+    void setReferenceLayerInfo(std::string const & job, std::string const & step,
+                               std::vector<ReferenceLayerInfo> const & layers);
+    std::vector<ReferenceLayerInfo> getReferenceLayerInfo(std::string const & job,
+                                                          std::string const & step) const;
+    void resetReferenceLayerInfo(std::string const & job);
+    void renameReferenceJob(std::string const & job, std::string const & oldJob, std::string const & newJob);
+    void renameReferenceStep(std::string const & job, std::string const & refJob, std::string const & oldStep,
+                             std::string const & newStep);
+    void renameReferenceLayer(std::string const & job, std::string const & refJob,
+                              std::string const & refStep, std::string const & oldLayer,
+                              std::string const & newLayer);
+    void deleteReferenceJob(std::string const & job, std::string const & step, std::string const & refJob);
+    void deleteReferenceStep(std::string const & job, std::string const & step, std::string const & refJob,
+                             std::string const & refStep);
+    void deleteReferenceLayer(std::string const & job, std::string const & step, std::string const & refJob,
+                              std::string const & refStep, std::string const & refLayer);
+    void renameCompareJob(std::string const & oldJob, std::string const & newJob);
+    void renameCompareStep(std::string const & job, std::string const & oldStep, std::string const & newStep);
+    void deleteCompareStep(std::string const & job, std::string const & step);
+    std::vector<std::pair<std::string, int>> getDrawingLayer(std::string const & job,
+                                                             std::string const & step) const;
+    void setDrawingLayer(std::string const & job, std::string const & step,
+                         std::vector<std::pair<std::string, int>> const & layers);
+    void resetDrawingLayer(std::string const & job);
+    /// The text of the latest setJobJsonPara(), empty at the start. There is one for all jobs: the name is
+    /// not used.
+    std::string getJobJsonPara(std::string job) const;
+    void setJobJsonPara(std::string const & job, std::string const & text);
+
+    // --- Files of jobs ------------------------------------------------------------------------------------
+    // See the flat functions of these names.
+
+    bool saveTextByIODevice(QString const & path, QString const & text) const;
+    bool checkDir(QString const & path) const;
+    bool delDir(std::string const & path, bool removeSelf) const;
+    bool copyDirectoryFile(QString const & from, QString const & to, bool overwrite) const;
+    bool deletGeneJob(std::string const & job) const;
+    QString formatTime(qint64 milliseconds) const;
+    // --- EDA link and plug-in commands --------------------------------------------------------------------
+    // Copies of this object share the one link. Without a link nothing happens.
+
+    /// The port that messages to the EDA tool go to; 22333 at start.
+    void setEdaPort(int port);
+    /// Sends an object as compact JSON; nothing tells whether it went.
+    void sendEdaData(QJsonObject const & data);
+    /// The text of the datagram received last, else empty.
+    QString getReceiveStr() const;
+    /// The link, owned by nobody and alive until the process ends; null when there is none.
+    ConnectEDA * edaLink() const;
+    Ext::EdaLinkState edaLinkState() const;
+    Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
+
+    /// Hands a command to the modules that have a route for it, see the flat function of this name.
+    void setPluginCmd(int command, std::string const & key, void * data) const;
+    /// From now on setPluginCmd() hands this command with this key to a plug-in module too. The host adds
+    /// them, none are there at start; not persisted. False when the route is there already.
+    bool addPluginRoute(int command, std::string const & key, std::string const & module);
+    /// Takes a route back, as when its module is unloaded. False when there is no such route.
+    bool removePluginRoute(int command, std::string const & key, std::string const & module);
+
 private:
+    friend Ext::SaveResult Ext::saveRanges(std::string const & rangeName);
+
     UIAPICommonPara();
     ~UIAPICommonPara();
 

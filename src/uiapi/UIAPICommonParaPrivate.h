@@ -1,8 +1,15 @@
 #pragma once
 
+#include "analysis/CategoryDictionary.h"
+#include "analysis/RangeStore.h"
 #include "config/BuiltInAttributes.h"
+#include "layers/LayerBookkeeping.h"
+#include "links/ConnectEDA.h"
+#include "links/PluginCommandRelay.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
+
+#include <QPointer>
 
 namespace KVCAM::UIAPI {
 
@@ -19,6 +26,11 @@ struct UIAPICommonPara::Private
     QWidget * split = nullptr; // not owned
     LayerState layerState;
     BuiltInAttributes builtInAttributes;
+    RangeStore ranges;
+    CategoryDictionary categories;
+    LayerBookkeeping layers;
+    PluginCommandRelay pluginCommands;
+    QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
 };
 
 } // namespace KVCAM::UIAPI

@@ -86,6 +86,35 @@ TEST_F(AutoMatrixTest, ShippedTemplatesCountFromZeroAndUserTemplatesFromTwo)
     }
 }
 
+TEST_F(AutoMatrixTest, ATemplateOfTheUsersKnowsItsFile)
+{
+    ship(fileOf({"one", "two", "three"}));
+    writeFile("autoMatrix/a.json", fileOf({"left out", "second"}));
+    writeFile("autoMatrix/b.json", fileOf({"alone"}));
+    EXPECT_EQ(indices(), "0=one 1=two 2=three 3=second 4=alone");
+    auto const files = [] {
+        std::string shown;
+        for (int index = -1; index < 7; ++index) {
+            if (auto const file = Ext::autoMatrixFile(index)) {
+                shown += std::to_string(index) + "=" + file->name.toStdString() +
+                         (file->isAlone ? "" : " shared") + (file->isStored ? "; " : " not stored; ");
+            }
+        }
+        return shown;
+    };
+    EXPECT_EQ(files(), "3=a shared; 4=b; ");
+    saveCurrentAutoMatrixTmp(5, "c", named("c"));
+    saveCurrentAutoMatrixTmp(0, "a", named("a")); // over the file of another one
+    EXPECT_EQ(files(), "0=a; 3=a shared not stored; 4=b; 5=c; ");
+    deleteAutoMatrix(-1, "b");
+    deleteAutoMatrix(5, "no such file");
+    EXPECT_EQ(files(), "0=a; 3=a shared not stored; 4=b not stored; ");
+    QDir().mkpath("autoMatrix/dir.json");
+    saveCurrentAutoMatrixTmp(0, "dir", named("a")); // what it was saved to last is not what it is now
+    EXPECT_EQ(boxes.take(), Lines{informationBox("File open failed")});
+    EXPECT_EQ(files(), "0=a not stored; 3=a shared not stored; 4=b not stored; ");
+}
+
 TEST_F(AutoMatrixTest, EachRoleHasItsPrefixAndItsSuffix)
 {
     char const * const keys[] = {"solder_paste_top",

@@ -58,6 +58,12 @@ void RecordingEngine::throwNonStandardFrom(std::string const & name)
     m_nonStandardThrows.insert(name);
 }
 
+void RecordingEngine::throwFromEveryCall(bool standard)
+{
+    m_throwsAlways = standard;
+    m_throwsAlwaysNonStandard = !standard;
+}
+
 void RecordingEngine::onNextCall(std::string const & name, std::function<void()> action)
 {
     m_actions[name] = std::move(action);
@@ -84,7 +90,10 @@ void RecordingEngine::consult(std::string const & name)
     if (auto const found = m_throws.find(name); found != m_throws.end()) {
         throw std::runtime_error(found->second);
     }
-    if (m_nonStandardThrows.count(name) != 0) {
+    if (m_throwsAlways) {
+        throw std::runtime_error(name);
+    }
+    if (m_throwsAlwaysNonStandard || m_nonStandardThrows.count(name) != 0) {
         throw 42; // anything may be thrown by a host
     }
 }
@@ -120,7 +129,7 @@ std::string get_matrix(std::string const & job, std::vector<std::string> & steps
     engine().called("API", "get_matrix", job);
     steps = engine().steps;
     layers = engine().layers;
-    return {};
+    return engine().matrixError;
 }
 
 bool open_job(std::string const & path, std::string const & job)

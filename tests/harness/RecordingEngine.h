@@ -27,6 +27,8 @@ public:
     void throwFrom(std::string const & name, std::string const & text = "engine failure");
     /// As throwFrom(), but what is thrown is no std::exception.
     void throwNonStandardFrom(std::string const & name);
+    /// From now on every call throws, the path helpers included: a std::exception or something else.
+    void throwFromEveryCall(bool standard);
     /// From now on the call of this name runs `action` after it was recorded, once; the action may call the
     /// library.
     void onNextCall(std::string const & name, std::function<void()> action);
@@ -46,6 +48,7 @@ public:
     std::map<std::string, std::vector<std::string>> specialSymbols;
     std::vector<std::string> steps;
     std::vector<API::layer_info> layers;
+    std::string matrixError;
     int correctUndoFailures = 0; ///< so many times CorrectUndo answers false first
     int operations = 0;
     std::string root;
@@ -60,6 +63,8 @@ private:
     std::map<std::string, std::string> m_throws;
     std::set<std::string> m_nonStandardThrows;
     std::map<std::string, std::function<void()>> m_actions;
+    bool m_throwsAlways = false;
+    bool m_throwsAlwaysNonStandard = false;
 };
 
 } // namespace KVCAM::Testing

@@ -182,7 +182,7 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
     };
     ASSERT_EQ(shapes.size(), std::size(boxes));
     for (std::size_t i = 0; i < shapes.size(); ++i) {
-        QRectF const box = shapes[i].path.boundingRect();
+        QRectF const box = shapes[i].outline().boundingRect();
         EXPECT_LT(QLineF(box.topLeft(), boxes[i].topLeft()).length(), 1) << i;
         EXPECT_LT(QLineF(box.bottomRight(), boxes[i].bottomRight()).length(), 1) << i;
         EXPECT_EQ(shapes[i].positive, i != 2) << i;

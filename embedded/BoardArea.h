@@ -1,0 +1,37 @@
+#pragma once
+
+#include "FeaturesFile.h"
+#include "Profile.h"
+#include "SpatialGrid.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// What lies inside a step's profile. Without a profile everything does, and nothing is its outline.
+class BoardArea
+{
+public:
+    explicit BoardArea(std::optional<Profile> const & profile);
+
+    /// The edge belongs to it, to within a micrometre.
+    bool holds(API::point point) const;
+    /// Whether a pad's place, or the ends and the middle of a line or arc, lie inside.
+    bool holds(Feature const & feature) const;
+    /// Whether a line or arc of a width runs along the profile: its ends and its middle are no farther from
+    /// it than half the width.
+    bool isOutline(Feature const & feature, double width) const;
+
+private:
+    using Edge = std::array<API::point, 2>;
+
+    bool nearEdge(API::point point, double within) const;
+
+    bool m_all; // there is no profile
+    std::vector<Edge> m_edges;
+    SpatialGrid m_grid;
+};
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "CheckRecords.h"
+#include "DrillChecks.h"
+
+#include <array>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// A pad as it is drawn.
+struct Pad
+{
+    Placement where;
+    SymbolShape const * shape = nullptr;
+    bool smd = false;
+};
+
+/// What is measured between the pads of one layer and their neighbours or holes.
+class PadChecks
+{
+public:
+    PadChecks(std::vector<Pad> pads, CheckContext const & context);
+
+    /// Each SMD pad and the one nearest to it, each pair once.
+    std::vector<Measurement> smdSpacings() const;
+    /// The rings of the holes through a row of the matrix, by kind of hole.
+    std::array<std::vector<Measurement>, 3> rings(std::vector<Hole> const & holes, int row) const;
+
+private:
+    std::vector<Pad> m_pads; // no two of one shape in one place
+    CheckContext const & m_context;
+};
+
+} // namespace KVCAM::Embedded

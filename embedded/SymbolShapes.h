@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CheckGeometry.h"
+#include "FeaturesFile.h"
+#include "Job.h"
+#include "StandardSymbol.h"
+
+#include <map>
+#include <string>
+#include <utility>
+
+namespace KVCAM::Embedded {
+
+/// What a symbol covers, about its own origin, in micrometres. Where the two shapes differ the symbol lies
+/// between them.
+struct SymbolShape
+{
+    enum class Kind
+    {
+        Unknown,
+        Empty, ///< a side is 0: nothing is drawn
+        Drawn
+    };
+
+    Kind kind = Kind::Unknown;
+    Shape outer;
+    Shape inner; ///< without corners: the symbol is not solid
+    double narrower = 0;
+    double wider = 0;
+    double opening = 0; ///< radius of a circle about the origin that holds a donut's opening
+};
+
+SymbolShape standardShape(StandardSymbol const & symbol, int unit);
+
+/// The shapes of a job's symbols, each worked out once.
+class SymbolShapes
+{
+public:
+    /// Valid as long as this. Throws JobError when the drawing of a symbol of the job's own is damaged.
+    SymbolShape const & find(Job const & job, SymbolEntry const & symbol);
+
+private:
+    std::map<std::pair<std::string, int>, SymbolShape> m_shapes;
+};
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,253 @@
+#include "analysis/AnalysisReport.h"
+
+#include "analysis/CategoryDictionary.h"
+#include "analysis/CategoryTables.h"
+#include "units/UnitConversion.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace KVCAM::UIAPI::Ext {
+namespace {
+
+constexpr char const * drillTable = "DrillRanges";
+constexpr char const * signalTable = "SignalLayerRanges";
+constexpr int drillLevels = 3;
+
+struct UnifiedName
+{
+    unified_check_items item;
+    std::string_view name;
+};
+
+constexpr std::array<UnifiedName, 13> unifiedNames = {{
+    {UNIFIED_LINES, "Lines"},
+    {UNIFIED_CIRCUIT_TO_CIRCUIT, "Circuit to circuit"},
+    {UNIFIED_PADS, "Pads"},
+    {UNIFIED_SMD_TO_SMD, "SMD to SMD"},
+    {UNIFIED_HOLE_SUMMARY, "Hole summary"},
+    {UNIFIED_SLOTS, "Slots"},
+    {UNIFIED_ANNULAR_RINGS, "Annular rings"},
+    {UNIFIED_HOLE_TO_HOLE, "Hole to hole"},
+    {UNIFIED_HOLE_TO_LINE, "Hole to line"},
+    {UNIFIED_ROUT_TO_COPPER, "Rout to Copper"},
+    {UNIFIED_LINE_TO_LINE, "Line to Line"},
+    {UNIFIED_CLOSE_PTHS, "Close PTHs"},
+    {UNIFIED_CLOSE_VIAS, "Close VIAs"},
+}};
+
+std::string_view unifiedName(int number)
+{
+    auto const found = std::find_if(unifiedNames.begin(), unifiedNames.end(),
+                                    [&](UnifiedName const & entry) { return entry.item == number; });
+    return found == unifiedNames.end() ? std::string_view() : found->name;
+}
+
+std::string nameOf(std::string const & table, int number)
+{
+    std::string_view const name =
+        table == unifiedTable ? unifiedName(number) : builtInCategoryName(table, number);
+    return name.empty() ? "#" + std::to_string(number) : std::string(name);
+}
+
+// Drill before signal before the rest, as they are checked; other tables cannot be added.
+int rankOf(std::string const & table)
+{
+    return table == drillTable ? 0 : table == signalTable ? 1 : 2;
+}
+
+// getMeasureValue() says 0.0 for what it cannot read, which a measured 0 must not be taken for.
+std::optional<double> measured(check_info const & info)
+{
+    std::size_t const count = info.points.size();
+    bool const isRead = ((info.type == 1 || info.type == 2) && count == 5) ||
+                        (info.type == 3 && count == 8) || (info.type == 5 && count == 4);
+    return isRead ? std::optional<double>(Units::measuredValue(info)) : std::nullopt;
+}
+
+// Every kind starts with a place; the kinds 1 and 2 have two.
+std::optional<KVCAM::API::point> positionOf(check_info const & info)
+{
+    std::vector<int> const & points = info.points;
+    bool const isPair = info.type == 1 || info.type == 2;
+    if (points.size() < (isPair ? 4U : 2U)) {
+        return std::nullopt;
+    }
+    KVCAM::API::point const first{static_cast<double>(points[0]), static_cast<double>(points[1])};
+    if (!isPair) {
+        return first;
+    }
+    return KVCAM::API::point{(first.x + points[2]) / 2, (first.y + points[3]) / 2};
+}
+
+void append(ReportCategory & category, std::string const & layer, std::size_t level,
+            std::vector<check_info> const & list)
+{
+    for (check_info const & info : list) {
+        category.entries.push_back(
+            {layer, static_cast<int>(level), info.value, measured(info), positionOf(info), Severity::None});
+    }
+}
+
+template <class Lists>
+void appendAll(ReportCategory & category, std::string const & layer, Lists const & lists)
+{
+    for (std::size_t level = 0; level < lists.size(); ++level) {
+        append(category, layer, level, lists[level]);
+    }
+}
+
+} // namespace
+
+void AnalysisReport::setJobStep(std::string const & job, std::string const & step)
+{
+    m_job = job;
+    m_step = step;
+}
+
+void AnalysisReport::addDrill(
+    std::map<std::string, check_reply<drill_check_item, check_info>> const & replies)
+{
+    for (auto const & [layer, reply] : replies) {
+        for (Categories::Category const & known : Categories::drillRanges) {
+            for (int level = 0; level < drillLevels; ++level) {
+                auto const & list = reply.list(static_cast<drill_check_item>(known.number), level);
+                if (!list.empty()) {
+                    append(category(drillTable, known.number), layer, static_cast<std::size_t>(level), list);
+                }
+            }
+        }
+    }
+    regrade();
+}
+
+void AnalysisReport::addSignal(
+    std::map<std::string, std::map<signal_layers_checks_items, signal_check_result>> const & replies)
+{
+    for (auto const & [layer, reply] : replies) {
+        for (auto const & [item, result] : reply) {
+            appendAll(category(signalTable, item), layer, result.lists);
+        }
+    }
+    regrade();
+}
+
+void AnalysisReport::addRest(
+    std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results)
+{
+    for (auto const & [item, layers] : results) {
+        ReportCategory & target = category(unifiedTable, item);
+        for (auto const & [layer, result] : layers) {
+            appendAll(target, layer, result.groups);
+        }
+    }
+    regrade();
+}
+
+void AnalysisReport::addNotChecked(NotChecked check)
+{
+    if (check.name.empty()) {
+        check.name = nameOf(check.table, check.number);
+    }
+    m_notChecked.push_back(std::move(check));
+}
+
+void AnalysisReport::setLevels(std::string const & table, std::vector<Analysis_Ranges_Record> const & records)
+{
+    auto & levels = m_levels[table];
+    levels.clear();
+    for (Analysis_Ranges_Record const & record : records) {
+        levels.try_emplace(record.name, record);
+    }
+    for (ReportCategory & entry : m_categories) {
+        if (entry.table == table) {
+            grade(entry);
+        }
+    }
+}
+
+void AnalysisReport::setLevelUnit(LevelUnit unit)
+{
+    m_unit = unit;
+    regrade();
+}
+
+ReportCategory const * AnalysisReport::find(std::string const & table, int number) const
+{
+    auto const found =
+        std::find_if(m_categories.begin(), m_categories.end(), [&](ReportCategory const & entry) {
+            return entry.number == number && entry.table == table;
+        });
+    return found == m_categories.end() ? nullptr : &*found;
+}
+
+SeverityCounts AnalysisReport::counts() const
+{
+    SeverityCounts sum{};
+    for (ReportCategory const & entry : m_categories) {
+        std::transform(sum.begin(), sum.end(), entry.counts.begin(), sum.begin(), std::plus<>());
+    }
+    return sum;
+}
+
+ReportCategory & AnalysisReport::category(std::string const & table, int number)
+{
+    auto const position =
+        std::lower_bound(m_categories.begin(), m_categories.end(), std::pair(rankOf(table), number),
+                         [](ReportCategory const & entry, std::pair<int, int> const & wanted) {
+                             return std::pair(rankOf(entry.table), entry.number) < wanted;
+                         });
+    if (position != m_categories.end() && position->table == table && position->number == number) {
+        return *position;
+    }
+    ReportCategory made;
+    made.table = table;
+    made.number = number;
+    made.name = nameOf(table, number);
+    return *m_categories.insert(position, std::move(made));
+}
+
+void AnalysisReport::grade(ReportCategory & category) const
+{
+    category.levels.reset();
+    if (auto const table = m_levels.find(category.table); table != m_levels.end()) {
+        if (auto const record = table->second.find(category.name); record != table->second.end()) {
+            category.levels = record->second;
+        }
+    }
+    category.counts = {};
+    for (ReportEntry & entry : category.entries) {
+        entry.severity = category.levels && entry.micrometres
+                             ? gradeMeasured(*category.levels, *entry.micrometres, m_unit)
+                             : Severity::None;
+        ++category.counts[static_cast<std::size_t>(entry.severity)];
+    }
+}
+
+void AnalysisReport::regrade()
+{
+    for (ReportCategory & entry : m_categories) {
+        grade(entry);
+    }
+}
+
+std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry)
+{
+    if (!category.levels) {
+        return std::nullopt;
+    }
+    switch (entry.severity) {
+    case Severity::Red:
+        return category.levels->redLv;
+    case Severity::Yellow:
+        return category.levels->yellowLv;
+    case Severity::Green:
+        return category.levels->greenLv;
+    case Severity::None:
+        break;
+    }
+    return std::nullopt;
+}
+
+} // namespace KVCAM::UIAPI::Ext

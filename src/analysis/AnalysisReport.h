@@ -1,0 +1,145 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+#include "analysis/AnalysisRecords.h"
+#include "analysis/Grade.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Additions to the fixed interface. They are opt-in and change none of its results.
+namespace KVCAM::UIAPI::Ext {
+
+/// Number of entries by severity; index with static_cast<std::size_t>(Severity::Red).
+using SeverityCounts = std::array<std::size_t, severityCount>;
+
+/// One measurement of a check.
+struct ReportEntry
+{
+    std::string layer;
+    int level = 0;                     ///< the engine's level, or the number of the list or group
+    int value = 0;                     ///< the engine's own value, in mil rounded down
+    std::optional<double> micrometres; ///< the measured value, see getMeasureValue(); none where kind and
+                                       ///< number of points do not agree
+    std::optional<KVCAM::API::point> position; ///< micrometres; the middle where two places were measured
+    Severity severity = Severity::None;
+};
+
+/// The measurements of one category.
+struct ReportCategory
+{
+    std::string table; ///< of the category dictionary, "DrillRanges"; `unifiedTable` for unified items
+    int number = 0;    ///< of the category in the table, or of the unified item
+    std::string name;  ///< "Lines"; "#63" for a number that the table lacks
+    std::optional<Analysis_Ranges_Record> levels; ///< as setLevels() gave them
+    SeverityCounts counts{};
+    std::vector<ReportEntry> entries; ///< by layer, level and the engine's order
+};
+
+/// A check that was not run.
+struct NotChecked
+{
+    std::string table;
+    int number = 0;
+    std::string name;   ///< filled from the table when empty
+    std::string reason; ///< one sentence, UTF-8
+};
+
+/// The table of what was filed by unified item, which the category dictionary does not have.
+inline constexpr char const * unifiedTable = "UnifiedItems";
+
+/// What a run of the engine's checks found, by the exact category of each measurement and graded by the
+/// configured levels. It takes the raw replies, before they are filed in Unified_AnalysisResult, which
+/// gathers several categories under one item. A value: copies are independent, nothing is shared.
+class AnalysisReport
+{
+public:
+    /// Names for the head of the written report, UTF-8.
+    UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
+
+    // What is added goes to the categories that are there already. An item that was run and found nothing
+    // gives a category without entries.
+
+    /// Adds the items of "DrillRanges". The engine's reply cannot be walked, so other items are not seen, and
+    /// one without an entry gives no category.
+    UIAPICOMMON_EXPORT void
+    addDrill(std::map<std::string, check_reply<drill_check_item, check_info>> const & replies);
+    /// Adds the items of "SignalLayerRanges".
+    UIAPICOMMON_EXPORT void addSignal(
+        std::map<std::string, std::map<signal_layers_checks_items, signal_check_result>> const & replies);
+    /// Adds unified items, under `unifiedTable`.
+    UIAPICOMMON_EXPORT void
+    addRest(std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results);
+    UIAPICOMMON_EXPORT void addNotChecked(NotChecked check);
+
+    /// Replaces the levels of a table and grades its entries again; what is added later is graded by them.
+    /// Usually the records of getRanges(table, records). Of two records of one name the first counts. Levels
+    /// are looked up by the category's name.
+    UIAPICOMMON_EXPORT void setLevels(std::string const & table,
+                                      std::vector<Analysis_Ranges_Record> const & records);
+    /// The unit of all levels, mil until set; grades everything again.
+    UIAPICOMMON_EXPORT void setLevelUnit(LevelUnit unit);
+    LevelUnit levelUnit() const { return m_unit; }
+
+    std::string const & job() const { return m_job; }
+    std::string const & step() const { return m_step; }
+    /// In the order drill, signal, unified, within each by number. Valid until the report changes.
+    std::vector<ReportCategory> const & categories() const { return m_categories; }
+    /// The category, or null. Valid until the report changes.
+    UIAPICOMMON_EXPORT ReportCategory const * find(std::string const & table, int number) const;
+    /// Over all categories.
+    UIAPICOMMON_EXPORT SeverityCounts counts() const;
+    std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
+
+private:
+    ReportCategory & category(std::string const & table, int number);
+    void grade(ReportCategory & category) const;
+    void regrade();
+
+    std::string m_job;
+    std::string m_step;
+    LevelUnit m_unit = LevelUnit::Mil;
+    std::vector<ReportCategory> m_categories;
+    std::vector<NotChecked> m_notChecked;
+    std::map<std::string, std::map<std::string, Analysis_Ranges_Record>> m_levels; // by table and name
+};
+
+/// The names of the category dictionary's tables, which are also the usual names of range files, in the
+/// order of the dictionary's making; `unifiedTable` is not among them.
+UIAPICOMMON_EXPORT std::vector<std::string> categoryTables();
+
+/// The level that gave an entry its severity, in the levels' unit; none for Severity::None.
+UIAPICOMMON_EXPORT std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry);
+
+enum class ReportFormat : int
+{
+    Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
+          ///< their entries, and what was not checked
+    Csv   ///< RFC 4180 with a head line; rows "count", "measurement" and "not_checked"
+};
+
+/// Whether a file was written, and if not why, as one translated sentence.
+struct SaveResult
+{
+    bool saved = false;
+    QString reason; ///< empty when saved
+};
+
+/// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
+/// has null and CSV an empty field. Numbers have the shortest form that reads back equal. The CSV starts with
+/// a byte-order mark, without which spreadsheets take it for the system's code page, and a text in it that a
+/// spreadsheet would take for a formula has a "'" before it.
+UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
+
+/// Writes reportText() to a file, which is replaced whole. Nothing is logged.
+UIAPICOMMON_EXPORT SaveResult writeReport(AnalysisReport const & report, ReportFormat format,
+                                          QString const & path);
+
+} // namespace KVCAM::UIAPI::Ext

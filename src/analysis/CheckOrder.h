@@ -1,0 +1,21 @@
+#pragma once
+
+#include "analysis/AnalysisRecords.h"
+
+#include <optional>
+#include <vector>
+
+namespace KVCAM::UIAPI {
+
+/// Whether `a` goes before `b`: the third (kinds 0 and 5), fifth (1 and 2) or seventh (3) point of both is
+/// compared, as a's kind says. False where one of them lacks that point; true for every other kind of a,
+/// which is no order and kept as it is.
+bool goesBefore(check_info const & a, check_info const & b);
+
+/// Sorts ascending by goesBefore(), stably where that is an order.
+void sortByMeasure(std::vector<check_info> & entries);
+
+/// The value of a layer: that of the first entry of the first group that has one. None without entries.
+std::optional<int> layerValue(unified_check_result const & result);
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "analysis/AnalysisRecords.h"
+
+#include <QByteArray>
+#include <QJsonDocument>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+/// The content of a range file: {"rangesList": [{"name": "Lines", "RedLv": "3", "YellowLv": "4", "GreenLv":
+/// "5"}]}. Levels are texts that hold a number, on purpose: a JSON number reads as 0.
+namespace KVCAM::UIAPI::RangeFile {
+
+struct Level
+{
+    char const * key;
+    double Analysis_Ranges_Record::*value;
+};
+
+inline constexpr std::array<Level, 3> levels = {{
+    {"RedLv", &Analysis_Ranges_Record::redLv},
+    {"YellowLv", &Analysis_Ranges_Record::yellowLv},
+    {"GreenLv", &Analysis_Ranges_Record::greenLv},
+}};
+
+using Records = std::vector<Analysis_Ranges_Record>;
+
+/// One record per element, in order; an element that is no object gives an empty one. None for a document
+/// without the list.
+std::optional<Records> readRecords(QJsonDocument const & document);
+
+/// What became of writing levels into a document.
+enum class Change
+{
+    Nothing, ///< no level differs
+    Changed, ///< the document was changed
+    Stale,   ///< the document does not hold the records that were read from it
+    NoRecord ///< a level differs for an element that cannot hold one
+};
+
+/// Writes the levels of `records` that differ from `loaded`, which was read from an earlier state of the
+/// document, into the document; the other levels keep what the document holds now.
+Change writeLevels(QJsonDocument & document, Records const & loaded, Records const & records);
+
+} // namespace KVCAM::UIAPI::RangeFile

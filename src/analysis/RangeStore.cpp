@@ -1,0 +1,147 @@
+#include "analysis/RangeStore.h"
+
+#include "support/Guard.h"
+#include "support/HostPaths.h"
+#include "support/JsonFile.h"
+#include "support/Log.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QObject>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace KVCAM::UIAPI {
+namespace {
+
+Ext::SaveResult refused(QString const & reason)
+{
+    return {false, reason};
+}
+
+} // namespace
+
+bool RangeStore::loadAllRanges()
+{
+    return guard([&] { readAll(); },
+                 [](std::string const &) { Log::info(Log::commonPara, "加载Ranges失败"); });
+}
+
+void RangeStore::readAll()
+{
+    QString const base = HostPaths::rangesDirectory();
+    QStringList const folders = QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    for (QString const & folder : folders) {
+        QString const directory = base + QLatin1Char('/') + folder;
+        // The filter ignores case, the removal of ".json" does not: "B.JSON" is known as "B.JSON".
+        QStringList const files =
+            QDir(directory).entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Readable, QDir::Name);
+        for (QString const & file : files) {
+            scanMetaData(QString(file).remove(QStringLiteral(".json")), directory + QLatin1Char('/') + file);
+        }
+        Log::info(Log::commonPara, "加载所有ranges成功"); // once per folder, for one without files too
+    }
+}
+
+void RangeStore::scanMetaData(QString const & fileName, QString const & filePath)
+{
+    guard([&] { readFile(fileName, filePath); },
+          [](std::string const &) { Log::info(Log::commonPara, "Ranges scanMetaData失败"); });
+}
+
+void RangeStore::readFile(QString const & fileName, QString const & filePath)
+{
+    JsonFile::ReadResult const file = JsonFile::read(filePath, QIODevice::Text);
+    switch (file.status) {
+    case JsonFile::ReadStatus::Missing:
+        return Log::error(Log::commonPara, "Ranger json文件不存在！路径：" + filePath.toStdString());
+    case JsonFile::ReadStatus::OpenFailed:
+        return Log::error(Log::commonPara, "Ranger json文件打开失败!路径：" + filePath.toStdString());
+    case JsonFile::ReadStatus::ParseError:
+        return Log::error(Log::commonPara, "解析ranges json文件错误！路径：" + filePath.toStdString());
+    case JsonFile::ReadStatus::Ok:
+        break;
+    }
+    // An empty list is stored too and keeps the name from a later file.
+    if (std::optional<RangeFile::Records> records = RangeFile::readRecords(file.document)) {
+        m_ranges.try_emplace(fileName.toStdString(),
+                             Range{*records, *records, QFileInfo(filePath).absoluteFilePath()});
+    }
+}
+
+void RangeStore::getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const
+{
+    auto const range = m_ranges.find(rangeName);
+    if (range == m_ranges.end()) {
+        out.clear();
+    } else {
+        out = range->second.records;
+    }
+}
+
+void RangeStore::changeRangesValue(std::string const & rangeName, std::string const & categoryName,
+                                   std::string const & levelName, double value)
+{
+    auto const range = m_ranges.find(rangeName);
+    if (range == m_ranges.end()) {
+        return;
+    }
+    // The first record of the name is the only one, even when the level's name is unknown.
+    RangeFile::Records & records = range->second.records;
+    auto const record = std::find_if(records.begin(), records.end(),
+                                     [&](auto const & entry) { return entry.name == categoryName; });
+    auto const level = std::find_if(RangeFile::levels.begin(), RangeFile::levels.end(),
+                                    [&](auto const & entry) { return entry.key == levelName; });
+    if (record != records.end() && level != RangeFile::levels.end()) {
+        (*record).*level->value = value;
+    }
+}
+
+Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
+{
+    auto const found = m_ranges.find(rangeName);
+    if (found == m_ranges.end()) {
+        return refused(QObject::tr("There is no range file \"%1\".").arg(QString::fromStdString(rangeName)));
+    }
+    Range & range = found->second;
+    JsonFile::ReadResult file = JsonFile::read(range.path, QIODevice::Text);
+    if (file.status != JsonFile::ReadStatus::Ok) {
+        return refused(QObject::tr("The range file \"%1\" cannot be read.").arg(range.path));
+    }
+    switch (RangeFile::writeLevels(file.document, range.loaded, range.records)) {
+    case RangeFile::Change::Nothing:
+        return {true, {}};
+    case RangeFile::Change::Stale:
+        return refused(QObject::tr("The range file \"%1\" holds other categories than when it was read.")
+                           .arg(range.path));
+    case RangeFile::Change::NoRecord:
+        return refused(
+            QObject::tr("An element of the range file \"%1\" cannot hold levels.").arg(range.path));
+    case RangeFile::Change::Changed:
+        break;
+    }
+    if (JsonFile::replace(range.path, file.document.toJson(), QIODevice::Text) != JsonFile::WriteStatus::Ok) {
+        return refused(QObject::tr("The file \"%1\" cannot be written.").arg(range.path));
+    }
+    range.loaded = range.records;
+    return {true, {}};
+}
+
+void listErfFiles(std::string const & folder, std::vector<std::string> & names)
+{
+    QString const path = QString::fromStdString(folder);
+    // The folder comes from outside: it leads nowhere but below "ERFconfig".
+    if (path.split(QRegularExpression(QStringLiteral("[/\\\\]"))).contains(QStringLiteral(".."))) {
+        return;
+    }
+    QDir const directory(QStringLiteral("./ERFconfig/") + path);
+    for (QString const & file : directory.entryList(QDir::Files | QDir::Hidden, QDir::Unsorted)) {
+        names.push_back(QFileInfo(file).baseName().toStdString());
+    }
+}
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "analysis/AnalysisReport.h"
+#include "analysis/RangeFile.h"
+
+#include <QString>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace KVCAM::UIAPI {
+
+/// The colour levels by range file, read once from the sub-directories of the ranges directory. Log lines go
+/// under "UIAPICommonPara".
+class RangeStore
+{
+public:
+    /// Reads every "*.json" of every sub-directory; the INFO line of success comes once for each of these.
+    /// False after an INFO line when anything is thrown; what was read before stays.
+    bool loadAllRanges();
+    /// Reads one file under a name, which an earlier file may have already: then that one is kept.
+    void scanMetaData(QString const & fileName, QString const & filePath);
+
+    /// Replaces `out`; by nothing for an unknown file.
+    void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const;
+    /// Sets one level of the first category of this name, in memory alone.
+    void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
+                           std::string const & levelName, double value);
+    /// Writes the changed levels back into the file that the range came from.
+    Ext::SaveResult saveRanges(std::string const & rangeName);
+
+private:
+    struct Range
+    {
+        RangeFile::Records records;
+        RangeFile::Records loaded; ///< as the file holds them
+        QString path;              ///< absolute
+    };
+
+    void readAll();
+    void readFile(QString const & fileName, QString const & filePath);
+
+    std::map<std::string, Range> m_ranges;
+};
+
+/// Appends the base names (up to the first ".") of the files, hidden ones included, of "./ERFconfig/" +
+/// folder. Nothing for a folder with a component "..".
+void listErfFiles(std::string const & folder, std::vector<std::string> & names);
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,176 @@
+#include "links/ConnectEDA.h"
+
+#include "support/Guard.h"
+#include "support/Log.h"
+
+#include <QHostAddress>
+#include <QJsonDocument>
+#include <QJsonParseError>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QUdpSocket>
+
+namespace KVCAM::UIAPI {
+namespace {
+
+constexpr quint16 receivePort = 2333;
+constexpr int firstSendPort = 22333;
+
+/// Destroys a socket. One that is in the middle of telling of a datagram still needs itself afterwards: it is
+/// closed and taken from its parent, and dies in the event loop.
+void discard(QUdpSocket * socket, bool inUse)
+{
+    if (socket == nullptr || !inUse) {
+        delete socket;
+        return;
+    }
+    socket->close();
+    socket->setParent(nullptr);
+    socket->deleteLater();
+}
+
+} // namespace
+
+struct ConnectEDA::Private
+{
+    QString received;
+    QPointer<QUdpSocket> sender;
+    QPointer<QUdpSocket> receiver;
+    int edaPort = firstSendPort;
+
+    QString bindError;
+    QString lastError;
+    quint64 sent = 0;
+    quint64 unsent = 0;
+    quint64 count = 0;
+    int receiving = 0; // how many calls of receive() are running
+
+    /// Takes one datagram from the receiver; false when there is none to be had.
+    bool take(QByteArray & bytes)
+    {
+        if (receiver.isNull() || !receiver->hasPendingDatagrams()) {
+            return false;
+        }
+        // -1 if the datagram is gone by now.
+        bytes.resize(static_cast<int>(qMax(receiver->pendingDatagramSize(), qint64(0))));
+        qint64 const length = receiver->readDatagram(bytes.data(), bytes.size());
+        if (length < 0) {
+            lastError = receiver->errorString();
+            return false;
+        }
+        bytes.truncate(static_cast<int>(length));
+        return true;
+    }
+
+    Ext::EdaSendResult send(QByteArray const & bytes)
+    {
+        if (sender.isNull()) {
+            lastError = QLatin1String("the sending socket is gone");
+            return Ext::EdaSendResult::NoLink;
+        }
+        // Cast to a port, such a number would become another one.
+        if (edaPort < 1 || edaPort > 65535) {
+            lastError = QString::number(edaPort) + QLatin1String(" is no port");
+            return Ext::EdaSendResult::NoPort;
+        }
+        auto const port = static_cast<quint16>(edaPort);
+        if (sender->writeDatagram(bytes, QHostAddress(QHostAddress::LocalHost), port) == bytes.size()) {
+            return Ext::EdaSendResult::Sent;
+        }
+        lastError = sender->errorString();
+        return sender->error() == QAbstractSocket::DatagramTooLargeError ? Ext::EdaSendResult::TooLarge
+                                                                         : Ext::EdaSendResult::SocketError;
+    }
+};
+
+ConnectEDA::ConnectEDA(QObject * parent) : QObject(parent), d(new Private)
+{
+    d->sender = new QUdpSocket(parent);
+    d->receiver = new QUdpSocket(parent);
+    if (!d->receiver->bind(QHostAddress(QHostAddress::LocalHost), receivePort)) {
+        d->bindError = d->receiver->errorString();
+    }
+    connect(d->receiver, SIGNAL(readyRead()), this, SLOT(receive()));
+}
+
+ConnectEDA::~ConnectEDA()
+{
+    discard(d->sender, false);
+    discard(d->receiver, d->receiving > 0);
+    delete d;
+}
+
+void ConnectEDA::sendData(QJsonObject const & data)
+{
+    sendDataChecked(data);
+}
+
+Ext::EdaSendResult ConnectEDA::sendDataChecked(QJsonObject const & data)
+{
+    Ext::EdaSendResult const result = d->send(QJsonDocument(data).toJson(QJsonDocument::Compact));
+    ++(result == Ext::EdaSendResult::Sent ? d->sent : d->unsent);
+    return result;
+}
+
+QString ConnectEDA::getReceiveStr() const
+{
+    return d->received;
+}
+
+void ConnectEDA::setEdaPort(int port)
+{
+    d->edaPort = port;
+}
+
+Ext::EdaLinkState ConnectEDA::state() const
+{
+    Ext::EdaLinkState state;
+    state.exists = true;
+    state.bound = !d->receiver.isNull() && d->receiver->state() == QAbstractSocket::BoundState;
+    state.bindError = d->bindError;
+    state.port = d->edaPort;
+    state.sent = d->sent;
+    state.unsent = d->unsent;
+    state.received = d->count;
+    state.lastError = d->lastError;
+    return state;
+}
+
+// A slot may delete the link, so nothing of it is touched after a signal without asking.
+void ConnectEDA::receive()
+{
+    QPointer<ConnectEDA> const alive(this);
+    ++d->receiving;
+    QByteArray bytes;
+    while (alive && d->take(bytes)) {
+        // Ends at a NUL, as Qt's conversion of bytes to text does.
+        d->received = QString::fromUtf8(bytes);
+        ++d->count;
+        tell(bytes);
+    }
+    if (alive) {
+        --d->receiving;
+    }
+}
+
+void ConnectEDA::tell(QByteArray const & bytes)
+{
+    QPointer<ConnectEDA> const alive(this);
+    guarded(Log::commonPara, [&] { emit datagramReceived(bytes); });
+    // Nobody's bytes are parsed unless somebody asked for it.
+    if (!alive || !(isSignalConnected(QMetaMethod::fromSignal(&ConnectEDA::jsonReceived)) ||
+                    isSignalConnected(QMetaMethod::fromSignal(&ConnectEDA::invalidReceived)))) {
+        return;
+    }
+    QJsonParseError error;
+    QJsonDocument const document = QJsonDocument::fromJson(bytes, &error);
+    guarded(Log::commonPara, [&] {
+        if (error.error == QJsonParseError::NoError && document.isObject()) {
+            emit jsonReceived(document.object());
+        } else {
+            emit invalidReceived(bytes);
+        }
+    });
+}
+
+} // namespace KVCAM::UIAPI

@@ -1,0 +1,46 @@
+#include "links/HostAddress.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSysInfo>
+
+namespace KVCAM::UIAPI::HostAddress {
+
+QHostAddress choose(QList<Candidate> const & interfaces)
+{
+    for (Candidate const & candidate : interfaces) {
+        bool const usable = candidate.flags.testFlag(QNetworkInterface::IsUp) &&
+                            candidate.flags.testFlag(QNetworkInterface::IsRunning) &&
+                            !candidate.flags.testFlag(QNetworkInterface::IsLoopBack);
+        for (QHostAddress const & address : candidate.addresses) {
+            if (usable && address.protocol() == QAbstractSocket::IPv4Protocol) {
+                return address;
+            }
+        }
+    }
+    return QHostAddress(QHostAddress::LocalHost);
+}
+
+std::string getHostIP()
+{
+    QList<Candidate> interfaces;
+    for (QNetworkInterface const & found : QNetworkInterface::allInterfaces()) {
+        Candidate candidate{found.flags(), {}};
+        for (QNetworkAddressEntry const & entry : found.addressEntries()) {
+            candidate.addresses.append(entry.ip());
+        }
+        interfaces.append(candidate);
+    }
+    return choose(interfaces).toString().toStdString();
+}
+
+// No serial numbers: what leaves the library says what a colleague at the next desk can see.
+std::string getLocalInfo()
+{
+    QJsonObject const info{{QStringLiteral("address"), QString::fromStdString(getHostIP())},
+                           {QStringLiteral("host"), QSysInfo::machineHostName()},
+                           {QStringLiteral("os"), QSysInfo::prettyProductName()}};
+    return QJsonDocument(info).toJson(QJsonDocument::Compact).toStdString();
+}
+
+} // namespace KVCAM::UIAPI::HostAddress

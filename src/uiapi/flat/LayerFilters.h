@@ -1,0 +1,18 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace KVCAM::UIAPI {
+
+/// The names of a job's layers that analysis and DFM checks read, in matrix order: context "board" and type
+/// signal, power_ground, mixed, solder_mask, silk_screen, solder_paste, drill or rout. They are those of
+/// every step. Empty for an empty job name, which is not asked for, and for one that the engine does not
+/// know.
+UIAPICOMMON_EXPORT std::vector<std::string> getAnalyzeAndDFMLayers(QString const & job, QString const & step);
+
+} // namespace KVCAM::UIAPI

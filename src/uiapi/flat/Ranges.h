@@ -1,0 +1,42 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+#include "analysis/AnalysisRecords.h"
+#include "analysis/AnalysisReport.h"
+
+#include <string>
+#include <vector>
+
+/// The result categories of the analysis actions and their colour levels. Names are UTF-8 and compared byte
+/// for byte. The first call reads the range files: every "*.json" in the sub-directories of the host's ranges
+/// directory, once per process. Range files and category tables usually have the same names and are otherwise
+/// independent.
+namespace KVCAM::UIAPI {
+
+/// Replaces `out` by the records of a range file (its name without ".json") in file order; none for a file
+/// that was not read.
+UIAPICOMMON_EXPORT void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out);
+/// The smallest number of the category of this name; -1 when the table or the name is unknown.
+UIAPICOMMON_EXPORT int getRangesEnum(std::string const & tableName, std::string const & categoryName);
+/// The category's name; empty when the table or the number is unknown.
+UIAPICOMMON_EXPORT std::string getRangesName(std::string const & tableName, int number);
+/// Sets "RedLv", "YellowLv" or "GreenLv" of the first category of this name, in memory alone. Anything
+/// unknown changes nothing.
+UIAPICOMMON_EXPORT void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
+                                          std::string const & levelName, double value);
+/// Appends the base names (up to the first ".") of the files in "./ERFconfig/" + folder, in no order. Nothing
+/// where there is no such directory, and for a folder with a ".." in it.
+UIAPICOMMON_EXPORT void getERFList(std::string folder, std::vector<std::string> & names);
+
+namespace Ext {
+
+/// Writes the levels that changeRangesValue() changed back into the file that the range was read from. Only
+/// these levels change, as texts in the shortest form that reads back equal; unknown keys and elements that
+/// are no records are kept. The file is replaced whole. Refused when the range was not read from a file, and
+/// when the file does not hold the categories that were read from it any more. Nothing to write counts as
+/// saved. Nothing is logged.
+UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
+
+} // namespace Ext
+
+} // namespace KVCAM::UIAPI

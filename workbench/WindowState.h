@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QMainWindow;
+
+namespace Workbench {
+
+/// What a window shows besides its widgets' own geometry.
+struct WindowChoices
+{
+    QString page; ///< object name
+    int unit = 0; ///< 0 inch, 1 millimetre
+    bool chinese = false;
+};
+
+/// Brings the window and its named splitters back as they were kept in a file, each as far as the file holds
+/// sense: a damaged or missing file changes nothing. The result is what was chosen besides, if that was kept.
+std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const & file);
+/// Keeps them in a file. False, and logged at ERROR, when it cannot be written.
+bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QString const & file);
+
+} // namespace Workbench
