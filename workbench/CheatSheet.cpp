@@ -45,9 +45,9 @@ CheatSheet::CheatSheet(QWidget * parent)
 
     auto * buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
-    auto * load = buttons->addButton({}, QDialogButtonBox::ActionRole);
+    auto * load = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     connect(load, &QPushButton::clicked, this, &CheatSheet::loadAgain);
-    auto * write = buttons->addButton({}, QDialogButtonBox::ActionRole);
+    auto * write = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     connect(write, &QPushButton::clicked, this, &CheatSheet::chooseExport);
 
     auto * layout = new QVBoxLayout(this);
