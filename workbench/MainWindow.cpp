@@ -185,7 +185,7 @@ void MainWindow::addPages()
 
 void MainWindow::addHotkeys()
 {
-    auto * keys = findChild<QToolBar *>()->addAction(tr("Keys"), this, &MainWindow::showKeys);
+    auto * keys = m_bar->addAction(tr("Keys"), this, &MainWindow::showKeys);
     keys->setShortcut(Qt::Key_F1);
     keys->setToolTip(tr("Shows the hot keys and judges your own file of them"));
     auto * told = new QLabel;
