@@ -18,10 +18,8 @@ UIAPICommonPara * UIAPICommonPara::instance()
 }
 
 // What is loaded here is loaded in a fixed order, which the log shows: the range files (loadAllRanges), the
-// category tables, the attribute list, and last the EDA link. The link is not part of the library yet; its
-// place is below the attributes. No flat function may be called: instance() is not stored.
-// category tables, the attribute list, and last the EDA link. Ranges and tables are not part of the library
-// yet; their place is above the attributes. No flat function may be called: instance() is not stored.
+// category tables, the attribute list, and last the EDA link. No flat function may be called: instance() is
+// not stored.
 UIAPICommonPara::UIAPICommonPara() : d(new Private)
 {
     d->ranges.loadAllRanges();

@@ -221,6 +221,7 @@ public:
     void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                            std::string const & levelName, double value);
     void getERFList(std::string folder, std::vector<std::string> & names) const;
+
     // --- Layer filters ------------------------------------------------------------------------------------
     // A request maps the keys "type", "context", "side" and "pos" to words joined by "|"; other keys are
     // ignored. Keys and words are case-sensitive, an empty word counts. No word: every layer is accepted.
@@ -294,6 +295,7 @@ public:
     bool copyDirectoryFile(QString const & from, QString const & to, bool overwrite) const;
     bool deletGeneJob(std::string const & job) const;
     QString formatTime(qint64 milliseconds) const;
+
     // --- EDA link and plug-in commands --------------------------------------------------------------------
     // Copies of this object share the one link. Without a link nothing happens.
 
