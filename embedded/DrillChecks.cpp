@@ -108,6 +108,7 @@ std::vector<Measurement> withoutPaths(std::vector<Slot> slots)
 std::vector<Measurement> recordsOf(std::vector<Slot> slots)
 {
     std::vector<Measurement> records;
+    records.reserve(slots.size());
     for (Slot & slot : slots) {
         records.push_back(std::move(slot.record));
     }
