@@ -92,8 +92,10 @@ struct CheckResults
     std::vector<NotChecked> notChecked;
 };
 
-/// Runs all checks. About linear in the number of features. False, with lastError() set and `out` empty, when
-/// the job or step is not open, one of the files needed is damaged, or `progress` cancelled.
+/// Runs all checks. About linear in the number of features, however they are spread; only where the upright
+/// boxes about many SMD pads overlap (long pads set aslant and close) does each cost more. False, with
+/// lastError() set and `out` empty, when the job or step is not open, one of the files needed is damaged, or
+/// `progress` cancelled.
 KVCAM_API_EXPORT bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
                                 CheckProgress const & progress = {});
 
