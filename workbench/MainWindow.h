@@ -46,8 +46,10 @@ public:
     int firstPad() const;
     /// Shows all texts in a language.
     void setLanguage(KVCAM::UIAPI::LANGUAGE_MODE language);
-    /// Shows the step in front and its state anew.
+    /// Reads the step in front again and shows its state anew.
     void refresh();
+    /// Takes the latest operation on the step in front back; the library asks first.
+    void undoLast();
     /// Shows the hot keys. Owned by the window.
     CheatSheet * showKeys();
     /// Brings the window back as it was kept in a file, and keeps it there when it is closed. The unit is
