@@ -16,11 +16,6 @@
 class QObject;
 class QWidget;
 
-namespace KVCAM::UIAPI::Ext {
-struct SaveResult;
-UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
-} // namespace KVCAM::UIAPI::Ext
-
 namespace KVCAM::UIAPI {
 
 /// The per-view and UI-wide state of the process, and the rules that need it: one object, created by the
@@ -212,7 +207,7 @@ public:
     void getERFList(std::string folder, std::vector<std::string> & names) const;
 
 private:
-    friend Ext::SaveResult Ext::saveRanges(std::string const & rangeName);
+    friend struct CommonParaDoor;
 
     UIAPICommonPara();
     ~UIAPICommonPara();

@@ -25,4 +25,10 @@ struct UIAPICommonPara::Private
     CategoryDictionary categories;
 };
 
+/// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
+struct CommonParaDoor
+{
+    static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }
+};
+
 } // namespace KVCAM::UIAPI
