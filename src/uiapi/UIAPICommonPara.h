@@ -20,11 +20,6 @@
 class QObject;
 class QWidget;
 
-namespace KVCAM::UIAPI::Ext {
-struct SaveResult;
-UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
-} // namespace KVCAM::UIAPI::Ext
-
 namespace KVCAM::UIAPI {
 
 class ConnectEDA;
@@ -319,7 +314,7 @@ public:
     bool removePluginRoute(int command, std::string const & key, std::string const & module);
 
 private:
-    friend Ext::SaveResult Ext::saveRanges(std::string const & rangeName);
+    friend struct CommonParaDoor;
 
     UIAPICommonPara();
     ~UIAPICommonPara();
