@@ -369,7 +369,10 @@ void BoardView::pickAt(QPointF pixel)
 
 void BoardView::keyPressEvent(QKeyEvent * event)
 {
-    if ((event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier | Qt::ShiftModifier)) != 0) {
+    bool const isSign = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus;
+    Qt::KeyboardModifiers const without = // Shift and an arrow belongs to the hot keys
+        isSign ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if ((event->modifiers() & ~without) != 0) {
         return QWidget::keyPressEvent(event);
     }
     switch (event->key()) {

@@ -129,7 +129,7 @@ QPainterPath box(QSizeF size, Sizes const & sizes)
     return path;
 }
 
-// Two opposite quarters of a shape.
+// Two opposite quarters of a shape: right above and left below.
 QPainterPath butterfly(QPainterPath const & whole)
 {
     QRectF const frame = whole.boundingRect();

@@ -111,7 +111,7 @@ TEST_F(MainWindows, ADamagedStateChangesNothing)
     window->useStateFile("./folder.ini", false);
     window->close();
     QApplication::processEvents();
-    EXPECT_EQ(log.lines().filter("ERROR").size(), 1) << log.lines().join('\n').toStdString();
+    EXPECT_EQ(log.lines().filter("ERROR WindowState").size(), 1) << log.lines().join('\n').toStdString();
 }
 
 TEST_F(MainWindows, TabReachesEveryControlOfEveryPage)
