@@ -249,7 +249,10 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
 {
     if (m_isStale) {
         beginPicture();
-        goOnWithPicture();
+        m_picture.work(QDeadlineTimer(slice));
+        if (!m_picture.isFinished()) {
+            m_goOn.start();
+        }
     }
     QPainter painter(this);
     m_picture.paint(painter);

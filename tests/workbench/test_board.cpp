@@ -330,6 +330,25 @@ TEST_F(Pictures, ADragMovesTheBoardAndPicksNothing)
     EXPECT_EQ(view->zoom(), 1);
 }
 
+TEST_F(Pictures, ExtremeFilesDoNoHarm)
+{
+    writeFile("tiny/steps/pcb/layers/empty/features",
+              "UNITS=MM\n$0 r999999999999999999999\n$1 moire1x1x99999999999x1x9x0\n"
+              "$2 thr100x50x0x99999999999x1\n$3 rect0x0\n"
+              "P 1e9 -1e9 0 P 0 8 1e9\nP 0 0 1 P 0 0\nP 1 1 2 N 0 9 -1e9\nP 2 2 3 P 0 0\n"
+              "L -1e9 -1e9 1e9 1e9 0 P 0\nL -1e9 1e9 1e9 -1e9 3 P 0\nA 1e9 0 1e9 0 -1e9 0 2 P 0 Y\n"
+              "A 0 0 0 0 0 0 0 P 0 Y\n");
+    view->showLayer(layer(2));
+    ASSERT_EQ(view->shapes().size(), 8U);
+    for (int i = 0; i < 30; ++i) {
+        view->zoomIn();
+        grab();
+    }
+    view->zoomFit();
+    EXPECT_LT(view->zoom(), 1e-3);
+    EXPECT_TRUE(isDrawn(grab(), 0, 0));
+}
+
 TEST_F(Pictures, SayWhyNothingIsDrawn)
 {
     char const * const texts[] = {"", "", "The layer empty has no features in this step",

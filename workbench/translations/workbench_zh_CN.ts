@@ -11,6 +11,10 @@
         <source>Reading layer %1 (F1 stops)</source>
         <translation>正在读取层 %1（按 F1 停止）</translation>
     </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AttributesPage</name>
