@@ -63,12 +63,12 @@ void CheckContext::forEachMeasurable(API::layer_info const & layer, char const *
     }
     if (erasing != 0) {
         note({table, -1, layer.name,
-              "What " + std::to_string(erasing) + " erasing features take from others is not seen."});
+              "Erasing features (" + std::to_string(erasing) + "): what they take from others is not seen."});
     }
     if (unknown != 0) {
         note({table, -1, layer.name,
-              std::to_string(unknown) +
-                  " features are drawn with symbols that cannot be measured so, such as " + example + '.'});
+              "Features drawn with symbols that cannot be measured so (" + std::to_string(unknown) +
+                  "), such as " + example + '.'});
     }
 }
 

@@ -6,7 +6,8 @@
 #include <utility>
 
 /// The members of check_reply. They belong to the engine's library, which instantiates them for the items it
-/// answers, so they stand in no header of the host's interface.
+/// answers, so they stand in no header of the host's interface. One source includes them: in another they
+/// would be instantiated hidden, and the linker takes the hidden ones for both.
 namespace KVCAM::API {
 
 template <class Item, class Info>

@@ -1,14 +1,17 @@
 #include "DrillChecks.h"
 
 #include "CheckRecords.h"
-#include "CheckReply.h"
+
+#include "support/Narrowing.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace KVCAM::Embedded {
@@ -73,6 +76,45 @@ std::pair<API::point, API::point> middleLine(Feature const & feature, SymbolShap
     return {placed(API::point{-end.x, -end.y}, where), placed(end, where)};
 }
 
+struct Slot
+{
+    Measurement record;
+    API::point from;
+    API::point to;
+};
+
+// Leaves out what joins another one end to end, and full circles: they are the path of the rout. The same
+// slot drawn twice is no path.
+std::vector<Measurement> withoutPaths(std::vector<Slot> slots)
+{
+    using Key = std::pair<std::int64_t, std::int64_t>;
+    auto const key = [](API::point p) { return Key(UIAPI::nearestInt64(p.x), UIAPI::nearestInt64(p.y)); };
+    std::map<Key, std::set<Key>> joined;
+    for (Slot const & slot : slots) {
+        joined[key(slot.from)].insert(key(slot.to));
+        joined[key(slot.to)].insert(key(slot.from));
+    }
+    std::vector<Measurement> records;
+    for (Slot & slot : slots) {
+        Key const from = key(slot.from);
+        Key const to = key(slot.to);
+        if (from != to && joined.at(from).size() == 1 && joined.at(to).size() == 1) {
+            records.push_back(std::move(slot.record));
+        }
+    }
+    return records;
+}
+
+std::vector<Measurement> recordsOf(std::vector<Slot> slots)
+{
+    std::vector<Measurement> records;
+    records.reserve(slots.size());
+    for (Slot & slot : slots) {
+        records.push_back(std::move(slot.record));
+    }
+    return records;
+}
+
 } // namespace
 
 void checkDrills(CheckContext & context, API::layer_info const & layer, CheckResults & results,
@@ -80,8 +122,8 @@ void checkDrills(CheckContext & context, API::layer_info const & layer, CheckRes
 {
     bool const drill = layer.type == "drill";
     std::vector<Tool> const tools = context.job().tools(context.step(), layer.name);
-    auto const [firstRow, lastRow] = rowsOf(context.job().matrix(), layer.name);
-    std::vector<Measurement> slots;
+    std::pair<int, int> const rows = rowsOf(context.job().matrix(), layer.name);
+    std::vector<Slot> slots;
     std::array<std::vector<Measurement>, 3> summaries;
 
     context.forEachMeasurable(layer, "drill", [&](Feature const & feature, SymbolShape const & shape) {
@@ -90,15 +132,16 @@ void checkDrills(CheckContext & context, API::layer_info const & layer, CheckRes
         bool const round = feature.kind != 'A' && distance(from, to) == 0;
         if (round && drill) {
             HoleKind const kind = kindOf(feature, width, tools);
-            holes.push_back({from, width, kind, firstRow, lastRow});
+            holes.push_back({from, width, kind, rows.first, rows.second});
             summaries.at(static_cast<std::size_t>(kind))
                 .push_back(measurement(5, width, {from.x, from.y, width, width}));
         } else if (!round && (feature.kind == 'P' || !context.area().isOutline(feature, width))) {
-            slots.push_back(measurement(1, width, {from.x, from.y, to.x, to.y, width}));
+            slots.push_back({measurement(1, width, {from.x, from.y, to.x, to.y, width}), from, to});
         }
     });
 
-    results.rest[slotItem][layer.name].at(slotList) = sorted(std::move(slots));
+    results.rest[slotItem][layer.name].at(slotList) =
+        sorted(drill ? recordsOf(std::move(slots)) : withoutPaths(std::move(slots)));
     if (drill) {
         auto & reply = results.drill[layer.name];
         for (std::size_t kind = 0; kind < summaries.size(); ++kind) {

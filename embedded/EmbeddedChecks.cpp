@@ -1,6 +1,5 @@
 #include "EmbeddedChecks.h"
 
-#include "CheckReply.h"
 #include "CopperChecks.h"
 #include "EngineState.h"
 

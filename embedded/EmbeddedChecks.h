@@ -12,67 +12,70 @@
 /// stand. The job itself is never changed.
 ///
 /// **What is measured.** Copper layers are the positive board layers of type signal, power_ground and mixed;
-/// drill and rout layers are the positive board layers of those types. Of them count the features that add
-/// (not those that erase), lie inside the step's profile, have a size, and carry neither `.nomenclature` nor
-/// `.string`. Inside means a pad's place, or the two ends and the middle of a line or arc; without a profile
-/// everything lies inside. A line or arc that runs along the profile, nearer than half its width, is the
-/// outline and no track. Step and repeat is not expanded.
+/// drill and rout layers are the positive board layers of those types. Of their pads, lines and arcs
+/// (surfaces are not measured) count those that add and do not erase, lie inside the step's profile, have a
+/// size, and carry neither `.nomenclature` nor `.string`. Inside means a pad's place, or the two ends and the
+/// middle of a line or arc; without a profile everything lies inside. A line or arc whose ends and middle are
+/// within half its width of the profile is the outline and no track. Step and repeat is not expanded.
 ///
 /// The records, by table and number, their type and their `points` (micrometres, rounded to the nearest):
-/// - signal 46, lines: each line and arc of a copper layer; 1: both ends, width
+/// - signal 46, lines: each line and arc of a copper layer; 1: both ends, width. Arcs count as lines, since a
+///   layer's least track width is taken from here.
 /// - signal 45, pads: each pad of a copper layer; 5: place, its narrower and its wider side
 /// - signal 12, SMD to SMD: each pad with `.smd` and the one nearest to it; 2: the nearest points, spacing
-/// - signal 33, 31, 36, annular rings of vias, plated and non-plated holes: each hole on each copper layer
-/// that
-///   it goes through; 3: hole, its diameter, pad, its narrower side, ring, offset of the centres
+/// - signal 33, 31, 36, annular rings of vias, plated and non-plated holes: each hole on each copper layer on
+///   its way; 3: hole, its diameter, pad, its narrower side, ring, offset of the two places
 /// - drill 0, 1, 2, summaries: each plated, each non-plated hole, each via; 5: place, diameter twice
 /// - unified item 10, slots: each slot of a drill or rout layer; 1: both ends of its middle line, width
 ///
-/// `value` is the width, smaller side, spacing, ring or diameter in mil, rounded down, never below 0; a size
-/// that is a whole number of mil but for rounding errors of a millionth counts as whole. Everything
-/// saturates. Every record stands in list (level) 0, but the slots stand in list 3, which is the one that the
-/// board's summary counts. Lists ascend by what was measured, so a stable sort by the points keeps the
-/// smallest value first. Where rings of the three kinds agree to the micrometre on a layer, all of them get
-/// the lowest value of these, since the three lists are sorted into one.
+/// `value` is the width, narrower side, spacing, ring or diameter in mil, rounded down, never below 0; what
+/// lacks less than a millionth of the next mil has reached it, since an exact 8 mil may come out of the
+/// conversions a little below. Everything saturates. Every record stands in list (level) 0, but the slots
+/// stand in list 3, the one that the board's summary counts. Lists ascend by what was measured before any
+/// rounding, so a stable sort by the points keeps the smallest value first. The three kinds of ring are
+/// sorted into one list, so those of a layer that agree to the micrometre all have the lowest value among
+/// them.
 ///
-/// Arcs count as lines, since the summary takes a layer's least track width from there.
+/// **Shapes.** Exact: round, square and rectangular symbols (all four corners, or none, rounded or cut),
+/// ovals, diamonds, octagons, hexagons and triangles, mirrored (left and right exchanged) and then turned.
+/// Every other one is measured by an outer shape for spacings, so that none is reported larger than it is,
+/// and by an inner one for rings and widths, for the same reason: an ellipse by polygons of 32 sides; a half
+/// oval by the rectangle and the oval; a rectangle with some corners rounded or cut by the plain one and by
+/// the one with all of them so; thermals, butterflies and moires by the rectangle, oval or circle about them;
+/// a symbol of the job's own by the rectangle about its drawing. The last two have no inner shape. A symbol
+/// of the job's own that has no drawing, or holds another such symbol, is not measured. The width of a line
+/// is that of its symbol across the line's direction; of an arc, its symbol's narrower side.
 ///
-/// **Shapes.** Exact: round, square and rectangular symbols (corners rounded or cut, all four of them),
-/// ovals, diamonds, octagons, hexagons and triangles, turned and mirrored. Every other one is measured by an
-/// outer shape, so that no spacing is reported larger than it is, and on an inner one, so that no ring is: an
-/// ellipse by polygons of 32 sides about it and in it; a half oval and a rectangle with some corners rounded
-/// or cut by the rectangle and by the same with all corners so; thermals, butterflies and moires by the
-/// rectangle or circle about them. A symbol of the job's own is measured by the rectangle about its drawing;
-/// one whose drawing is missing or holds such symbols itself is not measured. The width of a line that is
-/// drawn with a symbol other than a round one is that of the symbol across the line's direction; of an arc,
-/// the symbol's narrower side.
-///
-/// **Spacing** is edge to edge, 0 where pads overlap. The nearest neighbour is found however far it is; of
-/// several equally near one is taken; each pair is reported once. Pads of one shape in one place are one pad.
+/// **Spacing** is from edge to edge, 0 where pads overlap. The nearest neighbour is found however far it is;
+/// of several equally near one is taken; each pair is reported once. Pads of one shape in one place are one
+/// pad.
 ///
 /// **Rings.** A hole is as large as the drill layer draws it, whatever size its tool has. Its kind is that of
 /// its `.drill` attribute, else of the tool with its code, else of a tool of its size, else plated. It goes
-/// through the copper layers between the first and last of its layer by row (all of them when the matrix
-/// names none). The ring is the least distance from the hole's edge to that of the pad, of the pad that
-/// leaves most where several cover the hole's centre; 0 where the hole breaks out. Other copper about the pad
-/// is not seen. Not reported: a hole whose centre no pad covers (a missing pad, which are signal categories
-/// 39 and 40), a pad of a non-plated hole that the drill takes away whole, pads that are not solid (thermals,
-/// butterflies, moires, the job's own; a donut counts where the drill takes its opening away). Slots have no
-/// ring.
+/// through the copper layers whose rows lie between those of its layer's two ends (through all where the
+/// matrix names no two). The ring is the least distance from the hole's edge to that of the pad, and of the
+/// pads that cover the hole's centre that of the one that leaves most; 0 where the hole breaks out. Other
+/// copper about the pad is not seen. Not reported: a hole whose centre no pad covers (a missing pad: signal
+/// categories 39 and 40), a pad of a non-plated hole that the drill takes away whole, a pad without an inner
+/// shape, a donut whose opening the drill does not take away. Slots have no ring.
+///
+/// **Slots** are lines, arcs and pads with sides of two lengths. Round pads and lines of no length are holes
+/// on a drill layer and nothing on a rout layer. What joins another line or arc of a rout layer end to end, a
+/// full circle, and what runs along the profile is the path of the rout and no slot.
 ///
 /// **Negative.** A negative layer draws what is taken away, so nothing is measured there; what erasing
 /// features take from others on a positive layer is not seen. Both stand in `notChecked`.
 namespace KVCAM::Embedded {
 
 /// Told how far the checks are: `done` of `total`, which stays the same throughout a run; false cancels.
-/// It may call the engine, but what it changes in layers already measured is not seen. It must not throw.
+/// It may call the engine, but a change of what has been measured already is not seen. It must not throw.
 using CheckProgress = std::function<bool(int done, int total)>;
 
 /// What was not measured and why, in a sentence.
 struct NotChecked
 {
-    std::string table; ///< "signal" or "drill", whose `item` it is; "rest" for a unified item
-    int item = -1;     ///< -1: every item of the table on that layer
+    std::string table; ///< "signal" or "drill": whose `item` it is, or what kind of layer
+    int item = -1;     ///< -1: no single one; the reason tells what of the layer was not seen
     std::string layer; ///< empty: every layer
     std::string reason;
 };
@@ -89,8 +92,10 @@ struct CheckResults
     std::vector<NotChecked> notChecked;
 };
 
-/// Runs all checks. About linear in the number of features. False, with lastError() set and `out` empty, when
-/// the job or step is not open, one of the files needed is damaged, or `progress` cancelled.
+/// Runs all checks. About linear in the number of features, however they are spread; only where the upright
+/// boxes about many SMD pads overlap (long pads set aslant and close) does each cost more. False, with
+/// lastError() set and `out` empty, when the job or step is not open, one of the files needed is damaged, or
+/// `progress` cancelled.
 KVCAM_API_EXPORT bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
                                 CheckProgress const & progress = {});
 

@@ -113,7 +113,7 @@ std::vector<Measurement> PadChecks::smdSpacings() const
                 return other == i ? endless : gapBetween(shapes[i], shapes[other]).distance;
             });
         if (nearest) {
-            pairs.push_back(std::minmax(i, nearest->item));
+            pairs.emplace_back(std::min(i, nearest->item), std::max(i, nearest->item));
         }
         if (i % chunk == 0) {
             m_context.tell(3 * shapes.size() + i, 6 * shapes.size()); // the fourth of six parts

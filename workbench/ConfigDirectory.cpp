@@ -22,6 +22,9 @@ void copySamples(QString const & name, QString const & directory)
         QFile::setPermissions(copy,
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
+    for (QString const & folder : samples.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        copySamples(name + '/' + folder, directory + '/' + folder);
+    }
 }
 
 } // namespace

@@ -122,7 +122,7 @@ enum class ReportFormat : int
 {
     Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
           ///< their entries, and what was not checked
-    Csv   ///< RFC 4180 with a head line; rows "count", "measurement" and "not_checked"
+    Csv   ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
 };
 
 /// Whether a file was written, and if not why, as one translated sentence.

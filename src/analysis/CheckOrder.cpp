@@ -2,18 +2,24 @@
 
 #include "analysis/BoundedMergeSort.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <numeric>
 
 namespace KVCAM::UIAPI {
 namespace {
 
 constexpr std::array<std::size_t, 3> comparedPoints = {2, 4, 6};
-constexpr int unordered = -1;
+constexpr std::size_t unordered = comparedPoints.size();
+
+// Of the radix sort. Below so many entries its tables cost more than merging.
+constexpr unsigned digitBits = 11;
+constexpr std::size_t fewest = 1000;
 
 // Which of the compared points counts for a kind.
-int slotOf(int kind)
+std::size_t slotOf(int kind)
 {
     switch (kind) {
     case 0:
@@ -32,20 +38,20 @@ int slotOf(int kind)
 // What the comparison reads of an entry, so that it is looked up once and not once per comparison.
 struct Key
 {
+    check_info const * entry = nullptr;
     std::array<int, comparedPoints.size()> points{};
-    std::int8_t slot = unordered;
-    std::int8_t held = 0; // how many of the compared points there are
-    std::uint32_t index = 0;
+    std::uint8_t slot = unordered;
+    std::uint8_t held = 0; // how many of the compared points there are
 };
 
-Key keyOf(check_info const & entry, std::size_t index)
+Key keyOf(check_info const & entry)
 {
     Key key;
-    key.slot = static_cast<std::int8_t>(slotOf(entry.type));
-    key.index = static_cast<std::uint32_t>(index);
+    key.entry = &entry;
+    key.slot = static_cast<std::uint8_t>(slotOf(entry.type));
     for (std::size_t i = 0; i < comparedPoints.size() && comparedPoints[i] < entry.points.size(); ++i) {
         key.points[i] = entry.points[comparedPoints[i]];
-        key.held = static_cast<std::int8_t>(i + 1);
+        key.held = static_cast<std::uint8_t>(i + 1);
     }
     return key;
 }
@@ -55,26 +61,101 @@ bool isBefore(Key const & a, Key const & b)
     if (a.slot == unordered) {
         return true;
     }
-    auto const slot = static_cast<std::size_t>(a.slot);
-    return a.slot < a.held && a.slot < b.held && a.points[slot] < b.points[slot];
+    return a.slot < a.held && a.slot < b.held && a.points[a.slot] < b.points[a.slot];
+}
+
+// The usual case: all are compared by the same point, and all have it. Their order is that of plain numbers.
+bool areAlike(std::vector<Key> const & keys)
+{
+    return std::all_of(keys.begin(), keys.end(), [&](Key const & key) {
+        return key.slot != unordered && key.slot == keys.front().slot && key.slot < key.held;
+    });
+}
+
+struct Number
+{
+    std::uint32_t value = 0;
+    std::uint32_t index = 0;
+};
+
+// One pass of a radix sort: stable by the bits of the values from `shift` on.
+void sortByDigit(std::vector<Number> & numbers, std::vector<Number> & buffer, unsigned shift)
+{
+    constexpr std::uint32_t digits = 1U << digitBits;
+    auto const digitOf = [shift](Number const & number) { return (number.value >> shift) & (digits - 1); };
+    std::array<std::size_t, digits> next{};
+    for (Number const & number : numbers) {
+        ++next[digitOf(number)];
+    }
+    std::exclusive_scan(next.begin(), next.end(), next.begin(), std::size_t{0});
+    for (Number const & number : numbers) {
+        buffer[next[digitOf(number)]++] = number;
+    }
+    numbers.swap(buffer);
+}
+
+// The same order as the merge sort's, in a time that grows with the number of entries alone.
+void sortAlike(std::vector<Key> & keys)
+{
+    std::vector<Number> numbers;
+    numbers.reserve(keys.size());
+    for (Key const & key : keys) {
+        auto const value = static_cast<std::uint32_t>(key.points[key.slot]);
+        numbers.push_back(
+            {value ^ 0x80000000U, static_cast<std::uint32_t>(numbers.size())}); // negative first
+    }
+    std::vector<Number> buffer(numbers.size());
+    for (unsigned shift = 0; shift < 32; shift += digitBits) {
+        sortByDigit(numbers, buffer, shift);
+    }
+    permute(keys, numbers);
+}
+
+void prefetch(void const * address)
+{
+#if defined(__GNUC__)
+    __builtin_prefetch(address);
+#else
+    static_cast<void>(address);
+#endif
 }
 
 } // namespace
 
 bool goesBefore(check_info const & a, check_info const & b)
 {
-    return isBefore(keyOf(a, 0), keyOf(b, 0));
+    return isBefore(keyOf(a), keyOf(b));
 }
 
-void sortByMeasure(std::vector<check_info> & entries)
+std::vector<check_info> sortedByMeasure(std::vector<std::vector<check_info> const *> const & lists)
 {
     std::vector<Key> keys;
-    keys.reserve(entries.size());
-    for (check_info const & entry : entries) {
-        keys.push_back(keyOf(entry, keys.size()));
+    for (std::vector<check_info> const * list : lists) {
+        keys.reserve(keys.size() + list->size());
+        for (check_info const & entry : *list) {
+            keys.push_back(keyOf(entry));
+        }
     }
-    boundedMergeSort(keys, isBefore);
-    permute(entries, keys);
+    if (keys.size() >= fewest && areAlike(keys)) {
+        sortAlike(keys);
+    } else {
+        boundedMergeSort(keys, isBefore);
+    }
+    // Copied in their final order, so that what is read one after the other stands so in memory too. The
+    // sources then lie anywhere; asking for them some steps ahead hides most of the waiting.
+    constexpr std::size_t ahead = 8;
+    std::vector<check_info> sorted;
+    sorted.reserve(keys.size());
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (i + 2 * ahead < keys.size()) {
+            prefetch(keys[i + 2 * ahead].entry);
+        }
+        if (i + ahead < keys.size()) {
+            prefetch(keys[i + ahead].entry->points.data());
+        }
+        sorted.push_back(*keys[i].entry);
+    }
+    return sorted;
 }
 
 std::optional<int> layerValue(unified_check_result const & result)

@@ -12,8 +12,9 @@ namespace KVCAM::UIAPI {
 /// which is no order and kept as it is.
 bool goesBefore(check_info const & a, check_info const & b);
 
-/// Sorts ascending by goesBefore(), stably where that is an order.
-void sortByMeasure(std::vector<check_info> & entries);
+/// The entries of the lists, one list after the other, sorted ascending by goesBefore(), stably where that is
+/// an order.
+std::vector<check_info> sortedByMeasure(std::vector<std::vector<check_info> const *> const & lists);
 
 /// The value of a layer: that of the first entry of the first group that has one. None without entries.
 std::optional<int> layerValue(unified_check_result const & result);

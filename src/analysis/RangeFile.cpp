@@ -1,5 +1,7 @@
 #include "analysis/RangeFile.h"
 
+#include "units/DecimalText.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QLocale>
@@ -35,7 +37,7 @@ std::optional<Records> readRecords(QJsonDocument const & document)
         Analysis_Ranges_Record & record = records.emplace_back();
         record.name = object.value(QLatin1String(nameKey)).toString().toStdString();
         for (Level const & level : levels) {
-            record.*level.value = object.value(QLatin1String(level.key)).toString().toDouble();
+            record.*level.value = decimalValue(object.value(QLatin1String(level.key)).toString());
         }
     }
     return records;

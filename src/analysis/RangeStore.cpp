@@ -69,7 +69,7 @@ void RangeStore::readFile(QString const & fileName, QString const & filePath)
     // An empty list is stored too and keeps the name from a later file.
     if (std::optional<RangeFile::Records> records = RangeFile::readRecords(file.document)) {
         m_ranges.try_emplace(fileName.toStdString(),
-                             Range{*records, *records, QFileInfo(filePath).absoluteFilePath()});
+                             Range{std::move(*records), {}, QDir().absoluteFilePath(filePath)});
     }
 }
 
@@ -97,6 +97,9 @@ void RangeStore::changeRangesValue(std::string const & rangeName, std::string co
     auto const level = std::find_if(RangeFile::levels.begin(), RangeFile::levels.end(),
                                     [&](auto const & entry) { return entry.key == levelName; });
     if (record != records.end() && level != RangeFile::levels.end()) {
+        if (!range->second.loaded) {
+            range->second.loaded = records;
+        }
         (*record).*level->value = value;
     }
 }
@@ -108,11 +111,14 @@ Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
         return refused(QObject::tr("There is no range file \"%1\".").arg(QString::fromStdString(rangeName)));
     }
     Range & range = found->second;
+    if (!range.loaded) {
+        return {true, {}};
+    }
     JsonFile::ReadResult file = JsonFile::read(range.path, QIODevice::Text);
     if (file.status != JsonFile::ReadStatus::Ok) {
         return refused(QObject::tr("The range file \"%1\" cannot be read.").arg(range.path));
     }
-    switch (RangeFile::writeLevels(file.document, range.loaded, range.records)) {
+    switch (RangeFile::writeLevels(file.document, *range.loaded, range.records)) {
     case RangeFile::Change::Nothing:
         return {true, {}};
     case RangeFile::Change::Stale:
@@ -127,7 +133,7 @@ Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
     if (JsonFile::replace(range.path, file.document.toJson(), QIODevice::Text) != JsonFile::WriteStatus::Ok) {
         return refused(QObject::tr("The file \"%1\" cannot be written.").arg(range.path));
     }
-    range.loaded = range.records;
+    range.loaded.reset();
     return {true, {}};
 }
 

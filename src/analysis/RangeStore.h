@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,8 +35,8 @@ private:
     struct Range
     {
         RangeFile::Records records;
-        RangeFile::Records loaded; ///< as the file holds them
-        QString path;              ///< absolute
+        std::optional<RangeFile::Records> loaded; ///< as the file holds them, once a level was changed
+        QString path;                             ///< absolute
     };
 
     void readAll();

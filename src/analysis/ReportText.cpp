@@ -187,7 +187,10 @@ QByteArray csvReport(AnalysisReport const & report)
     QByteArray out = "\xEF\xBB\xBF";
     appendCsvLine(out, {"record", "table", "number", "category", "layer", "level", "value_um", "value_mil",
                         QByteArray("limit_") + unitName(report.levelUnit()), "severity", "x_um", "y_um",
-                        "count", "reason"});
+                        "count", "text"});
+    for (auto const & [record, text] : {std::pair("job", &report.job()), {"step", &report.step()}}) {
+        appendCsvLine(out, {record, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, csvText(*text)});
+    }
     SeverityCounts const counts = report.counts();
     for (SeverityMark const & mark : severityPalette) {
         auto const count = static_cast<qulonglong>(counts[static_cast<std::size_t>(mark.severity)]);

@@ -44,14 +44,14 @@ unified_check_result gather(std::array<int, 3> const & checks, ListOf listOf)
 {
     unified_check_result result;
     for (std::size_t group = 0; group < result.groups.size(); ++group) {
-        std::vector<check_info> & gathered = result.groups[group];
+        std::vector<std::vector<check_info> const *> lists;
         for (int const check : checks) {
             std::vector<check_info> const * list = check == noItem ? nullptr : listOf(check, group);
             if (list != nullptr) {
-                gathered.insert(gathered.end(), list->begin(), list->end());
+                lists.push_back(list);
             }
         }
-        sortByMeasure(gathered);
+        result.groups[group] = sortedByMeasure(lists);
     }
     return result;
 }

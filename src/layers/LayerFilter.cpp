@@ -82,7 +82,10 @@ KeyFact const * findKey(QString const & name)
 
 void appendWords(QString const & value, Words & words)
 {
-    words += value.split(QLatin1Char('|'), Qt::KeepEmptyParts).toVector();
+    QStringList const parts = value.split(QLatin1Char('|'), Qt::KeepEmptyParts);
+    for (QString const & part : parts) {
+        words.append(part);
+    }
 }
 
 bool isInVocabulary(Key key, QString const & word)

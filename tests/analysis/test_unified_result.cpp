@@ -1,0 +1,322 @@
+#include "CheckEntries.h"
+#include "harness/UiapiTest.h"
+
+#include "CheckReply.h"
+#include "analysis/BoundedMergeSort.h"
+#include "analysis/CheckOrder.h"
+#include "analysis/UnifiedResultStore.h"
+#include "analysis/Unified_AnalysisResult.h"
+
+#include <json/reader.h>
+#include <json/value.h>
+
+#include <algorithm>
+#include <limits>
+#include <random>
+#include <sstream>
+
+using namespace KVCAM::UIAPI;
+using namespace KVCAM::Testing;
+
+namespace {
+
+constexpr int least = std::numeric_limits<int>::min();
+constexpr int largest = std::numeric_limits<int>::max();
+
+using Answer = std::vector<std::pair<std::string, Entries>>;
+using Layers = std::map<std::string, unified_check_result>;
+
+class UnifiedResultTest : public UiapiTest
+{
+protected:
+    Unified_AnalysisResult & result = *Unified_AnalysisResult::instance();
+
+    std::vector<int> filed(int item, int group, std::string const & layer = "top")
+    {
+        Answer answer;
+        EXPECT_TRUE(result.getUnifiedResult(static_cast<unified_check_items>(item), group, answer));
+        for (auto const & [name, entries] : answer) {
+            if (name == layer) {
+                return valuesOf(entries);
+            }
+        }
+        return {-1};
+    }
+
+    /// The summary's rows.
+    Json::Value summary()
+    {
+        std::string text = "before";
+        result.jsonoutput(text);
+        Json::Value document;
+        std::istringstream(text) >> document;
+        return document;
+    }
+
+    /// "layer=value" of each element of a row's result.
+    static std::vector<std::string> entriesOf(Json::Value const & row)
+    {
+        std::vector<std::string> out;
+        for (Json::Value const & entry : (*row.begin())["result"]) {
+            out.push_back(entry["layername"].asString() + "=" + entry["value"].asString());
+        }
+        return out;
+    }
+};
+
+TEST_F(UnifiedResultTest, TheFirstsKindChoosesThePointOfBoth)
+{
+    struct Row
+    {
+        check_info a, b;
+        bool expected;
+    };
+    std::vector<int> const low{9, 9, 1, 9, 1, 9, 1, 9};
+    std::vector<int> const high{0, 0, 2, 0, 2, 0, 2, 0};
+    std::vector<Row> rows;
+    for (int const kind : {0, 1, 2, 3, 5}) {
+        rows.push_back({{kind, 0, low}, {kind, 0, high}, true});
+        rows.push_back({{kind, 0, high}, {kind, 0, low}, false});
+        rows.push_back({{kind, 0, low}, {kind, 0, low}, false});
+        rows.push_back({{kind, 0, {}}, {kind, 0, high}, false});
+        rows.push_back({{kind, 0, low}, {kind, 0, {0, 0}}, false});
+    }
+    for (int const kind : {-1, 4, 6, 100, least}) {
+        rows.push_back({{kind, 0, high}, {0, 0, low}, true});
+        rows.push_back({{kind, 0, {}}, {kind, 0, {}}, true});
+        rows.push_back({{0, 0, high}, {kind, 0, low}, false});
+    }
+    rows.push_back({{0, 0, {0, 0, 1}}, {3, 0, {0, 0, 2, 0, 0, 0, 0, 0}}, true});
+    rows.push_back({{3, 0, {0, 0, 1, 0, 0, 0, 1, 0}}, {0, 0, {0, 0, 2}}, false});
+    rows.push_back({{5, 0, {0, 0, 3, 1}}, {5, 0, {0, 0, 2, 2}}, false}); // not the smaller of the two
+    rows.push_back({{1, 0, {0, 0, 0, 0, least}}, {1, 0, {0, 0, 0, 0, largest}}, true});
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        EXPECT_EQ(goesBefore(rows[i].a, rows[i].b), rows[i].expected) << i;
+    }
+}
+
+// One list long enough for the fast way and one kind: a plain stable sort.
+TEST_F(UnifiedResultTest, EntriesOfOneKindAreSortedStably)
+{
+    std::mt19937 random(1);
+    std::vector<int> const sizes{least, -70000, -1, 0, 1, 2047, 2048, 1 << 22, largest};
+    for (std::size_t const count : {0, 1, 17, 5000}) {
+        Entries first;
+        Entries second;
+        for (std::size_t i = 0; i < count; ++i) {
+            (i < count / 3 ? first : second)
+                .push_back({2, static_cast<int>(i), {0, 0, 0, 0, sizes[random() % sizes.size()]}});
+        }
+        Entries expected = first;
+        expected.insert(expected.end(), second.begin(), second.end());
+        std::stable_sort(expected.begin(), expected.end(), [](check_info const & a, check_info const & b) {
+            return a.points[4] < b.points[4];
+        });
+        EXPECT_EQ(valuesOf(sortedByMeasure({&first, &second})), valuesOf(expected)) << count;
+    }
+}
+
+// Whatever the kinds: what the sort makes of the comparison itself, and no entry lost or doubled.
+TEST_F(UnifiedResultTest, MixedKindsAreMergedByTheComparison)
+{
+    std::mt19937 random(2);
+    for (int run = 0; run < 200; ++run) {
+        Entries entries(random() % (run == 0 ? 3000 : 40));
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            entries[i].type = static_cast<int>(random() % 9) - 2;
+            entries[i].value = static_cast<int>(i);
+            entries[i].points.resize(random() % 9);
+            for (int & point : entries[i].points) {
+                point = static_cast<int>(random() % 4);
+            }
+        }
+        Entries expected = entries;
+        boundedMergeSort(expected, goesBefore);
+        EXPECT_EQ(valuesOf(sortedByMeasure({&entries})), valuesOf(expected));
+        std::vector<int> values = valuesOf(expected);
+        std::sort(values.begin(), values.end());
+        EXPECT_EQ(values, valuesOf(entries));
+    }
+}
+
+TEST_F(UnifiedResultTest, EveryDrillCheckHasItsItem)
+{
+    std::map<std::string, check_reply<drill_check_item, check_info>> replies;
+    for (int item = 0; item < 60; ++item) {
+        for (int level = -1; level < 5; ++level) {
+            replies["drl"].add(drillItem(item), level, {1, item * 10 + level, {0, 0, 0, 0, 7}});
+        }
+    }
+    ASSERT_TRUE(result.setDrillCheckResult(replies));
+    for (int item = 0; item < 60; ++item) {
+        for (int group = 0; group < 4; ++group) {
+            std::map<int, std::vector<int>> const checks{{9, {2, 1}}, {39, {28, 34}}, {40, {29, 35}}};
+            std::vector<int> expected;
+            for (int const check :
+                 checks.count(item) != 0 && group < 3 ? checks.at(item) : std::vector<int>{}) {
+                expected.push_back(check * 10 + group);
+            }
+            EXPECT_EQ(filed(item, group, "drl"), checks.count(item) != 0 ? expected : std::vector<int>{-1})
+                << item << ' ' << group;
+        }
+    }
+}
+
+TEST_F(UnifiedResultTest, EverySignalCheckHasItsItem)
+{
+    std::map<std::string, std::map<signal_layers_checks_items, signal_check_result>> replies;
+    for (int item = 0; item < 90; ++item) {
+        for (int group = 0; group < 4; ++group) {
+            replies["top"][signalItem(item)].lists[static_cast<std::size_t>(group)] = {
+                {3, item * 10 + group, {0, 0, 0, 0, 0, 0, 7, 0}}};
+        }
+    }
+    replies["bare"]; // a layer without a check gets its empty entries
+    ASSERT_TRUE(result.setSignalLayerCheckResult(replies));
+    EXPECT_TRUE(replies["bare"].empty()) << "the reply is left as it is";
+    std::map<int, std::vector<int>> const checks{{4, {46}},      {5, {3}},           {6, {45}},
+                                                 {7, {12}},      {11, {33, 31, 36}}, {12, {14, 15}},
+                                                 {13, {26, 29}}, {14, {43}},         {26, {4}}};
+    for (int item = 0; item < 60; ++item) {
+        for (int group = 0; group < 4; ++group) {
+            std::vector<int> expected;
+            for (int const check : checks.count(item) != 0 ? checks.at(item) : std::vector<int>{}) {
+                expected.push_back(check * 10 + group);
+            }
+            EXPECT_EQ(filed(item, group), checks.count(item) != 0 ? expected : std::vector<int>{-1});
+            EXPECT_EQ(filed(item, group, "bare"),
+                      checks.count(item) != 0 ? std::vector<int>{} : std::vector<int>{-1});
+        }
+    }
+}
+
+TEST_F(UnifiedResultTest, SettersReplaceByLayerAndTheRestByItem)
+{
+    std::map<std::string, std::map<signal_layers_checks_items, signal_check_result>> replies;
+    replies["top"][signalItem(46)].lists[0] = {{1, 8, {0, 0, 0, 0, 8}}, {1, 5, {0, 0, 0, 0, 5}}};
+    replies["bot"][signalItem(46)].lists[0] = {{1, 3, {0, 0, 0, 0, 3}}};
+    result.setSignalLayerCheckResult(replies);
+    replies.erase("bot");
+    replies["top"][signalItem(46)].lists[0].pop_back();
+    result.setSignalLayerCheckResult(replies);
+    EXPECT_EQ(filed(4, 0), std::vector<int>{8});
+    EXPECT_EQ(filed(4, 0, "bot"), std::vector<int>{3});
+
+    std::map<unified_check_items, Layers> rest;
+    rest[UNIFIED_LINES]["new"].groups[1] = {{1, 9, {0, 0, 0, 0, 9}}, {1, 2, {0, 0, 0, 0, 2}}};
+    rest[static_cast<unified_check_items>(-77)]["x"].groups[3] = {{0, 4, {}}};
+    EXPECT_TRUE(result.setRestResult(rest));
+    EXPECT_EQ(filed(4, 1, "new"), (std::vector<int>{9, 2})) << "stored as given";
+    EXPECT_EQ(filed(4, 0), std::vector<int>{-1}) << "the item's other layers are gone";
+    EXPECT_EQ(filed(-77, 3, "x"), std::vector<int>{4});
+
+    UnifiedResultStore store;
+    EXPECT_FALSE(store.hasDrill() || store.hasSignal());
+    store.fileSignal({});
+    EXPECT_TRUE(store.hasSignal() && !store.hasDrill());
+    store.fileDrill({});
+    EXPECT_TRUE(store.hasDrill());
+}
+
+TEST_F(UnifiedResultTest, AQueryIsOrderedByRow)
+{
+    std::map<unified_check_items, Layers> rest;
+    for (char const * layer : {"bot", "l2", "top", "x", "y"}) {
+        rest[UNIFIED_PADS][layer].groups[2] = {{}};
+    }
+    result.setRestResult(rest);
+    auto const order = [&](Answer answer = {}) {
+        EXPECT_TRUE(result.getUnifiedResult(UNIFIED_PADS, 2, answer));
+        std::string names;
+        for (auto const & entry : answer) {
+            names += entry.first + ' ';
+        }
+        return names;
+    };
+    // "Less than or equal": layers of equal rows, here of none, change places.
+    EXPECT_EQ(order(), "y x top l2 bot ");
+    result.setLayerInfo({{"board", "signal", "top", "POS", 1},
+                         {"board", "signal", "bot", "POS", 4},
+                         {"board", "signal", "l2", "POS", 3},
+                         {"board", "signal", "top", "POS", 9},
+                         {"board", "signal", "X", "POS", 2}});
+    EXPECT_EQ(order(), "y x top l2 bot ") << "unlisted ones first; the first of a name counts";
+    EXPECT_EQ(order({{"bot", {}}, {"before", {}}, {"top", {}}}), "y x before top top l2 bot bot ")
+        << "what was there is sorted too";
+    for (int const group : {-1, 4, least, largest}) {
+        Answer answer{{"top", {}}, {"a", {}}};
+        EXPECT_TRUE(result.getUnifiedResult(UNIFIED_PADS, group, answer));
+        EXPECT_EQ(answer.size(), 2U);
+        EXPECT_EQ(answer[0].first, "top") << "untouched";
+    }
+    Answer many; // far more than std::sort survives with such a comparison
+    for (int i = 0; i < 1000; ++i) {
+        many.emplace_back("unlisted", Entries{});
+    }
+    EXPECT_TRUE(result.getUnifiedResult(UNIFIED_PADS, 2, many));
+    EXPECT_EQ(many.size(), 1005U);
+}
+
+TEST_F(UnifiedResultTest, WithoutResultsTheSummaryHoldsItsRows)
+{
+    std::string text;
+    result.setJobStep("job\"é", "pcb");
+    result.jsonoutput(text);
+    std::string const head =
+        "[\n   {\n      \"jobname\" : {\n         \"name\" : \"\\u6599\\u53f7\\u540d\",\n"
+        "         \"result\" : [\n            {\n               \"layername\" : \"\",\n"
+        "               \"value\" : \"job\\\"\\u00e9\"\n            }\n         ],\n"
+        "         \"unit\" : \"\"\n      }\n   },\n   {\n      \"stepname\" : {\n";
+    EXPECT_EQ(text.substr(0, head.size()), head);
+    EXPECT_EQ(text.substr(text.size() - 4), "}\n]\n");
+    Json::Value const rows = summary();
+    ASSERT_EQ(rows.size(), 49U);
+    std::set<Json::ArrayIndex> const withoutResult{4, 38, 39, 42};
+    for (Json::ArrayIndex i = 0; i < rows.size(); ++i) {
+        Json::Value const & row = *rows[i].begin();
+        ASSERT_EQ(rows[i].size(), 1U);
+        EXPECT_EQ(row.isMember("result"), withoutResult.count(i) == 0) << i;
+        EXPECT_EQ(row["unit"].asString(), i < 4 ? "" : "mil") << i;
+        bool const isPlaceholder = i > 1 && i != 6 && i != 47 && withoutResult.count(i) == 0;
+        if (isPlaceholder) {
+            EXPECT_EQ(entriesOf(rows[i]), std::vector<std::string>{"="}) << i;
+        }
+    }
+    EXPECT_EQ(entriesOf(rows[1]), std::vector<std::string>{"=pcb"});
+    EXPECT_EQ(rows[6]["minTrackWidth"]["result"][0]["value"], Json::Value(2147483647));
+    EXPECT_EQ(rows[47]["goldenFingerMaxWidth"]["result"], Json::Value(""));
+    EXPECT_EQ(rows[48]["surfaceFinishArea"]["name"].asString(), "表面处理面积");
+    EXPECT_EQ(rows[15]["innerMinPad2Pad"]["name"].asString(), "内层pad到pad最小间距");
+}
+
+TEST_F(UnifiedResultTest, TheSummaryTakesTheFirstEntryOfTheFirstGroupThatHasOne)
+{
+    std::map<unified_check_items, Layers> rest;
+    Layers & widths = rest[UNIFIED_LINES];
+    widths["a"].groups[0] = {{1, 5, {}}, {1, 2, {}}};
+    widths["b"].groups[2] = {{1, 7, {}}};
+    widths["c"];
+    widths["d"].groups = {Entries{}, {{1, -1, {}}}, {}, {{1, -9, {}}}};
+    rest[UNIFIED_SLOTS]["s"].groups = {Entries(4), {}, {}, Entries(3)};
+    rest[UNIFIED_SLOTS]["t"].groups[0] = Entries(2);
+    rest[UNIFIED_SMD_TO_SMD]["é"].groups[3] = {{1, 6, {}}};
+    rest[UNIFIED_ANNULAR_RINGS]["a"];
+    rest[UNIFIED_PADS]["a"].groups[0] = {{1, 1, {}}};
+    result.setRestResult(rest);
+    using Texts = std::vector<std::string>;
+    Json::Value rows = summary();
+    EXPECT_EQ(entriesOf(rows[4]), (Texts{"a=5", "b=7", "c=-1", "d=-1"}));
+    EXPECT_TRUE(rows[4]["allLayerMinTrackWidth"]["result"][0]["value"].isString());
+    EXPECT_EQ(rows[6]["minTrackWidth"]["result"][0]["value"], Json::Value(-1)) << "a value of -1 is one";
+    EXPECT_EQ(entriesOf(rows[38]), (Texts{"s=3", "t=0"}));
+    EXPECT_EQ(entriesOf(rows[39]), Texts{"é=6"});
+    EXPECT_EQ(entriesOf(rows[42]), Texts{"a=-1"});
+    widths.erase("d");
+    result.setRestResult(rest);
+    EXPECT_EQ(summary()[6]["minTrackWidth"]["result"][0]["value"], Json::Value(5)) << "\"-1\" is no value";
+    rest[UNIFIED_LINES].clear();
+    result.setRestResult(rest);
+    EXPECT_FALSE(summary()[4]["allLayerMinTrackWidth"].isMember("result"));
+}
+
+} // namespace
