@@ -113,6 +113,10 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
         EXPECT_EQ(press(row.keys), row.told) << row.keys;
         EXPECT_EQ(state(), row.state) << row.keys;
     }
+    window->setLanguage(LANGUAGE_CHINESE);
+    EXPECT_EQ(press("S G"), QString::fromUtf8("捕捉: 网格"));
+    EXPECT_TRUE(press("S").startsWith(QString::fromUtf8("S ... S 骨架, O 关闭, ")));
+    window->setLanguage(LANGUAGE_ENGLISH);
     for (int code = KP_AllSelect; code <= KK_Hightlight; ++code) {
         EXPECT_FALSE(HotkeyCommands::text(static_cast<FuncCode>(code)).isEmpty()) << code;
     }
