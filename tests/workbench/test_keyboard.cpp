@@ -72,8 +72,8 @@ protected:
     std::unique_ptr<MainWindow> window;
 };
 
-char const * const snaps = "S ... S skeleton, O off, G grid, C centre, R arc, E edge, I intersection, "
-                           "M midpoint, P profile, A advanced, N Highlight";
+char const * const snaps = "S ... S skeleton, O off, G grid, C centre, R arc, E edge, I crossing, "
+                           "M middle, P profile, A advanced, N Highlight";
 
 TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
 {
@@ -98,8 +98,8 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
         {"S C", "Snap: centre", "unit 1 width 1 negative snap 2"},
         {"S R", "Snap: arc", "unit 1 width 1 negative snap 8"},
         {"S E", "Snap: edge", "unit 1 width 1 negative snap 4"},
-        {"S I", "Snap: intersection", "unit 1 width 1 negative snap 5"},
-        {"S M", "Snap: midpoint", "unit 1 width 1 negative snap 6"},
+        {"S I", "Snap: crossing", "unit 1 width 1 negative snap 5"},
+        {"S M", "Snap: middle", "unit 1 width 1 negative snap 6"},
         {"S P", "Snap: profile", "unit 1 width 1 negative snap 9"},
         {"S A", "Snap: advanced", "unit 1 width 1 negative snap 7"},
         {"S Shift+U G", "", "unit 0 width 1 negative snap 7"}, // a modifier ends the sequence

@@ -426,11 +426,11 @@
         <translation>捕捉: 边缘</translation>
     </message>
     <message>
-        <source>Snap: intersection</source>
+        <source>Snap: crossing</source>
         <translation>捕捉: 交点</translation>
     </message>
     <message>
-        <source>Snap: midpoint</source>
+        <source>Snap: middle</source>
         <translation>捕捉: 中点</translation>
     </message>
     <message>
