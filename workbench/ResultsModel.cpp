@@ -275,10 +275,11 @@ QVariant ResultsModel::data(QModelIndex const & index, int role) const
             font.setBold(true);
             return font;
         }
-        return {};
+        break;
     default:
-        return {};
+        break;
     }
+    return {};
 }
 
 std::optional<double> ResultsModel::smallestOf(std::size_t category) const
@@ -335,7 +336,7 @@ QString ResultsModel::sumText(int column, Row const & row, Ext::SeverityCounts c
     case Name:
         return QString::fromStdString(row.layer != nullptr ? *row.layer : row.category->name);
     case Severity:
-        return count == 0 ? tr("nothing found") : signOf(worstOf(counts));
+        return count == 0 ? QString() : signOf(worstOf(counts));
     case Count:
         return QString::number(count);
     case Measured:
@@ -343,6 +344,8 @@ QString ResultsModel::sumText(int column, Row const & row, Ext::SeverityCounts c
     case Limit:
         return row.layer == nullptr && row.category->levels ? levelsText(m_view, *row.category->levels)
                                                             : QString();
+    case Position:
+        return count == 0 ? tr("nothing found") : QString();
     default:
         break;
     }

@@ -154,6 +154,7 @@ QWidget * ResultsPage::makeSides()
     lower->setChildrenCollapsible(false);
     lower->addWidget(m_chartBox);
     lower->addWidget(m_notCheckedBox);
+    lower->setSizes({300, 300});
     auto * side = new QWidget;
     auto * layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -180,6 +181,14 @@ void ResultsPage::setView(BoardView & view)
     m_model->setView(view.handle());
     m_chart->setView(view.handle());
     setTexts();
+    fitColumns();
+}
+
+void ResultsPage::fitColumns()
+{
+    for (int column = 0; column < ResultsModel::ColumnCount; ++column) {
+        m_tree->resizeColumnToContents(column);
+    }
 }
 
 bool ResultsPage::runChecks()
@@ -198,9 +207,7 @@ bool ResultsPage::runChecks()
     if (isNew) {
         m_model->reload();
         m_tree->setCurrentIndex(m_model->index(0, 0));
-        for (int column = 0; column < ResultsModel::ColumnCount; ++column) {
-            m_tree->resizeColumnToContents(column);
-        }
+        fitColumns();
     }
     refresh();
     return isNew;
@@ -212,18 +219,18 @@ bool ResultsPage::showCheck(std::string const & table, int number)
     if (!category.isValid()) {
         return false;
     }
-    m_tree->setCurrentIndex(category);
-    auto const * worst = static_cast<Ext::ReportEntry const *>(nullptr);
+    QModelIndex worst = category;
     for (int layer = 0; layer < m_model->rowCount(category); ++layer) {
         // Within a layer the engine's order ascends by what was measured: the first one is the smallest.
-        QModelIndex const index = m_model->index(0, 0, m_model->index(layer, 0, category));
-        Ext::ReportEntry const * entry = m_model->at(index).entry;
-        if (worst == nullptr || (entry->micrometres && entry->micrometres < worst->micrometres)) {
-            worst = entry;
-            m_tree->setCurrentIndex(index);
+        QModelIndex const first = m_model->index(0, 0, m_model->index(layer, 0, category));
+        Ext::ReportEntry const * found = m_model->at(worst).entry;
+        auto const measured = m_model->at(first).entry->micrometres;
+        if (found == nullptr || (measured && (!found->micrometres || *measured < *found->micrometres))) {
+            worst = first;
         }
     }
-    m_tree->scrollTo(m_tree->currentIndex());
+    m_tree->setCurrentIndex(worst);
+    m_tree->scrollTo(worst, QAbstractItemView::PositionAtCenter);
     return true;
 }
 

@@ -53,6 +53,7 @@ private:
     QWidget * makeTree();
     QWidget * makeSides();
     void makeEditor();
+    void fitColumns();
     void setTexts();
     void refresh();
     void showLevels();
