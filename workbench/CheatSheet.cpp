@@ -1,6 +1,7 @@
 #include "CheatSheet.h"
 
 #include "HotkeyCommands.h"
+#include "LanguageChange.h"
 #include "TableTools.h"
 
 #include <UIAPICommon.h>
@@ -22,12 +23,11 @@ using namespace KVCAM::UIAPI;
 CheatSheet::CheatSheet(QWidget * parent)
     : QDialog(parent)
     , m_tabs(new QTabWidget)
-    , m_bindings(makeTable({tr("Keys"), tr("Command"), tr("Function"), tr("Remark")}))
-    , m_findings(makeTable({tr("Element"), tr("Finding")}))
+    , m_bindings(makeTable(QStringList{{}, {}, {}, {}}))
+    , m_findings(makeTable(QStringList{{}, {}}))
     , m_file(new QLabel)
     , m_hint(new QLabel)
 {
-    setWindowTitle(tr("Hot keys"));
     resize(720, 560);
     m_bindings->setObjectName("bindings");
     m_findings->setObjectName("findings");
@@ -40,21 +40,31 @@ CheatSheet::CheatSheet(QWidget * parent)
     auto * ownLayout = new QVBoxLayout(own);
     ownLayout->addWidget(m_file);
     ownLayout->addWidget(m_findings, 1);
-    m_tabs->addTab(m_bindings, tr("Keys"));
-    m_tabs->addTab(own, tr("Own file"));
+    m_tabs->addTab(m_bindings, {});
+    m_tabs->addTab(own, {});
 
     auto * buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
-    auto * load = buttons->addButton(tr("Load the file again"), QDialogButtonBox::ActionRole);
+    auto * load = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     connect(load, &QPushButton::clicked, this, &CheatSheet::loadAgain);
-    auto * write = buttons->addButton(tr("Export..."), QDialogButtonBox::ActionRole);
+    auto * write = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     connect(write, &QPushButton::clicked, this, &CheatSheet::chooseExport);
 
     auto * layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(m_hint);
     layout->addWidget(buttons);
-    refresh();
+    setTextsNowAndLater(*this, [this, buttons, load, write] {
+        setWindowTitle(tr("Hot keys"));
+        m_tabs->setTabText(0, tr("Keys"));
+        m_tabs->setTabText(1, tr("Own file"));
+        m_bindings->setHorizontalHeaderLabels({tr("Keys"), tr("Command"), tr("Function"), tr("Remark")});
+        m_findings->setHorizontalHeaderLabels({tr("Element"), tr("Finding")});
+        load->setText(tr("Load the file again"));
+        write->setText(tr("Export..."));
+        buttons->button(QDialogButtonBox::Close)->setText(tr("Close"));
+        refresh();
+    });
 }
 
 void CheatSheet::refresh()
@@ -124,7 +134,7 @@ void CheatSheet::showFile()
                {finding.element < 0 ? QString() : QString::number(finding.element + 1), finding.text});
     }
     m_findings->resizeRowsToContents();
-    m_file->setText(trial.loads ? tr("%1 binds %2 keys. Findings: %3.")
+    m_file->setText(trial.loads ? tr("%1 holds %2 bindings. Findings: %3.")
                                       .arg(path)
                                       .arg(trial.bindings.size())
                                       .arg(trial.findings.size())

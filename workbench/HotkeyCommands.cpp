@@ -21,6 +21,33 @@ namespace Workbench {
 using namespace KVCAM;
 using namespace KVCAM::UIAPI;
 
+namespace {
+
+enum Direction
+{
+    Up,
+    Down,
+    Right,
+    Left
+};
+
+/// Where a move goes, in sizes of the view.
+QPointF way(int direction, double part)
+{
+    switch (direction) {
+    case Up:
+        return {0, part};
+    case Down:
+        return {0, -part};
+    case Right:
+        return {part, 0};
+    default:
+        return {-part, 0};
+    }
+}
+
+} // namespace
+
 /// What a code means here. Without a function the host has nothing for it.
 struct HotkeyCommands::Command
 {
@@ -28,53 +55,75 @@ struct HotkeyCommands::Command
     char const * text; ///< "group: detail" for the commands of a group
     QString (HotkeyCommands::*function)(int) = nullptr;
     int argument = 0;
+    bool repeats = false; ///< whether a key that is held down does it again and again
 
     static Command const table[];
 };
 
 HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
     {KP_NoFunction, ""},
-    {KP_AllSelect, QT_TR_NOOP("Select all")},
-    {KP_ReverseSelect, QT_TR_NOOP("Reverse the selection")},
-    {KP_ShowCAMGuide, QT_TR_NOOP("CAM guide")},
-    {KP_Nequtive, QT_TR_NOOP("Negative"), &HotkeyCommands::changeNegative},
-    {KP_Profile, QT_TR_NOOP("Profile"), &HotkeyCommands::changeProfile},
-    {KP_WidthMode, QT_TR_NOOP("Width mode"), &HotkeyCommands::changeWidth},
-    {KP_EditUndo, QT_TR_NOOP("Undo")},
-    {KP_EditMoveSamelayer, QT_TR_NOOP("Move within the layer")},
-    {KP_EditBuferCopy, QT_TR_NOOP("Copy to the edit buffer")},
-    {KP_EditBuferPaste, QT_TR_NOOP("Paste from the edit buffer")},
-    {KP_Unnamed11, QT_TR_NOOP("The function without a name")},
-    {KP_ToolMoveSnap, QT_TR_NOOP("Move: snap")},
-    {KP_ToolMoveHome, QT_TR_NOOP("Move: home")},
-    {KP_ToolMoveUp, QT_TR_NOOP("Move: up")},
-    {KP_ToolMoveDown, QT_TR_NOOP("Move: down")},
-    {KP_ToolMoveRight, QT_TR_NOOP("Move: right")},
-    {KP_ToolMoveLeft, QT_TR_NOOP("Move: left")},
-    {KP_ToolRefersh, QT_TR_NOOP("Refresh"), &HotkeyCommands::refresh},
-    {KP_EditContourize, QT_TR_NOOP("Contourize")},
-    {KP_ToolMovePanUp, QT_TR_NOOP("Pan: up")},
-    {KP_ToolMovePanDown, QT_TR_NOOP("Pan: down")},
-    {KP_ToolMovePanRight, QT_TR_NOOP("Pan: right")},
-    {KP_ToolMovePanLeft, QT_TR_NOOP("Pan: left")},
-    {KP_Compare, QT_TR_NOOP("Compare")},
-    {KP_MoveByMouseCenter, QT_TR_NOOP("Centre at the pointer")},
-    {KP_CopyOrignal, QT_TR_NOOP("Copy the original")},
-    {KP_Tranform, QT_TR_NOOP("Transform")},
-    {KP_SelectSameFeature, QT_TR_NOOP("Select the same features")},
-    {KP_ChangeUnit, QT_TR_NOOP("Unit"), &HotkeyCommands::changeUnit},
-    {KP_Measure, QT_TR_NOOP("Measure"), &HotkeyCommands::measure},
-    {KK_SnapSkeleton, QT_TR_NOOP("Snap: skeleton"), &HotkeyCommands::snap, SNAP_SKELETON},
-    {KK_SnapOff, QT_TR_NOOP("Snap: off"), &HotkeyCommands::snap, SNAP_OFF},
-    {KK_SnapGrid, QT_TR_NOOP("Snap: grid"), &HotkeyCommands::snap, SNAP_GRID},
-    {KK_SnapCenter, QT_TR_NOOP("Snap: centre"), &HotkeyCommands::snap, SNAP_CENTER},
-    {KK_SnapArc, QT_TR_NOOP("Snap: arc"), &HotkeyCommands::snap, SNAP_ARC},
-    {KK_SnapEdge, QT_TR_NOOP("Snap: edge"), &HotkeyCommands::snap, SNAP_EDGE},
-    {KK_SnapIntersect, QT_TR_NOOP("Snap: intersection"), &HotkeyCommands::snap, SNAP_INTERSECT},
-    {KK_SnapMidpoint, QT_TR_NOOP("Snap: midpoint"), &HotkeyCommands::snap, SNAP_MIDPOINT},
-    {KK_SnapProfile, QT_TR_NOOP("Snap: profile"), &HotkeyCommands::snap, SNAP_PROFILE},
-    {KK_SnapAdv, QT_TR_NOOP("Snap: advanced"), &HotkeyCommands::snap, SNAP_ADVANCED},
-    {KK_Hightlight, QT_TR_NOOP("Highlight")},
+    {KP_AllSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select all")},
+    {KP_ReverseSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Reverse the selection")},
+    {KP_ShowCAMGuide, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "CAM guide")},
+    {KP_Nequtive, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Negative"),
+     &HotkeyCommands::changeNegative},
+    {KP_Profile, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Profile"), &HotkeyCommands::changeProfile},
+    {KP_WidthMode, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Width mode"),
+     &HotkeyCommands::changeWidth},
+    {KP_EditUndo, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Undo"), &HotkeyCommands::undo},
+    {KP_EditMoveSamelayer, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move within the layer")},
+    {KP_EditBuferCopy, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Copy to the edit buffer")},
+    {KP_EditBuferPaste, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Paste from the edit buffer")},
+    {KP_Unnamed11, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "The function without a name")},
+    {KP_ToolMoveSnap, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: snap")},
+    {KP_ToolMoveHome, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: home"), &HotkeyCommands::home},
+    {KP_ToolMoveUp, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: up"), &HotkeyCommands::move, Up,
+     true},
+    {KP_ToolMoveDown, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: down"), &HotkeyCommands::move,
+     Down, true},
+    {KP_ToolMoveRight, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: right"), &HotkeyCommands::move,
+     Right, true},
+    {KP_ToolMoveLeft, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: left"), &HotkeyCommands::move,
+     Left, true},
+    {KP_ToolRefersh, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Refresh"), &HotkeyCommands::refresh},
+    {KP_EditContourize, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Contourize")},
+    {KP_ToolMovePanUp, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: up"), &HotkeyCommands::pan, Up,
+     true},
+    {KP_ToolMovePanDown, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: down"), &HotkeyCommands::pan,
+     Down, true},
+    {KP_ToolMovePanRight, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: right"), &HotkeyCommands::pan,
+     Right, true},
+    {KP_ToolMovePanLeft, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: left"), &HotkeyCommands::pan,
+     Left, true},
+    {KP_Compare, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Compare")},
+    {KP_MoveByMouseCenter, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Centre at the pointer"),
+     &HotkeyCommands::centre},
+    {KP_CopyOrignal, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Copy the original")},
+    {KP_Tranform, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Transform")},
+    {KP_SelectSameFeature, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select the same features")},
+    {KP_ChangeUnit, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Unit"), &HotkeyCommands::changeUnit},
+    {KP_Measure, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Measure"), &HotkeyCommands::measure},
+    {KK_SnapSkeleton, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: skeleton"), &HotkeyCommands::snap,
+     SNAP_SKELETON},
+    {KK_SnapOff, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: off"), &HotkeyCommands::snap,
+     SNAP_OFF},
+    {KK_SnapGrid, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: grid"), &HotkeyCommands::snap,
+     SNAP_GRID},
+    {KK_SnapCenter, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: centre"), &HotkeyCommands::snap,
+     SNAP_CENTER},
+    {KK_SnapArc, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: arc"), &HotkeyCommands::snap,
+     SNAP_ARC},
+    {KK_SnapEdge, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: edge"), &HotkeyCommands::snap,
+     SNAP_EDGE},
+    {KK_SnapIntersect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: intersection"),
+     &HotkeyCommands::snap, SNAP_INTERSECT},
+    {KK_SnapMidpoint, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: midpoint"), &HotkeyCommands::snap,
+     SNAP_MIDPOINT},
+    {KK_SnapProfile, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: profile"), &HotkeyCommands::snap,
+     SNAP_PROFILE},
+    {KK_SnapAdv, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: advanced"), &HotkeyCommands::snap,
+     SNAP_ADVANCED},
+    {KK_Hightlight, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Highlight")},
 };
 
 namespace {
@@ -110,9 +159,6 @@ QString onOff(bool on)
 HotkeyCommands::HotkeyCommands(MainWindow & window, QWidget & board, QObject * parent)
     : QObject(parent), m_window(window), m_board(board)
 {
-    for (BoardView * each : window.views()) {
-        each->setFocusPolicy(Qt::StrongFocus);
-    }
     window.currentView()->setFocus();
     qApp->installEventFilter(this);
 }
@@ -157,10 +203,13 @@ bool HotkeyCommands::eventFilter(QObject * receiver, QEvent * event)
 
 bool HotkeyCommands::press(QKeyEvent & event)
 {
-    if (event.isAutoRepeat()) { // a key held down is no second one, and switches nothing back
-        return false;
+    if (event.isAutoRepeat() && event.modifiers() == Qt::NoModifier) {
+        return false; // a key held down is no sequence
     }
     FuncCode const code = KVHotKey::getInstance()->getFunctionCode(&event);
+    if (event.isAutoRepeat() && !command(code).repeats) {
+        return code != KP_NoFunction; // and switches nothing back
+    }
     QStringList lines;
     if (code != KP_NoFunction) {
         lines.append(run(code));
@@ -202,9 +251,41 @@ QString HotkeyCommands::changeWidth(int /*argument*/)
     return onOff(getWidth(view()) != 0);
 }
 
+QString HotkeyCommands::undo(int /*argument*/)
+{
+    m_window.undoLast();
+    return {};
+}
+
 QString HotkeyCommands::refresh(int /*argument*/)
 {
     m_window.refresh();
+    return {};
+}
+
+QString HotkeyCommands::home(int /*argument*/)
+{
+    m_window.currentView()->zoomHome();
+    return {};
+}
+
+QString HotkeyCommands::move(int direction)
+{
+    m_window.currentView()->pan(way(direction, 0.5));
+    return {};
+}
+
+QString HotkeyCommands::pan(int direction)
+{
+    m_window.currentView()->pan(way(direction, 0.1));
+    return {};
+}
+
+QString HotkeyCommands::centre(int /*argument*/)
+{
+    if (coordinate const * const pointer = getCoordinate(view())) {
+        m_window.currentView()->centreOn(pointer->x, pointer->y);
+    }
     return {};
 }
 
@@ -223,11 +304,11 @@ QString HotkeyCommands::measure(int /*argument*/)
         return tr("from %1; once more at the other end").arg(shown.positionText(place.x(), place.y()));
     }
     m_measured = nullptr;
-    QPointF const way = place - m_measuredFrom;
+    QPointF const distance = place - m_measuredFrom;
     return tr("%1 %2 (%3)")
-        .arg(getUnitJudgeStringMetric(view(), std::hypot(way.x(), way.y())),
+        .arg(getUnitJudgeStringMetric(view(), std::hypot(distance.x(), distance.y())),
              QString::fromStdString(getUnitStringType(view(), 0)),
-             shown.sizeText(std::abs(way.x()), std::abs(way.y())));
+             shown.sizeText(std::abs(distance.x()), std::abs(distance.y())));
 }
 
 QString HotkeyCommands::snap(int mode)

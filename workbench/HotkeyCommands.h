@@ -5,8 +5,6 @@
 #include <QObject>
 #include <QPointF>
 
-#include <optional>
-
 class QKeyEvent;
 class QWidget;
 
@@ -47,12 +45,17 @@ private:
     bool isOurs(QObject * receiver) const;
     bool press(QKeyEvent & event);
     void const * view() const;
-    // Each returns the line for the status bar without the command's text.
+    // Each returns what to tell besides the command's text.
     QString changeUnit(int);
     QString changeNegative(int);
     QString changeProfile(int);
     QString changeWidth(int);
+    QString undo(int);
     QString refresh(int);
+    QString home(int);
+    QString move(int direction);
+    QString pan(int direction);
+    QString centre(int);
     QString measure(int);
     QString snap(int mode);
 

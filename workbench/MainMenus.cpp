@@ -64,6 +64,7 @@ void MainWindow::makeMenus()
     language->addAction(QString::fromUtf8("&简体中文"), this, [this] { setLanguage(LANGUAGE_CHINESE); });
 
     QMenu * help = addMenu(QT_TR_NOOP("&Help"));
+    addEntry(*help, QT_TR_NOOP("&Hot keys"), "F1", [this] { showKeys(); });
     addEntry(*help, QT_TR_NOOP("&Using the board picture"), "", [this] { showHelp(); });
     addEntry(*help, QT_TR_NOOP("&About"), "", [this] { showAbout(); });
 }

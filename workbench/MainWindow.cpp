@@ -186,9 +186,6 @@ void MainWindow::addPages()
 
 void MainWindow::addHotkeys()
 {
-    auto * keys = m_bar->addAction(tr("Keys"), this, &MainWindow::showKeys);
-    keys->setShortcut(Qt::Key_F1);
-    keys->setToolTip(tr("Shows the hot keys and judges your own file of them"));
     auto * told = new QLabel;
     told->setObjectName("hot keys");
     told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
@@ -210,7 +207,14 @@ CheatSheet * MainWindow::showKeys()
 
 void MainWindow::refresh()
 {
+    currentView()->reload();
     showStep();
+}
+
+void MainWindow::undoLast()
+{
+    undo(QString::fromStdString(m_session.job()), QString::fromStdString(currentView()->step()), this);
+    refresh();
 }
 
 FeatureDialog * MainWindow::openFeature(int feature)

@@ -55,8 +55,10 @@ public:
     int firstPad() const;
     /// Shows all texts in a language.
     void setLanguage(KVCAM::UIAPI::LANGUAGE_MODE language);
-    /// Shows the step in front and its state anew.
+    /// Reads the step in front again and shows its state anew.
     void refresh();
+    /// Takes the latest operation on the step in front back; the library asks first.
+    void undoLast();
     /// Brings a step to the front, in whatever case it is named. False for an unknown one.
     bool showStepOf(QString const & name);
     ResultsPage & results() const { return *m_results; }

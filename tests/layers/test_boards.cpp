@@ -53,15 +53,6 @@ void checkCounts(QString const & folder, Counts const & counts)
     EXPECT_EQ(joined(selected(job, {{"side", "bottom"}, {"type", "signal"}, {"context", "board"}})),
               counts.bottom);
     EXPECT_EQ(UIAPI::getAnalyzeAndDFMLayers(job, "pcb").size(), counts.analysed);
-    for (Request const & request : {Request{{"side", "inner"}}, Request{{"type", "drill|rout"}}}) {
-        std::vector<std::string> explained;
-        for (auto const & [name, refusedBy] : UIAPI::Ext::explainLayerFilter(job, request).layers) {
-            if (refusedBy.isEmpty()) {
-                explained.push_back(name);
-            }
-        }
-        EXPECT_EQ(explained, selected(job, request));
-    }
 }
 
 TEST(Boards, LayersOfTheSampleJob)

@@ -4,8 +4,8 @@
 #include "uiapi/flat/References.h"
 
 #include <algorithm>
+#include <iterator>
 #include <random>
-#include <tuple>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -29,14 +29,14 @@ std::string shown(Records const & records)
     return text;
 }
 
+std::string at(Name const & job, Name const & step)
+{
+    return shown(getReferenceLayerInfo(job, step));
+}
+
 class References : public UiapiTest
 {
 protected:
-    static std::string at(Name const & job, Name const & step)
-    {
-        return shown(getReferenceLayerInfo(job, step));
-    }
-
     static void fill()
     {
         setReferenceLayerInfo("own", "a",
@@ -117,6 +117,21 @@ TEST_F(References, EachChangeReachesTheRecordsItNames)
     EXPECT_EQ(engine.take(), Lines{});
 }
 
+TEST_F(References, DrawingLayersAreKeptForEachStep)
+{
+    setDrawingLayer("j", "a", {{"l", 1}, {"l", -2}});
+    setDrawingLayer("j", "b", {{"m", 3}});
+    setDrawingLayer("k", "a", {{"n", 4}});
+    setDrawingLayer("j", "b", {});
+    EXPECT_EQ(getDrawingLayer("j", "a"), (Drawings{{"l", 1}, {"l", -2}}));
+    EXPECT_EQ(getDrawingLayer("j", "b"), Drawings{});
+    EXPECT_EQ(getDrawingLayer("none", "a"), Drawings{});
+    resetDrawingLayer("none");
+    resetDrawingLayer("j");
+    EXPECT_EQ(getDrawingLayer("j", "a"), Drawings{});
+    EXPECT_EQ(getDrawingLayer("k", "a"), (Drawings{{"n", 4}}));
+}
+
 TEST_F(References, TheJobTextIsOneForAllJobsAndACopyOfTheTablesIsDetached)
 {
     auto & para = *UIAPICommonPara::instance();
@@ -140,44 +155,7 @@ TEST_F(References, TheJobTextIsOneForAllJobsAndACopyOfTheTablesIsDetached)
     EXPECT_NE(kept, nullptr);
 }
 
-/// The tables as plain lists.
-class Model
-{
-public:
-    struct Entry
-    {
-        Name job, step;
-        Records records;
-    };
-    std::vector<Entry> entries;
-    std::vector<std::tuple<Name, Name, Drawings>> drawings;
-
-    template <class Matches>
-    void drop(Matches const & matches)
-    {
-        entries.erase(std::remove_if(entries.begin(), entries.end(), matches), entries.end());
-    }
-    void set(Name const & job, Name const & step, Records const & records)
-    {
-        drop([&](Entry const & entry) { return entry.job == job && entry.step == step; });
-        entries.push_back({job, step, records});
-    }
-    Records get(Name const & job, Name const & step) const
-    {
-        for (Entry const & entry : entries) {
-            if (entry.job == job && entry.step == step) {
-                return entry.records;
-            }
-        }
-        return {};
-    }
-    bool has(Name const & job) const
-    {
-        return std::any_of(entries.begin(), entries.end(),
-                           [&](Entry const & entry) { return entry.job == job; });
-    }
-};
-
+/// The tables as plain lists, changed at random together with the library's.
 class RandomOperations
 {
 public:
@@ -186,62 +164,51 @@ public:
         Name const a = name(), b = name(), c = name(), d = name(), e = name();
         switch (m_random() % 13) {
         case 0:
-        case 1: {
-            Records records;
-            for (unsigned left = m_random() % 4; left > 0; --left) {
-                records.push_back({name(), name(), {}});
-                for (unsigned layers = m_random() % 4; layers > 0; --layers) {
-                    records.back().layers.push_back(name());
-                }
-            }
-            setReferenceLayerInfo(a, b, records);
-            return m_model.set(a, b, records);
-        }
+        case 1:
         case 2:
-            if (m_random() % 4 == 0) {
-                resetReferenceLayerInfo(a);
-                m_jobs.erase(std::remove(m_jobs.begin(), m_jobs.end(), a), m_jobs.end());
-                m_model.drop([&](auto const & entry) { return entry.job == a; });
-            }
-            return;
+            return set(a, b);
         case 3:
-            renameReferenceJob(a, b, c);
-            return ofJob(a, [&](auto & record) { record.job = record.job == b ? c : record.job; });
+            resetReferenceLayerInfo(a);
+            return drop([&](Entry const & entry) { return entry.job == a; });
         case 4:
-            renameReferenceStep(a, b, c, d);
-            return ofJob(a, [&](auto & record) {
-                if (record.job == b && record.step == c) {
-                    record.step = d;
-                }
-            });
+            renameReferenceJob(a, b, c);
+            return change(a, nullptr, [&](auto & r) { r.job = r.job == b ? c : r.job; });
         case 5:
-            renameReferenceLayer(a, b, c, d, e);
-            return ofJob(a, [&](auto & record) {
-                for (Name & layer : record.layers) {
-                    layer = record.job == b && record.step == c && layer == d ? e : layer;
-                }
-            });
+            renameReferenceStep(a, b, c, d);
+            return change(a, nullptr, [&](auto & r) { r.step = r.job == b && r.step == c ? d : r.step; });
         case 6:
-            deleteReferenceJob(a, b, c);
-            return keepIn(a, b, [&](auto & record) { return record.job != c; });
-        case 7:
-            deleteReferenceStep(a, b, c, d);
-            return keepIn(a, b, [&](auto & record) { return record.job != c || record.step != d; });
-        case 8:
-            deleteReferenceLayer(a, b, c, d, e);
-            return keepIn(a, b, [&](auto & record) {
-                std::vector<Name> left;
-                for (Name const & layer : record.layers) {
-                    if (record.job != c || record.step != d || layer != e) {
-                        left.push_back(layer);
-                    }
+            renameReferenceLayer(a, b, c, d, e);
+            return change(a, nullptr, [&](auto & r) {
+                for (Name & layer : r.layers) {
+                    layer = r.job == b && r.step == c && layer == d ? e : layer;
                 }
-                bool const becomesEmpty = left.empty() && !record.layers.empty();
-                record.layers = left;
-                return !becomesEmpty;
             });
+        case 7:
+            deleteReferenceJob(a, b, c);
+            return change(a, &b, [&](auto & r) { r.step = r.job == c ? gone : r.step; });
+        case 8:
+            deleteReferenceStep(a, b, c, d);
+            return change(a, &b, [&](auto & r) { r.step = r.job == c && r.step == d ? gone : r.step; });
+        case 9:
+            deleteReferenceLayer(a, b, c, d, e);
+            return change(a, &b, [&](auto & r) {
+                while (r.job == c && r.step == d && std::count(r.layers.begin(), r.layers.end(), e) != 0) {
+                    r.layers.erase(std::find(r.layers.begin(), r.layers.end(), e));
+                    r.step = r.layers.empty() ? gone : r.step;
+                }
+            });
+        case 10:
+            renameCompareJob(a, b);
+            return move([&](Entry const & entry) { return entry.job == a; },
+                        [&](Entry const & entry) { return entry.job == b; }, &Entry::job, b);
+        case 11:
+            renameCompareStep(a, b, c);
+            return move([&](Entry const & entry) { return entry.job == a && entry.step == b; },
+                        [&](Entry const & entry) { return entry.job == a && entry.step == c; }, &Entry::step,
+                        c);
         default:
-            return compareStep(a, b, c);
+            deleteCompareStep(a, b);
+            return drop([&](Entry const & entry) { return entry.job == a && entry.step == b; });
         }
     }
 
@@ -249,101 +216,81 @@ public:
     {
         for (char const * job : names) {
             for (char const * step : names) {
-                ASSERT_EQ(shown(getReferenceLayerInfo(job, step)), shown(m_model.get(job, step)));
-                Drawings expected;
-                for (auto const & [ownJob, ownStep, list] : m_model.drawings) {
-                    if (ownJob == job && ownStep == step) {
-                        expected = list;
+                Records expected;
+                for (Entry const & entry : m_entries) {
+                    if (entry.job == job && entry.step == step) {
+                        expected = entry.records;
                     }
                 }
-                ASSERT_EQ(getDrawingLayer(job, step), expected);
+                ASSERT_EQ(at(job, step), shown(expected));
             }
         }
     }
 
 private:
+    struct Entry
+    {
+        Name job, step;
+        Records records;
+    };
     static constexpr char const * names[] = {"", "a", "b", "B"};
+    static constexpr char const * gone = "(gone)"; // the step of a record that is to go
+    static constexpr char const * mark = "(job)";  // a step of each job, which stays one without any other
 
     Name name() { return names[m_random() % std::size(names)]; }
 
+    void set(Name const & job, Name const & step)
+    {
+        Records records;
+        for (unsigned left = m_random() % 4; left > 0; --left) {
+            records.push_back({name(), name(), std::vector<Name>(m_random() % 3, name())});
+            records.back().layers.push_back(name());
+        }
+        setReferenceLayerInfo(job, step, records);
+        drop([&](Entry const & entry) {
+            return entry.job == job && (entry.step == step || entry.step == mark);
+        });
+        m_entries.push_back({job, step, records});
+        m_entries.push_back({job, mark, {}});
+    }
+
+    template <class Matches>
+    void drop(Matches const & matches)
+    {
+        m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), matches), m_entries.end());
+    }
+
     template <class Change>
-    void ofJob(Name const & job, Change const & change)
+    void change(Name const & job, Name const * step, Change const & change)
     {
-        for (auto & entry : m_model.entries) {
-            if (entry.job == job) {
+        for (Entry & entry : m_entries) {
+            if (entry.job == job && (step == nullptr || entry.step == *step)) {
                 std::for_each(entry.records.begin(), entry.records.end(), change);
+                entry.records.erase(std::remove_if(entry.records.begin(), entry.records.end(),
+                                                   [](auto const & r) { return r.step == gone; }),
+                                    entry.records.end());
             }
         }
     }
 
-    template <class Keep>
-    void keepIn(Name const & job, Name const & step, Keep const & keep)
+    template <class From, class To>
+    void move(From const & from, To const & to, Name Entry::*member, Name const & name)
     {
-        for (auto & entry : m_model.entries) {
-            if (entry.job == job && entry.step == step) {
-                Records kept;
-                for (ReferenceLayerInfo record : entry.records) {
-                    if (keep(record)) {
-                        kept.push_back(record);
-                    }
-                }
-                entry.records = kept;
+        std::vector<Entry> moved;
+        std::copy_if(m_entries.begin(), m_entries.end(), std::back_inserter(moved), from);
+        if (!moved.empty()) {
+            drop(from);
+            drop(to);
+            for (Entry & entry : moved) {
+                entry.*member = name;
+                m_entries.push_back(entry);
             }
-        }
-    }
-
-    void compareStep(Name const & a, Name const & b, Name const & c)
-    {
-        switch (m_random() % 5) {
-        case 0: {
-            renameCompareJob(a, b);
-            bool const known = m_model.has(a) || std::count(m_jobs.begin(), m_jobs.end(), a) != 0;
-            if (a != b && known) {
-                m_model.drop([&](auto const & entry) { return entry.job == b; });
-                for (auto & entry : m_model.entries) {
-                    entry.job = entry.job == a ? b : entry.job;
-                }
-                std::replace(m_jobs.begin(), m_jobs.end(), a, b);
-            }
-            return;
-        }
-        case 1: {
-            renameCompareStep(a, b, c);
-            auto const isOld = [&](auto const & entry) { return entry.job == a && entry.step == b; };
-            auto const & entries = m_model.entries;
-            if (b != c && std::any_of(entries.begin(), entries.end(), isOld)) {
-                m_model.drop([&](auto const & entry) { return entry.job == a && entry.step == c; });
-                std::find_if(m_model.entries.begin(), m_model.entries.end(), isOld)->step = c;
-            }
-            return;
-        }
-        case 2:
-            deleteCompareStep(a, b);
-            if (m_model.has(a)) {
-                m_jobs.push_back(a); // a job without steps is still one
-            }
-            return m_model.drop([&](auto const & entry) { return entry.job == a && entry.step == b; });
-        case 3:
-            if (m_random() % 4 == 0) {
-                resetDrawingLayer(a);
-                auto & rows = m_model.drawings;
-                rows.erase(std::remove_if(rows.begin(), rows.end(),
-                                          [&](auto const & row) { return std::get<0>(row) == a; }),
-                           rows.end());
-            }
-            return;
-        default:
-            Drawings const list(m_random() % 3, {c, int(m_random() % 9)});
-            setDrawingLayer(a, b, list);
-            m_model.drawings.emplace_back(a, b, list); // the latest counts
-            return;
         }
     }
 
     std::mt19937 m_random{static_cast<unsigned>(
         qEnvironmentVariableIsSet("UIAPI_FUZZ_SEED") ? qEnvironmentVariableIntValue("UIAPI_FUZZ_SEED") : 1)};
-    Model m_model;
-    std::vector<Name> m_jobs; // those that may have no steps
+    std::vector<Entry> m_entries;
 };
 
 TEST_F(References, FuzzTheTablesAgreeWithPlainLists)

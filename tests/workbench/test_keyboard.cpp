@@ -12,7 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QFile>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -116,6 +118,50 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
     }
 }
 
+TEST_F(Keyboard, KeysMoveThePictureAndUndoAsks)
+{
+    open();
+    BoardView & board = *window->currentView();
+    int moves = 0;
+    QObject::connect(&board, &BoardView::portChanged, window.get(), [&moves] { ++moves; });
+    coordinate & pointer = *getCoordinate(view());
+    pointer = {20000, 10000};
+    EXPECT_EQ(press("Ctrl+E"), "Centre at the pointer");
+    EXPECT_GT(board.zoom(), 1);
+    for (char const * keys :
+         {"Ctrl+U", "Ctrl+D", "Ctrl+R", "Ctrl+L", "Shift+Up", "Shift+Down", "Shift+Right", "Shift+Left"}) {
+        moves = 0;
+        press(keys);
+        EXPECT_EQ(moves, 1) << keys;
+        QKeyEvent again(QEvent::KeyPress, QKeySequence(keys)[0] & 0x01ffffff,
+                        Qt::KeyboardModifiers(QKeySequence(keys)[0] & 0x0e000000), QString(), true);
+        QApplication::sendEvent(&board, &again);
+        EXPECT_EQ(moves, 2) << keys << " held down";
+    }
+    press("Ctrl+H");
+    EXPECT_EQ(board.zoom(), 1);
+
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_U, Qt::ShiftModifier, "U", true);
+    QApplication::sendEvent(&board, &held);
+    EXPECT_EQ(getUnit(view()), 0) << "a key held down switches nothing";
+    QStringList boxes;
+    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
+        boxes.append(message.text);
+        return Ext::MessageAnswer::Yes;
+    });
+    std::string const layer =
+        session.layers()[static_cast<std::size_t>(session.firstCopperLayer("pcb"))].info.name;
+    std::size_t const count = board.features().size();
+    press("Ctrl+Z");
+    ASSERT_TRUE(KVCAM::Embedded::deleteFeatures(session.job(), "pcb", layer, {0, 1}));
+    press("Ctrl+F");
+    EXPECT_EQ(board.features().size(), count - 2);
+    press("Ctrl+Z");
+    EXPECT_EQ(board.features().size(), count);
+    EXPECT_EQ(boxes, (QStringList{"There are no revocable actions!", "Are you sure to cancel?"}));
+    Ext::setMessagePresenter({});
+}
+
 TEST_F(Keyboard, MeasuringTakesTwoPressesAndTheUnitOfTheView)
 {
     open();
@@ -146,7 +192,8 @@ TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
     auto * layers = window->findChild<LayerTable *>();
     layers->setFocus();
     int const row = layers->currentRow();
-    EXPECT_EQ(press("S"), snaps); // no search for a layer that begins with an s
+    layers->setCurrentCell(row, 1); // the names
+    EXPECT_EQ(press("S"), snaps);   // no search for a layer that begins with an s
     EXPECT_EQ(press("G"), "Snap: grid");
     EXPECT_EQ(layers->currentRow(), row);
     press("Down"); // what is no hot key is the table's
@@ -201,6 +248,9 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
     auto * sheet = window->findChild<CheatSheet *>();
     ASSERT_NE(sheet, nullptr);
     EXPECT_TRUE(sheet->isVisible());
+    std::string const before = state();
+    QTest::keyClick(sheet, Qt::Key_U, Qt::ShiftModifier);
+    EXPECT_EQ(state(), before) << "another window's key";
     auto const & bindings = *sheet->findChild<QTableWidget *>("bindings");
     auto const & findings = *sheet->findChild<QTableWidget *>("findings");
     auto const & file = *sheet->findChild<QLabel *>("file");
@@ -224,7 +274,7 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
         }
     }
     EXPECT_EQ(bindings.rowCount(), 2);
-    EXPECT_TRUE(file.text().endsWith("binds 2 keys. Findings: 42."));
+    EXPECT_TRUE(file.text().endsWith("holds 2 bindings. Findings: 42."));
     EXPECT_EQ(rowOf(findings, 0)[0], "2");
     EXPECT_EQ(rowOf(findings, 1),
               (QStringList{"3", "\"func_name\" is \"KP_Profil\", which is no function."}));
