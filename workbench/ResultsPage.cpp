@@ -239,7 +239,7 @@ void ResultsPage::setTexts()
     m_runButton->setText(tr("Run the &checks"));
     m_runButton->setToolTip(tr("Measures the step that the board page shows and files the results"));
     m_boardButton->setText(tr("Sho&w on the board"));
-    m_summaryButton->setText(tr("Export s&ummary..."));
+    m_summaryButton->setText(tr("E&xport summary..."));
     m_reportButton->setText(tr("Ex&port report..."));
     m_saveButton->setText(tr("Save &levels"));
     m_tree->setAccessibleName(tr("Results by check and layer"));
