@@ -821,7 +821,7 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     </message>
     <message>
         <source>Measuring step %1 (F1 stops)</source>
-        <translation>正在测量 step %1（按 F1 停止）</translation>
+        <translation>正在测量 步骤 %1（按 F1 停止）</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -833,7 +833,7 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     </message>
     <message>
         <source>Measures the step that the board page shows and files the results</source>
-        <translation>测量板图页所示的 step 并归档结果</translation>
+        <translation>测量板图页所示的步骤并归档结果</translation>
     </message>
     <message>
         <source>Sho&amp;w on the board</source>
@@ -877,15 +877,15 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     </message>
     <message>
         <source>There was nothing to check in step %1.</source>
-        <translation>step %1 中没有可检查的内容。</translation>
+        <translation>步骤 %1 中没有可检查的内容。</translation>
     </message>
     <message>
         <source>The checks were not run yet. They measure step %1, which the board page shows.</source>
-        <translation>尚未运行检查。检查将测量板图页所示的 step %1。</translation>
+        <translation>尚未运行检查。检查将测量板图页所示的步骤 %1。</translation>
     </message>
     <message>
         <source>The checks of step %1 failed: %2</source>
-        <translation>step %1 的检查失败：%2</translation>
+        <translation>步骤 %1 的检查失败：%2</translation>
     </message>
     <message>
         <source>The checks were stopped; these are the results of the run before.</source>
@@ -901,7 +901,7 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     </message>
     <message>
         <source>Step %1</source>
-        <translation>Step %1</translation>
+        <translation>步骤 %1</translation>
     </message>
     <message>
         <source>Levels (%1)</source>
