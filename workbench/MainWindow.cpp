@@ -176,6 +176,7 @@ void MainWindow::makeToolBar()
 
 void MainWindow::addPages()
 {
+    addResults();
     m_symbols = new SymbolsPage(m_session.job(), m_views.front()->handle());
     addPage(m_symbols, "symbols", QT_TR_NOOP("S&ymbols"));
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
