@@ -33,6 +33,7 @@ TEST_F(PluginCommands, GoToEveryModuleOfTheirRoute)
     EXPECT_EQ(engine.take(),
               (Lines{"Plugin::recMegToPlugin(matrix 7 open)", "Plugin::recMegToPlugin(editor 7 open)",
                      "Plugin::recMegToPlugin(menu 7 )", "Plugin::recMegToPlugin(模块 -2147483648 层)"}));
+    EXPECT_EQ(engine.pluginData, (std::vector<void *>{nullptr, nullptr, this, nullptr}));
 
     EXPECT_TRUE(para.removePluginRoute(7, "open", "matrix"));
     EXPECT_FALSE(para.removePluginRoute(7, "open", "matrix"));
@@ -54,6 +55,15 @@ TEST_F(PluginCommands, WithoutARouteAreLogged)
     EXPECT_EQ(log.take(), (Lines{paraError("Route map don't find 2"), paraError("Route map don't find 1"),
                                  paraError("Route map don't find -1")}));
     EXPECT_EQ(engine.take(), Lines{});
+}
+
+TEST_F(PluginCommands, WithoutAManagerAreLogged)
+{
+    para.addPluginRoute(1, "", "a");
+    para.addPluginRoute(1, "", "b");
+    engine.hasPluginManager = false;
+    setPluginCmd(1, "", nullptr);
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI setPluginCmd error")});
 }
 
 TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
