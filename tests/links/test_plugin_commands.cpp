@@ -71,7 +71,7 @@ TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
     para.addPluginRoute(1, "", "a");
     para.addPluginRoute(1, "", "b");
     // What a module does to the routes counts from the next command on.
-    engine.onNextCall("recMegToPlugin", [&] { para.removePluginRoute(1, "", "b"); });
+    engine.onNextCall("recMegToPlugin", [&] { para.removePluginRoute(1, "", "a"); });
     engine.throwFrom("recMegToPlugin", "module");
     setPluginCmd(1, "", nullptr);
     EXPECT_EQ(engine.take(), (Lines{"Plugin::recMegToPlugin(a 1 )", "Plugin::recMegToPlugin(b 1 )"}));
@@ -80,7 +80,7 @@ TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
     EXPECT_EQ(lines[1], paraError("异常描述：module"));
     EXPECT_EQ(lines[3], lines[1]);
     setPluginCmd(1, "", nullptr);
-    EXPECT_EQ(engine.take(), Lines{"Plugin::recMegToPlugin(a 1 )"});
+    EXPECT_EQ(engine.take(), Lines{"Plugin::recMegToPlugin(b 1 )"});
     log.take();
 }
 
