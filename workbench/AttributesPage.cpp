@@ -1,5 +1,6 @@
 #include "AttributesPage.h"
 
+#include "LanguageChange.h"
 #include "TableTools.h"
 
 #include <UIAPICommon.h>
@@ -32,20 +33,20 @@ AttributesPage::AttributesPage(QWidget * parent) : QWidget(parent)
 {
     m_pattern = new QLineEdit("*");
     m_pattern->setClearButtonEnabled(true);
-    m_pattern->setToolTip(tr("A wildcard pattern, for example *pad or .imp*"));
-    m_attributes = makeTable({tr("Attribute"), tr("Takes a value"), tr("Unit"), tr("Values of the file"),
-                              tr("Values offered by the library")});
+    m_attributes = makeTable({{}, {}, {}, {}, {}});
     m_attributes->horizontalHeader()->setMaximumSectionSize(420);
 
-    auto * catalogue = new QGroupBox(tr("Attribute catalogue"));
+    auto * catalogue = new QGroupBox;
     auto * catalogueLayout = new QVBoxLayout(catalogue);
     auto * search = new QHBoxLayout;
-    search->addWidget(new QLabel(tr("Show")));
+    auto * show = new QLabel;
+    show->setBuddy(m_pattern);
+    search->addWidget(show);
     search->addWidget(m_pattern, 1);
     catalogueLayout->addLayout(search);
     catalogueLayout->addWidget(m_attributes, 1);
 
-    auto * flow = new QGroupBox(tr("CAM-mate nodes"));
+    auto * flow = new QGroupBox;
     auto * flowLayout = new QVBoxLayout(flow);
     auto * nodes = new QListWidget;
     for (std::string const & node : getCamMateNodes()) {
@@ -57,7 +58,16 @@ AttributesPage::AttributesPage(QWidget * parent) : QWidget(parent)
     layout->addWidget(catalogue, 1);
     layout->addWidget(flow);
     connect(m_pattern, &QLineEdit::editingFinished, this, &AttributesPage::refresh);
-    refresh();
+    setTextsNowAndLater(*this, [this, catalogue, flow, show] {
+        m_pattern->setToolTip(tr("A wildcard pattern, for example *pad or .imp*"));
+        m_attributes->setHorizontalHeaderLabels({tr("Attribute"), tr("Takes a value"), tr("Unit"),
+                                                 tr("Values of the file"),
+                                                 tr("Values offered by the library")});
+        catalogue->setTitle(tr("Attribute catalogue"));
+        flow->setTitle(tr("CAM-mate nodes"));
+        show->setText(tr("Sho&w"));
+        refresh();
+    });
 }
 
 void AttributesPage::refresh()

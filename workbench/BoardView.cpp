@@ -249,7 +249,10 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
 {
     if (m_isStale) {
         beginPicture();
-        goOnWithPicture();
+        m_picture.work(QDeadlineTimer(slice));
+        if (!m_picture.isFinished()) {
+            m_goOn.start();
+        }
     }
     QPainter painter(this);
     m_picture.paint(painter);
@@ -369,7 +372,10 @@ void BoardView::pickAt(QPointF pixel)
 
 void BoardView::keyPressEvent(QKeyEvent * event)
 {
-    if ((event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier | Qt::ShiftModifier)) != 0) {
+    bool const isSign = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus;
+    Qt::KeyboardModifiers const without = // Shift and an arrow belongs to the hot keys
+        isSign ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if ((event->modifiers() & ~without) != 0) {
         return QWidget::keyPressEvent(event);
     }
     switch (event->key()) {

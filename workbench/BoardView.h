@@ -57,6 +57,8 @@ public:
     /// Brings a place in micrometres into the middle, at four times home's scale or what is larger already. A
     /// place that is not finite changes nothing.
     void centreOn(double x, double y);
+    /// Where a place in micrometres lies on the widget.
+    QPointF pixelOf(double x, double y) const { return boardToWidget().map(QPointF(x, y)); }
     /// The scale over the one at which the whole board is shown.
     double zoom() const { return m_port.zoom(); }
 

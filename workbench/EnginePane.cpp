@@ -1,5 +1,7 @@
 #include "EnginePane.h"
 
+#include "LanguageChange.h"
+
 #include <UIAPICommon.h>
 
 #include <QHeaderView>
@@ -31,7 +33,7 @@ QJsonObject toJson(KVCAM::Embedded::LiveState const & state)
 
 EnginePane::EnginePane(QWidget * parent) : QTreeWidget(parent)
 {
-    setHeaderLabels({tr("Record"), tr("Value")});
+    setTextsNowAndLater(*this, [this] { setHeaderLabels({tr("Record"), tr("Value")}); });
     setSelectionMode(QAbstractItemView::NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);

@@ -57,7 +57,6 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     , m_formFile(std::move(formFile))
     , m_shownUnit(getUnit(view.handle()))
 {
-    setWindowTitle(tr("Feature"));
     resize(860, 480);
     auto * layout = new QVBoxLayout(this);
     m_heading = new QLabel;
@@ -237,10 +236,17 @@ void FeatureDialog::refreshUnit()
     settleSizes(); // in the unit that was shown so far
     m_shownUnit = getUnit(m_view.handle());
     showSymbol();
+    showTitles();
+}
+
+void FeatureDialog::showTitles()
+{
+    setWindowTitle(tr("Feature"));
     for (auto * label : findChildren<KVLabel *>()) {
         int const kind = label->getAttribute2() == "large" ? 0 : 1;
-        label->setText(QString("%1 [%2]").arg(
-            label->getAttribute1(), QString::fromStdString(getUnitStringType(m_view.handle(), kind))));
+        label->setText(
+            QString("%1 [%2]").arg(tr(label->getAttribute1().toUtf8().constData()),
+                                   QString::fromStdString(getUnitStringType(m_view.handle(), kind))));
     }
     for (auto const & item : m_view.features()) {
         if (item.index == m_feature) {
@@ -267,6 +273,7 @@ void FeatureDialog::changeEvent(QEvent * event)
             }
         }
         showFacts();
+        showTitles();
     }
     QDialog::changeEvent(event);
 }

@@ -81,6 +81,7 @@ private:
     void takeSize(KVCAM::UIAPI::KVLineEdit const & field);
     void showVerdict();
     void refreshUnit();
+    void showTitles();
     void attachFiles();
     bool isFollowing() const;
     bool hasSize(KVCAM::UIAPI::KVLineEdit const * field) const;

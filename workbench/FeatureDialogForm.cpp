@@ -5,6 +5,7 @@
 
 #include <UIAPICommon.h>
 
+#include <QComboBox>
 #include <QJsonArray>
 #include <QListWidget>
 
@@ -38,6 +39,9 @@ bool FeatureDialog::restoreForm()
     setUnit(m_view.handle(), offset["unit"].toInt());
     m_offset->setText(offset["text"].toString());
     setUnit(m_view.handle(), form.unit);
+    if (form.extra["negative"].isBool()) { // forms of earlier versions hold the text alone
+        m_polarity->setCurrentIndex(form.extra["negative"].toBool() ? 1 : 0);
+    }
     m_note->setPlainText(form.extra["note"].toString());
     m_documents->clear();
     for (auto const & path : form.extra["documents"].toArray()) {
@@ -66,6 +70,7 @@ QJsonObject FeatureDialog::extras() const
     }
     return {{"symbol", m_symbol.toJson()},
             {"offset", QJsonObject{{"text", m_typedOffset.text}, {"unit", m_typedOffset.unit}}},
+            {"negative", m_polarity->currentIndex() == 1}, // its text depends on the language
             {"note", m_note->toPlainText()},
             {"documents", documents}};
 }
@@ -76,8 +81,9 @@ QJsonObject FeatureDialog::remarks() const
     QJsonObject remarks;
     readListToJson(m_fields, remarks);
     for (KVLineEdit const * field : {m_name, m_width, m_height, m_offset}) {
-        remarks.remove(field->objectName()); // shown in a unit; extras() has what was typed
+        remarks.remove(field->objectName()); // shown in a unit; extras() has what was typed, and the polarity
     }
+    remarks.remove(m_polarity->objectName());
     remarks["extra"] = extras();
     return remarks;
 }

@@ -1,6 +1,7 @@
 // How the dialog is put together; what it does stands in FeatureDialog.cpp.
 #include "BoardView.h"
 #include "FeatureDialog.h"
+#include "LanguageChange.h"
 
 #include <KVCAM_API.h>
 #include <UIAPICommon.h>
@@ -86,35 +87,43 @@ QWidget * FeatureDialog::makePadGroup()
     m_verdict = wrappedLabel();
     m_exact = new QLabel;
 
-    auto * names = new QPushButton(tr("Names"));
+    auto * names = new QPushButton;
     connect(names, &QPushButton::clicked, this, &FeatureDialog::showNames);
     names->setAutoDefault(false);
-    for (KVLineEdit * field : {m_width, m_height}) {
-        field->setToolTip(tr("A number or a calculation such as 10+2.5"));
-    }
-
     m_polarity = new QComboBox;
     m_polarity->setObjectName("polarity");
-    m_polarity->addItems({tr("Positive"), tr("Negative")});
-    m_plated = new QCheckBox(tr("Plated"));
+    m_polarity->addItems({{}, {}});
+    m_plated = new QCheckBox;
     m_plated->setObjectName("plated");
 
-    auto * group = new QGroupBox(tr("Pad"));
+    auto * group = new QGroupBox;
     group->setStyleSheet("KVCAM--UIAPI--KVLineEdit[uiapiValid=\"false\"] { background: #fde0e0 }");
     auto * form = new QFormLayout(group);
-    addRow(*form, tr("Symbol"), "small", beside(m_name, names));
+    addRow(*form, QT_TR_NOOP("Symbol"), "small", beside(m_name, names));
     form->addRow(QString(), m_description);
-    addRow(*form, tr("Width"), "small", m_width);
-    addRow(*form, tr("Height"), "small", m_height);
+    addRow(*form, QT_TR_NOOP("Width"), "small", m_width);
+    addRow(*form, QT_TR_NOOP("Height"), "small", m_height);
     form->addRow(QString(), m_verdict);
-    addRow(*form, tr("Offset"), "small", m_offset);
+    addRow(*form, QT_TR_NOOP("Offset"), "small", m_offset);
     form->addRow(QString(), m_exact);
-    form->addRow(tr("Polarity"), m_polarity);
+    auto * polarity = new QLabel;
+    form->addRow(polarity, m_polarity);
     form->addRow(QString(), m_plated);
+    setTextsNowAndLater(*group, [this, group, names, polarity] {
+        group->setTitle(tr("Pad"));
+        names->setText(tr("Names"));
+        for (KVLineEdit * field : {m_width, m_height}) {
+            field->setToolTip(tr("A number or a calculation such as 10+2.5"));
+        }
+        polarity->setText(tr("Polarity"));
+        m_polarity->setItemText(0, tr("Positive"));
+        m_polarity->setItemText(1, tr("Negative"));
+        m_plated->setText(tr("Plated"));
+    });
     return group;
 }
 
-// The label's attributes hold its title and the scale of its unit, for refreshUnit().
+// The label's attributes hold its title, untranslated, and the scale of its unit, for showTitles().
 void FeatureDialog::addRow(QFormLayout & form, QString title, QString scale, QWidget * field)
 {
     auto * label = new KVLabel;
@@ -131,8 +140,9 @@ QWidget * FeatureDialog::makeRemarksGroup()
     auto * sidesLayout = new QHBoxLayout(sides);
     sidesLayout->setContentsMargins(0, 0, 0, 0);
     int id = 0; // the ids are the positions, by which a saved group is restored
-    for (QString const & text : {tr("This side"), tr("Both sides")}) {
-        auto * button = new QRadioButton(text);
+    for (char const * text : {QT_TR_NOOP("This side"), QT_TR_NOOP("Both sides")}) {
+        auto * button = new QRadioButton;
+        setTextsNowAndLater(*button, [button, text] { button->setText(tr(text)); });
         m_side->addButton(button, id++);
         sidesLayout->addWidget(button);
     }
@@ -145,17 +155,26 @@ QWidget * FeatureDialog::makeRemarksGroup()
     m_documents = new QListWidget;
     m_documents->setTextElideMode(Qt::ElideMiddle);
     m_documents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto * attach = new QPushButton(tr("Attach files"));
+    auto * attach = new QPushButton;
     attach->setAutoDefault(false);
     connect(attach, &QPushButton::clicked, this, &FeatureDialog::attachFiles);
 
-    auto * group = new QGroupBox(tr("Remarks"));
+    auto * group = new QGroupBox;
     auto * form = new QFormLayout(group);
-    form->addRow(tr("Applies to"), sides);
-    form->addRow(tr("Author"), m_author);
-    form->addRow(tr("Note"), m_note);
-    form->addRow(tr("Documents"), m_documents);
+    auto const addRow = [form](char const * title, QWidget * field) {
+        auto * label = new QLabel;
+        form->addRow(label, field);
+        setTextsNowAndLater(*label, [label, title] { label->setText(tr(title)); });
+    };
+    addRow(QT_TR_NOOP("Applies to"), sides);
+    addRow(QT_TR_NOOP("Author"), m_author);
+    addRow(QT_TR_NOOP("Note"), m_note);
+    addRow(QT_TR_NOOP("Documents"), m_documents);
     form->addRow(QString(), attach);
+    setTextsNowAndLater(*group, [group, attach] {
+        group->setTitle(tr("Remarks"));
+        attach->setText(tr("Attach files"));
+    });
     return group;
 }
 
@@ -163,9 +182,14 @@ QWidget * FeatureDialog::makeButtons()
 {
     // Return finishes a field and presses no button, so none of them is a default.
     auto * buttons = new QDialogButtonBox;
-    auto * unit = buttons->addButton(tr("Switch unit"), QDialogButtonBox::ActionRole);
-    auto * save = buttons->addButton(tr("Save form"), QDialogButtonBox::ActionRole);
+    auto * unit = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
+    auto * save = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     auto * close = buttons->addButton(QDialogButtonBox::Close);
+    setTextsNowAndLater(*close, [unit, save, close] { // after Qt has set its own
+        unit->setText(tr("Switch unit"));
+        save->setText(tr("Save form"));
+        close->setText(tr("Close"));
+    });
     for (QPushButton * button : {unit, save, close}) {
         button->setAutoDefault(false);
     }

@@ -13,14 +13,14 @@ bool readLayers(Session & session)
     progress.setWindowTitle(
         QCoreApplication::translate("Workbench", "Opening %1").arg(QString::fromStdString(session.job())));
     progress.setRange(0, static_cast<int>(session.layers().size()));
-    progress.setCancelButton(nullptr);
+    progress.setCancelButtonText(QCoreApplication::translate("Workbench", "Stop"));
     progress.setWindowModality(Qt::ApplicationModal);
     int done = 0;
     for (Session::Layer & layer : session.layers()) {
         progress.setLabelText(QCoreApplication::translate("Workbench", "Reading layer %1 (F1 stops)")
                                   .arg(QString::fromStdString(layer.info.name)));
         progress.setValue(done++);
-        if (progress.isDialogStop()) {
+        if (progress.isDialogStop() || progress.wasCanceled()) {
             return false;
         }
         session.countFeatures(layer);

@@ -42,6 +42,12 @@ void LayerTable::show(Session const & session, std::size_t step)
     QSignalBlocker const blocker(this);
     int const selected = currentRow();
     std::vector<std::size_t> const ticked = tickedLayers();
+    std::vector<int> hidden;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isRowHidden(row)) {
+            hidden.push_back(row);
+        }
+    }
     setRowCount(0);
     for (Session::Layer const & layer : session.layers()) {
         bool const isCounted = step < layer.features.size();
@@ -64,6 +70,9 @@ void LayerTable::show(Session const & session, std::size_t step)
         } else if (!features) {
             cell.setToolTip(tr("the job holds only the tables of this layer"));
         }
+    }
+    for (int const row : hidden) {
+        setRowHidden(row, true);
     }
     setCurrentCell(selected, 0);
 }

@@ -17,7 +17,7 @@ class LayerTable : public QTableWidget
 
 public:
     explicit LayerTable(QWidget * parent = nullptr);
-    /// Shows the layers with their feature counts in one step; ticks stay.
+    /// Shows the layers with their feature counts in one step; ticks stay, and hidden rows stay hidden.
     void show(Session const & session, std::size_t step);
     /// The index of the selected layer, -1 for none.
     int selectedLayer() const { return currentRow(); }

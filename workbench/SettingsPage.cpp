@@ -1,6 +1,7 @@
 #include "SettingsPage.h"
 
 #include "ConfigDirectory.h"
+#include "LanguageChange.h"
 #include "TableTools.h"
 
 #include <EmbeddedEngine.h>
@@ -46,35 +47,46 @@ UIAPIGlobalVar & globals()
 // Getters are the flat functions; most setters are methods of UIAPIGlobalVar alone. The suffix record has no
 // getter: the library hands it to the engine, which tells it here.
 constexpr Setting settings[] = {
-    {QT_TR_NOOP("Server address"), "ServerIp", [] { return text(getServerIP()); },
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Server address"), "ServerIp",
+     [] { return text(getServerIP()); },
      [](QVariant const & v) { globals().setServerIP(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Client address"), "ClientIp", [] { return text(getClientIP()); },
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Client address"), "ClientIp",
+     [] { return text(getClientIP()); },
      [](QVariant const & v) { globals().setClientIP(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Server port"), "Port", [] { return QVariant(getServerPort()); },
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Server port"), "Port",
+     [] { return QVariant(getServerPort()); },
      [](QVariant const & v) { globals().setServerPort(v.toInt()); }},
-    {QT_TR_NOOP("Database path"), "DBPath", [] { return text(getDBPath()); },
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Database path"), "DBPath",
+     [] { return text(getDBPath()); },
      [](QVariant const & v) { globals().setDBPath(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Share path"), "SharePath", [] { return text(getSharePath()); },
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Share path"), "SharePath",
+     [] { return text(getSharePath()); },
      [](QVariant const & v) { globals().setSharePath(v.toString().toStdString()); }},
-    {QT_TR_NOOP("Operating system code"), "OS", [] { return QVariant(getOS()); },
-     [](QVariant const & v) { globals().setOS(v.toInt()); }},
-    {QT_TR_NOOP("Timeout"), "TimeOut", [] { return QVariant(getTimeout()); },
-     [](QVariant const & v) { globals().setTimeout(v.toInt()); }},
-    {QT_TR_NOOP("Selection-outside hint"), "SelectionOutsideHint",
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Operating system code"), "OS",
+     [] { return QVariant(getOS()); }, [](QVariant const & v) { globals().setOS(v.toInt()); }},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Timeout"), "TimeOut",
+     [] { return QVariant(getTimeout()); }, [](QVariant const & v) { globals().setTimeout(v.toInt()); }},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Selection-outside hint"), "SelectionOutsideHint",
      [] { return QVariant(getSelectionOutsideHint()); },
      [](QVariant const & v) { setSelectionOutsideHint(v.toBool()); }},
-    {QT_TR_NOOP("Calculation threads"), "ThreadCount", [] { return QVariant(getThreadCount()); },
-     [](QVariant const & v) { setThreadCount(v.toInt()); }},
-    {QT_TR_NOOP("Backup layers take the suffix"), nullptr,
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Calculation threads"), "ThreadCount",
+     [] { return QVariant(getThreadCount()); }, [](QVariant const & v) { setThreadCount(v.toInt()); }},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Backup layers take the suffix"), nullptr,
      [] { return QVariant(KVCAM::Embedded::liveState().backup.use_suffix); }, nullptr},
-    {QT_TR_NOOP("Backup layer suffix"), nullptr,
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Backup layer suffix"), nullptr,
      [] { return text(KVCAM::Embedded::liveState().backup.suffix); }, nullptr},
-    {QT_TR_NOOP("Layer copy suffix"), nullptr, [] { return text(getLayerCopySuffix()); }, nullptr},
-    {QT_TR_NOOP("Movement factor"), nullptr, [] { return QVariant(getMovementFactor()); }, nullptr},
-    {QT_TR_NOOP("Shift factor"), nullptr, [] { return QVariant(getShiftConfict()); }, nullptr},
-    {QT_TR_NOOP("Contour accuracy"), nullptr, [] { return QVariant(getContourAccuracy()); }, nullptr},
-    {QT_TR_NOOP("Hot keys may be modified"), nullptr, [] { return QVariant(getModifyHotKey()); }, nullptr},
-    {QT_TR_NOOP("Python home"), nullptr, [] { return QVariant(getPythonHome()); }, nullptr},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Layer copy suffix"), nullptr,
+     [] { return text(getLayerCopySuffix()); }, nullptr},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Movement factor"), nullptr,
+     [] { return QVariant(getMovementFactor()); }, nullptr},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Shift factor"), nullptr,
+     [] { return QVariant(getShiftConfict()); }, nullptr},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Contour accuracy"), nullptr,
+     [] { return QVariant(getContourAccuracy()); }, nullptr},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Hot keys may be modified"), nullptr,
+     [] { return QVariant(getModifyHotKey()); }, nullptr},
+    {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Python home"), nullptr,
+     [] { return QVariant(getPythonHome()); }, nullptr},
 };
 static_assert(std::size(settings) == 17);
 
@@ -109,7 +121,7 @@ QString kindText(Ext::DiagnosticKind kind)
 
 SettingsPage::SettingsPage(QWidget * parent) : QWidget(parent)
 {
-    auto * values = new QGroupBox(tr("Settings of server.json"));
+    auto * values = new QGroupBox;
     auto * form = new QGridLayout(values);
     form->setColumnStretch(1, 1);
     for (Setting const & setting : settings) {
@@ -117,9 +129,9 @@ SettingsPage::SettingsPage(QWidget * parent) : QWidget(parent)
     }
     form->setRowStretch(form->rowCount(), 1);
 
-    m_diagnostics = makeTable({tr("File"), tr("Key"), tr("Finding"), tr("Text")});
+    m_diagnostics = makeTable({{}, {}, {}, {}});
     wrapLastColumn(*m_diagnostics);
-    auto * findings = new QGroupBox(tr("What the loaders found"));
+    auto * findings = new QGroupBox;
     auto * findingsLayout = new QVBoxLayout(findings);
     m_summary = new QLabel;
     findingsLayout->addWidget(m_summary);
@@ -128,7 +140,12 @@ SettingsPage::SettingsPage(QWidget * parent) : QWidget(parent)
     auto * layout = new QHBoxLayout(this);
     layout->addWidget(values, 2);
     layout->addWidget(findings, 3);
-    refreshDiagnostics();
+    setTextsNowAndLater(*this, [this, values, findings] {
+        values->setTitle(tr("Settings of server.json"));
+        findings->setTitle(tr("What the loaders found"));
+        m_diagnostics->setHorizontalHeaderLabels({tr("File"), tr("Key"), tr("Finding"), tr("Text")});
+        refreshDiagnostics();
+    });
 }
 
 void SettingsPage::addSetting(QGridLayout & form, Setting const & setting)
@@ -156,12 +173,25 @@ void SettingsPage::addSetting(QGridLayout & form, Setting const & setting)
     }
     editor->setObjectName(setting.title);
     editor->setEnabled(setting.write != nullptr);
-    form.addWidget(new QLabel(tr(setting.title)), row, 0);
+    auto * title = new QLabel;
+    form.addWidget(title, row, 0);
     form.addWidget(editor, row, 1);
-    auto * state = new QLabel(setting.write != nullptr ? tr("saved at once") : tr("read at start only"));
+    auto * state = new QLabel;
     state->setObjectName(QString(setting.title) + " state");
     m_states[&setting] = state;
     form.addWidget(state, row, 2);
+    setTextsNowAndLater(*title, [this, title, state, &setting] {
+        title->setText(tr(setting.title));
+        state->setText(stateText(setting));
+    });
+}
+
+QString SettingsPage::stateText(Setting const & setting) const
+{
+    if (setting.write == nullptr) {
+        return tr("read at start only");
+    }
+    return m_unsaved.count(&setting) == 0 ? tr("saved at once") : tr("not saved");
 }
 
 void SettingsPage::store(Setting const & setting, QVariant const & value)
@@ -179,11 +209,11 @@ void SettingsPage::store(Setting const & setting, QVariant const & value)
             continue;
         }
         bool const isSaved = stored[QLatin1String(each->key)] == QJsonValue::fromVariant(each->read());
-        state->setText(isSaved ? tr("saved at once") : tr("not saved"));
-        state->setStyleSheet(isSaved ? QString() : "color: #b00020");
         if (isSaved) {
             m_unsaved.erase(each);
         }
+        state->setText(stateText(*each));
+        state->setStyleSheet(isSaved ? QString() : "color: #b00020");
     }
 }
 

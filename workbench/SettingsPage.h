@@ -26,6 +26,7 @@ public:
 private:
     void addSetting(QGridLayout & form, Setting const & setting);
     void store(Setting const & setting, QVariant const & value);
+    QString stateText(Setting const & setting) const;
     void refreshDiagnostics();
 
     std::map<Setting const *, QLabel *> m_states; ///< whether each is saved

@@ -15,7 +15,7 @@ namespace Workbench {
 namespace {
 
 constexpr double mostSize = 1e9; // in a name, which may hold more digits than a number can
-constexpr int mostParts = 1000;  // spokes of a thermal or rings of a moire; no real one comes near
+constexpr int mostParts = 100;   // spokes of a thermal or rings of a moire; no real one comes near
 
 // The sizes of a name in order, a plating letter as 0, and the corners that are cut.
 struct Sizes
@@ -129,7 +129,7 @@ QPainterPath box(QSizeF size, Sizes const & sizes)
     return path;
 }
 
-// Two opposite quarters of a shape.
+// Two opposite quarters of a shape: right above and left below.
 QPainterPath butterfly(QPainterPath const & whole)
 {
     QRectF const frame = whole.boundingRect();

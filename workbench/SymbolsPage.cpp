@@ -1,10 +1,10 @@
 #include "SymbolsPage.h"
 
+#include "LanguageChange.h"
 #include "TableTools.h"
 
 #include <UIAPICommon.h>
 
-#include <QEvent>
 #include <QGroupBox>
 #include <QJsonObject>
 #include <QVBoxLayout>
@@ -64,16 +64,15 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
 SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * parent)
     : QWidget(parent), m_job(job), m_view(view)
 {
-    m_names = makeTable({tr("As stored"), tr("Stored in"), tr("In mil"), tr("In micrometres (my)"),
-                         tr("Features"), tr("Description")});
+    m_names = makeTable({{}, {}, {}, {}, {}, {}});
     wrapLastColumn(*m_names);
     for (SymbolRow const & row : symbolRows(job)) {
         addRow(*m_names,
-               {row.stored, row.unit == 0 ? tr("mil") : tr("my"), row.inch, row.metric,
-                QString::number(row.features), row.description},
+               {row.stored, row.unit == 0 ? "mil" : "my", row.inch, row.metric, QString::number(row.features),
+                row.description},
                {4});
     }
-    m_results = makeTable({tr("Function"), tr("Result")});
+    m_results = makeTable({{}, {}});
     m_resultsTitle = new QGroupBox;
     auto * resultsLayout = new QVBoxLayout(m_resultsTitle);
     resultsLayout->addWidget(m_results);
@@ -84,6 +83,7 @@ SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * p
     connect(m_names, &QTableWidget::itemSelectionChanged, this, &SymbolsPage::showResults);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &SymbolsPage::showResults);
     m_names->selectRow(0);
+    setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
 void SymbolsPage::setView(void const * view)
@@ -92,15 +92,16 @@ void SymbolsPage::setView(void const * view)
     showResults();
 }
 
-void SymbolsPage::changeEvent(QEvent * event)
+void SymbolsPage::setTexts()
 {
-    if (event->type() == QEvent::LanguageChange) {
-        auto const rows = symbolRows(m_job);
-        for (int i = 0; i < m_names->rowCount() && i < static_cast<int>(rows.size()); ++i) {
-            m_names->item(i, descriptionColumn)->setText(rows[static_cast<std::size_t>(i)].description);
-        }
+    m_names->setHorizontalHeaderLabels({tr("As stored"), tr("Stored in"), tr("In mil"),
+                                        tr("In micrometres (my)"), tr("Features"), tr("Description")});
+    m_results->setHorizontalHeaderLabels({tr("Function"), tr("Result")});
+    auto const rows = symbolRows(m_job);
+    for (int i = 0; i < m_names->rowCount() && i < static_cast<int>(rows.size()); ++i) {
+        m_names->item(i, descriptionColumn)->setText(rows[static_cast<std::size_t>(i)].description);
     }
-    QWidget::changeEvent(event);
+    showResults();
 }
 
 void SymbolsPage::showResults()

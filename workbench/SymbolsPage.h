@@ -37,10 +37,8 @@ public:
     /// Shows the functions' results in the unit of another view.
     void setView(void const * view);
 
-protected:
-    void changeEvent(QEvent * event) override;
-
 private:
+    void setTexts();
     void showResults();
 
     std::string m_job;

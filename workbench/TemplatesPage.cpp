@@ -1,5 +1,6 @@
 #include "TemplatesPage.h"
 
+#include "LanguageChange.h"
 #include "TableTools.h"
 
 #include <QDir>
@@ -58,13 +59,13 @@ bool isSameFile(QString const & a, QString const & b)
 
 TemplatesPage::TemplatesPage(QWidget * parent) : QWidget(parent)
 {
-    m_list = makeTable({tr("Index"), tr("Name"), tr("Current")});
+    m_list = makeTable({{}, {}, {}});
     m_list->horizontalHeader()->setStretchLastSection(false);
     m_list->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_current = new QLabel;
     m_current->setWordWrap(true);
 
-    auto * all = new QGroupBox(tr("Templates"));
+    auto * all = new QGroupBox;
     auto * allLayout = new QVBoxLayout(all);
     allLayout->addWidget(m_list, 1);
     allLayout->addWidget(m_current);
@@ -74,19 +75,31 @@ TemplatesPage::TemplatesPage(QWidget * parent) : QWidget(parent)
 
     connect(m_list, &QTableWidget::itemSelectionChanged, this, &TemplatesPage::showSelected);
     refreshList(0);
+    setTextsNowAndLater(*this, [this, all] {
+        m_list->setHorizontalHeaderLabels({tr("Index"), tr("Name"), tr("Current")});
+        all->setTitle(tr("Templates"));
+        showCurrent();
+        describeFile(selectedIndex());
+    });
 }
 
 QWidget * TemplatesPage::makeEditor()
 {
-    auto * editor = new QGroupBox(tr("How the layers are recognised"));
+    auto * editor = new QGroupBox;
+    setTextsNowAndLater(*editor, [editor] { editor->setTitle(tr("How the layers are recognised")); });
+    auto const label = [](char const * text) {
+        auto * widget = new QLabel;
+        setTextsNowAndLater(*widget, [widget, text] { widget->setText(tr(text)); });
+        return widget;
+    };
     auto * grid = new QGridLayout(editor);
     m_name = new QLineEdit;
     m_name->setObjectName("name");
-    grid->addWidget(new QLabel(tr("Name")), 0, 0);
+    grid->addWidget(label(QT_TR_NOOP("Name")), 0, 0);
     grid->addWidget(m_name, 0, 1, 1, 2);
-    grid->addWidget(new QLabel(tr("Role")), 1, 0);
-    grid->addWidget(new QLabel(tr("Name begins with")), 1, 1);
-    grid->addWidget(new QLabel(tr("Name ends with")), 1, 2);
+    grid->addWidget(label(QT_TR_NOOP("Role")), 1, 0);
+    grid->addWidget(label(QT_TR_NOOP("Name begins with")), 1, 1);
+    grid->addWidget(label(QT_TR_NOOP("Name ends with")), 1, 2);
     for (std::size_t i = 0; i < m_prefixes.size(); ++i) {
         int const row = static_cast<int>(i) + 2;
         m_prefixes[i] = new QLineEdit;
@@ -96,15 +109,16 @@ QWidget * TemplatesPage::makeEditor()
         grid->addWidget(m_suffixes[i], row, 2);
     }
     auto * buttons = new QHBoxLayout;
-    auto const addButton = [&](QString const & text, void (TemplatesPage::*action)()) {
-        auto * button = new QPushButton(text);
+    auto const addButton = [&](char const * text, void (TemplatesPage::*action)()) {
+        auto * button = new QPushButton;
+        setTextsNowAndLater(*button, [button, text] { button->setText(tr(text)); });
         buttons->addWidget(button);
         connect(button, &QPushButton::clicked, this, action);
     };
-    addButton(tr("Use as current"), &TemplatesPage::select);
-    addButton(tr("Save"), &TemplatesPage::save);
-    addButton(tr("Save as new"), &TemplatesPage::saveAsNew);
-    addButton(tr("Delete"), &TemplatesPage::remove);
+    addButton(QT_TR_NOOP("Use as current"), &TemplatesPage::select);
+    addButton(QT_TR_NOOP("Save"), &TemplatesPage::save);
+    addButton(QT_TR_NOOP("Save as new"), &TemplatesPage::saveAsNew);
+    addButton(QT_TR_NOOP("Delete"), &TemplatesPage::remove);
     buttons->addStretch(1);
     grid->addLayout(buttons, grid->rowCount(), 0, 1, 3);
     m_hint = new QLabel;
@@ -117,16 +131,23 @@ QWidget * TemplatesPage::makeEditor()
 
 void TemplatesPage::refreshList(int selectIndex)
 {
-    std::string const current = getCurrentAutoMatrixTmp().name;
     m_list->setRowCount(0);
     for (auto const & [index, tmpl] : getAutoMatrixTmpMap()) {
-        addRow(*m_list, {QString::number(index), QString::fromStdString(tmpl.name),
-                         tmpl.name == current ? tr("yes") : QString()});
+        addRow(*m_list, {QString::number(index), QString::fromStdString(tmpl.name), {}});
         if (index == selectIndex) {
             m_list->selectRow(m_list->rowCount() - 1);
         }
     }
-    m_current->setText(tr("Current template: %1").arg(QString::fromStdString(current)));
+    showCurrent();
+}
+
+void TemplatesPage::showCurrent()
+{
+    QString const current = QString::fromStdString(getCurrentAutoMatrixTmp().name);
+    for (int row = 0; row < m_list->rowCount(); ++row) {
+        m_list->item(row, 2)->setText(m_list->item(row, 1)->text() == current ? tr("yes") : QString());
+    }
+    m_current->setText(tr("Current template: %1").arg(current));
 }
 
 int TemplatesPage::selectedIndex() const

@@ -27,6 +27,7 @@ public:
 private:
     QWidget * makeEditor();
     void refreshList(int selectIndex);
+    void showCurrent();
     void showSelected();
     int selectedIndex() const;
     KVCAM::UIAPI::AutoMatrixTmp edited() const;

@@ -165,7 +165,11 @@ TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
     EXPECT_EQ(shown(Embedded::jobSymbols("board")), (Texts{"r10 0 2", "r3 0 0", "rect4x5 1 1"}));
     EXPECT_TRUE(Embedded::lastError().find("bottom/features:2: ") != std::string::npos)
         << Embedded::lastError();
+    EXPECT_EQ(Embedded::featureCount("board", "pcb", "bottom"), -1);
+    int const count = Embedded::featureCount("board", "PCB", "Top");
+    EXPECT_EQ(Embedded::features("board", "pcb", "top").size(), static_cast<std::size_t>(count));
     ASSERT_TRUE(Embedded::deleteFeatures("board", "pcb", "top", {0}));
+    EXPECT_EQ(Embedded::featureCount("board", "pcb", "top"), count - 1);
     EXPECT_EQ(shown(Embedded::layerSymbols("board", "pcb", "top")),
               (Texts{"r10 0 1", "rect4x5 1 1", "r3 0 0"}));
 }

@@ -1,4 +1,702 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开 %1</translation>
+    </message>
+    <message>
+        <source>Reading layer %1 (F1 stops)</source>
+        <translation>正在读取层 %1（按 F1 停止）</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::AttributesPage</name>
+    <message>
+        <source>A wildcard pattern, for example *pad or .imp*</source>
+        <translation>通配符，例如 *pad 或 .imp*</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Takes a value</source>
+        <translation>带值</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Values of the file</source>
+        <translation>文件中的值</translation>
+    </message>
+    <message>
+        <source>Values offered by the library</source>
+        <translation>库提供的值</translation>
+    </message>
+    <message>
+        <source>Attribute catalogue</source>
+        <translation>属性目录</translation>
+    </message>
+    <message>
+        <source>CAM-mate nodes</source>
+        <translation>CAM-mate 节点</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>显示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::BoardView</name>
+    <message>
+        <source>Board picture</source>
+        <translation>板图</translation>
+    </message>
+    <message>
+        <source>No layer is shown</source>
+        <translation>没有显示任何层</translation>
+    </message>
+    <message>
+        <source>The job holds only the tables of the layer %1</source>
+        <translation>料号中只有层 %1 的表头，没有图形</translation>
+    </message>
+    <message>
+        <source>The layer %1 cannot be read: see the log</source>
+        <translation>层 %1 无法读取，请看日志</translation>
+    </message>
+    <message>
+        <source>The layer %1 has no features in this step</source>
+        <translation>层 %1 在此步骤中没有图形</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::EnginePane</name>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::FeatureDialog</name>
+    <message>
+        <source>Feature</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>Pad %1 of layer %2 at %3</source>
+        <translation>焊盘 %1，层 %2，位置 %3</translation>
+    </message>
+    <message>
+        <source>Width %1 nm, offset %2 nm</source>
+        <translation>宽 %1 nm，偏移 %2 nm</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>偏移</translation>
+    </message>
+    <message>
+        <source>Pad</source>
+        <translation>焊盘</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>A number or a calculation such as 10+2.5</source>
+        <translation>数字或算式，例如 10+2.5</translation>
+    </message>
+    <message>
+        <source>Polarity</source>
+        <translation>极性</translation>
+    </message>
+    <message>
+        <source>Positive</source>
+        <translation>正</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>负</translation>
+    </message>
+    <message>
+        <source>Plated</source>
+        <translation>金属化</translation>
+    </message>
+    <message>
+        <source>This side</source>
+        <translation>本面</translation>
+    </message>
+    <message>
+        <source>Both sides</source>
+        <translation>两面</translation>
+    </message>
+    <message>
+        <source>Applies to</source>
+        <translation>适用于</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Attach files</source>
+        <translation>附加文件</translation>
+    </message>
+    <message>
+        <source>Switch unit</source>
+        <translation>切换单位</translation>
+    </message>
+    <message>
+        <source>Save form</source>
+        <translation>保存表单</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::LayerTable</name>
+    <message>
+        <source>Row</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Context</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Polarity</source>
+        <translation>极性</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>图形数</translation>
+    </message>
+    <message>
+        <source>Ticked layers are drawn beside the selected one (Space)</source>
+        <translation>勾选的层与选中的层一起显示（空格键）</translation>
+    </message>
+    <message>
+        <source>not counted, since reading was stopped</source>
+        <translation>读取被停止，未计数</translation>
+    </message>
+    <message>
+        <source>the job holds only the tables of this layer</source>
+        <translation>料号中只有此层的表头</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Whole board</source>
+        <translation>整板(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;All features</source>
+        <translation>全部图形(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Tick all layers</source>
+        <translation>勾选全部层(&amp;T)</translation>
+    </message>
+    <message>
+        <source>U&amp;ntick all layers</source>
+        <translation>取消全部勾选(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Page</source>
+        <translation>页面(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Using the board picture</source>
+        <translation>板图的使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Using the board picture</source>
+        <translation>板图的使用</translation>
+    </message>
+    <message>
+        <source>The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks a mark.
+With the picture in focus the arrow keys move the board, + and - zoom, Home shows the whole board.
+Ticked layers are drawn beside the selected one; Space in the list of layers sets and clears the tick.</source>
+        <translation>滚轮以指针为中心缩放，拖动移动板图，单击打开焊盘或选取标记。
+板图获得焦点时，方向键移动，+ 和 - 缩放，Home 显示整板。
+勾选的层与选中的层一起显示；在层列表中按空格键勾选或取消。</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>The reference host of UIAPICommon %1: shows a board's job through the library and the default engine.</source>
+        <translation>UIAPICommon %1 的参考宿主：通过库和默认引擎显示料号。</translation>
+    </message>
+    <message>
+        <source>&amp;Board</source>
+        <translation>板图(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Step %1</source>
+        <translation>步骤 %1</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>What the engine was told</source>
+        <translation>引擎收到的内容</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Switches the unit of the shown step's view</source>
+        <translation>切换当前步骤视图的单位</translation>
+    </message>
+    <message>
+        <source>&amp;Save flag</source>
+        <translation>保存标志(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Makes the engine write what it is told to %1 as well</source>
+        <translation>让引擎把收到的内容同时写入 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Feature</source>
+        <translation>图形(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Opens the dialog on a pad; a click on a pad does so, too</source>
+        <translation>打开焊盘对话框；单击焊盘也可以</translation>
+    </message>
+    <message>
+        <source>Language of all texts</source>
+        <translation>界面语言</translation>
+    </message>
+    <message>
+        <source>S&amp;ymbols</source>
+        <translation>符号(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings</source>
+        <translation>设置(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Te&amp;mplates</source>
+        <translation>模板(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Attributes</source>
+        <translation>属性(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>This layer has no pads.</source>
+        <translation>此层没有焊盘。</translation>
+    </message>
+    <message>
+        <source>%1 - UIAPICommon workbench</source>
+        <translation>%1 - UIAPICommon 工作台</translation>
+    </message>
+    <message>
+        <source>Move the pointer over the board</source>
+        <translation>请把指针移到板图上</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <translation>缩放 %1 %</translation>
+    </message>
+    <message>
+        <source>&amp;Unit: %1</source>
+        <translation>单位：%1(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Board outline of step %1: %2</source>
+        <translation>步骤 %1 的板框：%2</translation>
+    </message>
+    <message>
+        <source>Step %1 has no profile</source>
+        <translation>步骤 %1 没有板框</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SettingsPage</name>
+    <message>
+        <source>Server address</source>
+        <translation>服务器地址</translation>
+    </message>
+    <message>
+        <source>Client address</source>
+        <translation>客户端地址</translation>
+    </message>
+    <message>
+        <source>Server port</source>
+        <translation>服务器端口</translation>
+    </message>
+    <message>
+        <source>Database path</source>
+        <translation>数据库路径</translation>
+    </message>
+    <message>
+        <source>Share path</source>
+        <translation>共享路径</translation>
+    </message>
+    <message>
+        <source>Operating system code</source>
+        <translation>操作系统代码</translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>超时</translation>
+    </message>
+    <message>
+        <source>Selection-outside hint</source>
+        <translation>选择区域外提示</translation>
+    </message>
+    <message>
+        <source>Calculation threads</source>
+        <translation>计算线程数</translation>
+    </message>
+    <message>
+        <source>Backup layers take the suffix</source>
+        <translation>备份层使用后缀</translation>
+    </message>
+    <message>
+        <source>Backup layer suffix</source>
+        <translation>备份层后缀</translation>
+    </message>
+    <message>
+        <source>Layer copy suffix</source>
+        <translation>层复制后缀</translation>
+    </message>
+    <message>
+        <source>Movement factor</source>
+        <translation>移动系数</translation>
+    </message>
+    <message>
+        <source>Shift factor</source>
+        <translation>偏移系数</translation>
+    </message>
+    <message>
+        <source>Contour accuracy</source>
+        <translation>轮廓精度</translation>
+    </message>
+    <message>
+        <source>Hot keys may be modified</source>
+        <translation>允许修改快捷键</translation>
+    </message>
+    <message>
+        <source>Python home</source>
+        <translation>Python 目录</translation>
+    </message>
+    <message>
+        <source>missing file</source>
+        <translation>文件缺失</translation>
+    </message>
+    <message>
+        <source>cannot be opened</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>not JSON</source>
+        <translation>不是 JSON</translation>
+    </message>
+    <message>
+        <source>missing key</source>
+        <translation>缺少键</translation>
+    </message>
+    <message>
+        <source>wrong type</source>
+        <translation>类型错误</translation>
+    </message>
+    <message>
+        <source>unknown key</source>
+        <translation>未知键</translation>
+    </message>
+    <message>
+        <source>duplicate</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>not read back</source>
+        <translation>不会读回</translation>
+    </message>
+    <message>
+        <source>index taken</source>
+        <translation>序号已占用</translation>
+    </message>
+    <message>
+        <source>no backup</source>
+        <translation>没有备份</translation>
+    </message>
+    <message>
+        <source>Settings of server.json</source>
+        <translation>server.json 的设置</translation>
+    </message>
+    <message>
+        <source>What the loaders found</source>
+        <translation>读取时的发现</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>read at start only</source>
+        <translation>仅启动时读取</translation>
+    </message>
+    <message>
+        <source>saved at once</source>
+        <translation>立即保存</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>All files were read; nothing is wrong with them.</source>
+        <translation>全部文件已读取，没有问题。</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>发现：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SymbolsPage</name>
+    <message>
+        <source>As stored</source>
+        <translation>存储名称</translation>
+    </message>
+    <message>
+        <source>Stored in</source>
+        <translation>存储单位</translation>
+    </message>
+    <message>
+        <source>In mil</source>
+        <translation>以 mil 表示</translation>
+    </message>
+    <message>
+        <source>In micrometres (my)</source>
+        <translation>以微米 (my) 表示</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>图形数</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>%1 by each function, unit %2</source>
+        <translation>%1 经各函数处理，单位 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::TemplatesPage</name>
+    <message>
+        <source>Index</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>How the layers are recognised</source>
+        <translation>层的识别方式</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>角色</translation>
+    </message>
+    <message>
+        <source>Name begins with</source>
+        <translation>名称开头</translation>
+    </message>
+    <message>
+        <source>Name ends with</source>
+        <translation>名称结尾</translation>
+    </message>
+    <message>
+        <source>Use as current</source>
+        <translation>设为当前</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save as new</source>
+        <translation>另存为新模板</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>Current template: %1</source>
+        <translation>当前模板：%1</translation>
+    </message>
+    <message>
+        <source>Save and Delete change the file "%1".</source>
+        <translation>保存和删除会更改文件“%1”。</translation>
+    </message>
+    <message>
+        <source>This template is a shipped one.</source>
+        <translation>此模板是随附的。</translation>
+    </message>
+    <message>
+        <source>This template shares the file "%1" with others.</source>
+        <translation>此模板与其他模板共用文件“%1”。</translation>
+    </message>
+    <message>
+        <source>Save makes a copy of it under a new index; Delete lasts until the next start.</source>
+        <translation>保存会以新序号另存副本；删除只在下次启动前有效。</translation>
+    </message>
+    <message>
+        <source>The file "%1" was not saved; what you see lasts until the next start.</source>
+        <translation>文件“%1”未能保存；所见内容只保留到下次启动。</translation>
+    </message>
+    <message>
+        <source>The file "%1" is there already. Choose another name.</source>
+        <translation>文件“%1”已存在，请换一个名称。</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>The file "%1" cannot be deleted.</source>
+        <translation>文件“%1”无法删除。</translation>
+    </message>
+</context>
 </TS>
