@@ -135,7 +135,11 @@ BENCHMARK(wheelStep)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char ** argv)
 {
-    QApplication application(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication const application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
 }

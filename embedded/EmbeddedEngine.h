@@ -18,10 +18,12 @@ KVCAM_API_EXPORT std::string lastError();
 /// lastError() set, when the file has no name, cannot be opened or leaves no sequence numbers to count on
 /// with; the flag is then off.
 KVCAM_API_EXPORT bool setSaveFlag(bool on);
+///@{
 /// The SQLite file of the twins, "uiapi-engine.sqlite" in the current directory unless set. Takes effect the
 /// next time that the flag is turned on.
 KVCAM_API_EXPORT void setDatabaseFile(std::string const & path);
 KVCAM_API_EXPORT std::string databaseFile();
+///@}
 
 /// Makes a directory the host's configuration directory, which Common::getPath() and its relatives then name.
 /// Empty, as at the start: the folder "config" of the current directory. Set it before the library's first
@@ -31,23 +33,24 @@ KVCAM_API_EXPORT void setConfigDirectory(std::string const & path);
 /// What the engine was told last.
 struct LiveState
 {
-    API::show_param show;
-    API::Selection selection;
-    API::select_info select;
-    int threadCount = 0;
-    API::back_layer_name_info backup;
+    API::show_param show;             ///< set_show_para()
+    API::Selection selection;         ///< set_selection()
+    API::select_info select;          ///< set_select_param()
+    int threadCount = 0;              ///< set_net_cal_thread()
+    API::back_layer_name_info backup; ///< set_backup_layername_info()
     /// The number of the latest of these changes. It is counted together with the rows of the database file,
     /// so that a row written before a change has the lower number.
     long long sequence = 0;
 };
+/// What the engine was told last; the records' defaults where it was told nothing.
 KVCAM_API_EXPORT LiveState liveState();
 
 /// A command that the host's plug-in manager was given.
 struct PluginCommand
 {
-    std::string module;
-    int command = 0;
-    std::string key;
+    std::string module; ///< as PluginMetaData's
+    int command = 0;    ///< as PluginMetaData's
+    std::string key;    ///< as PluginMetaData's
 };
 /// The latest 100 of them, oldest first; the default host has no plug-in modules to hand them to.
 KVCAM_API_EXPORT std::vector<PluginCommand> pluginCommands();
@@ -60,10 +63,13 @@ KVCAM_API_EXPORT bool closeJob(std::string const & job);
 /// An upright rectangle in micrometres.
 struct Box
 {
+    ///@{
+    /// An edge.
     double left = 0;
     double bottom = 0;
     double right = 0;
     double top = 0;
+    ///@}
 };
 
 /// The extent of a step's profile. False when the job or step is not open or has no profile.
@@ -106,11 +112,11 @@ KVCAM_API_EXPORT bool isCutToTables(std::string const & job, std::string const &
 KVCAM_API_EXPORT bool deleteFeatures(std::string const & job, std::string const & step,
                                      std::string const & layer, std::vector<int> const & indices);
 
-/// One symbol name as a layer's files use it. `unit` says what its sizes are in: 0 mil, 1 micrometre.
+/// One symbol name as a layer's files use it.
 struct SymbolUse
 {
-    std::string name;
-    int unit = 0;
+    std::string name; ///< without a unit mark
+    int unit = 0;     ///< what its sizes are in: 0 mil, 1 micrometre
     int features = 0; ///< how many features use it
 };
 /// The distinct symbol names of a layer in order of first definition, used or not.
@@ -123,11 +129,13 @@ KVCAM_API_EXPORT std::vector<SymbolUse> jobSymbols(std::string const & job);
 /// One tool of a drill or rout layer; sizes in micrometres.
 struct Tool
 {
-    int number = 0;
-    std::string type; ///< "via", "plated", "non_plated"
-    double drillSize = 0;
-    double finishSize = 0;
+    int number = 0;        ///< as in the tools file
+    std::string type;      ///< "via", "plated", "non_plated"
+    double drillSize = 0;  ///< of the drill
+    double finishSize = 0; ///< of the hole when it is finished
 };
+/// The tools of a layer in the order of its tools file. Empty, with lastError() set, on failure; a layer
+/// without that file has none.
 KVCAM_API_EXPORT std::vector<Tool> tools(std::string const & job, std::string const & step,
                                          std::string const & layer);
 

@@ -29,7 +29,7 @@ build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev
 # The offscreen platform takes the place of a display; it needs fonts to draw text with.
 run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)
-lint_packages=(clang-format-14 clang-tidy-14)
+lint_packages=(clang-format-14 clang-tidy-14 doxygen)
 
 # build PRESET [TARGET...]
 build() {

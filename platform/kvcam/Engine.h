@@ -5,9 +5,12 @@
 /// The live engine. The library reports every change of a view's state here; any of these may throw.
 namespace KVCAM::API {
 
+///@{
+/// The state of a view is this from now on.
 KVCAM_API_EXPORT void set_show_para(show_param const & value);
 KVCAM_API_EXPORT void set_selection(Selection const & value);
 KVCAM_API_EXPORT void set_select_param(select_info value);
+///@}
 
 /// Fills the steps and layers of a job, in matrix order, replacing what the vectors held. The result is an
 /// error text, empty on success.
@@ -16,6 +19,7 @@ KVCAM_API_EXPORT std::string get_matrix(std::string const & job, std::vector<std
 
 /// Opens a job: `path` is the folder that holds the job's folder, `job` the name of the latter.
 KVCAM_API_EXPORT bool open_job(std::string const & path, std::string const & job);
+/// Whether a job is open.
 KVCAM_API_EXPORT bool is_job_opened(std::string job);
 
 /// True if `name` is a standard symbol or a symbol of an open job; then type and the first two sizes are set.
@@ -31,7 +35,9 @@ KVCAM_API_EXPORT int op_size(std::string const & job, std::string const & step);
 /// Takes the latest operation on a step back; false when there is none.
 KVCAM_API_EXPORT bool Undo(std::string const & job, std::string const & step);
 
+/// The number of threads for the calculation of nets.
 KVCAM_API_EXPORT void set_net_cal_thread(int count);
+/// How the backups of layers are named.
 KVCAM_API_EXPORT void set_backup_layername_info(back_layer_name_info const & info);
 
 } // namespace KVCAM::API

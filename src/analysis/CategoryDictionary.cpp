@@ -160,6 +160,7 @@ std::string_view builtInCategoryName(std::string_view tableName, int number)
 std::vector<std::string> Ext::categoryTables()
 {
     std::vector<std::string> names;
+    names.reserve(Categories::tables.size());
     for (Categories::Table const & table : Categories::tables) {
         names.emplace_back(table.name);
     }

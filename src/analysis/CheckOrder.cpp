@@ -12,14 +12,14 @@ namespace KVCAM::UIAPI {
 namespace {
 
 constexpr std::array<std::size_t, 3> comparedPoints = {2, 4, 6};
-constexpr int unordered = -1;
+constexpr std::size_t unordered = comparedPoints.size();
 
 // Of the radix sort. Below so many entries its tables cost more than merging.
 constexpr unsigned digitBits = 11;
 constexpr std::size_t fewest = 1000;
 
 // Which of the compared points counts for a kind.
-int slotOf(int kind)
+std::size_t slotOf(int kind)
 {
     switch (kind) {
     case 0:
@@ -40,18 +40,18 @@ struct Key
 {
     check_info const * entry = nullptr;
     std::array<int, comparedPoints.size()> points{};
-    std::int8_t slot = unordered;
-    std::int8_t held = 0; // how many of the compared points there are
+    std::uint8_t slot = unordered;
+    std::uint8_t held = 0; // how many of the compared points there are
 };
 
 Key keyOf(check_info const & entry)
 {
     Key key;
     key.entry = &entry;
-    key.slot = static_cast<std::int8_t>(slotOf(entry.type));
+    key.slot = static_cast<std::uint8_t>(slotOf(entry.type));
     for (std::size_t i = 0; i < comparedPoints.size() && comparedPoints[i] < entry.points.size(); ++i) {
         key.points[i] = entry.points[comparedPoints[i]];
-        key.held = static_cast<std::int8_t>(i + 1);
+        key.held = static_cast<std::uint8_t>(i + 1);
     }
     return key;
 }
@@ -61,8 +61,7 @@ bool isBefore(Key const & a, Key const & b)
     if (a.slot == unordered) {
         return true;
     }
-    auto const slot = static_cast<std::size_t>(a.slot);
-    return a.slot < a.held && a.slot < b.held && a.points[slot] < b.points[slot];
+    return a.slot < a.held && a.slot < b.held && a.points[a.slot] < b.points[a.slot];
 }
 
 // The usual case: all are compared by the same point, and all have it. Their order is that of plain numbers.
@@ -101,7 +100,7 @@ void sortAlike(std::vector<Key> & keys)
     std::vector<Number> numbers;
     numbers.reserve(keys.size());
     for (Key const & key : keys) {
-        auto const value = static_cast<std::uint32_t>(key.points[static_cast<std::size_t>(key.slot)]);
+        auto const value = static_cast<std::uint32_t>(key.points[key.slot]);
         numbers.push_back(
             {value ^ 0x80000000U, static_cast<std::uint32_t>(numbers.size())}); // negative first
     }

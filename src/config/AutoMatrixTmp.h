@@ -10,8 +10,10 @@ namespace KVCAM::UIAPI {
 /// the name. A plain aggregate of UTF-8 texts in this order: name, prefixes, suffixes. Not interpreted here.
 struct AutoMatrixTmp
 {
-    std::string name;
+    std::string name; ///< of the template
 
+    ///@{
+    /// What the name of a layer of this role begins with.
     std::string prefix_solder_paste_top;
     std::string prefix_silk_screen_top;
     std::string prefix_solder_mask_top;
@@ -24,7 +26,10 @@ struct AutoMatrixTmp
     std::string prefix_drill;
     std::string prefix_rout;
     std::string prefix_outline;
+    ///@}
 
+    ///@{
+    /// What the name of a layer of this role ends with.
     std::string suffix_solder_paste_top;
     std::string suffix_silk_screen_top;
     std::string suffix_solder_mask_top;
@@ -37,6 +42,7 @@ struct AutoMatrixTmp
     std::string suffix_drill;
     std::string suffix_rout;
     std::string suffix_outline;
+    ///@}
 };
 
 static_assert(std::is_aggregate_v<AutoMatrixTmp>);
@@ -44,12 +50,12 @@ static_assert(sizeof(AutoMatrixTmp) == 25 * sizeof(std::string), "a name and two
 
 namespace Ext {
 
-/// One layer role of a template: its key in template files and its two members.
+/// One layer role of a template.
 struct AutoMatrixRole
 {
-    char const * key;
-    std::string AutoMatrixTmp::*prefix;
-    std::string AutoMatrixTmp::*suffix;
+    char const * key;                   ///< in template files
+    std::string AutoMatrixTmp::*prefix; ///< the member that holds the prefix
+    std::string AutoMatrixTmp::*suffix; ///< and the suffix
 };
 
 /// The twelve roles in the order of the members.

@@ -29,8 +29,8 @@ struct Diagnostic
 {
     QString file; ///< the path as the loader opened it
     QString key;  ///< where in the file, "TotalAttributes[3].unit"; empty for the file as a whole
-    DiagnosticKind kind = DiagnosticKind::MissingFile;
-    QString text; ///< one English sentence for people
+    DiagnosticKind kind = DiagnosticKind::MissingFile; ///< what is wrong
+    QString text;                                      ///< one English sentence for people
 };
 
 /// What the loaders have found since the process started, in the order in which they found it. Empty until

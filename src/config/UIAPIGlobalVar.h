@@ -36,8 +36,9 @@ public:
     UIAPIGlobalVar & operator=(UIAPIGlobalVar const &) = delete;
 
     // --- Settings -----------------------------------------------------------------------------------------
-    // Empty, 0 or false where "server.json" says nothing. Codes and units are their consumers' business.
 
+    ///@{
+    /// Empty, 0 or false where "server.json" says nothing. Codes and units are their consumers' business.
     std::string getServerIP() const;
     std::string getClientIP() const;
     int getServerPort() const;
@@ -52,15 +53,16 @@ public:
     double getShiftConfict() const;
     int getContourAccuracy() const;
     bool getModifyHotKey() const;
+    ///@}
     /// A switch, despite its name.
     bool getPythonHome() const;
 
-    // Each assigns its setting and rewrites "server.json" whole. A file that cannot be written stays as it
-    // was, without a word. Where the configuration directory is missing, a WARNING line is logged, the
-    // directory is created and nothing is written: the value reaches the file with the next save.
-    // The layer copy suffix, the movement factor, the shift confict and the contour accuracy are written
-    // under keys that are not read at the next start.
-
+    ///@{
+    /// Each assigns its setting and rewrites "server.json" whole. A file that cannot be written stays as it
+    /// was, without a word. Where the configuration directory is missing, a WARNING line is logged, the
+    /// directory is created and nothing is written: the value reaches the file with the next save.
+    /// The layer copy suffix, the movement factor, the shift confict and the contour accuracy are written
+    /// under keys that are not read at the next start.
     void setServerIP(std::string const & ip);
     void setClientIP(std::string const & ip);
     void setServerPort(int port);
@@ -69,21 +71,27 @@ public:
     void setOS(int code);
     void setTimeout(int timeout);
     void setSelectionOutsideHint(bool hint);
-    /// Pushes the count to the engine after saving, also when nothing could be written.
+    ///@}
+    /// As the setters above, and pushes the count to the engine after saving, also when nothing could be
+    /// written.
     void setThreadCount(int count);
 
     // --- In memory only -----------------------------------------------------------------------------------
 
+    ///@{
     /// A polygon in micrometres, handed out as it was handed in; empty at start.
     std::vector<KVCAM::API::point> getRealBox() const;
     void setRealBox(std::vector<KVCAM::API::point> const & box);
+    ///@}
 
     /// The names of the open jobs in the order of opening, duplicates included.
     std::vector<std::string> getAll() const;
+    /// Appends a name.
     void setJob(std::string const & name);
     /// Removes the entries of this name, compared byte for byte, except one that directly follows a removed
     /// one: a, a, b without a is a, b.
     void delJob(std::string const & name);
+    /// Empties the list.
     void delAll();
 
     // --- Auto-matrix templates ----------------------------------------------------------------------------

@@ -67,6 +67,7 @@ public:
 
     /// sendData(), and says what became of it.
     Ext::EdaSendResult sendDataChecked(QJsonObject const & data);
+    /// How the link fares.
     Ext::EdaLinkState state() const;
 
 public slots:

@@ -11,28 +11,31 @@ class QWidget;
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
+/// Which box is wanted.
 enum class MessageKind : int
 {
     Information, ///< one OK button
     Question     ///< the buttons Yes and No, application-modal
 };
 
+/// Which button was pressed.
 enum class MessageAnswer : int
 {
-    Ok,
-    Yes,
-    No
+    Ok,  ///< to an information
+    Yes, ///< to a question
+    No   ///< to a question; also when the box was closed
 };
 
 /// One box that the library wants shown. The texts are translated already.
 struct Message
 {
-    MessageKind kind = MessageKind::Information;
+    MessageKind kind = MessageKind::Information; ///< which box
     QWidget * parent = nullptr; ///< not owned; null, or a widget that was alive when the box was asked for
-    QString title;
-    QString text;
+    QString title;              ///< of the window
+    QString text;               ///< shown as a QMessageBox shows it
 };
 
+/// Shows a message and returns the answer.
 using MessagePresenter = std::function<MessageAnswer(Message const &)>;
 
 /// Replaces the one point through which every box of the library goes, and returns the presenter that was

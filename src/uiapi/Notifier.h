@@ -25,6 +25,7 @@ class UIAPICOMMON_EXPORT Notifier : public QObject
     Q_OBJECT
 
 public:
+    /// The object, created at the first call.
     static Notifier * instance();
 
 signals:

@@ -20,11 +20,6 @@
 class QObject;
 class QWidget;
 
-namespace KVCAM::UIAPI::Ext {
-struct SaveResult;
-UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
-} // namespace KVCAM::UIAPI::Ext
-
 namespace KVCAM::UIAPI {
 
 class ConnectEDA;
@@ -50,8 +45,11 @@ public:
     /// Null until instance() was called for the first time. Not to be assigned to.
     static UIAPICommonPara * m_pUIAPICommonParaInstance;
 
+    ///@{
+    /// Copies every record, table and setting; the EDA link is shared.
     UIAPICommonPara(UIAPICommonPara const & other);
     UIAPICommonPara & operator=(UIAPICommonPara const & other);
+    ///@}
 
     // --- View records -------------------------------------------------------------------------------------
 
@@ -64,12 +62,15 @@ public:
     int getUnit(void const * view) const;
     /// Stores the unit and pushes show_param.
     void setUnit(void const * view, int unit);
+    /// Copies the show parameters out.
     void getShowPara(void const * view, show_param & out) const;
     /// Stores and pushes. An unknown view is reported as "setSelection".
     void setShowPara(void const * view, show_param const & value);
+    /// Copies the selection settings out.
     void getSelection(void const * view, Selection & out) const;
     /// Stores and pushes.
     void setSelection(void const * view, Selection const & value);
+    /// Copies out what was selected.
     void getSelectInfo(void const * view, select_info & out) const;
     /// Stores and pushes. An unknown view is reported as "setSelection".
     void setSelectInfo(void const * view, select_info const & value);
@@ -105,26 +106,36 @@ public:
     LANGUAGE_MODE getCurrentLanguageMode() const;
     /// Leaves its argument as it is.
     void setCurrentLanguageMode(LANGUAGE_MODE & mode);
+    ///@{
     /// Default false.
     bool getPanelPositionStatus() const;
     void setPanelPositionStatus(bool status);
+    ///@}
+    ///@{
     /// Default false.
     bool getCoordinateStatus() const;
     void setCoordinateStatus(bool status);
+    ///@}
+    ///@{
     /// Whether the application runs as a program of its own. Default true.
     bool KvcamAsExe() const;
     void SetKvcamAsExe(bool value);
+    ///@}
+    ///@{
     /// Default (0, 0).
     QPoint getCoordinatePos() const;
     void setCoordinatePos(QPoint pos);
+    ///@}
     /// The input widget, not owned, null until set; whoever sets it takes it back before it dies.
     QWidget * getInputPtr() const;
     /// Logs "setInputPtr _input " and the pointer at INFO when none was set, else the old and then the new
     /// one at WARNING.
     void setInputPtr(QWidget * widget);
+    ///@{
     /// The split widget, not owned, null until set.
     QWidget * getSplitPtr() const;
     void setSplitPtr(QWidget * widget);
+    ///@}
     /// Owned by this object.
     LayerState * getLayerState();
 
@@ -307,7 +318,9 @@ public:
     QString getReceiveStr() const;
     /// The link, owned by nobody and alive until the process ends; null when there is none.
     ConnectEDA * edaLink() const;
+    /// How the link fares.
     Ext::EdaLinkState edaLinkState() const;
+    /// sendEdaData(), and says what became of it.
     Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
 
     /// Hands a command to the modules that have a route for it, see the flat function of this name.
@@ -319,7 +332,7 @@ public:
     bool removePluginRoute(int command, std::string const & key, std::string const & module);
 
 private:
-    friend Ext::SaveResult Ext::saveRanges(std::string const & rangeName);
+    friend struct CommonParaDoor;
 
     UIAPICommonPara();
     ~UIAPICommonPara();

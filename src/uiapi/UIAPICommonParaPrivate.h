@@ -33,4 +33,10 @@ struct UIAPICommonPara::Private
     QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
 };
 
+/// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
+struct CommonParaDoor
+{
+    static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }
+};
+
 } // namespace KVCAM::UIAPI

@@ -32,9 +32,4 @@ void UIAPICommonPara::getERFList(std::string folder, std::vector<std::string> & 
     listErfFiles(folder, names);
 }
 
-Ext::SaveResult Ext::saveRanges(std::string const & rangeName)
-{
-    return UIAPICommonPara::instance()->d->ranges.saveRanges(rangeName);
-}
-
 } // namespace KVCAM::UIAPI

@@ -42,42 +42,42 @@ enum SNAP_TYPE_MODE : int
     SNAP_PROFILE = 9
 };
 
-/// Snap settings of a view. The first word is carried, not interpreted.
+/// Snap settings of a view.
 struct Snap_Control
 {
-    int first = 127;
-    SNAP_TYPE_MODE mode = SNAP_ADVANCED;
-    int size = 5;
+    int first = 127;                     ///< carried, not interpreted
+    SNAP_TYPE_MODE mode = SNAP_ADVANCED; ///< what is snapped to
+    int size = 5;                        ///< the snap size; not interpreted here
 };
 
 /// Features of one layer, as the engine hands them out.
 using FeatureList = std::vector<KVCAM::API::feature_info>;
 
-/// What a view holds for copy and paste: features by layer name, and their picture.
+/// What a view holds for copy and paste.
 struct Edit_Buffer
 {
-    std::map<std::string, FeatureList> features;
-    QImage image;
+    std::map<std::string, FeatureList> features; ///< by layer name
+    QImage image;                                ///< their picture
 };
 
 /// The coordinate read-out of a view, in micrometres.
 struct coordinate
 {
-    double x = 0;
-    double y = 0;
+    double x = 0; ///< the abscissa
+    double y = 0; ///< the ordinate
 };
 
 /// Everything the library keeps about one view. The view handle is the key: any address that names the view,
 /// compared and never followed.
 struct Step_Config
 {
-    void const * view = nullptr;
-    KVCAM::API::select_info select_info;
-    Snap_Control snap;
-    KVCAM::API::show_param show_param;
-    KVCAM::API::Selection selection;
-    Edit_Buffer edit_buffer;
-    KVCAM::UIAPI::coordinate coordinate;
+    void const * view = nullptr;         ///< the handle
+    KVCAM::API::select_info select_info; ///< pushed to the engine
+    Snap_Control snap;                   ///< kept here alone
+    KVCAM::API::show_param show_param;   ///< pushed to the engine
+    KVCAM::API::Selection selection;     ///< pushed to the engine
+    Edit_Buffer edit_buffer;             ///< kept here alone
+    KVCAM::UIAPI::coordinate coordinate; ///< kept here alone
 };
 
 /// Layers that the host marks across views. The library hands it out and does not read it.
@@ -90,10 +90,13 @@ struct LayerState
 /// How the document-management system is reached. Stored and returned, not interpreted.
 struct DMS_Connections
 {
+    ///@{
+    /// Its meaning is the modules' that share it.
     int first = 0;
     QString second;
     QString third;
     QString fourth;
+    ///@}
 };
 
 } // namespace KVCAM::UIAPI

@@ -9,8 +9,8 @@ namespace KVCAM::UIAPI::Ext {
 /// What a check says: its verdict, and the text that the box would show (empty for a legal value).
 struct ValueVerdict
 {
-    bool legal = true;
-    QString text; ///< translated
+    bool legal = true; ///< the verdict
+    QString text;      ///< translated
 };
 
 // The checks of typed values without their box, for dialogs that show the text beside the field. Verdict and

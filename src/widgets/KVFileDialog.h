@@ -13,6 +13,7 @@ class UIAPICOMMON_EXPORT KVFileDialog : public QFileDialog
     Q_OBJECT
 
 public:
+    /// Empty, as its base.
     explicit KVFileDialog(QWidget * parent = nullptr);
     ~KVFileDialog() override;
 

@@ -17,18 +17,23 @@ class UIAPICOMMON_EXPORT KVLabel : public QLabel
     Q_PROPERTY(QString Attribute3 READ getAttribute3 WRITE setAttribute3)
 
 public:
+    ///@{
+    /// As the base.
     explicit KVLabel(QWidget * parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     explicit KVLabel(QString const & text, QWidget * parent = nullptr,
                      Qt::WindowFlags flags = Qt::WindowFlags());
+    ///@}
     ~KVLabel() override;
 
-    /// Empty until set.
+    ///@{
+    /// Empty until set. A setter leaves its argument as it is.
     QString getAttribute1() const;
     QString getAttribute2() const;
     QString getAttribute3() const;
     void setAttribute1(QString & attribute);
     void setAttribute2(QString & attribute);
     void setAttribute3(QString & attribute);
+    ///@}
 
 private:
     QString m_attribute1;

@@ -54,9 +54,11 @@ public:
     };
     Q_ENUM(LengthScale)
 
+    ///@{
     /// Without a kind: any text, no validator, no unit.
     explicit KVLineEdit(QWidget * parent = nullptr);
     KVLineEdit(QString const & text, QWidget * parent);
+    ///@}
     /// Installs the validator of the kind and records every edit.
     KVLineEdit(KVERegExp kind, QWidget * parent);
     /// As above; `text` is set last, unvalidated, and recorded.
@@ -78,9 +80,11 @@ public:
     /// The same number as a length, to the nearest nanometre, by lengthScale(). Saturates at the ends of
     /// qint64; exact below 9e15. 0 for a field that holds no number.
     qint64 exactLengthNm() const;
+    ///@{
     /// Default Small.
     LengthScale lengthScale() const;
     void setLengthScale(LengthScale scale);
+    ///@}
 
     /// From now on what is typed is checked at every edit as isValueLegal() would, but without a box: bounds
     /// in mil, nothing but the numbers counts, and a text that is no number is 0. With lengthScale() Large
@@ -93,14 +97,18 @@ public:
     /// Ends the checks and removes the property.
     void clearRange();
 
+    ///@{
     /// Whether the field shows its view's unit by itself whenever that changes. Default false. A view that is
     /// registered later is followed from then on.
     bool followView() const;
     void setFollowView(bool follow);
+    ///@}
 
+    ///@{
     /// Whether a refused key is explained in a tooltip and by inputRefused(). Default false.
     bool refusalHints() const;
     void setRefusalHints(bool enabled);
+    ///@}
 
 signals:
     /// The verdict of a field with a range, or the words of a bad one, changed. `text` says why it is not

@@ -10,9 +10,11 @@ class UIAPICOMMON_EXPORT KVListWidget : public QListWidget
     Q_OBJECT
 
 public:
+    /// Empty, as its base.
     explicit KVListWidget(QWidget * parent = nullptr);
     ~KVListWidget() override;
 
 protected:
+    /// Hides the list.
     void focusOutEvent(QFocusEvent * event) override;
 };

@@ -14,14 +14,17 @@ public:
     explicit KVListWidgetItem(QListWidget * parent = nullptr);
     /// Copies icons and user data with what the base copies; the copy is in no list.
     KVListWidgetItem(KVListWidgetItem const & other);
+    /// The same; the item stays in its list.
     KVListWidgetItem & operator=(KVListWidgetItem const & other);
     ~KVListWidgetItem() override;
 
     /// Keeps all three and shows the first.
     void setItemIcon(QIcon const & first, QIcon const & second, QIcon const & third);
-    /// Empty until set.
+    ///@{
+    /// A text of the dialog's own; empty until set.
     QString getItemUserData() const;
     void setItemUserData(QString const & data);
+    ///@}
 
 private:
     QIcon m_shownIcon;

@@ -11,6 +11,7 @@ class UIAPICOMMON_EXPORT KVProgressDialog : public QProgressDialog
     Q_OBJECT
 
 public:
+    /// Empty, as its base.
     explicit KVProgressDialog(QWidget * parent = nullptr);
     /// Uses the parent alone. Texts, range and flags are set afterwards through the setters of
     /// QProgressDialog.
@@ -22,9 +23,11 @@ public:
     bool isDialogStop() const;
 
 protected:
+    /// As the base, keys aside.
     bool event(QEvent * event) override;
     /// Swallows Escape; other keys do only what they do in a plain widget.
     void keyPressEvent(QKeyEvent * event) override;
+    /// F1 stops.
     void keyReleaseEvent(QKeyEvent * event) override;
 
 private:

@@ -11,6 +11,7 @@ class UIAPICOMMON_EXPORT KVTextEdit : public QTextEdit
     Q_OBJECT
 
 public:
+    /// Empty, as its base.
     explicit KVTextEdit(QWidget * parent = nullptr);
     ~KVTextEdit() override;
 
@@ -19,5 +20,6 @@ signals:
     void LostFocus(QString text);
 
 protected:
+    /// Emits LostFocus().
     void focusOutEvent(QFocusEvent * event) override;
 };

@@ -11,36 +11,47 @@
 /// not hold is empty, 0 or false; what failed at the start is in the log only.
 namespace KVCAM::UIAPI {
 
+///@{
+/// A setting of "server.json"; empty, 0 or false where it holds none. Its unit or code is its consumers'
+/// business.
 UIAPICOMMON_EXPORT std::string getServerIP();
 UIAPICOMMON_EXPORT int getServerPort();
 UIAPICOMMON_EXPORT std::string getClientIP();
 UIAPICOMMON_EXPORT int getTimeout();
 UIAPICOMMON_EXPORT int getThreadCount();
+///@}
 /// Saves the settings and then pushes the count to the engine. A file that cannot be written stays as it was,
 /// unless the disk is full and the directory takes no new file; a missing configuration directory is logged
 /// at WARNING and created, and nothing is written.
 UIAPICOMMON_EXPORT void setThreadCount(int count);
+///@{
+/// Settings of "server.json", as those above.
 UIAPICOMMON_EXPORT std::string getDBPath();
 UIAPICOMMON_EXPORT std::string getSharePath();
-/// A switch, despite its name.
-UIAPICOMMON_EXPORT bool getPythonHome();
 UIAPICOMMON_EXPORT int getOS();
 UIAPICOMMON_EXPORT std::string getLayerCopySuffix();
 UIAPICOMMON_EXPORT int getContourAccuracy();
 UIAPICOMMON_EXPORT double getMovementFactor();
 UIAPICOMMON_EXPORT bool getModifyHotKey();
 UIAPICOMMON_EXPORT double getShiftConfict();
+///@}
+/// A switch, despite its name.
+UIAPICOMMON_EXPORT bool getPythonHome();
 
+///@{
 /// The real box, a polygon in micrometres, as it was set; empty at start. Not persisted.
 UIAPICOMMON_EXPORT std::vector<KVCAM::API::point> getRealBox();
 UIAPICOMMON_EXPORT void setRealBox(std::vector<KVCAM::API::point> const & box);
+///@}
 
 /// The names of the open jobs in the order of opening, duplicates included. Not persisted.
 UIAPICOMMON_EXPORT std::vector<std::string> getAllToVar();
+/// Appends a name.
 UIAPICOMMON_EXPORT void setJobToVar(std::string const & name);
 /// Removes the entries of this name, compared byte for byte, except one that directly follows a removed one:
 /// a, a, b without a is a, b.
 UIAPICOMMON_EXPORT void delJobToVar(std::string const & name);
+/// Empties the list.
 UIAPICOMMON_EXPORT void delAllToVar();
 
 } // namespace KVCAM::UIAPI

@@ -1,5 +1,6 @@
 #include "uiapi/flat/Ranges.h"
 
+#include "uiapi/UIAPICommonParaPrivate.h"
 #include "uiapi/flat/Forward.h"
 
 #include <utility>
@@ -32,6 +33,12 @@ void changeRangesValue(std::string const & rangeName, std::string const & catego
 void getERFList(std::string folder, std::vector<std::string> & names)
 {
     Flat::onCommonPara([&](UIAPICommonPara & para) { para.getERFList(std::move(folder), names); });
+}
+
+Ext::SaveResult Ext::saveRanges(std::string const & rangeName)
+{
+    return Flat::onCommonPara(
+        [&](UIAPICommonPara & para) { return CommonParaDoor::ranges(para).saveRanges(rangeName); });
 }
 
 } // namespace KVCAM::UIAPI

@@ -7,6 +7,8 @@
 /// UIAPI setSelection error". The field getters yield the default for an unknown view.
 namespace KVCAM::UIAPI {
 
+///@{
+/// The field of this name of the view's Selection.
 UIAPICOMMON_EXPORT void setSelectionClear(void const * view, bool value);
 UIAPICOMMON_EXPORT void setSelectionDisplay(void const * view, bool value);
 UIAPICOMMON_EXPORT void setSelectionLocation(void const * view, bool value);
@@ -14,6 +16,7 @@ UIAPICOMMON_EXPORT void setSelectionOperation(void const * view, bool value);
 UIAPICOMMON_EXPORT void setSelectionSelect(void const * view, bool value);
 UIAPICOMMON_EXPORT void setSelectionTouching(void const * view, bool value);
 UIAPICOMMON_EXPORT bool getSelectionTouching(void const * view);
+///@}
 
 /// The setting of "server.json"; false where it holds none. No view is concerned.
 UIAPICOMMON_EXPORT bool getSelectionOutsideHint();
@@ -22,7 +25,10 @@ UIAPICOMMON_EXPORT bool getSelectionOutsideHint();
 /// logged at WARNING and created, and nothing is written.
 UIAPICOMMON_EXPORT void setSelectionOutsideHint(bool value);
 
+///@{
+/// The selected parameter of the view; default 0.
 UIAPICOMMON_EXPORT int getSelectedPara(void const * view);
 UIAPICOMMON_EXPORT void setSelectedPara(void const * view, int para);
+///@}
 
 } // namespace KVCAM::UIAPI

@@ -8,20 +8,30 @@
 /// then "KVCAM UIAPI setSelection error".
 namespace KVCAM::UIAPI {
 
+///@{
 /// Default 0 (inch). UIAPICommonPara::getUnit() differs: -1 and "KVCAM UIAPI getUnit error".
 UIAPICOMMON_EXPORT int getUnit(void const * view);
 UIAPICOMMON_EXPORT void setUnit(void const * view, int unit);
+///@}
+///@{
 /// Default 0.
 UIAPICOMMON_EXPORT int getWidth(void const * view);
 UIAPICOMMON_EXPORT void setWidth(void const * view, int width);
+///@}
+///@{
 /// Default false.
 UIAPICOMMON_EXPORT bool getNegative(void const * view);
 UIAPICOMMON_EXPORT void setNegative(void const * view, bool negative);
+///@}
+///@{
 /// Default true.
 UIAPICOMMON_EXPORT bool gettextax(void const * view);
 UIAPICOMMON_EXPORT void settextax(void const * view, bool textax);
+///@}
+///@{
 /// Default true.
 UIAPICOMMON_EXPORT bool getProfile(void const * view);
 UIAPICOMMON_EXPORT void setProfile(void const * view, bool profile);
+///@}
 
 } // namespace KVCAM::UIAPI

@@ -10,7 +10,8 @@ class QWidget;
 /// State that is not per view.
 namespace KVCAM::UIAPI {
 
-// Kept in UIAPICommonPara, whose like-named methods document them.
+///@{
+/// Kept in UIAPICommonPara; as its method of this name.
 UIAPICOMMON_EXPORT QWidget * getInputPtr();
 UIAPICOMMON_EXPORT void setInputPtr(QWidget * widget);
 UIAPICOMMON_EXPORT QWidget * getSplitPtr();
@@ -23,9 +24,11 @@ UIAPICOMMON_EXPORT bool getPanelPositionStatus();
 UIAPICOMMON_EXPORT void setPanelPositionStatus(bool status);
 UIAPICOMMON_EXPORT LANGUAGE_MODE getCurrentLanguageMode();
 UIAPICOMMON_EXPORT void setCurrentLanguageMode(LANGUAGE_MODE & mode);
+///@}
 
-// Kept in globals of the library, false, 0 or empty at load and for as long as the process; no singleton is
-// created and nothing is logged. What the values mean is the business of the modules that share them.
+///@{
+/// Kept in globals of the library, false, 0 or empty at load and for as long as the process; no singleton is
+/// created and nothing is logged. What the values mean is the business of the modules that share them.
 UIAPICOMMON_EXPORT bool getEQMode();
 UIAPICOMMON_EXPORT void setEQMode(bool value);
 UIAPICOMMON_EXPORT int getEQSelectionType();
@@ -36,5 +39,6 @@ UIAPICOMMON_EXPORT bool isEdaGraphicVisible();
 UIAPICOMMON_EXPORT void setEdaGraphicVisible(bool value);
 UIAPICOMMON_EXPORT DMS_Connections getDmsConnectInfo();
 UIAPICOMMON_EXPORT void setDmsConnectInfo(DMS_Connections info);
+///@}
 
 } // namespace KVCAM::UIAPI

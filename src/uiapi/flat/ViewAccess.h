@@ -10,6 +10,8 @@
 /// UIAPICommonPara, which documents messages and neutral results.
 namespace KVCAM::UIAPI {
 
+///@{
+/// As the method of this name.
 UIAPICOMMON_EXPORT void getStepConfig(void const * view, Step_Config & out);
 UIAPICOMMON_EXPORT bool insertStepConfig(Step_Config const & config);
 UIAPICOMMON_EXPORT void getShowPara(void const * view, KVCAM::API::show_param & out);
@@ -18,17 +20,20 @@ UIAPICOMMON_EXPORT void getSelection(void const * view, KVCAM::API::Selection & 
 UIAPICOMMON_EXPORT void setSelection(void const * view, KVCAM::API::Selection const & value);
 UIAPICOMMON_EXPORT void getSelectInfo(void const * view, KVCAM::API::select_info & out);
 UIAPICOMMON_EXPORT void setSelectInfo(void const * view, KVCAM::API::select_info const & value);
+///@}
 /// {127, 7, 5} for an unknown view.
 UIAPICOMMON_EXPORT Snap_Control getSnapControl(void const * view);
 /// Keeps the snap size.
 UIAPICOMMON_EXPORT void setSnapControl(void const * view, Snap_Control const & value);
 /// 5 for an unknown view, after "KVCAM UIAPI getSnapControl error, use default snap size!".
 UIAPICOMMON_EXPORT int getSnapSize(void const * view);
+/// Nothing is pushed to the engine.
 UIAPICOMMON_EXPORT void setSnapSize(void const * view, int size);
 /// Owned by the registry; null for an unknown view.
 UIAPICOMMON_EXPORT coordinate * getCoordinate(void const * view);
 /// Owned by the registry; null for an unknown view.
 UIAPICOMMON_EXPORT Edit_Buffer * getEditBuffer(void const * view);
+/// Replaces the feature lists of the edit buffer.
 UIAPICOMMON_EXPORT void setEditBufferFeatureInfo(void const * view,
                                                  std::map<std::string, FeatureList> const & features);
 /// Owned by the library.

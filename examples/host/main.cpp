@@ -1,0 +1,39 @@
+// What a host does: it starts the log, registers its views, says which plug-in module answers which command,
+// and sends commands. Its arguments are the path of a plug-in module and a key.
+
+#include <UIAPICommon.h>
+
+#include <glog/logging.h>
+
+#include <QApplication>
+#include <QWidget>
+
+#include <cstdio>
+
+using namespace KVCAM::UIAPI;
+
+int main(int argc, char ** argv)
+{
+    google::InitGoogleLogging(argv[0]);
+    FLAGS_logtostderr = true;
+    QApplication const application(argc, argv);
+    if (argc != 3) {
+        std::fprintf(stderr, "example-host MODULE open|demo\n");
+        return 2;
+    }
+
+    // A graphic view. Any address may name one; with a widget's, message boxes find their parent.
+    QWidget view;
+    Step_Config config;
+    config.view = &view;
+    insertStepConfig(config);
+    setSelectionTouching(&view, true);
+
+    constexpr int sizeCommand = 1;
+    UIAPICommonPara::instance()->addPluginRoute(sizeCommand, argv[2], argv[1]);
+    setPluginCmd(sizeCommand, argv[2], &view);
+    setPluginCmd(2, argv[2], &view); // nobody's command: a line in the log
+
+    std::printf("host: the view shows %s now\n", getUnit(&view) == 0 ? "inches" : "millimetres");
+    return 0;
+}
