@@ -23,8 +23,11 @@ class BoardView;
 class CheatSheet;
 class EnginePane;
 class FeatureDialog;
+class FilterBar;
+class HotkeyCommands;
 class LayerTable;
 class LogLines;
+class ReferencesPage;
 class SymbolsPage;
 
 /// The window: one view per step with the job's layers beside it, what the engine was told, and the log.
@@ -33,8 +36,8 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Nothing is owned; session and log outlive the window.
-    MainWindow(Session const & session, LogLines const & log, CommandLine const & commandLine);
+    /// Nothing is owned; session and log outlive the window. The session's counts follow what is deleted.
+    MainWindow(Session & session, LogLines const & log, CommandLine const & commandLine);
 
     std::vector<BoardView *> const & views() const { return m_views; }
     BoardView * currentView() const;
@@ -50,6 +53,9 @@ public:
     void refresh();
     /// Takes the latest operation on the step in front back; the library asks first.
     void undoLast();
+    /// Deletes the selected features of the shown layer, without a question: it can be undone. The result is
+    /// how many went; when that fails, the window says why.
+    int deleteSelected();
     /// Shows the hot keys. Owned by the window.
     CheatSheet * showKeys();
     /// Brings the window back as it was kept in a file, and keeps it there when it is closed. The unit is
@@ -71,6 +77,11 @@ private:
     void listPages();
     void setTexts();
     void addPages();
+    QWidget * makeLayerPane();
+    void makeEditMenu();
+    void setEditTexts();
+    void tellSelection();
+    void tell(QString const & text);
     void addHotkeys();
     void addPage(QWidget * page, QString const & name, QString const & title);
     void showStep();
@@ -86,13 +97,17 @@ private:
     void refreshUnit();
     void switchSaveFlag(bool on);
 
-    Session const & m_session;
+    Session & m_session;
     QString m_database;
     QString m_formFile;
     std::vector<BoardView *> m_views;
     QTabWidget * m_pages = nullptr;
     QTabWidget * m_steps = nullptr;
     LayerTable * m_layers = nullptr;
+    FilterBar * m_filter = nullptr;
+    ReferencesPage * m_references = nullptr;
+    HotkeyCommands * m_commands = nullptr;
+    std::vector<QAction *> m_editActions; ///< in the order of the menu
     EnginePane * m_engine = nullptr;
     SymbolsPage * m_symbols = nullptr;
     FeatureDialog * m_feature = nullptr;
