@@ -111,8 +111,8 @@ QJsonObject useReferences(MainWindow & window, TakePicture const & take)
     };
     QString const job = QString::fromStdString(window.currentView()->job());
     rename(layers.item(0)->text(), 3, "renamed layer");
-    rename(QString::fromStdString(window.currentView()->step()), 2, "renamed step");
     take(window, "references.png");
+    rename(QString::fromStdString(window.currentView()->step()), 2, "renamed step");
     QJsonArray const kept = textsOf(*tree.invisibleRootItem());
     rename(job, 1, "renamed job");
     if (QTreeWidgetItem * item = findItem(tree, "renamed job", 1)) {

@@ -109,6 +109,7 @@ void LayerTable::applyMatches()
             }
         }
     }
+    updateGeometries(); // the scroll bar, at once
     viewport()->update();
 }
 

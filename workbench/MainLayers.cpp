@@ -73,7 +73,7 @@ void MainWindow::setEditTexts()
         if (editCommands[i] == KP_EditUndo) {
             int const count = Ext::undoCount(QString::fromStdString(m_session.job()),
                                              QString::fromStdString(currentView()->step()));
-            text = tr("%1 (%2)").arg(text).arg(count);
+            text += " (" + QString::number(count) + ')';
         }
         m_editActions[i]->setText(text + keysOf(editCommands[i]));
     }
