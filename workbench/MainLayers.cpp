@@ -123,7 +123,8 @@ void MainWindow::tellSelection()
 
 void MainWindow::tell(QString const & text)
 {
-    findChild<QLabel *>("hot keys")->setText(text);
+    m_told->setText(text);
+    m_told->setToolTip(text); // where the window is too narrow
 }
 
 } // namespace Workbench

@@ -190,12 +190,12 @@ void MainWindow::addPages()
 
 void MainWindow::addHotkeys()
 {
-    auto * told = new QLabel;
-    told->setObjectName("hot keys");
-    told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
-    statusBar()->insertWidget(0, told, 3);
+    m_told = new QLabel;
+    m_told->setObjectName("hot keys");
+    m_told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
+    statusBar()->insertWidget(0, m_told, 20);                            // all but what the pointer needs
     m_commands = new HotkeyCommands(*this, *m_pages->widget(0), this);
-    connect(m_commands, &HotkeyCommands::told, told, &QLabel::setText);
+    connect(m_commands, &HotkeyCommands::told, this, &MainWindow::tell);
 }
 
 CheatSheet * MainWindow::showKeys()

@@ -115,6 +115,7 @@ private:
     QLabel * m_outline = nullptr;
     QLabel * m_pointer = nullptr;
     QLabel * m_zoom = nullptr;
+    QLabel * m_told = nullptr; ///< what the latest command did
     QAction * m_unit = nullptr;
     QAction * m_saveFlag = nullptr;
     QAction * m_featureAction = nullptr;

@@ -87,6 +87,85 @@
     </message>
 </context>
 <context>
+    <name>Workbench::CheatSheet</name>
+    <message>
+        <source>Hot keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Own file</source>
+        <translation>自定义文件</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能名</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>元素</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>发现</translation>
+    </message>
+    <message>
+        <source>Load the file again</source>
+        <translation>重新加载文件</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>导出...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Written to "%1".</source>
+        <translation>已写入“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 is left out: the file has no name for what it does.</source>
+        <translation>%1 未写入：文件中没有其功能的名称。</translation>
+    </message>
+    <message>
+        <source>Export the hot keys</source>
+        <translation>导出快捷键</translation>
+    </message>
+    <message>
+        <source>never answers</source>
+        <translation>从不响应</translation>
+    </message>
+    <message>
+        <source>not available in this host</source>
+        <translation>本程序中不可用</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 bindings. Findings: %3.</source>
+        <translation>%1 含 %2 个绑定，发现 %3 条。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded; the keys stay as they are.</source>
+        <translation>%1 无法加载；按键保持不变。</translation>
+    </message>
+    <message>
+        <source>There is no file %1; the default keys are in use.</source>
+        <translation>没有文件 %1；使用默认按键。</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::EnginePane</name>
     <message>
         <source>Record</source>
@@ -201,6 +280,189 @@
     </message>
 </context>
 <context>
+    <name>Workbench::HotkeyCommands</name>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Reverse the selection</source>
+        <translation>反选</translation>
+    </message>
+    <message>
+        <source>CAM guide</source>
+        <translation>CAM 向导</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>负片</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>轮廓</translation>
+    </message>
+    <message>
+        <source>Width mode</source>
+        <translation>线宽模式</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Move within the layer</source>
+        <translation>同层移动</translation>
+    </message>
+    <message>
+        <source>Copy to the edit buffer</source>
+        <translation>复制到编辑缓冲区</translation>
+    </message>
+    <message>
+        <source>Paste from the edit buffer</source>
+        <translation>从编辑缓冲区粘贴</translation>
+    </message>
+    <message>
+        <source>The function without a name</source>
+        <translation>无名称的功能</translation>
+    </message>
+    <message>
+        <source>Move: snap</source>
+        <translation>移动: 捕捉</translation>
+    </message>
+    <message>
+        <source>Move: home</source>
+        <translation>移动: 全图</translation>
+    </message>
+    <message>
+        <source>Move: up</source>
+        <translation>移动: 上</translation>
+    </message>
+    <message>
+        <source>Move: down</source>
+        <translation>移动: 下</translation>
+    </message>
+    <message>
+        <source>Move: right</source>
+        <translation>移动: 右</translation>
+    </message>
+    <message>
+        <source>Move: left</source>
+        <translation>移动: 左</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Contourize</source>
+        <translation>轮廓化</translation>
+    </message>
+    <message>
+        <source>Pan: up</source>
+        <translation>平移: 上</translation>
+    </message>
+    <message>
+        <source>Pan: down</source>
+        <translation>平移: 下</translation>
+    </message>
+    <message>
+        <source>Pan: right</source>
+        <translation>平移: 右</translation>
+    </message>
+    <message>
+        <source>Pan: left</source>
+        <translation>平移: 左</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>Centre at the pointer</source>
+        <translation>以指针处为中心</translation>
+    </message>
+    <message>
+        <source>Copy the original</source>
+        <translation>复制原件</translation>
+    </message>
+    <message>
+        <source>Transform</source>
+        <translation>变换</translation>
+    </message>
+    <message>
+        <source>Select the same features</source>
+        <translation>选择相同图形</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Snap: skeleton</source>
+        <translation>捕捉: 骨架</translation>
+    </message>
+    <message>
+        <source>Snap: off</source>
+        <translation>捕捉: 关闭</translation>
+    </message>
+    <message>
+        <source>Snap: grid</source>
+        <translation>捕捉: 网格</translation>
+    </message>
+    <message>
+        <source>Snap: centre</source>
+        <translation>捕捉: 中心</translation>
+    </message>
+    <message>
+        <source>Snap: arc</source>
+        <translation>捕捉: 圆弧</translation>
+    </message>
+    <message>
+        <source>Snap: edge</source>
+        <translation>捕捉: 边缘</translation>
+    </message>
+    <message>
+        <source>Snap: crossing</source>
+        <translation>捕捉: 交点</translation>
+    </message>
+    <message>
+        <source>Snap: middle</source>
+        <translation>捕捉: 中点</translation>
+    </message>
+    <message>
+        <source>Snap: profile</source>
+        <translation>捕捉: 轮廓</translation>
+    </message>
+    <message>
+        <source>Snap: advanced</source>
+        <translation>捕捉: 高级</translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>not available in this host</source>
+        <translation>本程序中不可用</translation>
+    </message>
+    <message>
+        <source>from %1; once more at the other end</source>
+        <translation>从 %1；在另一端再按一次</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::LayerTable</name>
     <message>
         <source>Row</source>
@@ -241,6 +503,10 @@
 </context>
 <context>
     <name>Workbench::MainWindow</name>
+    <message>
+        <source>&amp;Hot keys</source>
+        <translation>快捷键(&amp;H)</translation>
+    </message>
     <message>
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
