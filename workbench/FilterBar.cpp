@@ -37,18 +37,21 @@ FilterBar::Field const FilterBar::fields[] = {
 
 namespace {
 
-// Completes the last of the words that "|" joins.
+// Completes the last of the words that "|" joins in a field.
 class WordCompleter : public QCompleter
 {
 public:
-    using QCompleter::QCompleter;
+    WordCompleter(QStringList const & words, QComboBox & field) : QCompleter(words, &field), m_field(field) {}
 
     QStringList splitPath(QString const & text) const override { return {text.section('|', -1)}; }
     QString pathFromIndex(QModelIndex const & index) const override
     {
-        QString const text = static_cast<QLineEdit const *>(widget())->text();
+        QString const text = m_field.currentText();
         return text.left(text.lastIndexOf('|') + 1) + QCompleter::pathFromIndex(index);
     }
+
+private:
+    QComboBox & m_field;
 };
 
 } // namespace
@@ -92,15 +95,15 @@ void FilterBar::makeLayout()
         words->setObjectName(fields[i].key);
         words->setEditable(true);
         words->setInsertPolicy(QComboBox::NoInsert);
-        words->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        words->setMinimumContentsLength(10);
+        words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // the list of layers may be narrow
+        words->setMinimumWidth(60);
         QStringList offered;
         for (char const * word : fields[i].words) {
             offered.append(word);
         }
         words->addItems(offered);
         words->setEditText({});
-        auto * completer = new WordCompleter(offered, words);
+        auto * completer = new WordCompleter(offered, *words);
         completer->setCaseSensitivity(Qt::CaseSensitive); // as the filter is
         words->setCompleter(completer);
         words->lineEdit()->setClearButtonEnabled(true);
@@ -115,13 +118,13 @@ void FilterBar::makeLayout()
         layout->setColumnStretch(column + 1, 1);
     }
     auto * buttons = new QHBoxLayout;
-    buttons->addWidget(m_hides);
     buttons->addWidget(m_analysis);
     buttons->addWidget(m_clear);
     buttons->addStretch(1);
-    buttons->addWidget(m_count);
+    buttons->addWidget(m_hides);
     layout->addLayout(buttons, 2, 0, 1, -1);
-    layout->addWidget(m_explanation, 3, 0, 1, -1);
+    layout->addWidget(m_count, 3, 0, 1, -1);
+    layout->addWidget(m_explanation, 4, 0, 1, -1);
 }
 
 void FilterBar::changeEvent(QEvent * event)
