@@ -109,7 +109,12 @@ void LayerTable::applyMatches()
             }
         }
     }
-    updateGeometries(); // the scroll bar, at once
+    for (int column = 0; column < columnCount(); ++column) {
+        if (horizontalHeader()->sectionResizeMode(column) == QHeaderView::ResizeToContents) {
+            resizeColumnToContents(column); // the header has measured the rows that stood there halfway
+        }
+    }
+    updateGeometries();
     viewport()->update();
 }
 

@@ -115,8 +115,11 @@ void ReferenceEditor::setTexts()
 
 void ReferenceEditor::setStep(std::string const & step)
 {
-    m_step = step;
-    refresh();
+    if (step != m_step) {
+        m_step = step;
+        m_records->setCurrentCell(-1, -1);
+        refresh();
+    }
 }
 
 void ReferenceEditor::refresh()
@@ -125,11 +128,13 @@ void ReferenceEditor::refresh()
                  .arg(QString::fromStdString(m_session.job()), QString::fromStdString(m_step)));
     {
         QSignalBlocker const blocker(m_records);
+        int const row = m_records->currentRow();
         m_records->setRowCount(0);
         for (ReferenceLayerInfo const & record : m_book.records(m_session.job(), m_step)) {
             addRow(*m_records, {QString::fromStdString(record.job), QString::fromStdString(record.step),
                                 layersText(record)});
         }
+        m_records->selectRow(row); // nothing when there is no such row
     }
     showRecord();
     m_hint->setText(m_records->rowCount() > 0

@@ -309,6 +309,7 @@ TEST_F(LayersOfAWindow, ThePageOfReferencesShowsAndChangesWhatTheLibraryKeeps)
     EXPECT_EQ(rename("bottom", "l6"),
               "renameReferenceLayer(\"demo-board\", \"other board\", \"pcb\", \"bottom\", \"l6\")");
     EXPECT_EQ(records.item(0, 2)->text(), "l6");
+    EXPECT_EQ(layers.item(0)->text(), "l6"); // offered although the open job has none
     answer = Ext::MessageAnswer::No;
     choose("other board");
     click("delete");
