@@ -179,6 +179,7 @@ void MainWindow::makeToolBar()
 
 void MainWindow::addPages()
 {
+    addResults();
     m_symbols = new SymbolsPage(m_session.job(), m_views.front()->handle());
     addPage(m_symbols, "symbols", QT_TR_NOOP("S&ymbols"));
     m_references = new ReferencesPage(m_session);

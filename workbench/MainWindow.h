@@ -28,7 +28,16 @@ class HotkeyCommands;
 class LayerTable;
 class LogLines;
 class ReferencesPage;
+class ResultsPage;
 class SymbolsPage;
+struct Mark;
+
+/// What became of the files of the checks' results.
+struct WrittenResults
+{
+    QStringList files;  ///< that were written
+    QStringList errors; ///< what could not be done, in sentences
+};
 
 /// The window: one view per step with the job's layers beside it, what the engine was told, and the log.
 class MainWindow : public QMainWindow
@@ -56,6 +65,11 @@ public:
     /// Deletes the selected features of the shown layer, without a question: it can be undone. The result is
     /// how many went; when that fails, the window says why.
     int deleteSelected();
+    /// Brings a step to the front, in whatever case it is named. False for an unknown one.
+    bool showStepOf(QString const & name);
+    ResultsPage & results() const { return *m_results; }
+    /// Runs the checks on the step in front and writes the files that the command line asks for.
+    WrittenResults writeResults(CommandLine const & commandLine);
     /// Shows the hot keys. Owned by the window.
     CheatSheet * showKeys();
     /// Brings the window back as it was kept in a file, and keeps it there when it is closed. The unit is
@@ -82,6 +96,8 @@ private:
     void setEditTexts();
     void tellSelection();
     void tell(QString const & text);
+    void addResults();
+    void markMeasurement(QString const & step, QString const & layer, Mark const & mark);
     void addHotkeys();
     void addPage(QWidget * page, QString const & name, QString const & title);
     void showStep();
@@ -109,6 +125,7 @@ private:
     HotkeyCommands * m_commands = nullptr;
     std::vector<QAction *> m_editActions; ///< in the order of the menu
     EnginePane * m_engine = nullptr;
+    ResultsPage * m_results = nullptr;
     SymbolsPage * m_symbols = nullptr;
     FeatureDialog * m_feature = nullptr;
     CheatSheet * m_keys = nullptr;
