@@ -64,12 +64,12 @@ QString indented(QJsonObject const & object)
 // The beginning, in one line.
 QString preview(QByteArray const & bytes)
 {
-    QString text = QString::fromUtf8(bytes.constData(), qMin(bytes.size(), 4 * previewLength));
-    text = text.left(previewLength).simplified();
+    QString const whole = QString::fromUtf8(bytes.constData(), qMin(bytes.size(), 4 * previewLength));
+    QString text = whole.left(previewLength).simplified();
     for (QChar & letter : text) {
         letter = letter.isPrint() || letter.isSurrogate() ? letter : QChar(QChar::ReplacementCharacter);
     }
-    return text;
+    return whole.size() > previewLength ? text + "..." : text;
 }
 
 // An invalid message is red, and says so.
@@ -90,11 +90,13 @@ void setKind(QTableWidgetItem & item)
 EdaPage::EdaPage(QWidget * parent) : QWidget(parent)
 {
     m_state = makeLabel("state");
+    m_counts = makeLabel("counts");
     auto * sides = new QHBoxLayout;
     sides->addWidget(makeSender(), 2);
     sides->addWidget(makeReceiver(), 3);
     auto * layout = new QVBoxLayout(this);
     layout->addWidget(m_state);
+    layout->addWidget(m_counts);
     layout->addLayout(sides, 1);
     if (ConnectEDA const * link = Ext::edaLink()) {
         connect(link, &ConnectEDA::datagramReceived, this, &EdaPage::receive);
@@ -150,6 +152,7 @@ QWidget * EdaPage::makeSender()
 QWidget * EdaPage::makeReceiver()
 {
     m_messages = makeTable({{}, {}, {}, {}});
+    m_messages->setWordWrap(false);
     m_content = new QPlainTextEdit;
     setFixedFont(*m_content, "content");
     m_content->setReadOnly(true);
@@ -270,26 +273,21 @@ void EdaPage::showResult()
 void EdaPage::showState()
 {
     Ext::EdaLinkState const state = Ext::edaLinkState();
-    QStringList lines;
-    if (!state.exists) {
-        lines.append(tr("There is no link."));
-    } else if (state.bound) {
-        lines.append(tr("The link is open: messages are received on port %1.").arg(receivePort));
-    } else {
-        lines.append(
-            tr("No link to receive on: port %1 could not be opened. Messages can be sent all the same.")
-                .arg(receivePort));
-        lines.append(tr("Reason: %1").arg(state.bindError));
-    }
-    lines.append(tr("Sent: %1     Not sent: %2     Received: %3")
-                     .arg(state.sent)
-                     .arg(state.unsent)
-                     .arg(state.received));
-    if (!state.lastError.isEmpty()) {
-        lines.append(tr("Latest error: %1").arg(state.lastError));
-    }
     m_state->setStyleSheet(state.bound ? QString() : faultStyle);
-    m_state->setText(lines.join('\n'));
+    m_state->setText(!state.exists ? tr("There is no link.")
+                     : state.bound
+                         ? tr("The link is open: messages are received on port %1.").arg(receivePort)
+                         : tr("No link to receive on: port %1 could not be opened. Messages can be "
+                              "sent all the same.\nReason: %2")
+                               .arg(QString::number(receivePort), state.bindError));
+    QString counts = tr("Sent: %1     Not sent: %2     Received: %3")
+                         .arg(state.sent)
+                         .arg(state.unsent)
+                         .arg(state.received);
+    if (!state.lastError.isEmpty()) {
+        counts += "     " + tr("Latest error: %1").arg(state.lastError);
+    }
+    m_counts->setText(counts);
     m_empty->setText(state.bound ? tr("Nothing was received yet.\nWhat an EDA tool sends to port %1 of this "
                                       "computer is listed here.")
                                        .arg(receivePort)

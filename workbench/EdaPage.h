@@ -57,6 +57,7 @@ private:
     void clear();
 
     QLabel * m_state;
+    QLabel * m_counts;
     QPlainTextEdit * m_editor;
     QLabel * m_verdict;
     QSpinBox * m_port;

@@ -120,7 +120,7 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     EXPECT_TRUE(errors[1].toObject()["text"].toString().contains("features:1: "));
     QJsonArray const counts = result.facts["layers"].toArray()[0].toObject()["features"].toArray();
     EXPECT_EQ(counts, QJsonArray{QJsonValue()});
-    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 9); // no dialog without a pad
+    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 10); // no dialog without a pad
     EXPECT_EQ(result.err.count("cannot read layer top"), 1);
 }
 
@@ -142,6 +142,9 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(negativePlanes, 1);
     EXPECT_FALSE(facts["symbols"].toArray().isEmpty());
     EXPECT_EQ(facts["hot keys"].toObject()["snap"].toInt(), 1);
+    QJsonObject const eda = facts["EDA link"].toObject(); // deaf where another process has the port
+    EXPECT_EQ(eda["sent"].toInt(-1), eda["bound"].toBool() ? 1 : 0);
+    EXPECT_GE(eda["received"].toInt(-1), eda["sent"].toInt());
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
 }
 
@@ -207,7 +210,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    EXPECT_EQ(pictures.size(), 15);
+    EXPECT_EQ(pictures.size(), 16);
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
