@@ -135,9 +135,8 @@ void CheatSheet::showFile()
     }
     m_findings->resizeRowsToContents();
     m_file->setText(trial.loads ? tr("%1 holds %2 bindings. Findings: %3.")
-                                      .arg(path)
-                                      .arg(trial.bindings.size())
-                                      .arg(trial.findings.size())
+                                      .arg(path, QString::number(trial.bindings.size()),
+                                           QString::number(trial.findings.size()))
                     : file.exists() ? tr("%1 cannot be loaded; the keys stay as they are.").arg(path)
                                     : tr("There is no file %1; the default keys are in use.").arg(path));
 }

@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "AnalysisRun.h"
+
 #include <UIAPICommonVersion.h>
 
 #include <QCommandLineParser>
@@ -53,6 +55,12 @@ ParsedArguments parseArguments(QStringList const & arguments)
     QCommandLineOption const unit("unit", "Unit in which the views start: inch or mm.", "inch|mm", "inch");
     QCommandLineOption const saveFlag("save-flag", "Start with the engine's save flag on.");
     parser.addOptions({headless, config, output, unit, saveFlag});
+    QCommandLineOption const step("step", "Show this step first (default: the job's first).", "NAME");
+    QCommandLineOption const summary("summary", "Run the checks on the step and write their summary.",
+                                     "FILE");
+    QCommandLineOption const report(
+        "report", "Run the checks and write the graded report, as JSON or CSV; may be repeated.", "FILE");
+    parser.addOptions({step, summary, report});
     parser.addPositionalArgument("JOB-DIRECTORY",
                                  "The folder of the job (default: the environment variable " +
                                      QString(defaultJob) + ").",
@@ -84,6 +92,14 @@ ParsedArguments parseArguments(QStringList const & arguments)
     commandLine.isUnitGiven = parser.isSet(unit);
     commandLine.headless = parser.isSet(headless);
     commandLine.saveFlag = parser.isSet(saveFlag);
+    commandLine.step = parser.value(step);
+    commandLine.summary = absolute(parser.value(summary));
+    for (QString const & file : parser.values(report)) {
+        if (!reportFormat(file)) {
+            return failure("a report is a .json or .csv file, not \"" + file + '"');
+        }
+        commandLine.reports.append(absolute(file));
+    }
     if (commandLine.unit < 0) {
         return failure("the unit is inch or mm, not \"" + parser.value(unit) + '"');
     }

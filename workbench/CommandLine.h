@@ -15,6 +15,9 @@ struct CommandLine
     bool isUnitGiven = false; ///< else the unit of the latest run may be used
     bool headless = false;
     bool saveFlag = false;
+    QString step;        ///< the one to show first; empty: the job's first
+    QString summary;     ///< where the summary of the checks goes; empty: nowhere, or the output folder
+    QStringList reports; ///< where reports of the checks go, ".json" or ".csv"
 };
 
 /// What became of the arguments: a command line, a text to print and to leave with success (help, version),

@@ -7,6 +7,7 @@
 #include "FeatureDialog.h"
 #include "LayerTable.h"
 #include "MainWindow.h"
+#include "ResultsPage.h"
 #include "SymbolsPage.h"
 
 #include <UIAPICommon.h>
@@ -276,6 +277,36 @@ QJsonObject configuration()
             {"findings", findings}};
 }
 
+// Runs the checks, writes their files and shows the results in both units, then the narrowest track on the
+// board.
+QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
+{
+    if (files.summary.isEmpty()) {
+        files.summary = files.output + "/summary.json";
+    }
+    BoardView & view = *window.currentView();
+    WrittenResults const written = window.writeResults(files);
+    QJsonObject facts = toJson(window.results().run());
+    facts["step"] = QString::fromStdString(view.step());
+    facts["summary"] = written.files.contains(files.summary) ? QJsonValue(files.summary) : QJsonValue();
+    facts["files"] = QJsonArray::fromStringList(written.files);
+    facts["errors"] = QJsonArray::fromStringList(written.errors);
+    int const unit = getUnit(view.handle());
+    window.showPage("results");
+    bool const hasTracks = window.results().showCheck(signalTable, linesNumber);
+    for (int const shown : {0, 1}) {
+        setUnit(view.handle(), shown);
+        camera.take(window, shown == 0 ? "results-inch.png" : "results-mm.png");
+    }
+    setUnit(view.handle(), unit);
+    window.showPage("board");
+    if (hasTracks && !view.marks().empty()) {
+        camera.take(window, "results-on-board.png");
+        view.setMarks({});
+    }
+    return facts;
+}
+
 } // namespace
 
 QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine)
@@ -303,6 +334,11 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     window.showPage("board");
     QJsonObject const hotkeys = useHotkeys(window, camera);
     QJsonObject const feature = useFeatureDialog(window, session, camera);
+    QJsonObject const analysis = useResults(window, commandLine, camera);
+    QJsonArray errors = errorsOf(session, camera);
+    for (auto const & error : analysis["errors"].toArray()) {
+        errors.append(QJsonObject{{"step", analysis["step"]}, {"text", error}});
+    }
     Ext::setMessagePresenter({});
     return {{"job", QString::fromStdString(session.job())},
             {"directory", session.directory()},
@@ -312,9 +348,10 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"EDA link", eda},
             {"hot keys", hotkeys},
             {"feature", feature},
+            {"analysis", analysis},
             {"configuration", configuration()},
             {"boxes", boxes},
-            {"errors", errorsOf(session, camera)},
+            {"errors", errors},
             {"screenshots", camera.pictures()}};
 }
 

@@ -52,7 +52,7 @@ QPointF way(int direction, double part)
 struct HotkeyCommands::Command
 {
     FuncCode code;
-    char const * text; ///< "group: detail" for the commands of a group
+    char const * text; ///< "group: detail" for the commands of a group, in every language
     QString (HotkeyCommands::*function)(int) = nullptr;
     int argument = 0;
     bool repeats = false; ///< whether a key that is held down does it again and again
@@ -115,9 +115,9 @@ HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
      SNAP_ARC},
     {KK_SnapEdge, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: edge"), &HotkeyCommands::snap,
      SNAP_EDGE},
-    {KK_SnapIntersect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: intersection"),
+    {KK_SnapIntersect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: crossing"),
      &HotkeyCommands::snap, SNAP_INTERSECT},
-    {KK_SnapMidpoint, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: midpoint"), &HotkeyCommands::snap,
+    {KK_SnapMidpoint, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: middle"), &HotkeyCommands::snap,
      SNAP_MIDPOINT},
     {KK_SnapProfile, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: profile"), &HotkeyCommands::snap,
      SNAP_PROFILE},
@@ -185,7 +185,7 @@ QString HotkeyCommands::run(FuncCode code)
     Command const & chosen = command(code);
     QString const result = chosen.function != nullptr ? (this->*chosen.function)(chosen.argument)
                                                       : tr("not available in this host");
-    return result.isEmpty() ? text(code) : tr("%1: %2").arg(text(code), result);
+    return result.isEmpty() ? text(code) : text(code) + ": " + result;
 }
 
 // A key that its receiver ignores is sent to the parents as well: only the first receiver counts.
@@ -305,7 +305,7 @@ QString HotkeyCommands::measure(int /*argument*/)
     }
     m_measured = nullptr;
     QPointF const distance = place - m_measuredFrom;
-    return tr("%1 %2 (%3)")
+    return QString("%1 %2 (%3)")
         .arg(getUnitJudgeStringMetric(view(), std::hypot(distance.x(), distance.y())),
              QString::fromStdString(getUnitStringType(view(), 0)),
              shown.sizeText(std::abs(distance.x()), std::abs(distance.y())));

@@ -177,6 +177,7 @@ void MainWindow::makeToolBar()
 
 void MainWindow::addPages()
 {
+    addResults();
     m_symbols = new SymbolsPage(m_session.job(), m_views.front()->handle());
     addPage(m_symbols, "symbols", QT_TR_NOOP("S&ymbols"));
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
@@ -190,9 +191,12 @@ void MainWindow::addHotkeys()
     auto * told = new QLabel;
     told->setObjectName("hot keys");
     told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
-    statusBar()->insertWidget(0, told, 3);
+    statusBar()->insertWidget(0, told, 20);                            // all but what the pointer needs
     auto * commands = new HotkeyCommands(*this, *m_pages->widget(0), this);
-    connect(commands, &HotkeyCommands::told, told, &QLabel::setText);
+    connect(commands, &HotkeyCommands::told, told, [told](QString const & text) {
+        told->setText(text);
+        told->setToolTip(text); // where the window is too narrow
+    });
 }
 
 CheatSheet * MainWindow::showKeys()

@@ -25,7 +25,16 @@ class EnginePane;
 class FeatureDialog;
 class LayerTable;
 class LogLines;
+class ResultsPage;
 class SymbolsPage;
+struct Mark;
+
+/// What became of the files of the checks' results.
+struct WrittenResults
+{
+    QStringList files;  ///< that were written
+    QStringList errors; ///< what could not be done, in sentences
+};
 
 /// The window: one view per step with the job's layers beside it, what the engine was told, and the log.
 class MainWindow : public QMainWindow
@@ -50,6 +59,11 @@ public:
     void refresh();
     /// Takes the latest operation on the step in front back; the library asks first.
     void undoLast();
+    /// Brings a step to the front, in whatever case it is named. False for an unknown one.
+    bool showStepOf(QString const & name);
+    ResultsPage & results() const { return *m_results; }
+    /// Runs the checks on the step in front and writes the files that the command line asks for.
+    WrittenResults writeResults(CommandLine const & commandLine);
     /// Shows the hot keys. Owned by the window.
     CheatSheet * showKeys();
     /// Brings the window back as it was kept in a file, and keeps it there when it is closed. The unit is
@@ -71,6 +85,8 @@ private:
     void listPages();
     void setTexts();
     void addPages();
+    void addResults();
+    void markMeasurement(QString const & step, QString const & layer, Mark const & mark);
     void addHotkeys();
     void addPage(QWidget * page, QString const & name, QString const & title);
     void showStep();
@@ -94,6 +110,7 @@ private:
     QTabWidget * m_steps = nullptr;
     LayerTable * m_layers = nullptr;
     EnginePane * m_engine = nullptr;
+    ResultsPage * m_results = nullptr;
     SymbolsPage * m_symbols = nullptr;
     FeatureDialog * m_feature = nullptr;
     CheatSheet * m_keys = nullptr;

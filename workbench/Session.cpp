@@ -80,6 +80,13 @@ void Session::countFeatures(Layer & layer) const
     }
 }
 
+bool Session::hasStep(QString const & name) const
+{
+    return std::any_of(m_steps.begin(), m_steps.end(), [&](Step const & step) {
+        return QString::fromStdString(step.name).compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
 int Session::firstCopperLayer(std::string const & step) const
 {
     for (std::size_t i = 0; i < m_layers.size(); ++i) {

@@ -40,6 +40,8 @@ public:
     std::vector<Step> const & steps() const { return m_steps; }
     std::vector<Layer> const & layers() const { return m_layers; }
     std::vector<Layer> & layers() { return m_layers; }
+    /// Whether the job has a step of this name, in whatever case.
+    bool hasStep(QString const & name) const;
     /// The index of the first board signal layer that has pads in a step, else 0.
     int firstCopperLayer(std::string const & step) const;
 

@@ -15,6 +15,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryFile>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -58,6 +59,17 @@ void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QStrin
         << qPrintable(text);
 }
 
+// With a window, where somebody can read a box.
+void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const & commandLine)
+{
+    using namespace KVCAM::UIAPI;
+    window.showPage("results");
+    for (QString const & error : window.writeResults(commandLine).errors) {
+        fail(error);
+        Ext::showMessage({Ext::MessageKind::Information, &window, window.windowTitle(), error});
+    }
+}
+
 } // namespace
 
 int main(int argc, char ** argv)
@@ -92,6 +104,9 @@ int main(int argc, char ** argv)
     if (!error.isEmpty()) {
         return fail(error);
     }
+    if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
+        return fail("the job has no step \"" + commandLine.step + '"');
+    }
     if (!canWriteInto(commandLine.output)) {
         return fail("cannot write to \"" + commandLine.output + '"');
     }
@@ -105,9 +120,13 @@ int main(int argc, char ** argv)
               << " step(s) and " << session.layers().size() << " layers";
 
     Workbench::MainWindow window(session, log, commandLine);
+    window.showStepOf(commandLine.step);
     if (!headless) {
         window.useStateFile(Workbench::configurationDirectory() + "/workbench.ini", commandLine.isUnitGiven);
         window.show();
+        if (!commandLine.summary.isEmpty() || !commandLine.reports.isEmpty()) {
+            QTimer::singleShot(0, &window, [&window, &commandLine] { writeResults(window, commandLine); });
+        }
         return QApplication::exec();
     }
     if (!commandLine.headless) {
@@ -117,6 +136,12 @@ int main(int argc, char ** argv)
     print(stdout, QJsonDocument(facts).toJson());
     for (auto const & picture : facts["screenshots"].toArray()) {
         print(stderr, "uiapi-workbench: wrote " + picture.toString().toUtf8() + '\n');
+    }
+    for (auto const & file : facts["analysis"].toObject()["files"].toArray()) {
+        print(stderr, "uiapi-workbench: wrote " + file.toString().toUtf8() + '\n');
+    }
+    for (auto const & failure : facts["analysis"].toObject()["errors"].toArray()) {
+        fail(failure.toString()); // the checks' own; of the layers' errors the log has told
     }
     return facts["errors"].toArray().isEmpty() ? 0 : exitIncomplete;
 }

@@ -19,9 +19,7 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-// How many functions the face has, and whether all of them are here by now.
 constexpr std::size_t faceSize = 161;
-constexpr bool faceIsComplete = false;
 
 template <class Argument>
 std::decay_t<Argument> emptyArgument(void const * view)
@@ -160,6 +158,12 @@ Row const face[] = {
     ROW(isValueLegal),
     ROW(isNumValueLegal),
     ROW(isSymbolValueLegal),
+    // Range tables
+    ROW(getRanges),
+    ROW(getRangesEnum),
+    ROW(getRangesName),
+    ROW(changeRangesValue),
+    ROW(getERFList),
     // Global configuration and job list
     ROW(getServerIP),
     ROW(getServerPort),
@@ -194,8 +198,32 @@ Row const face[] = {
     ROW(getParentAttribute),
     ROW(getChildAttribute),
     ROW(getCamMateNodes),
+    // Layer filters
+    ROW(getAnalyzeAndDFMLayers),
     // References and files
+    ROW(setReferenceLayerInfo),
+    ROW(getReferenceLayerInfo),
+    ROW(resetReferenceLayerInfo),
+    ROW(renameReferenceJob),
+    ROW(renameReferenceStep),
+    ROW(renameReferenceLayer),
+    ROW(deleteReferenceJob),
+    ROW(deleteReferenceStep),
+    ROW(deleteReferenceLayer),
+    ROW(renameCompareJob),
+    ROW(renameCompareStep),
+    ROW(deleteCompareStep),
+    ROW(getDrawingLayer),
+    ROW(setDrawingLayer),
+    ROW(resetDrawingLayer),
+    ROW(saveTextByIODevice),
     ROW(find_input_items),
+    ROW(checkDir),
+    ROW(delDir),
+    ROW(copyDirectoryFile),
+    ROW(deletGeneJob),
+    ROW(formatTime),
+    ROW(undo),
     // Form persistence
     ROW(readListToJson),
     ROW(writeJsonToList),
@@ -287,8 +315,7 @@ TEST(FaceTable, HoldsEveryExportedFunctionOnce)
         }
     }
     EXPECT_EQ(names, exported);
-    EXPECT_LE(std::size(face), faceSize);
-    EXPECT_EQ(std::size(face) == faceSize, faceIsComplete);
+    EXPECT_EQ(std::size(face), faceSize);
 }
 
 } // namespace

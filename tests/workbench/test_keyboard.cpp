@@ -72,8 +72,8 @@ protected:
     std::unique_ptr<MainWindow> window;
 };
 
-char const * const snaps = "S ... S skeleton, O off, G grid, C centre, R arc, E edge, I intersection, "
-                           "M midpoint, P profile, A advanced, N Highlight";
+char const * const snaps = "S ... S skeleton, O off, G grid, C centre, R arc, E edge, I crossing, "
+                           "M middle, P profile, A advanced, N Highlight";
 
 TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
 {
@@ -98,8 +98,8 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
         {"S C", "Snap: centre", "unit 1 width 1 negative snap 2"},
         {"S R", "Snap: arc", "unit 1 width 1 negative snap 8"},
         {"S E", "Snap: edge", "unit 1 width 1 negative snap 4"},
-        {"S I", "Snap: intersection", "unit 1 width 1 negative snap 5"},
-        {"S M", "Snap: midpoint", "unit 1 width 1 negative snap 6"},
+        {"S I", "Snap: crossing", "unit 1 width 1 negative snap 5"},
+        {"S M", "Snap: middle", "unit 1 width 1 negative snap 6"},
         {"S P", "Snap: profile", "unit 1 width 1 negative snap 9"},
         {"S A", "Snap: advanced", "unit 1 width 1 negative snap 7"},
         {"S Shift+U G", "", "unit 0 width 1 negative snap 7"}, // a modifier ends the sequence
@@ -113,6 +113,10 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
         EXPECT_EQ(press(row.keys), row.told) << row.keys;
         EXPECT_EQ(state(), row.state) << row.keys;
     }
+    window->setLanguage(LANGUAGE_CHINESE);
+    EXPECT_EQ(press("S G"), QString::fromUtf8("捕捉: 网格"));
+    EXPECT_TRUE(press("S").startsWith(QString::fromUtf8("S ... S 骨架, O 关闭, ")));
+    window->setLanguage(LANGUAGE_ENGLISH);
     for (int code = KP_AllSelect; code <= KK_Hightlight; ++code) {
         EXPECT_FALSE(HotkeyCommands::text(static_cast<FuncCode>(code)).isEmpty()) << code;
     }

@@ -82,6 +82,8 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         {{"--headless"}, "no job directory"},
         {{sampleJob(), "--headless", "--unit", "furlong"}, "furlong"},
         {{sampleJob(), "--headless", "--wings"}, "wings"},
+        {{sampleJob(), "--headless", "--step", "attic"}, "no step \"attic\""},
+        {{sampleJob(), "--headless", "--report", "report.txt"}, "report.txt"},
         {{sampleJob(), "--headless", "--output", "file"}, "cannot write to \""},
 #ifdef Q_OS_LINUX // a directory that takes no files from anybody
         {{sampleJob(), "--headless", "--output", "/proc"}, "cannot write to \""},
@@ -110,17 +112,20 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     ASSERT_TRUE(features.open(QIODevice::WriteOnly));
     features.write("P nonsense\n");
     features.close();
-    Result const result = run({"job", "--headless", "--output", "out"});
+    Result const result = run({"job", "--headless", "--output", "out", "--summary", "sum.json"});
     EXPECT_EQ(result.exitCode, 1) << result.err.toStdString();
     QJsonArray const errors = result.facts["errors"].toArray();
-    ASSERT_EQ(errors.size(), 2);
+    ASSERT_EQ(errors.size(), 3);
     EXPECT_TRUE(errors[0].toObject()["file"].toString().endsWith("settings.png"));
     EXPECT_EQ(errors[1].toObject()["layer"].toString(), "top");
     EXPECT_EQ(errors[1].toObject()["step"].toString(), "pcb");
     EXPECT_TRUE(errors[1].toObject()["text"].toString().contains("features:1: "));
     QJsonArray const counts = result.facts["layers"].toArray()[0].toObject()["features"].toArray();
     EXPECT_EQ(counts, QJsonArray{QJsonValue()});
-    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 10); // no dialog without a pad
+    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 12); // no dialog without a pad
+    EXPECT_TRUE(errors[2].toObject()["text"].toString().startsWith("the checks failed: "));
+    EXPECT_EQ(result.err.count("uiapi-workbench: the checks failed: "), 1);
+    EXPECT_FALSE(QFile::exists("sum.json"));
     EXPECT_EQ(result.err.count("cannot read layer top"), 1);
 }
 
@@ -146,6 +151,50 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(eda["sent"].toInt(-1), eda["bound"].toBool() ? 1 : 0);
     EXPECT_GE(eda["received"].toInt(-1), eda["sent"].toInt());
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
+}
+
+// Compared with the sizes of the symbols in the sample job's files: tracks of 150, 200 and 250 micrometres,
+// pads of surface-mounted parts 300 and 800 apart, rings of 150 about the vias.
+TEST(Workbench, TheSummaryOfTheSampleJobHasTheFiguresOfItsFiles)
+{
+    QJsonObject const analysis =
+        runSample({"--summary", "sum.json", "--report", "report.csv"}).facts["analysis"].toObject();
+    EXPECT_EQ(analysis["files"].toArray(),
+              (QJsonArray{QDir().absoluteFilePath("sum.json"), QDir().absoluteFilePath("report.csv")}));
+    QStringList widths;
+    for (auto const & width : analysis["track widths"].toArray()) {
+        widths.append(QString("%1 %2")
+                          .arg(width.toObject()["layer"].toString())
+                          .arg(width.toObject()["um"].toDouble()));
+    }
+    EXPECT_EQ(widths, (QStringList{"top 150", "l3_sig 150", "l4_sig 200", "l5_sig 200", "bottom 250"}));
+    for (char const * severity : {"red", "yellow", "green", "none"}) {
+        EXPECT_GT(analysis["counts"].toObject()[severity].toInt(), 0) << severity;
+    }
+
+    QFile file("sum.json");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QMap<QString, QString> rows;
+    QJsonArray const summary = QJsonDocument::fromJson(file.readAll()).array();
+    EXPECT_EQ(summary.size(), 49);
+    for (auto const & row : summary) {
+        QString const key = row.toObject().keys().first();
+        for (auto const & each : row.toObject()[key].toObject()["result"].toArray()) {
+            rows[key] += each.toObject()["layername"].toString() + ' ' +
+                         each.toObject()["value"].toVariant().toString() + ';';
+        }
+    }
+    EXPECT_EQ(rows["stepname"], " pcb;");
+    EXPECT_EQ(rows["allLayerMinTrackWidth"], "bottom 9;l3_sig 5;l4_sig 7;l5_sig 7;top 5;");
+    EXPECT_EQ(rows["minTrackWidth"], " 5;");
+    EXPECT_EQ(rows["minSMD2SMDSpace"], "bottom 31;l3_sig -1;l4_sig -1;l5_sig -1;top 11;");
+    EXPECT_EQ(rows["minDrillRing"], "bottom 5;l3_sig 5;l4_sig 5;l5_sig 5;top 5;");
+    EXPECT_EQ(rows["slotHoleNumPerPcs"], "drill_non-plated 0;drill_plated 0;outline 0;slots 4;");
+
+    QJsonObject const panel = runSample({"--step", "Panel"}).facts["analysis"].toObject();
+    EXPECT_EQ(panel["step"].toString(), "panel");
+    EXPECT_EQ(panel["summary"].toString(), QDir().absoluteFilePath("out/summary.json"));
+    EXPECT_TRUE(QFile::exists("out/summary.json"));
 }
 
 TEST(Workbench, AUnitSwitchReachesTheEngineAndItsDatabase)
@@ -210,7 +259,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    EXPECT_EQ(pictures.size(), 16);
+    EXPECT_EQ(pictures.size(), 19);
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();

@@ -15,6 +15,30 @@
         <source>Stop</source>
         <translation>停止</translation>
     </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>无法写入文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The name of a report ends in .json or .csv, not as that of &quot;%1&quot; does.</source>
+        <translation>报告的文件名须以 .json 或 .csv 结尾，“%1”不是。</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AttributesPage</name>
@@ -84,6 +108,85 @@
     <message>
         <source>The layer %1 has no features in this step</source>
         <translation>层 %1 在此步骤中没有图形</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CheatSheet</name>
+    <message>
+        <source>Hot keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Own file</source>
+        <translation>自定义文件</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能名</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>元素</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>发现</translation>
+    </message>
+    <message>
+        <source>Load the file again</source>
+        <translation>重新加载文件</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>导出...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Written to "%1".</source>
+        <translation>已写入“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 is left out: the file has no name for what it does.</source>
+        <translation>%1 未写入：文件中没有其功能的名称。</translation>
+    </message>
+    <message>
+        <source>Export the hot keys</source>
+        <translation>导出快捷键</translation>
+    </message>
+    <message>
+        <source>never answers</source>
+        <translation>从不响应</translation>
+    </message>
+    <message>
+        <source>not available in this host</source>
+        <translation>本程序中不可用</translation>
+    </message>
+    <message>
+        <source>%1 holds %2 bindings. Findings: %3.</source>
+        <translation>%1 含 %2 个绑定，发现 %3 条。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded; the keys stay as they are.</source>
+        <translation>%1 无法加载；按键保持不变。</translation>
+    </message>
+    <message>
+        <source>There is no file %1; the default keys are in use.</source>
+        <translation>没有文件 %1；使用默认按键。</translation>
     </message>
 </context>
 <context>
@@ -338,6 +441,189 @@ Close the program that has port %1, then start this one again.</source>
     </message>
 </context>
 <context>
+    <name>Workbench::HotkeyCommands</name>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Reverse the selection</source>
+        <translation>反选</translation>
+    </message>
+    <message>
+        <source>CAM guide</source>
+        <translation>CAM 向导</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>负片</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>轮廓</translation>
+    </message>
+    <message>
+        <source>Width mode</source>
+        <translation>线宽模式</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Move within the layer</source>
+        <translation>同层移动</translation>
+    </message>
+    <message>
+        <source>Copy to the edit buffer</source>
+        <translation>复制到编辑缓冲区</translation>
+    </message>
+    <message>
+        <source>Paste from the edit buffer</source>
+        <translation>从编辑缓冲区粘贴</translation>
+    </message>
+    <message>
+        <source>The function without a name</source>
+        <translation>无名称的功能</translation>
+    </message>
+    <message>
+        <source>Move: snap</source>
+        <translation>移动: 捕捉</translation>
+    </message>
+    <message>
+        <source>Move: home</source>
+        <translation>移动: 全图</translation>
+    </message>
+    <message>
+        <source>Move: up</source>
+        <translation>移动: 上</translation>
+    </message>
+    <message>
+        <source>Move: down</source>
+        <translation>移动: 下</translation>
+    </message>
+    <message>
+        <source>Move: right</source>
+        <translation>移动: 右</translation>
+    </message>
+    <message>
+        <source>Move: left</source>
+        <translation>移动: 左</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Contourize</source>
+        <translation>轮廓化</translation>
+    </message>
+    <message>
+        <source>Pan: up</source>
+        <translation>平移: 上</translation>
+    </message>
+    <message>
+        <source>Pan: down</source>
+        <translation>平移: 下</translation>
+    </message>
+    <message>
+        <source>Pan: right</source>
+        <translation>平移: 右</translation>
+    </message>
+    <message>
+        <source>Pan: left</source>
+        <translation>平移: 左</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>Centre at the pointer</source>
+        <translation>以指针处为中心</translation>
+    </message>
+    <message>
+        <source>Copy the original</source>
+        <translation>复制原件</translation>
+    </message>
+    <message>
+        <source>Transform</source>
+        <translation>变换</translation>
+    </message>
+    <message>
+        <source>Select the same features</source>
+        <translation>选择相同图形</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Snap: skeleton</source>
+        <translation>捕捉: 骨架</translation>
+    </message>
+    <message>
+        <source>Snap: off</source>
+        <translation>捕捉: 关闭</translation>
+    </message>
+    <message>
+        <source>Snap: grid</source>
+        <translation>捕捉: 网格</translation>
+    </message>
+    <message>
+        <source>Snap: centre</source>
+        <translation>捕捉: 中心</translation>
+    </message>
+    <message>
+        <source>Snap: arc</source>
+        <translation>捕捉: 圆弧</translation>
+    </message>
+    <message>
+        <source>Snap: edge</source>
+        <translation>捕捉: 边缘</translation>
+    </message>
+    <message>
+        <source>Snap: crossing</source>
+        <translation>捕捉: 交点</translation>
+    </message>
+    <message>
+        <source>Snap: middle</source>
+        <translation>捕捉: 中点</translation>
+    </message>
+    <message>
+        <source>Snap: profile</source>
+        <translation>捕捉: 轮廓</translation>
+    </message>
+    <message>
+        <source>Snap: advanced</source>
+        <translation>捕捉: 高级</translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>not available in this host</source>
+        <translation>本程序中不可用</translation>
+    </message>
+    <message>
+        <source>from %1; once more at the other end</source>
+        <translation>从 %1；在另一端再按一次</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::JsonText</name>
     <message>
         <source>A JSON object is expected, which begins with a brace.</source>
@@ -441,6 +727,10 @@ Close the program that has port %1, then start this one again.</source>
 </context>
 <context>
     <name>Workbench::MainWindow</name>
+    <message>
+        <source>&amp;Hot keys</source>
+        <translation>快捷键(&amp;H)</translation>
+    </message>
     <message>
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
@@ -616,6 +906,18 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     <message>
         <source>Step %1 has no profile</source>
         <translation>步骤 %1 没有板框</translation>
+    </message>
+    <message>
+        <source>&amp;Results</source>
+        <translation>检查结果(&amp;R)</translation>
+    </message>
+    <message>
+        <source>the checks were stopped</source>
+        <translation>检查已停止</translation>
+    </message>
+    <message>
+        <source>the checks failed: %1</source>
+        <translation>检查失败：%1</translation>
     </message>
 </context>
 <context>
@@ -901,6 +1203,218 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     <message>
         <source>The file "%1" cannot be deleted.</source>
         <translation>文件“%1”无法删除。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::LevelsEditor</name>
+    <message>
+        <source>Re&amp;d</source>
+        <translation>红(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Yell&amp;ow</source>
+        <translation>黄(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Green</source>
+        <translation>绿(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ResultsModel</name>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>nothing found</source>
+        <translation>未发现</translation>
+    </message>
+    <message>
+        <source>Of a check or layer the worst</source>
+        <translation>检查项或层的最差等级</translation>
+    </message>
+    <message>
+        <source>Measured in whole micrometres; of a check or layer the smallest</source>
+        <translation>以整微米测量；检查项或层显示最小值</translation>
+    </message>
+    <message>
+        <source>The level that gave the colour; of a check its levels red / yellow / green</source>
+        <translation>决定颜色的级别；检查项显示红 / 黄 / 绿级别</translation>
+    </message>
+    <message>
+        <source>Check, layer, measurement</source>
+        <translation>检查项、层、测量</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Measured (%1)</source>
+        <translation>测量值 (%1)</translation>
+    </message>
+    <message>
+        <source>Limit (%1)</source>
+        <translation>限值 (%1)</translation>
+    </message>
+    <message>
+        <source>Position (%1)</source>
+        <translation>位置 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ResultsPage</name>
+    <message>
+        <source>Export the summary</source>
+        <translation>导出汇总</translation>
+    </message>
+    <message>
+        <source>Summary (*.json)</source>
+        <translation>汇总 (*.json)</translation>
+    </message>
+    <message>
+        <source>Export the report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>JSON report (*.json);;CSV report (*.csv)</source>
+        <translation>JSON 报告 (*.json);;CSV 报告 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Measuring step %1 (F1 stops)</source>
+        <translation>正在测量 步骤 %1（按 F1 停止）</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Run the &amp;checks</source>
+        <translation>运行检查(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Measures the step that the board page shows and files the results</source>
+        <translation>测量板图页所示的步骤并归档结果</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w on the board</source>
+        <translation>在板图上显示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>E&amp;xport summary...</source>
+        <translation>导出汇总(&amp;X)...</translation>
+    </message>
+    <message>
+        <source>Ex&amp;port report...</source>
+        <translation>导出报告(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Save &amp;levels</source>
+        <translation>保存级别(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Results by check and layer</source>
+        <translation>按检查项和层的结果</translation>
+    </message>
+    <message>
+        <source>Smallest track width of each layer</source>
+        <translation>各层最小线宽</translation>
+    </message>
+    <message>
+        <source>Smallest track width of each layer (%1)</source>
+        <translation>各层最小线宽 (%1)</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未检查</translation>
+    </message>
+    <message>
+        <source>Check or layer</source>
+        <translation>检查项或层</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>There was nothing to check in step %1.</source>
+        <translation>步骤 %1 中没有可检查的内容。</translation>
+    </message>
+    <message>
+        <source>The checks were not run yet. They measure step %1, which the board page shows.</source>
+        <translation>尚未运行检查。检查将测量板图页所示的步骤 %1。</translation>
+    </message>
+    <message>
+        <source>The checks of step %1 failed: %2</source>
+        <translation>步骤 %1 的检查失败：%2</translation>
+    </message>
+    <message>
+        <source>The checks were stopped; these are the results of the run before.</source>
+        <translation>检查已停止；以下为上一次的结果。</translation>
+    </message>
+    <message>
+        <source>The checks were stopped.</source>
+        <translation>检查已停止。</translation>
+    </message>
+    <message>
+        <source>No levels: everything is shown without colour.</source>
+        <translation>没有级别：全部不着色显示。</translation>
+    </message>
+    <message>
+        <source>Step %1</source>
+        <translation>步骤 %1</translation>
+    </message>
+    <message>
+        <source>Levels (%1)</source>
+        <translation>级别 (%1)</translation>
+    </message>
+    <message>
+        <source>Select a check to see its levels.</source>
+        <translation>选择检查项以查看其级别。</translation>
+    </message>
+    <message>
+        <source>Levels of %1 (%2)</source>
+        <translation>%1 的级别 (%2)</translation>
+    </message>
+    <message>
+        <source>The range files have no levels for this check: it is shown without colour.</source>
+        <translation>范围文件中没有此检查项的级别：不着色显示。</translation>
+    </message>
+    <message>
+        <source>These levels contradict each other: they colour nothing.</source>
+        <translation>这些级别相互矛盾：不着色。</translation>
+    </message>
+    <message>
+        <source>Not saved: levels of %1 were changed.</source>
+        <translation>未保存：%1 的级别已更改。</translation>
+    </message>
+    <message>
+        <source>As in the range file %1.json.</source>
+        <translation>与范围文件 %1.json 一致。</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>级别</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::TrackWidthChart</name>
+    <message>
+        <source>no tracks</source>
+        <translation>无线路</translation>
+    </message>
+    <message>
+        <source>No copper layer was measured.</source>
+        <translation>没有测量任何铜层。</translation>
     </message>
 </context>
 </TS>

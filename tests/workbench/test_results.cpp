@@ -1,0 +1,247 @@
+#include "BoardView.h"
+#include "LogPane.h"
+#include "MainWindow.h"
+#include "ResultsModel.h"
+#include "ResultsPage.h"
+#include "TestFiles.h"
+#include "TrackWidthChart.h"
+
+#include <UIAPICommon.h>
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QTreeView>
+
+#include <memory>
+
+using namespace KVCAM::UIAPI;
+using namespace Workbench;
+
+namespace {
+
+// Tracks of 3.94, 5 and 7.87 mil on one layer, none on the other; a slot.
+constexpr char const * topFeatures = "UNITS=MM\n$0 r100\n$1 r127\n$2 r200\n"
+                                     "L 0 2 10 2 2 P 0\nL 0 1 10 1 1 P 0\nL 0 0 10 0 0 P 0\n";
+
+QByteArray layer(char const * type, char const * name, int row)
+{
+    return "LAYER {\nROW=" + QByteArray::number(row) + "\nCONTEXT=BOARD\nTYPE=" + type + "\nNAME=" + name +
+           "\nPOLARITY=POSITIVE\n}\n";
+}
+
+QString readFile(QString const & path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : "no file";
+}
+
+// The objects of the summary by their keys.
+QJsonObject summaryIn(QString const & path)
+{
+    QJsonObject rows;
+    for (auto const & row : QJsonDocument::fromJson(readFile(path).toUtf8()).array()) {
+        QString const key = row.toObject().keys().value(0);
+        rows[key] = row.toObject()[key].toObject()["result"];
+    }
+    return rows;
+}
+
+QJsonArray byLayer(std::initializer_list<std::pair<char const *, char const *>> values)
+{
+    QJsonArray result;
+    for (auto const & [name, value] : values) {
+        result.append(QJsonObject{{"layername", name}, {"value", value}});
+    }
+    return result;
+}
+
+class Results : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\n" + layer("SIGNAL", "TOP", 1) +
+                                            layer("SIGNAL", "BOT", 2) + layer("ROUT", "CUTS", 3));
+        writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+        writeFile("tiny/steps/pcb/layers/top/features", topFeatures);
+        writeFile("tiny/steps/pcb/layers/cuts/features", "UNITS=MM\n$0 r800\nL 0 5 2 5 0 P 0\n");
+    }
+    void writeLevels()
+    {
+        writeFile("config/ranges/mine/SignalLayerRanges.json",
+                  R"({"rangesList": [{"name": "Lines", "RedLv": "4", "YellowLv": "5", "GreenLv": "6"}]})");
+    }
+    void open()
+    {
+        ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
+        commandLine.output = ".";
+        window = std::make_unique<MainWindow>(session, log, commandLine);
+        tester = std::make_unique<QAbstractItemModelTester>(
+            model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    }
+
+    ResultsPage & page() const { return window->results(); }
+    ResultsModel * model() const
+    {
+        return static_cast<ResultsModel *>(page().findChild<QTreeView *>()->model());
+    }
+    QString text(char const * label) const { return page().findChild<QLabel *>(label)->text(); }
+    QPushButton & button(char const * name) const { return *page().findChild<QPushButton *>(name); }
+    KVLineEdit & field(char const * level) const { return *page().findChild<KVLineEdit *>(level); }
+    QString header(int column) const
+    {
+        return model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    }
+    QString row(QModelIndex const & index) const
+    {
+        QStringList cells;
+        for (int column : {ResultsModel::Name, ResultsModel::Severity, ResultsModel::Measured,
+                           ResultsModel::Limit, ResultsModel::Position}) {
+            cells.append(index.siblingAtColumn(column).data().toString());
+        }
+        return cells.join('|');
+    }
+    /// The check of the tracks as the tree shows it.
+    QStringList tracks() const
+    {
+        QModelIndex const lines = model()->find(signalTable, linesNumber);
+        QStringList rows{row(lines)};
+        for (int i = 0; i < model()->rowCount(lines); ++i) {
+            QModelIndex const top = model()->index(i, 0, lines);
+            rows.append(row(top));
+            for (int j = 0; j < model()->rowCount(top); ++j) {
+                rows.append(row(model()->index(j, 0, top)));
+            }
+        }
+        return rows;
+    }
+
+    Session session;
+    LogLines log;
+    CommandLine commandLine;
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<QAbstractItemModelTester> tester;
+};
+
+TEST_F(Results, AreFiledAndSummarised)
+{
+    open();
+    EXPECT_EQ(text("note"), "");
+    EXPECT_TRUE(text("empty").contains("not run yet"));
+    EXPECT_FALSE(button("summary").isEnabled());
+    commandLine.summary = "summary.json";
+    commandLine.reports = QStringList{"report.json", "report.csv", "nowhere/report.csv"};
+    WrittenResults const written = window->writeResults(commandLine);
+    EXPECT_EQ(written.files, (QStringList{"summary.json", "report.json", "report.csv"}));
+    EXPECT_EQ(written.errors, QStringList{"The file \"nowhere/report.csv\" cannot be written."});
+    EXPECT_EQ(text("note"), "No levels: everything is shown without colour.");
+    EXPECT_TRUE(button("summary").isEnabled());
+
+    std::string expected;
+    Unified_AnalysisResult::instance()->jsonoutput(expected);
+    EXPECT_EQ(readFile("summary.json").toStdString(), expected);
+    QJsonObject const rows = summaryIn("summary.json");
+    EXPECT_EQ(rows["jobname"], byLayer({{"", "tiny"}}));
+    EXPECT_EQ(rows["stepname"], byLayer({{"", "pcb"}}));
+    EXPECT_EQ(rows["allLayerMinTrackWidth"], byLayer({{"bot", "-1"}, {"top", "3"}}));
+    EXPECT_EQ(rows["minTrackWidth"].toArray()[0].toObject()["value"], 3);
+    EXPECT_EQ(rows["slotHoleNumPerPcs"], byLayer({{"cuts", "1"}}));
+    EXPECT_EQ(rows["minDrillRing"], byLayer({{"bot", "-1"}, {"top", "-1"}}));
+    EXPECT_TRUE(readFile("report.json").contains("\"um\": 100, "));
+    EXPECT_TRUE(readFile("report.csv").contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"top\""));
+    EXPECT_GE(page().findChild<QTableWidget *>()->rowCount(), 11); // what needs a net list
+}
+
+TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
+{
+    writeLevels();
+    open();
+    ASSERT_TRUE(page().runChecks());
+    ASSERT_TRUE(page().showCheck(signalTable, linesNumber));
+    EXPECT_EQ(header(ResultsModel::Measured), "Measured (mil)");
+    EXPECT_EQ(tracks(),
+              (QStringList{"Lines|✖ R|3.94|4 / 5 / 6|", "top|✖ R|3.94||", "1|✖ R|3.94|4|0.197, 0.000",
+                           "2|▲ Y|5|5|0.197, 0.039", "3|–|7.87||0.197, 0.079"}));
+    field("GreenLv").setText("8");
+    QTest::keyClick(&field("GreenLv"), Qt::Key_Return);
+    EXPECT_EQ(tracks()[4], "3|● G|7.87|8|0.197, 0.079");
+    EXPECT_TRUE(text("levels hint").startsWith("Not saved")) << text("levels hint").toStdString();
+
+    setUnit(window->currentView()->handle(), 1);
+    EXPECT_EQ(header(ResultsModel::Measured), "Measured (my)");
+    EXPECT_EQ(tracks(), (QStringList{"Lines|✖ R|100|101.6 / 127 / 203.2|", "top|✖ R|100||",
+                                     "1|✖ R|100|101.6|5.000, 0.000", "2|▲ Y|127|127|5.000, 1.000",
+                                     "3|● G|200|203.2|5.000, 2.000"}));
+    EXPECT_EQ(field("GreenLv").text(), "203.2");
+    EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(0), "top: 100 my (red)");
+    EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(1), "bot: no tracks");
+
+    // A level typed in micrometres is the round number of mil that it stands for.
+    field("YellowLv").setText("76.2");
+    QTest::keyClick(&field("YellowLv"), Qt::Key_Return);
+    EXPECT_EQ(tracks()[2], "1|–|100||5.000, 0.000");
+    EXPECT_TRUE(text("levels hint").startsWith("These levels contradict each other"));
+    button("save levels").click();
+    EXPECT_FALSE(button("save levels").isEnabled());
+    QJsonObject const saved =
+        QJsonDocument::fromJson(readFile("config/ranges/mine/SignalLayerRanges.json").toUtf8())
+            .object()["rangesList"]
+            .toArray()[0]
+            .toObject();
+    EXPECT_EQ(saved, (QJsonObject{{"name", "Lines"}, {"RedLv", "4"}, {"YellowLv", "3"}, {"GreenLv", "8"}}));
+}
+
+TEST_F(Results, AMeasurementIsMarkedOnTheBoard)
+{
+    writeLevels();
+    open();
+    ASSERT_TRUE(page().runChecks());
+    ASSERT_TRUE(page().showCheck(signalTable, linesNumber));
+    auto const & marks = window->currentView()->marks();
+    ASSERT_EQ(marks.size(), 1U);
+    EXPECT_EQ(QPointF(marks[0].x, marks[0].y), QPointF(5000, 0)); // the middle of the narrowest track
+    EXPECT_EQ(marks[0].letter, "R");
+    EXPECT_EQ(marks[0].toolTip, "Lines: 3.94 mil");
+    EXPECT_EQ(window->currentView()->layer(), "top");
+    EXPECT_FALSE(page().showCheck(signalTable, 3)); // needs a net list
+}
+
+TEST_F(Results, OfACancelledRunAreThoseOfTheRunBefore)
+{
+    open();
+    AnalysisRun run(session);
+    int told = 0;
+    auto const stop = [&told](int, int) { return ++told < 2; };
+    EXPECT_EQ(run.run("pcb", stop), AnalysisRun::Outcome::Cancelled);
+    EXPECT_FALSE(run.hasResult());
+    EXPECT_EQ(run.run("pcb"), AnalysisRun::Outcome::Done);
+    told = 0;
+    EXPECT_EQ(run.run("pcb", stop), AnalysisRun::Outcome::Cancelled);
+    EXPECT_EQ(run.error(), "");
+    EXPECT_EQ(toJson(run)["counts"].toObject()["none"], 4);
+}
+
+TEST_F(Results, OfADamagedJobAreAClearMessage)
+{
+    writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 r100\nL 0 0 ten 0 0 P 0\n");
+    open();
+    commandLine.summary = "summary.json";
+    WrittenResults const written = window->writeResults(commandLine);
+    EXPECT_EQ(written.files, QStringList());
+    ASSERT_EQ(written.errors.size(), 1);
+    EXPECT_TRUE(written.errors[0].startsWith("the checks failed: ")) << written.errors[0].toStdString();
+    EXPECT_TRUE(written.errors[0].contains("top/features:3: ")) << written.errors[0].toStdString();
+    EXPECT_FALSE(QFile::exists("summary.json"));
+    EXPECT_TRUE(text("note").contains("top/features:3: ")) << text("note").toStdString();
+    EXPECT_FALSE(button("report").isEnabled());
+}
+
+} // namespace
