@@ -2,6 +2,7 @@
 
 #include "BoardView.h"
 #include "CheatSheet.h"
+#include "EdaPage.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
 #include "HeadlessLayers.h"
@@ -16,10 +17,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QJsonArray>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPixmap>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -234,6 +237,29 @@ void showPicture(MainWindow & window, Camera & camera)
     view.zoomHome();
 }
 
+// Shows the link with a message that the program sends to itself. Where another program has the port,
+// nothing is sent: it would be that program's.
+QJsonObject useEdaPage(MainWindow & window, Camera & camera)
+{
+    window.showPage("eda");
+    Ext::EdaLinkState const before = Ext::edaLinkState();
+    if (before.bound) {
+        auto & page = *window.findChild<EdaPage *>();
+        page.compose({{"command", "show"}, {"nets", QJsonArray{"GND", "VCC"}}}, EdaPage::receivePort);
+        QEventLoop waiting;
+        QObject::connect(Ext::edaLink(), &ConnectEDA::datagramReceived, &waiting, &QEventLoop::quit);
+        QTimer::singleShot(2000, &waiting, &QEventLoop::quit);
+        page.send();
+        waiting.exec();
+        setEdaPort(before.port);
+    }
+    camera.take(window, "eda.png");
+    Ext::EdaLinkState const state = Ext::edaLinkState();
+    return {{"bound", state.bound},
+            {"sent", static_cast<int>(state.sent)},
+            {"received", static_cast<int>(state.received)}};
+}
+
 QJsonObject configuration()
 {
     QJsonArray templates;
@@ -306,6 +332,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
         window.showPage(page);
         camera.take(window, page + ".png");
     }
+    QJsonObject const eda = useEdaPage(window, camera);
     window.showPage("board");
     QJsonObject const hotkeys = useHotkeys(window, camera);
     TakePicture const take = [&camera](QWidget & widget, QString const & name) { camera.take(widget, name); };
@@ -326,6 +353,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"steps", steps},
             {"layers", layersOf(session)},
             {"symbols", toJson(symbolRows(session.job()))},
+            {"EDA link", eda},
             {"hot keys", hotkeys},
             {"filters", filters},
             {"references", references},

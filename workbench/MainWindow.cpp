@@ -3,6 +3,7 @@
 #include "AttributesPage.h"
 #include "BoardView.h"
 #include "CheatSheet.h"
+#include "EdaPage.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
 #include "FilterBar.h"
@@ -187,6 +188,7 @@ void MainWindow::addPages()
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
     addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
     addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
+    addPage(new EdaPage, "eda", QT_TR_NOOP("&EDA link"));
 }
 
 void MainWindow::addHotkeys()

@@ -168,6 +168,9 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(undo["deleted"].toObject(), (QJsonObject{{"drawn", 148}, {"counted", 148}, {"operations", 1}}));
     EXPECT_EQ(undo["undone"], undo["before"]);
     EXPECT_EQ(facts["references"].toObject()["left"].toInt(-1), 0);
+    QJsonObject const eda = facts["EDA link"].toObject(); // deaf where another process has the port
+    EXPECT_EQ(eda["sent"].toInt(-1), eda["bound"].toBool() ? 1 : 0);
+    EXPECT_GE(eda["received"].toInt(-1), eda["sent"].toInt());
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
 }
 

@@ -190,6 +190,143 @@
     </message>
 </context>
 <context>
+    <name>Workbench::EdaPage</name>
+    <message>
+        <source>JSON object</source>
+        <translation>JSON 对象</translation>
+    </message>
+    <message>
+        <source>invalid</source>
+        <translation>无效</translation>
+    </message>
+    <message>
+        <source>Message to send</source>
+        <translation>要发送的消息</translation>
+    </message>
+    <message>
+        <source>JSON &amp;object</source>
+        <translation>JSON 对象(&amp;O)</translation>
+    </message>
+    <message>
+        <source>To &amp;port</source>
+        <translation>发送到端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>For example: %1</source>
+        <translation>例如：%1</translation>
+    </message>
+    <message>
+        <source>The port of this computer that the EDA tool listens on</source>
+        <translation>EDA 工具在本机上监听的端口</translation>
+    </message>
+    <message>
+        <source>Sen&amp;d</source>
+        <translation>发送(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Sends the object without blanks and line ends</source>
+        <translation>发送时去掉空格和换行</translation>
+    </message>
+    <message>
+        <source>Received messages</source>
+        <translation>收到的消息</translation>
+    </message>
+    <message>
+        <source>L&amp;ist of the latest %1</source>
+        <translation>最近 %1 条的列表(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Nothing to send yet.</source>
+        <translation>还没有要发送的内容。</translation>
+    </message>
+    <message>
+        <source>A JSON object; %1 bytes are sent.</source>
+        <translation>是 JSON 对象；将发送 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Nothing was sent from here yet.</source>
+        <translation>还没有从这里发送过。</translation>
+    </message>
+    <message>
+        <source>Sent %1 bytes to port %2. Whether anybody listens there cannot be known.</source>
+        <translation>已向端口 %2 发送 %1 字节。无法得知是否有程序在监听。</translation>
+    </message>
+    <message>
+        <source>Not sent: there is no link.</source>
+        <translation>未发送：没有链接。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1 is no port.</source>
+        <translation>未发送：%1 不是端口号。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1 bytes do not fit into one message.</source>
+        <translation>未发送：一条消息容不下 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1</source>
+        <translation>未发送：%1</translation>
+    </message>
+    <message>
+        <source>There is no link.</source>
+        <translation>没有链接。</translation>
+    </message>
+    <message>
+        <source>The link is open: messages are received on port %1.</source>
+        <translation>链接已打开：在端口 %1 接收消息。</translation>
+    </message>
+    <message>
+        <source>No link to receive on: port %1 could not be opened. Messages can be sent all the same.
+Reason: %2</source>
+        <translation>没有可接收的链接：无法打开端口 %1。仍然可以发送消息。
+原因：%2</translation>
+    </message>
+    <message>
+        <source>Sent: %1     Not sent: %2     Received: %3</source>
+        <translation>已发送：%1     未发送：%2     已接收：%3</translation>
+    </message>
+    <message>
+        <source>Latest error: %1</source>
+        <translation>最近的错误：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was received yet.
+What an EDA tool sends to port %1 of this computer is listed here.</source>
+        <translation>还没有收到消息。
+EDA 工具发到本机端口 %1 的消息会列在这里。</translation>
+    </message>
+    <message>
+        <source>Nothing can be received.
+Close the program that has port %1, then start this one again.</source>
+        <translation>无法接收消息。
+请关闭占用端口 %1 的程序，再重新启动本程序。</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清空(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>字节</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>The selected message, indented</source>
+        <translation>选中的消息（已缩进）</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::EnginePane</name>
     <message>
         <source>Record</source>
@@ -582,6 +719,69 @@
     </message>
 </context>
 <context>
+    <name>Workbench::JsonText</name>
+    <message>
+        <source>A JSON object is expected, which begins with a brace.</source>
+        <translation>应为以花括号开头的 JSON 对象。</translation>
+    </message>
+    <message>
+        <source>Line %1, near column %2: %3</source>
+        <translation>第 %1 行，第 %2 列附近：%3</translation>
+    </message>
+    <message>
+        <source>a name in quotation marks, a comma or a closing brace is expected.</source>
+        <translation>应为带引号的名称、逗号或右花括号。</translation>
+    </message>
+    <message>
+        <source>a comma or a closing bracket is expected.</source>
+        <translation>应为逗号或右方括号。</translation>
+    </message>
+    <message>
+        <source>a colon is expected after the name.</source>
+        <translation>名称后面应有冒号。</translation>
+    </message>
+    <message>
+        <source>a name or a value is expected.</source>
+        <translation>应为名称或值。</translation>
+    </message>
+    <message>
+        <source>the text ends too early.</source>
+        <translation>文本过早结束。</translation>
+    </message>
+    <message>
+        <source>this is not a number.</source>
+        <translation>这不是数字。</translation>
+    </message>
+    <message>
+        <source>the string has no closing quotation mark.</source>
+        <translation>字符串缺少结束的引号。</translation>
+    </message>
+    <message>
+        <source>the string has a backslash that begins no escape.</source>
+        <translation>字符串中的反斜杠不构成转义。</translation>
+    </message>
+    <message>
+        <source>the string is not UTF-8.</source>
+        <translation>字符串不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>the values are nested too deeply.</source>
+        <translation>值嵌套得太深。</translation>
+    </message>
+    <message>
+        <source>the text is too long.</source>
+        <translation>文本太长。</translation>
+    </message>
+    <message>
+        <source>more text follows after the object.</source>
+        <translation>对象之后还有多余的文本。</translation>
+    </message>
+    <message>
+        <source>a value is expected.</source>
+        <translation>应为一个值。</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::LayerTable</name>
     <message>
         <source>Row</source>
@@ -791,6 +991,10 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
     <message>
         <source>&amp;Attributes</source>
         <translation>属性(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;EDA link</source>
+        <translation>EDA 链接(&amp;E)</translation>
     </message>
     <message>
         <source>Information</source>
