@@ -10,9 +10,12 @@
 #include <json/reader.h>
 #include <json/value.h>
 
+#include <QCryptographicHash>
+
 #include <algorithm>
 #include <limits>
 #include <random>
+#include <set>
 #include <sstream>
 
 using namespace KVCAM::UIAPI;
@@ -136,6 +139,25 @@ TEST_F(UnifiedResultTest, MixedKindsAreMergedByTheComparison)
         std::vector<int> values = valuesOf(expected);
         std::sort(values.begin(), values.end());
         EXPECT_EQ(values, valuesOf(entries));
+    }
+}
+
+// Whether it always holds, never does, or says something else each time it is asked.
+TEST_F(UnifiedResultTest, NoComparisonLosesAnElement)
+{
+    std::mt19937 random(3);
+    for (std::size_t count = 0; count < 70; ++count) {
+        std::vector<std::string> items(count);
+        std::generate(items.begin(), items.end(), [i = 0]() mutable { return std::to_string(i++); });
+        auto const sorted = [](std::vector<std::string> list, auto before) {
+            boundedMergeSort(list, before);
+            return list;
+        };
+        EXPECT_EQ(sorted(items, [](auto const &, auto const &) { return false; }), items);
+        auto const turned = sorted(items, [](auto const &, auto const &) { return true; });
+        EXPECT_TRUE(std::equal(turned.rbegin(), turned.rend(), items.begin(), items.end())) << count;
+        auto const anyhow = sorted(items, [&](auto const &, auto const &) { return random() % 2 == 0; });
+        EXPECT_TRUE(std::is_permutation(anyhow.begin(), anyhow.end(), items.begin(), items.end())) << count;
     }
 }
 
@@ -317,6 +339,28 @@ TEST_F(UnifiedResultTest, TheSummaryTakesTheFirstEntryOfTheFirstGroupThatHasOne)
     rest[UNIFIED_LINES].clear();
     result.setRestResult(rest);
     EXPECT_FALSE(summary()[4]["allLayerMinTrackWidth"].isMember("result"));
+}
+
+// All keys, labels, units and escapes, and where the blanks stand: readers compare summaries as text.
+TEST_F(UnifiedResultTest, TheSummaryIsKnownToTheByte)
+{
+    auto const digest = [&] {
+        std::string text;
+        result.jsonoutput(text);
+        return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256).toHex();
+    };
+    EXPECT_EQ(digest(), "86e77442e7cb31af829ab0d3eed25e96b4d18c5457daeede2268d1f18c02b1df");
+    std::map<unified_check_items, Layers> rest;
+    rest[UNIFIED_LINES]["a"].groups[0] = {{1, 5, {}}, {1, 2, {}}};
+    rest[UNIFIED_LINES]["b"].groups[2] = {{1, 7, {}}};
+    rest[UNIFIED_LINES]["c"];
+    rest[UNIFIED_SMD_TO_SMD]["层"].groups[3] = {{1, 6, {}}};
+    rest[UNIFIED_SLOTS]["s"].groups = {Entries(4), {}, {}, Entries(3)};
+    rest[UNIFIED_ANNULAR_RINGS]["a"];
+    rest[UNIFIED_ANNULAR_RINGS][""].groups[0] = {{1, least, {}}};
+    result.setRestResult(rest);
+    result.setJobStep("job\t\"1\"\\é😀/\x7f\x01", "p c\nb");
+    EXPECT_EQ(digest(), "a8dc8b84ead4ba938af8e9ed8fee1a2fb45409791482b96bd29e54237ecd8332");
 }
 
 } // namespace
