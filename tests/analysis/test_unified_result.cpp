@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <random>
 #include <set>
 #include <sstream>
@@ -74,16 +75,24 @@ TEST_F(UnifiedResultTest, TheFirstsKindChoosesThePointOfBoth)
         check_info a, b;
         bool expected;
     };
-    std::vector<int> const low{9, 9, 1, 9, 1, 9, 1, 9};
-    std::vector<int> const high{0, 0, 2, 0, 2, 0, 2, 0};
+    // Less at the point in question alone, and more at every other one.
+    auto const less = [](std::size_t point, int value, int others) {
+        std::vector<int> points(8, others);
+        points[point] = value;
+        return points;
+    };
     std::vector<Row> rows;
-    for (int const kind : {0, 1, 2, 3, 5}) {
+    for (auto const & [kind, point] : std::map<int, std::size_t>{{0, 2}, {1, 4}, {2, 4}, {3, 6}, {5, 2}}) {
+        std::vector<int> const low = less(point, 1, 9);
+        std::vector<int> const high = less(point, 2, 0);
         rows.push_back({{kind, 0, low}, {kind, 0, high}, true});
         rows.push_back({{kind, 0, high}, {kind, 0, low}, false});
         rows.push_back({{kind, 0, low}, {kind, 0, low}, false});
         rows.push_back({{kind, 0, {}}, {kind, 0, high}, false});
-        rows.push_back({{kind, 0, low}, {kind, 0, {0, 0}}, false});
+        rows.push_back({{kind, 0, less(point, -1, 0)}, {kind, 0, {0, 0}}, false}); // none is not 0
     }
+    std::vector<int> const low(8, 1);
+    std::vector<int> const high(8, 2);
     for (int const kind : {-1, 4, 6, 100, least}) {
         rows.push_back({{kind, 0, high}, {0, 0, low}, true});
         rows.push_back({{kind, 0, {}}, {kind, 0, {}}, true});

@@ -110,7 +110,8 @@ constexpr std::array rings{
     Ring{"r600", "0.2 0 0 P 0 0", "r300", 2, 0},  // breaks out
     Ring{"r600", "0.4 0 0 P 0 0", "r300", 2, -1}, // beside the pad
     Ring{"r300", "0 0 0 P 0 0", "r300", 0, 0},
-    Ring{"r300", "0 0 0 P 0 0", "r300", 1, -1}, // drilled away
+    Ring{"r300", "0 0 0 P 0 0", "r300", 1, -1},   // drilled away
+    Ring{"r152.4", "0 0 0 P 0 0", "r6 I", 1, -1}, // in the other unit, where 6 mil come out a little less
     Ring{"r300", "0.01 0 0 P 0 0", "r300", 1, 0},
     Ring{"r400", "0 0 0 P 0 0", "r300", 1, 50},
     Ring{"s1000", "0.2 0 0 P 0 0", "r300", 0, 500 - 200 - 150},

@@ -90,7 +90,7 @@ TEST_F(ChecksTest, SmdPadsOfOnePlaceAreOne)
 {
     makeJob(row(1, "TOP", "MIXED"));
     fill("top", "UNITS=INCH\n$0 s40\n$1 r20\n$2 s1016 M\n@0 .SMD\n"
-                "P 0 0 0 P 0 0 ;0\nP 0 0 0 P 0 1 ;0\nP 0 0 2 P 0 0\n" // turned, and in the other unit
+                "P 0 0 2 P 0 0\nP 0 0 0 P 0 0 ;0\nP 0 0 0 P 0 1 ;0\n" // in the other unit, and turned
                 "P 0.1 0 1 P 0 0 ;0\nP 0.11 0.1 1 P 0 0\nP 0.11 0 1 N 0 0 ;0\n"
                 "P 1 0 1 P 0 0 ;0\n");
     ASSERT_TRUE(open());
