@@ -126,6 +126,7 @@ constexpr std::array rings{
     Ring{"oval_h2000x1000", "0.8 0 0 P 0 0", "r100", 0, 500 - 300 - 50},
     Ring{"donut_r1000x200", "0 0 0 P 0 0", "r300", 0, 350},
     Ring{"donut_r1000x200", "0.06 0 0 P 0 0", "r300", 0, -1}, // the opening shows beside the hole
+    Ring{"donut_r1000x200\n$1 r1000", "0 0 0 P 0 0\nP 0 0 1 P 0 0", "r100", 0, 450}, // a solid pad fills it
     Ring{"thr1000x800x0x4x100", "0 0 0 P 0 0", "r300", 0, -1},
     Ring{"bar", "-0.5 0 0 P 0 0", "r100", 0, -1},
     Ring{"r0", "0 0 0 P 0 0", "r300", 0, -1},
