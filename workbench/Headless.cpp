@@ -5,6 +5,7 @@
 #include "EdaPage.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
+#include "HeadlessLayers.h"
 #include "LayerTable.h"
 #include "MainWindow.h"
 #include "ResultsPage.h"
@@ -313,9 +314,10 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
 {
     // Nobody is there to close a box: the texts go into the facts instead.
     QJsonArray boxes;
-    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
+    auto questions = Ext::MessageAnswer::No;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
         boxes.append(message.text);
-        return message.kind == Ext::MessageKind::Question ? Ext::MessageAnswer::No : Ext::MessageAnswer::Ok;
+        return message.kind == Ext::MessageKind::Question ? questions : Ext::MessageAnswer::Ok;
     });
     Camera camera(commandLine.output);
     window.show();
@@ -333,6 +335,12 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     QJsonObject const eda = useEdaPage(window, camera);
     window.showPage("board");
     QJsonObject const hotkeys = useHotkeys(window, camera);
+    TakePicture const take = [&camera](QWidget & widget, QString const & name) { camera.take(widget, name); };
+    QJsonObject const filters = useFilters(window, take);
+    questions = Ext::MessageAnswer::Yes;
+    QJsonObject const references = useReferences(window, take);
+    QJsonObject const undone = useUndo(window, session, take);
+    questions = Ext::MessageAnswer::No;
     QJsonObject const feature = useFeatureDialog(window, session, camera);
     QJsonObject const analysis = useResults(window, commandLine, camera);
     QJsonArray errors = errorsOf(session, camera);
@@ -347,6 +355,9 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"symbols", toJson(symbolRows(session.job()))},
             {"EDA link", eda},
             {"hot keys", hotkeys},
+            {"filters", filters},
+            {"references", references},
+            {"undo", undone},
             {"feature", feature},
             {"analysis", analysis},
             {"configuration", configuration()},
