@@ -7,6 +7,7 @@
 #include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -15,6 +16,7 @@
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 
 namespace Workbench {
 
@@ -85,6 +87,17 @@ void setKind(QTableWidgetItem & item)
     }
 }
 
+void addMessage(QTableWidget & table, QTime time, QByteArray const & bytes)
+{
+    int const row = table.rowCount();
+    addRow(table, {time.toString("HH:mm:ss.zzz"), QString::number(bytes.size()), {}, preview(bytes)},
+           {SizeColumn});
+    table.item(row, TextColumn)->setToolTip({}); // where it could pass for rich text
+    table.item(row, TimeColumn)->setData(Qt::UserRole, bytes);
+    table.item(row, KindColumn)->setData(Qt::UserRole, JsonText(bytes).isObject());
+    setKind(*table.item(row, KindColumn));
+}
+
 } // namespace
 
 EdaPage::EdaPage(QWidget * parent) : QWidget(parent)
@@ -153,6 +166,7 @@ QWidget * EdaPage::makeReceiver()
 {
     m_messages = makeTable({{}, {}, {}, {}});
     m_messages->setWordWrap(false);
+    m_messages->horizontalHeader()->setResizeContentsPrecision(0); // by the rows in sight
     m_content = new QPlainTextEdit;
     setFixedFont(*m_content, "content");
     m_content->setReadOnly(true);
@@ -186,6 +200,9 @@ QWidget * EdaPage::makeReceiver()
     layout->addLayout(head);
     layout->addWidget(m_stack, 1);
 
+    m_listing = new QTimer(this);
+    m_listing->setSingleShot(true);
+    connect(m_listing, &QTimer::timeout, this, &EdaPage::listWaiting);
     connect(m_messages, &QTableWidget::itemSelectionChanged, this, &EdaPage::showMessage);
     connect(m_clear, &QPushButton::clicked, this, &EdaPage::clear);
     setTextsNowAndLater(*box, [this, box, title] {
@@ -306,24 +323,33 @@ void EdaPage::setReceiverTexts()
     showMessage();
 }
 
+// Messages may come faster than a table takes them. They are listed together when the event loop gets to it.
 void EdaPage::receive(QByteArray const & bytes)
+{
+    m_waiting.push_back({QTime::currentTime(), bytes});
+    if (m_waiting.size() > kept) {
+        m_waiting.pop_front();
+    }
+    if (!m_listing->isActive()) {
+        m_listing->start();
+    }
+}
+
+void EdaPage::listWaiting()
 {
     // Whoever looks at the latest wants to see the next; whoever looks at another keeps it.
     bool const follows = m_messages->currentRow() == m_messages->rowCount() - 1;
-    int const row = m_messages->rowCount();
-    addRow(*m_messages,
-           {QTime::currentTime().toString("HH:mm:ss.zzz"), QString::number(bytes.size()), {}, preview(bytes)},
-           {SizeColumn});
-    m_messages->item(row, TextColumn)->setToolTip({}); // where it could pass for rich text
-    m_messages->item(row, TimeColumn)->setData(Qt::UserRole, bytes);
-    m_messages->item(row, KindColumn)->setData(Qt::UserRole, JsonText(bytes).isObject());
-    setKind(*m_messages->item(row, KindColumn));
-    if (m_messages->rowCount() > kept) {
-        m_messages->removeRow(0);
+    int const surplus = m_messages->rowCount() + static_cast<int>(m_waiting.size()) - kept;
+    if (surplus > 0) {
+        m_messages->model()->removeRows(0, surplus);
     }
+    for (Message const & message : m_waiting) {
+        addMessage(*m_messages, message.time, message.bytes);
+    }
+    m_waiting.clear();
     m_stack->setCurrentIndex(1);
     m_clear->setEnabled(true);
-    if (follows) {
+    if (follows || m_messages->currentRow() < 0) {
         m_messages->selectRow(m_messages->rowCount() - 1);
     }
     showState();
@@ -347,6 +373,8 @@ void EdaPage::showMessage()
 
 void EdaPage::clear()
 {
+    m_listing->stop();
+    m_waiting.clear();
     m_messages->setRowCount(0);
     m_stack->setCurrentIndex(0);
     m_clear->setEnabled(false);

@@ -5,6 +5,7 @@
 #include <QTime>
 #include <QWidget>
 
+#include <deque>
 #include <optional>
 
 class QLabel;
@@ -13,6 +14,7 @@ class QPushButton;
 class QSpinBox;
 class QStackedWidget;
 class QTableWidget;
+class QTimer;
 
 namespace Workbench {
 
@@ -37,6 +39,11 @@ protected:
     void showEvent(QShowEvent * event) override;
 
 private:
+    struct Message
+    {
+        QTime time;
+        QByteArray bytes;
+    };
     struct Sending
     {
         QTime time;
@@ -53,6 +60,7 @@ private:
     void showResult();
     void showState();
     void receive(QByteArray const & bytes);
+    void listWaiting();
     void showMessage();
     void clear();
 
@@ -65,7 +73,9 @@ private:
     QLabel * m_result;
     std::optional<Sending> m_sending; ///< the latest
     QLabel * m_empty;
-    QStackedWidget * m_stack; ///< what is shown while there are no messages, and the messages
+    QStackedWidget * m_stack;      ///< what is shown while there are no messages, and the messages
+    std::deque<Message> m_waiting; ///< to be listed
+    QTimer * m_listing;            ///< lists them
     QTableWidget * m_messages;
     QPlainTextEdit * m_content; ///< of the selected message
     QLabel * m_finding;         ///< on the selected message

@@ -77,9 +77,12 @@ public:
     EdaPage page;
 };
 
-void arrive(QByteArray const & bytes)
+void arrive(QByteArrayList const & datagrams)
 {
-    emit Ext::edaLink()->datagramReceived(bytes);
+    for (QByteArray const & bytes : datagrams) {
+        emit Ext::edaLink()->datagramReceived(bytes);
+    }
+    QApplication::processEvents(); // which lists them
 }
 
 TEST(JsonTexts, AnObjectIsOneAndTheRestIsToldWithItsPlace)
@@ -168,15 +171,15 @@ TEST(EdaPages, MessagesAreListedAsPlainTextAndInvalidOnesAreMarked)
     Page const page;
     EXPECT_FALSE(page.messages().isVisible());
     EXPECT_FALSE(page.button("&Clear").isEnabled());
-    arrive("{\"a\":[1]}");
+    arrive({"{\"a\":[1]}"});
     EXPECT_EQ(page.content(), "{\n    \"a\": [\n        1\n    ]\n}");
-    arrive("<b>no</b>\n\xe5\xb1\x82\x01 JSON");
+    arrive({"<b>no</b>\n\xe5\xb1\x82\x01 JSON"});
     EXPECT_EQ(page.content(), "<b>no</b>\n层\x01 JSON");
     EXPECT_TRUE(page.label("finding").startsWith("A JSON object is expected"));
-    arrive(QByteArray("a\0b", 3));
+    arrive({QByteArray("a\0b", 3)});
     EXPECT_EQ(page.content(), QString::fromUtf8("a\0b", 3));
-    arrive("");
-    arrive("{\"b\":\"" + QByteArray(60000, 'x') + "\"}");
+    arrive({""});
+    arrive({"{\"b\":\"" + QByteArray(60000, 'x') + "\"}"});
     QString const rows = "9 | JSON object | {\"a\":[1]}\n"
                          "19 | invalid | <b>no</b> 层\uFFFD JSON !\n"
                          "3 | invalid | a\uFFFDb !\n"
@@ -200,7 +203,7 @@ TEST(EdaPages, MessagesAreListedAsPlainTextAndInvalidOnesAreMarked)
     page.button("&Clear").click();
     EXPECT_EQ(page.content() + page.label("finding"), "");
     EXPECT_FALSE(page.messages().isVisible());
-    arrive("{}");
+    arrive({"{}"});
     EXPECT_EQ(page.rows(), "2 | JSON object | {}");
 }
 
@@ -208,9 +211,11 @@ TEST(EdaPages, TheLatestAreKeptAndASelectedOneStaysInView)
 {
     Page const page;
     auto const arriveAll = [](int from, int to) {
+        QByteArrayList datagrams;
         for (int i = from; i < to; ++i) {
-            arrive("{\"n\":" + QByteArray::number(i) + '}');
+            datagrams.append("{\"n\":" + QByteArray::number(i) + '}');
         }
+        arrive(datagrams);
     };
     auto const at = [&page](int row) { return page.messages().item(row, 3)->text(); };
     arriveAll(0, EdaPage::kept);
@@ -225,6 +230,15 @@ TEST(EdaPages, TheLatestAreKeptAndASelectedOneStaysInView)
     arriveAll(EdaPage::kept + 2, EdaPage::kept + 3); // the selected one is dropped
     EXPECT_EQ(page.content(), "{\n    \"n\": 3\n}");
     EXPECT_EQ(page.messages().selectedItems().size(), 4);
+    arriveAll(1000, 1000 + 3 * EdaPage::kept); // at once
+    EXPECT_EQ(page.messages().rowCount(), EdaPage::kept);
+    EXPECT_EQ(at(0), "{\"n\":2000}");
+    EXPECT_EQ(page.content(), "{\n    \"n\": 2499\n}") << "nothing that was selected is left";
+
+    emit Ext::edaLink()->datagramReceived("{}");
+    page.button("&Clear").click();
+    QApplication::processEvents();
+    EXPECT_EQ(page.rows(), "");
 }
 
 // What another process answers comes back through the sockets.
