@@ -74,12 +74,13 @@ using CheckProgress = std::function<bool(int done, int total)>;
 /// What was not measured and why, in a sentence.
 struct NotChecked
 {
-    std::string table; ///< "signal" or "drill": whose `item` it is, or what kind of layer
-    int item = -1;     ///< -1: no single one; the reason tells what of the layer was not seen
-    std::string layer; ///< empty: every layer
-    std::string reason;
+    std::string table;  ///< "signal" or "drill": whose `item` it is, or what kind of layer
+    int item = -1;      ///< -1: no single one; the reason tells what of the layer was not seen
+    std::string layer;  ///< empty: every layer
+    std::string reason; ///< an English sentence
 };
 
+/// What runChecks() measured.
 struct CheckResults
 {
     /// By copper layer; each has every signal item above, empty where there is nothing to measure.

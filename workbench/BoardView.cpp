@@ -24,6 +24,7 @@ constexpr double zoomStep = 1.5;   // of a key
 constexpr double wheelStep = 1.25; // of a notch of the wheel
 constexpr double panStep = 0.1;    // of a key, in widths of the view
 constexpr double closeZoom = 4;    // at which a place is looked at
+constexpr double reach = 3;        // pixels beside a feature that still select it
 constexpr int slice = 25;          // milliseconds of drawing before the program looks for events again
 
 } // namespace
@@ -65,6 +66,7 @@ void BoardView::showLayer(layer_info const & layer)
 {
     m_shown = picture(layer);
     m_marked = -1;
+    m_selected.clear();
     updateLayers();
 }
 
@@ -77,6 +79,7 @@ void BoardView::showBeside(std::vector<layer_info> layers)
 void BoardView::reload()
 {
     m_pictures.clear();
+    m_selected.clear();
     if (!layer().empty()) {
         m_shown = picture(layer_info(m_shown->info()));
     }
@@ -106,6 +109,12 @@ void BoardView::updateLayers()
 void BoardView::markFeature(int feature)
 {
     m_marked = feature;
+    update();
+}
+
+void BoardView::select(FeatureSelection::Set features)
+{
+    m_selected = std::move(features);
     update();
 }
 
@@ -214,6 +223,9 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     m_picture.paint(painter);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (m_port.scale() > 0) {
+        FeatureSelection::paint(painter, shapes(), m_selected, boardToWidget(), m_port.visible());
+    }
     paintMarkedFeature(painter);
     paintMarks(painter, m_marks, boardToWidget());
     if (m_port.scale() > 0) {
@@ -305,7 +317,11 @@ void BoardView::mouseMoveEvent(QMouseEvent * event)
 void BoardView::mouseReleaseEvent(QMouseEvent * event)
 {
     if (event->button() == Qt::LeftButton && !m_isDragging) {
-        pickAt(event->localPos());
+        if ((event->modifiers() & Qt::ControlModifier) != 0) {
+            selectAt(event->localPos());
+        } else {
+            pickAt(event->localPos());
+        }
     }
     m_isDragging = false;
 }
@@ -324,6 +340,20 @@ void BoardView::pickAt(QPointF pixel)
             emit padPicked(list[i].feature);
             return;
         }
+    }
+}
+
+void BoardView::selectAt(QPointF pixel)
+{
+    int const feature = m_port.scale() > 0 ? FeatureSelection::featureAt(shapes(), m_port.toBoard(pixel),
+                                                                         reach / m_port.scale())
+                                           : -1;
+    if (feature >= 0) {
+        if (m_selected.erase(feature) == 0) {
+            m_selected.insert(feature);
+        }
+        update();
+        emit selectionChanged();
     }
 }
 
@@ -351,6 +381,9 @@ void BoardView::keyPressEvent(QKeyEvent * event)
         return zoomOut();
     case Qt::Key_Home:
         return zoomHome();
+    case Qt::Key_Delete:
+        emit deleteAsked();
+        return;
     default:
         return QWidget::keyPressEvent(event);
     }

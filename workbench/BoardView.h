@@ -2,6 +2,7 @@
 
 #include "BoardPicture.h"
 #include "BoardSigns.h"
+#include "FeatureSelection.h"
 #include "LayerPicture.h"
 #include "ViewPort.h"
 
@@ -19,9 +20,9 @@ namespace Workbench {
 /// registers itself when it is made and shows lengths in its own unit. The library never forgets a view, so
 /// views live as long as the window.
 ///
-/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or a pad. With the focus
-/// the arrows move, + and - zoom, Home shows the whole board. Zoom and place stay when the layer or the unit
-/// changes.
+/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or a pad, Ctrl and a
+/// click selects a feature or takes it out. With the focus the arrows move, + and - zoom, Home shows the
+/// whole board. Zoom and place stay when the layer or the unit changes.
 class BoardView : public QWidget
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ class BoardView : public QWidget
 public:
     BoardView(std::string job, std::string step, int unit, QWidget * parent = nullptr);
 
+    std::string const & job() const { return m_job; }
     std::string const & step() const { return m_step; }
     /// What the library calls this view.
     void const * handle() const { return static_cast<QWidget const *>(this); }
@@ -43,6 +45,10 @@ public:
     void finishPicture();
     /// Marks a feature of the shown layer; -1 marks none.
     void markFeature(int feature);
+    /// Makes these features of the shown layer the selected ones; none are when another layer is shown or the
+    /// layers are read again.
+    void select(FeatureSelection::Set features);
+    FeatureSelection::Set const & selected() const { return m_selected; }
     std::vector<KVCAM::API::feature_info> const & features() const { return m_shown->features(); }
     /// Their pictures, in the same order.
     std::vector<FeatureShape> const & shapes() const { return m_shown->shapes(); }
@@ -90,6 +96,10 @@ signals:
     /// The pointer is at another place of the board; the library's coordinate read-out holds it.
     void pointerMoved();
     void padPicked(int feature);
+    /// The Delete key: the selected features shall go.
+    void deleteAsked();
+    /// The user has selected a feature or taken it out.
+    void selectionChanged();
 
 protected:
     bool event(QEvent * event) override;
@@ -110,6 +120,7 @@ private:
     void beginPicture();
     void goOnWithPicture();
     void pickAt(QPointF pixel);
+    void selectAt(QPointF pixel);
     void paintMarkedFeature(QPainter & painter) const;
 
     std::string m_job;
@@ -124,6 +135,7 @@ private:
     bool m_isStale = true; // the picture is to be begun anew
     QTimer m_goOn;
     int m_marked = -1;
+    FeatureSelection::Set m_selected;
     QPointF m_pressedAt;
     QPointF m_draggedTo;
     bool m_isDragging = false;

@@ -2,8 +2,10 @@
 
 #include "BoardView.h"
 #include "CheatSheet.h"
+#include "EdaPage.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
+#include "HeadlessLayers.h"
 #include "LayerTable.h"
 #include "MainWindow.h"
 #include "ResultsPage.h"
@@ -15,10 +17,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QJsonArray>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPixmap>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -233,6 +237,29 @@ void showPicture(MainWindow & window, Camera & camera)
     view.zoomHome();
 }
 
+// Shows the link with a message that the program sends to itself. Where another program has the port,
+// nothing is sent: it would be that program's.
+QJsonObject useEdaPage(MainWindow & window, Camera & camera)
+{
+    window.showPage("eda");
+    Ext::EdaLinkState const before = Ext::edaLinkState();
+    if (before.bound) {
+        auto & page = *window.findChild<EdaPage *>();
+        page.compose({{"command", "show"}, {"nets", QJsonArray{"GND", "VCC"}}}, EdaPage::receivePort);
+        QEventLoop waiting;
+        QObject::connect(Ext::edaLink(), &ConnectEDA::datagramReceived, &waiting, &QEventLoop::quit);
+        QTimer::singleShot(2000, &waiting, &QEventLoop::quit);
+        page.send();
+        waiting.exec();
+        setEdaPort(before.port);
+    }
+    camera.take(window, "eda.png");
+    Ext::EdaLinkState const state = Ext::edaLinkState();
+    return {{"bound", state.bound},
+            {"sent", static_cast<int>(state.sent)},
+            {"received", static_cast<int>(state.received)}};
+}
+
 QJsonObject configuration()
 {
     QJsonArray templates;
@@ -287,9 +314,10 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
 {
     // Nobody is there to close a box: the texts go into the facts instead.
     QJsonArray boxes;
-    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
+    auto questions = Ext::MessageAnswer::No;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
         boxes.append(message.text);
-        return message.kind == Ext::MessageKind::Question ? Ext::MessageAnswer::No : Ext::MessageAnswer::Ok;
+        return message.kind == Ext::MessageKind::Question ? questions : Ext::MessageAnswer::Ok;
     });
     Camera camera(commandLine.output);
     window.show();
@@ -304,8 +332,15 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
         window.showPage(page);
         camera.take(window, page + ".png");
     }
+    QJsonObject const eda = useEdaPage(window, camera);
     window.showPage("board");
     QJsonObject const hotkeys = useHotkeys(window, camera);
+    TakePicture const take = [&camera](QWidget & widget, QString const & name) { camera.take(widget, name); };
+    QJsonObject const filters = useFilters(window, take);
+    questions = Ext::MessageAnswer::Yes;
+    QJsonObject const references = useReferences(window, take);
+    QJsonObject const undone = useUndo(window, session, take);
+    questions = Ext::MessageAnswer::No;
     QJsonObject const feature = useFeatureDialog(window, session, camera);
     QJsonObject const analysis = useResults(window, commandLine, camera);
     QJsonArray errors = errorsOf(session, camera);
@@ -318,7 +353,11 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"steps", steps},
             {"layers", layersOf(session)},
             {"symbols", toJson(symbolRows(session.job()))},
+            {"EDA link", eda},
             {"hot keys", hotkeys},
+            {"filters", filters},
+            {"references", references},
+            {"undo", undone},
             {"feature", feature},
             {"analysis", analysis},
             {"configuration", configuration()},

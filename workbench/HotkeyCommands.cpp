@@ -62,8 +62,9 @@ struct HotkeyCommands::Command
 
 HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
     {KP_NoFunction, ""},
-    {KP_AllSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select all")},
-    {KP_ReverseSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Reverse the selection")},
+    {KP_AllSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select all"), &HotkeyCommands::selectAll},
+    {KP_ReverseSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Reverse the selection"),
+     &HotkeyCommands::reverseSelection},
     {KP_ShowCAMGuide, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "CAM guide")},
     {KP_Nequtive, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Negative"),
      &HotkeyCommands::changeNegative},
@@ -100,7 +101,8 @@ HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
      &HotkeyCommands::centre},
     {KP_CopyOrignal, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Copy the original")},
     {KP_Tranform, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Transform")},
-    {KP_SelectSameFeature, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select the same features")},
+    {KP_SelectSameFeature, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select the same features"),
+     &HotkeyCommands::selectSame},
     {KP_ChangeUnit, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Unit"), &HotkeyCommands::changeUnit},
     {KP_Measure, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Measure"), &HotkeyCommands::measure},
     {KK_SnapSkeleton, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: skeleton"), &HotkeyCommands::snap,
@@ -188,6 +190,11 @@ QString HotkeyCommands::run(FuncCode code)
     return result.isEmpty() ? text(code) : text(code) + ": " + result;
 }
 
+void HotkeyCommands::perform(FuncCode code)
+{
+    emit told(run(code));
+}
+
 // A key that its receiver ignores is sent to the parents as well: only the first receiver counts.
 bool HotkeyCommands::isOurs(QObject * receiver) const
 {
@@ -254,7 +261,35 @@ QString HotkeyCommands::changeWidth(int /*argument*/)
 QString HotkeyCommands::undo(int /*argument*/)
 {
     m_window.undoLast();
-    return {};
+    BoardView const & shown = *m_window.currentView();
+    return tr("operations left: %1")
+        .arg(Ext::undoCount(QString::fromStdString(shown.job()), QString::fromStdString(shown.step())));
+}
+
+QString HotkeyCommands::selectionText() const
+{
+    return tr("selected features: %1").arg(m_window.currentView()->selected().size());
+}
+
+QString HotkeyCommands::selectAll(int /*argument*/)
+{
+    BoardView & shown = *m_window.currentView();
+    shown.select(FeatureSelection::all(shown.features()));
+    return selectionText();
+}
+
+QString HotkeyCommands::reverseSelection(int /*argument*/)
+{
+    BoardView & shown = *m_window.currentView();
+    shown.select(FeatureSelection::reversed(shown.selected(), shown.features()));
+    return selectionText();
+}
+
+QString HotkeyCommands::selectSame(int /*argument*/)
+{
+    BoardView & shown = *m_window.currentView();
+    shown.select(FeatureSelection::withSame(shown.selected(), shown.features()));
+    return selectionText();
 }
 
 QString HotkeyCommands::refresh(int /*argument*/)

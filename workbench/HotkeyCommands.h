@@ -26,6 +26,9 @@ public:
     /// Runs the command of a code on the view in front. The result is one line for the status bar.
     QString run(KVCAM::FuncCode code);
 
+    /// Runs the command as its key would, which tells the result.
+    void perform(KVCAM::FuncCode code);
+
     /// What a code means, in a few words.
     static QString text(KVCAM::FuncCode code);
     /// Whether this host has something for the code.
@@ -51,6 +54,10 @@ private:
     QString changeProfile(int);
     QString changeWidth(int);
     QString undo(int);
+    QString selectAll(int);
+    QString reverseSelection(int);
+    QString selectSame(int);
+    QString selectionText() const;
     QString refresh(int);
     QString home(int);
     QString move(int direction);

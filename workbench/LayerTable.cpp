@@ -3,13 +3,23 @@
 #include "LayerPicture.h"
 #include "TableTools.h"
 
+#include <QBrush>
+#include <QColor>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 namespace Workbench {
+
+namespace {
+
+constexpr QRgb errorColour = 0xffb00020;
+constexpr QRgb greyColour = 0xffa4a9b3;
+
+} // namespace
 
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
@@ -66,7 +76,7 @@ void LayerTable::show(Session const & session, std::size_t step)
         QTableWidgetItem & cell = *item(rowCount() - 1, 5);
         if (!error.isEmpty()) {
             cell.setToolTip(error);
-            cell.setForeground(QColor("#b00020"));
+            cell.setForeground(QColor(errorColour));
         } else if (!features) {
             cell.setToolTip(tr("the job holds only the tables of this layer"));
         }
@@ -74,7 +84,38 @@ void LayerTable::show(Session const & session, std::size_t step)
     for (int const row : hidden) {
         setRowHidden(row, true);
     }
+    applyMatches();
     setCurrentCell(selected, 0);
+}
+
+void LayerTable::showMatches(std::vector<bool> matches, bool hidesOthers)
+{
+    m_matches = std::move(matches);
+    m_hidesOthers = hidesOthers;
+    applyMatches();
+}
+
+void LayerTable::applyMatches()
+{
+    QSignalBlocker const blocker(this); // colours are no ticks
+    int const rows = std::min(rowCount(), static_cast<int>(m_matches.size()));
+    for (int row = 0; row < rows; ++row) {
+        bool const isOut = !m_matches[static_cast<std::size_t>(row)];
+        setRowHidden(row, isOut && m_hidesOthers);
+        for (int column = 0; column < columnCount(); ++column) {
+            QTableWidgetItem & cell = *item(row, column);
+            if (cell.foreground().color().rgb() != errorColour) {
+                cell.setData(Qt::ForegroundRole, isOut ? QVariant(QBrush(QColor(greyColour))) : QVariant());
+            }
+        }
+    }
+    for (int column = 0; column < columnCount(); ++column) {
+        if (horizontalHeader()->sectionResizeMode(column) == QHeaderView::ResizeToContents) {
+            resizeColumnToContents(column); // the header has measured the rows that stood there halfway
+        }
+    }
+    updateGeometries();
+    viewport()->update();
 }
 
 std::vector<std::size_t> LayerTable::tickedLayers() const

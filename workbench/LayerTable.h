@@ -24,6 +24,8 @@ public:
     /// The indices of the ticked layers, ascending.
     std::vector<std::size_t> tickedLayers() const;
     void tickAll(bool on);
+    /// Hides or greys the layers that do not match; one entry for each layer.
+    void showMatches(std::vector<bool> matches, bool hidesOthers);
     using QTableWidget::show;
 
 signals:
@@ -36,6 +38,10 @@ protected:
 
 private:
     void setTitles();
+    void applyMatches();
+
+    std::vector<bool> m_matches; ///< empty: every layer matches
+    bool m_hidesOthers = false;
 };
 
 } // namespace Workbench

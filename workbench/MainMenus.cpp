@@ -44,6 +44,8 @@ void MainWindow::makeMenus()
     file->addSeparator();
     addEntry(*file, QT_TR_NOOP("&Quit"), "", [this] { close(); });
 
+    makeEditMenu();
+
     QMenu * view = addMenu(QT_TR_NOOP("&View"));
     view->addAction(m_unit);
     view->addSeparator();
@@ -97,7 +99,9 @@ void MainWindow::showHelp()
          tr("The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks "
             "a mark.\nWith the picture in focus the arrow keys move the board, + and - zoom, Home "
             "shows the whole board.\nTicked layers are drawn beside the selected one; Space in the "
-            "list of layers sets and clears the tick.")});
+            "list of layers sets and clears the tick.\nCtrl and a click selects a feature or takes it out; "
+            "the "
+            "Delete key deletes what is selected.")});
 }
 
 void MainWindow::showAbout()

@@ -3,12 +3,15 @@
 #include "AttributesPage.h"
 #include "BoardView.h"
 #include "CheatSheet.h"
+#include "EdaPage.h"
 #include "EnginePane.h"
 #include "FeatureDialog.h"
+#include "FilterBar.h"
 #include "HotkeyCommands.h"
 #include "LanguageChange.h"
 #include "LayerTable.h"
 #include "LogPane.h"
+#include "ReferencesPage.h"
 #include "SettingsPage.h"
 #include "SymbolsPage.h"
 #include "TemplatesPage.h"
@@ -36,7 +39,7 @@ using namespace KVCAM::UIAPI;
 
 } // namespace
 
-MainWindow::MainWindow(Session const & session, LogLines const & log, CommandLine const & commandLine)
+MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine const & commandLine)
     : m_session(session)
     , m_database(commandLine.output + "/uiapi-engine.sqlite")
     , m_formFile(commandLine.output + "/feature-form.json")
@@ -93,6 +96,8 @@ void MainWindow::makeViews(int unit)
         });
         connect(view, &BoardView::padPicked, this, &MainWindow::openFeature);
         connect(view, &BoardView::portChanged, this, &MainWindow::showZoom);
+        connect(view, &BoardView::selectionChanged, this, &MainWindow::tellSelection);
+        connect(view, &BoardView::deleteAsked, this, &MainWindow::deleteSelected);
         m_views.push_back(view);
     }
 }
@@ -111,13 +116,12 @@ QWidget * MainWindow::makeBoardPage(LogLines const & log)
     });
     m_outline = new QLabel;
     m_outline->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_layers = new LayerTable;
     m_engine = new EnginePane;
 
     auto * sides = new QSplitter(Qt::Horizontal);
     sides->setObjectName("sides");
     sides->setChildrenCollapsible(false);
-    sides->addWidget(titled(QT_TR_NOOP("Layers"), m_layers));
+    sides->addWidget(titled(QT_TR_NOOP("Layers"), makeLayerPane()));
     auto * middle = new QWidget;
     auto * layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -179,22 +183,22 @@ void MainWindow::addPages()
     addResults();
     m_symbols = new SymbolsPage(m_session.job(), m_views.front()->handle());
     addPage(m_symbols, "symbols", QT_TR_NOOP("S&ymbols"));
+    m_references = new ReferencesPage(m_session);
+    addPage(m_references, "references", QT_TR_NOOP("Refere&nces"));
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
     addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
     addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
+    addPage(new EdaPage, "eda", QT_TR_NOOP("E&DA link"));
 }
 
 void MainWindow::addHotkeys()
 {
-    auto * told = new QLabel;
-    told->setObjectName("hot keys");
-    told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
-    statusBar()->insertWidget(0, told, 20);                            // all but what the pointer needs
-    auto * commands = new HotkeyCommands(*this, *m_pages->widget(0), this);
-    connect(commands, &HotkeyCommands::told, told, [told](QString const & text) {
-        told->setText(text);
-        told->setToolTip(text); // where the window is too narrow
-    });
+    m_told = new QLabel;
+    m_told->setObjectName("hot keys");
+    m_told->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
+    statusBar()->insertWidget(0, m_told, 20);                            // all but what the pointer needs
+    m_commands = new HotkeyCommands(*this, *m_pages->widget(0), this);
+    connect(m_commands, &HotkeyCommands::told, this, &MainWindow::tell);
 }
 
 CheatSheet * MainWindow::showKeys()
@@ -206,18 +210,6 @@ CheatSheet * MainWindow::showKeys()
     m_keys->show();
     m_keys->raise();
     return m_keys;
-}
-
-void MainWindow::refresh()
-{
-    currentView()->reload();
-    showStep();
-}
-
-void MainWindow::undoLast()
-{
-    undo(QString::fromStdString(m_session.job()), QString::fromStdString(currentView()->step()), this);
-    refresh();
 }
 
 FeatureDialog * MainWindow::openFeature(int feature)
@@ -337,6 +329,8 @@ void MainWindow::showStep()
     setStepConfigToAPI(currentView()->handle()); // the engine holds the state of the view in front
     m_engine->refresh();
     m_symbols->setView(currentView()->handle());
+    m_filter->setStep(currentView()->step());
+    m_references->setStep(currentView()->step());
     refreshUnit();
     showZoom();
 }
@@ -344,6 +338,7 @@ void MainWindow::showStep()
 void MainWindow::showLayer(int layer)
 {
     closeFeature(); // its pad belongs to the layer that was shown
+    m_filter->setLayer(layer);
     if (layer >= 0) {
         currentView()->showLayer(m_session.layers().at(static_cast<std::size_t>(layer)).info);
     }

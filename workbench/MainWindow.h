@@ -23,8 +23,11 @@ class BoardView;
 class CheatSheet;
 class EnginePane;
 class FeatureDialog;
+class FilterBar;
+class HotkeyCommands;
 class LayerTable;
 class LogLines;
+class ReferencesPage;
 class ResultsPage;
 class SymbolsPage;
 struct Mark;
@@ -42,8 +45,8 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Nothing is owned; session and log outlive the window.
-    MainWindow(Session const & session, LogLines const & log, CommandLine const & commandLine);
+    /// Nothing is owned; session and log outlive the window. The session's counts follow what is deleted.
+    MainWindow(Session & session, LogLines const & log, CommandLine const & commandLine);
 
     std::vector<BoardView *> const & views() const { return m_views; }
     BoardView * currentView() const;
@@ -59,6 +62,9 @@ public:
     void refresh();
     /// Takes the latest operation on the step in front back; the library asks first.
     void undoLast();
+    /// Deletes the selected features of the shown layer, without a question: it can be undone. The result is
+    /// how many went; when that fails, the window says why.
+    int deleteSelected();
     /// Brings a step to the front, in whatever case it is named. False for an unknown one.
     bool showStepOf(QString const & name);
     ResultsPage & results() const { return *m_results; }
@@ -85,6 +91,11 @@ private:
     void listPages();
     void setTexts();
     void addPages();
+    QWidget * makeLayerPane();
+    void makeEditMenu();
+    void setEditTexts();
+    void tellSelection();
+    void tell(QString const & text);
     void addResults();
     void markMeasurement(QString const & step, QString const & layer, Mark const & mark);
     void addHotkeys();
@@ -102,13 +113,17 @@ private:
     void refreshUnit();
     void switchSaveFlag(bool on);
 
-    Session const & m_session;
+    Session & m_session;
     QString m_database;
     QString m_formFile;
     std::vector<BoardView *> m_views;
     QTabWidget * m_pages = nullptr;
     QTabWidget * m_steps = nullptr;
     LayerTable * m_layers = nullptr;
+    FilterBar * m_filter = nullptr;
+    ReferencesPage * m_references = nullptr;
+    HotkeyCommands * m_commands = nullptr;
+    std::vector<QAction *> m_editActions; ///< in the order of the menu
     EnginePane * m_engine = nullptr;
     ResultsPage * m_results = nullptr;
     SymbolsPage * m_symbols = nullptr;
@@ -117,6 +132,7 @@ private:
     QLabel * m_outline = nullptr;
     QLabel * m_pointer = nullptr;
     QLabel * m_zoom = nullptr;
+    QLabel * m_told = nullptr; ///< what the latest command did
     QAction * m_unit = nullptr;
     QAction * m_saveFlag = nullptr;
     QAction * m_featureAction = nullptr;

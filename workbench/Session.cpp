@@ -80,6 +80,16 @@ void Session::countFeatures(Layer & layer) const
     }
 }
 
+void Session::recount(std::size_t step)
+{
+    for (Layer & layer : m_layers) {
+        if (step < layer.features.size() && layer.features[step]) {
+            layer.features[step] =
+                KVCAM::Embedded::featureCount(m_job, m_steps.at(step).name, layer.info.name);
+        }
+    }
+}
+
 bool Session::hasStep(QString const & name) const
 {
     return std::any_of(m_steps.begin(), m_steps.end(), [&](Step const & step) {

@@ -35,6 +35,10 @@ public:
     /// may be shown. Reads the layer's tools as well. What fails is kept in the layer and logged at ERROR.
     void countFeatures(Layer & layer) const;
 
+    /// Asks again how many features the layers have in a step, those that were counted before: an operation
+    /// has changed them.
+    void recount(std::size_t step);
+
     std::string const & job() const { return m_job; }
     QString directory() const { return m_directory; }
     std::vector<Step> const & steps() const { return m_steps; }

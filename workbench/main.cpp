@@ -54,6 +54,9 @@ void initialiseLog(char const * program)
 // Qt's remarks about the desktop belong into the pane with the rest, not between the lines of the terminal.
 void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QString const & text)
 {
+    if (text.contains("propagateSizeHints")) {
+        return; // the offscreen platform says so of every window
+    }
     bool const isError = type == QtCriticalMsg || type == QtFatalMsg;
     google::LogMessage("Qt", 0, isError ? google::GLOG_ERROR : google::GLOG_INFO).stream()
         << qPrintable(text);

@@ -21,10 +21,10 @@ using KVCAM::API::signal_layers_checks_items;
 /// of their own; non-finite levels are possible.
 struct Analysis_Ranges_Record
 {
-    std::string name; ///< UTF-8
-    double redLv = 0;
-    double yellowLv = 0;
-    double greenLv = 0;
+    std::string name;    ///< UTF-8
+    double redLv = 0;    ///< "RedLv"
+    double yellowLv = 0; ///< "YellowLv"
+    double greenLv = 0;  ///< "GreenLv"
 };
 
 /// A check item under which results of several engine checks are gathered. Only the numbers that the library
@@ -50,7 +50,7 @@ enum unified_check_items : int
 /// then empty), or the four lists of a signal-layer check.
 struct unified_check_result
 {
-    std::array<std::vector<check_info>, 4> groups;
+    std::array<std::vector<check_info>, 4> groups; ///< 0 to 3
 };
 
 } // namespace KVCAM::UIAPI

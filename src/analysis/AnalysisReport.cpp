@@ -5,6 +5,7 @@
 #include "units/UnitConversion.h"
 
 #include <algorithm>
+#include <functional>
 #include <string_view>
 #include <utility>
 

@@ -23,13 +23,13 @@ using SeverityCounts = std::array<std::size_t, severityCount>;
 /// One measurement of a check.
 struct ReportEntry
 {
-    std::string layer;
+    std::string layer;                 ///< name, UTF-8
     int level = 0;                     ///< the engine's level, or the number of the list or group
     int value = 0;                     ///< the engine's own value, in mil rounded down
     std::optional<double> micrometres; ///< the measured value, see getMeasureValue(); none where kind and
                                        ///< number of points do not agree
     std::optional<KVCAM::API::point> position; ///< micrometres; the middle where two places were measured
-    Severity severity = Severity::None;
+    Severity severity = Severity::None;        ///< by the levels of its category
 };
 
 /// The measurements of one category.
@@ -39,15 +39,15 @@ struct ReportCategory
     int number = 0;    ///< of the category in the table, or of the unified item
     std::string name;  ///< "Lines"; "#63" for a number that the table lacks
     std::optional<Analysis_Ranges_Record> levels; ///< as setLevels() gave them
-    SeverityCounts counts{};
-    std::vector<ReportEntry> entries; ///< by layer, level and the engine's order
+    SeverityCounts counts{};                      ///< of its entries
+    std::vector<ReportEntry> entries;             ///< by layer, level and the engine's order
 };
 
 /// A check that was not run.
 struct NotChecked
 {
-    std::string table;
-    int number = 0;
+    std::string table;  ///< as in ReportCategory
+    int number = 0;     ///< as in ReportCategory
     std::string name;   ///< filled from the table when empty
     std::string reason; ///< one sentence, UTF-8
 };
@@ -77,6 +77,7 @@ public:
     /// Adds unified items, under `unifiedTable`.
     UIAPICOMMON_EXPORT void
     addRest(std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results);
+    /// Adds a check that was not run; a name that is left empty is filled from the table.
     UIAPICOMMON_EXPORT void addNotChecked(NotChecked check);
 
     /// Replaces the levels of a table and grades its entries again; what is added later is graded by them.
@@ -86,9 +87,12 @@ public:
                                       std::vector<Analysis_Ranges_Record> const & records);
     /// The unit of all levels, mil until set; grades everything again.
     UIAPICOMMON_EXPORT void setLevelUnit(LevelUnit unit);
+    /// The unit of all levels.
     LevelUnit levelUnit() const { return m_unit; }
 
+    /// As setJobStep() gave it.
     std::string const & job() const { return m_job; }
+    /// As setJobStep() gave it.
     std::string const & step() const { return m_step; }
     /// In the order drill, signal, unified, within each by number. Valid until the report changes.
     std::vector<ReportCategory> const & categories() const { return m_categories; }
@@ -96,6 +100,7 @@ public:
     UIAPICOMMON_EXPORT ReportCategory const * find(std::string const & table, int number) const;
     /// Over all categories.
     UIAPICOMMON_EXPORT SeverityCounts counts() const;
+    /// In the order in which they were added. Valid until the report changes.
     std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
 
 private:
@@ -118,6 +123,7 @@ UIAPICOMMON_EXPORT std::vector<std::string> categoryTables();
 /// The level that gave an entry its severity, in the levels' unit; none for Severity::None.
 UIAPICOMMON_EXPORT std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry);
 
+/// How a report is written.
 enum class ReportFormat : int
 {
     Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
@@ -128,8 +134,8 @@ enum class ReportFormat : int
 /// Whether a file was written, and if not why, as one translated sentence.
 struct SaveResult
 {
-    bool saved = false;
-    QString reason; ///< empty when saved
+    bool saved = false; ///< whether the file holds what it was to hold
+    QString reason;     ///< empty when saved
 };
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON

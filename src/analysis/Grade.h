@@ -17,6 +17,7 @@ enum class Severity : int
     Yellow,
     Red
 };
+/// How many severities there are.
 inline constexpr int severityCount = 4;
 
 /// Which side of a level is the bad one.
@@ -53,11 +54,11 @@ UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record,
 /// on white; letter and icon say the same without colour.
 struct SeverityMark
 {
-    Severity severity = Severity::None;
-    unsigned rgb = 0;       ///< 0xRRGGBB
-    char letter = '-';      ///< 'R', 'Y', 'G', '-'
-    char const * icon = ""; ///< one character, UTF-8
-    char const * name = ""; ///< "red", "yellow", "green", "none", as reports write it
+    Severity severity = Severity::None; ///< which is shown
+    unsigned rgb = 0;                   ///< 0xRRGGBB
+    char letter = '-';                  ///< 'R', 'Y', 'G', '-'
+    char const * icon = "";             ///< one character, UTF-8
+    char const * name = "";             ///< "red", "yellow", "green", "none", as reports write it
 };
 
 /// By severity, ascending.

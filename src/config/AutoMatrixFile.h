@@ -8,7 +8,7 @@ namespace KVCAM::UIAPI::Ext {
 /// directory, `name` being what saveCurrentAutoMatrixTmp() and deleteAutoMatrix() take.
 struct AutoMatrixFile
 {
-    QString name;
+    QString name; ///< without ".json"
     /// The file holds no other template, so that saving or deleting it loses none. One that was left out
     /// because its index was taken counts.
     bool isAlone = true;

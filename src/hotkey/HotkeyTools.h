@@ -14,17 +14,19 @@ namespace KVCAM::UIAPI::Ext {
 /// The user's hot-key file, relative to the current directory.
 inline constexpr char const * hotkeyFile = "./config/keyboard.json";
 
+/// Keys and the function that they give.
 struct HotkeyBinding
 {
-    FuncCode code = KP_NoFunction;
-    QString name;         ///< the function's name in the file; empty for the code that has none
-    QString keys;         ///< "Ctrl+A", or "S, G" for a sequence; the same in every language
-    bool answers = false; ///< whether pressing the keys gives this code
+    FuncCode code = KP_NoFunction; ///< the function
+    QString name;                  ///< the function's name in the file; empty for the code that has none
+    QString keys;                  ///< "Ctrl+A", or "S, G" for a sequence; the same in every language
+    bool answers = false;          ///< whether pressing the keys gives this code
 };
 
 /// All bindings, those of single keys first, each kind in the order in which it is searched.
 UIAPICOMMON_EXPORT std::vector<HotkeyBinding> bindings();
 
+/// What can be odd about an element of the file or about the bindings.
 enum class HotkeyFindingKind : int
 {
     Unreadable,      ///< the file cannot be read or is not JSON: loading it changes nothing
@@ -38,9 +40,10 @@ enum class HotkeyFindingKind : int
     WithoutKey       ///< no keys give the function
 };
 
+/// One odd thing.
 struct HotkeyFinding
 {
-    HotkeyFindingKind kind = HotkeyFindingKind::Unreadable;
+    HotkeyFindingKind kind = HotkeyFindingKind::Unreadable; ///< what it is
     int element = -1; ///< which element of the file, counting from 0; -1 for the whole
     QString text;     ///< one English sentence for people
 };
@@ -61,6 +64,7 @@ struct HotkeyTrial
 /// nothing does not, and what hotkeyReport() would say of the rest.
 UIAPICOMMON_EXPORT HotkeyTrial tryLoadHotkeys(QString const & path);
 
+/// What became of an export.
 struct HotkeyExport
 {
     QString error;                      ///< why nothing was written; empty on success
@@ -75,11 +79,12 @@ UIAPICOMMON_EXPORT HotkeyExport exportHotkeys(QString const & path);
 /// sequence begins with it is what continuations() tells.
 UIAPICOMMON_EXPORT QString pendingKey();
 
+/// A key that completes a sequence.
 struct HotkeyContinuation
 {
-    QString key; ///< the key to press
-    FuncCode code = KP_NoFunction;
-    QString name; ///< the function's name in the file
+    QString key;                   ///< the key to press
+    FuncCode code = KP_NoFunction; ///< what the sequence gives
+    QString name;                  ///< the function's name in the file
 };
 
 /// The plain keys that give a code when pressed next, in the order of the bindings.

@@ -51,6 +51,7 @@ public:
 
     /// Adds a key to the buffer of the last two plain keys.
     void buffAddKey(Qt::Key key);
+    /// Empties the buffer.
     void buffClear();
     /// Whether the buffer holds two keys that can be a sequence: both in 48 to 122, or both in 12 to 15.
     bool buffHasGroup();

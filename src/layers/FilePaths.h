@@ -37,7 +37,7 @@ fs::path resolved(fs::path const & path);
 /// Whether `path`, which is resolved, is `directory` or lies in it.
 bool isWithin(fs::path const & path, fs::path const & directory);
 /// Whether a directory must not be removed: a root, the current directory, the home directory, and what holds
-/// one of these two. True also when that cannot be told.
+/// one of these two. True also for one that cannot be resolved.
 bool isProtected(fs::path const & directory);
 
 } // namespace KVCAM::UIAPI::FilePaths

@@ -64,17 +64,24 @@ void makeRemovable(fs::path const & path)
     }
 }
 
-void makeTreeRemovable(fs::path const & directory)
+/// Makes what is in a directory removable, and lists the links in it.
+Entries makeTreeRemovable(fs::path const & directory)
 {
     makeRemovable(directory);
+    Entries links;
     std::error_code error;
     fs::recursive_directory_iterator entry(directory, fs::directory_options::skip_permission_denied, error);
     for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error)) {
         makeRemovable(entry->path());
-        if (kindOf(entry->path()) != Kind::Directory) {
+        Kind const kind = kindOf(entry->path());
+        if (kind == Kind::Link) {
+            links.push_back(entry->path());
+        }
+        if (kind != Kind::Directory) {
             entry.disable_recursion_pending();
         }
     }
+    return links;
 }
 
 } // namespace
@@ -93,7 +100,10 @@ bool JobFiles::delDir(std::string const & path, bool removeSelf)
     if (kind != Kind::Directory || isProtected(directory)) {
         return false;
     }
-    makeTreeRemovable(directory);
+    // Links go first: to a standard library a junction may be a directory, which it would empty.
+    for (fs::path const & link : makeTreeRemovable(directory)) {
+        removeOne(link);
+    }
     Entries entries;
     bool done = listEntries(directory, entries);
     for (fs::path const & entry : entries) {
@@ -164,11 +174,12 @@ private:
             fs::copy_symlink(from, part, error);
         }
         if (!error) {
+            makeRemovable(to);           // where a read-only file is not replaced
             fs::rename(part, to, error); // a link in its place is replaced, not followed
         }
         if (error) {
-            std::error_code ignored;
-            fs::remove(part, ignored);
+            makeRemovable(part);
+            removeOne(part);
         }
         return !error;
     }

@@ -19,19 +19,22 @@ enum class LayerWordFault : int
     NoSuchLayer  ///< no layer of the matrix is of that type, context, side or polarity
 };
 
+/// A word of a request that selects nothing.
 struct LayerFilterWord
 {
-    QString key;
-    QString word;
-    LayerWordFault fault = LayerWordFault::UnknownWord;
+    QString key;                                        ///< "type", "context", "side" or "pos"
+    QString word;                                       ///< as it stands in the request
+    LayerWordFault fault = LayerWordFault::UnknownWord; ///< why
 };
 
+/// Whether a layer is selected.
 struct LayerVerdict
 {
-    std::string name;
+    std::string name;  ///< of the layer
     QString refusedBy; ///< the first key that does not accept the layer; empty when it is selected
 };
 
+/// What a request makes of the layers of a job.
 struct LayerFilterReport
 {
     std::string error;                      ///< the engine's text when the matrix cannot be read, else empty

@@ -224,14 +224,16 @@ public:
     void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
     // --- Ranges -------------------------------------------------------------------------------------------
-    // See the flat functions of the same names.
 
+    ///@{
+    /// See the flat function of the same name.
     void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const;
     int getRangesEnum(std::string const & tableName, std::string const & categoryName) const;
     std::string getRangesName(std::string const & tableName, int number) const;
     void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                            std::string const & levelName, double value);
     void getERFList(std::string folder, std::vector<std::string> & names) const;
+    ///@}
 
     // --- Layer filters ------------------------------------------------------------------------------------
     // A request maps the keys "type", "context", "side" and "pos" to words joined by "|"; other keys are
@@ -258,7 +260,9 @@ public:
     /// Replaces `out` by the affected layers and then the work layer unless it is one of them; at the start
     /// one empty name.
     void getAffectLayers(std::vector<std::string> & out) const;
+    /// Replaces the affected layers, which getAffectLayers() gives.
     void setAffectLayers(std::vector<std::string> const & layers);
+    /// Replaces the work layer, empty at the start.
     void setWorkLayer(std::string const & layer);
 
     /// The board layers of a job that analysis and DFM checks read, see the flat function of this name. Lets
@@ -266,8 +270,9 @@ public:
     std::vector<std::string> getAnalyzeAndDFMLayers(QString const & job, QString const & step) const;
 
     // --- References and drawing layers --------------------------------------------------------------------
-    // See the flat functions of these names.
 
+    ///@{
+    /// See the flat function of the same name.
     void setReferenceLayerInfo(std::string const & job, std::string const & step,
                                std::vector<ReferenceLayerInfo> const & layers);
     std::vector<ReferenceLayerInfo> getReferenceLayerInfo(std::string const & job,
@@ -292,20 +297,25 @@ public:
     void setDrawingLayer(std::string const & job, std::string const & step,
                          std::vector<std::pair<std::string, int>> const & layers);
     void resetDrawingLayer(std::string const & job);
+    ///@}
+    ///@{
     /// The text of the latest setJobJsonPara(), empty at the start. There is one for all jobs: the name is
     /// not used.
     std::string getJobJsonPara(std::string job) const;
     void setJobJsonPara(std::string const & job, std::string const & text);
+    ///@}
 
     // --- Files of jobs ------------------------------------------------------------------------------------
-    // See the flat functions of these names.
 
+    ///@{
+    /// See the flat function of the same name.
     bool saveTextByIODevice(QString const & path, QString const & text) const;
     bool checkDir(QString const & path) const;
     bool delDir(std::string const & path, bool removeSelf) const;
     bool copyDirectoryFile(QString const & from, QString const & to, bool overwrite) const;
     bool deletGeneJob(std::string const & job) const;
     QString formatTime(qint64 milliseconds) const;
+    ///@}
 
     // --- EDA link and plug-in commands --------------------------------------------------------------------
     // Copies of this object share the one link. Without a link nothing happens.

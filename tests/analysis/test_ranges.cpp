@@ -8,6 +8,8 @@
 #include "uiapi/flat/Attributes.h"
 #include "uiapi/flat/Ranges.h"
 
+#include <QCryptographicHash>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -70,6 +72,7 @@ TEST_F(RangesTest, EveryTableHasItsNumbers)
         {"PowerGroundOptRanges", 27, 1, 27, -1, "Via AirGap Not Modified", "Build Donut"},
     };
     Names tables;
+    QCryptographicHash vocabulary(QCryptographicHash::Sha256);
     for (Row const & row : rows) {
         tables.emplace_back(row.table);
         int count = 0;
@@ -81,13 +84,20 @@ TEST_F(RangesTest, EveryTableHasItsNumbers)
             if (isAssigned && number != 85) {
                 EXPECT_EQ(getRangesEnum(row.table, name), number);
             }
-            count += isAssigned ? 1 : 0;
+            if (isAssigned) {
+                ++count;
+                vocabulary.addData((QString(row.table) + ' ' + QString::number(number) + ' ').toUtf8());
+                vocabulary.addData((QString::fromStdString(name) + '\n').toUtf8());
+            }
         }
         EXPECT_EQ(count, row.count) << row.table;
         EXPECT_EQ(getRangesName(row.table, row.first), row.firstName);
         EXPECT_EQ(getRangesName(row.table, row.last), row.lastName);
     }
     EXPECT_EQ(Ext::categoryTables(), tables);
+    // Of the whole vocabulary, taken down once: none of the names is ever to change.
+    EXPECT_EQ(vocabulary.result().toHex(),
+              "2db1ebcbe1250dc66c8d1fb0f184bebbdff4f5c088e885f2a9047e8c0f921a79");
 }
 
 TEST_F(RangesTest, SpellingsAreTheProgramsOwn)

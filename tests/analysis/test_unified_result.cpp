@@ -10,9 +10,13 @@
 #include <json/reader.h>
 #include <json/value.h>
 
+#include <QCryptographicHash>
+
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <random>
+#include <set>
 #include <sstream>
 
 using namespace KVCAM::UIAPI;
@@ -71,16 +75,24 @@ TEST_F(UnifiedResultTest, TheFirstsKindChoosesThePointOfBoth)
         check_info a, b;
         bool expected;
     };
-    std::vector<int> const low{9, 9, 1, 9, 1, 9, 1, 9};
-    std::vector<int> const high{0, 0, 2, 0, 2, 0, 2, 0};
+    // Less at the point in question alone, and more at every other one.
+    auto const less = [](std::size_t point, int value, int others) {
+        std::vector<int> points(8, others);
+        points[point] = value;
+        return points;
+    };
     std::vector<Row> rows;
-    for (int const kind : {0, 1, 2, 3, 5}) {
+    for (auto const & [kind, point] : std::map<int, std::size_t>{{0, 2}, {1, 4}, {2, 4}, {3, 6}, {5, 2}}) {
+        std::vector<int> const low = less(point, 1, 9);
+        std::vector<int> const high = less(point, 2, 0);
         rows.push_back({{kind, 0, low}, {kind, 0, high}, true});
         rows.push_back({{kind, 0, high}, {kind, 0, low}, false});
         rows.push_back({{kind, 0, low}, {kind, 0, low}, false});
         rows.push_back({{kind, 0, {}}, {kind, 0, high}, false});
-        rows.push_back({{kind, 0, low}, {kind, 0, {0, 0}}, false});
+        rows.push_back({{kind, 0, less(point, -1, 0)}, {kind, 0, {0, 0}}, false}); // none is not 0
     }
+    std::vector<int> const low(8, 1);
+    std::vector<int> const high(8, 2);
     for (int const kind : {-1, 4, 6, 100, least}) {
         rows.push_back({{kind, 0, high}, {0, 0, low}, true});
         rows.push_back({{kind, 0, {}}, {kind, 0, {}}, true});
@@ -136,6 +148,25 @@ TEST_F(UnifiedResultTest, MixedKindsAreMergedByTheComparison)
         std::vector<int> values = valuesOf(expected);
         std::sort(values.begin(), values.end());
         EXPECT_EQ(values, valuesOf(entries));
+    }
+}
+
+// Whether it always holds, never does, or says something else each time it is asked.
+TEST_F(UnifiedResultTest, NoComparisonLosesAnElement)
+{
+    std::mt19937 random(3);
+    for (std::size_t count = 0; count < 70; ++count) {
+        std::vector<std::string> items(count);
+        std::generate(items.begin(), items.end(), [i = 0]() mutable { return std::to_string(i++); });
+        auto const sorted = [](std::vector<std::string> list, auto before) {
+            boundedMergeSort(list, before);
+            return list;
+        };
+        EXPECT_EQ(sorted(items, [](auto const &, auto const &) { return false; }), items);
+        auto const turned = sorted(items, [](auto const &, auto const &) { return true; });
+        EXPECT_TRUE(std::equal(turned.rbegin(), turned.rend(), items.begin(), items.end())) << count;
+        auto const anyhow = sorted(items, [&](auto const &, auto const &) { return random() % 2 == 0; });
+        EXPECT_TRUE(std::is_permutation(anyhow.begin(), anyhow.end(), items.begin(), items.end())) << count;
     }
 }
 
@@ -317,6 +348,28 @@ TEST_F(UnifiedResultTest, TheSummaryTakesTheFirstEntryOfTheFirstGroupThatHasOne)
     rest[UNIFIED_LINES].clear();
     result.setRestResult(rest);
     EXPECT_FALSE(summary()[4]["allLayerMinTrackWidth"].isMember("result"));
+}
+
+// All keys, labels, units and escapes, and where the blanks stand: readers compare summaries as text.
+TEST_F(UnifiedResultTest, TheSummaryIsKnownToTheByte)
+{
+    auto const digest = [&] {
+        std::string text;
+        result.jsonoutput(text);
+        return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256).toHex();
+    };
+    EXPECT_EQ(digest(), "86e77442e7cb31af829ab0d3eed25e96b4d18c5457daeede2268d1f18c02b1df");
+    std::map<unified_check_items, Layers> rest;
+    rest[UNIFIED_LINES]["a"].groups[0] = {{1, 5, {}}, {1, 2, {}}};
+    rest[UNIFIED_LINES]["b"].groups[2] = {{1, 7, {}}};
+    rest[UNIFIED_LINES]["c"];
+    rest[UNIFIED_SMD_TO_SMD]["层"].groups[3] = {{1, 6, {}}};
+    rest[UNIFIED_SLOTS]["s"].groups = {Entries(4), {}, {}, Entries(3)};
+    rest[UNIFIED_ANNULAR_RINGS]["a"];
+    rest[UNIFIED_ANNULAR_RINGS][""].groups[0] = {{1, least, {}}};
+    result.setRestResult(rest);
+    result.setJobStep("job\t\"1\"\\é😀/\x7f\x01", "p c\nb");
+    EXPECT_EQ(digest(), "a8dc8b84ead4ba938af8e9ed8fee1a2fb45409791482b96bd29e54237ecd8332");
 }
 
 } // namespace

@@ -110,7 +110,8 @@ constexpr std::array rings{
     Ring{"r600", "0.2 0 0 P 0 0", "r300", 2, 0},  // breaks out
     Ring{"r600", "0.4 0 0 P 0 0", "r300", 2, -1}, // beside the pad
     Ring{"r300", "0 0 0 P 0 0", "r300", 0, 0},
-    Ring{"r300", "0 0 0 P 0 0", "r300", 1, -1}, // drilled away
+    Ring{"r300", "0 0 0 P 0 0", "r300", 1, -1},   // drilled away
+    Ring{"r152.4", "0 0 0 P 0 0", "r6 I", 1, -1}, // in the other unit, where 6 mil come out a little less
     Ring{"r300", "0.01 0 0 P 0 0", "r300", 1, 0},
     Ring{"r400", "0 0 0 P 0 0", "r300", 1, 50},
     Ring{"s1000", "0.2 0 0 P 0 0", "r300", 0, 500 - 200 - 150},
@@ -125,6 +126,7 @@ constexpr std::array rings{
     Ring{"oval_h2000x1000", "0.8 0 0 P 0 0", "r100", 0, 500 - 300 - 50},
     Ring{"donut_r1000x200", "0 0 0 P 0 0", "r300", 0, 350},
     Ring{"donut_r1000x200", "0.06 0 0 P 0 0", "r300", 0, -1}, // the opening shows beside the hole
+    Ring{"donut_r1000x200\n$1 r1000", "0 0 0 P 0 0\nP 0 0 1 P 0 0", "r100", 0, 450}, // a solid pad fills it
     Ring{"thr1000x800x0x4x100", "0 0 0 P 0 0", "r300", 0, -1},
     Ring{"bar", "-0.5 0 0 P 0 0", "r100", 0, -1},
     Ring{"r0", "0 0 0 P 0 0", "r300", 0, -1},

@@ -26,32 +26,35 @@ TEST_F(ChecksTest, TracksAndPadsAreTheDrawnCopperOfTheBoard)
     write("jobs/board/steps/pcb/profile", profile);
     fill("top", "UNITS=MM\n$0 r200\n$1 r0\n$2 s100\n$3 rect300x500\n$4 rect0x500\n$5 oval400x250\n"
                 "@0 .nomenclature\n@1 .String\n@2 .other\n&0 text\n"
-                "L 1 1 5 1 0 P 0 ;2=0\n"     // 0
-                "A 5 5 7 5 6 5 2 P 0 Y\n"    // 1: an arc
-                "L 1 2 2 3 2 P 0\n"          // 2: a square pen, aslant
-                "L 1 4 2 4 3 P 0;;ID=7\n"    // 3: a rectangular one, across
-                "L 9 9 9 9 5 P 0\n"          // 4: a dot
-                "L 0 45 0 40 0 P 0\n"        // 5: along the edge
-                "L 0.09 45 0.09 40 0 P 0\n"  // 6: within half its width
-                "L 0.2 45 0.2 40 0 P 0\n"    // 7: beside it
-                "L 30 21 30 29 0 P 0\n"      // 8: along the opening
-                "L 40 40 60 40 0 P 0\n"      // 9: leaves the board
-                "L 19 25 31 25 0 P 0\n"      // 10: spans the opening
-                "L 60 60 61 60 0 P 0\n"      // 11: outside
-                "L 1 6 2 6 0 N 0\n"          // 12: erases
-                "L 1 6 2 6 0 P 0 ;0\n"       // 13: nomenclature
-                "L 1 6 2 6 0 P 0 ;2=0,1=0\n" // 14: text
-                "L 1 6 2 6 1 P 0\n"          // 15: without width
-                "L 1 7 2 7 2 P 0\n"          // 16: to be deleted
+                "L 1 1 5 1 0 P 0 ;2=0\n"              // 0
+                "A 5 5 7 5 6 5 2 P 0 Y\n"             // 1: an arc
+                "L 1 2 2 3 2 P 0\n"                   // 2: a square pen, aslant
+                "L 1 4 2 4 3 P 0;;ID=7\n"             // 3: a rectangular one, across
+                "L 9 9 9 9 5 P 0\n"                   // 4: a dot
+                "L 0 45 0 40 0 P 0\n"                 // 5: along the edge
+                "L 0.09 45 0.09 40 0 P 0\n"           // 6: within half its width
+                "L 0.2 45 0.2 40 0 P 0\n"             // 7: beside it
+                "L 30 21 30 29 0 P 0\n"               // 8: along the opening
+                "L 40 40 60 40 0 P 0\n"               // 9: leaves the board
+                "L 19 25 31 25 0 P 0\n"               // 10: spans the opening
+                "L 60 60 61 60 0 P 0\n"               // 11: outside
+                "L 1 6 2 6 0 N 0\n"                   // 12: erases
+                "L 1 6 2 6 0 P 0 ;0\n"                // 13: nomenclature
+                "L 1 6 2 6 0 P 0 ;2=0,1=0\n"          // 14: text
+                "L 1 6 2 6 1 P 0\n"                   // 15: without width
+                "L 1 7 2 7 2 P 0\n"                   // 16: to be deleted
+                "A 35 48.5 34 49.5 35 49.5 0 P 0 Y\n" // 17: a quarter circle
+                "A 25 48.5 24 49.5 25 49.5 0 P 0 N\n" // 18: the other three, out of the board
                 "P 3 3 0 P 0 0\nP 25 25 0 P 0 0\nP 3 4 3 P 0 8 30\nP 50 50 5 P 0 4\nP 50.1 50 0 P 0 0\n"
                 "P 4 4 0 N 0 0\nP 4 4 0 P 0 0 ;0\nP 4 4 4 P 0 0\nP 3 3 0 P 0 0\n");
     ASSERT_TRUE(open()) << Embedded::lastError();
     deleteFeature(16);
     auto const results = check();
-    EXPECT_EQ(texts(signal(results, "top", 46)),
-              (Texts{"1 3: 5000 5000 7000 5000 100", "1 5: 1000 2000 2000 3000 141",
-                     "1 7: 1000 1000 5000 1000 200", "1 7: 200 45000 200 40000 200",
-                     "1 9: 9000 9000 9000 9000 250", "1 19: 1000 4000 2000 4000 500"}));
+    EXPECT_EQ(
+        texts(signal(results, "top", 46)),
+        (Texts{"1 3: 5000 5000 7000 5000 100", "1 5: 1000 2000 2000 3000 141", "1 7: 1000 1000 5000 1000 200",
+               "1 7: 200 45000 200 40000 200", "1 7: 35000 48500 34000 49500 200",
+               "1 9: 9000 9000 9000 9000 250", "1 19: 1000 4000 2000 4000 500"}));
     EXPECT_EQ(texts(signal(results, "top", 45)),
               (Texts{"5 7: 3000 3000 200 200", "5 7: 3000 3000 200 200", "5 9: 50000 50000 250 400",
                      "5 11: 3000 4000 300 500"}));
@@ -59,7 +62,7 @@ TEST_F(ChecksTest, TracksAndPadsAreTheDrawnCopperOfTheBoard)
         EXPECT_TRUE(signal(results, "top", 46, list).empty());
     }
     ASSERT_TRUE(API::Undo("board", "pcb"));
-    EXPECT_EQ(signal(check(), "top", 46).size(), 7U);
+    EXPECT_EQ(signal(check(), "top", 46).size(), 8U);
 }
 
 TEST_F(ChecksTest, ValueIsWholeMilAndNeverMore)
@@ -90,7 +93,7 @@ TEST_F(ChecksTest, SmdPadsOfOnePlaceAreOne)
 {
     makeJob(row(1, "TOP", "MIXED"));
     fill("top", "UNITS=INCH\n$0 s40\n$1 r20\n$2 s1016 M\n@0 .SMD\n"
-                "P 0 0 0 P 0 0 ;0\nP 0 0 0 P 0 1 ;0\nP 0 0 2 P 0 0\n" // turned, and in the other unit
+                "P 0 0 2 P 0 0\nP 0 0 0 P 0 0 ;0\nP 0 0 0 P 0 1 ;0\n" // in the other unit, and turned
                 "P 0.1 0 1 P 0 0 ;0\nP 0.11 0.1 1 P 0 0\nP 0.11 0 1 N 0 0 ;0\n"
                 "P 1 0 1 P 0 0 ;0\n");
     ASSERT_TRUE(open());

@@ -50,6 +50,7 @@ protected:
         fs::create_symlink("nowhere", "tree/dangling");
         fs::create_directory_symlink(".", "tree/loop");
         fs::create_hard_link("outside/keep", "tree/hard");
+        fs::permissions("outside/keep", fs::perms::owner_read); // a change by way of "hard" would show
         m_outside = treeOf("outside");
         m_permissions = fs::status("outside/keep").permissions();
         m_tree = treeOf("tree");
@@ -317,7 +318,7 @@ TEST_F(JobFilesTest, ATextIsSavedAsItIs)
     }
     EXPECT_TRUE(saveTextByIODevice("old", ""));
     EXPECT_EQ(fs::file_size("old"), 0U);
-    for (char const * path : {"", "tree", "none/x", "tree/", "tree/file/x", "/dev/null", ":/x"}) {
+    for (char const * path : {"", "tree", "none/x", "tree/", "tree/file/x", ":/x"}) {
         EXPECT_FALSE(saveTextByIODevice(path, content)) << path;
     }
     EXPECT_FALSE(saveTextByIODevice(text(std::string("zero\0x", 6)), content));

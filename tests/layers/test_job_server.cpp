@@ -6,6 +6,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include <chrono>
 #include <future>
 #include <thread>
 
@@ -115,8 +116,11 @@ TEST_F(JobServerTest, ARequestIsOneLineAndTrueIsAnAnswerOfOk)
         EXPECT_EQ(deletes("Größe \"1\""), row.deleted);
         EXPECT_EQ(server.received(), "{\"cmd\":\"deleteJob\",\"job\":\"Größe \\\"1\\\"\"}\n");
     }
-    Server server(say("{\"ok\":true}\n"));
-    configure(server.port, 0, "localhost");
+    Server server([](QTcpSocket & client) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        say("{\"ok\":true}\n")(client);
+    });
+    configure(server.port, 0, "localhost"); // no timeout is not one of nothing
     EXPECT_TRUE(deletes("a"));
 }
 
@@ -162,7 +166,7 @@ TEST_F(JobServerTest, WhatCannotBeAskedIsAnError)
     clock.start();
     configure(closed);
     EXPECT_FALSE(deletes("a"));
-    for (int port : {0, -1, 65536, 65536 + closed}) {
+    for (int port : {0, -1, 65536}) {
         configure(port);
         EXPECT_FALSE(deletes("a")) << port;
     }
@@ -182,6 +186,8 @@ TEST_F(JobServerTest, WhatCannotBeAskedIsAnError)
           std::string("\xc2\x85"), std::string("\xff"), std::string(256, 'a')}) {
         EXPECT_FALSE(deletes(name));
     }
+    configure(65536 + listening.serverPort());
+    EXPECT_FALSE(deletes("a"));
     EXPECT_FALSE(listening.waitForNewConnection(50));
 }
 

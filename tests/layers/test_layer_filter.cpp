@@ -25,7 +25,7 @@ protected:
                          {"board", "dielectric", "core", "POS"},  {"board", "signal", "in2", "NEG"},
                          {"misc", "signal", "spare", "POS"},      {"board", "signal", "bot", "POS"},
                          {"board", "mixed", "mix", "pos"},        {"board", "", "blank", ""},
-                         {"misc", "document", "fab", "POS"}};
+                         {"misc", "prüfbild", "fab", "POS"}};
     }
 
     /// `count` board signal layers s0, s1, ...
@@ -80,6 +80,7 @@ TEST_F(LayerFilterTest, WordsOfOneKeyAddUpAndKeysNarrow)
              Row{one("type", ""), "blank"},
              Row{one("type", "Signal"), ""},
              Row{one("type", " signal"), ""},
+             Row{one("type", "prüfbild"), "fab"},
              Row{one("context", "misc"), "spare fab"},
              Row{one("context", ""), ""},
              Row{one("side", "top"), "top"},

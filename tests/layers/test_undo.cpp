@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -132,17 +133,18 @@ TEST_F(UndoTest, EscapeMeansNo)
     engine.operations = 1;
     auto const captured = Ext::setMessagePresenter({}); // the real box
     QWidget parent;
-    for (auto const & [key, undoes] : {std::pair(Qt::Key_Escape, false), std::pair(Qt::Key_Y, true)}) {
+    for (bool const undoes : {false, true}) {
         QTimer timer;
         int boxesSeen = 0;
-        QObject::connect(&timer, &QTimer::timeout, [&, wanted = key] {
+        QObject::connect(&timer, &QTimer::timeout, [&] {
             if (auto * const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 timer.stop();
                 ++boxesSeen;
                 EXPECT_EQ(box->parentWidget(), &parent);
                 EXPECT_EQ(box->windowModality(), Qt::ApplicationModal);
                 EXPECT_EQ(box->icon(), QMessageBox::Question);
-                QTest::keyClick(box, wanted, wanted == Qt::Key_Y ? Qt::AltModifier : Qt::NoModifier);
+                // Not by a shortcut: it needs the window to be active, which takes its time.
+                undoes ? box->button(QMessageBox::Yes)->click() : QTest::keyClick(box, Qt::Key_Escape);
             }
         });
         timer.start(10);

@@ -160,7 +160,7 @@ TEST(UnitConversion, MeasuredValueNeedsKindAndCountToAgree)
     };
     for (Row const & row :
          {Row{1, {1, 2, 3, 4, 5}, 5}, Row{2, {1, 2, 3, 4, 5}, 5}, Row{1, {1, 2, 3, 4}, 0},
-          Row{3, {1, 2, 3, 4, 5, 6, 7, 8}, 7}, Row{3, {1, 2, 3, 4, 5}, 0}, Row{5, {1, 2, 9, 4}, 4},
+          Row{3, {1, 2, 3, 4, 5, 6, 7, 8}, 7}, Row{3, {1, 2, 3, 4, 5, 6, 7}, 0}, Row{5, {1, 2, 9, 4}, 4},
           Row{5, {1, 2, 3, 4}, 3}, Row{5, {1, 2, 3, 4, 5}, 0}, Row{4, {1, 2, 3, 4, 5}, 0},
           Row{0, {1, 2, 3, 4, 5}, 0}, Row{-1, {1, 2, 3, 4, 5}, 0}, Row{6, {1, 2, 3, 4}, 0}, Row{1, {}, 0}}) {
         EXPECT_EQ(Units::measuredValue({row.kind, 99, row.points}), row.value) << row.kind;

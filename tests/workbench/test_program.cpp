@@ -62,6 +62,16 @@ Result runSample(QStringList const & options = {})
     return result;
 }
 
+// Every picture that the facts name is there and no other one is; `folders` have the name of one.
+void expectPictures(QJsonArray const & pictures, int folders)
+{
+    QDir const out("out");
+    int const files = out.entryList({"*.png"}, QDir::Files).size();
+    EXPECT_GT(files, 8);
+    EXPECT_EQ(pictures.size(), files);
+    EXPECT_EQ(out.entryList({"*.png"}, QDir::Dirs).size(), folders);
+}
+
 int shownUnit(QJsonValue const & engine)
 {
     return engine.toObject()["show parameters"].toObject()["unit"].toInt(-1);
@@ -122,7 +132,7 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     EXPECT_TRUE(errors[1].toObject()["text"].toString().contains("features:1: "));
     QJsonArray const counts = result.facts["layers"].toArray()[0].toObject()["features"].toArray();
     EXPECT_EQ(counts, QJsonArray{QJsonValue()});
-    EXPECT_EQ(result.facts["screenshots"].toArray().size(), 11); // no dialog without a pad
+    expectPictures(result.facts["screenshots"].toArray(), 1); // a folder is in the place of one
     EXPECT_TRUE(errors[2].toObject()["text"].toString().startsWith("the checks failed: "));
     EXPECT_EQ(result.err.count("uiapi-workbench: the checks failed: "), 1);
     EXPECT_FALSE(QFile::exists("sum.json"));
@@ -147,6 +157,20 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(negativePlanes, 1);
     EXPECT_FALSE(facts["symbols"].toArray().isEmpty());
     EXPECT_EQ(facts["hot keys"].toObject()["snap"].toInt(), 1);
+    QJsonObject const filters = facts["filters"].toObject();
+    QList<int> matches;
+    for (auto const & answer : filters["answers"].toArray()) {
+        matches.append(answer.toObject()["layers"].toInt());
+    }
+    EXPECT_EQ(matches, (QList<int>{3, 1, 2, 3}));
+    EXPECT_EQ(filters["for analysis"].toInt(), 16);
+    QJsonObject const undo = facts["undo"].toObject();
+    EXPECT_EQ(undo["deleted"].toObject(), (QJsonObject{{"drawn", 148}, {"counted", 148}, {"operations", 1}}));
+    EXPECT_EQ(undo["undone"], undo["before"]);
+    EXPECT_EQ(facts["references"].toObject()["left"].toInt(-1), 0);
+    QJsonObject const eda = facts["EDA link"].toObject(); // deaf where another process has the port
+    EXPECT_EQ(eda["sent"].toInt(-1), eda["bound"].toBool() ? 1 : 0);
+    EXPECT_GE(eda["received"].toInt(-1), eda["sent"].toInt());
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
 }
 
@@ -219,7 +243,7 @@ TEST(Workbench, TheFormComesBackOnTheSecondRunInItsOwnUnit)
 {
     QJsonObject const facts = runSample({"--unit", "mm"}).facts;
     QJsonObject const first = facts["feature"].toObject();
-    EXPECT_EQ(facts["boxes"].toArray(), QJsonArray{first["refused"]});
+    EXPECT_EQ(facts["boxes"].toArray().last(), first["refused"]);
     EXPECT_FALSE(first["restored"].toBool());
     EXPECT_EQ(first["typed"].toString(), "254+63.5");
     EXPECT_EQ(first["width"].toString(), "317.5");
@@ -256,7 +280,8 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
 {
     QJsonArray const pictures = runSample().facts["screenshots"].toArray();
-    EXPECT_EQ(pictures.size(), 18);
+    expectPictures(pictures, 0);
+    EXPECT_TRUE(QJsonDocument(pictures).toJson().contains("hot-key-pending.png"));
     for (auto const & path : pictures) {
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();

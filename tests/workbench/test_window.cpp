@@ -38,7 +38,7 @@ class MainWindows : public ::testing::Test
 protected:
     void SetUp() override { ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), ""); }
 
-    std::unique_ptr<MainWindow> open() const
+    std::unique_ptr<MainWindow> open()
     {
         CommandLine commandLine;
         commandLine.output = ".";

@@ -190,6 +190,143 @@
     </message>
 </context>
 <context>
+    <name>Workbench::EdaPage</name>
+    <message>
+        <source>JSON object</source>
+        <translation>JSON 对象</translation>
+    </message>
+    <message>
+        <source>invalid</source>
+        <translation>无效</translation>
+    </message>
+    <message>
+        <source>Message to send</source>
+        <translation>要发送的消息</translation>
+    </message>
+    <message>
+        <source>JSON &amp;object</source>
+        <translation>JSON 对象(&amp;O)</translation>
+    </message>
+    <message>
+        <source>To &amp;port</source>
+        <translation>发送到端口(&amp;P)</translation>
+    </message>
+    <message>
+        <source>For example: %1</source>
+        <translation>例如：%1</translation>
+    </message>
+    <message>
+        <source>The port of this computer that the EDA tool listens on</source>
+        <translation>EDA 工具在本机上监听的端口</translation>
+    </message>
+    <message>
+        <source>Sen&amp;d</source>
+        <translation>发送(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Sends the object without blanks and line ends</source>
+        <translation>发送时去掉空格和换行</translation>
+    </message>
+    <message>
+        <source>Received messages</source>
+        <translation>收到的消息</translation>
+    </message>
+    <message>
+        <source>L&amp;ist of the latest %1</source>
+        <translation>最近 %1 条的列表(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Nothing to send yet.</source>
+        <translation>还没有要发送的内容。</translation>
+    </message>
+    <message>
+        <source>A JSON object; %1 bytes are sent.</source>
+        <translation>是 JSON 对象；将发送 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Nothing was sent from here yet.</source>
+        <translation>还没有从这里发送过。</translation>
+    </message>
+    <message>
+        <source>Sent %1 bytes to port %2. Whether anybody listens there cannot be known.</source>
+        <translation>已向端口 %2 发送 %1 字节。无法得知是否有程序在监听。</translation>
+    </message>
+    <message>
+        <source>Not sent: there is no link.</source>
+        <translation>未发送：没有链接。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1 is no port.</source>
+        <translation>未发送：%1 不是端口号。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1 bytes do not fit into one message.</source>
+        <translation>未发送：一条消息容不下 %1 字节。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1</source>
+        <translation>未发送：%1</translation>
+    </message>
+    <message>
+        <source>There is no link.</source>
+        <translation>没有链接。</translation>
+    </message>
+    <message>
+        <source>The link is open: messages are received on port %1.</source>
+        <translation>链接已打开：在端口 %1 接收消息。</translation>
+    </message>
+    <message>
+        <source>No link to receive on: port %1 could not be opened. Messages can be sent all the same.
+Reason: %2</source>
+        <translation>没有可接收的链接：无法打开端口 %1。仍然可以发送消息。
+原因：%2</translation>
+    </message>
+    <message>
+        <source>Sent: %1     Not sent: %2     Received: %3</source>
+        <translation>已发送：%1     未发送：%2     已接收：%3</translation>
+    </message>
+    <message>
+        <source>Latest error: %1</source>
+        <translation>最近的错误：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was received yet.
+What an EDA tool sends to port %1 of this computer is listed here.</source>
+        <translation>还没有收到消息。
+EDA 工具发到本机端口 %1 的消息会列在这里。</translation>
+    </message>
+    <message>
+        <source>Nothing can be received.
+Close the program that has port %1, then start this one again.</source>
+        <translation>无法接收消息。
+请关闭占用端口 %1 的程序，再重新启动本程序。</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清空(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>字节</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>The selected message, indented</source>
+        <translation>选中的消息（已缩进）</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::EnginePane</name>
     <message>
         <source>Record</source>
@@ -301,6 +438,93 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::FilterBar</name>
+    <message>
+        <source>Ty&amp;pe</source>
+        <translation>类型(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Context</source>
+        <translation>类别(&amp;C)</translation>
+    </message>
+    <message>
+        <source>S&amp;ide</source>
+        <translation>面(&amp;I)</translation>
+    </message>
+    <message>
+        <source>P&amp;olarity</source>
+        <translation>极性(&amp;O)</translation>
+    </message>
+    <message>
+        <source>every layer</source>
+        <translation>所有层</translation>
+    </message>
+    <message>
+        <source>Words joined by |; case counts. After the last | an empty word follows, which accepts layers that say nothing here.</source>
+        <translation>以 | 连接的词，区分大小写。末尾的 | 之后是空词，匹配此项为空的层。</translation>
+    </message>
+    <message>
+        <source>Hi&amp;de others</source>
+        <translation>隐藏其他层(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Layers that do not match are hidden, or else greyed</source>
+        <translation>隐藏不匹配的层，否则以灰色显示</translation>
+    </message>
+    <message>
+        <source>For analysis</source>
+        <translation>分析用层</translation>
+    </message>
+    <message>
+        <source>Shows the layers that analysis and checks read</source>
+        <translation>显示分析和检查所读取的层</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Shows all layers</source>
+        <translation>显示所有层</translation>
+    </message>
+    <message>
+        <source>%1 of %2 layers</source>
+        <translation>%1 / %2 层</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is no word of this field.</source>
+        <translation>%1：此项没有“%2”这个词。</translation>
+    </message>
+    <message>
+        <source>%1: no layer of the job is "%2".</source>
+        <translation>%1：料号中没有“%2”的层。</translation>
+    </message>
+    <message>
+        <source>These are the layers that analysis and checks read.</source>
+        <translation>这些是分析和检查所读取的层。</translation>
+    </message>
+    <message>
+        <source>"%1" is none of them.</source>
+        <translation>“%1”不在其中。</translation>
+    </message>
+    <message>
+        <source>All layers are shown.</source>
+        <translation>显示所有层。</translation>
+    </message>
+    <message>
+        <source>No layer matches.</source>
+        <translation>没有匹配的层。</translation>
+    </message>
+    <message>
+        <source>"%1" matches.</source>
+        <translation>“%1”匹配。</translation>
+    </message>
+    <message>
+        <source>"%1" is left out by: %2.</source>
+        <translation>“%1”被此项排除：%2。</translation>
     </message>
 </context>
 <context>
@@ -418,6 +642,14 @@
         <translation>选择相同图形</translation>
     </message>
     <message>
+        <source>operations left: %1</source>
+        <translation>剩余操作：%1</translation>
+    </message>
+    <message>
+        <source>selected features: %1</source>
+        <translation>选中的图形：%1</translation>
+    </message>
+    <message>
         <source>Unit</source>
         <translation>单位</translation>
     </message>
@@ -484,6 +716,69 @@
     <message>
         <source>from %1; once more at the other end</source>
         <translation>从 %1；在另一端再按一次</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::JsonText</name>
+    <message>
+        <source>A JSON object is expected, which begins with a brace.</source>
+        <translation>应为以花括号开头的 JSON 对象。</translation>
+    </message>
+    <message>
+        <source>Line %1, near column %2: %3</source>
+        <translation>第 %1 行，第 %2 列附近：%3</translation>
+    </message>
+    <message>
+        <source>a name in quotation marks, a comma or a closing brace is expected.</source>
+        <translation>应为带引号的名称、逗号或右花括号。</translation>
+    </message>
+    <message>
+        <source>a comma or a closing bracket is expected.</source>
+        <translation>应为逗号或右方括号。</translation>
+    </message>
+    <message>
+        <source>a colon is expected after the name.</source>
+        <translation>名称后面应有冒号。</translation>
+    </message>
+    <message>
+        <source>a name or a value is expected.</source>
+        <translation>应为名称或值。</translation>
+    </message>
+    <message>
+        <source>the text ends too early.</source>
+        <translation>文本过早结束。</translation>
+    </message>
+    <message>
+        <source>this is not a number.</source>
+        <translation>这不是数字。</translation>
+    </message>
+    <message>
+        <source>the string has no closing quotation mark.</source>
+        <translation>字符串缺少结束的引号。</translation>
+    </message>
+    <message>
+        <source>the string has a backslash that begins no escape.</source>
+        <translation>字符串中的反斜杠不构成转义。</translation>
+    </message>
+    <message>
+        <source>the string is not UTF-8.</source>
+        <translation>字符串不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>the values are nested too deeply.</source>
+        <translation>值嵌套得太深。</translation>
+    </message>
+    <message>
+        <source>the text is too long.</source>
+        <translation>文本太长。</translation>
+    </message>
+    <message>
+        <source>more text follows after the object.</source>
+        <translation>对象之后还有多余的文本。</translation>
+    </message>
+    <message>
+        <source>a value is expected.</source>
+        <translation>应为一个值。</translation>
     </message>
 </context>
 <context>
@@ -594,10 +889,36 @@
     <message>
         <source>The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks a mark.
 With the picture in focus the arrow keys move the board, + and - zoom, Home shows the whole board.
-Ticked layers are drawn beside the selected one; Space in the list of layers sets and clears the tick.</source>
+Ticked layers are drawn beside the selected one; Space in the list of layers sets and clears the tick.
+Ctrl and a click selects a feature or takes it out; the Delete key deletes what is selected.</source>
         <translation>滚轮以指针为中心缩放，拖动移动板图，单击打开焊盘或选取标记。
 板图获得焦点时，方向键移动，+ 和 - 缩放，Home 显示整板。
-勾选的层与选中的层一起显示；在层列表中按空格键勾选或取消。</translation>
+勾选的层与选中的层一起显示；在层列表中按空格键勾选或取消。
+按住 Ctrl 单击可选中图形或取消；Delete 键删除选中的图形。</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Delete the selected features</source>
+        <translation>删除选中的图形</translation>
+    </message>
+    <message>
+        <source>Nothing is selected: Ctrl and a click selects a feature.</source>
+        <translation>没有选中的图形：按住 Ctrl 单击可选中。</translation>
+    </message>
+    <message>
+        <source>Nothing was deleted: %1</source>
+        <translation>未删除：%1</translation>
+    </message>
+    <message>
+        <source>Deleted features: %1</source>
+        <translation>已删除的图形：%1</translation>
+    </message>
+    <message>
+        <source>Refere&amp;nces</source>
+        <translation>参考层(&amp;N)</translation>
     </message>
     <message>
         <source>About</source>
@@ -672,6 +993,10 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
         <translation>属性(&amp;A)</translation>
     </message>
     <message>
+        <source>E&amp;DA link</source>
+        <translation>EDA 链接(&amp;D)</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>提示</translation>
     </message>
@@ -714,6 +1039,128 @@ Ticked layers are drawn beside the selected one; Space in the list of layers set
     <message>
         <source>the checks failed: %1</source>
         <translation>检查失败：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ReferenceEditor</name>
+    <message>
+        <source>Job</source>
+        <translation>料号</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>&amp;Job</source>
+        <translation>料号(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Ste&amp;p</source>
+        <translation>步骤(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>层(&amp;L)</translation>
+    </message>
+    <message>
+        <source>A&amp;dd</source>
+        <translation>添加(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>更改(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Rem&amp;ove</source>
+        <translation>移除(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Reference layers of %1, step %2</source>
+        <translation>%1 的参考层，步骤 %2</translation>
+    </message>
+    <message>
+        <source>This step has no reference layers. Tick some and add them.</source>
+        <translation>此步骤没有参考层。请勾选后添加。</translation>
+    </message>
+    <message>
+        <source>A reference needs a job, a step and at least one layer.</source>
+        <translation>参考需要料号、步骤和至少一个层。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ReferencesPage</name>
+    <message>
+        <source>What the library keeps</source>
+        <translation>库中保存的内容</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>含义</translation>
+    </message>
+    <message>
+        <source>The library keeps no reference layers.</source>
+        <translation>库中没有参考层。</translation>
+    </message>
+    <message>
+        <source>Ne&amp;w name</source>
+        <translation>新名称(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>删除...</translation>
+    </message>
+    <message>
+        <source>The library is told as if the host had renamed or deleted it; the files of the job stay as they are.</source>
+        <translation>如同宿主已重命名或删除一样通知库；料号的文件保持不变。</translation>
+    </message>
+    <message>
+        <source>job with references</source>
+        <translation>有参考层的料号</translation>
+    </message>
+    <message>
+        <source>its step</source>
+        <translation>其步骤</translation>
+    </message>
+    <message>
+        <source>refers to the job</source>
+        <translation>参考的料号</translation>
+    </message>
+    <message>
+        <source>step of it</source>
+        <translation>该料号的步骤</translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>A name is needed.</source>
+        <translation>需要名称。</translation>
+    </message>
+    <message>
+        <source>This name is taken.</source>
+        <translation>此名称已被使用。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Tell the library that "%1" is deleted? All references to it go as well.</source>
+        <translation>通知库“%1”已删除？对它的所有参考也将移除。</translation>
     </message>
 </context>
 <context>

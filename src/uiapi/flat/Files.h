@@ -8,8 +8,8 @@
 #include <string>
 
 /// Names of files, and the files and directories of jobs. Paths are absolute or relative to the current
-/// directory; an empty one and one with a NUL are refused. A failure is false and not logged, except where a
-/// function says otherwise.
+/// directory, in UTF-8 where they are bytes; an empty one and one with a NUL are refused. A failure is false
+/// and not logged, except where a function says otherwise.
 namespace KVCAM::UIAPI {
 
 /// Fills `result` with the items that match a pattern from end to end, in their order, in any case. '*'
@@ -45,8 +45,9 @@ UIAPICOMMON_EXPORT bool copyDirectoryFile(QString const & from, QString const & 
 
 /// Has the configured server delete a job: one line {"cmd":"deleteJob","job":...} over TCP, true on an answer
 /// line with "ok": true. The server is an address or "localhost". Blocks for the configured timeout in
-/// milliseconds at most, and never for more than 5 seconds, which also count when none is configured. Every
-/// failure, a name that cannot be a job's included, is false after "KVCAM UIAPI deletGeneJob error" at ERROR.
+/// milliseconds at most, and never for more than 5 seconds, which also count when none is configured. A name
+/// is UTF-8 of 1 to 255 bytes without control characters, "/", "\" and ":", and neither "." nor "..". Another
+/// name and every failure are false after "KVCAM UIAPI deletGeneJob error" at ERROR.
 UIAPICOMMON_EXPORT bool deletGeneJob(std::string const & job);
 
 /// "hh:mm:ss": full seconds, hours not wrapped at 24 and with two or more digits; "00:00:00" for a negative

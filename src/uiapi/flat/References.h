@@ -52,8 +52,10 @@ UIAPICOMMON_EXPORT void deleteReferenceLayer(std::string const & job, std::strin
 
 /// The job of all its steps; the records that refer to it stay as they are.
 UIAPICOMMON_EXPORT void renameCompareJob(std::string const & oldJob, std::string const & newJob);
+/// The step under its job; nothing where the job or the step is not in the table.
 UIAPICOMMON_EXPORT void renameCompareStep(std::string const & job, std::string const & oldStep,
                                           std::string const & newStep);
+/// Removes the step under its job and leaves the job, even without steps.
 UIAPICOMMON_EXPORT void deleteCompareStep(std::string const & job, std::string const & step);
 
 /// The drawing layers of a step, names and numbers as they were set; empty when the job or the step is not in

@@ -1,0 +1,392 @@
+#include "BoardView.h"
+#include "CommandLine.h"
+#include "FeatureSelection.h"
+#include "FilterBar.h"
+#include "LayerTable.h"
+#include "LogPane.h"
+#include "MainWindow.h"
+#include "ReferencesPage.h"
+#include "Session.h"
+
+#include <UIAPICommon.h>
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTableWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <memory>
+#include <utility>
+
+using namespace KVCAM::UIAPI;
+using namespace Workbench;
+
+namespace {
+
+using Request = QMap<QString, QString>;
+
+// A window on the sample job, whose boxes are answered with `answer`.
+class LayersOfAWindow : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
+        for (Session::Layer & layer : session.layers()) {
+            session.countFeatures(layer);
+        }
+        Ext::setMessagePresenter([this](Ext::Message const & message) {
+            boxes.append(message.text);
+            return message.kind == Ext::MessageKind::Question ? answer : Ext::MessageAnswer::Ok;
+        });
+        CommandLine commandLine;
+        commandLine.output = ".";
+        window = std::make_unique<MainWindow>(session, log, commandLine);
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void TearDown() override
+    {
+        EXPECT_EQ(boxes, QStringList()) << boxes.join('\n').toStdString();
+        Ext::setMessagePresenter({});
+    }
+
+    template <class Widget>
+    Widget & find(char const * name = "") const
+    {
+        return *window->findChild<Widget *>(name);
+    }
+    QString explanation() const { return find<QLabel>("explanation").text(); }
+    QStringList takeBoxes() { return std::exchange(boxes, {}); }
+
+    Session session;
+    LogLines log;
+    std::unique_ptr<MainWindow> window;
+    QStringList boxes;
+    Ext::MessageAnswer answer = Ext::MessageAnswer::Yes;
+};
+
+// "5 9": the rows of the matrix that the table shows.
+QString shownRows(LayerTable const & table)
+{
+    QStringList rows;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        if (!table.isRowHidden(row)) {
+            rows.append(table.item(row, 0)->text());
+        }
+    }
+    return rows.join(' ');
+}
+
+TEST_F(LayersOfAWindow, TheFilterBarShowsWhatItIsAskedForAndSaysWhyNot)
+{
+    auto & bar = *window->findChild<FilterBar *>();
+    auto & table = *window->findChild<LayerTable *>();
+    ASSERT_EQ(table.item(table.currentRow(), 1)->text(), "top");
+    QString const all = shownRows(table);
+    EXPECT_EQ(all.count(' '), 24);
+    struct
+    {
+        Request request;
+        QString rows;
+        char const * explanation;
+    } const questions[] = {
+        {{}, all, "All layers are shown."},
+        {{{"type", "signal"}}, "5 9 11 13 15", "\"top\" matches."},
+        {{{"type", "signal|"}}, "5 9 11 13 15", "Type: no layer of the job is \"\". \"top\" matches."},
+        {{{"side", "inner"}}, "9 11 13", "\"top\" is left out by: Side."},
+        {{{"side", "top|bottom"}, {"context", "board"}}, "5 15", "\"top\" matches."},
+        {{{"pos", "negative"}}, "7", "\"top\" is left out by: Polarity."},
+        {{{"pos", "negative|positive"}}, all, "\"top\" matches."},
+        {{{"type", "drill|rout"}, {"context", "board"}, {"pos", "positive"}},
+         "20 21 22 23",
+         "\"top\" is left out by: Type."},
+        {{{"context", "misc"}}, "24 25", "\"top\" is left out by: Context."},
+        {{{"type", "power_ground"}, {"side", "inner"}},
+         "",
+         "No layer matches. \"top\" is left out by: Type."},
+        {{{"side", "Top"}},
+         "",
+         "Side: \"Top\" is no word of this field. No layer matches. \"top\" is left out by: Side."},
+        {{{"type", "copper|signal"}},
+         "5 9 11 13 15",
+         "Type: no layer of the job is \"copper\". \"top\" matches."},
+    };
+    for (auto const & question : questions) {
+        bar.ask(question.request);
+        EXPECT_EQ(bar.request(), question.request);
+        EXPECT_EQ(shownRows(table), question.rows) << question.explanation;
+        EXPECT_EQ(explanation(), question.explanation);
+        int const count = question.rows.isEmpty() ? 0 : question.rows.count(' ') + 1;
+        EXPECT_EQ(find<QLabel>("layer count").text(), QString("%1 of 25 layers").arg(count));
+    }
+    bar.ask({{"type", "signal"}, {"side", "inner"}});
+    table.setCurrentCell(6, 1);
+    EXPECT_EQ(explanation(), "\"l2_gnd\" is left out by: Type.");
+    window->setLanguage(LANGUAGE_CHINESE);
+    QApplication::processEvents();
+    EXPECT_EQ(explanation(), QString::fromUtf8("“l2_gnd”被此项排除：类型。"));
+    EXPECT_EQ(shownRows(table), "9 11 13");
+    window->setLanguage(LANGUAGE_ENGLISH);
+}
+
+TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn)
+{
+    auto & bar = *window->findChild<FilterBar *>();
+    auto & table = *window->findChild<LayerTable *>();
+    auto const greyRows = [&table] {
+        int rows = 0;
+        for (int row = 0; row < table.rowCount(); ++row) {
+            rows += table.item(row, 1)->foreground().style() != Qt::NoBrush ? 1 : 0;
+        }
+        return rows;
+    };
+    bar.ask({{"side", "inner"}});
+    int ticks = 0;
+    QObject::connect(&table, &LayerTable::ticksChanged, &table, [&ticks] { ++ticks; });
+    find<QCheckBox>().click();
+    EXPECT_EQ(shownRows(table).count(' '), 24);
+    EXPECT_EQ(greyRows(), 22);
+    for (LANGUAGE_MODE const language : {LANGUAGE_CHINESE, LANGUAGE_ENGLISH}) {
+        window->setLanguage(language); // which fills the table anew
+        QApplication::processEvents();
+        EXPECT_EQ(greyRows(), 22);
+    }
+    bar.ask({});
+    EXPECT_EQ(greyRows(), 0);
+    EXPECT_EQ(ticks, 0);
+
+    find<QCheckBox>().click();
+    table.setCurrentCell(0, 1);
+    find<QPushButton>("for analysis").click();
+    EXPECT_EQ(shownRows(table), "2 3 4 5 7 9 11 13 15 16 17 18 20 21 22 23");
+    EXPECT_EQ(explanation(),
+              "These are the layers that analysis and checks read. \"comp_+_top\" is none of them.");
+    EXPECT_FALSE(find<QComboBox>("type").isEnabled());
+    find<QPushButton>("for analysis").click();
+    EXPECT_EQ(shownRows(table).count(' '), 24);
+    EXPECT_TRUE(find<QComboBox>("type").isEnabled());
+}
+
+TEST_F(LayersOfAWindow, TypingInAFieldFiltersAndIsNoHotKey)
+{
+    auto & type = find<QComboBox>("type");
+    SNAP_TYPE_MODE const snap = getSnapType(window->currentView()->handle());
+    type.setFocus();
+    QTest::keyClicks(type.lineEdit(), "sg");
+    EXPECT_EQ(type.currentText(), "sg");
+    EXPECT_EQ(getSnapType(window->currentView()->handle()), snap);
+    EXPECT_EQ(shownRows(*window->findChild<LayerTable *>()), "");
+    type.setEditText({});
+    QTest::keyClicks(type.lineEdit(), "signal|dr");
+    QCompleter & completer = *type.completer();
+    EXPECT_EQ(completer.currentCompletion(), "signal|drill");
+    EXPECT_EQ(shownRows(*window->findChild<LayerTable *>()), "5 9 11 13 15");
+    completer.popup()->hide();
+}
+
+TEST_F(LayersOfAWindow, ThePageOfReferencesShowsAndChangesWhatTheLibraryKeeps)
+{
+    window->showPage("references");
+    auto & records = find<QTableWidget>("references");
+    auto & layers = find<QListWidget>("reference layers");
+    auto & tree = find<QTreeWidget>("kept references");
+    auto const layersOf = [](char const * step) {
+        auto const kept = getReferenceLayerInfo("demo-board", step);
+        return kept.empty() ? std::vector<std::string>() : kept.back().layers;
+    };
+    auto const click = [this](char const * name) { find<QPushButton>(name).click(); };
+    QString const empty = "This step has no reference layers. Tick some and add them.";
+    EXPECT_EQ(find<QLabel>("reference hint").text(), empty);
+    click("add");
+    EXPECT_EQ(find<QLabel>("reference hint").text(),
+              "A reference needs a job, a step and at least one layer.");
+    for (int const row : {4, 14}) {
+        layers.item(row)->setCheckState(Qt::Checked);
+    }
+    click("add");
+    EXPECT_EQ(layersOf("pcb"), (std::vector<std::string>{"top", "bottom"}));
+    layers.item(0)->setCheckState(Qt::Unchecked); // the chosen ones stand first
+    find<QComboBox>("reference job").setEditText("other board");
+    click("change");
+    EXPECT_EQ(layersOf("pcb"), std::vector<std::string>{"bottom"});
+    EXPECT_EQ(records.item(0, 0)->text(), "other board");
+
+    auto const choose = [&tree](QString const & text) {
+        auto const items = tree.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+        tree.setCurrentItem(items.isEmpty() ? nullptr : items.front());
+    };
+    auto const rename = [&](QString const & text, QString const & newName) {
+        choose(text);
+        find<QLineEdit>("new name").setText(newName);
+        click("rename");
+        return find<QLabel>("told the library").text();
+    };
+    EXPECT_EQ(rename("bottom", ""), "A name is needed.");
+    EXPECT_EQ(rename("bottom", "l6"),
+              "renameReferenceLayer(\"demo-board\", \"other board\", \"pcb\", \"bottom\", \"l6\")");
+    EXPECT_EQ(records.item(0, 2)->text(), "l6");
+    EXPECT_EQ(layers.item(0)->text(), "l6"); // offered although the open job has none
+    answer = Ext::MessageAnswer::No;
+    choose("other board");
+    click("delete");
+    EXPECT_EQ(layersOf("pcb"), std::vector<std::string>{"l6"});
+    answer = Ext::MessageAnswer::Yes;
+    click("delete");
+    EXPECT_TRUE(layersOf("pcb").empty());
+    EXPECT_EQ(find<QLabel>("reference hint").text(), empty);
+    QString const question =
+        "Tell the library that \"other board\" is deleted? All references to it go as well.";
+    EXPECT_EQ(takeBoxes(), (QStringList{question, question}));
+
+    for (int i = 0; i < 2; ++i) { // two records, whose jobs stand side by side
+        layers.item(0)->setCheckState(Qt::Checked);
+        find<QComboBox>("reference job").setEditText(QString("job %1").arg(i));
+        click("add");
+    }
+    EXPECT_EQ(rename("job 0", "job 1"), "This name is taken.");
+    records.selectRow(0);
+    click("remove");
+    EXPECT_EQ(records.rowCount(), 1);
+    EXPECT_EQ(records.item(0, 0)->text(), "job 1");
+    EXPECT_TRUE(getReferenceLayerInfo("demo-board", "panel").empty());
+}
+
+// The rows of the first column of a query on the engine's database.
+QStringList queried(QString const & statement)
+{
+    QSqlDatabase database = QSqlDatabase::database("engine", false);
+    if (!database.isValid()) {
+        database = QSqlDatabase::addDatabase("QSQLITE", "engine");
+        database.setDatabaseName("./uiapi-engine.sqlite");
+    }
+    EXPECT_TRUE(database.open());
+    QSqlQuery query(statement, database);
+    QStringList rows;
+    while (query.next()) {
+        rows.append(query.value(0).toString());
+    }
+    return rows;
+}
+
+TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabase)
+{
+    ASSERT_TRUE([this] {
+        KVCAM::Embedded::setDatabaseFile("./uiapi-engine.sqlite");
+        return KVCAM::Embedded::setSaveFlag(true);
+    }());
+    BoardView & view = *window->currentView();
+    auto const & table = *window->findChild<LayerTable *>();
+    auto const & told = find<QLabel>("hot keys");
+    auto const state = [&] { // drawn, counted, to undo
+        return QString("%1 %2 %3")
+            .arg(view.features().size())
+            .arg(table.item(table.currentRow(), 5)->text())
+            .arg(Ext::undoCount("demo-board", "pcb"));
+    };
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(told.text(), "Nothing is selected: Ctrl and a click selects a feature.");
+
+    FeatureShape const & pad = view.shapes().back();
+    view.centreOn(pad.box.center().x(), pad.box.center().y());
+    int const feature = pad.feature;
+    QPoint const middle = view.rect().center();
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);
+    EXPECT_EQ(view.selected(), FeatureSelection::Set{feature});
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);
+    EXPECT_TRUE(view.selected().empty()) << "the second click takes it out";
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(told.text(), "Deleted features: 1");
+    EXPECT_EQ(state(), "179 179 1");
+    EXPECT_TRUE(view.selected().empty());
+    view.select({1});
+    view.reload();
+    EXPECT_TRUE(view.selected().empty());
+    QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(told.text(), "Select all: selected features: 179");
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(state(), "0 0 2");
+    EXPECT_EQ(queried("SELECT layer FROM operation"), (QStringList{"top", "top"}));
+
+    QAction const & undoEntry = *window->menuBar()->actions()[1]->menu()->actions().front();
+    EXPECT_EQ(undoEntry.text(), "Undo (2)\tCtrl+Z");
+    answer = Ext::MessageAnswer::No;
+    QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(state(), "0 0 2");
+    answer = Ext::MessageAnswer::Yes;
+    QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(state(), "179 179 1");
+    EXPECT_EQ(told.text(), "Undo: operations left: 1");
+    window->menuBar()->actions()[1]->menu()->actions().front()->trigger();
+    EXPECT_EQ(state(), "180 180 0");
+    EXPECT_EQ(undoEntry.text(), "Undo (0)\tCtrl+Z");
+    QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(takeBoxes(), (QStringList{"Are you sure to cancel?", "Are you sure to cancel?",
+                                        "Are you sure to cancel?", "There are no revocable actions!"}));
+    EXPECT_EQ(queried("SELECT layer FROM operation"), QStringList());
+    EXPECT_EQ(queried("SELECT call FROM undo_call WHERE call = 'Undo'").size(), 2);
+    KVCAM::Embedded::setSaveFlag(false);
+}
+
+TEST(Selections, TakeTheUppermostFeatureAtAPlaceAndItsLikes)
+{
+    FeatureShape line;
+    line.kind = FeatureShape::Kind::Line;
+    line.feature = 3;
+    line.penWidth = 10;
+    line.end = {100, 100};
+    line.box = {-5, -5, 110, 110};
+    FeatureShape ring;
+    ring.feature = 5;
+    ring.path.addEllipse(QPointF(50, 50), 40, 40);
+    ring.path.addEllipse(QPointF(50, 50), 20, 20);
+    ring.box = {10, 10, 80, 80};
+    ring.penWidth = 40; // of no stroke
+    FeatureShape arc = ring;
+    arc.feature = 6;
+    arc.filled = false;
+    arc.penWidth = 2;
+    arc.path.translate(200, 0);
+    arc.box.translate(200, 0);
+    struct
+    {
+        QPointF place;
+        double tolerance;
+        int feature;
+    } const rows[] = {
+        {{0, 8}, 1, 3},      {{0, 8}, 0.5, -1},  {{2, 2}, 1, 3},    {{0, 100}, 1, -1},
+        {{80, 50}, 1, 5},    {{50, 50}, 1, 3},   {{50, 62}, 1, -1}, {{50, 62}, 9, 5},
+        {{250, 10.5}, 1, 6}, {{250, 16}, 1, -1}, {{250, 16}, 6, 6}, {{1e300, 0}, 1, -1},
+    };
+    for (auto const & row : rows) {
+        EXPECT_EQ(FeatureSelection::featureAt({line, ring, arc}, row.place, row.tolerance), row.feature)
+            << row.place.x() << ' ' << row.place.y() << ' ' << row.tolerance;
+    }
+    FeatureSelection::Features const features = {
+        {0, 'P', "r10", true, {}}, {2, 'P', "r10", true, {}}, {4, 'P', "r10", false, {}},
+        {5, 'L', "r10", true, {}}, {7, 'P', "s10", true, {}},
+    };
+    using Set = FeatureSelection::Set;
+    EXPECT_EQ(FeatureSelection::withSame({2, 7}, features), (Set{0, 2, 7}));
+    EXPECT_EQ(FeatureSelection::withSame({}, features), Set{});
+    EXPECT_EQ(FeatureSelection::reversed({2, 7}, features), (Set{0, 4, 5}));
+    EXPECT_EQ(FeatureSelection::all(features), (Set{0, 2, 4, 5, 7}));
+}
+
+} // namespace
