@@ -993,8 +993,8 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>属性(&amp;A)</translation>
     </message>
     <message>
-        <source>&amp;EDA link</source>
-        <translation>EDA 链接(&amp;E)</translation>
+        <source>EDA lin&amp;k</source>
+        <translation>EDA 链接(&amp;K)</translation>
     </message>
     <message>
         <source>Information</source>
