@@ -259,11 +259,12 @@ std::string getPath_rangesconfig()
 QTpluginsManger4CAM * QTpluginsManger4CAM::instance()
 {
     static QTpluginsManger4CAM manager;
-    return &manager;
+    return engine().hasPluginManager ? &manager : nullptr;
 }
 
-void QTpluginsManger4CAM::recMegToPlugin(void *, PluginMetaData meta)
+void QTpluginsManger4CAM::recMegToPlugin(void * data, PluginMetaData meta)
 {
+    engine().pluginData.push_back(data);
     engine().called("Plugin", "recMegToPlugin",
                     list(meta.module.toStdString(), meta.command, meta.key.toStdString()));
 }

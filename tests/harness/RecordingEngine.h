@@ -56,6 +56,8 @@ public:
     std::string rangesFolder = "config/ranges";
     int threadCount = 0;
     API::back_layer_name_info backup;
+    bool hasPluginManager = true;
+    std::vector<void *> pluginData;       ///< what each command to a plug-in module came with
     std::map<std::string, int> consulted; ///< how often each path helper was asked
 
 private:

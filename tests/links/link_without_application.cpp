@@ -5,6 +5,7 @@
 
 #include <QHostAddress>
 #include <QJsonObject>
+#include <QThread>
 #include <QUdpSocket>
 
 #include <cstdio>
@@ -25,6 +26,10 @@ int main()
 {
     qInstallMessageHandler(complain);
     using namespace KVCAM::UIAPI;
+    // Another build's tests may have the port for a moment.
+    for (int i = 0; i < 600 && !QUdpSocket().bind(QHostAddress(QHostAddress::LocalHost), 2333); ++i) {
+        QThread::msleep(100);
+    }
     QUdpSocket peer;
     peer.bind(QHostAddress(QHostAddress::LocalHost));
     setEdaPort(peer.localPort());

@@ -46,13 +46,27 @@ protected:
         return bytes;
     }
 
+    /// One of the two sockets that a link gave its parent.
+    static QUdpSocket * socketOf(QObject const & parent, bool receiving)
+    {
+        for (auto * socket : parent.findChildren<QUdpSocket *>()) {
+            if ((socket->localPort() == receivePort) == receiving) {
+                return socket;
+            }
+        }
+        return nullptr;
+    }
+
     QUdpSocket tool; // the EDA tool
 };
 
 TEST_F(EdaLinkTest, ExistsFromTheFirstCallOn)
 {
-    EXPECT_TRUE(QUdpSocket().bind(here, receivePort));
+    bool freeWhileLoading = false; // the link comes last
+    engine.onNextCall("getPath_rangesconfig",
+                      [&] { freeWhileLoading = QUdpSocket().bind(here, receivePort); });
     getCurrentLanguageMode();
+    EXPECT_TRUE(freeWhileLoading);
     EXPECT_FALSE(QUdpSocket().bind(here, receivePort));
     EXPECT_EQ(getReceiveStr(), "");
     Ext::EdaLinkState const state = Ext::edaLinkState();
@@ -150,8 +164,8 @@ TEST_F(EdaLinkTest, TellsOfAMessageThatIsTooLarge)
 
 TEST_F(EdaLinkTest, IsDeafWhileAnotherHasThePort)
 {
-    QUdpSocket other;
-    ASSERT_TRUE(other.bind(here, receivePort));
+    ConnectEDA const other;
+    ASSERT_TRUE(other.state().bound);
     setEdaPort(tool.localPort());
     sendEdaData({});
     EXPECT_EQ(atTool(), "{}");
@@ -258,16 +272,30 @@ TEST_F(EdaLinkTest, SlotsMayThrowReadAndDelete)
     }
 }
 
+TEST_F(EdaLinkTest, TellsOfASocketThatCannotSend)
+{
+    QObject parent;
+    auto * const link = new ConnectEDA(&parent);
+    quint16 const port = tool.localPort();
+    tool.close();
+    // A connected socket hears that nobody listens, with the datagram after.
+    socketOf(parent, false)->connectToHost(here, port);
+    link->setEdaPort(port);
+    EXPECT_EQ(link->sendDataChecked({}), EdaSendResult::Sent);
+    EXPECT_EQ(link->sendDataChecked({}), EdaSendResult::SocketError);
+    EXPECT_EQ(link->state().sent, 1U);
+    EXPECT_EQ(link->state().unsent, 1U);
+    EXPECT_EQ(link->state().lastError, socketOf(parent, false)->errorString());
+}
+
 // The socket is on the stack below a slot that deletes the link.
 TEST_F(EdaLinkTest, AReceiverInTheMiddleOfItsSignalDiesAfterIt)
 {
     QObject parent;
     auto * const link = new ConnectEDA(&parent);
-    QPointer<QUdpSocket> receiver;
-    for (auto * socket : parent.findChildren<QUdpSocket *>()) {
-        receiver = socket->localPort() == receivePort ? socket : receiver.data();
-    }
+    QPointer<QUdpSocket> const receiver = socketOf(parent, true);
     ASSERT_FALSE(receiver.isNull());
+    EXPECT_EQ(receiver->localAddress(), here) << "nobody else's network can reach it";
     bool survived = false;
     QObject::connect(link, &ConnectEDA::datagramReceived, link, [&] {
         delete link;
@@ -308,6 +336,7 @@ TEST_F(EdaLinkTest, TenThousandDatagramsOutAndInBetweenTwoProcesses)
 {
     constexpr int total = 10000;
     constexpr int batch = 50; // so few wait at a time that no buffer of the kernel's overflows
+    ASSERT_TRUE(Ext::edaLinkState().bound);
     QProcess peer;
     peer.start(EDA_PEER, {}, QIODevice::ReadOnly);
     ASSERT_TRUE(peer.waitForReadyRead(20000));

@@ -33,6 +33,7 @@ TEST_F(PluginCommands, GoToEveryModuleOfTheirRoute)
     EXPECT_EQ(engine.take(),
               (Lines{"Plugin::recMegToPlugin(matrix 7 open)", "Plugin::recMegToPlugin(editor 7 open)",
                      "Plugin::recMegToPlugin(menu 7 )", "Plugin::recMegToPlugin(模块 -2147483648 层)"}));
+    EXPECT_EQ(engine.pluginData, (std::vector<void *>{nullptr, nullptr, this, nullptr}));
 
     EXPECT_TRUE(para.removePluginRoute(7, "open", "matrix"));
     EXPECT_FALSE(para.removePluginRoute(7, "open", "matrix"));
@@ -56,12 +57,21 @@ TEST_F(PluginCommands, WithoutARouteAreLogged)
     EXPECT_EQ(engine.take(), Lines{});
 }
 
+TEST_F(PluginCommands, WithoutAManagerAreLogged)
+{
+    para.addPluginRoute(1, "", "a");
+    para.addPluginRoute(1, "", "b");
+    engine.hasPluginManager = false;
+    setPluginCmd(1, "", nullptr);
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI setPluginCmd error")});
+}
+
 TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
 {
     para.addPluginRoute(1, "", "a");
     para.addPluginRoute(1, "", "b");
     // What a module does to the routes counts from the next command on.
-    engine.onNextCall("recMegToPlugin", [&] { para.removePluginRoute(1, "", "b"); });
+    engine.onNextCall("recMegToPlugin", [&] { para.removePluginRoute(1, "", "a"); });
     engine.throwFrom("recMegToPlugin", "module");
     setPluginCmd(1, "", nullptr);
     EXPECT_EQ(engine.take(), (Lines{"Plugin::recMegToPlugin(a 1 )", "Plugin::recMegToPlugin(b 1 )"}));
@@ -70,7 +80,7 @@ TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
     EXPECT_EQ(lines[1], paraError("异常描述：module"));
     EXPECT_EQ(lines[3], lines[1]);
     setPluginCmd(1, "", nullptr);
-    EXPECT_EQ(engine.take(), Lines{"Plugin::recMegToPlugin(a 1 )"});
+    EXPECT_EQ(engine.take(), Lines{"Plugin::recMegToPlugin(b 1 )"});
     log.take();
 }
 

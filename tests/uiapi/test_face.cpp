@@ -290,6 +290,28 @@ TEST_F(Face, LetsNothingEscapeForAKnownViewWhateverIsThrown)
     letsNothingEscape(true, false);
 }
 
+QByteArray contents(char const * path)
+{
+    QFile file(QStringLiteral(UIAPI_SOURCE_DIR "/") + QString::fromLatin1(path));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+    return file.readAll();
+}
+
+/// The names of the exported functions that stand directly in a namespace, "KVCAM::UIAPI::".
+std::set<std::string> exportedFunctions(std::string const & space)
+{
+    std::set<std::string> names;
+    for (QByteArray const & line : contents("tests/package/exports/UIAPICommon.txt").split('\n')) {
+        std::string const symbol = line.toStdString();
+        std::size_t const end = symbol.find('(');
+        if (symbol.compare(0, space.size(), space) == 0 && end != std::string::npos &&
+            symbol.rfind("::", end) == space.size() - 2) {
+            names.insert(symbol.substr(space.size(), end - space.size()));
+        }
+    }
+    return names;
+}
+
 // The list of exported symbols is compared with the library; this compares the table with the list.
 TEST(FaceTable, HoldsEveryExportedFunctionOnce)
 {
@@ -301,21 +323,18 @@ TEST(FaceTable, HoldsEveryExportedFunctionOnce)
     }
     EXPECT_EQ(names.size(), std::size(face));
     EXPECT_EQ(addresses.size(), std::size(face));
-
-    QFile file(QStringLiteral(UIAPI_SOURCE_DIR "/tests/package/exports/UIAPICommon.txt"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    std::set<std::string> exported;
-    std::string const space = "KVCAM::UIAPI::";
-    for (QByteArray const & line : file.readAll().split('\n')) {
-        std::string const symbol = line.toStdString();
-        std::size_t const end = symbol.find('(');
-        if (symbol.compare(0, space.size(), space) == 0 && end != std::string::npos &&
-            symbol.rfind("::", end) == space.size() - 2) {
-            exported.insert(symbol.substr(space.size(), end - space.size()));
-        }
-    }
-    EXPECT_EQ(names, exported);
+    EXPECT_EQ(names, exportedFunctions("KVCAM::UIAPI::"));
     EXPECT_EQ(std::size(face), faceSize);
+}
+
+TEST(FaceTable, EveryAdditionStandsBesideWhatItAddsTo)
+{
+    std::set<std::string> const additions = exportedFunctions("KVCAM::UIAPI::Ext::");
+    EXPECT_EQ(additions.count("edaLinkState"), 1U);
+    std::string const page = contents("docs/Extensions.md").toStdString();
+    for (std::string const & name : additions) {
+        EXPECT_NE(page.find("`Ext::" + name + "()`"), std::string::npos) << name;
+    }
 }
 
 } // namespace
