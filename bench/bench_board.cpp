@@ -132,14 +132,3 @@ void wheelStep(benchmark::State & state)
 BENCHMARK(wheelStep)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char ** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    QApplication const application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-}

@@ -114,14 +114,3 @@ void switchOfAHundredFields(benchmark::State & state)
 BENCHMARK(switchOfAHundredFields);
 
 } // namespace
-
-int main(int argc, char ** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    QApplication const application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-}

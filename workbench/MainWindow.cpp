@@ -188,7 +188,7 @@ void MainWindow::addPages()
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
     addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
     addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
-    addPage(new EdaPage, "eda", QT_TR_NOOP("E&DA link"));
+    addPage(new EdaPage, "eda", QT_TR_NOOP("EDA lin&k"));
 }
 
 void MainWindow::addHotkeys()

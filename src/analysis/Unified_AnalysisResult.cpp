@@ -12,10 +12,18 @@ struct Unified_AnalysisResult::Private
     UnifiedResultStore results;
     std::string job;
     std::string step;
-    static std::vector<layer_info> layers;
 };
 
-std::vector<layer_info> Unified_AnalysisResult::Private::layers;
+namespace {
+
+// One list for the process, made at the first call and never destroyed.
+std::vector<layer_info> & layerList()
+{
+    static auto * const list = new std::vector<layer_info>;
+    return *list;
+}
+
+} // namespace
 
 Unified_AnalysisResult::Unified_AnalysisResult() : d(new Private) {}
 
@@ -38,7 +46,7 @@ void Unified_AnalysisResult::setJobStep(std::string const & job, std::string con
 
 void Unified_AnalysisResult::setLayerInfo(std::vector<layer_info> layers)
 {
-    Private::layers = std::move(layers);
+    layerList() = std::move(layers);
 }
 
 bool Unified_AnalysisResult::setDrillCheckResult(
@@ -66,7 +74,7 @@ bool Unified_AnalysisResult::getUnifiedResult(
     unified_check_items const & item, int const & group,
     std::vector<std::pair<std::string, std::vector<check_info>>> & out)
 {
-    d->results.query(item, group, Private::layers, out);
+    d->results.query(item, group, layerList(), out);
     return true;
 }
 

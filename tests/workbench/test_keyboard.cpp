@@ -1,11 +1,8 @@
 #include "BoardView.h"
 #include "CheatSheet.h"
-#include "CommandLine.h"
 #include "HotkeyCommands.h"
 #include "LayerTable.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "SampleWindow.h"
 #include "TestFiles.h"
 
 #include <UIAPICommon.h>
@@ -23,8 +20,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include <memory>
-
 using namespace KVCAM;
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
@@ -32,18 +27,13 @@ using namespace Workbench;
 namespace {
 
 // A window on the sample job, and keys that reach it as those of a keyboard do.
-class Keyboard : public ::testing::Test
+class Keyboard : public SampleWindow
 {
 protected:
     void open()
     {
-        ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
-        CommandLine commandLine;
-        commandLine.output = ".";
-        window = std::make_unique<MainWindow>(session, log, commandLine);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        readSample();
+        showWindow();
     }
 
     void const * view() const { return window->currentView()->handle(); }
@@ -66,10 +56,6 @@ protected:
                (getNegative(view()) ? " negative" : "") + (getProfile(view()) ? " profile" : "") + " snap " +
                std::to_string(getSnapType(view()));
     }
-
-    Session session;
-    LogLines log;
-    std::unique_ptr<MainWindow> window;
 };
 
 char const * const snaps = "S ... S skeleton, O off, G grid, C centre, R arc, E edge, I crossing, "

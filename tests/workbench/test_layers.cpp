@@ -1,12 +1,9 @@
 #include "BoardView.h"
-#include "CommandLine.h"
 #include "FeatureSelection.h"
 #include "FilterBar.h"
 #include "LayerTable.h"
-#include "LogPane.h"
-#include "MainWindow.h"
 #include "ReferencesPage.h"
-#include "Session.h"
+#include "SampleWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -28,7 +25,6 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include <memory>
 #include <utility>
 
 using namespace KVCAM::UIAPI;
@@ -39,12 +35,12 @@ namespace {
 using Request = QMap<QString, QString>;
 
 // A window on the sample job, whose boxes are answered with `answer`.
-class LayersOfAWindow : public ::testing::Test
+class LayersOfAWindow : public SampleWindow
 {
 protected:
     void SetUp() override
     {
-        ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
+        readSample();
         for (Session::Layer & layer : session.layers()) {
             session.countFeatures(layer);
         }
@@ -52,12 +48,7 @@ protected:
             boxes.append(message.text);
             return message.kind == Ext::MessageKind::Question ? answer : Ext::MessageAnswer::Ok;
         });
-        CommandLine commandLine;
-        commandLine.output = ".";
-        window = std::make_unique<MainWindow>(session, log, commandLine);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        showWindow();
     }
     void TearDown() override
     {
@@ -73,9 +64,6 @@ protected:
     QString explanation() const { return find<QLabel>("explanation").text(); }
     QStringList takeBoxes() { return std::exchange(boxes, {}); }
 
-    Session session;
-    LogLines log;
-    std::unique_ptr<MainWindow> window;
     QStringList boxes;
     Ext::MessageAnswer answer = Ext::MessageAnswer::Yes;
 };

@@ -993,8 +993,8 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>属性(&amp;A)</translation>
     </message>
     <message>
-        <source>E&amp;DA link</source>
-        <translation>EDA 链接(&amp;D)</translation>
+        <source>EDA lin&amp;k</source>
+        <translation>EDA 链接(&amp;K)</translation>
     </message>
     <message>
         <source>Information</source>
