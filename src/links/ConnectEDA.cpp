@@ -3,6 +3,7 @@
 #include "support/Guard.h"
 #include "support/Log.h"
 
+#include <QCoreApplication>
 #include <QHostAddress>
 #include <QJsonDocument>
 #include <QJsonParseError>
@@ -44,6 +45,19 @@ struct ConnectEDA::Private
     quint64 unsent = 0;
     quint64 count = 0;
     int receiving = 0; // how many calls of receive() are running
+
+    /// Binds the receiver, anew when it is bound.
+    void bind()
+    {
+        if (receiver.isNull()) {
+            return;
+        }
+        receiver->close();
+        bindError.clear();
+        if (!receiver->bind(QHostAddress(QHostAddress::LocalHost), receivePort)) {
+            bindError = receiver->errorString();
+        }
+    }
 
     /// Takes one datagram from the receiver; false when there is none to be had.
     bool take(QByteArray & bytes)
@@ -87,10 +101,19 @@ ConnectEDA::ConnectEDA(QObject * parent) : QObject(parent), d(new Private)
 {
     d->sender = new QUdpSocket(parent);
     d->receiver = new QUdpSocket(parent);
-    if (!d->receiver->bind(QHostAddress(QHostAddress::LocalHost), receivePort)) {
-        d->bindError = d->receiver->errorString();
-    }
+    d->bind();
     connect(d->receiver, SIGNAL(readyRead()), this, SLOT(receive()));
+    if (QCoreApplication::instance() != nullptr) {
+        return;
+    }
+    // The event loop never hears a socket that was bound before there was an application.
+    auto const bindAgain = [alive = QPointer<ConnectEDA>(this)] {
+        alive->receive(); // what came until now
+        if (alive) {
+            alive->d->bind();
+        }
+    };
+    QMetaObject::invokeMethod(this, bindAgain, Qt::QueuedConnection);
 }
 
 ConnectEDA::~ConnectEDA()

@@ -48,8 +48,8 @@ class UIAPICOMMON_EXPORT ConnectEDA : public QObject
 
 public:
     /// Creates both sockets as children of `parent` (not of the link) and binds the receiving one. A failed
-    /// bind shows in state() alone. A link made before the QCoreApplication sends, and receives by receive();
-    /// the event loop hears it once receive() has read a datagram there.
+    /// bind shows in state() alone. A link made before the QCoreApplication sends, receives by receive(), and
+    /// binds again when the event loop starts, which hears it from then on.
     explicit ConnectEDA(QObject * parent = nullptr);
     /// Destroys the sockets that are still there. May be called by a slot of the link's own signals.
     ~ConnectEDA() override;
