@@ -106,7 +106,6 @@ void FilterBar::makeLayout()
         auto * completer = new WordCompleter(offered, *words);
         completer->setCaseSensitivity(Qt::CaseSensitive); // as the filter is
         words->setCompleter(completer);
-        words->lineEdit()->setClearButtonEnabled(true);
         connect(words, &QComboBox::editTextChanged, this, &FilterBar::refresh);
         m_words[i] = words;
         m_titles[i] = new QLabel;

@@ -125,7 +125,7 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     Result const result = run({"job", "--headless", "--output", "out", "--summary", "sum.json"});
     EXPECT_EQ(result.exitCode, 1) << result.err.toStdString();
     QJsonArray const errors = result.facts["errors"].toArray();
-    ASSERT_EQ(errors.size(), 3);
+    ASSERT_EQ(errors.size(), 3) << result.err.toStdString();
     EXPECT_TRUE(errors[0].toObject()["file"].toString().endsWith("settings.png"));
     EXPECT_EQ(errors[1].toObject()["layer"].toString(), "top");
     EXPECT_EQ(errors[1].toObject()["step"].toString(), "pcb");
