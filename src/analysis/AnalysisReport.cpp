@@ -58,15 +58,6 @@ int rankOf(std::string const & table)
     return table == drillTable ? 0 : table == signalTable ? 1 : 2;
 }
 
-// getMeasureValue() says 0.0 for what it cannot read, which a measured 0 must not be taken for.
-std::optional<double> measured(check_info const & info)
-{
-    std::size_t const count = info.points.size();
-    bool const isRead = ((info.type == 1 || info.type == 2) && count == 5) ||
-                        (info.type == 3 && count == 8) || (info.type == 5 && count == 4);
-    return isRead ? std::optional<double>(Units::measuredValue(info)) : std::nullopt;
-}
-
 // Every kind starts with a place; the kinds 1 and 2 have two.
 std::optional<KVCAM::API::point> positionOf(check_info const & info)
 {
@@ -86,8 +77,8 @@ void append(ReportCategory & category, std::string const & layer, std::size_t le
             std::vector<check_info> const & list)
 {
     for (check_info const & info : list) {
-        category.entries.push_back(
-            {layer, static_cast<int>(level), info.value, measured(info), positionOf(info), Severity::None});
+        category.entries.push_back({layer, static_cast<int>(level), info.value, Units::measuredValue(info),
+                                    positionOf(info), Severity::None});
     }
 }
 

@@ -63,7 +63,7 @@ std::string UIAPICommonPara::doubleToString(double value) const
 
 double UIAPICommonPara::getMeasureValue(check_info const & info) const
 {
-    return Units::measuredValue(info);
+    return Units::measuredValue(info).value_or(0.0);
 }
 
 } // namespace KVCAM::UIAPI

@@ -125,20 +125,19 @@ std::string areaName(int unit)
     return unit == inch ? "sq/in" : "sq/mm";
 }
 
-double measuredValue(KVCAM::API::check_info const & info)
+std::optional<double> measuredValue(KVCAM::API::check_info const & info)
 {
     std::vector<int> const & points = info.points;
-    switch (info.type) {
-    case 1:
-    case 2:
-        return points.size() == 5 ? points[4] : 0.0;
-    case 3:
-        return points.size() == 8 ? points[6] : 0.0;
-    case 5:
-        return points.size() == 4 ? std::min(points[2], points[3]) : 0.0;
-    default:
-        return 0.0;
+    if ((info.type == 1 || info.type == 2) && points.size() == 5) {
+        return points[4];
     }
+    if (info.type == 3 && points.size() == 8) {
+        return points[6];
+    }
+    if (info.type == 5 && points.size() == 4) {
+        return std::min(points[2], points[3]);
+    }
+    return std::nullopt;
 }
 
 } // namespace KVCAM::UIAPI::Units

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <string>
 
 /// Conversion and formatting of values by unit code: 0 is inch (small unit mil), 1 is millimetre (small unit
@@ -54,7 +55,7 @@ std::string nameByKind(int unit, int kind);
 /// "sq/in" for unit 0, else "sq/mm".
 std::string areaName(int unit);
 
-/// The measured quantity of a check result, picked by its kind; 0.0 when kind and count do not agree.
-double measuredValue(KVCAM::API::check_info const & info);
+/// The measured quantity of a check result, picked by its kind; nothing when kind and count do not agree.
+std::optional<double> measuredValue(KVCAM::API::check_info const & info);
 
 } // namespace KVCAM::UIAPI::Units
