@@ -4,7 +4,19 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-# install_packages NAME...: installs the Debian packages that are missing, and says so. Without apt-get (another
+# take_no_install ARGUMENT...: with --no-install first, packages are only checked: a missing one ends the script. The
+# other arguments are left in `arguments`.
+may_install=yes
+arguments=()
+take_no_install() {
+  if [ "${1-}" = --no-install ]; then
+    may_install=no
+    shift
+  fi
+  arguments=("$@")
+}
+
+# install_packages NAME...: installs the Debian packages that are missing, and says so first. Without apt-get (another
 # distribution, Windows) it changes nothing: the build will name what it does not find.
 install_packages() {
   command -v apt-get >/dev/null 2>&1 || return 0
@@ -13,12 +25,16 @@ install_packages() {
     dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
   done
   [ "${#missing[@]}" -eq 0 ] && return 0
-  local as_root=()
+  local as_root=() how=
   if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null 2>&1 || { echo "These packages are missing: ${missing[*]}" >&2; return 1; }
     as_root=(sudo)
+    how=" with sudo"
   fi
-  echo "Installing: ${missing[*]}" >&2
+  if [ "$may_install" = no ] || { [ -n "$how" ] && ! command -v sudo >/dev/null 2>&1; }; then
+    echo "These packages are missing: ${missing[*]}" >&2
+    return 1
+  fi
+  echo "Installing$how: ${missing[*]}" >&2
   "${as_root[@]}" apt-get update -qq >&2
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "${missing[@]}" >&2
@@ -29,7 +45,7 @@ build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev
 # The offscreen platform takes the place of a display; it needs fonts to draw text with.
 run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)
-lint_packages=(clang-format-14 clang-tidy-14 doxygen)
+lint_packages=(clang-format-14 clang-tidy-14 doxygen git)
 
 # build PRESET [TARGET...]
 build() {
