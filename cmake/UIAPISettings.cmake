@@ -14,6 +14,17 @@ target_compile_definitions(uiapi_settings INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
   $<$<CXX_COMPILER_ID:MSVC>:_USE_MATH_DEFINES NOMINMAX>)
 
+# Optimised builds are hardened as a distribution's packages are. (Executables are position-independent by
+# CMAKE_POSITION_INDEPENDENT_CODE, for which the linker must be asked first.)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT UIAPI_SANITIZE)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(_optimised "$<OR:$<CONFIG:Release>,$<CONFIG:RelWithDebInfo>,$<CONFIG:MinSizeRel>>")
+  target_compile_options(uiapi_settings INTERFACE
+    "$<${_optimised}:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+  target_link_options(uiapi_settings INTERFACE "$<${_optimised}:LINKER:-z,relro,-z,now>")
+endif()
+
 if(UIAPI_SANITIZE)
   set(_uiapi_sanitizers -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
