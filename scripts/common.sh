@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # What the scripts share. Sourced, not run.
 
 set -euo pipefail
@@ -50,7 +51,7 @@ windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine xvfb
 windows_prefix_packages=(g++ make perl python3 xz-utils bzip2 file tcl dpkg-dev)
 windows_host=x86_64-w64-mingw32
 windows_prefix=${UIAPI_WINDOWS_PREFIX:-${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/uiapi-windows}
-lint_packages=(clang-format-14 clang-tidy-14 doxygen git)
+lint_packages=(clang-14 clang-format-14 clang-tidy-14 clazy codespell doxygen git shellcheck)
 
 # build PRESET [TARGET...]
 build() {
