@@ -28,33 +28,36 @@ void expectRows(Rewrite rewrite, std::initializer_list<Row> rows)
 
 TEST(SymbolName, ToOtherUnitConvertsTheLengthsOfAFamily)
 {
-    expectRows(Symbols::toOtherUnit,
-               {{"r254", "r10", "r6451.6"},
-                {"r10", "r0.393701", "r254"},
-                // the simple family converts every number, counts included
-                {"r1x2", "r0.0393701x0.0787402", "r25.4x50.8"},
-                {"r10x-10", "r0.393701x-0.393701", "r254x-254"},
-                {"oval_h254x508", "oval_h10x20", "oval_h6451.6x12903.2"},
-                {"donut_s254x127xr25.4", "donut_s10x5xr1", "donut_s6451.6x3225.8xr645.16"},
-                {"r1.2.3x254", "r0x10", "r0x6451.6"},
-                {"r0.0001", "r3.93701e-06", "r0.00254"},
-                {"r39370.1", "r1550", "r1e+06"},
-                {"r1234.5678", "r48.605", "r31358"},
-                {"r1000000000000000000000000x254", "r3.93701e+22x10", "r2.54e+25x6451.6"},
-                {"rect254x508", "rect10x20", "rect6451.6x12903.2"},
-                {"rect10x20xr5", "rect0.393701x0.787402xr0.19685", "rect254x508xr127"},
-                {"rect10x20xr5x13", "rect0.393701x0.787402xr0.19685x13", "rect254x508xr127x13"},
-                {"rect10x20xr5x%1", "rect0.393701x0.787402xr0.19685x%1", "rect254x508xr127x%1"},
-                {"rect254x1,000", "rect10x0", "rect6451.6x0"},
-                {"rect254xinf", "rect10xinf", "rect6451.6xinf"},
-                {"rect254x-25.4", "rect10x-1", "rect6451.6x-645.16"},
-                {"ths40x30x45x4x5", "ths1.5748x1.1811x45x4x0.19685", "ths1016x762x45x4x127"},
-                {"rc_ths254x254x%6x%1x254x254", "rc_ths10x10x%6x%1x10x10",
-                 "rc_ths6451.6x6451.6x%6x%1x6451.6x6451.6"},
-                // a corner in the sixth place is no number, and what follows is dropped
-                {"s_ths254x254x45x4x254xr5x13", "s_ths10x10x45x4x10x0", "s_ths6451.6x6451.6x45x4x6451.6x0"},
-                {"moire10x5x3x2x20x45", "moire0.393701x0.19685x3x0.0787402x0.787402x45",
-                 "moire254x127x3x50.8x508x45"}});
+    expectRows(
+        Symbols::toOtherUnit,
+        {{"r254", "r10", "r6451.6"},
+         {"r10", "r0.393701", "r254"},
+         // the simple family converts every number, counts included
+         {"r1x2", "r0.0393701x0.0787402", "r25.4x50.8"},
+         {"r10x-10", "r0.393701x-0.393701", "r254x-254"},
+         {"oval_h254x508", "oval_h10x20", "oval_h6451.6x12903.2"},
+         {"donut_s254x127xr25.4", "donut_s10x5xr1", "donut_s6451.6x3225.8xr645.16"},
+         {"r1.2.3x254", "r0x10", "r0x6451.6"},
+         {"r0.0001", "r3.93701e-06", "r0.00254"},
+         {"r39370.1", "r1550", "r1e+06"},
+         {"r1234.5678", "r48.605", "r31358"},
+         {"r1000000000000000000000000x254", "r3.93701e+22x10", "r2.54e+25x6451.6"},
+         {"rect254x508", "rect10x20", "rect6451.6x12903.2"},
+         {"rect10x20xr5", "rect0.393701x0.787402xr0.19685", "rect254x508xr127"},
+         {"rect10x20xr5x13", "rect0.393701x0.787402xr0.19685x13", "rect254x508xr127x13"},
+         {"rect10x20xr5x%1", "rect0.393701x0.787402xr0.19685x%1", "rect254x508xr127x%1"},
+         {"rect254x1,000", "rect10x0", "rect6451.6x0"},
+         {"rect254xinf", "rect10xinf", "rect6451.6xinf"},
+         {"rect254x-25.4", "rect10x-1", "rect6451.6x-645.16"},
+         {"ths40x30x45x4x5", "ths1.5748x1.1811x45x4x0.19685", "ths1016x762x45x4x127"},
+         {"thr40x30x45x4x5x1", "thr1.5748x1.1811x45x4x0.19685x0.0393701", "thr1016x762x45x4x127x25.4"},
+         {"sr_ths254x127x45x4x25.4x2.54", "sr_ths10x5x45x4x1x0.1", "sr_ths6451.6x3225.8x45x4x645.16x64.516"},
+         {"rc_ths254x254x%6x%1x254x254", "rc_ths10x10x%6x%1x10x10",
+          "rc_ths6451.6x6451.6x%6x%1x6451.6x6451.6"},
+         // a corner in the sixth place is no number, and what follows is dropped
+         {"s_ths254x254x45x4x254xr5x13", "s_ths10x10x45x4x10x0", "s_ths6451.6x6451.6x45x4x6451.6x0"},
+         {"moire10x5x3x2x20x45", "moire0.393701x0.19685x3x0.0787402x0.787402x45",
+          "moire254x127x3x50.8x508x45"}});
 }
 
 TEST(SymbolName, OnlyToOtherUnitHoldsARectangleBackWhoseWidthOrCornerIsEmpty)

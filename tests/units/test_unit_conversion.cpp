@@ -8,6 +8,7 @@
 #include <QRegExp>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <random>
@@ -39,6 +40,9 @@ TEST(UnitConversion, ToUnitRoundsTheFractionAwayFromZero)
         EXPECT_EQ(Units::toUnit(2, row.value), row.metric) << row.value;
     }
     EXPECT_TRUE(std::isnan(Units::toUnit(0, std::nan(""))));
+    for (double value : {-1e-6, -0.0, -0.00001}) { // the integer part is never -0.0
+        EXPECT_FALSE(std::signbit(Units::toUnit(0, value)) || std::signbit(Units::toUnit(1, value)));
+    }
 }
 
 TEST(UnitConversion, OtherUnitCodesAreInchForTheEngineAndMetricForTheEye)
@@ -89,9 +93,11 @@ TEST(UnitConversion, JudgeValuesTruncateAndSaturate)
           Row{-1e12, min, min, min}, Row{infinity, max, max, max}, Row{std::nan(""), 0, 0, 0}}) {
         SCOPED_TRACE(row.value);
         EXPECT_EQ(Units::milToSmallUnitTruncated(0, row.value), row.inch);
-        EXPECT_EQ(Units::milToSmallUnitTruncated(1, row.value), row.metric);
         EXPECT_EQ(Units::smallUnitToMilTruncated(0, row.value), row.inch);
-        EXPECT_EQ(Units::smallUnitToMilTruncated(1, row.value), row.inverseMetric);
+        for (int unit : {1, 2, -1}) {
+            EXPECT_EQ(Units::milToSmallUnitTruncated(unit, row.value), row.metric);
+            EXPECT_EQ(Units::smallUnitToMilTruncated(unit, row.value), row.inverseMetric);
+        }
     }
 }
 
@@ -146,7 +152,8 @@ TEST(UnitConversion, SixDigitTextsTurnToExponents)
     EXPECT_EQ(Units::milText(0, 1234567.0, 2), "1.23457e+06");
     EXPECT_EQ(Units::milText(0, 0.1234567, 9), "0.123457"); // precision is not used for inch
     EXPECT_EQ(Units::milText(1, 1.0, 0), "25");
-    EXPECT_EQ(Units::milText(1, 1.0, -1), "25.400000");
+    EXPECT_EQ(Units::milText(1, 1.0, -127), "25.400000");
+    EXPECT_EQ(Units::milText(1, 1e-9, -128), "0.0000000254"); // as many decimals as it needs
     EXPECT_EQ(Units::milText(1, 1.0, std::numeric_limits<int>::max()).size(), 3 + 1074);
     EXPECT_EQ(Units::areaText(0, 1234567.0), "1.23457e+06");
 }
@@ -168,88 +175,51 @@ TEST(UnitConversion, MeasuredValueNeedsKindAndCountToAgree)
     }
 }
 
-// Each flat function reads the unit of the view it is given, and of no other.
 class UnitViews : public UiapiTest
-{
-protected:
-    void SetUp() override
-    {
-        UiapiTest::SetUp();
-        for (int unit : {0, 1}) {
-            Step_Config config;
-            config.view = viewHandle(unit);
-            config.show_param.unit = unit;
-            ASSERT_TRUE(insertStepConfig(config));
-        }
-    }
-};
+{};
 
+// Each flat function reads the unit of the view it is given, and of no other; an unknown view is an inch view
+// after one line.
 TEST_F(UnitViews, FlatFunctionsFollowTheView)
 {
-    void const * const inch = viewHandle(0);
-    void const * const metric = viewHandle(1);
-    EXPECT_EQ(getUnitData(inch, 25.4), 1.0);
-    EXPECT_EQ(getUnitData(metric, 1.0), 25.4);
-    EXPECT_EQ(getUnitAPIData(inch, 0, 1.0), 25400000.0);
-    EXPECT_EQ(getUnitAPIData(metric, 1, 1.0), 1000.0);
-    EXPECT_EQ(getUnitMilData(inch, 0, 254.0), 254.0);
-    EXPECT_EQ(getUnitMilData(metric, 0, 254.0), 10.0);
-    EXPECT_EQ(getUnitPointData(inch, 25400.0), 1.0);
-    EXPECT_EQ(getUnitPointData(metric, 25400.0), 25.4);
-    EXPECT_EQ(getUnitJudgeData(inch, 3.9), 3);
-    EXPECT_EQ(getUnitJudgeData(metric, 3.9), 99);
-    EXPECT_EQ(getUnitJudgeData2(inch, 100.0), 100);
-    EXPECT_EQ(getUnitJudgeData2(metric, 100.0), 3);
-    EXPECT_EQ(getUnitJudgeDouble(inch, 3.0), 3.0);
-    EXPECT_EQ(getUnitJudgeDouble(metric, 3.0), 3.0 * 25.4);
-    EXPECT_EQ(getUnitJudgeString(inch, 1.0, 2), "1");
-    EXPECT_EQ(getUnitJudgeString(metric, 1.0, 2), "25.40");
-    EXPECT_EQ(getUnitJudgeStringMetric(inch, 25400.0), "1.000");
-    EXPECT_EQ(getUnitJudgeStringMetric(metric, 25400.0), "25.400");
-    EXPECT_EQ(getUnitString(inch), "Inch");
-    EXPECT_EQ(getUnitString(metric), "MM");
-    EXPECT_EQ(getUnitStringType(inch, 1), "mil");
-    EXPECT_EQ(getUnitStringType(metric, 1), "my");
-    EXPECT_EQ(getAreaUnitStringType(inch), "sq/in");
-    EXPECT_EQ(getAreaUnitStringType(metric), "sq/mm");
-    EXPECT_EQ(getAreaUnitJudgeString(inch, 1.0), "1");
-    EXPECT_EQ(getAreaUnitJudgeString(metric, 1.0), "645.1600");
+    for (int unit : {0, 1}) {
+        Step_Config config;
+        config.view = viewHandle(unit);
+        config.show_param.unit = unit;
+        ASSERT_TRUE(insertStepConfig(config));
+    }
+    auto const text = [](double value) { return QString::number(value, 'g', 17).toStdString(); };
+    struct Row
+    {
+        std::function<std::string(void const *)> call;
+        std::string inch, metric;
+    };
+    for (Row const & row : {
+             Row{[&](auto view) { return text(getUnitData(view, 254)); }, "10", text(6451.6)},
+             Row{[&](auto view) { return text(getUnitAPIData(view, 0, 1)); }, "25400000", "1000000"},
+             Row{[&](auto view) { return text(getUnitAPIData(view, 1, 1)); }, "25400", "1000"},
+             Row{[&](auto view) { return text(getUnitMilData(view, 0, 254)); }, "254", "10"},
+             Row{[&](auto view) { return text(getUnitPointData(view, 25400)); }, "1", text(25.4)},
+             Row{[&](auto view) { return text(getUnitJudgeData(view, 3.9)); }, "3", "99"},
+             Row{[&](auto view) { return text(getUnitJudgeData2(view, 100)); }, "100", "3"},
+             Row{[&](auto view) { return text(getUnitJudgeDouble(view, 3)); }, "3", text(3 * 25.4)},
+             Row{[](auto view) { return getUnitJudgeString(view, 1, 2).toStdString(); }, "1", "25.40"},
+             Row{[](auto view) { return getUnitJudgeStringMetric(view, 25400).toStdString(); }, "1.000",
+                 "25.400"},
+             Row{[](auto view) { return getUnitString(view); }, "Inch", "MM"},
+             Row{[](auto view) { return getUnitStringType(view, 1); }, "mil", "my"},
+             Row{[](auto view) { return getAreaUnitStringType(view); }, "sq/in", "sq/mm"},
+             Row{[](auto view) { return getAreaUnitJudgeString(view, 1).toStdString(); }, "1", "645.1600"},
+         }) {
+        EXPECT_EQ(row.call(viewHandle(0)), row.inch);
+        EXPECT_EQ(row.call(viewHandle(1)), row.metric);
+        EXPECT_EQ(log.take(), Lines{});
+        EXPECT_EQ(row.call(viewHandle(9)), row.inch);
+        EXPECT_EQ(log.take(), Lines{operationError("getShowPara")}) << row.inch;
+    }
     EXPECT_EQ(doubleToString(10.0), "10");
     EXPECT_EQ(getMeasureValue({5, 0, {0, 0, 8, 9}}), 8.0);
     EXPECT_EQ(getMeasureValue({3, 0, {1, 2, 3, 4, 5, 6, 7}}), 0.0); // not understood
-    EXPECT_EQ(log.take(), Lines{});
-}
-
-TEST_F(UnitViews, UnknownViewIsAnInchViewAfterOneLogLine)
-{
-    void const * const unknown = viewHandle(9);
-    Lines const once{operationError("getShowPara")};
-    EXPECT_EQ(getUnitData(unknown, 25.4), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitAPIData(unknown, 1, 1.0), 25400.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitMilData(unknown, 1, 1.0), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitPointData(unknown, 25400.0), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeData(unknown, 1.0), 1);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeData2(unknown, 1.0), 1);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeDouble(unknown, 1.0), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeString(unknown, 1.0, 3), "1");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeStringMetric(unknown, 25400.0), "1.000");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitString(unknown), "Inch");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitStringType(unknown, 0), "inch");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getAreaUnitStringType(unknown), "sq/in");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getAreaUnitJudgeString(unknown, 1.0), "1");
-    EXPECT_EQ(log.take(), once);
 }
 
 } // namespace

@@ -9,14 +9,23 @@
 #include "widgets/KVTextEdit.h"
 #include "widgets/Translation.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
 
 using namespace KVCAM::Testing;
 using namespace KVCAM::UIAPI;
@@ -74,7 +83,10 @@ TEST(Companions, ListItemShowsItsFirstIconAndIsCopiedWhole)
     KVListWidgetItem const copy(*item);
     KVListWidgetItem assigned;
     assigned = copy;
-    for (KVListWidgetItem const * other : {&copy, static_cast<KVListWidgetItem const *>(&assigned)}) {
+    std::unique_ptr<QListWidgetItem> const clone(static_cast<QListWidgetItem *>(item)->clone());
+    auto const * const cloned = dynamic_cast<KVListWidgetItem *>(clone.get());
+    ASSERT_NE(cloned, nullptr);
+    for (KVListWidgetItem const * other : {&copy, static_cast<KVListWidgetItem const *>(&assigned), cloned}) {
         EXPECT_EQ(other->getItemUserData(), "data");
         EXPECT_EQ(other->icon().cacheKey(), first.cacheKey());
         EXPECT_EQ(other->listWidget(), nullptr);
@@ -93,6 +105,7 @@ TEST(Companions, ListHidesWhenTheFocusLeaves)
 TEST(Companions, TextEditReportsItsPlainTextAtEachLossOfFocus)
 {
     Form<KVTextEdit> form;
+    EXPECT_EQ(form.widget->focusPolicy(), Qt::StrongFocus);
     form.widget->setHtml(QStringLiteral("<b>bold</b>"));
     QSignalSpy const lost(form.widget, &KVTextEdit::LostFocus);
     for (int i = 1; i <= 2; ++i) { // the second time the text did not change
@@ -101,6 +114,19 @@ TEST(Companions, TextEditReportsItsPlainTextAtEachLossOfFocus)
         ASSERT_EQ(lost.count(), i);
         EXPECT_EQ(lost.last().first().toString(), "bold");
     }
+    // The base has repainted its cursor by the time that the signal is emitted.
+    form.widget->setFocus();
+    auto const children = form.widget->findChildren<QObject *>();
+    auto const control = std::find_if(children.begin(), children.end(),
+                                      [](QObject * child) { return child->inherits("QWidgetTextControl"); });
+    ASSERT_NE(control, children.end());
+    QSignalSpy const repainted(*control, SIGNAL(updateRequest(QRectF)));
+    QObject::connect(form.widget, &KVTextEdit::LostFocus, [&] {
+        EXPECT_GT(repainted.count(), 0);
+        delete form.widget;
+    });
+    form.other->setFocus();
+    EXPECT_EQ(lost.count(), 3);
 }
 
 TEST(Companions, ProgressDialogUsesItsParentAloneAndIgnoresEscapeAndStopsByF1)
@@ -115,18 +141,26 @@ TEST(Companions, ProgressDialogUsesItsParentAloneAndIgnoresEscapeAndStopsByF1)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     for (QWidget * receiver : {static_cast<QWidget *>(&dialog), dialog.findChild<QWidget *>()}) {
         receiver->setFocus();
-        QTest::keyClick(receiver, Qt::Key_Escape);
-        EXPECT_TRUE(dialog.isVisible());
-        EXPECT_FALSE(dialog.wasCanceled());
+        for (auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2}) {
+            QTest::keyClick(receiver, key);
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_FALSE(dialog.wasCanceled() || dialog.isDialogStop());
+        }
     }
-    QTest::keyPress(&dialog, Qt::Key_F1);
-    EXPECT_FALSE(dialog.isDialogStop());
-    QTest::keyRelease(&dialog, Qt::Key_F1);
+    for (auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_F1}) {
+        for (auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            EXPECT_FALSE(dialog.isDialogStop());
+            QKeyEvent event(type, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(&dialog, &event);
+            // nobody else gets Escape; a plain widget leaves the others to its parent
+            EXPECT_EQ(event.isAccepted(), key == Qt::Key_Escape && type == QEvent::KeyPress);
+        }
+    }
     EXPECT_TRUE(dialog.isDialogStop());
 }
 
 // A dialog on a directory with three folders.
-class FileDialog : public ::testing::Test
+class FileDialog : public UiapiTest
 {
 protected:
     static QDir folders()
@@ -156,6 +190,66 @@ protected:
     QTreeView * tree = dialog.findChild<QTreeView *>();
     QSignalSpy accepted{&dialog, &QDialog::accepted};
 };
+
+TEST_F(FileDialog, TheButtonsLieInARowBelow)
+{
+    auto * const grid = dialog.findChild<QGridLayout *>();
+    auto * const box = dialog.findChild<QDialogButtonBox *>("buttonBox");
+    int place[4];
+    grid->getItemPosition(grid->indexOf(box), &place[0], &place[1], &place[2], &place[3]);
+    EXPECT_EQ(std::vector<int>(place, place + 4), (std::vector<int>{4, 1, 1, 1}));
+    EXPECT_EQ(box->orientation(), Qt::Horizontal);
+    EXPECT_EQ(box->layoutDirection(), Qt::LeftToRight);
+    auto * const all = dialog.findChild<QPushButton *>("m_ChooseAllPB");
+    EXPECT_EQ(box->buttonRole(all), QDialogButtonBox::ActionRole);
+    EXPECT_EQ(dialog.options(), QFileDialog::DontUseNativeDialog | QFileDialog::DontUseCustomDirectoryIcons);
+    EXPECT_EQ(tree->selectionMode(), QAbstractItemView::ExtendedSelection);
+    EXPECT_EQ(dialog.findChild<QListView *>("listView")->selectionMode(),
+              QAbstractItemView::ExtendedSelection);
+}
+
+// With the question off, Qt asks on the way of Return alone, which is not tried with an existing file.
+TEST_F(FileDialog, ExistingFilesAreReplacedUnaskedUnlessAskedFor)
+{
+    QFile(directory.filePath("old")).open(QIODevice::WriteOnly);
+    auto * const name = dialog.findChild<QLineEdit *>("fileNameEdit");
+    QSignalSpy chosen(&dialog, &QFileDialog::filesSelected);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    struct Row
+    {
+        bool asks;
+        char const * name;
+        bool byReturn;
+        Ext::MessageAnswer answer;
+        bool accepts, emits;
+        Lines question;
+    };
+    auto const yes = Ext::MessageAnswer::Yes;
+    auto const no = Ext::MessageAnswer::No;
+    Lines const question{"question|Information|Replace what is there already?\nold"};
+    for (Row const & row :
+         {Row{false, "old", false, no, true, false, {}}, Row{false, "new", true, no, true, true, {}},
+          Row{true, "new", false, no, true, false, {}}, Row{true, "a", false, no, true, false, {}},
+          Row{true, "old", false, no, false, false, question},
+          Row{true, "old", false, yes, true, false, question},
+          Row{true, "old", true, no, false, false, question},
+          Row{true, "old", true, yes, true, true, question}}) {
+        dialog.show();
+        tree->selectionModel()->clear();
+        name->setText(row.name);
+        dialog.setAsksBeforeReplacing(row.asks);
+        boxes.answer(row.answer);
+        if (row.byReturn) {
+            QTest::keyClick(name, Qt::Key_Return);
+        } else {
+            dialog.onChoice();
+        }
+        EXPECT_EQ(boxes.take(), row.question);
+        EXPECT_EQ(!dialog.isVisible(), row.accepts) << row.name;
+        EXPECT_EQ(chosen.count() == 1, row.emits);
+        chosen.clear();
+    }
+}
 
 TEST_F(FileDialog, SelectAllAcceptsOnceWithEveryEntry)
 {

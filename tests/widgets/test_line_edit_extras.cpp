@@ -1,12 +1,18 @@
 #include "widgets/LineEditTest.h"
 #include "widgets/Translation.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QPointer>
 #include <QSet>
 #include <QSignalSpy>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
+#include <set>
+#include <string>
 
 using namespace KVCAM::Testing;
 using namespace KVCAM::UIAPI;
@@ -190,6 +196,79 @@ TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
     EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1, 3"));
     EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.40, 76.20"));
     EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+// Deletes what gets a dynamic property.
+struct DeletingFilter : QObject
+{
+    bool eventFilter(QObject * object, QEvent * event) override
+    {
+        bool const deletes = event->type() == QEvent::DynamicPropertyChange;
+        if (deletes) {
+            delete object;
+        }
+        return deletes;
+    }
+};
+
+TEST_F(LineEditExtras, ASlotMayDeleteTheFieldThatEmits)
+{
+    DeletingFilter filter;
+    std::set<std::string> deletions;
+    std::function<void(KVLineEdit &)> const acts[] = {
+        [](auto & edit) { edit.changeunit(1); }, [this](auto &) { setUnit(&view, 1); },
+        [](auto & edit) { edit.setRange(20, 30); }, [](auto & edit) { edit.clearRange(); },
+        [](auto & edit) { edit.setLengthScale(KVLineEdit::Large); }};
+    for (int act = 0; act < 5; ++act) {
+        for (char by : {'t', 's', 'c', 'v', 'p'}) {
+            setUnit(&view, 0);
+            QPointer<KVLineEdit> const edit = new KVLineEdit("1", RegNumber, &view);
+            edit->setRange(2, 3);
+            edit->setFollowView(true);
+            edit->selectAll();
+            auto const erase = [&edit] { delete edit; };
+            switch (by) {
+            case 't':
+                QObject::connect(edit, &QLineEdit::textChanged, erase);
+                break;
+            case 's':
+                QObject::connect(edit, &QLineEdit::selectionChanged, erase);
+                break;
+            case 'c':
+                QObject::connect(edit, &QLineEdit::cursorPositionChanged, erase);
+                break;
+            case 'v':
+                QObject::connect(edit, &KVLineEdit::validityChanged, erase);
+                break;
+            default:
+                edit->installEventFilter(&filter);
+            }
+            acts[act](*edit);
+            if (edit.isNull()) {
+                deletions.insert(by + std::to_string(act));
+            }
+            delete edit;
+        }
+    }
+    EXPECT_EQ(deletions, (std::set<std::string>{"t0", "t1", "s0", "s1", "c0", "c1", "v0", "v1", "v2", "v3",
+                                                "v4", "p3"}));
+}
+
+// The bases' destructors still emit while the private part is gone.
+TEST_F(LineEditExtras, ADyingFieldHearsNoMore)
+{
+    auto * const edit = new KVLineEdit("1", RegNumber, &view);
+    edit->setFollowView(true);
+    edit->setRange(2, 3);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    edit->setFocus();
+    int changes = 0;
+    auto const change = [&] { setUnit(&view, ++changes % 2); };
+    QObject::connect(edit, &QObject::destroyed, change);
+    QObject::connect(qApp, &QApplication::focusChanged, &view, change);
+    delete edit;
+    EXPECT_EQ(changes, 2);
 }
 
 TEST_F(LineEditExtras, ASymbolIsJudgedInTheUnitItWasTypedIn)
