@@ -2,7 +2,6 @@
 
 #include "uiapi/flat/ShowParameters.h"
 #include "uiapi/flat/Units.h"
-#include "uiapi/flat/ViewAccess.h"
 #include "units/UnitConversion.h"
 
 #include <QRegExp>
@@ -12,6 +11,7 @@
 #include <limits>
 #include <optional>
 #include <random>
+#include <vector>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -55,13 +55,15 @@ TEST(UnitConversion, OtherUnitCodesAreInchForTheEngineAndMetricForTheEye)
         char const * largeText;
         char const * areaText;
         char const * areaName;
+        char const *name, *largeName, *smallName;
     };
     // of the value 2: toEngine kinds 0 and 1, toMil, fromMicrometres, milToSmallUnit
     for (Row const & row :
-         {Row{0, 50800000.0, 50800.0, 2, 2 / 25400.0, 2, "2", "0.000", "2", "sq/in"},
-          Row{1, 2000000.0, 2000.0, 2 / 25.4, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm"},
-          Row{2, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm"},
-          Row{-1, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm"}}) {
+         {Row{0, 50800000.0, 50800.0, 2, 2 / 25400.0, 2, "2", "0.000", "2", "sq/in", "Inch", "inch", "mil"},
+          Row{1, 2000000.0, 2000.0, 2 / 25.4, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm", "MM", "mm",
+              "my"},
+          Row{2, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm", "", "", ""},
+          Row{-1, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm", "", "", ""}}) {
         SCOPED_TRACE(row.unit);
         EXPECT_EQ(Units::toEngine(row.unit, 0, 2), row.nanometres);
         EXPECT_EQ(Units::toEngine(row.unit, 1, 2), row.micrometres);
@@ -76,6 +78,10 @@ TEST(UnitConversion, OtherUnitCodesAreInchForTheEngineAndMetricForTheEye)
         EXPECT_EQ(Units::micrometresText(row.unit, 2), row.largeText);
         EXPECT_EQ(Units::areaText(row.unit, 2), row.areaText);
         EXPECT_EQ(Units::areaName(row.unit), row.areaName);
+        EXPECT_EQ(Units::name(row.unit), row.name);
+        EXPECT_EQ(Units::nameByKind(row.unit, 0), row.largeName);
+        EXPECT_EQ(Units::nameByKind(row.unit, 1), row.smallName);
+        EXPECT_EQ(Units::nameByKind(row.unit, 2), "");
     }
 }
 
@@ -101,46 +107,18 @@ TEST(UnitConversion, JudgeValuesTruncateAndSaturate)
     }
 }
 
-TEST(UnitConversion, NamesByUnitAndKind)
-{
-    struct Row
-    {
-        int unit;
-        char const *name, *large, *small;
-    };
-    for (Row const & row :
-         {Row{0, "Inch", "inch", "mil"}, Row{1, "MM", "mm", "my"}, Row{2, "", "", ""}, Row{-1, "", "", ""}}) {
-        SCOPED_TRACE(row.unit);
-        EXPECT_EQ(Units::name(row.unit), row.name);
-        EXPECT_EQ(Units::nameByKind(row.unit, 0), row.large);
-        EXPECT_EQ(Units::nameByKind(row.unit, 1), row.small);
-        EXPECT_EQ(Units::nameByKind(row.unit, 2), "");
-    }
-}
-
-TEST(UnitConversion, PlainTextDropsTrailingZerosAndThePointWithThem)
-{
-    struct Row
-    {
-        double value;
-        char const * text;
-    };
-    for (Row const & row :
-         {Row{10.0, "10"}, Row{0.0, "0"}, Row{100.5, "100.5"}, Row{0.1234567, "0.123457"}, Row{-0.5, "-0.5"},
-          Row{100.0, "100"}, Row{1e9, "1000000000"}, Row{0.0000001, "0"}, Row{-0.0, "0"}, Row{1.05, "1.05"},
-          Row{infinity, "inf"}, Row{std::nan(""), "nan"}}) {
-        EXPECT_EQ(Units::plainText(row.value), row.text);
-    }
-}
-
 // The rule as a regular expression, which is what plainText() stands for.
 TEST(UnitConversion, PlainTextIsTheFixedTextWithoutItsTrailingZeros)
 {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> exponent(-8, 15);
+    std::vector<double> values{10.0,  0.0, -0.0, 100.5,    0.1234567,   -0.5,
+                               100.0, 1e9, 1.05, infinity, std::nan("")};
     for (int i = 0; i < 20000; ++i) {
-        double value = std::pow(10.0, exponent(random)) * (i % 2 == 0 ? 1 : -1);
-        value = i % 3 == 0 ? std::round(value * 100) / 100 : value;
+        double const value = std::pow(10.0, exponent(random)) * (i % 2 == 0 ? 1 : -1);
+        values.push_back(i % 3 == 0 ? std::round(value * 100) / 100 : value);
+    }
+    for (double value : values) {
         QString text = QString("%1").arg(value, 0, 'f', -1, QChar(' '));
         text.replace(QRegExp("(\\.){0,1}0+$"), "");
         ASSERT_EQ(Units::plainText(value), text.toStdString());
@@ -182,12 +160,8 @@ class UnitViews : public UiapiTest
 // after one line.
 TEST_F(UnitViews, FlatFunctionsFollowTheView)
 {
-    for (int unit : {0, 1}) {
-        Step_Config config;
-        config.view = viewHandle(unit);
-        config.show_param.unit = unit;
-        ASSERT_TRUE(insertStepConfig(config));
-    }
+    registerView(viewHandle(0), 0);
+    registerView(viewHandle(1), 1);
     auto const text = [](double value) { return QString::number(value, 'g', 17).toStdString(); };
     struct Row
     {

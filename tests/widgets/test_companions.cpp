@@ -9,7 +9,7 @@
 #include "widgets/KVTextEdit.h"
 #include "widgets/Translation.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
@@ -59,24 +59,17 @@ TEST(Companions, LabelKeepsItsThreeAttributesApart)
     label.setAttribute2(texts[1]);
     label.setAttribute3(texts[2]);
     EXPECT_EQ(label.getAttribute1() + label.getAttribute2() + label.getAttribute3(), "abc");
-    EXPECT_EQ(label.property("Attribute2").toString(), "b");
     EXPECT_TRUE(label.setProperty("Attribute3", "d"));
     EXPECT_EQ(label.getAttribute3(), "d");
-    EXPECT_EQ(label.text(), "text");
 }
 
 TEST(Companions, ListItemShowsItsFirstIconAndIsCopiedWhole)
 {
-    auto const icon = [](Qt::GlobalColor colour) {
-        QPixmap pixmap(4, 4);
-        pixmap.fill(colour);
-        return QIcon(pixmap);
-    };
-    QIcon const first = icon(Qt::red);
+    QIcon const first(QPixmap(4, 4));
     QListWidget list;
     auto * item = new KVListWidgetItem(&list);
     EXPECT_EQ(item->type(), 0);
-    item->setItemIcon(first, icon(Qt::green), icon(Qt::blue));
+    item->setItemIcon(first, QIcon(), QIcon());
     item->setItemUserData("data");
     EXPECT_EQ(item->icon().cacheKey(), first.cacheKey());
 
@@ -151,7 +144,7 @@ TEST(Companions, ProgressDialogUsesItsParentAloneAndIgnoresEscapeAndStopsByF1)
         for (auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             EXPECT_FALSE(dialog.isDialogStop());
             QKeyEvent event(type, key, Qt::NoModifier);
-            QCoreApplication::sendEvent(&dialog, &event);
+            QApplication::sendEvent(&dialog, &event);
             // nobody else gets Escape; a plain widget leaves the others to its parent
             EXPECT_EQ(event.isAccepted(), key == Qt::Key_Escape && type == QEvent::KeyPress);
         }
@@ -176,15 +169,6 @@ protected:
         dialog.show();
         ASSERT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->rootIndex()) == 3; }));
     }
-    void click(QString const & text)
-    {
-        for (QAbstractButton * each : dialog.findChild<QDialogButtonBox *>("buttonBox")->buttons()) {
-            if (each->text() == text) {
-                each->click();
-            }
-        }
-    }
-
     QDir directory = folders(); // made first: the dialog would notice them late
     KVFileDialog dialog;
     QTreeView * tree = dialog.findChild<QTreeView *>();
@@ -193,6 +177,7 @@ protected:
 
 TEST_F(FileDialog, TheButtonsLieInARowBelow)
 {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
     auto * const grid = dialog.findChild<QGridLayout *>();
     auto * const box = dialog.findChild<QDialogButtonBox *>("buttonBox");
     int place[4];
@@ -201,6 +186,7 @@ TEST_F(FileDialog, TheButtonsLieInARowBelow)
     EXPECT_EQ(box->orientation(), Qt::Horizontal);
     EXPECT_EQ(box->layoutDirection(), Qt::LeftToRight);
     auto * const all = dialog.findChild<QPushButton *>("m_ChooseAllPB");
+    EXPECT_EQ(all->text(), "Select All");
     EXPECT_EQ(box->buttonRole(all), QDialogButtonBox::ActionRole);
     EXPECT_EQ(dialog.options(), QFileDialog::DontUseNativeDialog | QFileDialog::DontUseCustomDirectoryIcons);
     EXPECT_EQ(tree->selectionMode(), QAbstractItemView::ExtendedSelection);
@@ -208,7 +194,6 @@ TEST_F(FileDialog, TheButtonsLieInARowBelow)
               QAbstractItemView::ExtendedSelection);
 }
 
-// With the question off, Qt asks on the way of Return alone, which is not tried with an existing file.
 TEST_F(FileDialog, ExistingFilesAreReplacedUnaskedUnlessAskedFor)
 {
     QFile(directory.filePath("old")).open(QIODevice::WriteOnly);
@@ -217,43 +202,36 @@ TEST_F(FileDialog, ExistingFilesAreReplacedUnaskedUnlessAskedFor)
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     struct Row
     {
-        bool asks;
+        bool asks, byReturn;
         char const * name;
-        bool byReturn;
-        Ext::MessageAnswer answer;
-        bool accepts, emits;
-        Lines question;
+        bool yes;
+        char const * happens; // asked, accepted, emitted
     };
-    auto const yes = Ext::MessageAnswer::Yes;
-    auto const no = Ext::MessageAnswer::No;
-    Lines const question{"question|Information|Replace what is there already?\nold"};
+    // without the question Qt has a box of its own for "old" and Return
     for (Row const & row :
-         {Row{false, "old", false, no, true, false, {}}, Row{false, "new", true, no, true, true, {}},
-          Row{true, "new", false, no, true, false, {}}, Row{true, "a", false, no, true, false, {}},
-          Row{true, "old", false, no, false, false, question},
-          Row{true, "old", false, yes, true, false, question},
-          Row{true, "old", true, no, false, false, question},
-          Row{true, "old", true, yes, true, true, question}}) {
+         {Row{false, false, "old", false, ".a."}, Row{false, true, "new", false, ".ae"},
+          Row{true, false, "new", false, ".a."}, Row{true, false, "a", false, ".a."}, // a folder
+          Row{true, false, "old", false, "q.."}, Row{true, false, "old", true, "qa."},
+          Row{true, true, "old", false, "q.."}, Row{true, true, "old", true, "qae"}}) {
         dialog.show();
         tree->selectionModel()->clear();
         name->setText(row.name);
         dialog.setAsksBeforeReplacing(row.asks);
-        boxes.answer(row.answer);
-        if (row.byReturn) {
-            QTest::keyClick(name, Qt::Key_Return);
-        } else {
-            dialog.onChoice();
-        }
-        EXPECT_EQ(boxes.take(), row.question);
-        EXPECT_EQ(!dialog.isVisible(), row.accepts) << row.name;
-        EXPECT_EQ(chosen.count() == 1, row.emits);
+        boxes.answer(row.yes ? Ext::MessageAnswer::Yes : Ext::MessageAnswer::No);
+        row.byReturn ? QTest::keyClick(name, Qt::Key_Return) : dialog.onChoice();
+        Lines const asked = boxes.take();
+        EXPECT_TRUE(asked.empty() ||
+                    asked == Lines{"question|Information|Replace what is there already?\nold"});
+        EXPECT_EQ(std::string(asked.empty() ? "." : "q") + (dialog.isVisible() ? "." : "a") +
+                      (chosen.isEmpty() ? "." : "e"),
+                  row.happens);
         chosen.clear();
     }
 }
 
 TEST_F(FileDialog, SelectAllAcceptsOnceWithEveryEntry)
 {
-    click("Select All");
+    dialog.findChild<QPushButton *>("m_ChooseAllPB")->click();
     EXPECT_EQ(accepted.count(), 1);
     EXPECT_EQ(dialog.selectedFiles().size(), 3);
 }
@@ -264,7 +242,7 @@ TEST_F(FileDialog, SelectedFoldersAreAcceptedAndNotEntered)
         tree->selectionModel()->select(tree->model()->index(row, 0, tree->rootIndex()),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
-    click("&Open");
+    dialog.findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Open)->click();
     EXPECT_EQ(accepted.count(), 1);
     EXPECT_EQ(dialog.selectedFiles().size(), 2);
 }
