@@ -170,7 +170,8 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->rootIndex()) == 3; }));
     }
     QDir directory = folders(); // made first: the dialog would notice them late
-    KVFileDialog dialog;
+    QWidget owner;
+    KVFileDialog & dialog = *new KVFileDialog(&owner);
     QTreeView * tree = dialog.findChild<QTreeView *>();
     QSignalSpy accepted{&dialog, &QDialog::accepted};
 };
@@ -227,6 +228,26 @@ TEST_F(FileDialog, ExistingFilesAreReplacedUnaskedUnlessAskedFor)
                   row.happens);
         chosen.clear();
     }
+}
+
+TEST_F(FileDialog, MayBeDeletedWhileItAsksOrSelects)
+{
+    QFile(directory.filePath("old")).open(QIODevice::WriteOnly);
+    auto * const asking = new KVFileDialog(&owner);
+    asking->setAcceptMode(QFileDialog::AcceptSave);
+    asking->setAsksBeforeReplacing(true);
+    asking->selectFile(directory.filePath("old"));
+    auto const capture = Ext::setMessagePresenter([asking](auto const &) {
+        delete asking;
+        return Ext::MessageAnswer::Yes;
+    });
+    asking->onChoice();
+    Ext::setMessagePresenter(capture);
+    QObject::connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged,
+                     [this] { delete &dialog; });
+    dialog.on_m_ChooseAllPB_clicked();
+    EXPECT_TRUE(accepted.isEmpty());
+    EXPECT_TRUE(owner.children().isEmpty());
 }
 
 TEST_F(FileDialog, SelectAllAcceptsOnceWithEveryEntry)

@@ -114,18 +114,6 @@ TEST_F(LineEdit, EditAfterASwitchDiscardsTheOtherUnitsText)
     EXPECT_EQ(number.text(), "0");
 }
 
-TEST_F(LineEdit, UnregisteredParentIsAnInchViewLoggedAtEachTrackedEdit)
-{
-    QWidget stranger;
-    KVLineEdit number(RegNumber, &stranger);
-    KVLineEdit name(RegName, &stranger);
-    type(number, "10");
-    type(name, "10");
-    EXPECT_EQ(log.take(), Lines(2, operationError("getShowPara")));
-    number.changeunit(1);
-    EXPECT_EQ(number.text(), "254");
-}
-
 TEST_F(LineEdit, TheUnitIsThatOfTheFirstParentWhereverTheFieldGoes)
 {
     QWidget later;
