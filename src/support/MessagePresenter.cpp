@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
+#include <QScopeGuard>
 #include <QThread>
 
 #include <algorithm>
@@ -32,14 +34,18 @@ MessageAnswer showBox(Message const & message)
         Log::warning(Log::commonPara, (message.title + QStringLiteral(": ") + message.text).toStdString());
         return neutralAnswer(message.kind);
     }
-    if (message.kind == MessageKind::Information) {
-        QMessageBox::information(message.parent, message.title, message.text, QMessageBox::Ok);
-        return MessageAnswer::Ok;
+    bool const isQuestion = message.kind == MessageKind::Question;
+    // Not on the stack: a parent that dies while the box is open destroys it, and exec() then returns 0.
+    QPointer<QMessageBox> const box = new QMessageBox(
+        isQuestion ? QMessageBox::Question : QMessageBox::Information, message.title, message.text,
+        isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, message.parent);
+    auto const destroyed = qScopeGuard([&box] { delete box.data(); });
+    if (isQuestion) {
+        box->setWindowModality(Qt::ApplicationModal);
+    } else {
+        box->setDefaultButton(QMessageBox::Ok);
     }
-    QMessageBox box(QMessageBox::Question, message.title, message.text, QMessageBox::Yes | QMessageBox::No,
-                    message.parent);
-    box.setWindowModality(Qt::ApplicationModal);
-    return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+    return box->exec() == QMessageBox::Yes ? MessageAnswer::Yes : neutralAnswer(message.kind);
 }
 
 // Never destroyed: a box may still be asked for while the process ends.

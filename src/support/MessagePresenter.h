@@ -23,7 +23,7 @@ enum class MessageAnswer : int
 {
     Ok,  ///< to an information
     Yes, ///< to a question
-    No   ///< to a question; also when the box was closed
+    No   ///< to a question; also when the box was closed, or destroyed with its parent
 };
 
 /// One box that the library wants shown. The texts are translated already.
@@ -41,7 +41,8 @@ using MessagePresenter = std::function<MessageAnswer(Message const &)>;
 /// Replaces the one point through which every box of the library goes, and returns the presenter that was
 /// set before. An empty function restores the default: a modal QMessageBox, or, where there is no
 /// QApplication or the caller is not on its thread, a WARNING line "title: text" and the neutral answer (No
-/// to a question). GUI thread only.
+/// to a question). A parent may be deleted while its box is open: that too is the
+/// neutral answer. GUI thread only.
 UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter presenter);
 
 /// Shows a message through the presenter in force and returns the answer. A presenter that throws counts as

@@ -50,6 +50,10 @@
         <source>Select All</source>
         <translation>全选</translation>
     </message>
+    <message>
+        <source>Replace what is there already?</source>
+        <translation>是否替换已有的文件？</translation>
+    </message>
 </context>
 <context>
     <name>KVCAM::UIAPI::KVLineEdit</name>

@@ -161,7 +161,7 @@ public:
     /// Mil to the small unit, unrounded.
     double getUnitJudgeDouble(void const * view, double value) const;
     /// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most
-    /// 1074; negative: 6).
+    /// 1074; -128, QLocale::FloatingPointShortest: as many as the value needs; else negative: 6).
     QString getUnitJudgeString(void const * view, double value, int precision) const;
     /// Micrometres as text in the large unit, 3 decimals.
     QString getUnitJudgeStringMetric(void const * view, double value) const;

@@ -22,7 +22,7 @@ double toUnit(int unit, double value)
 {
     double const converted = unit == inch ? value / millimetresPerInch : value * millimetresPerInch;
     double const scale = unit == inch ? 100000.0 : 1000.0;
-    double const whole = std::trunc(converted);
+    double const whole = std::trunc(converted) + 0.0; // which makes a -0.0 of it 0.0, as an int would
     if (!std::isfinite(whole)) {
         return converted; // its fraction would be NaN
     }

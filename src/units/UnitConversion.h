@@ -39,7 +39,8 @@ int milToSmallUnitTruncated(int unit, double value);
 int smallUnitToMilTruncated(int unit, double value);
 
 /// Mil as text in the small unit: for unit 0 six significant digits (`precision` is not used), else
-/// `precision` decimals, at most 1074; a negative precision is 6.
+/// `precision` decimals, at most 1074; -128 (QLocale::FloatingPointShortest) gives as many as the value
+/// needs, every other negative precision 6.
 QString milText(int unit, double value, int precision);
 /// Micrometres as text in the large unit with 3 decimals.
 QString micrometresText(int unit, double value);

@@ -1,8 +1,12 @@
 #include "widgets/KVFileDialog.h"
 
+#include "support/Boxes.h"
+
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QListView>
+#include <QPointer>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -42,16 +46,73 @@ KVFileDialog::KVFileDialog(QWidget * parent) : QFileDialog(parent, QString(), QS
 
 KVFileDialog::~KVFileDialog() = default;
 
+bool KVFileDialog::asksBeforeReplacing() const
+{
+    return m_asksBeforeReplacing;
+}
+
+void KVFileDialog::setAsksBeforeReplacing(bool asks)
+{
+    m_asksBeforeReplacing = asks;
+}
+
+// False also when the dialog was deleted while it asked.
+bool KVFileDialog::mayReplace()
+{
+    if (!m_asksBeforeReplacing || acceptMode() != AcceptSave) {
+        return true;
+    }
+    constexpr int mostNames = 10; // or the box may not fit the screen
+    QStringList names;
+    for (QString const & path : selectedFiles()) {
+        QFileInfo const file(path);
+        if (file.exists() && !file.isDir()) {
+            names += names.size() < mostNames ? file.fileName() : QStringLiteral("...");
+        }
+        if (names.size() > mostNames) {
+            break;
+        }
+    }
+    QPointer<KVFileDialog> const alive(this);
+    return names.isEmpty() ||
+           (KVCAM::UIAPI::askQuestion(this, tr("Replace what is there already?") + QLatin1Char('\n') +
+                                                names.join(QLatin1Char('\n'))) &&
+            alive);
+}
+
+void KVFileDialog::accept()
+{
+    if (!m_asksBeforeReplacing) {
+        QFileDialog::accept();
+        return;
+    }
+    if (!mayReplace()) {
+        return;
+    }
+    QPointer<KVFileDialog> const alive(this);
+    bool const wasUnconfirmed = testOption(DontConfirmOverwrite);
+    setOption(DontConfirmOverwrite); // nothing is asked twice
+    QFileDialog::accept();
+    if (alive) {
+        setOption(DontConfirmOverwrite, wasUnconfirmed);
+    }
+}
+
 void KVFileDialog::onChoice()
 {
-    // QFileDialog::accept() would enter a selected folder.
-    QDialog::accept(); // NOLINT(bugprone-parent-virtual-call)
+    if (mayReplace()) {
+        // QFileDialog::accept() would enter a selected folder.
+        QDialog::accept(); // NOLINT(bugprone-parent-virtual-call)
+    }
 }
 
 void KVFileDialog::on_m_ChooseAllPB_clicked()
 {
+    QPointer<KVFileDialog> const alive(this);
     if (auto * tree = findChild<QTreeView *>()) {
         tree->selectAll();
     }
-    onChoice();
+    if (alive) {
+        onChoice();
+    }
 }

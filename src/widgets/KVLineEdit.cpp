@@ -4,11 +4,44 @@
 #include "uiapi/flat/SymbolNames.h"
 #include "widgets/KVLineEditPrivate.h"
 
+#include <QPointer>
 #include <QRegExp>
 #include <QRegExpValidator>
-#include <QScopedValueRollback>
+#include <QScopeGuard>
+#include <QSignalBlocker>
+
+#include <utility>
 
 namespace KVCAM::UIAPI {
+namespace {
+
+// setText() that emits at its end: a slot may then delete the field, which QLineEdit does not survive while
+// its own setText() runs.
+void showText(KVLineEdit & field, QString const & text)
+{
+    QPointer<KVLineEdit> const alive(&field);
+    QString const before = field.text();
+    int const cursorBefore = field.cursorPosition();
+    bool const wasSelected = field.hasSelectedText();
+    {
+        QSignalBlocker const blocker(field);
+        field.setText(text);
+    }
+    QString const shown = field.text();
+    int const cursor = field.cursorPosition();
+    if (shown != before) {
+        emit field.textChanged(shown);
+    }
+    if (alive && wasSelected) {
+        emit field.selectionChanged();
+    }
+    // Not when a slot has moved the cursor, which was told already.
+    if (alive && cursor != cursorBefore && field.cursorPosition() == cursor) {
+        emit field.cursorPositionChanged(cursorBefore, cursor);
+    }
+}
+
+} // namespace
 
 KVLineEdit::KVLineEdit(QWidget * parent) : KVLineEdit(QString(), parent) {}
 
@@ -29,8 +62,12 @@ KVLineEdit::KVLineEdit(QString const & text, KVERegExp kind, QWidget * parent) :
     setText(text);
 }
 
+// The bases' destructors still emit (the focus leaves, destroyed()), and a slot may then change the view.
 KVLineEdit::~KVLineEdit()
 {
+    for (QMetaObject::Connection const * own : {&d->recording, &d->judging, &d->following, &d->refusals}) {
+        disconnect(*own);
+    }
     delete d;
 }
 
@@ -43,7 +80,7 @@ void KVLineEdit::insertLimit()
 
 void KVLineEdit::restrictTo(KVERegExp kind)
 {
-    connect(this, &QLineEdit::textChanged, this, &KVLineEdit::on_textchanged);
+    d->recording = connect(this, &QLineEdit::textChanged, this, &KVLineEdit::on_textchanged);
     d->kind = kind;
     // An inserting look-up: a kind outside the table gets an empty pattern.
     setValidator(new QRegExpValidator(QRegExp(d->patterns[kind]), this));
@@ -78,12 +115,18 @@ void KVLineEdit::on_textchanged(QString const & text)
 
 void KVLineEdit::changeunit(int const & unit)
 {
-    QScopedValueRollback<bool> const changing(d->isChanging, true);
+    // A slot may delete the field, and `d` with it.
+    QPointer<KVLineEdit> const alive(this);
+    auto const changed = qScopeGuard([this, &alive, was = std::exchange(d->isChanging, true)] {
+        if (alive) {
+            d->isChanging = was;
+        }
+    });
     d->shownUnit = unit;
     bool const inch = unit == Units::inch;
     switch (d->tracking()) {
     case UnitTracking::Number:
-        setText(inch ? d->inchNumber : d->metricNumber);
+        showText(*this, inch ? d->inchNumber : d->metricNumber);
         break;
     case UnitTracking::Symbol: {
         QString & wanted = inch ? d->inchSymbol : d->metricSymbol;
@@ -93,13 +136,15 @@ void KVLineEdit::changeunit(int const & unit)
             setSymbolUIData(converted, Units::inch);
             wanted = converted;
         }
-        setText(wanted);
+        showText(*this, wanted);
         break;
     }
     case UnitTracking::None:
         break;
     }
-    judge(); // the words have the bounds in the unit shown, and the text need not have changed
+    if (alive) {
+        judge(); // the words have the bounds in the unit shown, and the text need not have changed
+    }
 }
 
 } // namespace KVCAM::UIAPI

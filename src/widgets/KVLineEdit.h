@@ -36,6 +36,9 @@ enum KVERegExp : int
 /// compared, never followed, and stays when the field is put under another parent. An unregistered parent is
 /// an inch view (and is logged at each edit). setText() is recorded like typing and is not validated.
 ///
+/// A slot may delete the field at once when a member of this class or its view emitted; while setText() or a
+/// key does, it must use deleteLater(), as with any QLineEdit.
+///
 /// Texts are read and written in the C locale. What the additions below do is off until asked for, and
 /// changes no text.
 class UIAPICOMMON_EXPORT KVLineEdit : public QLineEdit

@@ -11,6 +11,7 @@
 #include "widgets/KVLineEditPrivate.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QStyle>
 #include <QToolTip>
 
@@ -145,14 +146,19 @@ void KVLineEdit::judge()
     bool const isPropertyStale = isOther || isMarked != d->isMarked;
     d->verdict = now;
     d->isMarked = isMarked;
+    QPointer<KVLineEdit> const alive(this); // event filters and slots may delete the field
     if (isPropertyStale) {
         setProperty(validProperty, isMarked ? QVariant(now.legal) : QVariant());
-        // A style sheet looks at a property only when the widget is polished.
-        style()->unpolish(this);
-        style()->polish(this);
-        update();
+        if (alive) {
+            // A style sheet looks at a property only when the widget is polished.
+            style()->unpolish(this);
+            style()->polish(this);
+        }
+        if (alive) {
+            update();
+        }
     }
-    if (isNews) {
+    if (alive && isNews) {
         emit validityChanged(now.legal, now.text);
     }
 }
@@ -210,10 +216,13 @@ void KVLineEdit::explainRefusal()
     } else {
         words = tr("This cannot be typed here.");
     }
+    QPointer<KVLineEdit> const alive(this);
     if (isVisible()) {
         QToolTip::showText(mapToGlobal(QPoint(0, height())), words, this);
     }
-    emit inputRefused(words);
+    if (alive) {
+        emit inputRefused(words);
+    }
 }
 
 } // namespace KVCAM::UIAPI

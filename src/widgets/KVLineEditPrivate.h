@@ -29,6 +29,7 @@ struct KVLineEdit::Private
     bool isChanging = false;   // changeunit() is rewriting the text, which is not to be recorded
     QWidget * owner = nullptr; // the view handle: compared, never followed
     KVERegExp kind = KVERegExp(0);
+    QMetaObject::Connection recording;
 
     // Additions
     struct Range

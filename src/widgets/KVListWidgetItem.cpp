@@ -8,6 +8,11 @@ KVListWidgetItem & KVListWidgetItem::operator=(KVListWidgetItem const & other) =
 
 KVListWidgetItem::~KVListWidgetItem() = default;
 
+KVListWidgetItem * KVListWidgetItem::clone() const
+{
+    return new KVListWidgetItem(*this);
+}
+
 void KVListWidgetItem::setItemIcon(QIcon const & first, QIcon const & second, QIcon const & third)
 {
     m_shownIcon = first;

@@ -18,6 +18,9 @@ public:
     KVListWidgetItem & operator=(KVListWidgetItem const & other);
     ~KVListWidgetItem() override;
 
+    /// A copy made with new, as by the copy constructor; the caller's.
+    KVListWidgetItem * clone() const override;
+
     /// Keeps all three and shows the first.
     void setItemIcon(QIcon const & first, QIcon const & second, QIcon const & third);
     ///@{

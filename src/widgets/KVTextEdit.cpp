@@ -1,5 +1,7 @@
 #include "widgets/KVTextEdit.h"
 
+#include <QPointer>
+
 KVTextEdit::KVTextEdit(QWidget * parent) : QTextEdit(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -9,6 +11,9 @@ KVTextEdit::~KVTextEdit() = default;
 
 void KVTextEdit::focusOutEvent(QFocusEvent * event)
 {
+    QPointer<KVTextEdit> const alive(this);
     QTextEdit::focusOutEvent(event);
-    emit LostFocus(toPlainText());
+    if (alive) {
+        emit LostFocus(toPlainText());
+    }
 }

@@ -16,7 +16,7 @@ public:
     ~KVTextEdit() override;
 
 signals:
-    /// The plain text, without markup; also when it did not change.
+    /// The plain text, without markup; also when it did not change. A slot may delete the text edit.
     void LostFocus(QString text);
 
 protected:

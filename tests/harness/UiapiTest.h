@@ -3,6 +3,7 @@
 #include "harness/LogCapture.h"
 #include "harness/MessageCapture.h"
 #include "harness/RecordingEngine.h"
+#include "uiapi/flat/ViewAccess.h"
 
 #include <gtest/gtest.h>
 
@@ -25,6 +26,15 @@ protected:
         }
         EXPECT_EQ(errors, Lines{}) << "ERROR lines that the case did not expect";
         EXPECT_EQ(boxes.take(), Lines{}) << "boxes that the case did not expect";
+    }
+
+    /// Registers a view with a unit and nothing else.
+    static void registerView(void const * view, int unit)
+    {
+        UIAPI::Step_Config config;
+        config.view = view;
+        config.show_param.unit = unit;
+        ASSERT_TRUE(UIAPI::insertStepConfig(config));
     }
 
     LogCapture log;

@@ -127,48 +127,66 @@ protected:
         Ext::setMessagePresenter(m_capture);
         SupportTest::TearDown();
     }
-    // Presses a button of the box that is about to open and notes what the box showed.
+    // Presses a button of the box that is about to open, or closes it, and notes how the box looked.
     void press(QMessageBox::StandardButton button)
     {
         QTimer::singleShot(0, [this, button] {
             auto * box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
-            shown = box->windowTitle() + '|' + box->text();
-            buttons = box->standardButtons();
-            modality = box->windowModality();
+            look = QStringList{box->windowTitle(), box->text()};
+            for (int number : {int(box->icon()), int(box->standardButtons()),
+                               int(box->standardButton(box->defaultButton())), int(box->windowModality()),
+                               int(box->windowFlags())}) {
+                look += QString::number(number);
+            }
             parent = box->parentWidget();
-            box->button(button)->click();
+            button == QMessageBox::NoButton ? static_cast<void>(box->close()) : box->button(button)->click();
         });
     }
 
-    QString shown;
-    QMessageBox::StandardButtons buttons;
-    Qt::WindowModality modality = Qt::NonModal;
+    QStringList look;
     QWidget * parent = nullptr;
 
 private:
     Ext::MessagePresenter m_capture;
 };
 
-TEST_F(BoxTest, InformationHasOneButtonAndAParent)
+TEST_F(BoxTest, InformationIsThatOfQtWithAParent)
 {
     QWidget widget;
     press(QMessageBox::Ok);
+    QMessageBox::information(&widget, "Information", "text", QMessageBox::Ok);
+    QStringList const expected = look;
+    press(QMessageBox::Ok);
     showInformation(aliveWidget(&widget), "text");
-    EXPECT_EQ(shown, "Information|text");
-    EXPECT_EQ(buttons, QMessageBox::Ok);
+    EXPECT_EQ(look, expected);
     EXPECT_EQ(parent, &widget);
 }
 
 TEST_F(BoxTest, QuestionIsApplicationModalAndAnswered)
 {
+    QStringList const expected{"Information",
+                               "Sure?",
+                               QString::number(QMessageBox::Question),
+                               QString::number(QMessageBox::Yes | QMessageBox::No),
+                               "0",
+                               QString::number(Qt::ApplicationModal)};
     for (auto const & [button, answer] : {std::pair(QMessageBox::Yes, Ext::MessageAnswer::Yes),
-                                          std::pair(QMessageBox::No, Ext::MessageAnswer::No)}) {
+                                          std::pair(QMessageBox::No, Ext::MessageAnswer::No),
+                                          std::pair(QMessageBox::NoButton, Ext::MessageAnswer::No)}) {
         press(button);
         EXPECT_EQ(Ext::showMessage({Ext::MessageKind::Question, nullptr, "Information", "Sure?"}), answer);
-        EXPECT_EQ(shown, "Information|Sure?");
-        EXPECT_EQ(buttons, QMessageBox::Yes | QMessageBox::No);
-        EXPECT_EQ(modality, Qt::ApplicationModal);
+        EXPECT_EQ(look.mid(0, 6), expected);
+    }
+}
+
+TEST_F(BoxTest, ABoxThatDiesWithItsParentGivesTheNeutralAnswer)
+{
+    for (auto const & [kind, answer] : {std::pair(Ext::MessageKind::Question, Ext::MessageAnswer::No),
+                                        std::pair(Ext::MessageKind::Information, Ext::MessageAnswer::Ok)}) {
+        auto * const dying = new QWidget;
+        QTimer::singleShot(0, [dying] { delete dying; });
+        EXPECT_EQ(Ext::showMessage({kind, dying, "", ""}), answer);
     }
 }
 

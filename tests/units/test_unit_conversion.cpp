@@ -2,15 +2,16 @@
 
 #include "uiapi/flat/ShowParameters.h"
 #include "uiapi/flat/Units.h"
-#include "uiapi/flat/ViewAccess.h"
 #include "units/UnitConversion.h"
 
 #include <QRegExp>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <random>
+#include <vector>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -39,6 +40,9 @@ TEST(UnitConversion, ToUnitRoundsTheFractionAwayFromZero)
         EXPECT_EQ(Units::toUnit(2, row.value), row.metric) << row.value;
     }
     EXPECT_TRUE(std::isnan(Units::toUnit(0, std::nan(""))));
+    for (double value : {-1e-6, -0.0, -0.00001}) { // the integer part is never -0.0
+        EXPECT_FALSE(std::signbit(Units::toUnit(0, value)) || std::signbit(Units::toUnit(1, value)));
+    }
 }
 
 TEST(UnitConversion, OtherUnitCodesAreInchForTheEngineAndMetricForTheEye)
@@ -51,13 +55,15 @@ TEST(UnitConversion, OtherUnitCodesAreInchForTheEngineAndMetricForTheEye)
         char const * largeText;
         char const * areaText;
         char const * areaName;
+        char const *name, *largeName, *smallName;
     };
     // of the value 2: toEngine kinds 0 and 1, toMil, fromMicrometres, milToSmallUnit
     for (Row const & row :
-         {Row{0, 50800000.0, 50800.0, 2, 2 / 25400.0, 2, "2", "0.000", "2", "sq/in"},
-          Row{1, 2000000.0, 2000.0, 2 / 25.4, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm"},
-          Row{2, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm"},
-          Row{-1, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm"}}) {
+         {Row{0, 50800000.0, 50800.0, 2, 2 / 25400.0, 2, "2", "0.000", "2", "sq/in", "Inch", "inch", "mil"},
+          Row{1, 2000000.0, 2000.0, 2 / 25.4, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm", "MM", "mm",
+              "my"},
+          Row{2, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm", "", "", ""},
+          Row{-1, 50800000.0, 50800.0, 2, 0.002, 50.8, "50.80", "0.002", "1290.3200", "sq/mm", "", "", ""}}) {
         SCOPED_TRACE(row.unit);
         EXPECT_EQ(Units::toEngine(row.unit, 0, 2), row.nanometres);
         EXPECT_EQ(Units::toEngine(row.unit, 1, 2), row.micrometres);
@@ -72,6 +78,10 @@ TEST(UnitConversion, OtherUnitCodesAreInchForTheEngineAndMetricForTheEye)
         EXPECT_EQ(Units::micrometresText(row.unit, 2), row.largeText);
         EXPECT_EQ(Units::areaText(row.unit, 2), row.areaText);
         EXPECT_EQ(Units::areaName(row.unit), row.areaName);
+        EXPECT_EQ(Units::name(row.unit), row.name);
+        EXPECT_EQ(Units::nameByKind(row.unit, 0), row.largeName);
+        EXPECT_EQ(Units::nameByKind(row.unit, 1), row.smallName);
+        EXPECT_EQ(Units::nameByKind(row.unit, 2), "");
     }
 }
 
@@ -89,41 +99,11 @@ TEST(UnitConversion, JudgeValuesTruncateAndSaturate)
           Row{-1e12, min, min, min}, Row{infinity, max, max, max}, Row{std::nan(""), 0, 0, 0}}) {
         SCOPED_TRACE(row.value);
         EXPECT_EQ(Units::milToSmallUnitTruncated(0, row.value), row.inch);
-        EXPECT_EQ(Units::milToSmallUnitTruncated(1, row.value), row.metric);
         EXPECT_EQ(Units::smallUnitToMilTruncated(0, row.value), row.inch);
-        EXPECT_EQ(Units::smallUnitToMilTruncated(1, row.value), row.inverseMetric);
-    }
-}
-
-TEST(UnitConversion, NamesByUnitAndKind)
-{
-    struct Row
-    {
-        int unit;
-        char const *name, *large, *small;
-    };
-    for (Row const & row :
-         {Row{0, "Inch", "inch", "mil"}, Row{1, "MM", "mm", "my"}, Row{2, "", "", ""}, Row{-1, "", "", ""}}) {
-        SCOPED_TRACE(row.unit);
-        EXPECT_EQ(Units::name(row.unit), row.name);
-        EXPECT_EQ(Units::nameByKind(row.unit, 0), row.large);
-        EXPECT_EQ(Units::nameByKind(row.unit, 1), row.small);
-        EXPECT_EQ(Units::nameByKind(row.unit, 2), "");
-    }
-}
-
-TEST(UnitConversion, PlainTextDropsTrailingZerosAndThePointWithThem)
-{
-    struct Row
-    {
-        double value;
-        char const * text;
-    };
-    for (Row const & row :
-         {Row{10.0, "10"}, Row{0.0, "0"}, Row{100.5, "100.5"}, Row{0.1234567, "0.123457"}, Row{-0.5, "-0.5"},
-          Row{100.0, "100"}, Row{1e9, "1000000000"}, Row{0.0000001, "0"}, Row{-0.0, "0"}, Row{1.05, "1.05"},
-          Row{infinity, "inf"}, Row{std::nan(""), "nan"}}) {
-        EXPECT_EQ(Units::plainText(row.value), row.text);
+        for (int unit : {1, 2, -1}) {
+            EXPECT_EQ(Units::milToSmallUnitTruncated(unit, row.value), row.metric);
+            EXPECT_EQ(Units::smallUnitToMilTruncated(unit, row.value), row.inverseMetric);
+        }
     }
 }
 
@@ -132,9 +112,13 @@ TEST(UnitConversion, PlainTextIsTheFixedTextWithoutItsTrailingZeros)
 {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> exponent(-8, 15);
+    std::vector<double> values{10.0,  0.0, -0.0, 100.5,    0.1234567,   -0.5,
+                               100.0, 1e9, 1.05, infinity, std::nan("")};
     for (int i = 0; i < 20000; ++i) {
-        double value = std::pow(10.0, exponent(random)) * (i % 2 == 0 ? 1 : -1);
-        value = i % 3 == 0 ? std::round(value * 100) / 100 : value;
+        double const value = std::pow(10.0, exponent(random)) * (i % 2 == 0 ? 1 : -1);
+        values.push_back(i % 3 == 0 ? std::round(value * 100) / 100 : value);
+    }
+    for (double value : values) {
         QString text = QString("%1").arg(value, 0, 'f', -1, QChar(' '));
         text.replace(QRegExp("(\\.){0,1}0+$"), "");
         ASSERT_EQ(Units::plainText(value), text.toStdString());
@@ -145,10 +129,9 @@ TEST(UnitConversion, SixDigitTextsTurnToExponents)
 {
     EXPECT_EQ(Units::milText(0, 1234567.0, 2), "1.23457e+06");
     EXPECT_EQ(Units::milText(0, 0.1234567, 9), "0.123457"); // precision is not used for inch
-    EXPECT_EQ(Units::milText(1, 1.0, 0), "25");
-    EXPECT_EQ(Units::milText(1, 1.0, -1), "25.400000");
+    EXPECT_EQ(Units::milText(1, 1.0, -127), "25.400000");
+    EXPECT_EQ(Units::milText(1, 1e-9, -128), "0.0000000254"); // as many decimals as it needs
     EXPECT_EQ(Units::milText(1, 1.0, std::numeric_limits<int>::max()).size(), 3 + 1074);
-    EXPECT_EQ(Units::areaText(0, 1234567.0), "1.23457e+06");
 }
 
 TEST(UnitConversion, MeasuredValueNeedsKindAndCountToAgree)
@@ -168,88 +151,46 @@ TEST(UnitConversion, MeasuredValueNeedsKindAndCountToAgree)
     }
 }
 
-// Each flat function reads the unit of the view it is given, and of no other.
 class UnitViews : public UiapiTest
-{
-protected:
-    void SetUp() override
-    {
-        UiapiTest::SetUp();
-        for (int unit : {0, 1}) {
-            Step_Config config;
-            config.view = viewHandle(unit);
-            config.show_param.unit = unit;
-            ASSERT_TRUE(insertStepConfig(config));
-        }
-    }
-};
+{};
 
+// Each flat function reads the unit of the view it is given, and of no other; an unknown view is an inch view
+// after one line.
 TEST_F(UnitViews, FlatFunctionsFollowTheView)
 {
-    void const * const inch = viewHandle(0);
-    void const * const metric = viewHandle(1);
-    EXPECT_EQ(getUnitData(inch, 25.4), 1.0);
-    EXPECT_EQ(getUnitData(metric, 1.0), 25.4);
-    EXPECT_EQ(getUnitAPIData(inch, 0, 1.0), 25400000.0);
-    EXPECT_EQ(getUnitAPIData(metric, 1, 1.0), 1000.0);
-    EXPECT_EQ(getUnitMilData(inch, 0, 254.0), 254.0);
-    EXPECT_EQ(getUnitMilData(metric, 0, 254.0), 10.0);
-    EXPECT_EQ(getUnitPointData(inch, 25400.0), 1.0);
-    EXPECT_EQ(getUnitPointData(metric, 25400.0), 25.4);
-    EXPECT_EQ(getUnitJudgeData(inch, 3.9), 3);
-    EXPECT_EQ(getUnitJudgeData(metric, 3.9), 99);
-    EXPECT_EQ(getUnitJudgeData2(inch, 100.0), 100);
-    EXPECT_EQ(getUnitJudgeData2(metric, 100.0), 3);
-    EXPECT_EQ(getUnitJudgeDouble(inch, 3.0), 3.0);
-    EXPECT_EQ(getUnitJudgeDouble(metric, 3.0), 3.0 * 25.4);
-    EXPECT_EQ(getUnitJudgeString(inch, 1.0, 2), "1");
-    EXPECT_EQ(getUnitJudgeString(metric, 1.0, 2), "25.40");
-    EXPECT_EQ(getUnitJudgeStringMetric(inch, 25400.0), "1.000");
-    EXPECT_EQ(getUnitJudgeStringMetric(metric, 25400.0), "25.400");
-    EXPECT_EQ(getUnitString(inch), "Inch");
-    EXPECT_EQ(getUnitString(metric), "MM");
-    EXPECT_EQ(getUnitStringType(inch, 1), "mil");
-    EXPECT_EQ(getUnitStringType(metric, 1), "my");
-    EXPECT_EQ(getAreaUnitStringType(inch), "sq/in");
-    EXPECT_EQ(getAreaUnitStringType(metric), "sq/mm");
-    EXPECT_EQ(getAreaUnitJudgeString(inch, 1.0), "1");
-    EXPECT_EQ(getAreaUnitJudgeString(metric, 1.0), "645.1600");
+    registerView(viewHandle(0), 0);
+    registerView(viewHandle(1), 1);
+    auto const text = [](double value) { return QString::number(value, 'g', 17).toStdString(); };
+    struct Row
+    {
+        std::function<std::string(void const *)> call;
+        std::string inch, metric;
+    };
+    for (Row const & row : {
+             Row{[&](auto view) { return text(getUnitData(view, 254)); }, "10", text(6451.6)},
+             Row{[&](auto view) { return text(getUnitAPIData(view, 0, 1)); }, "25400000", "1000000"},
+             Row{[&](auto view) { return text(getUnitMilData(view, 0, 254)); }, "254", "10"},
+             Row{[&](auto view) { return text(getUnitPointData(view, 25400)); }, "1", text(25.4)},
+             Row{[&](auto view) { return text(getUnitJudgeData(view, 3.9)); }, "3", "99"},
+             Row{[&](auto view) { return text(getUnitJudgeData2(view, 100)); }, "100", "3"},
+             Row{[&](auto view) { return text(getUnitJudgeDouble(view, 3)); }, "3", text(3 * 25.4)},
+             Row{[](auto view) { return getUnitJudgeString(view, 1, 2).toStdString(); }, "1", "25.40"},
+             Row{[](auto view) { return getUnitJudgeStringMetric(view, 25400).toStdString(); }, "1.000",
+                 "25.400"},
+             Row{[](auto view) { return getUnitString(view); }, "Inch", "MM"},
+             Row{[](auto view) { return getUnitStringType(view, 1); }, "mil", "my"},
+             Row{[](auto view) { return getAreaUnitStringType(view); }, "sq/in", "sq/mm"},
+             Row{[](auto view) { return getAreaUnitJudgeString(view, 1).toStdString(); }, "1", "645.1600"},
+         }) {
+        EXPECT_EQ(row.call(viewHandle(0)), row.inch);
+        EXPECT_EQ(row.call(viewHandle(1)), row.metric);
+        EXPECT_EQ(log.take(), Lines{});
+        EXPECT_EQ(row.call(viewHandle(9)), row.inch);
+        EXPECT_EQ(log.take(), Lines{operationError("getShowPara")}) << row.inch;
+    }
     EXPECT_EQ(doubleToString(10.0), "10");
     EXPECT_EQ(getMeasureValue({5, 0, {0, 0, 8, 9}}), 8.0);
     EXPECT_EQ(getMeasureValue({3, 0, {1, 2, 3, 4, 5, 6, 7}}), 0.0); // not understood
-    EXPECT_EQ(log.take(), Lines{});
-}
-
-TEST_F(UnitViews, UnknownViewIsAnInchViewAfterOneLogLine)
-{
-    void const * const unknown = viewHandle(9);
-    Lines const once{operationError("getShowPara")};
-    EXPECT_EQ(getUnitData(unknown, 25.4), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitAPIData(unknown, 1, 1.0), 25400.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitMilData(unknown, 1, 1.0), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitPointData(unknown, 25400.0), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeData(unknown, 1.0), 1);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeData2(unknown, 1.0), 1);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeDouble(unknown, 1.0), 1.0);
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeString(unknown, 1.0, 3), "1");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitJudgeStringMetric(unknown, 25400.0), "1.000");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitString(unknown), "Inch");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getUnitStringType(unknown, 0), "inch");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getAreaUnitStringType(unknown), "sq/in");
-    EXPECT_EQ(log.take(), once);
-    EXPECT_EQ(getAreaUnitJudgeString(unknown, 1.0), "1");
-    EXPECT_EQ(log.take(), once);
 }
 
 } // namespace

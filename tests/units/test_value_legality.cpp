@@ -2,7 +2,6 @@
 
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/Arithmetic.h"
-#include "uiapi/flat/ViewAccess.h"
 #include "units/ValueCheck.h"
 
 #include <QCoreApplication>
@@ -23,17 +22,8 @@ protected:
     void SetUp() override
     {
         UiapiTest::SetUp();
-        for (int unit : {0, 1}) {
-            registerView(viewHandle(unit), unit);
-        }
-    }
-
-    static void registerView(void const * view, int unit)
-    {
-        Step_Config config;
-        config.view = view;
-        config.show_param.unit = unit;
-        ASSERT_TRUE(insertStepConfig(config));
+        registerView(viewHandle(0), 0);
+        registerView(viewHandle(1), 1);
     }
 
     // The box, if there was one, has the text of the verdict that shows none.

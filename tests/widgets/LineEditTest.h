@@ -2,7 +2,6 @@
 
 #include "harness/UiapiTest.h"
 #include "uiapi/flat/ShowParameters.h"
-#include "uiapi/flat/ViewAccess.h"
 #include "widgets/KVLineEdit.h"
 
 #include <QTest>
@@ -16,14 +15,7 @@ protected:
     void SetUp() override
     {
         UiapiTest::SetUp();
-        registerView(view, 0);
-    }
-    void registerView(QWidget & handle, int unit)
-    {
-        UIAPI::Step_Config config;
-        config.view = &handle;
-        config.show_param.unit = unit;
-        ASSERT_TRUE(UIAPI::insertStepConfig(config));
+        registerView(&view, 0);
     }
     UIAPI::KVLineEdit & field(int kind) { return *new UIAPI::KVLineEdit(UIAPI::KVERegExp(kind), &view); }
     /// One key per character, also of those for which QTest knows no key.

@@ -113,6 +113,18 @@ TEST_F(Forms, ValuesOfAnotherTypeReadAsTheirNeutralValue)
     EXPECT_EQ(form.checkedPosition(), 0);
 }
 
+TEST_F(Forms, AControlThatASignalDeletesIsSkipped)
+{
+    QLineEdit first;
+    auto * const second = new QLineEdit;
+    first.setObjectName("1");
+    second->setObjectName("1");
+    QObject::connect(&first, &QLineEdit::textChanged, second, [second] { delete second; });
+    QList<QObject *> all{&first, second};
+    writeJsonToList({{"1", "text"}}, all);
+    EXPECT_EQ(first.text(), "text");
+}
+
 TEST_F(Forms, LastOfANameIsSavedAndAllAreRestoredAndUnnamedOnesAreSkippedOnSavingOnly)
 {
     QLineEdit first("1");

@@ -22,20 +22,29 @@ TEST_F(LineEdit, EachKindTakesWhatItsPatternTakes)
              Row{RegNumber, "-12.345678", "-12.34567"}, // five decimals
              Row{RegNumber, "0012", "0", false},
              Row{RegNumber, "0.1234567", "0.12345"},
+             Row{RegNumber, "123456789012345", "123456789012345"},
              Row{RegNumber, "1234567890123456", "1234567890123456", false}, // a point may still follow
              Row{RegNumber, "1e5+2,", "152"},
              Row{RegPositive, "-1.5", "1.5"},
              Row{RegPositive, "+1.", "+1.", false},
+             Row{RegPositive, "+0.5", "+0.5"},
+             Row{RegPositive, "+123456789012345", "+123456789012345"},
+             Row{RegPositive, "1234567890123456", "1234567890123456", false},
+             Row{RegPositive, "0.123456", "0.12345"},
+             Row{RegPositive, "12.123456", "12.12345"},
              Row{RegExpression, "10+2.5*(3-1)/ 4", "10+2.5*3-1/4"},
-             Row{RegNameList, "Top;bot-1.g", "op;bot-1.g"},
+             Row{RegNameList, "Top;bot-1.g_0+9", "op;bot-1.g_0+9"},
              Row{RegNameList, many.c_str(), many.substr(0, 64)},
              Row{RegName, "a.b;c_1-+", "abc_1-+"},
-             Row{RegNoCjk, "a\u4e00b\u9fa5c\u00e9\u3400", "abc\u00e9\u3400"},
+             Row{RegName, many.c_str(), many.substr(0, 64)},
+             Row{RegNoCjk, "a\u4e00b\u9fa5c\u4dff\u9fa6", "abc\u4dff\u9fa6"},
              Row{RegSymbolName, "Rect10x5.5 _+-", "ect10x5.5_+-"},
              Row{RegRound, "r12", "r12", false}, // a name with a blank is all it takes
              Row{RegRound, "r12 ", "r12 "},
              Row{RegSquare, " s1.5 0", "", false}, // takes nothing
-             Row{RegFreeText, "A b\"<c>'", "Abc'"},
+             Row{RegFreeText, "~`!@#$%&^()_+={}*,.;'azAZ09", "~`!@#$%&^()_+={}*,.;'azAZ09"},
+             Row{RegFreeText, "-/:<>?[]\\|\" ", "", false},
+             Row{RegFreeText, many.c_str(), many.substr(0, 36)},
              Row{RegDigits, "1.5 -2a", "1.5 -2"},
              Row{0, "a1", ""},
              Row{12, "a1", ""}, // a kind without a row
@@ -100,29 +109,44 @@ TEST_F(LineEdit, EditAfterASwitchDiscardsTheOtherUnitsText)
     show(symbol, 0);
     EXPECT_EQ(number.text(), "1.00039");
     EXPECT_EQ(symbol.text(), "r3.93701");
+    retype(number, ""); // counts as 0
+    show(number, 1);
+    EXPECT_EQ(number.text(), "0");
 }
 
-TEST_F(LineEdit, ClearedNumberIsZeroInTheOtherUnit)
+TEST_F(LineEdit, TheUnitIsThatOfTheFirstParentWhereverTheFieldGoes)
 {
-    KVLineEdit & edit = field(RegNumber);
-    retype(edit, "12");
-    retype(edit, "");
+    QWidget later;
+    registerView(&later, 1);
+    KVLineEdit edit(RegNumber, &view);
+    edit.setParent(&later);
+    type(edit, "1");
     edit.changeunit(1);
-    EXPECT_EQ(edit.text(), "0");
-    edit.changeunit(0);
-    EXPECT_EQ(edit.text(), "");
+    EXPECT_EQ(edit.text(), "25.4");
 }
 
-TEST_F(LineEdit, UnregisteredParentIsAnInchViewLoggedAtEachTrackedEdit)
+TEST_F(LineEdit, ASwitchEmitsWhatSetTextWould)
 {
-    QWidget stranger;
-    KVLineEdit number(RegNumber, &stranger);
-    KVLineEdit name(RegName, &stranger);
-    type(number, "10");
-    type(name, "10");
-    EXPECT_EQ(log.take(), Lines(2, operationError("getShowPara")));
-    number.changeunit(1);
-    EXPECT_EQ(number.text(), "254");
+    Lines told[2];
+    QLineEdit plain;
+    plain.setText("10");
+    KVLineEdit switched("10", RegNumber, &view);
+    QLineEdit * const edits[] = {&plain, &switched};
+    for (int i : {0, 1}) {
+        auto const note = [&lines = told[i]](QString const & what) { lines.push_back(what.toStdString()); };
+        QObject::connect(edits[i], &QLineEdit::textChanged, note);
+        QObject::connect(edits[i], &QLineEdit::selectionChanged, [note] { note("selection"); });
+        QObject::connect(edits[i], &QLineEdit::cursorPositionChanged,
+                         [note](int from, int to) { note(QString("%1 to %2").arg(from).arg(to)); });
+    }
+    for (auto const & [unit, text] : {std::pair(1, "254"), std::pair(1, "254"), std::pair(0, "10")}) {
+        plain.setSelection(0, unit);
+        plain.setText(text);
+        switched.setSelection(0, unit);
+        switched.changeunit(unit);
+    }
+    EXPECT_EQ(told[1], told[0]);
+    EXPECT_GE(told[0].size(), 8U);
 }
 
 TEST_F(LineEdit, EditsMadeWhileTheUnitChangesAreNotRecorded)

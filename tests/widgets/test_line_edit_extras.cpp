@@ -1,12 +1,16 @@
 #include "widgets/LineEditTest.h"
 #include "widgets/Translation.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QPointer>
 #include <QSet>
 #include <QSignalSpy>
 
 #include <cmath>
+#include <functional>
 #include <limits>
-#include <memory>
+#include <string>
 
 using namespace KVCAM::Testing;
 using namespace KVCAM::UIAPI;
@@ -42,39 +46,37 @@ TEST_F(LineEditExtras, AdditionsAreOffByDefaultAndChangeNoText)
     }
 }
 
-TEST_F(LineEditExtras, HundredFieldsFollowTheirViewAndNoOther)
+TEST_F(LineEditExtras, AFieldFollowsItsViewAndNoOther)
 {
     QWidget other;
-    registerView(other, 0);
-    std::vector<std::unique_ptr<KVLineEdit>> fields;
-    for (int i = 0; i < 101; ++i) { // the last one belongs to another view
-        fields.push_back(
-            std::make_unique<KVLineEdit>(QStringLiteral("1"), RegNumber, i < 100 ? &view : &other));
-        fields.back()->setFollowView(true);
-    }
+    registerView(&other, 0);
+    KVLineEdit edit("1", RegNumber, &view);
+    KVLineEdit stranger("1", RegNumber, &other);
+    edit.setFollowView(true);
+    stranger.setFollowView(true);
     for (int unit : {1, 0, 1}) {
         setUnit(&view, unit);
-        for (std::size_t i = 0; i < 100; ++i) {
-            ASSERT_EQ(fields[i]->text(), unit == 0 ? "1" : "25.4");
-        }
-        EXPECT_EQ(fields[100]->text(), "1");
+        EXPECT_EQ(edit.text(), unit == 0 ? "1" : "25.4");
+        EXPECT_EQ(stranger.text(), "1");
     }
-    fields[0]->setFollowView(false);
+    edit.setFollowView(false);
     setUnit(&view, 0);
-    EXPECT_EQ(fields[0]->text(), "25.4");
-    fields[0]->setFollowView(true); // begins with the unit that the view has now
-    EXPECT_EQ(fields[0]->text(), "1");
+    EXPECT_EQ(edit.text(), "25.4");
+    edit.setFollowView(true); // begins with the unit that the view has now
+    EXPECT_EQ(edit.text(), "1");
 }
 
-TEST_F(LineEditExtras, ViewThatIsRegisteredLaterIsFollowed)
+TEST_F(LineEditExtras, AnUnregisteredParentIsAnInchViewAndFollowedOnceItIsRegistered)
 {
     QWidget late;
     KVLineEdit edit(RegNumber, &late);
+    KVLineEdit name(RegName, &late);
     edit.setFollowView(true);
-    EXPECT_EQ(log.take(), Lines{}); // an empty field asks for no unit
+    type(name, "1");
+    EXPECT_EQ(log.take(), Lines{}); // neither an empty field nor a name asks for a unit
     type(edit, "1");
     EXPECT_EQ(log.take(), Lines{operationError("getShowPara")});
-    registerView(late, 1);
+    registerView(&late, 1);
     EXPECT_EQ(edit.text(), "25.4"); // what was typed was inch
 }
 
@@ -168,6 +170,8 @@ TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
         edit.setRange(1, 10);
         ASSERT_EQ(spy.count(), row.words.empty() ? 0 : 1);
         EXPECT_EQ(spy.value(0).value(1).toString().toStdString(), row.words);
+        edit.changeunit(1 - row.unit); // what was typed counts, whatever the text shown
+        EXPECT_EQ(edit.property("uiapiValid"), QVariant(row.words.empty()));
     }
 }
 
@@ -192,13 +196,66 @@ TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
     EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
-TEST_F(LineEditExtras, ASymbolIsJudgedInTheUnitItWasTypedIn)
+// Deletes what gets a dynamic property.
+struct DeletingFilter : QObject
 {
-    KVLineEdit & edit = field(RegSymbolName);
-    type(edit, "r3");
-    edit.setRange(1, 3);
-    show(edit, 1);
-    EXPECT_TRUE(edit.property("uiapiValid").toBool()) << "3 mil, whatever the text shown";
+    bool eventFilter(QObject * object, QEvent * event) override
+    {
+        if (event->type() != QEvent::DynamicPropertyChange) {
+            return false;
+        }
+        delete object;
+        return true;
+    }
+};
+
+TEST_F(LineEditExtras, ASlotMayDeleteTheFieldThatEmits)
+{
+    DeletingFilter filter;
+    QPointer<KVLineEdit> edit;
+    auto const erase = [&edit] { delete edit; };
+    std::function<void()> const ways[] = {
+        [&] { QObject::connect(edit, &QLineEdit::textChanged, erase); },
+        [&] { QObject::connect(edit, &QLineEdit::selectionChanged, erase); },
+        [&] { QObject::connect(edit, &QLineEdit::cursorPositionChanged, erase); },
+        [&] { QObject::connect(edit, &KVLineEdit::validityChanged, erase); },
+        [&] { edit->installEventFilter(&filter); }};
+    std::function<void()> const acts[] = {[&] { edit->changeunit(1); }, [&] { setUnit(&view, 1); },
+                                          [&] { edit->setRange(20, 30); }, [&] { edit->clearRange(); },
+                                          [&] { edit->setLengthScale(KVLineEdit::Large); }};
+    std::string deleted;
+    for (auto const & arrange : ways) {
+        for (auto const & act : acts) {
+            setUnit(&view, 0);
+            edit = new KVLineEdit("1", RegNumber, &view);
+            edit->setRange(2, 3);
+            edit->setFollowView(true);
+            edit->selectAll();
+            arrange();
+            act();
+            deleted += edit.isNull() ? 'x' : '.';
+            delete edit;
+        }
+        deleted += '|';
+    }
+    EXPECT_EQ(deleted, "xx...|xx...|xx...|xxxxx|...x.|");
+}
+
+// The bases' destructors still emit while the private part is gone.
+TEST_F(LineEditExtras, ADyingFieldHearsNoMore)
+{
+    auto * const edit = new KVLineEdit("1", RegNumber, &view);
+    edit->setFollowView(true);
+    edit->setRange(2, 3);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    edit->setFocus();
+    int changes = 0;
+    auto const change = [&] { setUnit(&view, ++changes % 2); };
+    QObject::connect(edit, &QObject::destroyed, change);
+    QObject::connect(qApp, &QApplication::focusChanged, &view, change);
+    delete edit;
+    EXPECT_EQ(changes, 2);
 }
 
 TEST_F(LineEditExtras, RefusedKeyIsExplainedInTheLanguage)
@@ -224,8 +281,7 @@ TEST_F(LineEditExtras, RefusedKeyIsExplainedInTheLanguage)
     full.setRefusalHints(true);
     QSignalSpy const refused(&full, &KVLineEdit::inputRefused);
     type(full, "abc");
-    ASSERT_EQ(refused.count(), 1);
-    EXPECT_TRUE(refused[0][0].toString().contains('2'));
+    EXPECT_TRUE(refused.value(0).value(0).toString().contains('2'));
 }
 
 } // namespace

@@ -26,7 +26,7 @@ UIAPICOMMON_EXPORT int getUnitJudgeData2(void const * view, double value);
 /// Mil in the view's small unit, unrounded.
 UIAPICOMMON_EXPORT double getUnitJudgeDouble(void const * view, double value);
 /// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most
-/// 1074; negative: 6).
+/// 1074; -128, QLocale::FloatingPointShortest: as many as the value needs; else negative: 6).
 UIAPICOMMON_EXPORT QString getUnitJudgeString(void const * view, double value, int precision);
 /// Micrometres as text in the large unit, 3 decimals.
 UIAPICOMMON_EXPORT QString getUnitJudgeStringMetric(void const * view, double value);
