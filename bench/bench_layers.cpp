@@ -67,6 +67,21 @@ void explain(benchmark::State & state)
     }
 }
 
+// The predicate as hosts call it, for the layer that is compared last.
+void side(benchmark::State & state)
+{
+    std::vector<std::string> board;
+    for (int i = 0; i < int(state.range(0)); ++i) {
+        board.push_back("L" + std::to_string(i));
+    }
+    layer_info layer;
+    layer.name = board.end()[-2];
+    QVector<QString> words{"top", "bottom", "inner"};
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(UIAPICommonPara::instance()->SideLayersFilter(layer, words, board));
+    }
+}
+
 void bareMatrix(benchmark::State & state)
 {
     std::string const job = openJob(int(state.range(0)));
@@ -97,6 +112,7 @@ void bareMatrixAndLook(benchmark::State & state)
 }
 
 BENCHMARK(filter)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(side)->Arg(16)->Arg(5000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(bareMatrixAndLook)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(bareMatrix)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(explain)->Arg(16)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);

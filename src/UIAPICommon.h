@@ -17,6 +17,7 @@
 #include "hotkey/KVHotKey.h"
 #include "layers/LayerFilterReport.h"
 #include "layers/ReferenceLayerInfo.h"
+#include "layers/RemovalRoots.h"
 #include "layers/UndoCount.h"
 #include "links/ConnectEDA.h"
 #include "support/MessagePresenter.h"

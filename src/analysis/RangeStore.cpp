@@ -140,7 +140,7 @@ Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
 void listErfFiles(std::string const & folder, std::vector<std::string> & names)
 {
     QString const path = QString::fromStdString(folder);
-    // The folder comes from outside: it leads nowhere but below "ERFconfig".
+    // The folder comes from outside: without a component ".." it leads nowhere but below "ERFconfig".
     if (path.split(QRegularExpression(QStringLiteral("[/\\\\]"))).contains(QStringLiteral(".."))) {
         return;
     }

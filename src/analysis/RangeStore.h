@@ -46,7 +46,8 @@ private:
 };
 
 /// Appends the base names (up to the first ".") of the files, hidden ones included, of "./ERFconfig/" +
-/// folder. Nothing for a folder with a component "..".
+/// folder. Nothing for a folder of which a component is ".."; names such as "x..y" are folders like any
+/// other.
 void listErfFiles(std::string const & folder, std::vector<std::string> & names);
 
 } // namespace KVCAM::UIAPI

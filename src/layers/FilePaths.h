@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-/// Paths that the host hands in, and what stands at them. The standard library's paths carry every file name
+/// Paths that the host hands in. The standard library's paths carry every file name
 /// as it is; Qt's would leave out what is not valid in the locale's encoding.
 namespace KVCAM::UIAPI::FilePaths {
 
@@ -21,23 +21,7 @@ fs::path withoutEndSeparator(fs::path path);
 /// Whether the last part is a name: false for roots, ".", ".." and an empty path.
 bool namesAnEntry(fs::path const & path);
 
-/// What stands at a path, links not followed.
-enum class Kind
-{
-    Missing,
-    Directory,
-    File,
-    Link, ///< a junction too
-    Other ///< a pipe, a device, or what cannot be looked at
-};
-Kind kindOf(fs::path const & path);
-
 /// The absolute path without links, "." and ".." as far as it exists; empty on failure.
 fs::path resolved(fs::path const & path);
-/// Whether `path`, which is resolved, is `directory` or lies in it.
-bool isWithin(fs::path const & path, fs::path const & directory);
-/// Whether a directory must not be removed: a root, the current directory, the home directory, and what holds
-/// one of these two. True also for one that cannot be resolved.
-bool isProtected(fs::path const & directory);
 
 } // namespace KVCAM::UIAPI::FilePaths

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace KVCAM::UIAPI::LayerFilter {
 namespace {
@@ -33,35 +34,33 @@ struct PolarityWord
 };
 constexpr std::array<PolarityWord, 2> polarityWords = {{{"positive", "POS"}, {"negative", "NEG"}}};
 
-using Values = std::unordered_set<std::string>;
+using NameRange = std::pair<Names::const_iterator, Names::const_iterator>;
 
-/// A word of "side": adds the names that are on that side of the board signal layers, of which there is at
-/// least one.
+/// A word of "side": the board signal layers, of which there is at least one, that are on that side.
 struct SideWord
 {
     char const * word;
-    void (*add)(Names const & board, Values & values);
+    NameRange (*range)(Names const & board);
 };
 
-void addTop(Names const & board, Values & values)
+NameRange top(Names const & board)
 {
-    values.insert(board.front());
+    return {board.begin(), board.begin() + 1};
 }
 
-void addBottom(Names const & board, Values & values)
+NameRange bottom(Names const & board)
 {
-    values.insert(board.back());
+    return {board.end() - 1, board.end()};
 }
 
 // Of three layers none is an inner one, not even the middle one.
-void addInner(Names const & board, Values & values)
+NameRange inner(Names const & board)
 {
-    if (board.size() > 3) {
-        values.insert(board.begin() + 1, board.end() - 1);
-    }
+    return board.size() > 3 ? NameRange(board.begin() + 1, board.end() - 1)
+                            : NameRange(board.end(), board.end());
 }
 
-constexpr std::array<SideWord, 3> sideWords = {{{"top", addTop}, {"bottom", addBottom}, {"inner", addInner}}};
+constexpr std::array<SideWord, 3> sideWords = {{{"top", top}, {"bottom", bottom}, {"inner", inner}}};
 
 template <class Table>
 bool hasWord(Table const & table, QString const & word)
@@ -126,7 +125,8 @@ WordSet::WordSet(Key key, Words const & words, Names const & board) : m_acceptsA
     } else if (!board.empty()) {
         for (SideWord const & row : sideWords) {
             if (words.contains(QLatin1String(row.word))) {
-                row.add(board, m_values);
+                auto const [first, last] = row.range(board);
+                m_values.insert(first, last);
             }
         }
     }
@@ -134,7 +134,24 @@ WordSet::WordSet(Key key, Words const & words, Names const & board) : m_acceptsA
 
 bool accepts(Key key, Layer const & layer, Words const & words, Names const & board)
 {
-    return WordSet(key, words, board).accepts(layer.*factOf(key).field);
+    if (words.isEmpty()) {
+        return true;
+    }
+    std::string const & value = layer.*factOf(key).field;
+    switch (key) {
+    case Key::Pos:
+        return std::any_of(polarityWords.begin(), polarityWords.end(), [&](PolarityWord const & row) {
+            return value == row.polarity && words.contains(QLatin1String(row.word));
+        });
+    case Key::Side:
+        return !board.empty() && std::any_of(sideWords.begin(), sideWords.end(), [&](SideWord const & row) {
+            auto const [first, last] = row.range(board);
+            return words.contains(QLatin1String(row.word)) && std::find(first, last, value) != last;
+        });
+    default:
+        return std::any_of(words.begin(), words.end(),
+                           [&](QString const & word) { return word.toStdString() == value; });
+    }
 }
 
 Selector::Selector(Request const & request, Layers const & layers)

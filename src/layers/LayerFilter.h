@@ -79,7 +79,7 @@ private:
     std::unordered_set<std::string> m_values;
 };
 
-/// One word list against one layer.
+/// One word list against one layer, without a WordSet: a look at the words and, for Key::Side, at `board`.
 bool accepts(Key key, Layer const & layer, Words const & words, Names const & board = {});
 
 /// A request against the layers of one matrix. The words are looked up once, so that a layer costs the same

@@ -36,9 +36,6 @@ void removeRecords(Records * records, Condition const & condition)
 template <class Map>
 void renameKey(Map & map, std::string const & oldKey, std::string const & newKey)
 {
-    if (oldKey == newKey) {
-        return; // the entry would replace itself with nothing
-    }
     std::string key = newKey; // first, since it may throw
     if (auto entry = map.extract(oldKey)) {
         entry.key() = std::move(key);

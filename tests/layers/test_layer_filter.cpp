@@ -1,10 +1,13 @@
 #include "harness/UiapiTest.h"
 
+#include "layers/LayerFilter.h"
 #include "layers/LayerFilterReport.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/LayerFilters.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -48,6 +51,21 @@ protected:
             }
         }
         EXPECT_EQ(explained, names);
+        std::vector<std::string> accepted; // by the predicates, key by key
+        LayerFilter::Names const board = LayerFilter::boardSignalLayers(RecordingEngine::get().layers);
+        for (layer_info const & layer : RecordingEngine::get().layers) {
+            auto const refuses = [&](LayerFilter::KeyFact const & fact) {
+                Words words;
+                if (request.contains(fact.name)) {
+                    LayerFilter::appendWords(request[fact.name], words);
+                }
+                return !LayerFilter::accepts(fact.key, layer, words, board);
+            };
+            if (std::none_of(LayerFilter::keyFacts.begin(), LayerFilter::keyFacts.end(), refuses)) {
+                accepted.push_back(layer.name);
+            }
+        }
+        EXPECT_EQ(accepted, names);
         return joined(names);
     }
 
@@ -154,24 +172,16 @@ TEST_F(LayerFilterTest, AnEntryGivesItsWordsToItsKeyAlone)
     EXPECT_EQ(words.size(), 7);
 }
 
-TEST_F(LayerFilterTest, PredicatesAcceptEveryLayerWithoutAWord)
+TEST_F(LayerFilterTest, EachPredicateLooksAtItsField)
 {
     auto & para = *UIAPICommonPara::instance();
     layer_info layer{"misc", "rout", "n", "NEG"};
-    Words none;
-    std::vector<std::string> noBoard;
-    EXPECT_TRUE(para.TypeLayersFilter(layer, none) && para.ContextLayersFilter(layer, none) &&
-                para.SideLayersFilter(layer, none, noBoard) && para.PosLayersFilter(layer, none));
     Words words{"rout", "top", "positive"};
     std::vector<std::string> board{"n"};
     EXPECT_TRUE(para.TypeLayersFilter(layer, words));
     EXPECT_FALSE(para.ContextLayersFilter(layer, words));
-    EXPECT_FALSE(para.SideLayersFilter(layer, words, noBoard));
     EXPECT_TRUE(para.SideLayersFilter(layer, words, board));
     EXPECT_FALSE(para.PosLayersFilter(layer, words));
-    words << "misc"
-          << "negative";
-    EXPECT_TRUE(para.ContextLayersFilter(layer, words) && para.PosLayersFilter(layer, words));
 }
 
 TEST_F(LayerFilterTest, AffectedLayersEndWithTheWorkLayer)

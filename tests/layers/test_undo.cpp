@@ -88,6 +88,19 @@ TEST_F(UndoTest, TheFlagIsAskedEachTime)
                               "DB::op_size_db_save", "API::op_size", "DB::get_SaveFlag", "API::Undo"}));
 }
 
+TEST_F(UndoTest, AParentThatGoesMeanwhileIsNone)
+{
+    for (char const * call : {"CorrectUndo", "op_size"}) {
+        auto * const parent = new QWidget;
+        engine.operations = call[0] == 'o' ? 1 : 0;
+        engine.onNextCall(call, [parent] { delete parent; });
+        undo("JOB-Ä", "Step", parent);
+        EXPECT_EQ(boxes.take(), Lines{call[0] == 'o' ? question : nothingToUndo});
+        EXPECT_EQ(boxes.lastParent(), nullptr) << call;
+        EXPECT_EQ(calls(), plainCalls);
+    }
+}
+
 TEST_F(UndoTest, AnEndlessCorrectionIsSeenInTheLog)
 {
     for (int failures : {999, 1000, 100999, 201000}) {

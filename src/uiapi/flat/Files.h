@@ -28,10 +28,11 @@ UIAPICOMMON_EXPORT bool checkDir(QString const & path);
 /// Removes what is in a directory, and with `removeSelf` the directory too. True when all of that is gone; on
 /// failure some of it may be.
 ///
-/// No link is followed: one inside goes, what it points to stays. A link to a directory as `path` is removed
-/// with `removeSelf` and refused without. Read-only directories are made writable first. Refused are: what
-/// does not exist or is no directory, a path that ends in "." or "..", roots, the current and the home
-/// directory and what holds one of these two.
+/// No link is followed, even when it is put there meanwhile: one inside goes, what it points to stays. A link
+/// to a directory as `path` is removed with `removeSelf` and refused without. Read-only directories are made
+/// writable first. Refused are: what does not exist or is no directory, a path that ends in "." or "..",
+/// roots and what stands directly in one, the current directory, the home directory by the environment and by
+/// the user database, and what holds one of these three. Ext::setRemovalRoots() restricts it further.
 UIAPICOMMON_EXPORT bool delDir(std::string const & path, bool removeSelf);
 
 /// Copies what is in a directory into another one, which is created with its parents. True when all of it was

@@ -25,7 +25,7 @@ UIAPICOMMON_EXPORT std::string getRangesName(std::string const & tableName, int 
 UIAPICOMMON_EXPORT void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                                           std::string const & levelName, double value);
 /// Appends the base names (up to the first ".") of the files in "./ERFconfig/" + folder, in no order. Nothing
-/// where there is no such directory, and for a folder with a ".." in it.
+/// where there is no such directory, and for a folder of which a component is "..".
 UIAPICOMMON_EXPORT void getERFList(std::string folder, std::vector<std::string> & names);
 
 namespace Ext {

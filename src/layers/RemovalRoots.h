@@ -1,0 +1,19 @@
+#pragma once
+
+#include "UIAPICommonExport.h"
+
+#include <QStringList>
+
+/// Additions to the fixed interface. They are opt-in and change none of its results.
+namespace KVCAM::UIAPI::Ext {
+
+/// Lets delDir() remove only what lies below one of these directories, in place of those that were set
+/// before; a directory of the list itself stays. What delDir() refuses anyway it still refuses. An empty
+/// list, as at the start, lifts the restriction.
+///
+/// A path is made absolute here, its links resolved as far as it exists. Nothing lies below a directory that
+/// does not exist when delDir() asks, nor below a text that is no path: a list of nothing else forbids every
+/// removal. Nothing is logged, no singleton is created. GUI thread only.
+UIAPICOMMON_EXPORT void setRemovalRoots(QStringList const & directories);
+
+} // namespace KVCAM::UIAPI::Ext

@@ -1,0 +1,394 @@
+#include "support/DirectoryTree.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <utility>
+
+#include <windows.h>
+
+#include <winioctl.h>
+#include <winternl.h>
+
+namespace KVCAM::UIAPI {
+namespace {
+
+/// Owns a handle.
+class File
+{
+public:
+    File() = default;
+    explicit File(HANDLE handle) : m_handle(handle) {}
+    File(File const &) = delete;
+    File(File && other) noexcept : m_handle(std::exchange(other.m_handle, INVALID_HANDLE_VALUE)) {}
+    File & operator=(File const &) = delete;
+    File & operator=(File &&) = delete;
+    ~File()
+    {
+        if (isOpen()) {
+            CloseHandle(m_handle);
+        }
+    }
+
+    HANDLE get() const { return m_handle; }
+    bool isOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+
+private:
+    HANDLE m_handle = INVALID_HANDLE_VALUE;
+};
+
+constexpr ULONG shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr ACCESS_MASK searchAccess = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
+constexpr ACCESS_MASK removeAccess = DELETE | FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES | SYNCHRONIZE;
+
+// Not in every header.
+constexpr auto nameNotFound = static_cast<NTSTATUS>(0xc0000034);
+constexpr auto fileRenameInformation = static_cast<FILE_INFORMATION_CLASS>(10);
+constexpr auto fileDispositionInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21);
+
+template <class Call>
+Call * systemCall(char const * name)
+{
+    // By way of a pointer without a type, since any other change of type is warned of.
+    auto * const address = reinterpret_cast<void *>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name));
+    return reinterpret_cast<Call *>(address);
+}
+
+/// Opens or creates a name relative to a directory, which only the native call can do. A link is opened as
+/// such.
+File openIn(HANDLE directory, Directory::Path const & name, ACCESS_MASK access, ULONG disposition,
+            ULONG options, NTSTATUS * why = nullptr)
+{
+    static auto * const create = systemCall<decltype(NtCreateFile)>("NtCreateFile");
+    std::wstring text = name.native();
+    if (directory == INVALID_HANDLE_VALUE || create == nullptr || text.empty() || text.size() > 0x7fff / 2 ||
+        text.find_first_of(L"\\/") != std::wstring::npos) {
+        return {};
+    }
+    UNICODE_STRING unicode{};
+    unicode.Buffer = text.data();
+    unicode.Length = static_cast<USHORT>(text.size() * sizeof(wchar_t));
+    unicode.MaximumLength = unicode.Length;
+    OBJECT_ATTRIBUTES attributes{};
+    attributes.Length = sizeof attributes;
+    attributes.RootDirectory = directory;
+    attributes.ObjectName = &unicode;
+    attributes.Attributes = OBJ_CASE_INSENSITIVE;
+    IO_STATUS_BLOCK status{};
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    constexpr ULONG always =
+        FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT | FILE_OPEN_FOR_BACKUP_INTENT;
+    NTSTATUS const result =
+        create(&handle, access | SYNCHRONIZE, &attributes, &status, nullptr, FILE_ATTRIBUTE_NORMAL, shareAll,
+               disposition, options | always, nullptr, 0);
+    if (why != nullptr) {
+        *why = result;
+    }
+    return result >= 0 ? File(handle) : File();
+}
+
+template <class Info>
+bool ask(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, Info & info)
+{
+    return GetFileInformationByHandleEx(handle, kind, &info, sizeof info) != 0;
+}
+
+template <class Info>
+bool tell(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, Info info)
+{
+    return SetFileInformationByHandle(handle, kind, &info, sizeof info) != 0;
+}
+
+FileId idOf(HANDLE handle)
+{
+    FILE_ID_INFO wide{};
+    if (ask(handle, FileIdInfo, wide)) {
+        FileId id{wide.VolumeSerialNumber, 0, 0};
+        std::memcpy(&id.low, wide.FileId.Identifier, sizeof id.low);
+        std::memcpy(&id.high, wide.FileId.Identifier + sizeof id.low, sizeof id.high);
+        return id;
+    }
+    // Not every file system has the wide ones.
+    BY_HANDLE_FILE_INFORMATION info{};
+    if (GetFileInformationByHandle(handle, &info) != 0) {
+        return {info.dwVolumeSerialNumber, info.nFileIndexHigh, info.nFileIndexLow};
+    }
+    return {};
+}
+
+DirectoryEntry::Kind kindOf(HANDLE handle)
+{
+    FILE_ATTRIBUTE_TAG_INFO info{};
+    if (!ask(handle, FileAttributeTagInfo, info)) {
+        return DirectoryEntry::Kind::Other;
+    }
+    // Other reparse points are files and directories that are kept elsewhere, not links.
+    if ((info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+        IsReparseTagNameSurrogate(info.ReparseTag)) {
+        return DirectoryEntry::Kind::Link;
+    }
+    return (info.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? DirectoryEntry::Kind::Directory
+                                                                 : DirectoryEntry::Kind::File;
+}
+
+void setReadOnly(HANDLE handle, bool isReadOnly)
+{
+    FILE_BASIC_INFO info{};
+    if (ask(handle, FileBasicInfo, info) &&
+        ((info.FileAttributes & FILE_ATTRIBUTE_READONLY) != 0) != isReadOnly) {
+        info.FileAttributes ^= FILE_ATTRIBUTE_READONLY;
+        // Without any attribute the system would take the call for none.
+        info.FileAttributes |= info.FileAttributes == 0 ? FILE_ATTRIBUTE_NORMAL : 0;
+        tell(handle, FileBasicInfo, info);
+    }
+}
+
+bool removeByHandle(File const & file)
+{
+    if (!file.isOpen()) {
+        return false;
+    }
+    // The newer way leaves the attributes alone, which a file outside may share, and frees the name at once.
+    FILE_DISPOSITION_INFO_EX const flags{FILE_DISPOSITION_FLAG_DELETE |
+                                         FILE_DISPOSITION_FLAG_POSIX_SEMANTICS |
+                                         FILE_DISPOSITION_FLAG_IGNORE_READONLY_ATTRIBUTE};
+    if (tell(file.get(), fileDispositionInfoEx, flags)) {
+        return true;
+    }
+    setReadOnly(file.get(), false);
+    return tell(file.get(), FileDispositionInfo, FILE_DISPOSITION_INFO{TRUE});
+}
+
+/// The path of an open file as the system spells it ("\\?\C:\jobs"); empty when it has none.
+std::wstring finalPath(HANDLE handle)
+{
+    std::wstring path(0x8000, L'\0');
+    DWORD const size =
+        GetFinalPathNameByHandleW(handle, path.data(), static_cast<DWORD>(path.size()), FILE_NAME_NORMALIZED);
+    path.resize(size < path.size() ? size : 0);
+    return path;
+}
+
+/// The length of the root in such a path: "\\?\C:\" or "\\?\UNC\server\share\".
+std::size_t rootLength(std::wstring const & path)
+{
+    std::wstring const share = LR"(\\?\UNC\)";
+    std::size_t end = path.compare(0, share.size(), share) == 0 ? path.find(L'\\', share.size()) : 3;
+    end = end == std::wstring::npos ? end : path.find(L'\\', end + 1);
+    return end == std::wstring::npos ? path.size() : end + 1;
+}
+
+/// The path without its last component; empty for a root.
+std::wstring parentPath(std::wstring const & path)
+{
+    std::size_t const root = rootLength(path);
+    if (path.size() <= root) {
+        return {};
+    }
+    return path.substr(0, std::max(root, path.rfind(L'\\')));
+}
+
+File openDirectory(std::wstring const & path)
+{
+    HANDLE const handle = CreateFileW(path.c_str(), searchAccess, shareAll, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    File file(handle);
+    return file.isOpen() && kindOf(handle) == DirectoryEntry::Kind::Directory ? std::move(file) : File();
+}
+
+bool copyContent(HANDLE from, HANDLE to)
+{
+    std::vector<char> buffer(1 << 17);
+    for (;;) {
+        DWORD size = 0;
+        if (ReadFile(from, buffer.data(), static_cast<DWORD>(buffer.size()), &size, nullptr) == 0) {
+            return false;
+        }
+        if (size == 0) {
+            return true;
+        }
+        DWORD written = 0;
+        if (WriteFile(to, buffer.data(), size, &written, nullptr) == 0 || written != size) {
+            return false;
+        }
+    }
+}
+
+} // namespace
+
+struct Directory::Handle
+{
+    explicit Handle(File file) : open(std::move(file)) {}
+
+    static std::shared_ptr<Handle const> of(File file)
+    {
+        return file.isOpen() ? std::make_shared<Handle const>(std::move(file)) : nullptr;
+    }
+    static HANDLE get(std::shared_ptr<Handle const> const & handle)
+    {
+        return handle ? handle->open.get() : INVALID_HANDLE_VALUE;
+    }
+
+    File open;
+};
+
+Directory Directory::at(Path const & path)
+{
+    return Directory(Handle::of(openDirectory(path.empty() ? L"." : path.native())));
+}
+
+Directory Directory::enter(Path const & name) const
+{
+    File file = openIn(Handle::get(m_handle), name, searchAccess, FILE_OPEN, FILE_DIRECTORY_FILE);
+    bool const isDirectory = file.isOpen() && kindOf(file.get()) == DirectoryEntry::Kind::Directory;
+    return Directory(isDirectory ? Handle::of(std::move(file)) : nullptr);
+}
+
+Directory Directory::parent() const
+{
+    std::wstring const path = parentPath(finalPath(Handle::get(m_handle)));
+    return path.empty() ? Directory() : Directory(Handle::of(openDirectory(path)));
+}
+
+FileId Directory::id() const
+{
+    return idOf(Handle::get(m_handle));
+}
+
+Lineage Directory::lineage() const
+{
+    Lineage ids;
+    std::wstring path = finalPath(Handle::get(m_handle));
+    if (!path.empty()) {
+        ids.push_back(id());
+    }
+    for (path = parentPath(path); !path.empty(); path = parentPath(path)) {
+        File const place(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING,
+                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+        if (!place.isOpen()) {
+            return {};
+        }
+        ids.push_back(idOf(place.get()));
+    }
+    return ids;
+}
+
+DirectoryEntry Directory::look(Path const & name) const
+{
+    NTSTATUS status = 0;
+    File const file = openIn(Handle::get(m_handle), name, FILE_READ_ATTRIBUTES, FILE_OPEN, 0, &status);
+    if (file.isOpen()) {
+        return {kindOf(file.get()), idOf(file.get())};
+    }
+    return {status == nameNotFound ? DirectoryEntry::Kind::Missing : DirectoryEntry::Kind::Other, {}};
+}
+
+bool Directory::list(Names & names) const
+{
+    HANDLE const here = Handle::get(m_handle);
+    alignas(FILE_ID_BOTH_DIR_INFO) std::array<char, 1 << 16> buffer{};
+    for (auto kind = FileIdBothDirectoryRestartInfo;; kind = FileIdBothDirectoryInfo) {
+        if (GetFileInformationByHandleEx(here, kind, buffer.data(), static_cast<DWORD>(buffer.size())) == 0) {
+            return GetLastError() == ERROR_NO_MORE_FILES;
+        }
+        for (std::size_t offset = 0;;) {
+            auto const * const entry = reinterpret_cast<FILE_ID_BOTH_DIR_INFO const *>(&buffer[offset]);
+            std::wstring name(entry->FileName, entry->FileNameLength / sizeof(wchar_t));
+            if (name != L"." && name != L"..") {
+                names.emplace_back(std::move(name));
+            }
+            if (entry->NextEntryOffset == 0) {
+                break;
+            }
+            offset += entry->NextEntryOffset;
+        }
+    }
+}
+
+// The attribute of a directory does not keep anybody from emptying it, and removeByHandle() passes over it.
+void Directory::makeWritable() const {}
+
+bool Directory::makeDirectory(Path const & name) const
+{
+    return openIn(Handle::get(m_handle), name, FILE_READ_ATTRIBUTES, FILE_CREATE, FILE_DIRECTORY_FILE)
+        .isOpen();
+}
+
+bool Directory::removeFile(Path const & name) const
+{
+    File const file = openIn(Handle::get(m_handle), name, removeAccess, FILE_OPEN, 0);
+    return file.isOpen() && kindOf(file.get()) != DirectoryEntry::Kind::Directory && removeByHandle(file);
+}
+
+bool Directory::removeDirectory(Path const & name) const
+{
+    File const file = openIn(Handle::get(m_handle), name, removeAccess, FILE_OPEN, FILE_DIRECTORY_FILE);
+    return file.isOpen() && kindOf(file.get()) == DirectoryEntry::Kind::Directory && removeByHandle(file);
+}
+
+bool Directory::copyFile(Path const & name, Directory const & target, Path const & copy) const
+{
+    File const from = openIn(Handle::get(m_handle), name, GENERIC_READ, FILE_OPEN, FILE_NON_DIRECTORY_FILE);
+    if (!from.isOpen() || kindOf(from.get()) != DirectoryEntry::Kind::File) {
+        return false;
+    }
+    File const to = openIn(Handle::get(target.m_handle), copy, GENERIC_WRITE | FILE_READ_ATTRIBUTES,
+                           FILE_CREATE, FILE_NON_DIRECTORY_FILE);
+    FILE_BASIC_INFO info{};
+    if (!to.isOpen() || !copyContent(from.get(), to.get()) || !ask(from.get(), FileBasicInfo, info)) {
+        return false;
+    }
+    setReadOnly(to.get(), (info.FileAttributes & FILE_ATTRIBUTE_READONLY) != 0);
+    return true;
+}
+
+bool Directory::copyLink(Path const & name, Directory const & target, Path const & copy) const
+{
+    File const from = openIn(Handle::get(m_handle), name, FILE_READ_ATTRIBUTES, FILE_OPEN, 0);
+    FILE_ATTRIBUTE_TAG_INFO info{};
+    std::vector<char> text(MAXIMUM_REPARSE_DATA_BUFFER_SIZE);
+    DWORD size = 0;
+    if (!from.isOpen() || kindOf(from.get()) != DirectoryEntry::Kind::Link ||
+        !ask(from.get(), FileAttributeTagInfo, info) ||
+        DeviceIoControl(from.get(), FSCTL_GET_REPARSE_POINT, nullptr, 0, text.data(),
+                        static_cast<DWORD>(text.size()), &size, nullptr) == 0) {
+        return false;
+    }
+    bool const isDirectory = (info.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    File const to = openIn(Handle::get(target.m_handle), copy, GENERIC_WRITE | DELETE, FILE_CREATE,
+                           isDirectory ? FILE_DIRECTORY_FILE : FILE_NON_DIRECTORY_FILE);
+    DWORD none = 0;
+    if (to.isOpen() && DeviceIoControl(to.get(), FSCTL_SET_REPARSE_POINT, text.data(), size, nullptr, 0,
+                                       &none, nullptr) != 0) {
+        return true;
+    }
+    removeByHandle(to); // an empty directory is no part that removeFile() would take
+    return false;
+}
+
+bool Directory::rename(Path const & from, Path const & to) const
+{
+    static auto * const set = systemCall<decltype(NtSetInformationFile)>("NtSetInformationFile");
+    HANDLE const here = Handle::get(m_handle);
+    if (File const old = openIn(here, to, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, FILE_OPEN, 0);
+        old.isOpen() && kindOf(old.get()) != DirectoryEntry::Kind::Directory) {
+        setReadOnly(old.get(), false); // it would not be replaced
+    }
+    File const file = openIn(here, from, removeAccess, FILE_OPEN, 0);
+    if (!file.isOpen() || set == nullptr) {
+        return false;
+    }
+    std::wstring const name = to.native();
+    std::vector<std::uint64_t> buffer((sizeof(FILE_RENAME_INFO) + name.size() * sizeof(wchar_t)) / 8 + 1);
+    auto * const info = reinterpret_cast<FILE_RENAME_INFO *>(buffer.data());
+    info->ReplaceIfExists = TRUE;
+    info->RootDirectory = here;
+    info->FileNameLength = static_cast<DWORD>(name.size() * sizeof(wchar_t));
+    std::memcpy(info->FileName, name.data(), info->FileNameLength);
+    IO_STATUS_BLOCK status{};
+    return set(file.get(), &status, info, static_cast<ULONG>(buffer.size() * 8), fileRenameInformation) >= 0;
+}
+
+} // namespace KVCAM::UIAPI
