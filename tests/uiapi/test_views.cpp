@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QTranslator>
+#include <QWidget>
 
 #include <functional>
 
@@ -266,12 +267,21 @@ TEST_F(Views, SnapControlKeepsTheSize)
     EXPECT_EQ(getSnapControl(view).first, 1);
 }
 
-TEST_F(Views, UnknownViewIsShownInOneBoxWithoutAParent)
+// Not even a view that could be one, unlike the boxes of refused values.
+TEST_F(Views, UnknownViewIsShownInOneBoxWithoutAParentAfterItsLine)
 {
-    setStepConfigToAPI(unknown);
-    EXPECT_EQ(log.take(), Lines{operationError("setStepConfigToAPI")});
-    EXPECT_EQ(boxes.take(), Lines{informationBox("未能找到此graphic的全局参数")});
-    EXPECT_EQ(boxes.lastParent(), nullptr);
+    QWidget const alive;
+    std::vector<Ext::Message> shown;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
+        shown.push_back(message);
+        EXPECT_EQ(log.take(), Lines{operationError("setStepConfigToAPI")});
+        return Ext::MessageAnswer::Ok;
+    });
+    setStepConfigToAPI(&alive);
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].parent, nullptr);
+    EXPECT_EQ(shown[0].text, "未能找到此graphic的全局参数");
+    EXPECT_EQ(log.take(), Lines{});
     EXPECT_EQ(engine.take(), Calls{});
 }
 
@@ -332,6 +342,45 @@ TEST_F(Views, AnEngineThatCallsBackFindsTheRegistryConsistent)
                      "DB::get_SaveFlag()", "API::set_select_param(0)"}));
 }
 
+TEST_F(Views, WhatIsPushedIsTheSameForTheDatabaseAndTheEngine)
+{
+    registerView(view);
+    engine.saveFlag = true;
+    engine.onNextCall("set_show_para_db_save", [this] { UIAPICommonPara::instance()->setUnit(view, 0); });
+    UIAPICommonPara::instance()->setUnit(view, 1);
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "DB::set_show_para_db_save(1 0 false true true)",
+                     "DB::get_SaveFlag()", "DB::set_show_para_db_save(0 0 false true true)",
+                     "API::set_show_para(0 0 false true true)", "API::set_show_para(1 0 false true true)"}));
+    EXPECT_EQ(showPara(view).unit, 0);
+}
+
+TEST_F(Views, AnEngineThatAssignsToTheObjectIsGivenTheNewRecordsAndNoneThatIsGone)
+{
+    UIAPICommonPara & para = *UIAPICommonPara::instance();
+    static auto * const empty = new UIAPICommonPara(para);
+    registerView(view);
+    static auto * const other = new UIAPICommonPara(para);
+    other->setSelection(view, {true, true, false, false, false, false});
+    engine.take();
+    engine.onNextCall("set_show_para", [&] { para = *other; });
+    engine.onNextCall("set_selection", [&] { para = *empty; });
+    setStepConfigToAPI(view);
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "API::set_show_para(0 0 false true true)", "DB::get_SaveFlag()",
+                     "API::set_selection(true true false false false false)"}));
+    EXPECT_EQ(log.take(), Lines{operationError("setStepConfigToAPI")});
+    // Every other store is done with its record before it pushes.
+    for (StoreRow const & row : storeRows()) {
+        registerView(view);
+        for (char const * push : {"set_show_para", "set_selection", "set_select_param"}) {
+            engine.onNextCall(push, [&] { para = *empty; });
+        }
+        row.store(view);
+        para = *empty;
+    }
+}
+
 // The title is looked up in the translation, the body is fixed.
 TEST_F(Views, OnlyTheTitleOfTheBoxIsTranslated)
 {
@@ -356,11 +405,20 @@ TEST_F(Views, CopiesAreDetached)
 {
     registerView(view);
     UIAPICommonPara & para = *UIAPICommonPara::instance();
+    QWidget input;
+    QWidget split;
     para.SetKvcamAsExe(false);
+    para.setInputPtr(&input);
+    para.setSplitPtr(&split);
+    para.getLayerState()->layers["top"] = 2;
     // Objects cannot be destroyed, so the copy is kept where it stays reachable.
     static auto * const copy = new UIAPICommonPara(para);
     EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, &para);
     EXPECT_FALSE(copy->KvcamAsExe());
+    EXPECT_EQ(copy->getInputPtr(), &input);
+    EXPECT_EQ(copy->getSplitPtr(), &split);
+    EXPECT_EQ(copy->getLayerState()->layers, para.getLayerState()->layers);
+    EXPECT_NE(copy->getLayerState(), para.getLayerState());
     copy->setUnit(view, 1);
     EXPECT_EQ(getUnit(view), 0);
     EXPECT_EQ(copy->getUnit(view), 1);
