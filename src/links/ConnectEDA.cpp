@@ -182,12 +182,14 @@ void ConnectEDA::receive()
     QPointer<ConnectEDA> const alive(this);
     ++d->receiving;
     QByteArray bytes;
-    while (alive && d->take(bytes)) {
-        // Ends at a NUL, as Qt's conversion of bytes to text does.
-        d->received = QString::fromUtf8(bytes);
-        ++d->count;
-        tell(bytes);
-    }
+    guarded(Log::commonPara, [&] {
+        while (alive && d->take(bytes)) {
+            // Ends at a NUL, as Qt's conversion of bytes to text does.
+            d->received = QString::fromUtf8(bytes);
+            ++d->count;
+            tell(bytes);
+        }
+    });
     if (alive) {
         --d->receiving;
     }
