@@ -21,6 +21,7 @@
 #include "layers/UndoCount.h"
 #include "links/ConnectEDA.h"
 #include "support/MessagePresenter.h"
+#include "support/ThreadCheck.h"
 #include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRecords.h"

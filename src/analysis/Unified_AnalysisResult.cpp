@@ -2,6 +2,9 @@
 
 #include "analysis/AnalysisSummary.h"
 #include "analysis/UnifiedResultStore.h"
+#include "support/Guard.h"
+#include "support/Log.h"
+#include "support/Singleton.h"
 
 #include <utility>
 
@@ -15,6 +18,13 @@ struct Unified_AnalysisResult::Private
 };
 
 namespace {
+
+// What each public method runs in.
+template <class Body>
+auto guardedResult(Body && body, int line = __builtin_LINE())
+{
+    return guarded(Log::analysisResult, std::forward<Body>(body), line);
+}
 
 // One list for the process, made at the first call and never destroyed.
 std::vector<layer_info> & layerList()
@@ -34,53 +44,64 @@ Unified_AnalysisResult::~Unified_AnalysisResult()
 
 Unified_AnalysisResult * Unified_AnalysisResult::instance()
 {
-    static auto * const object = new Unified_AnalysisResult; // never destroyed
-    return object;
+    static Unified_AnalysisResult * object = nullptr; // never destroyed
+    return Singleton::obtain(
+        object, [] { return new Unified_AnalysisResult; }, [](Unified_AnalysisResult &) {});
 }
 
 void Unified_AnalysisResult::setJobStep(std::string const & job, std::string const & step)
 {
-    d->job = job;
-    d->step = step;
+    guardedResult([&] {
+        d->job = job;
+        d->step = step;
+    });
 }
 
 void Unified_AnalysisResult::setLayerInfo(std::vector<layer_info> layers)
 {
-    layerList() = std::move(layers);
+    guardedResult([&] { layerList() = std::move(layers); });
 }
 
 bool Unified_AnalysisResult::setDrillCheckResult(
     std::map<std::string, check_reply<drill_check_item, check_info>> & replies)
 {
-    d->results.fileDrill(replies);
-    return true;
+    return guardedResult([&] {
+        d->results.fileDrill(replies);
+        return true;
+    });
 }
 
 bool Unified_AnalysisResult::setSignalLayerCheckResult(
     std::map<std::string, std::map<signal_layers_checks_items, signal_check_result>> & replies)
 {
-    d->results.fileSignal(replies);
-    return true;
+    return guardedResult([&] {
+        d->results.fileSignal(replies);
+        return true;
+    });
 }
 
 bool Unified_AnalysisResult::setRestResult(
     std::map<unified_check_items, std::map<std::string, unified_check_result>> & results)
 {
-    d->results.fileRest(results);
-    return true;
+    return guardedResult([&] {
+        d->results.fileRest(results);
+        return true;
+    });
 }
 
 bool Unified_AnalysisResult::getUnifiedResult(
     unified_check_items const & item, int const & group,
     std::vector<std::pair<std::string, std::vector<check_info>>> & out)
 {
-    d->results.query(item, group, layerList(), out);
-    return true;
+    return guardedResult([&] {
+        d->results.query(item, group, layerList(), out);
+        return true;
+    });
 }
 
 void Unified_AnalysisResult::jsonoutput(std::string & out)
 {
-    out = summaryText(d->job, d->step, d->results);
+    guardedResult([&] { out = summaryText(d->job, d->step, d->results); });
 }
 
 } // namespace KVCAM::UIAPI

@@ -13,7 +13,8 @@ namespace KVCAM::UIAPI {
 /// The results of the engine's checks for one job and step, by unified item and layer: filed by the setters,
 /// queried by the result views, summarised as one JSON document. One object per process, created by the first
 /// call of instance() and alive until the process ends. Results accumulate until other ones are filed in
-/// their place. GUI thread only; nothing is locked, and nothing is logged.
+/// their place. GUI thread only; nothing is locked. Nothing is logged but what is thrown, as when memory is
+/// short: the method then returns false or nothing.
 class UIAPICOMMON_EXPORT Unified_AnalysisResult
 {
 public:

@@ -24,10 +24,15 @@ namespace KVCAM::UIAPI {
 /// user's templates, "attributes.json" and "cammatenodes.json", and then pushes the thread count and the
 /// backup-layer suffix to the engine. What fails is logged at ERROR under the name "UIAPIGlobalVar"; nothing
 /// is reported to the caller. All text is UTF-8.
+///
+/// No method throws: what is thrown is logged as the two lines of a caught exception, and the method returns
+/// 0, false or nothing. Only instance(), which has nothing else to give, lets std::bad_alloc through.
 class UIAPICOMMON_EXPORT UIAPIGlobalVar
 {
 public:
-    /// The object, created at the first call.
+    /// The object, created at the first call. Creating it asks the host for paths; a host that calls back
+    /// meanwhile is given the same object, in which what is not loaded yet is empty. What is set then is
+    /// replaced by what is loaded.
     static UIAPIGlobalVar * instance();
     /// Null until instance() was called for the first time. Not to be assigned to.
     static UIAPIGlobalVar * m_pUIAPIGlobalVarInstance;

@@ -2,28 +2,42 @@
 
 #include "hotkey/HotkeyFile.h"
 #include "hotkey/KVHotKeyPrivate.h"
+#include "support/Guard.h"
 #include "support/JsonFile.h"
+#include "support/Log.h"
+#include "support/Singleton.h"
+
+#include <utility>
 
 namespace KVCAM {
 
 using namespace UIAPI;
 
+namespace {
+
+// What each public method runs in, and each step of the load.
+template <class Body>
+auto guardedKeys(Body && body, int line = __builtin_LINE())
+{
+    return guarded(Log::hotKey, std::forward<Body>(body), line);
+}
+
+} // namespace
+
 KVHotKey * KVHotKey::m_pKVHotKeyInstance = nullptr;
 
 KVHotKey * KVHotKey::getInstance()
 {
-    if (m_pKVHotKeyInstance == nullptr) {
-        m_pKVHotKeyInstance = new KVHotKey;
-    }
-    return m_pKVHotKeyInstance;
+    return Singleton::obtain(
+        m_pKVHotKeyInstance, [] { return new KVHotKey; },
+        [](KVHotKey & made) {
+            guardedKeys([&] { made.initAllMap(); });
+            made.initHotkeyTable();
+            made.uploadHotkeyModel();
+        });
 }
 
-KVHotKey::KVHotKey() : d(new Private)
-{
-    initAllMap();
-    initHotkeyTable();
-    uploadHotkeyModel();
-}
+KVHotKey::KVHotKey() : d(new Private) {}
 
 KVHotKey::~KVHotKey()
 {
@@ -32,45 +46,51 @@ KVHotKey::~KVHotKey()
 
 FuncCode KVHotKey::getFunctionCode(QKeyEvent * event)
 {
-    if (event == nullptr) {
-        return KP_NoFunction;
-    }
-    if (event->modifiers() != Qt::NoModifier) {
-        d->buffer.clear();
-        return d->tables.find(event->key(), event->modifiers());
-    }
-    d->buffer.add(event->key());
-    return d->buffer.hasGroup() ? d->tables.find({d->buffer.previous, d->buffer.latest}) : KP_NoFunction;
+    return guardedKeys([&]() -> FuncCode {
+        if (event == nullptr) {
+            return KP_NoFunction;
+        }
+        if (event->modifiers() != Qt::NoModifier) {
+            d->buffer.clear();
+            return d->tables.find(event->key(), event->modifiers());
+        }
+        d->buffer.add(event->key());
+        return d->buffer.hasGroup() ? d->tables.find({d->buffer.previous, d->buffer.latest}) : KP_NoFunction;
+    });
 }
 
 void KVHotKey::buffAddKey(Qt::Key key)
 {
-    d->buffer.add(key);
+    guardedKeys([&] { d->buffer.add(key); });
 }
 
 void KVHotKey::buffClear()
 {
-    d->buffer.clear();
+    guardedKeys([&] { d->buffer.clear(); });
 }
 
 bool KVHotKey::buffHasGroup()
 {
-    return d->buffer.hasGroup();
+    return guardedKeys([&] { return d->buffer.hasGroup(); });
 }
 
 // The sequences stay on purpose: a second call adds a second set of them.
 void KVHotKey::initHotkeyTable()
 {
-    d->tables.singles.clear();
-    d->tables.addDefaults();
+    guardedKeys([&] {
+        d->tables.singles.clear();
+        d->tables.addDefaults();
+    });
 }
 
 void KVHotKey::uploadHotkeyModel()
 {
-    JsonFile::ReadResult const file = JsonFile::read(QLatin1String(Ext::hotkeyFile), QIODevice::Text);
-    if (file.status == JsonFile::ReadStatus::Ok) {
-        updateHotkeyTable(file.document.array());
-    }
+    guardedKeys([&] {
+        JsonFile::ReadResult const file = JsonFile::read(QLatin1String(Ext::hotkeyFile), QIODevice::Text);
+        if (file.status == JsonFile::ReadStatus::Ok) {
+            updateHotkeyTable(file.document.array());
+        }
+    });
 }
 
 void KVHotKey::initKeyNameMap()

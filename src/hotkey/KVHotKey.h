@@ -19,8 +19,8 @@ struct HotkeyDoor;
 /// from the GUI thread only; nothing is locked.
 ///
 /// It starts from a default table, which the user's "./config/keyboard.json", relative to the current
-/// directory, replaces when it is there and parses. Nothing is ever logged; Ext::tryLoadHotkeys() tells what
-/// is wrong with a file.
+/// directory, replaces when it is there and parses. Nothing is logged but what is thrown, as when memory is
+/// short (the method then gives its neutral result); Ext::tryLoadHotkeys() tells what is wrong with a file.
 ///
 /// The file is a JSON array of objects with texts: "func_name" with "Modifier" ("", "Shift", "Ctrl") and
 /// "key", or "func_name" with "key1" and "key2". Keys are the characters "0" to "`", "a" to "z" for the same

@@ -1,9 +1,9 @@
 #include "links/ConnectEDA.h"
 
+#include "links/QtLife.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <QJsonDocument>
 #include <QJsonParseError>
@@ -46,6 +46,11 @@ struct ConnectEDA::Private
     quint64 count = 0;
     int receiving = 0; // how many calls of receive() are running
 
+    bool isBound() const
+    {
+        return !receiver.isNull() && receiver->state() == QAbstractSocket::BoundState && !QtLife::isOver();
+    }
+
     /// Binds the receiver, anew when it is bound.
     void bind()
     {
@@ -62,7 +67,7 @@ struct ConnectEDA::Private
     /// Takes one datagram from the receiver; false when there is none to be had.
     bool take(QByteArray & bytes)
     {
-        if (receiver.isNull() || !receiver->hasPendingDatagrams()) {
+        if (!isBound() || !receiver->hasPendingDatagrams()) {
             return false;
         }
         // -1 if the datagram is gone by now.
@@ -78,6 +83,10 @@ struct ConnectEDA::Private
 
     Ext::EdaSendResult send(QByteArray const & bytes)
     {
+        if (QtLife::isOver()) {
+            lastError = QLatin1String("the process is ending");
+            return Ext::EdaSendResult::NoLink;
+        }
         if (sender.isNull()) {
             lastError = QLatin1String("the sending socket is gone");
             return Ext::EdaSendResult::NoLink;
@@ -99,27 +108,31 @@ struct ConnectEDA::Private
 
 ConnectEDA::ConnectEDA(QObject * parent) : QObject(parent), d(new Private)
 {
+    if (QtLife::isOver()) {
+        return; // without sockets
+    }
     d->sender = new QUdpSocket(parent);
     d->receiver = new QUdpSocket(parent);
     d->bind();
     connect(d->receiver, SIGNAL(readyRead()), this, SLOT(receive()));
-    if (QCoreApplication::instance() != nullptr) {
-        return;
-    }
-    // The event loop never hears a socket that was bound before there was an application.
+    // Only a link that has the port: one that is deaf stays so.
     auto const bindAgain = [alive = QPointer<ConnectEDA>(this)] {
         alive->receive(); // what came until now
-        if (alive) {
+        if (alive && alive->d->isBound()) {
             alive->d->bind();
         }
     };
-    QMetaObject::invokeMethod(this, bindAgain, Qt::QueuedConnection);
+    connect(&QtLife::get(), &QtLife::applicationStarted, this,
+            [this, bindAgain] { QMetaObject::invokeMethod(this, bindAgain, Qt::QueuedConnection); });
+    QtLife::watchEnd();
 }
 
 ConnectEDA::~ConnectEDA()
 {
-    discard(d->sender, false);
-    discard(d->receiver, d->receiving > 0);
+    if (!QtLife::isOver()) {
+        discard(d->sender, false);
+        discard(d->receiver, d->receiving > 0);
+    }
     delete d;
 }
 
@@ -130,7 +143,11 @@ void ConnectEDA::sendData(QJsonObject const & data)
 
 Ext::EdaSendResult ConnectEDA::sendDataChecked(QJsonObject const & data)
 {
-    Ext::EdaSendResult const result = d->send(QJsonDocument(data).toJson(QJsonDocument::Compact));
+    Ext::EdaSendResult result = Ext::EdaSendResult::SocketError; // should anything be thrown
+    guarded(Log::commonPara, [&] { result = d->send(QJsonDocument(data).toJson(QJsonDocument::Compact)); });
+    if (d->sent + d->unsent == 0) {
+        QtLife::watchEnd(); // what the first sending made is destroyed after that
+    }
     ++(result == Ext::EdaSendResult::Sent ? d->sent : d->unsent);
     return result;
 }
@@ -149,7 +166,7 @@ Ext::EdaLinkState ConnectEDA::state() const
 {
     Ext::EdaLinkState state;
     state.exists = true;
-    state.bound = !d->receiver.isNull() && d->receiver->state() == QAbstractSocket::BoundState;
+    state.bound = d->isBound();
     state.bindError = d->bindError;
     state.port = d->edaPort;
     state.sent = d->sent;
@@ -165,12 +182,14 @@ void ConnectEDA::receive()
     QPointer<ConnectEDA> const alive(this);
     ++d->receiving;
     QByteArray bytes;
-    while (alive && d->take(bytes)) {
-        // Ends at a NUL, as Qt's conversion of bytes to text does.
-        d->received = QString::fromUtf8(bytes);
-        ++d->count;
-        tell(bytes);
-    }
+    guarded(Log::commonPara, [&] {
+        while (alive && d->take(bytes)) {
+            // Ends at a NUL, as Qt's conversion of bytes to text does.
+            d->received = QString::fromUtf8(bytes);
+            ++d->count;
+            tell(bytes);
+        }
+    });
     if (alive) {
         --d->receiving;
     }

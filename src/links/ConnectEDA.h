@@ -15,7 +15,7 @@ namespace Ext {
 enum class EdaSendResult : int
 {
     Sent,       ///< handed to the network; whether anybody listens cannot be known
-    NoLink,     ///< there is no link, or its sending socket is gone
+    NoLink,     ///< there is no link, or its sending socket is gone, or the process is ending
     NoPort,     ///< the port set is outside 1 to 65535
     TooLarge,   ///< the message does not fit into one datagram (65507 bytes)
     SocketError ///< anything else; EdaLinkState::lastError has the words
@@ -25,8 +25,8 @@ enum class EdaSendResult : int
 struct EdaLinkState
 {
     bool exists = false;  ///< false: there is no link, and nothing below counts
-    bool bound = false;   ///< whether it can receive; a deaf link still sends
-    QString bindError;    ///< the socket's words on why it is deaf; empty for a link that was bound
+    bool bound = false;   ///< whether it has the port and can receive; a deaf link still sends
+    QString bindError;    ///< the socket's words on why its latest bind failed; empty when it did not
     int port = 0;         ///< where messages are sent, as it was set
     quint64 sent = 0;     ///< messages handed to the network
     quint64 unsent = 0;   ///< messages that were not
@@ -41,15 +41,17 @@ struct EdaLinkState
 ///
 /// It receives on port 2333, in the event loop of the thread that created it, and sends to a port that can be
 /// set. Nothing is logged and no operation of the fixed interface reports a failure. One process at a time
-/// can have the port; the link of a second one is deaf.
+/// can have the port; the link of a second one is deaf. Once main() is left or exit() called, as in the
+/// destructor of a static object, nothing is sent or received any more.
 class UIAPICOMMON_EXPORT ConnectEDA : public QObject
 {
     Q_OBJECT
 
 public:
     /// Creates both sockets as children of `parent` (not of the link) and binds the receiving one. A failed
-    /// bind shows in state() alone. A link made before the QCoreApplication sends, receives by receive(), and
-    /// binds again when the event loop starts, which hears it from then on.
+    /// bind shows in state() alone and is not tried again. A link made before a QCoreApplication, be it the
+    /// second one of the process, sends, receives by receive(), and binds again when that event loop starts,
+    /// which hears it from then on.
     explicit ConnectEDA(QObject * parent = nullptr);
     /// Destroys the sockets that are still there. May be called by a slot of the link's own signals.
     ~ConnectEDA() override;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "support/Log.h"
-
+#include <atomic>
 #include <exception>
 #include <string>
 #include <type_traits>
@@ -25,20 +24,38 @@ bool guard(Body && body, OnFailure && onFailure)
     return false;
 }
 
+/// Parts of guarded() that are no templates.
+namespace Guard {
+
+/// Whether Ext::setThreadCheck() wants threads compared.
+extern std::atomic<bool> comparesThreads;
+
+/// Reports the caller, or ends the process, when it is not on the thread that the library belongs to.
+void compareThreads(char const * source, int line);
+
+/// Logs the exception that is being handled as the two lines of a caught exception. Throws nothing: where
+/// there is no memory for the lines either, they are left out.
+void logCurrentException(char const * source, int line) noexcept;
+
+} // namespace Guard
+
 /// Runs `body` and returns its result; if anything is thrown, logs the two lines of a caught exception under
-/// `source` and returns a value-initialised result (0, false, null, empty).
+/// `source` and returns a value-initialised result (0, false, null, empty). This is the library's boundary:
+/// flat functions and public methods of singletons run in it. One inside another logs once, since nothing
+/// leaves the inner one.
 template <class Body>
 auto guarded(char const * source, Body && body, int line = __builtin_LINE())
 {
     using Result = std::decay_t<decltype(body())>;
-    auto const log = [&](std::string const & what) { Log::caughtException(source, what, line); };
-    if constexpr (std::is_void_v<Result>) {
-        guard(std::forward<Body>(body), log);
-    } else {
-        Result result{};
-        guard([&] { result = body(); }, log);
-        return result;
+    try {
+        if (Guard::comparesThreads.load(std::memory_order_relaxed)) {
+            Guard::compareThreads(source, line);
+        }
+        return static_cast<Result>(body());
+    } catch (...) {
+        Guard::logCurrentException(source, line);
     }
+    return Result();
 }
 
 } // namespace KVCAM::UIAPI

@@ -9,6 +9,8 @@ namespace KVCAM::UIAPI::Log {
 /// The base names used.
 inline constexpr char const * commonPara = "UIAPICommonPara";
 inline constexpr char const * globalVar = "UIAPIGlobalVar";
+inline constexpr char const * hotKey = "KVHotKey";
+inline constexpr char const * analysisResult = "Unified_AnalysisResult";
 
 // The line shown is the caller's.
 void error(char const * source, std::string const & text, int line = __builtin_LINE());

@@ -1,6 +1,7 @@
 #include "uiapi/UIAPICommonPara.h"
 
 #include "support/Log.h"
+#include "support/Singleton.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
 
 #include <sstream>
@@ -11,22 +12,19 @@ UIAPICommonPara * UIAPICommonPara::m_pUIAPICommonParaInstance = nullptr;
 
 UIAPICommonPara * UIAPICommonPara::instance()
 {
-    if (m_pUIAPICommonParaInstance == nullptr) {
-        m_pUIAPICommonParaInstance = new UIAPICommonPara;
-    }
-    return m_pUIAPICommonParaInstance;
+    // The order is fixed, and the log shows it.
+    return Singleton::obtain(
+        m_pUIAPICommonParaInstance, [] { return new UIAPICommonPara; },
+        [](UIAPICommonPara & made) {
+            Private & parts = *made.d;
+            guardedPara([&] { parts.ranges.loadAllRanges(); });
+            guardedPara([&] { parts.categories.insertAll(); });
+            guardedPara([&] { parts.builtInAttributes.initTotalAttributes(); });
+            guardedPara([&] { parts.edaLink = new ConnectEDA; });
+        });
 }
 
-// What is loaded here is loaded in a fixed order, which the log shows: the range files (loadAllRanges), the
-// category tables, the attribute list, and last the EDA link. No flat function may be called: instance() is
-// not stored.
-UIAPICommonPara::UIAPICommonPara() : d(new Private)
-{
-    d->ranges.loadAllRanges();
-    d->categories.insertAll();
-    d->builtInAttributes.initTotalAttributes();
-    d->edaLink = new ConnectEDA;
-}
+UIAPICommonPara::UIAPICommonPara() : d(new Private) {}
 
 UIAPICommonPara::~UIAPICommonPara()
 {
@@ -38,64 +36,64 @@ UIAPICommonPara::UIAPICommonPara(UIAPICommonPara const & other) : d(new Private(
 UIAPICommonPara & UIAPICommonPara::operator=(UIAPICommonPara const & other)
 {
     if (this != &other) {
-        *d = *other.d;
+        guardedPara([&] { *d = *other.d; });
     }
     return *this;
 }
 
 LANGUAGE_MODE UIAPICommonPara::getCurrentLanguageMode() const
 {
-    return d->language;
+    return guardedPara([&] { return d->language; });
 }
 
 void UIAPICommonPara::setCurrentLanguageMode(LANGUAGE_MODE & mode)
 {
-    d->language = mode;
+    guardedPara([&] { d->language = mode; });
 }
 
 bool UIAPICommonPara::getPanelPositionStatus() const
 {
-    return d->panelPositionStatus;
+    return guardedPara([&] { return d->panelPositionStatus; });
 }
 
 void UIAPICommonPara::setPanelPositionStatus(bool status)
 {
-    d->panelPositionStatus = status;
+    guardedPara([&] { d->panelPositionStatus = status; });
 }
 
 bool UIAPICommonPara::getCoordinateStatus() const
 {
-    return d->coordinateStatus;
+    return guardedPara([&] { return d->coordinateStatus; });
 }
 
 void UIAPICommonPara::setCoordinateStatus(bool status)
 {
-    d->coordinateStatus = status;
+    guardedPara([&] { d->coordinateStatus = status; });
 }
 
 bool UIAPICommonPara::KvcamAsExe() const
 {
-    return d->kvcamAsExe;
+    return guardedPara([&] { return d->kvcamAsExe; });
 }
 
 void UIAPICommonPara::SetKvcamAsExe(bool value)
 {
-    d->kvcamAsExe = value;
+    guardedPara([&] { d->kvcamAsExe = value; });
 }
 
 QPoint UIAPICommonPara::getCoordinatePos() const
 {
-    return d->coordinatePos;
+    return guardedPara([&] { return d->coordinatePos; });
 }
 
 void UIAPICommonPara::setCoordinatePos(QPoint pos)
 {
-    d->coordinatePos = pos;
+    guardedPara([&] { d->coordinatePos = pos; });
 }
 
 QWidget * UIAPICommonPara::getInputPtr() const
 {
-    return d->input;
+    return guardedPara([&] { return d->input; });
 }
 
 namespace {
@@ -111,34 +109,36 @@ std::string pointerTrace(char const * text, void const * pointer)
 
 void UIAPICommonPara::setInputPtr(QWidget * widget)
 {
-    if (d->input == nullptr) {
+    guardedPara([&] {
+        if (d->input == nullptr) {
+            d->input = widget;
+            Log::info(Log::commonPara, pointerTrace("setInputPtr _input ", widget));
+            return;
+        }
+        Log::warning(Log::commonPara, pointerTrace("setInputPtr old m_input ", d->input));
         d->input = widget;
-        Log::info(Log::commonPara, pointerTrace("setInputPtr _input ", widget));
-        return;
-    }
-    Log::warning(Log::commonPara, pointerTrace("setInputPtr old m_input ", d->input));
-    d->input = widget;
-    Log::warning(Log::commonPara, pointerTrace("setInputPtr new m_input ", widget));
+        Log::warning(Log::commonPara, pointerTrace("setInputPtr new m_input ", widget));
+    });
 }
 
 QWidget * UIAPICommonPara::getSplitPtr() const
 {
-    return d->split;
+    return guardedPara([&] { return d->split; });
 }
 
 void UIAPICommonPara::setSplitPtr(QWidget * widget)
 {
-    d->split = widget;
+    guardedPara([&] { d->split = widget; });
 }
 
 LayerState * UIAPICommonPara::getLayerState()
 {
-    return &d->layerState;
+    return guardedPara([&] { return &d->layerState; });
 }
 
 void UIAPICommonPara::getChildAttribute(std::string name, std::vector<std::string> & out) const
 {
-    d->builtInAttributes.getChildAttribute(name, out);
+    guardedPara([&] { d->builtInAttributes.getChildAttribute(name, out); });
 }
 
 } // namespace KVCAM::UIAPI

@@ -36,11 +36,16 @@ enum class EdaSendResult : int;
 /// A per-view method that does not know its view logs "KVCAM UIAPI <operation> error" at ERROR under the name
 /// "UIAPICommonPara" and returns the neutral value its comment names; output arguments stay untouched.
 ///
+/// No method throws: whatever an engine or the allocator throws is logged as the two lines of a caught
+/// exception, and the method returns 0, false, null or nothing. Only instance() and the copy constructor,
+/// which have nothing else to give, let std::bad_alloc through.
+///
 /// Copies are detached snapshots, never a second singleton. Objects cannot be destroyed.
 class UIAPICOMMON_EXPORT UIAPICommonPara
 {
 public:
-    /// The object, created at the first call.
+    /// The object, created at the first call. Creating it asks the host for paths; a host that calls back
+    /// meanwhile is given the same object, in which what is not loaded yet is empty.
     static UIAPICommonPara * instance();
     /// Null until instance() was called for the first time. Not to be assigned to.
     static UIAPICommonPara * m_pUIAPICommonParaInstance;
@@ -97,7 +102,8 @@ public:
     coordinate * getCoordinate(void const * view);
 
     /// Pushes show_param, Selection and select_info of a view to the engine, in this order. For an unknown
-    /// view an information box without a parent follows the ERROR line.
+    /// view an information box without a parent follows the ERROR line. For a view whose record an engine
+    /// that calls back takes away by assigning to this object, the ERROR line alone stands for the rest.
     void setStepConfigToAPI(void const * view);
 
     // --- UI-wide state ------------------------------------------------------------------------------------
@@ -180,8 +186,7 @@ public:
 
     /// The lengths of a standard symbol / 25.4 for unit 0, else * 25.4, in place.
     void setSymbolUIData(QString & name, int unit) const;
-    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view. Lets
-    /// through what the engine throws; the flat function does not.
+    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view.
     void setSymbolAPIData(void const * view, QString & name) const;
     /// Every number * 25.4 at 2 decimals in a metric view, else / 25.4 at 3 decimals.
     void setSymbolDataByUnit(void const * view, QString & name) const;
@@ -191,8 +196,7 @@ public:
     /// The lengths of a standard symbol, in mil, at 3 decimals for unit 0, else in micrometres as in
     /// setSymbolDataByMilUnit().
     std::string getSymbolNameByUnit(std::string const & name, int unit) const;
-    /// Fills `names` with the symbols of the job "KVLIB", which is opened first when it is not open. Lets
-    /// through what the engine throws.
+    /// Fills `names` with the symbols of the job "KVLIB", which is opened first when it is not open.
     void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
 
     // --- Typed values -------------------------------------------------------------------------------------
@@ -265,8 +269,7 @@ public:
     /// Replaces the work layer, empty at the start.
     void setWorkLayer(std::string const & layer);
 
-    /// The board layers of a job that analysis and DFM checks read, see the flat function of this name. Lets
-    /// through what the engine throws.
+    /// The board layers of a job that analysis and DFM checks read, see the flat function of this name.
     std::vector<std::string> getAnalyzeAndDFMLayers(QString const & job, QString const & step) const;
 
     // --- References and drawing layers --------------------------------------------------------------------

@@ -5,31 +5,35 @@ namespace KVCAM::UIAPI {
 
 void UIAPICommonPara::setEdaPort(int port)
 {
-    if (d->edaLink) {
-        d->edaLink->setEdaPort(port);
-    }
+    guardedPara([&] {
+        if (d->edaLink) {
+            d->edaLink->setEdaPort(port);
+        }
+    });
 }
 
 void UIAPICommonPara::sendEdaData(QJsonObject const & data)
 {
-    if (d->edaLink) {
-        d->edaLink->sendData(data);
-    }
+    guardedPara([&] {
+        if (d->edaLink) {
+            d->edaLink->sendData(data);
+        }
+    });
 }
 
 QString UIAPICommonPara::getReceiveStr() const
 {
-    return d->edaLink ? d->edaLink->getReceiveStr() : QString();
+    return guardedPara([&] { return d->edaLink ? d->edaLink->getReceiveStr() : QString(); });
 }
 
 ConnectEDA * UIAPICommonPara::edaLink() const
 {
-    return d->edaLink;
+    return guardedPara([&] { return d->edaLink.data(); });
 }
 
 Ext::EdaLinkState UIAPICommonPara::edaLinkState() const
 {
-    return d->edaLink ? d->edaLink->state() : Ext::EdaLinkState();
+    return guardedPara([&] { return d->edaLink ? d->edaLink->state() : Ext::EdaLinkState(); });
 }
 
 Ext::EdaSendResult UIAPICommonPara::sendEdaDataChecked(QJsonObject const & data)
@@ -39,17 +43,17 @@ Ext::EdaSendResult UIAPICommonPara::sendEdaDataChecked(QJsonObject const & data)
 
 void UIAPICommonPara::setPluginCmd(int command, std::string const & key, void * data) const
 {
-    d->pluginCommands.setPluginCmd(command, key, data);
+    guardedPara([&] { d->pluginCommands.setPluginCmd(command, key, data); });
 }
 
 bool UIAPICommonPara::addPluginRoute(int command, std::string const & key, std::string const & module)
 {
-    return d->pluginCommands.addRoute(command, key, module);
+    return guardedPara([&] { return d->pluginCommands.addRoute(command, key, module); });
 }
 
 bool UIAPICommonPara::removePluginRoute(int command, std::string const & key, std::string const & module)
 {
-    return d->pluginCommands.removeRoute(command, key, module);
+    return guardedPara([&] { return d->pluginCommands.removeRoute(command, key, module); });
 }
 
 } // namespace KVCAM::UIAPI

@@ -6,10 +6,14 @@
 #include "layers/LayerBookkeeping.h"
 #include "links/ConnectEDA.h"
 #include "links/PluginCommandRelay.h"
+#include "support/Guard.h"
+#include "support/Log.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRegistry.h"
 
 #include <QPointer>
+
+#include <utility>
 
 namespace KVCAM::UIAPI {
 
@@ -32,6 +36,13 @@ struct UIAPICommonPara::Private
     PluginCommandRelay pluginCommands;
     QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
 };
+
+/// What each public method runs in. The methods are part of the library's boundary, like the flat functions.
+template <class Body>
+auto guardedPara(Body && body, int line = __builtin_LINE())
+{
+    return guarded(Log::commonPara, std::forward<Body>(body), line);
+}
 
 /// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
 struct CommonParaDoor

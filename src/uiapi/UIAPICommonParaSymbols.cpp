@@ -1,6 +1,7 @@
 // Symbol names by view: unit and engine are asked here, the rules stand in units/.
 
 #include "uiapi/UIAPICommonPara.h"
+#include "uiapi/UIAPICommonParaPrivate.h"
 #include "units/SymbolName.h"
 
 #include <kvcam/Engine.h>
@@ -9,42 +10,46 @@ namespace KVCAM::UIAPI {
 
 void UIAPICommonPara::setSymbolUIData(QString & name, int unit) const
 {
-    name = Symbols::toOtherUnit(name, unit);
+    guardedPara([&] { name = Symbols::toOtherUnit(name, unit); });
 }
 
 std::string UIAPICommonPara::getSymbolNameByUnit(std::string const & name, int unit) const
 {
-    return Symbols::fromMil(QString::fromStdString(name), unit).toStdString();
+    return guardedPara([&] { return Symbols::fromMil(QString::fromStdString(name), unit).toStdString(); });
 }
 
 void UIAPICommonPara::setSymbolDataByUnit(void const * view, QString & name) const
 {
-    name = Symbols::runsToOtherUnit(name, getUnit(view));
+    guardedPara([&] { name = Symbols::runsToOtherUnit(name, getUnit(view)); });
 }
 
 void UIAPICommonPara::setSymbolDataByMilUnit(void const * view, QString & name) const
 {
-    name = Symbols::runsFromMil(name, getUnit(view));
+    guardedPara([&] { name = Symbols::runsFromMil(name, getUnit(view)); });
 }
 
 void UIAPICommonPara::setSymbolAPIData(void const * view, QString & name) const
 {
-    // The engine is asked first: a name that it does not know costs no look-up of the view.
-    KVCAM::API::symboltype type{};
-    int first = 0;
-    int second = 0;
-    if (KVCAM::API::identify_symbol(name.toStdString(), type, first, second, false)) {
-        name = Symbols::runsToMil(name, getUnit(view));
-    }
+    guardedPara([&] {
+        // The engine is asked first: a name that it does not know costs no look-up of the view.
+        KVCAM::API::symboltype type{};
+        int first = 0;
+        int second = 0;
+        if (KVCAM::API::identify_symbol(name.toStdString(), type, first, second, false)) {
+            name = Symbols::runsToMil(name, getUnit(view));
+        }
+    });
 }
 
 void UIAPICommonPara::getKvlibSpecialSymbol(std::vector<std::string> & names) const
 {
-    static constexpr char const * library = "KVLIB";
-    if (!KVCAM::API::is_job_opened(library)) {
-        KVCAM::API::open_job("./job", library);
-    }
-    KVCAM::API::get_special_symbol_names(library, names);
+    guardedPara([&] {
+        static constexpr char const * library = "KVLIB";
+        if (!KVCAM::API::is_job_opened(library)) {
+            KVCAM::API::open_job("./job", library);
+        }
+        KVCAM::API::get_special_symbol_names(library, names);
+    });
 }
 
 } // namespace KVCAM::UIAPI

@@ -1,7 +1,6 @@
 // The per-view records of UIAPICommonPara.
 
 #include "support/Boxes.h"
-#include "support/Guard.h"
 #include "support/Log.h"
 #include "uiapi/EngineBridge.h"
 #include "uiapi/Notifier.h"
@@ -26,9 +25,10 @@ void copyOut(ViewRegistry const & views, void const * view, Field Step_Config::*
 // Who listens changes no result: what a slot throws ends here.
 void notify(void const * view, Ext::ViewAspects aspects)
 {
-    guarded(Log::commonPara, [&] { emit Ext::Notifier::instance()->viewChanged(view, aspects); });
+    guardedPara([&] { emit Ext::Notifier::instance()->viewChanged(view, aspects); });
 }
 
+// The record is not touched after the push, during which it may be replaced.
 void storeShowPara(Step_Config & record, show_param const & value)
 {
     void const * const view = record.view;
@@ -43,187 +43,226 @@ void storeShowPara(Step_Config & record, show_param const & value)
 
 bool UIAPICommonPara::insertStepConfig(Step_Config const & config)
 {
-    if (config.view == nullptr) {
-        Log::operationError("insertStepConfig");
-        return false;
-    }
-    void const * const view = config.view;
-    if (!d->views.append(config)) {
-        return false;
-    }
-    setStepConfigToAPI(view);
-    notify(view, Ext::ViewAspect::Unit | Ext::ViewAspect::ShowParameters | Ext::ViewAspect::Selection);
-    return true;
+    return guardedPara([&]() -> bool {
+        if (config.view == nullptr) {
+            Log::operationError("insertStepConfig");
+            return false;
+        }
+        void const * const view = config.view;
+        if (!d->views.append(config)) {
+            return false;
+        }
+        setStepConfigToAPI(view);
+        notify(view, Ext::ViewAspect::Unit | Ext::ViewAspect::ShowParameters | Ext::ViewAspect::Selection);
+        return true;
+    });
 }
 
 void UIAPICommonPara::getStepConfig(void const * view, Step_Config & out) const
 {
-    if (Step_Config const * record = d->views.find(view)) {
-        out = *record;
-    } else {
-        Log::operationError("getStepConfig");
-    }
+    guardedPara([&] {
+        if (Step_Config const * record = d->views.find(view)) {
+            out = *record;
+        } else {
+            Log::operationError("getStepConfig");
+        }
+    });
 }
 
 int UIAPICommonPara::getUnit(void const * view) const
 {
-    if (Step_Config const * record = d->views.find(view)) {
-        return record->show_param.unit;
-    }
-    Log::operationError("getUnit");
-    return -1;
+    return guardedPara([&]() -> int {
+        if (Step_Config const * record = d->views.find(view)) {
+            return record->show_param.unit;
+        }
+        Log::operationError("getUnit");
+        return -1;
+    });
 }
 
 void UIAPICommonPara::setUnit(void const * view, int unit)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setUnit");
-        return;
-    }
-    show_param changed = record->show_param;
-    changed.unit = unit;
-    storeShowPara(*record, changed);
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setUnit");
+            return;
+        }
+        show_param changed = record->show_param;
+        changed.unit = unit;
+        storeShowPara(*record, changed);
+    });
 }
 
 void UIAPICommonPara::getShowPara(void const * view, KVCAM::API::show_param & out) const
 {
-    copyOut(d->views, view, &Step_Config::show_param, out, "getShowPara");
+    guardedPara([&] { copyOut(d->views, view, &Step_Config::show_param, out, "getShowPara"); });
 }
 
 // The setters of show_param and select_info report themselves as "setSelection"; log readers know them so.
 void UIAPICommonPara::setShowPara(void const * view, KVCAM::API::show_param const & value)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setSelection");
-        return;
-    }
-    storeShowPara(*record, value);
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setSelection");
+            return;
+        }
+        storeShowPara(*record, value);
+    });
 }
 
 void UIAPICommonPara::getSelection(void const * view, Selection & out) const
 {
-    copyOut(d->views, view, &Step_Config::selection, out, "getSelection");
+    guardedPara([&] { copyOut(d->views, view, &Step_Config::selection, out, "getSelection"); });
 }
 
 void UIAPICommonPara::setSelection(void const * view, Selection const & value)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setSelection");
-        return;
-    }
-    record->selection = value;
-    EngineBridge::sendSelectionToAPI(record->selection);
-    notify(view, Ext::ViewAspect::Selection);
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setSelection");
+            return;
+        }
+        record->selection = value;
+        EngineBridge::sendSelectionToAPI(record->selection);
+        notify(view, Ext::ViewAspect::Selection);
+    });
 }
 
 void UIAPICommonPara::getSelectInfo(void const * view, KVCAM::API::select_info & out) const
 {
-    copyOut(d->views, view, &Step_Config::select_info, out, "getSelectInfo");
+    guardedPara([&] { copyOut(d->views, view, &Step_Config::select_info, out, "getSelectInfo"); });
 }
 
 void UIAPICommonPara::setSelectInfo(void const * view, KVCAM::API::select_info const & value)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setSelection");
-        return;
-    }
-    record->select_info = value;
-    EngineBridge::sendSelectInfoToAPI(record->select_info);
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setSelection");
+            return;
+        }
+        record->select_info = value;
+        EngineBridge::sendSelectInfoToAPI(record->select_info);
+    });
 }
 
 Snap_Control UIAPICommonPara::getSnapControl(void const * view) const
 {
-    Snap_Control snap; // its defaults are what an unknown view yields
-    copyOut(d->views, view, &Step_Config::snap, snap, "getSnapControl");
-    return snap;
+    return guardedPara([&] {
+        Snap_Control snap; // its defaults are what an unknown view yields
+        copyOut(d->views, view, &Step_Config::snap, snap, "getSnapControl");
+        return snap;
+    });
 }
 
 void UIAPICommonPara::setSnapControl(void const * view, Snap_Control const & value)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setSnapControl");
-        return;
-    }
-    // The size is kept: it changes through setSnapSize() alone.
-    record->snap.first = value.first;
-    record->snap.mode = value.mode;
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setSnapControl");
+            return;
+        }
+        // The size is kept: it changes through setSnapSize() alone.
+        record->snap.first = value.first;
+        record->snap.mode = value.mode;
+    });
 }
 
 int UIAPICommonPara::getSnapSize(void const * view) const
 {
-    if (Step_Config const * record = d->views.find(view)) {
-        return record->snap.size;
-    }
-    Log::operationError("getSnapControl", ", use default snap size!");
-    return Snap_Control{}.size;
+    return guardedPara([&]() -> int {
+        if (Step_Config const * record = d->views.find(view)) {
+            return record->snap.size;
+        }
+        Log::operationError("getSnapControl", ", use default snap size!");
+        return Snap_Control{}.size;
+    });
 }
 
 void UIAPICommonPara::setSnapSize(void const * view, int size)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setSnapControl");
-        return;
-    }
-    record->snap.size = size;
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setSnapControl");
+            return;
+        }
+        record->snap.size = size;
+    });
 }
 
 SNAP_TYPE_MODE UIAPICommonPara::getSnapMode(void const * view) const
 {
-    // As if the whole record were copied out, but without copying the edit buffer.
-    if (Step_Config const * record = d->views.find(view)) {
-        return record->snap.mode;
-    }
-    Log::operationError("getStepConfig");
-    return Snap_Control{}.mode;
+    return guardedPara([&]() -> SNAP_TYPE_MODE {
+        // As if the whole record were copied out, but without copying the edit buffer.
+        if (Step_Config const * record = d->views.find(view)) {
+            return record->snap.mode;
+        }
+        Log::operationError("getStepConfig");
+        return Snap_Control{}.mode;
+    });
 }
 
 Edit_Buffer * UIAPICommonPara::getEditBuffer(void const * view)
 {
-    if (Step_Config * record = d->views.find(view)) {
-        return &record->edit_buffer;
-    }
-    Log::operationError("getEditBuffer");
-    return nullptr;
+    return guardedPara([&]() -> Edit_Buffer * {
+        if (Step_Config * record = d->views.find(view)) {
+            return &record->edit_buffer;
+        }
+        Log::operationError("getEditBuffer");
+        return nullptr;
+    });
 }
 
 void UIAPICommonPara::setEditBufferFeatureInfo(void const * view,
                                                std::map<std::string, FeatureList> const & features)
 {
-    Step_Config * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setEditBufferFeatureInfo");
-        return;
-    }
-    record->edit_buffer.features = features;
+    guardedPara([&] {
+        Step_Config * record = d->views.find(view);
+        if (record == nullptr) {
+            Log::operationError("setEditBufferFeatureInfo");
+            return;
+        }
+        record->edit_buffer.features = features;
+    });
 }
 
 coordinate * UIAPICommonPara::getCoordinate(void const * view)
 {
-    if (Step_Config * record = d->views.find(view)) {
-        return &record->coordinate;
-    }
-    Log::operationError("getEditBuffer"); // the name under which this has always been reported
-    return nullptr;
+    return guardedPara([&]() -> coordinate * {
+        if (Step_Config * record = d->views.find(view)) {
+            return &record->coordinate;
+        }
+        Log::operationError("getEditBuffer"); // the name under which this has always been reported
+        return nullptr;
+    });
 }
 
 void UIAPICommonPara::setStepConfigToAPI(void const * view)
 {
-    Step_Config const * record = d->views.find(view);
-    if (record == nullptr) {
-        Log::operationError("setStepConfigToAPI");
-        showInformation(nullptr, QStringLiteral("未能找到此graphic的全局参数")); // not translated
-        return;
-    }
-    // Each is read just before it is pushed: an engine that calls back during one push may change the next.
-    EngineBridge::sendShowParaToAPI(record->show_param);
-    EngineBridge::sendSelectionToAPI(record->selection);
-    EngineBridge::sendSelectInfoToAPI(record->select_info);
+    guardedPara([&] {
+        // The record is looked up for each push: an engine that calls back during one may change the next
+        // part, or assign to this object, which replaces the record or leaves none.
+        auto const push = [&](auto field, auto send) {
+            Step_Config const * const record = d->views.find(view);
+            if (record == nullptr) {
+                Log::operationError("setStepConfigToAPI");
+                return false;
+            }
+            send(record->*field);
+            return true;
+        };
+        if (!push(&Step_Config::show_param, EngineBridge::sendShowParaToAPI)) {
+            showInformation(nullptr, QStringLiteral("未能找到此graphic的全局参数")); // not translated
+            return;
+        }
+        push(&Step_Config::selection, EngineBridge::sendSelectionToAPI) &&
+            push(&Step_Config::select_info, EngineBridge::sendSelectInfoToAPI);
+    });
 }
 
 } // namespace KVCAM::UIAPI

@@ -1,5 +1,6 @@
-// A program that uses the link before it has an application object: both ways work, the event loop hears it
-// as soon as there is one, and Qt has nothing to complain about.
+// A program that uses the link before, between and after its application objects. Both ways work, each event
+// loop hears it, and Qt has nothing to complain about. With the argument "taken" another socket has the port
+// at first: the link is deaf for good. With "late" the first call comes when the process ends.
 
 #include "uiapi/flat/EdaLink.h"
 
@@ -11,9 +12,15 @@
 #include <QUdpSocket>
 
 #include <cstdio>
+#include <cstdlib>
+#include <string>
+
+using namespace KVCAM::UIAPI;
 
 namespace {
 
+auto const here = QHostAddress::LocalHost;
+constexpr quint16 receivePort = 2333;
 int complaints = 0;
 
 void complain(QtMsgType, QMessageLogContext const &, QString const & text)
@@ -22,38 +29,63 @@ void complain(QtMsgType, QMessageLogContext const &, QString const & text)
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+/// Whether an event loop hears the text.
+bool hears(QUdpSocket & peer, char const * text)
+{
+    peer.writeDatagram(text, QHostAddress(here), receivePort);
+    QElapsedTimer timer;
+    for (timer.start(); getReceiveStr() != QLatin1String(text) && timer.elapsed() < 5000;) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    }
+    return getReceiveStr() == QLatin1String(text);
+}
+
+/// Destroyed when Qt's own objects are gone.
+struct LastWords
+{
+    ~LastWords()
+    {
+        sendEdaData({});
+        if (Ext::sendEdaDataChecked({}) != Ext::EdaSendResult::NoLink || Ext::edaLinkState().bound) {
+            std::_Exit(2);
+        }
+    }
+} const lastWords;
+
 } // namespace
 
 int main(int argc, char ** argv)
 {
+    std::string const mode = argc > 1 ? argv[1] : "";
     qInstallMessageHandler(complain);
-    using namespace KVCAM::UIAPI;
+    QUdpSocket other;
     // Another build's tests may have the port for a moment.
-    for (int i = 0; i < 600 && !QUdpSocket().bind(QHostAddress(QHostAddress::LocalHost), 2333); ++i) {
+    for (int i = 0; i < 600 && !other.bind(QHostAddress(here), receivePort); ++i) {
         QThread::msleep(100);
     }
     QUdpSocket peer;
-    peer.bind(QHostAddress(QHostAddress::LocalHost));
+    peer.bind(QHostAddress(here));
+    if (mode == "late") {
+        QCoreApplication const application(argc, argv);
+        return 0;
+    }
+    bool const taken = mode == "taken";
+    if (!taken) {
+        other.close();
+    }
     setEdaPort(peer.localPort());
     sendEdaData({{QStringLiteral("a"), 1}});
-    bool const sent = peer.hasPendingDatagrams() && peer.pendingDatagramSize() == 7;
-    peer.writeDatagram("back", QHostAddress(QHostAddress::LocalHost), 2333);
+    bool good = peer.hasPendingDatagrams() && peer.pendingDatagramSize() == 7;
+    other.close();
+    peer.writeDatagram("back", QHostAddress(here), receivePort);
     Ext::edaLink()->receive();
-    bool const received = getReceiveStr() == QLatin1String("back");
-
-    peer.writeDatagram("before the loop", QHostAddress(QHostAddress::LocalHost), 2333);
-    QCoreApplication const application(argc, argv);
-    auto heard = [](QString const & text) {
-        QElapsedTimer timer;
-        for (timer.start(); getReceiveStr() != text && timer.elapsed() < 5000;) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        }
-        return getReceiveStr() == text;
-    };
-    bool const early = heard(QStringLiteral("before the loop"));
-    peer.writeDatagram("in the loop", QHostAddress(QHostAddress::LocalHost), 2333);
-    bool const late = heard(QStringLiteral("in the loop"));
-    std::fprintf(stderr, "sent %d, received %d %d %d, %d complaints\n", sent, received, early, late,
-                 complaints);
-    return sent && received && early && late && complaints == 0 ? 0 : 1;
+    good = good && getReceiveStr() == QLatin1String(taken ? "" : "back");
+    for (int i = 0; i < 2; ++i) {
+        delete new QCoreApplication(argc, argv); // one whose events nobody waits for
+        QCoreApplication const application(argc, argv);
+        QCoreApplication::processEvents();
+        good = good && (taken || (hears(peer, i == 0 ? "0" : "1") && hears(peer, "again"))) &&
+               Ext::edaLinkState().bound == !taken && Ext::edaLinkState().bindError.isEmpty() == !taken;
+    }
+    return good && complaints == 0 ? 0 : 1;
 }

@@ -104,16 +104,6 @@ TEST_F(EdaLinkTest, KeepsTheTextOfTheLatestDatagram)
     EXPECT_EQ(Ext::edaLinkState().received, count);
 }
 
-TEST_F(EdaLinkTest, ReceivesInTheEventLoop)
-{
-    getReceiveStr();
-    toLibrary("first");
-    EXPECT_EQ(getReceiveStr(), "");
-    EXPECT_TRUE(QTest::qWaitFor([] { return getReceiveStr() == "first"; }));
-    toLibrary("second");
-    EXPECT_TRUE(QTest::qWaitFor([] { return getReceiveStr() == "second"; }));
-}
-
 TEST_F(EdaLinkTest, SendsOneCompactDocumentToThePortSet)
 {
     setEdaPort(tool.localPort());
@@ -159,22 +149,6 @@ TEST_F(EdaLinkTest, TellsOfAMessageThatIsTooLarge)
     EXPECT_EQ(state.sent, 1U);
     EXPECT_EQ(state.unsent, 2U);
     EXPECT_NE(state.lastError, "");
-    EXPECT_EQ(log.take(), Lines{});
-}
-
-TEST_F(EdaLinkTest, IsDeafWhileAnotherHasThePort)
-{
-    ConnectEDA const other;
-    ASSERT_TRUE(other.state().bound);
-    setEdaPort(tool.localPort());
-    sendEdaData({});
-    EXPECT_EQ(atTool(), "{}");
-    toLibrary("x");
-    Ext::edaLink()->receive();
-    EXPECT_EQ(getReceiveStr(), "");
-    Ext::EdaLinkState const state = Ext::edaLinkState();
-    EXPECT_TRUE(state.exists && !state.bound);
-    EXPECT_NE(state.bindError, "");
     EXPECT_EQ(log.take(), Lines{});
 }
 

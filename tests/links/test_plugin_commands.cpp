@@ -84,17 +84,6 @@ TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
     log.take();
 }
 
-TEST_F(PluginCommands, CopiesKeepTheirRoutes)
-{
-    para.addPluginRoute(1, "", "a");
-    UIAPICommonPara & copy = *new UIAPICommonPara(para); // cannot be destroyed
-    static UIAPICommonPara const * const reachable = &copy;
-    EXPECT_FALSE(copy.addPluginRoute(1, "", "a"));
-    copy.addPluginRoute(2, "", "a");
-    EXPECT_TRUE(para.addPluginRoute(2, "", "a"));
-    EXPECT_NE(reachable, nullptr);
-}
-
 TEST(HostAddressTest, IsTheFirstIpv4OfAUsableInterface)
 {
     using HostAddress::Candidate;

@@ -1,5 +1,8 @@
 #include "uiapi/flat/ModifierKeys.h"
 
+#include "support/Guard.h"
+#include "support/Log.h"
+
 #include <QGuiApplication>
 
 namespace KVCAM::UIAPI {
@@ -9,23 +12,29 @@ Qt::KeyboardModifiers const control = Qt::ControlModifier;
 Qt::KeyboardModifiers const shift = Qt::ShiftModifier;
 Qt::KeyboardModifiers const alt = Qt::AltModifier;
 
+Qt::KeyboardModifiers heldKeys(int line = __builtin_LINE())
+{
+    return guarded(
+        Log::commonPara, [] { return QGuiApplication::keyboardModifiers(); }, line);
+}
+
 } // namespace
 
 bool getCtrlEnpress()
 {
-    auto const held = QGuiApplication::keyboardModifiers();
+    auto const held = heldKeys();
     return held == control || held == (control | shift);
 }
 
 bool getShiftEnpress()
 {
-    auto const held = QGuiApplication::keyboardModifiers();
+    auto const held = heldKeys();
     return held == shift || held == (control | shift);
 }
 
 bool getAltEnpress()
 {
-    return QGuiApplication::keyboardModifiers() == alt;
+    return heldKeys() == alt;
 }
 
 } // namespace KVCAM::UIAPI

@@ -86,52 +86,52 @@ DMS_Connections & dmsConnections()
 
 bool getEQMode()
 {
-    return eqMode;
+    return guarded(Log::commonPara, [] { return eqMode; });
 }
 
 void setEQMode(bool value)
 {
-    eqMode = value;
+    guarded(Log::commonPara, [&] { eqMode = value; });
 }
 
 int getEQSelectionType()
 {
-    return eqSelectionType;
+    return guarded(Log::commonPara, [] { return eqSelectionType; });
 }
 
 void setEQSelectionType(int value)
 {
-    eqSelectionType = value;
+    guarded(Log::commonPara, [&] { eqSelectionType = value; });
 }
 
 bool getEQVisible()
 {
-    return eqVisible;
+    return guarded(Log::commonPara, [] { return eqVisible; });
 }
 
 void setEQVisible(bool value)
 {
-    eqVisible = value;
+    guarded(Log::commonPara, [&] { eqVisible = value; });
 }
 
 bool isEdaGraphicVisible()
 {
-    return edaGraphicVisible;
+    return guarded(Log::commonPara, [] { return edaGraphicVisible; });
 }
 
 void setEdaGraphicVisible(bool value)
 {
-    edaGraphicVisible = value;
+    guarded(Log::commonPara, [&] { edaGraphicVisible = value; });
 }
 
 DMS_Connections getDmsConnectInfo()
 {
-    return dmsConnections();
+    return guarded(Log::commonPara, [] { return dmsConnections(); });
 }
 
 void setDmsConnectInfo(DMS_Connections info)
 {
-    dmsConnections() = std::move(info);
+    guarded(Log::commonPara, [&] { dmsConnections() = std::move(info); });
 }
 
 } // namespace KVCAM::UIAPI
