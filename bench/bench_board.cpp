@@ -2,7 +2,7 @@
 // them. How long it takes to read the layer's pictures, to paint it whole at some zooms, and how long one
 // step of the wheel keeps the program from its events; painting goes on in slices after that.
 
-#include "BoardView.h"
+#include "board/BoardView.h"
 
 #include <KVCAM_API.h>
 

@@ -1,10 +1,10 @@
-#include "CommandLine.h"
-#include "ConfigDirectory.h"
-#include "Headless.h"
-#include "JobLoading.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "job/CommandLine.h"
+#include "job/ConfigDirectory.h"
+#include "job/JobLoading.h"
+#include "job/Session.h"
+#include "tour/Headless.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 

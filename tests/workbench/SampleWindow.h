@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CommandLine.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "job/CommandLine.h"
+#include "job/Session.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <gtest/gtest.h>
 

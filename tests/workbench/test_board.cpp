@@ -1,9 +1,9 @@
-#include "BoardPicture.h"
-#include "BoardView.h"
-#include "Session.h"
-#include "SymbolPath.h"
 #include "TestFiles.h"
-#include "ViewPort.h"
+#include "board/BoardPicture.h"
+#include "board/BoardView.h"
+#include "board/SymbolPath.h"
+#include "board/ViewPort.h"
+#include "job/Session.h"
 
 #include <UIAPICommon.h>
 

@@ -1,9 +1,9 @@
-#include "BoardView.h"
-#include "CommandLine.h"
-#include "FeatureDialog.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "board/BoardView.h"
+#include "feature/FeatureDialog.h"
+#include "job/CommandLine.h"
+#include "job/Session.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 

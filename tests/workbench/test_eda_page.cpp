@@ -1,9 +1,9 @@
-#include "EdaPage.h"
-#include "JsonText.h"
-#include "LanguageChange.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "job/Session.h"
+#include "pages/EdaPage.h"
+#include "ui/JsonText.h"
+#include "ui/LanguageChange.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <gtest/gtest.h>
 

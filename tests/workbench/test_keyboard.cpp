@@ -1,9 +1,9 @@
-#include "BoardView.h"
-#include "CheatSheet.h"
-#include "HotkeyCommands.h"
-#include "LayerTable.h"
 #include "SampleWindow.h"
 #include "TestFiles.h"
+#include "board/BoardView.h"
+#include "layers/LayerTable.h"
+#include "window/CheatSheet.h"
+#include "window/HotkeyCommands.h"
 
 #include <UIAPICommon.h>
 

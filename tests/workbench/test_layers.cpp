@@ -1,9 +1,9 @@
-#include "BoardView.h"
-#include "FeatureSelection.h"
-#include "FilterBar.h"
-#include "LayerTable.h"
-#include "ReferencesPage.h"
 #include "SampleWindow.h"
+#include "board/BoardView.h"
+#include "board/FeatureSelection.h"
+#include "layers/FilterBar.h"
+#include "layers/LayerTable.h"
+#include "layers/ReferencesPage.h"
 
 #include <UIAPICommon.h>
 

@@ -1,10 +1,10 @@
-#include "CommandLine.h"
-#include "JobLoading.h"
-#include "LayerTable.h"
-#include "Session.h"
-#include "SettingsPage.h"
-#include "TemplatesPage.h"
 #include "TestFiles.h"
+#include "job/CommandLine.h"
+#include "job/JobLoading.h"
+#include "job/Session.h"
+#include "layers/LayerTable.h"
+#include "pages/SettingsPage.h"
+#include "pages/TemplatesPage.h"
 
 #include <UIAPICommon.h>
 

@@ -1,10 +1,10 @@
-#include "BoardView.h"
-#include "FeatureShapes.h"
-#include "PadSymbol.h"
-#include "Session.h"
-#include "SettingsPage.h"
-#include "TemplatesPage.h"
 #include "TestFiles.h"
+#include "board/BoardView.h"
+#include "board/FeatureShapes.h"
+#include "feature/PadSymbol.h"
+#include "job/Session.h"
+#include "pages/SettingsPage.h"
+#include "pages/TemplatesPage.h"
 
 #include <UIAPICommon.h>
 

@@ -1,10 +1,10 @@
-#include "BoardView.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "ResultsModel.h"
-#include "ResultsPage.h"
 #include "TestFiles.h"
-#include "TrackWidthChart.h"
+#include "board/BoardView.h"
+#include "checks/ResultsModel.h"
+#include "checks/ResultsPage.h"
+#include "checks/TrackWidthChart.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 

@@ -1,11 +1,11 @@
-#include "BoardView.h"
-#include "CommandLine.h"
-#include "FeatureDialog.h"
-#include "LayerTable.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
 #include "TestFiles.h"
+#include "board/BoardView.h"
+#include "feature/FeatureDialog.h"
+#include "job/CommandLine.h"
+#include "job/Session.h"
+#include "layers/LayerTable.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 

@@ -1,0 +1,395 @@
+#include "checks/ResultsPage.h"
+
+#include "board/BoardView.h"
+#include "checks/LevelsEditor.h"
+#include "checks/MeasureTexts.h"
+#include "checks/ResultsModel.h"
+#include "checks/TrackWidthChart.h"
+#include "ui/LanguageChange.h"
+#include "ui/TableTools.h"
+
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStringList>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+char const * const alarm = "color: #b00020";
+
+QLabel * makeLabel(char const * name)
+{
+    auto * label = new QLabel;
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QPushButton * makeButton(char const * name)
+{
+    auto * button = new QPushButton;
+    button->setObjectName(name);
+    return button;
+}
+
+} // namespace
+
+ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * parent)
+    : QWidget(parent), m_run(session), m_view(&view), m_model(new ResultsModel(m_run, this))
+{
+    m_model->setView(view.handle());
+    m_runButton = makeButton("run");
+    m_boardButton = makeButton("board");
+    m_summaryButton = makeButton("summary");
+    m_reportButton = makeButton("report");
+    auto * buttons = new QHBoxLayout;
+    buttons->addWidget(m_runButton);
+    buttons->addWidget(m_boardButton);
+    buttons->addStretch(1);
+    buttons->addWidget(m_summaryButton);
+    buttons->addWidget(m_reportButton);
+
+    auto * splitter = new QSplitter(Qt::Horizontal);
+    splitter->setObjectName("results and levels");
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(makeTree());
+    splitter->addWidget(makeSides());
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({920, 480});
+
+    auto * layout = new QVBoxLayout(this);
+    layout->addLayout(buttons);
+    layout->addWidget(splitter, 1);
+
+    connect(m_runButton, &QPushButton::clicked, this, &ResultsPage::runChecks);
+    connect(m_boardButton, &QPushButton::clicked, this, &ResultsPage::boardWanted);
+    connect(m_saveButton, &QPushButton::clicked, this, &ResultsPage::saveLevels);
+    connect(m_summaryButton, &QPushButton::clicked, this, [this] {
+        exportFile(tr("Export the summary"), "summary.json", tr("Summary (*.json)"),
+                   [this](QString const & path) { return m_run.writeSummary(path); });
+    });
+    connect(m_reportButton, &QPushButton::clicked, this, [this] {
+        exportFile(tr("Export the report"), "report.json", tr("JSON report (*.json);;CSV report (*.csv)"),
+                   [this](QString const & path) { return m_run.writeReport(path); });
+    });
+    connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
+            [this](void const * changed, Ext::ViewAspects aspects) {
+                if (changed == m_view->handle() && aspects.testFlag(Ext::ViewAspect::Unit)) {
+                    setView(*m_view);
+                }
+            });
+    setTextsNowAndLater(*this, [this] { setTexts(); });
+}
+
+QWidget * ResultsPage::makeTree()
+{
+    m_tree = new QTreeView;
+    m_tree->setUniformRowHeights(true); // or each of 100,000 rows would be measured
+    m_tree->setAlternatingRowColors(true);
+    m_tree->setModel(m_model);
+    m_tree->header()->setStretchLastSection(true);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, &ResultsPage::showSelected);
+    connect(m_tree, &QTreeView::activated, this, [this](QModelIndex const & index) {
+        if (m_model->at(index).entry != nullptr) {
+            emit boardWanted();
+        }
+    });
+    m_empty = makeLabel("empty");
+    m_empty->setAlignment(Qt::AlignCenter);
+    m_stack = new QStackedWidget;
+    m_stack->addWidget(m_empty);
+    m_stack->addWidget(m_tree);
+    m_counts = makeLabel("counts");
+    m_counts->setTextFormat(Qt::RichText);
+    m_note = makeLabel("note");
+
+    auto * side = new QWidget;
+    auto * layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_counts);
+    layout->addWidget(m_note);
+    layout->addWidget(m_stack, 1);
+    return side;
+}
+
+QWidget * ResultsPage::makeSides()
+{
+    m_levelsBox = new QGroupBox;
+    m_levelsLayout = new QVBoxLayout(m_levelsBox);
+    m_levelsHint = makeLabel("levels hint");
+    m_saveButton = makeButton("save levels");
+    auto * foot = new QHBoxLayout;
+    foot->addWidget(m_levelsHint, 1);
+    foot->addWidget(m_saveButton, 0, Qt::AlignTop);
+    m_levelsLayout->addLayout(foot);
+    makeEditor();
+
+    m_chart = new TrackWidthChart;
+    m_chart->setView(m_view->handle());
+    auto * scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(m_chart);
+    m_chartBox = new QGroupBox;
+    (new QVBoxLayout(m_chartBox))->addWidget(scroll);
+
+    m_notChecked = makeTable({{}, {}});
+    wrapLastColumn(*m_notChecked);
+    m_notCheckedBox = new QGroupBox;
+    (new QVBoxLayout(m_notCheckedBox))->addWidget(m_notChecked);
+
+    auto * lower = new QSplitter(Qt::Vertical);
+    lower->setObjectName("chart and unchecked");
+    lower->setChildrenCollapsible(false);
+    lower->addWidget(m_chartBox);
+    lower->addWidget(m_notCheckedBox);
+    lower->setSizes({300, 300});
+    auto * side = new QWidget;
+    auto * layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_levelsBox);
+    layout->addWidget(lower, 1);
+    return side;
+}
+
+// A field keeps to the view that it was made with, so another view takes new fields.
+void ResultsPage::makeEditor()
+{
+    delete m_editor;
+    m_editor = new LevelsEditor(*m_view);
+    m_levelsLayout->insertWidget(0, m_editor);
+    connect(m_editor, &LevelsEditor::levelEdited, this, &ResultsPage::changeLevel);
+}
+
+void ResultsPage::setView(BoardView & view)
+{
+    if (&view != m_view) {
+        m_view = &view;
+        makeEditor();
+    }
+    m_model->setView(view.handle());
+    m_chart->setView(view.handle());
+    setTexts();
+    fitColumns();
+}
+
+void ResultsPage::fitColumns()
+{
+    for (int column = 0; column < ResultsModel::ColumnCount; ++column) {
+        m_tree->resizeColumnToContents(column);
+    }
+}
+
+bool ResultsPage::runChecks()
+{
+    KVProgressDialog progress(this);
+    progress.setWindowTitle(tr("Checks"));
+    progress.setLabelText(tr("Measuring step %1 (F1 stops)").arg(QString::fromStdString(m_view->step())));
+    progress.setCancelButtonText(tr("Stop"));
+    progress.setWindowModality(Qt::ApplicationModal);
+    m_outcome = m_run.run(m_view->step(), [&progress](int done, int total) {
+        progress.setMaximum(total);
+        progress.setValue(done);
+        return !progress.isDialogStop() && !progress.wasCanceled();
+    });
+    bool const isNew = m_outcome == AnalysisRun::Outcome::Done;
+    if (isNew) {
+        m_model->reload();
+        m_tree->setCurrentIndex(m_model->index(0, 0));
+        fitColumns();
+    }
+    refresh();
+    return isNew;
+}
+
+bool ResultsPage::showCheck(std::string const & table, int number)
+{
+    QModelIndex const category = m_model->find(table, number);
+    if (!category.isValid()) {
+        return false;
+    }
+    QModelIndex worst = category;
+    for (int layer = 0; layer < m_model->rowCount(category); ++layer) {
+        // Within a layer the engine's order ascends by what was measured: the first one is the smallest.
+        QModelIndex const first = m_model->index(0, 0, m_model->index(layer, 0, category));
+        Ext::ReportEntry const * found = m_model->at(worst).entry;
+        auto const measured = m_model->at(first).entry->micrometres;
+        if (found == nullptr || (measured && (!found->micrometres || *measured < *found->micrometres))) {
+            worst = first;
+        }
+    }
+    m_tree->setCurrentIndex(worst);
+    m_tree->scrollTo(worst, QAbstractItemView::PositionAtCenter);
+    return true;
+}
+
+void ResultsPage::setTexts()
+{
+    m_runButton->setText(tr("Run the &checks"));
+    m_runButton->setToolTip(tr("Measures the step that the board page shows and files the results"));
+    m_boardButton->setText(tr("Sho&w on the board"));
+    m_summaryButton->setText(tr("E&xport summary..."));
+    m_reportButton->setText(tr("Ex&port report..."));
+    m_saveButton->setText(tr("Save &levels"));
+    m_tree->setAccessibleName(tr("Results by check and layer"));
+    m_chart->setAccessibleName(tr("Smallest track width of each layer"));
+    m_chartBox->setTitle(tr("Smallest track width of each layer (%1)").arg(smallUnitName(m_view->handle())));
+    m_notCheckedBox->setTitle(tr("Not checked"));
+    m_notChecked->setHorizontalHeaderLabels({tr("Check or layer"), tr("Reason")});
+    m_model->refreshTexts();
+    refresh();
+}
+
+void ResultsPage::refresh()
+{
+    QString const step = QString::fromStdString(m_view->step());
+    bool const hasRows = m_model->rowCount() > 0;
+    m_stack->setCurrentIndex(hasRows ? 1 : 0);
+    m_empty->setText(
+        m_run.hasResult()
+            ? tr("There was nothing to check in step %1.").arg(QString::fromStdString(m_run.report().step()))
+            : tr("The checks were not run yet. They measure step %1, which the board page shows.").arg(step));
+    m_counts->setText(m_run.hasResult() ? countsText() : QString());
+    QString note;
+    if (m_outcome == AnalysisRun::Outcome::Failed) {
+        note = tr("The checks of step %1 failed: %2").arg(step, m_run.error());
+    } else if (m_outcome == AnalysisRun::Outcome::Cancelled) {
+        note = m_run.hasResult() ? tr("The checks were stopped; these are the results of the run before.")
+                                 : tr("The checks were stopped.");
+    } else if (hasRows && !m_run.hasLevels()) {
+        note = tr("No levels: everything is shown without colour.");
+    }
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+    m_note->setStyleSheet(m_outcome == AnalysisRun::Outcome::Failed ? alarm : "");
+    m_summaryButton->setEnabled(m_run.hasResult());
+    m_reportButton->setEnabled(m_run.hasResult());
+    Ext::ReportCategory const * lines = m_run.report().find(signalTable, linesNumber);
+    m_chart->setWidths(m_run.trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
+    showNotChecked();
+    showLevels();
+}
+
+QString ResultsPage::countsText() const
+{
+    Ext::SeverityCounts const counts = m_run.report().counts();
+    QStringList texts;
+    for (auto mark = Ext::severityPalette.rbegin(); mark != Ext::severityPalette.rend(); ++mark) {
+        texts.append(QString("<b style=\"color: %1\">%2</b> %3 %4")
+                         .arg(colourOf(mark->severity).name(), signOf(mark->severity), wordOf(mark->severity))
+                         .arg(counts[static_cast<std::size_t>(mark->severity)]));
+    }
+    return tr("Step %1").arg(QString::fromStdString(m_run.report().step())).toHtmlEscaped() +
+           "&nbsp;&nbsp; " + texts.join("&nbsp;&nbsp; ");
+}
+
+void ResultsPage::showNotChecked()
+{
+    m_notChecked->setRowCount(0);
+    for (Ext::NotChecked const & check : m_run.report().notChecked()) {
+        addRow(*m_notChecked, {QString::fromStdString(check.name), QString::fromStdString(check.reason)});
+    }
+    m_notChecked->resizeRowsToContents();
+}
+
+Ext::ReportCategory const * ResultsPage::selectedCategory() const
+{
+    return m_model->at(m_tree->currentIndex()).category;
+}
+
+void ResultsPage::showLevels()
+{
+    Ext::ReportCategory const * category = selectedCategory();
+    QString const unit = smallUnitName(m_view->handle());
+    m_boardButton->setEnabled(m_model->at(m_tree->currentIndex()).entry != nullptr);
+    m_saveButton->setEnabled(category != nullptr && m_run.isUnsaved(category->table));
+    m_levelsHint->setStyleSheet(m_saveButton->isEnabled() ? alarm : "");
+    if (category == nullptr) {
+        m_levelsBox->setTitle(tr("Levels (%1)").arg(unit));
+        m_levelsHint->setText(tr("Select a check to see its levels."));
+        m_editor->show(std::nullopt);
+        return;
+    }
+    m_levelsBox->setTitle(tr("Levels of %1 (%2)").arg(QString::fromStdString(category->name), unit));
+    m_editor->show(category->levels);
+    QString hint;
+    if (!category->levels) {
+        hint = tr("The range files have no levels for this check: it is shown without colour.");
+    } else if (!isGrading(*category->levels)) {
+        hint = tr("These levels contradict each other: they colour nothing.");
+    }
+    QString const table = QString::fromStdString(category->table);
+    if (m_saveButton->isEnabled()) {
+        hint += (hint.isEmpty() ? "" : "\n") + tr("Not saved: levels of %1 were changed.").arg(table);
+    } else if (hint.isEmpty()) {
+        hint = tr("As in the range file %1.json.").arg(table);
+    }
+    m_levelsHint->setText(hint);
+}
+
+void ResultsPage::showSelected()
+{
+    showLevels();
+    ResultsModel::Row const row = m_model->at(m_tree->currentIndex());
+    if (row.entry == nullptr || !row.entry->position) {
+        return;
+    }
+    QString const unit = smallUnitName(m_view->handle());
+    QString text = QString::fromStdString(row.category->name);
+    if (row.entry->micrometres) {
+        text += ": " + measuredText(m_view->handle(), *row.entry->micrometres) + ' ' + unit;
+    }
+    Ext::SeverityMark const & mark = Ext::markOf(row.entry->severity);
+    emit measurementSelected(QString::fromStdString(m_run.report().step()),
+                             QString::fromStdString(*row.layer),
+                             {row.entry->position->x, row.entry->position->y, colourOf(mark.severity),
+                              QString(QLatin1Char(mark.letter)), text});
+}
+
+void ResultsPage::changeLevel(char const * level, double mil)
+{
+    if (Ext::ReportCategory const * category = selectedCategory()) {
+        m_run.changeLevel(category->table, category->name, level, mil);
+        m_model->regrade();
+        refresh();
+    }
+}
+
+void ResultsPage::saveLevels()
+{
+    Ext::ReportCategory const * category = selectedCategory();
+    if (category == nullptr) {
+        return;
+    }
+    Ext::SaveResult const result = m_run.saveLevels(category->table);
+    showLevels();
+    if (!result.saved) {
+        Ext::showMessage({Ext::MessageKind::Information, this, tr("Levels"), result.reason});
+    }
+}
+
+void ResultsPage::exportFile(QString const & title, QString const & name, QString const & filter,
+                             std::function<Ext::SaveResult(QString const &)> const & write)
+{
+    QString const path = QFileDialog::getSaveFileName(this, title, name, filter);
+    if (path.isEmpty()) {
+        return;
+    }
+    Ext::SaveResult const result = write(path);
+    if (!result.saved) {
+        Ext::showMessage({Ext::MessageKind::Information, this, title, result.reason});
+    }
+}
+
+} // namespace Workbench
