@@ -1,6 +1,7 @@
 #include "board/BoardPicture.h"
 
 #include "board/LayerPainter.h"
+#include "ui/Colours.h"
 
 #include <QPainter>
 
@@ -39,7 +40,7 @@ void BoardPicture::paintProfile()
     QPainter painter(&m_board);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setTransform(m_transform);
-    QPen outline(QColor("#20242a"), 1.5);
+    QPen outline(QColor(inkColour), 1.5);
     outline.setCosmetic(true);
     painter.setPen(outline);
     painter.setBrush(QColor("#f3f6ee"));

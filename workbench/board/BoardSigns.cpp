@@ -1,5 +1,7 @@
 #include "board/BoardSigns.h"
 
+#include "ui/Colours.h"
+
 #include <UIAPICommon.h>
 
 #include <QFontMetricsF>
@@ -73,7 +75,7 @@ void paintLengthScale(QPainter & painter, void const * view, double scale)
     QLineF const bar(scaleMargin, bottom - 10, scaleMargin + pixels, bottom - 10);
     double const textWidth = QFontMetricsF(painter.font()).horizontalAdvance(text);
     painter.fillRect(QRectF(scaleMargin - 8, bottom - 24, pixels + textWidth + 24, 24), Qt::white);
-    painter.setPen(QPen(QColor("#20242a"), 2));
+    painter.setPen(QPen(QColor(inkColour), 2));
     painter.drawLine(bar);
     painter.drawText(QPointF(bar.x2() + 8, bar.y2() + 4), text);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Units.h"
+
 #include <EmbeddedEngine.h>
 
 #include <QPainterPath>
@@ -27,7 +29,7 @@ struct FeatureShape
     bool squareEnds = false; ///< of a stroke; else they are round
     bool mirrored = false;   ///< of a pad: about its upright axis, before it is turned
     int feature = 0;         ///< the feature's index in its layer
-    int unit = 0;            ///< what the sizes in the feature's symbol name are in: 0 mil, 1 micrometre
+    int unit = inchUnit;     ///< of the sizes in the feature's symbol name
     double penWidth = 0;     ///< of a stroke; 0: a hairline at every zoom
     double angle = 0;        ///< degrees clockwise
     QPointF place;

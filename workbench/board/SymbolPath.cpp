@@ -1,6 +1,7 @@
 #include "board/SymbolPath.h"
 
 #include "board/PadFamilies.h"
+#include "ui/Units.h"
 
 #include <QPolygonF>
 #include <QRegularExpression>

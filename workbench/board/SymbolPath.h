@@ -7,12 +7,6 @@
 
 namespace Workbench {
 
-/// How many micrometres the sizes of symbol names count in: unit 0 mil, 1 micrometre.
-inline double micrometresPer(int unit)
-{
-    return unit == 0 ? 25.4 : 1;
-}
-
 /// What a standard symbol looks like: an area in micrometres about the origin, y upwards, to be filled by its
 /// fill rule. `unit` says what the sizes in its name are in. Empty for a symbol without extent. Nothing for a
 /// user-defined symbol, or when the name lacks sizes that its family's shape needs.

@@ -1,7 +1,9 @@
 #include "checks/AnalysisRun.h"
 
+#include "job/ReportFormat.h"
+#include "ui/Units.h"
+
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QSaveFile>
 
@@ -217,15 +219,6 @@ Ext::SaveResult AnalysisRun::writeReport(QString const & path) const
                            .arg(path)};
     }
     return Ext::writeReport(m_report, *format, path);
-}
-
-std::optional<Ext::ReportFormat> reportFormat(QString const & path)
-{
-    QString const suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == "json") {
-        return Ext::ReportFormat::Json;
-    }
-    return suffix == "csv" ? std::optional(Ext::ReportFormat::Csv) : std::nullopt;
 }
 
 QJsonObject toJson(AnalysisRun const & run)

@@ -20,8 +20,6 @@ inline constexpr char const * drillTable = "DrillRanges";
 inline constexpr char const * signalTable = "SignalLayerRanges";
 inline constexpr int linesNumber = 46;
 
-inline constexpr double micrometresPerMil = 25.4;
-
 /// The narrowest track of a copper layer.
 struct LayerWidth
 {
@@ -85,9 +83,6 @@ private:
     QString m_error;
     bool m_hasResult = false;
 };
-
-/// The format of a report that the ending of a file's name stands for, ".json" or ".csv".
-std::optional<KVCAM::UIAPI::Ext::ReportFormat> reportFormat(QString const & path);
 
 /// The facts of a run: counts by severity, track widths, how much was not checked. Empty without a result.
 QJsonObject toJson(AnalysisRun const & run);

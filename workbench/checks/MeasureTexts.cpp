@@ -1,6 +1,6 @@
 #include "checks/MeasureTexts.h"
 
-#include "checks/AnalysisRun.h"
+#include "ui/Units.h"
 
 #include <QCoreApplication>
 

@@ -5,6 +5,7 @@
 #include "checks/MeasureTexts.h"
 #include "checks/ResultsModel.h"
 #include "checks/TrackWidthChart.h"
+#include "ui/Colours.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
 
@@ -25,8 +26,6 @@ namespace Workbench {
 using namespace KVCAM::UIAPI;
 
 namespace {
-
-char const * const alarm = "color: #b00020";
 
 QLabel * makeLabel(char const * name)
 {
@@ -272,7 +271,7 @@ void ResultsPage::refresh()
     }
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
-    m_note->setStyleSheet(m_outcome == AnalysisRun::Outcome::Failed ? alarm : "");
+    m_note->setStyleSheet(faultStyle(m_outcome == AnalysisRun::Outcome::Failed));
     m_summaryButton->setEnabled(m_run.hasResult());
     m_reportButton->setEnabled(m_run.hasResult());
     Ext::ReportCategory const * lines = m_run.report().find(signalTable, linesNumber);
@@ -314,7 +313,7 @@ void ResultsPage::showLevels()
     QString const unit = smallUnitName(m_view->handle());
     m_boardButton->setEnabled(m_model->at(m_tree->currentIndex()).entry != nullptr);
     m_saveButton->setEnabled(category != nullptr && m_run.isUnsaved(category->table));
-    m_levelsHint->setStyleSheet(m_saveButton->isEnabled() ? alarm : "");
+    m_levelsHint->setStyleSheet(faultStyle(m_saveButton->isEnabled()));
     if (category == nullptr) {
         m_levelsBox->setTitle(tr("Levels (%1)").arg(unit));
         m_levelsHint->setText(tr("Select a check to see its levels."));

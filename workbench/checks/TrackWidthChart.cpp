@@ -1,6 +1,7 @@
 #include "checks/TrackWidthChart.h"
 
 #include "checks/MeasureTexts.h"
+#include "ui/Units.h"
 
 #include <QHelpEvent>
 #include <QPainter>

@@ -2,6 +2,7 @@
 
 #include "board/BoardView.h"
 #include "board/PadFamilies.h"
+#include "ui/Colours.h"
 
 #include <UIAPICommon.h>
 
@@ -28,6 +29,8 @@ namespace {
 // The legal sizes of a pad, in mil.
 constexpr double smallestMil = 0.5;
 constexpr double largestMil = 1000;
+
+constexpr QRgb valueColour = 0xff20642f;
 
 // 0/0 lies in every range; like any other text that is no number it counts as 0.
 double sizeValue(QString const & calculation)
@@ -295,7 +298,7 @@ void FeatureDialog::showVerdict()
     }
     words.removeDuplicates();
     m_verdict->setText((words.isEmpty() ? values : words).join('\n'));
-    m_verdict->setStyleSheet(words.isEmpty() ? "color: #20642f" : "color: #b00020");
+    m_verdict->setStyleSheet(textStyle(words.isEmpty() ? valueColour : faultColour));
 }
 
 void FeatureDialog::remark(QString const & author, QString const & note, QString const & document)

@@ -193,8 +193,7 @@ QWidget * FeatureDialog::makeButtons()
     for (QPushButton * button : {unit, save, close}) {
         button->setAutoDefault(false);
     }
-    connect(unit, &QPushButton::clicked, this,
-            [this] { setUnit(m_view.handle(), getUnit(m_view.handle()) == 0 ? 1 : 0); });
+    connect(unit, &QPushButton::clicked, this, [this] { switchUnit(m_view.handle()); });
     connect(save, &QPushButton::clicked, this, [this] { saveForm(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &FeatureDialog::reject);
     return buttons;

@@ -18,7 +18,7 @@ QJsonObject readForms(QString const & path)
 
 bool isUnit(QJsonValue const & value)
 {
-    return value == QJsonValue(0) || value == QJsonValue(1);
+    return value == QJsonValue(inchUnit) || value == QJsonValue(metricUnit);
 }
 
 bool readForm(QString const & path, QString const & pad, SavedForm & form)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Units.h"
+
 #include <QJsonObject>
 #include <QString>
 
@@ -9,12 +11,12 @@ namespace Workbench {
 /// them; `extra` holds what the library's form functions do not know, for example a note.
 struct SavedForm
 {
-    int unit = 0;
+    int unit = inchUnit;
     QJsonObject fields;
     QJsonObject extra;
 };
 
-/// Whether a value of such a file is a unit, 0 or 1. Any other number would multiply sizes once more.
+/// Whether a value of such a file is a unit. Any other number would be a factor on the sizes.
 bool isUnit(QJsonValue const & value);
 
 /// Reads the form saved for a pad in a file. False when there is none or it is not such a file.

@@ -13,9 +13,6 @@ namespace Workbench {
 
 namespace {
 
-constexpr double nanometresPerMil = 25400;
-constexpr double nanometresPerMicrometre = 1000;
-
 // A name whose sizes can be shown and set: they are turned into the other unit together with the name.
 std::optional<PadName> sizedName(QString const & name)
 {
@@ -43,8 +40,7 @@ qint64 PadSize::nanometres() const
 {
     // A rounding that does not fit is undefined; this is the last double below 2^63.
     constexpr double most = 9223372036854774784.0;
-    double const scale = unit == 0 ? nanometresPerMil : nanometresPerMicrometre;
-    return std::llround(std::min(text.toDouble() * scale, most));
+    return std::llround(std::min(text.toDouble() * nanometresPer(unit), most));
 }
 
 PadSymbol::PadSymbol(QString name, int unit) : m_name(std::move(name)), m_unit(unit)

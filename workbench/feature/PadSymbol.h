@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Units.h"
+
 #include <QJsonObject>
 #include <QString>
 
@@ -7,11 +9,11 @@
 
 namespace Workbench {
 
-/// A length as it was typed or stored: unit 0 mil, 1 micrometre.
+/// A length as it was typed or stored, in the small unit of a code.
 struct PadSize
 {
     QString text;
-    int unit = 0;
+    int unit = inchUnit;
 
     /// The text in a unit, six significant digits where it has to be converted.
     QString in(int otherUnit) const;
@@ -51,7 +53,7 @@ private:
     QString withSizes(QString const & name, int unit) const;
 
     QString m_name;
-    int m_unit = 0;
+    int m_unit = inchUnit;
     PadSize m_width;
     PadSize m_height;
 };

@@ -1,6 +1,6 @@
 #include "job/CommandLine.h"
 
-#include "checks/AnalysisRun.h"
+#include "job/ReportFormat.h"
 
 #include <UIAPICommonVersion.h>
 
@@ -83,12 +83,11 @@ ParsedArguments parseArguments(QStringList const & arguments)
     if (job.isEmpty()) {
         return failure("no job directory given, see --help");
     }
-    QStringList const units{"inch", "mm"}; // a unit's code is its place here
     CommandLine commandLine;
     commandLine.job = absolute(job);
     commandLine.config = absolute(parser.value(config));
     commandLine.output = absolute(parser.value(output));
-    commandLine.unit = units.indexOf(parser.value(unit));
+    commandLine.unit = parser.value(unit) == "mm" ? metricUnit : inchUnit;
     commandLine.isUnitGiven = parser.isSet(unit);
     commandLine.headless = parser.isSet(headless);
     commandLine.saveFlag = parser.isSet(saveFlag);
@@ -100,7 +99,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
         }
         commandLine.reports.append(absolute(file));
     }
-    if (commandLine.unit < 0) {
+    if (parser.value(unit) != "mm" && parser.value(unit) != "inch") {
         return failure("the unit is inch or mm, not \"" + parser.value(unit) + '"');
     }
     return {ParsedArguments::Outcome::Run, commandLine, {}};

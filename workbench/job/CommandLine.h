@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Units.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -11,7 +13,7 @@ struct CommandLine
     QString job;    ///< the job's folder
     QString config; ///< the configuration folder; empty: a copy of the samples
     QString output; ///< where screenshots, the database and the saved form go
-    int unit = 0;
+    int unit = inchUnit;
     bool isUnitGiven = false; ///< else the unit of the latest run may be used
     bool headless = false;
     bool saveFlag = false;

@@ -1,6 +1,7 @@
 #include "layers/LayerTable.h"
 
 #include "board/LayerPicture.h"
+#include "ui/Colours.h"
 #include "ui/TableTools.h"
 
 #include <QBrush>
@@ -16,7 +17,6 @@ namespace Workbench {
 
 namespace {
 
-constexpr QRgb errorColour = 0xffb00020;
 constexpr QRgb greyColour = 0xffa4a9b3;
 
 } // namespace
@@ -76,7 +76,7 @@ void LayerTable::show(Session const & session, std::size_t step)
         QTableWidgetItem & cell = *item(rowCount() - 1, 5);
         if (!error.isEmpty()) {
             cell.setToolTip(error);
-            cell.setForeground(QColor(errorColour));
+            cell.setForeground(QColor(faultColour));
         } else if (!features) {
             cell.setToolTip(tr("the job holds only the tables of this layer"));
         }
@@ -104,7 +104,7 @@ void LayerTable::applyMatches()
         setRowHidden(row, isOut && m_hidesOthers);
         for (int column = 0; column < columnCount(); ++column) {
             QTableWidgetItem & cell = *item(row, column);
-            if (cell.foreground().color().rgb() != errorColour) {
+            if (cell.foreground().color().rgb() != faultColour) {
                 cell.setData(Qt::ForegroundRole, isOut ? QVariant(QBrush(QColor(greyColour))) : QVariant());
             }
         }

@@ -1,5 +1,6 @@
 #include "pages/EdaPage.h"
 
+#include "ui/Colours.h"
 #include "ui/JsonText.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
@@ -33,8 +34,6 @@ enum Column
 };
 
 constexpr int previewLength = 200;
-QColor const faultColour(0xb0, 0x00, 0x20);
-char const * const faultStyle = "color: #b00020";
 
 QLabel * makeLabel(char const * name)
 {
@@ -82,7 +81,7 @@ void setKind(QTableWidgetItem & item)
     item.setToolTip(item.text());
     if (!isObject) {
         for (int column = 0; column < item.tableWidget()->columnCount(); ++column) {
-            item.tableWidget()->item(item.row(), column)->setForeground(faultColour);
+            item.tableWidget()->item(item.row(), column)->setForeground(QColor(faultColour));
         }
     }
 }
@@ -249,7 +248,7 @@ void EdaPage::judge()
     QString const typed = m_editor->toPlainText();
     JsonText const text(typed.toUtf8());
     bool const isBlank = typed.trimmed().isEmpty();
-    m_verdict->setStyleSheet(text.isObject() || isBlank ? QString() : faultStyle);
+    m_verdict->setStyleSheet(faultStyle(!text.isObject() && !isBlank));
     m_verdict->setText(isBlank ? tr("Nothing to send yet.")
                        : text.isObject()
                            ? tr("A JSON object; %1 bytes are sent.").arg(compact(text.object()).size())
@@ -283,14 +282,14 @@ void EdaPage::showResult()
         text = tr("Not sent: %1").arg(m_sending->error);
         break;
     }
-    m_result->setStyleSheet(m_sending->result == Ext::EdaSendResult::Sent ? QString() : faultStyle);
+    m_result->setStyleSheet(faultStyle(m_sending->result != Ext::EdaSendResult::Sent));
     m_result->setText(m_sending->time.toString("HH:mm:ss") + "  " + text);
 }
 
 void EdaPage::showState()
 {
     Ext::EdaLinkState const state = Ext::edaLinkState();
-    m_state->setStyleSheet(state.bound ? QString() : faultStyle);
+    m_state->setStyleSheet(faultStyle(!state.bound));
     m_state->setText(!state.exists ? tr("There is no link.")
                      : state.bound
                          ? tr("The link is open: messages are received on port %1.").arg(receivePort)
@@ -365,7 +364,7 @@ void EdaPage::showMessage()
     auto const bytes =
         m_messages->item(m_messages->currentRow(), TimeColumn)->data(Qt::UserRole).toByteArray();
     JsonText const text(bytes);
-    m_finding->setStyleSheet(text.isObject() ? QString() : faultStyle);
+    m_finding->setStyleSheet(faultStyle(!text.isObject()));
     m_finding->setText(text.isObject() ? tr("The selected message, indented") : text.fault());
     m_content->setPlainText(text.isObject() ? indented(text.object())
                                             : QString::fromUtf8(bytes.constData(), bytes.size()));

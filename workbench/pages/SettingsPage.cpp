@@ -1,6 +1,7 @@
 #include "pages/SettingsPage.h"
 
 #include "job/ConfigDirectory.h"
+#include "ui/Colours.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
 
@@ -213,7 +214,7 @@ void SettingsPage::store(Setting const & setting, QVariant const & value)
             m_unsaved.erase(each);
         }
         state->setText(stateText(*each));
-        state->setStyleSheet(isSaved ? QString() : "color: #b00020");
+        state->setStyleSheet(faultStyle(!isSaved));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
 
+#include <EmbeddedEngine.h>
 #include <UIAPICommon.h>
 
 #include <QGroupBox>
@@ -26,14 +27,20 @@ SymbolRow symbolRow(KVCAM::Embedded::SymbolUse const & use)
     row.unit = use.unit;
     row.features = use.features;
     QString mil = row.stored;
-    if (use.unit != 0) {
-        setSymbolUIData(mil, 0);
+    if (use.unit != inchUnit) {
+        setSymbolUIData(mil, inchUnit);
     }
-    row.inch = QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), 0));
-    row.metric =
-        use.unit != 0 ? row.stored : QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), 1));
+    row.inch = QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), inchUnit));
+    row.metric = use.unit != inchUnit
+                     ? row.stored
+                     : QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), metricUnit));
     row.description = Ext::describeSymbol(row.stored, use.unit);
     return row;
+}
+
+char const * sizeUnitOf(SymbolRow const & row)
+{
+    return row.unit == inchUnit ? "mil" : "my";
 }
 
 } // namespace
@@ -52,7 +59,7 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
     QJsonArray symbols;
     for (SymbolRow const & row : rows) {
         symbols.append(QJsonObject{{"name", row.stored},
-                                   {"unit", row.unit == 0 ? "mil" : "my"},
+                                   {"unit", sizeUnitOf(row)},
                                    {"mil", row.inch},
                                    {"my", row.metric},
                                    {"description", row.description},
@@ -68,7 +75,7 @@ SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * p
     wrapLastColumn(*m_names);
     for (SymbolRow const & row : symbolRows(job)) {
         addRow(*m_names,
-               {row.stored, row.unit == 0 ? "mil" : "my", row.inch, row.metric, QString::number(row.features),
+               {row.stored, sizeUnitOf(row), row.inch, row.metric, QString::number(row.features),
                 row.description},
                {4});
     }

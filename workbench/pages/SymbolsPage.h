@@ -1,6 +1,6 @@
 #pragma once
 
-#include "job/Session.h"
+#include "ui/Units.h"
 
 #include <QJsonArray>
 #include <QWidget>
@@ -14,7 +14,7 @@ namespace Workbench {
 struct SymbolRow
 {
     QString stored;
-    int unit = 0; ///< of the stored sizes: 0 mil, 1 micrometre
+    int unit = inchUnit; ///< of the stored sizes
     QString inch;
     QString metric;
     QString description;

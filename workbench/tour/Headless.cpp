@@ -8,6 +8,7 @@
 #include "pages/EnginePane.h"
 #include "pages/SymbolsPage.h"
 #include "tour/HeadlessLayers.h"
+#include "ui/Units.h"
 #include "window/CheatSheet.h"
 #include "window/MainWindow.h"
 
@@ -112,7 +113,7 @@ QJsonArray errorsOf(Session const & session, Camera const & camera)
     return errors;
 }
 
-QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Box> const & outline)
+QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embedded::Box> const & outline)
 {
     int const unit = getUnit(view.handle());
     setStepConfigToAPI(view.handle());
@@ -120,7 +121,7 @@ QJsonObject switchUnit(BoardView const & view, std::optional<KVCAM::Embedded::Bo
                       {"unit", QString::fromStdString(getUnitString(view.handle()))},
                       {"engine before", toJson(KVCAM::Embedded::liveState())}};
     QJsonArray sizes;
-    for (int const shown : {unit, 1 - unit}) {
+    for (int const shown : {unit, otherUnit(unit)}) {
         if (shown != unit) {
             setUnit(view.handle(), shown);
             facts["engine after"] = toJson(KVCAM::Embedded::liveState());
@@ -177,7 +178,7 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
                       {"restored", dialog.isRestored()}};
     if (!dialog.isRestored()) {
         auto & width = *dialog.findChild<KVLineEdit *>("width");
-        QString const calculation = unit == 0 ? "10+2.5" : "254+63.5";
+        QString const calculation = unit == inchUnit ? "10+2.5" : "254+63.5";
         width.setFocus();
         type(width, "90000*2");
         facts["refused"] = dialog.verdict();
@@ -193,16 +194,16 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     }
     QString const before = dialog.width();
     for (int i = 0; i < 100; ++i) {
-        setUnit(view, 1 - getUnit(view));
+        switchUnit(view);
     }
     facts["width"] = before;
     facts["width after 100 switches"] = dialog.width();
     facts["width in nm"] = static_cast<double>(dialog.exactWidth());
     facts["description"] = dialog.description();
-    for (int const shown : {0, 1}) {
+    for (int const shown : {inchUnit, metricUnit}) {
         setUnit(view, shown);
-        facts[shown == 0 ? "symbol in mil" : "symbol in my"] = dialog.symbol();
-        camera.take(dialog, shown == 0 ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
+        facts[shown == inchUnit ? "symbol in mil" : "symbol in my"] = dialog.symbol();
+        camera.take(dialog, shown == inchUnit ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
     }
     dialog.showNames();
     camera.take(dialog, "feature-dialog-names.png");
@@ -295,9 +296,9 @@ QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
     int const unit = getUnit(view.handle());
     window.showPage("results");
     bool const hasTracks = window.results().showCheck(signalTable, linesNumber);
-    for (int const shown : {0, 1}) {
+    for (int const shown : {inchUnit, metricUnit}) {
         setUnit(view.handle(), shown);
-        camera.take(window, shown == 0 ? "results-inch.png" : "results-mm.png");
+        camera.take(window, shown == inchUnit ? "results-inch.png" : "results-mm.png");
     }
     setUnit(view.handle(), unit);
     window.showPage("board");
@@ -323,7 +324,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     window.show();
     QJsonArray steps;
     for (std::size_t i = 0; i < session.steps().size(); ++i) {
-        steps.append(switchUnit(*window.views()[i], session.steps()[i].outline));
+        steps.append(switchThereAndBack(*window.views()[i], session.steps()[i].outline));
     }
     setStepConfigToAPI(window.currentView()->handle());
     camera.take(window, "workbench.png");

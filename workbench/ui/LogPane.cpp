@@ -1,9 +1,18 @@
 #include "ui/LogPane.h"
 
+#include "ui/Colours.h"
+
 #include <QFontDatabase>
 #include <QMetaObject>
 
 namespace Workbench {
+
+namespace {
+
+constexpr QRgb warningColour = 0xff8a5a00;
+constexpr QRgb lineColour = 0xff303030;
+
+} // namespace
 
 LogLines::LogLines()
 {
@@ -42,11 +51,11 @@ LogPane::LogPane(LogLines const & log, QWidget * parent) : QPlainTextEdit(parent
 
 void LogPane::append(QString const & line)
 {
-    QString const colour = line.startsWith("ERROR")     ? "#b00020"
-                           : line.startsWith("WARNING") ? "#8a5a00"
-                                                        : "#303030";
-    appendHtml(QString("<span style=\"white-space:pre-wrap; color:%1\">").arg(colour) + line.toHtmlEscaped() +
-               "</span>");
+    QRgb const colour = line.startsWith("ERROR")     ? faultColour
+                        : line.startsWith("WARNING") ? warningColour
+                                                     : lineColour;
+    appendHtml(QString("<span style=\"white-space:pre-wrap; %1\">").arg(textStyle(colour)) +
+               line.toHtmlEscaped() + "</span>");
 }
 
 } // namespace Workbench

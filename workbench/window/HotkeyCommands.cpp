@@ -1,6 +1,7 @@
 #include "window/HotkeyCommands.h"
 
 #include "board/BoardView.h"
+#include "ui/Units.h"
 #include "window/MainWindow.h"
 
 #include <QAbstractSpinBox>
@@ -236,7 +237,7 @@ void const * HotkeyCommands::view() const
 
 QString HotkeyCommands::changeUnit(int /*argument*/)
 {
-    setUnit(view(), getUnit(view()) == 0 ? 1 : 0);
+    switchUnit(view());
     return QString::fromStdString(getUnitString(view()));
 }
 

@@ -13,6 +13,7 @@
 #include "pages/TemplatesPage.h"
 #include "ui/LanguageChange.h"
 #include "ui/LogPane.h"
+#include "ui/Units.h"
 #include "window/CheatSheet.h"
 #include "window/HotkeyCommands.h"
 #include "window/WindowState.h"
@@ -385,8 +386,7 @@ void MainWindow::refreshUnit()
 
 void MainWindow::switchUnit()
 {
-    void const * view = currentView()->handle();
-    setUnit(view, getUnit(view) == 0 ? 1 : 0);
+    Workbench::switchUnit(currentView()->handle());
 }
 
 void MainWindow::switchSaveFlag(bool on)

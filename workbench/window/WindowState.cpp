@@ -37,7 +37,7 @@ std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const &
     WindowChoices choices;
     bool isNumber = false;
     choices.unit = settings.value(unitKey).toString().toInt(&isNumber);
-    if (!isNumber || choices.unit < 0 || choices.unit > 1) {
+    if (!isNumber || !isUnit(choices.unit)) {
         return std::nullopt;
     }
     choices.page = settings.value(pageKey).toString();

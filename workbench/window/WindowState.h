@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Units.h"
+
 #include <QString>
 
 #include <optional>
@@ -12,7 +14,7 @@ namespace Workbench {
 struct WindowChoices
 {
     QString page; ///< object name
-    int unit = 0; ///< 0 inch, 1 millimetre
+    int unit = inchUnit;
     bool chinese = false;
 };
 
