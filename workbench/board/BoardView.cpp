@@ -1,5 +1,7 @@
 #include "board/BoardView.h"
 
+#include "ui/LanguageChange.h"
+
 #include <UIAPICommon.h>
 
 #include <QApplication>
@@ -39,7 +41,10 @@ BoardView::BoardView(std::string job, std::string step, int unit, QWidget * pare
     setMinimumSize(320, 260);
     setCursor(Qt::CrossCursor);
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(tr("Board picture"));
+    setTextsNowAndLater(*this, [this] {
+        setAccessibleName(tr("Board picture"));
+        update(); // the text of an empty picture
+    });
 
     for (auto const & outline : KVCAM::Embedded::profileOutlines(m_job, m_step)) {
         QPolygonF polygon;
@@ -264,15 +269,6 @@ bool BoardView::event(QEvent * event)
         return true;
     }
     return QWidget::event(event);
-}
-
-void BoardView::changeEvent(QEvent * event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        setAccessibleName(tr("Board picture"));
-        update();
-    }
-    QWidget::changeEvent(event);
 }
 
 void BoardView::resizeEvent(QResizeEvent * /*event*/)

@@ -110,7 +110,6 @@ protected:
     void mousePressEvent(QMouseEvent * event) override;
     void mouseReleaseEvent(QMouseEvent * event) override;
     void keyPressEvent(QKeyEvent * event) override;
-    void changeEvent(QEvent * event) override;
 
 private:
     QTransform boardToWidget() const { return m_port.boardToWidget(); }

@@ -3,6 +3,7 @@
 #include "board/BoardView.h"
 #include "board/PadFamilies.h"
 #include "ui/Colours.h"
+#include "ui/LanguageChange.h"
 
 #include <UIAPICommon.h>
 
@@ -74,6 +75,7 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     followView();
     fillFromPad();
     refreshUnit();
+    setTextsNowAndLater(*this, [this] { setTexts(); });
     m_opened = remarks();
 }
 
@@ -267,18 +269,15 @@ void FeatureDialog::showFacts()
     showVerdict();
 }
 
-void FeatureDialog::changeEvent(QEvent * event)
+void FeatureDialog::setTexts()
 {
-    if (event->type() == QEvent::LanguageChange && m_exact != nullptr) {
-        for (KVLineEdit * field : {m_width, m_height}) {
-            if (field->isEnabled()) {
-                field->setRange(smallestMil, largestMil); // which tells the words anew
-            }
+    for (KVLineEdit * field : {m_width, m_height}) {
+        if (field->isEnabled()) {
+            field->setRange(smallestMil, largestMil); // sends the words of an illegal value again
         }
-        showFacts();
-        showTitles();
     }
-    QDialog::changeEvent(event);
+    showFacts();
+    showTitles();
 }
 
 void FeatureDialog::showVerdict()

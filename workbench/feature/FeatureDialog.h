@@ -62,9 +62,6 @@ public:
     void done(int result) override;
     bool eventFilter(QObject * watched, QEvent * event) override;
 
-protected:
-    void changeEvent(QEvent * event) override;
-
 private:
     QWidget * makePadGroup();
     QWidget * makeRemarksGroup();
@@ -82,6 +79,7 @@ private:
     void showVerdict();
     void refreshUnit();
     void showTitles();
+    void setTexts();
     void attachFiles();
     bool isFollowing() const;
     bool hasSize(KVCAM::UIAPI::KVLineEdit const * field) const;

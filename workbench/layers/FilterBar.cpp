@@ -1,9 +1,10 @@
 #include "layers/FilterBar.h"
 
+#include "ui/LanguageChange.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -83,7 +84,7 @@ FilterBar::FilterBar(Session const & session, QWidget * parent)
     connect(m_analysis, &QPushButton::toggled, this, &FilterBar::askForAnalysis);
     connect(m_clear, &QPushButton::clicked, this, [this] { ask({}); });
     refresh();
-    setTexts();
+    setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
 void FilterBar::makeLayout()
@@ -124,14 +125,6 @@ void FilterBar::makeLayout()
     layout->addLayout(buttons, 2, 0, 1, -1);
     layout->addWidget(m_count, 3, 0, 1, -1);
     layout->addWidget(m_explanation, 4, 0, 1, -1);
-}
-
-void FilterBar::changeEvent(QEvent * event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        setTexts();
-    }
-    QWidget::changeEvent(event);
 }
 
 void FilterBar::setTexts()

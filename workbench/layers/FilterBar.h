@@ -50,9 +50,6 @@ signals:
     /// The layers that are accepted, or what becomes of the others.
     void changed();
 
-protected:
-    void changeEvent(QEvent * event) override;
-
 private:
     struct Field;
     static Field const fields[];

@@ -2,6 +2,7 @@
 
 #include "board/LayerPicture.h"
 #include "ui/Colours.h"
+#include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
 
 #include <QBrush>
@@ -24,7 +25,7 @@ constexpr QRgb greyColour = 0xffa4a9b3;
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
     prepareTable(*this, {{}, {}, {}, {}, {}, {}});
-    setTitles();
+    setTextsNowAndLater(*this, [this] { setTitles(); });
     setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
@@ -151,14 +152,6 @@ void LayerTable::keyPressEvent(QKeyEvent * event)
         return;
     }
     QTableWidget::keyPressEvent(event);
-}
-
-void LayerTable::changeEvent(QEvent * event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        setTitles();
-    }
-    QTableWidget::changeEvent(event);
 }
 
 } // namespace Workbench

@@ -34,7 +34,6 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent * event) override;
-    void changeEvent(QEvent * event) override;
 
 private:
     void setTitles();
