@@ -3,6 +3,7 @@
 #include "job/CommandLine.h"
 #include "job/Session.h"
 #include "ui/LogPane.h"
+#include "window/BoardPage.h"
 #include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
@@ -46,7 +47,7 @@ protected:
     }
     void TearDown() override { Ext::setMessagePresenter({}); }
 
-    void const * view() const { return window->currentView()->handle(); }
+    void const * view() const { return window->board().currentView()->handle(); }
     static KVLineEdit & field(FeatureDialog & dialog, char const * name)
     {
         return *dialog.findChild<KVLineEdit *>(name);
@@ -69,7 +70,7 @@ constexpr char const * outOfRange =
 
 TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
 {
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = *window->board().openFeature(0);
     auto & width = field(dialog, "width");
     struct
     {
@@ -108,7 +109,7 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
 
 TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
 {
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = *window->board().openFeature(0);
     auto & width = field(dialog, "width");
     QString const height = field(dialog, "height").text();
     type(width, "10+2.5");
@@ -132,7 +133,7 @@ TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
 
 TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
 {
-    auto & width = field(*window->openFeature(0), "width");
+    auto & width = field(*window->board().openFeature(0), "width");
     width.activateWindow();
     width.setFocus();
     QApplication::processEvents();
@@ -143,7 +144,7 @@ TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
 
 TEST_F(Windows, TypingASymbolCanBeUndone)
 {
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = *window->board().openFeature(0);
     auto & name = field(dialog, "symbol");
     type(name, "oval30x20");
     EXPECT_EQ(field(dialog, "height").text(), "20");
@@ -158,16 +159,16 @@ TEST_F(Windows, TypingASymbolCanBeUndone)
 
 TEST_F(Windows, ADialogComesBackAsItWasLeft)
 {
-    window->openFeature(1)->close();
+    window->board().openFeature(1)->close();
     EXPECT_FALSE(QFile::exists(formFile)); // a mere look leaves nothing behind
 
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = *window->board().openFeature(0);
     setUnit(view(), 1);
     type(field(dialog, "offset"), "254.1234");
     setUnit(view(), 0);
     type(field(dialog, "width"), "10+2.5");
     dialog.remark("me", "a note", "a file");
-    FeatureDialog & other = *window->openFeature(1); // in place of the first one, which is saved
+    FeatureDialog & other = *window->board().openFeature(1); // in place of the first one, which is saved
     EXPECT_FALSE(other.isRestored());
     type(field(other, "height"), "90000*2");
     other.remark("you", "", "");
@@ -178,7 +179,7 @@ TEST_F(Windows, ADialogComesBackAsItWasLeft)
     EXPECT_FALSE(saved.readAll().contains("90000"));
 
     setUnit(view(), 1);
-    FeatureDialog & again = *window->openFeature(0);
+    FeatureDialog & again = *window->board().openFeature(0);
     EXPECT_TRUE(again.isRestored());
     EXPECT_EQ(getUnit(view()), 0);
     EXPECT_EQ(again.width(), "12.5");
@@ -192,7 +193,7 @@ TEST_F(Windows, ADialogComesBackAsItWasLeft)
 
 TEST_F(Windows, AFormInNoUnitIsNotRestored)
 {
-    window->openFeature(0)->saveForm();
+    window->board().openFeature(0)->saveForm();
     QFile file(formFile);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     QJsonObject forms = QJsonDocument::fromJson(file.readAll()).object();
@@ -203,7 +204,7 @@ TEST_F(Windows, AFormInNoUnitIsNotRestored)
     file.resize(0);
     file.write(QJsonDocument(forms).toJson());
     file.close();
-    EXPECT_FALSE(window->openFeature(0)->isRestored());
+    EXPECT_FALSE(window->board().openFeature(0)->isRestored());
     EXPECT_EQ(getUnit(view()), 0);
 }
 
@@ -219,11 +220,11 @@ TEST_F(Windows, TheSymbolsPageFollowsTheLanguageAndTheShownStep)
     QApplication::processEvents();
     EXPECT_EQ(names->item(0, 5)->text(), english);
 
-    ASSERT_EQ(window->views().size(), 2U);
-    setUnit(window->views()[1]->handle(), 1);
+    ASSERT_EQ(window->board().views().size(), 2U);
+    setUnit(window->board().views()[1]->handle(), 1);
     auto * results = page->findChild<QGroupBox *>();
     EXPECT_TRUE(results->title().endsWith("Inch")) << results->title().toStdString();
-    auto * steps = qobject_cast<QTabWidget *>(window->views()[1]->parentWidget()->parentWidget());
+    auto * steps = qobject_cast<QTabWidget *>(window->board().views()[1]->parentWidget()->parentWidget());
     ASSERT_NE(steps, nullptr);
     steps->setCurrentIndex(1);
     EXPECT_TRUE(results->title().endsWith("MM")) << results->title().toStdString();

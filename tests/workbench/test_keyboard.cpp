@@ -2,6 +2,7 @@
 #include "TestFiles.h"
 #include "board/BoardView.h"
 #include "layers/LayerTable.h"
+#include "window/BoardPage.h"
 #include "window/CheatSheet.h"
 #include "window/HotkeyCommands.h"
 
@@ -36,7 +37,7 @@ protected:
         showWindow();
     }
 
-    void const * view() const { return window->currentView()->handle(); }
+    void const * view() const { return window->board().currentView()->handle(); }
     QString told() const { return window->findChild<QLabel *>("hot keys")->text(); }
     /// Presses keys that blanks part, "S G Shift+U"; what the window tells in the end is the result.
     QString press(QString const & keys)
@@ -111,7 +112,7 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
 TEST_F(Keyboard, KeysMoveThePictureAndUndoAsks)
 {
     open();
-    BoardView & board = *window->currentView();
+    BoardView & board = *window->board().currentView();
     int moves = 0;
     QObject::connect(&board, &BoardView::portChanged, window.get(), [&moves] { ++moves; });
     coordinate & pointer = *getCoordinate(view());

@@ -4,6 +4,7 @@
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
 #include "layers/ReferencesPage.h"
+#include "window/BoardPage.h"
 
 #include <UIAPICommon.h>
 
@@ -173,11 +174,11 @@ TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn
 TEST_F(LayersOfAWindow, TypingInAFieldFiltersAndIsNoHotKey)
 {
     auto & type = find<QComboBox>("type");
-    SNAP_TYPE_MODE const snap = getSnapType(window->currentView()->handle());
+    SNAP_TYPE_MODE const snap = getSnapType(window->board().currentView()->handle());
     type.setFocus();
     QTest::keyClicks(type.lineEdit(), "sg");
     EXPECT_EQ(type.currentText(), "sg");
-    EXPECT_EQ(getSnapType(window->currentView()->handle()), snap);
+    EXPECT_EQ(getSnapType(window->board().currentView()->handle()), snap);
     EXPECT_EQ(shownRows(*window->findChild<LayerTable *>()), "");
     type.setEditText({});
     QTest::keyClicks(type.lineEdit(), "signal|dr");
@@ -277,7 +278,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
         KVCAM::Embedded::setDatabaseFile("./uiapi-engine.sqlite");
         return KVCAM::Embedded::setSaveFlag(true);
     }());
-    BoardView & view = *window->currentView();
+    BoardView & view = *window->board().currentView();
     auto const & table = *window->findChild<LayerTable *>();
     auto const & told = find<QLabel>("hot keys");
     auto const state = [&] { // drawn, counted, to undo

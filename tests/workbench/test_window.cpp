@@ -5,6 +5,7 @@
 #include "job/Session.h"
 #include "layers/LayerTable.h"
 #include "ui/LogPane.h"
+#include "window/BoardPage.h"
 #include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
@@ -68,7 +69,7 @@ TEST_F(MainWindows, AWindowComesBackAsItWasClosed)
         window->findChild<QSplitter *>("sides")->setSizes({300, 500, 300});
         sizes = window->findChild<QSplitter *>("sides")->sizes();
         window->showPage("templates");
-        setUnit(window->currentView()->handle(), 1);
+        setUnit(window->board().currentView()->handle(), 1);
         window->setLanguage(LANGUAGE_CHINESE);
         window->close();
     }
@@ -78,11 +79,11 @@ TEST_F(MainWindows, AWindowComesBackAsItWasClosed)
     EXPECT_EQ(window->size(), QSize(1100, 800));
     EXPECT_EQ(window->findChild<QSplitter *>("sides")->sizes(), sizes);
     EXPECT_EQ(pages(*window).currentWidget()->objectName(), "templates");
-    EXPECT_EQ(getUnit(window->currentView()->handle()), 1);
+    EXPECT_EQ(getUnit(window->board().currentView()->handle()), 1);
     EXPECT_EQ(window->findChild<QComboBox *>()->currentData().toInt(), LANGUAGE_CHINESE);
     auto const other = open(); // started with a unit of its own
     other->useStateFile("./state.ini", true);
-    EXPECT_EQ(getUnit(other->currentView()->handle()), 0);
+    EXPECT_EQ(getUnit(other->board().currentView()->handle()), 0);
 }
 
 TEST_F(MainWindows, ADamagedStateChangesNothing)
@@ -104,7 +105,7 @@ TEST_F(MainWindows, ADamagedStateChangesNothing)
                   fresh->findChild<QSplitter *>("sides")->sizes())
             << state;
         EXPECT_EQ(pages(*window).currentIndex(), 0) << state;
-        EXPECT_EQ(getUnit(window->currentView()->handle()), 0) << state;
+        EXPECT_EQ(getUnit(window->board().currentView()->handle()), 0) << state;
     }
     QDir().mkpath("folder.ini");
     auto const window = open();
@@ -197,7 +198,7 @@ QStringList shownTexts(QWidget & window)
 TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
 {
     auto const window = open();
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = *window->board().openFeature(0);
     QStringList const english = shownTexts(*window) + shownTexts(dialog);
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
@@ -220,14 +221,15 @@ TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
 TEST_F(MainWindows, ANegativePadStaysNegativeInTheOtherLanguage)
 {
     auto const window = open();
-    window->openFeature(0)->findChild<QComboBox *>("polarity")->setCurrentIndex(1);
+    window->board().openFeature(0)->findChild<QComboBox *>("polarity")->setCurrentIndex(1);
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
-    FeatureDialog const & again = *window->openFeature(0); // in place of the one before, which is saved
+    FeatureDialog const & again =
+        *window->board().openFeature(0); // in place of the one before, which is saved
     EXPECT_EQ(again.findChild<QComboBox *>("polarity")->currentIndex(), 1);
     window->setLanguage(LANGUAGE_ENGLISH);
     QApplication::processEvents();
-    FeatureDialog const & third = *window->openFeature(0);
+    FeatureDialog const & third = *window->board().openFeature(0);
     EXPECT_EQ(third.findChild<QComboBox *>("polarity")->currentIndex(), 1);
 }
 
@@ -241,7 +243,7 @@ TEST_F(MainWindows, TickedLayersAreDrawnInEveryStep)
     layers.setCurrentCell(14, 1);
     QTest::keyClick(&layers, Qt::Key_Space);
     EXPECT_EQ(layers.tickedLayers(), (std::vector<std::size_t>{6, 14}));
-    auto & steps = *qobject_cast<QTabWidget *>(window->views()[0]->parentWidget()->parentWidget());
+    auto & steps = *qobject_cast<QTabWidget *>(window->board().views()[0]->parentWidget()->parentWidget());
     steps.setCurrentIndex(1);
     EXPECT_EQ(layers.tickedLayers(), (std::vector<std::size_t>{6, 14}));
     QTest::keyClick(&layers, Qt::Key_Space);

@@ -1,6 +1,7 @@
 #include "tour/Headless.h"
 
 #include "board/BoardView.h"
+#include "checks/ResultFiles.h"
 #include "checks/ResultsPage.h"
 #include "feature/FeatureDialog.h"
 #include "layers/LayerTable.h"
@@ -9,6 +10,7 @@
 #include "pages/SymbolsPage.h"
 #include "tour/HeadlessLayers.h"
 #include "ui/Units.h"
+#include "window/BoardPage.h"
 #include "window/CheatSheet.h"
 #include "window/MainWindow.h"
 
@@ -139,7 +141,7 @@ QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embe
 QJsonObject useHotkeys(MainWindow & window, Camera & camera)
 {
     auto const & told = *window.findChild<QLabel *>("hot keys");
-    BoardView & view = *window.currentView();
+    BoardView & view = *window.board().currentView();
     SNAP_TYPE_MODE const mode = getSnapType(view.handle());
     view.setFocus();
     press(view, Qt::Key_S);
@@ -166,14 +168,14 @@ QJsonObject useHotkeys(MainWindow & window, Camera & camera)
 // unit a hundred times. A form that was restored is left as it is.
 QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
 {
-    int const pad = window.firstPad();
+    int const pad = window.board().firstPad();
     if (pad < 0) {
         return {};
     }
-    FeatureDialog & dialog = *window.openFeature(pad);
-    void const * const view = window.currentView()->handle();
+    FeatureDialog & dialog = *window.board().openFeature(pad);
+    void const * const view = window.board().currentView()->handle();
     int const unit = getUnit(view);
-    QJsonObject facts{{"layer", QString::fromStdString(window.currentView()->layer())},
+    QJsonObject facts{{"layer", QString::fromStdString(window.board().currentView()->layer())},
                       {"pad", pad},
                       {"restored", dialog.isRestored()}};
     if (!dialog.isRestored()) {
@@ -222,7 +224,7 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
 void showPicture(MainWindow & window, Camera & camera)
 {
     auto & layers = *window.findChild<LayerTable *>();
-    BoardView & view = *window.currentView();
+    BoardView & view = *window.board().currentView();
     layers.tickAll(true);
     camera.take(window, "board-whole.png");
     auto const & shapes = view.shapes();
@@ -286,8 +288,8 @@ QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
     if (files.summary.isEmpty()) {
         files.summary = files.output + "/summary.json";
     }
-    BoardView & view = *window.currentView();
-    WrittenResults const written = window.writeResults(files);
+    BoardView & view = *window.board().currentView();
+    WrittenResults const written = writeResults(window.results(), files);
     QJsonObject facts = toJson(window.results().run());
     facts["step"] = QString::fromStdString(view.step());
     facts["summary"] = written.files.contains(files.summary) ? QJsonValue(files.summary) : QJsonValue();
@@ -324,9 +326,9 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     window.show();
     QJsonArray steps;
     for (std::size_t i = 0; i < session.steps().size(); ++i) {
-        steps.append(switchThereAndBack(*window.views()[i], session.steps()[i].outline));
+        steps.append(switchThereAndBack(*window.board().views()[i], session.steps()[i].outline));
     }
-    setStepConfigToAPI(window.currentView()->handle());
+    setStepConfigToAPI(window.board().currentView()->handle());
     camera.take(window, "workbench.png");
     showPicture(window, camera);
     for (QString const page : {"symbols", "settings", "templates", "attributes"}) {

@@ -4,6 +4,7 @@
 #include "job/Session.h"
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
+#include "window/BoardPage.h"
 #include "window/HotkeyCommands.h"
 #include "window/MainWindow.h"
 
@@ -109,10 +110,10 @@ QJsonObject useReferences(MainWindow & window, TakePicture const & take)
             calls.append(told.text());
         }
     };
-    QString const job = QString::fromStdString(window.currentView()->job());
+    QString const job = QString::fromStdString(window.board().currentView()->job());
     rename(layers.item(0)->text(), 3, "renamed layer");
     take(window, "references.png");
-    rename(QString::fromStdString(window.currentView()->step()), 2, "renamed step");
+    rename(QString::fromStdString(window.board().currentView()->step()), 2, "renamed step");
     QJsonArray const kept = textsOf(*tree.invisibleRootItem());
     rename(job, 1, "renamed job");
     if (QTreeWidgetItem * item = findItem(tree, "renamed job", 1)) {
@@ -126,7 +127,7 @@ QJsonObject useReferences(MainWindow & window, TakePicture const & take)
 
 QJsonObject useUndo(MainWindow & window, Session const & session, TakePicture const & take)
 {
-    BoardView & view = *window.currentView();
+    BoardView & view = *window.board().currentView();
     int const row = window.findChild<LayerTable *>()->selectedLayer();
     QString const job = QString::fromStdString(view.job());
     QString const step = QString::fromStdString(view.step());
@@ -141,12 +142,12 @@ QJsonObject useUndo(MainWindow & window, Session const & session, TakePicture co
     if (view.features().empty()) {
         return facts;
     }
-    HotkeyCommands & commands = *window.findChild<HotkeyCommands *>();
+    HotkeyCommands & commands = window.commands();
     view.select({view.features().front().index});
     commands.perform(KP_SelectSameFeature);
     facts["selected"] = static_cast<int>(view.selected().size());
     take(window, "selected-features.png");
-    window.deleteSelected();
+    window.board().deleteSelected();
     note("deleted");
     commands.perform(KP_EditUndo);
     note("undone");

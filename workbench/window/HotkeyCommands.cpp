@@ -2,7 +2,7 @@
 
 #include "board/BoardView.h"
 #include "ui/Units.h"
-#include "window/MainWindow.h"
+#include "window/BoardPage.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -159,10 +160,10 @@ QString onOff(bool on)
 
 } // namespace
 
-HotkeyCommands::HotkeyCommands(MainWindow & window, QWidget & board, QObject * parent)
-    : QObject(parent), m_window(window), m_board(board)
+HotkeyCommands::HotkeyCommands(BoardPage & board, QObject * parent) : QObject(parent), m_board(board)
 {
-    window.currentView()->setFocus();
+    connect(&board, &BoardPage::selectionChanged, this, [this] { emit status(selectionText()); });
+    board.currentView()->setFocus();
     qApp->installEventFilter(this);
 }
 
@@ -193,14 +194,18 @@ QString HotkeyCommands::run(FuncCode code)
 
 void HotkeyCommands::perform(FuncCode code)
 {
-    emit told(run(code));
+    QPointer<HotkeyCommands> const alive(this); // a command may ask, and the window be deleted meanwhile
+    QString const text = run(code);
+    if (alive) {
+        emit status(text);
+    }
 }
 
 // A key that its receiver ignores is sent to the parents as well: only the first receiver counts.
 bool HotkeyCommands::isOurs(QObject * receiver) const
 {
-    QWidget const * const focus = m_window.focusWidget();
-    QWidget const * const first = focus != nullptr ? focus : &m_window;
+    QWidget const * const window = m_board.window();
+    QWidget const * const first = window->focusWidget() != nullptr ? window->focusWidget() : window;
     return receiver == first && m_board.isVisible() && !hasText(*first);
 }
 
@@ -218,21 +223,25 @@ bool HotkeyCommands::press(QKeyEvent & event)
     if (event.isAutoRepeat() && !command(code).repeats) {
         return code != KP_NoFunction; // and switches nothing back
     }
+    QPointer<HotkeyCommands> const alive(this);
     QStringList lines;
     if (code != KP_NoFunction) {
         lines.append(run(code));
+    }
+    if (!alive) {
+        return true;
     }
     QString const pending = pendingText();
     if (!pending.isEmpty()) {
         lines.append(pending);
     }
-    emit told(lines.join("   |   "));
+    emit status(lines.join("   |   "));
     return !lines.isEmpty();
 }
 
 void const * HotkeyCommands::view() const
 {
-    return m_window.currentView()->handle();
+    return m_board.currentView()->handle();
 }
 
 QString HotkeyCommands::changeUnit(int /*argument*/)
@@ -261,66 +270,70 @@ QString HotkeyCommands::changeWidth(int /*argument*/)
 
 QString HotkeyCommands::undo(int /*argument*/)
 {
-    m_window.undoLast();
-    BoardView const & shown = *m_window.currentView();
+    QPointer<HotkeyCommands> const alive(this);
+    m_board.undoLast();
+    if (!alive) {
+        return {};
+    }
+    BoardView const & shown = *m_board.currentView();
     return tr("operations left: %1")
         .arg(Ext::undoCount(QString::fromStdString(shown.job()), QString::fromStdString(shown.step())));
 }
 
 QString HotkeyCommands::selectionText() const
 {
-    return tr("selected features: %1").arg(m_window.currentView()->selected().size());
+    return tr("selected features: %1").arg(m_board.currentView()->selected().size());
 }
 
 QString HotkeyCommands::selectAll(int /*argument*/)
 {
-    BoardView & shown = *m_window.currentView();
+    BoardView & shown = *m_board.currentView();
     shown.select(FeatureSelection::all(shown.features()));
     return selectionText();
 }
 
 QString HotkeyCommands::reverseSelection(int /*argument*/)
 {
-    BoardView & shown = *m_window.currentView();
+    BoardView & shown = *m_board.currentView();
     shown.select(FeatureSelection::reversed(shown.selected(), shown.features()));
     return selectionText();
 }
 
 QString HotkeyCommands::selectSame(int /*argument*/)
 {
-    BoardView & shown = *m_window.currentView();
+    BoardView & shown = *m_board.currentView();
     shown.select(FeatureSelection::withSame(shown.selected(), shown.features()));
     return selectionText();
 }
 
 QString HotkeyCommands::refresh(int /*argument*/)
 {
-    m_window.refresh();
+    m_board.refresh();
     return {};
 }
 
 QString HotkeyCommands::home(int /*argument*/)
 {
-    m_window.currentView()->zoomHome();
+    m_board.currentView()->zoomHome();
     return {};
 }
 
 QString HotkeyCommands::move(int direction)
 {
-    m_window.currentView()->pan(way(direction, 0.5));
+    m_board.currentView()->pan(way(direction, 0.5));
     return {};
 }
 
 QString HotkeyCommands::pan(int direction)
 {
-    m_window.currentView()->pan(way(direction, 0.1));
+    m_board.currentView()->pan(way(direction, 0.1));
     return {};
 }
 
 QString HotkeyCommands::centre(int /*argument*/)
 {
     if (coordinate const * const pointer = getCoordinate(view())) {
-        m_window.currentView()->centreOn(pointer->x, pointer->y);
+        m_board.currentView()->centreOn(pointer->x, pointer->y);
     }
     return {};
 }
@@ -328,7 +341,7 @@ QString HotkeyCommands::centre(int /*argument*/)
 // The first press takes the pointer's place, the second tells how far the pointer is from there.
 QString HotkeyCommands::measure(int /*argument*/)
 {
-    BoardView const & shown = *m_window.currentView();
+    BoardView const & shown = *m_board.currentView();
     coordinate const * const pointer = getCoordinate(view());
     if (pointer == nullptr) {
         return {};

@@ -6,27 +6,24 @@
 #include <QPointF>
 
 class QKeyEvent;
-class QWidget;
 
 namespace Workbench {
 
+class BoardPage;
 class BoardView;
-class MainWindow;
 
-/// Runs the window's commands by their hot keys while the page with the board is in front. Widgets with a
-/// text of their own keep their keys; all others give up what is a hot key or begins a sequence.
+/// Runs the commands of the board's page by their hot keys while the page is in front. Widgets with a text of
+/// their own keep their keys; all others give up those that are hot keys or begin a sequence.
 class HotkeyCommands : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Nothing is owned; the window, whose page `board` is, outlives the object. The board gets the focus.
-    HotkeyCommands(MainWindow & window, QWidget & board, QObject * parent);
+    /// The page stands in its window already; it is not owned and outlives the object. Its view gets the
+    /// focus.
+    HotkeyCommands(BoardPage & board, QObject * parent);
 
-    /// Runs the command of a code on the view in front. The result is one line for the status bar.
-    QString run(KVCAM::FuncCode code);
-
-    /// Runs the command as its key would, which tells the result.
+    /// Runs the command of a code on the view in front, as its key would.
     void perform(KVCAM::FuncCode code);
 
     /// What a code means, in a few words.
@@ -35,8 +32,9 @@ public:
     static bool isAvailable(KVCAM::FuncCode code);
 
 signals:
-    /// After each key that the commands saw: what was done, and which keys can follow. May be empty.
-    void told(QString const & text);
+    /// After each key that the commands saw, and after each change of the selection: what was done, and which
+    /// keys can follow. May be empty.
+    void status(QString const & text);
 
 protected:
     bool eventFilter(QObject * receiver, QEvent * event) override;
@@ -47,8 +45,9 @@ private:
     static Command const & command(KVCAM::FuncCode code);
     bool isOurs(QObject * receiver) const;
     bool press(QKeyEvent & event);
+    QString run(KVCAM::FuncCode code);
     void const * view() const;
-    // Each returns what to tell besides the command's text.
+    // Each returns what the status shows besides the command's text.
     QString changeUnit(int);
     QString changeNegative(int);
     QString changeProfile(int);
@@ -66,8 +65,7 @@ private:
     QString measure(int);
     QString snap(int mode);
 
-    MainWindow & m_window;
-    QWidget & m_board;
+    BoardPage & m_board;
     BoardView const * m_measured = nullptr; ///< the view that the first point stands in
     QPointF m_measuredFrom;
 };
