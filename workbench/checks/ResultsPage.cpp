@@ -1,18 +1,19 @@
 #include "checks/ResultsPage.h"
 
 #include "board/BoardView.h"
-#include "checks/LevelsEditor.h"
+#include "checks/LevelsBox.h"
 #include "checks/MeasureTexts.h"
 #include "checks/ResultsModel.h"
 #include "checks/TrackWidthChart.h"
 #include "ui/Colours.h"
+#include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
 
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
@@ -20,6 +21,7 @@
 #include <QStringList>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace Workbench {
 
@@ -46,7 +48,10 @@ QPushButton * makeButton(char const * name)
 } // namespace
 
 ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * parent)
-    : QWidget(parent), m_run(session), m_view(&view), m_model(new ResultsModel(m_run, this))
+    : QWidget(parent)
+    , m_run(std::make_shared<AnalysisRun>(session))
+    , m_view(&view)
+    , m_model(new ResultsModel(*m_run, this))
 {
     m_model->setView(view.handle());
     m_runButton = makeButton("run");
@@ -74,14 +79,13 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
 
     connect(m_runButton, &QPushButton::clicked, this, &ResultsPage::runChecks);
     connect(m_boardButton, &QPushButton::clicked, this, &ResultsPage::boardWanted);
-    connect(m_saveButton, &QPushButton::clicked, this, &ResultsPage::saveLevels);
     connect(m_summaryButton, &QPushButton::clicked, this, [this] {
         exportFile(tr("Export the summary"), "summary.json", tr("Summary (*.json)"),
-                   [this](QString const & path) { return m_run.writeSummary(path); });
+                   [this](QString const & path) { return m_run->writeSummary(path); });
     });
     connect(m_reportButton, &QPushButton::clicked, this, [this] {
         exportFile(tr("Export the report"), "report.json", tr("JSON report (*.json);;CSV report (*.csv)"),
-                   [this](QString const & path) { return m_run.writeReport(path); });
+                   [this](QString const & path) { return m_run->writeReport(path); });
     });
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
             [this](void const * changed, Ext::ViewAspects aspects) {
@@ -125,15 +129,10 @@ QWidget * ResultsPage::makeTree()
 
 QWidget * ResultsPage::makeSides()
 {
-    m_levelsBox = new QGroupBox;
-    m_levelsLayout = new QVBoxLayout(m_levelsBox);
-    m_levelsHint = makeLabel("levels hint");
-    m_saveButton = makeButton("save levels");
-    auto * foot = new QHBoxLayout;
-    foot->addWidget(m_levelsHint, 1);
-    foot->addWidget(m_saveButton, 0, Qt::AlignTop);
-    m_levelsLayout->addLayout(foot);
-    makeEditor();
+    m_levels = new LevelsBox(*m_run, *m_view, [this] {
+        m_model->regrade();
+        refresh();
+    });
 
     m_chart = new TrackWidthChart;
     m_chart->setView(m_view->handle());
@@ -157,26 +156,15 @@ QWidget * ResultsPage::makeSides()
     auto * side = new QWidget;
     auto * layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_levelsBox);
+    layout->addWidget(m_levels);
     layout->addWidget(lower, 1);
     return side;
 }
 
-// A field keeps to the view that it was made with, so another view takes new fields.
-void ResultsPage::makeEditor()
-{
-    delete m_editor;
-    m_editor = new LevelsEditor(*m_view);
-    m_levelsLayout->insertWidget(0, m_editor);
-    connect(m_editor, &LevelsEditor::levelEdited, this, &ResultsPage::changeLevel);
-}
-
 void ResultsPage::setView(BoardView & view)
 {
-    if (&view != m_view) {
-        m_view = &view;
-        makeEditor();
-    }
+    m_view = &view;
+    m_levels->setView(view);
     m_model->setView(view.handle());
     m_chart->setView(view.handle());
     setTexts();
@@ -192,16 +180,25 @@ void ResultsPage::fitColumns()
 
 bool ResultsPage::runChecks()
 {
-    KVProgressDialog progress(this);
+    // Without a parent, which would delete the dialog while it handles events in setValue().
+    KVProgressDialog progress;
+    progress.winId(); // creates the handle
+    progress.windowHandle()->setTransientParent(window()->windowHandle());
     progress.setWindowTitle(tr("Checks"));
     progress.setLabelText(tr("Measuring step %1 (F1 stops)").arg(QString::fromStdString(m_view->step())));
     progress.setCancelButtonText(tr("Stop"));
     progress.setWindowModality(Qt::ApplicationModal);
-    m_outcome = m_run.run(m_view->step(), [&progress](int done, int total) {
+    QPointer<ResultsPage> const alive(this);
+    std::shared_ptr<AnalysisRun> const run = m_run; // goes on to its end even without the page
+    AnalysisRun::Outcome const outcome = run->run(m_view->step(), [&](int done, int total) {
         progress.setMaximum(total);
         progress.setValue(done);
-        return !progress.isDialogStop() && !progress.wasCanceled();
+        return alive && !progress.isDialogStop() && !progress.wasCanceled();
     });
+    if (!alive) {
+        return false;
+    }
+    m_outcome = outcome;
     bool const isNew = m_outcome == AnalysisRun::Outcome::Done;
     if (isNew) {
         m_model->reload();
@@ -240,7 +237,6 @@ void ResultsPage::setTexts()
     m_boardButton->setText(tr("Sho&w on the board"));
     m_summaryButton->setText(tr("E&xport summary..."));
     m_reportButton->setText(tr("Ex&port report..."));
-    m_saveButton->setText(tr("Save &levels"));
     m_tree->setAccessibleName(tr("Results by check and layer"));
     m_chart->setAccessibleName(tr("Smallest track width of each layer"));
     m_chartBox->setTitle(tr("Smallest track width of each layer (%1)").arg(smallUnitName(m_view->handle())));
@@ -256,85 +252,57 @@ void ResultsPage::refresh()
     bool const hasRows = m_model->rowCount() > 0;
     m_stack->setCurrentIndex(hasRows ? 1 : 0);
     m_empty->setText(
-        m_run.hasResult()
-            ? tr("There was nothing to check in step %1.").arg(QString::fromStdString(m_run.report().step()))
+        m_run->hasResult()
+            ? tr("There was nothing to check in step %1.").arg(QString::fromStdString(m_run->report().step()))
             : tr("The checks were not run yet. They measure step %1, which the board page shows.").arg(step));
-    m_counts->setText(m_run.hasResult() ? countsText() : QString());
+    m_counts->setText(m_run->hasResult() ? countsText() : QString());
     QString note;
     if (m_outcome == AnalysisRun::Outcome::Failed) {
-        note = tr("The checks of step %1 failed: %2").arg(step, m_run.error());
+        note = tr("The checks of step %1 failed: %2").arg(step, m_run->error());
     } else if (m_outcome == AnalysisRun::Outcome::Cancelled) {
-        note = m_run.hasResult() ? tr("The checks were stopped; these are the results of the run before.")
-                                 : tr("The checks were stopped.");
-    } else if (hasRows && !m_run.hasLevels()) {
+        note = m_run->hasResult() ? tr("The checks were stopped; these are the results of the run before.")
+                                  : tr("The checks were stopped.");
+    } else if (hasRows && !m_run->hasLevels()) {
         note = tr("No levels: everything is shown without colour.");
     }
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
     m_note->setStyleSheet(faultStyle(m_outcome == AnalysisRun::Outcome::Failed));
-    m_summaryButton->setEnabled(m_run.hasResult());
-    m_reportButton->setEnabled(m_run.hasResult());
-    Ext::ReportCategory const * lines = m_run.report().find(signalTable, linesNumber);
-    m_chart->setWidths(m_run.trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
+    m_summaryButton->setEnabled(m_run->hasResult());
+    m_reportButton->setEnabled(m_run->hasResult());
+    Ext::ReportCategory const * lines = m_run->report().find(signalTable, linesNumber);
+    m_chart->setWidths(m_run->trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
     showNotChecked();
     showLevels();
 }
 
 QString ResultsPage::countsText() const
 {
-    Ext::SeverityCounts const counts = m_run.report().counts();
+    Ext::SeverityCounts const counts = m_run->report().counts();
     QStringList texts;
     for (auto mark = Ext::severityPalette.rbegin(); mark != Ext::severityPalette.rend(); ++mark) {
         texts.append(QString("<b style=\"color: %1\">%2</b> %3 %4")
                          .arg(colourOf(mark->severity).name(), signOf(mark->severity), wordOf(mark->severity))
                          .arg(counts[static_cast<std::size_t>(mark->severity)]));
     }
-    return tr("Step %1").arg(QString::fromStdString(m_run.report().step())).toHtmlEscaped() +
+    return tr("Step %1").arg(QString::fromStdString(m_run->report().step())).toHtmlEscaped() +
            "&nbsp;&nbsp; " + texts.join("&nbsp;&nbsp; ");
 }
 
 void ResultsPage::showNotChecked()
 {
     m_notChecked->setRowCount(0);
-    for (Ext::NotChecked const & check : m_run.report().notChecked()) {
+    for (Ext::NotChecked const & check : m_run->report().notChecked()) {
         addRow(*m_notChecked, {QString::fromStdString(check.name), QString::fromStdString(check.reason)});
     }
     m_notChecked->resizeRowsToContents();
 }
 
-Ext::ReportCategory const * ResultsPage::selectedCategory() const
-{
-    return m_model->at(m_tree->currentIndex()).category;
-}
-
 void ResultsPage::showLevels()
 {
-    Ext::ReportCategory const * category = selectedCategory();
-    QString const unit = smallUnitName(m_view->handle());
-    m_boardButton->setEnabled(m_model->at(m_tree->currentIndex()).entry != nullptr);
-    m_saveButton->setEnabled(category != nullptr && m_run.isUnsaved(category->table));
-    m_levelsHint->setStyleSheet(faultStyle(m_saveButton->isEnabled()));
-    if (category == nullptr) {
-        m_levelsBox->setTitle(tr("Levels (%1)").arg(unit));
-        m_levelsHint->setText(tr("Select a check to see its levels."));
-        m_editor->show(std::nullopt);
-        return;
-    }
-    m_levelsBox->setTitle(tr("Levels of %1 (%2)").arg(QString::fromStdString(category->name), unit));
-    m_editor->show(category->levels);
-    QString hint;
-    if (!category->levels) {
-        hint = tr("The range files have no levels for this check: it is shown without colour.");
-    } else if (!isGrading(*category->levels)) {
-        hint = tr("These levels contradict each other: they colour nothing.");
-    }
-    QString const table = QString::fromStdString(category->table);
-    if (m_saveButton->isEnabled()) {
-        hint += (hint.isEmpty() ? "" : "\n") + tr("Not saved: levels of %1 were changed.").arg(table);
-    } else if (hint.isEmpty()) {
-        hint = tr("As in the range file %1.json.").arg(table);
-    }
-    m_levelsHint->setText(hint);
+    ResultsModel::Row const row = m_model->at(m_tree->currentIndex());
+    m_boardButton->setEnabled(row.entry != nullptr);
+    m_levels->showCategory(row.category);
 }
 
 void ResultsPage::showSelected()
@@ -350,45 +318,21 @@ void ResultsPage::showSelected()
         text += ": " + measuredText(m_view->handle(), *row.entry->micrometres) + ' ' + unit;
     }
     Ext::SeverityMark const & mark = Ext::markOf(row.entry->severity);
-    emit measurementSelected(QString::fromStdString(m_run.report().step()),
+    emit measurementSelected(QString::fromStdString(m_run->report().step()),
                              QString::fromStdString(*row.layer),
                              {row.entry->position->x, row.entry->position->y, colourOf(mark.severity),
                               QString(QLatin1Char(mark.letter)), text});
 }
 
-void ResultsPage::changeLevel(char const * level, double mil)
-{
-    if (Ext::ReportCategory const * category = selectedCategory()) {
-        m_run.changeLevel(category->table, category->name, level, mil);
-        m_model->regrade();
-        refresh();
-    }
-}
-
-void ResultsPage::saveLevels()
-{
-    Ext::ReportCategory const * category = selectedCategory();
-    if (category == nullptr) {
-        return;
-    }
-    Ext::SaveResult const result = m_run.saveLevels(category->table);
-    showLevels();
-    if (!result.saved) {
-        Ext::showMessage({Ext::MessageKind::Information, this, tr("Levels"), result.reason});
-    }
-}
-
 void ResultsPage::exportFile(QString const & title, QString const & name, QString const & filter,
                              std::function<Ext::SaveResult(QString const &)> const & write)
 {
-    QString const path = QFileDialog::getSaveFileName(this, title, name, filter);
-    if (path.isEmpty()) {
-        return;
-    }
-    Ext::SaveResult const result = write(path);
-    if (!result.saved) {
-        Ext::showMessage({Ext::MessageKind::Information, this, title, result.reason});
-    }
+    askForFile(*this, title, name, filter, [this, title, write](QString const & path) {
+        Ext::SaveResult const result = write(path);
+        if (!result.saved) {
+            Ext::showMessage({Ext::MessageKind::Information, this, title, result.reason});
+        }
+    });
 }
 
 } // namespace Workbench

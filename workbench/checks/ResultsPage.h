@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class QGroupBox;
 class QLabel;
@@ -14,12 +15,11 @@ class QPushButton;
 class QStackedWidget;
 class QTableWidget;
 class QTreeView;
-class QVBoxLayout;
 
 namespace Workbench {
 
 class BoardView;
-class LevelsEditor;
+class LevelsBox;
 class ResultsModel;
 class TrackWidthChart;
 
@@ -34,11 +34,11 @@ public:
     /// The session and the view outlive the page.
     ResultsPage(Session const & session, BoardView & view, QWidget * parent = nullptr);
 
-    AnalysisRun const & run() const { return m_run; }
+    AnalysisRun const & run() const { return *m_run; }
     /// Takes the step to be checked next and the unit from another view.
     void setView(BoardView & view);
-    /// Checks the shown step behind a progress dialog, which may be cancelled. False when the results are not
-    /// new; the page says why.
+    /// Checks the shown step behind a progress dialog, which may be cancelled. False when there are no new
+    /// results; the page says why, unless it was deleted meanwhile.
     bool runChecks();
     /// Selects the worst measurement of a check, or else the check. False for one without a row.
     bool showCheck(std::string const & table, int number);
@@ -52,21 +52,17 @@ signals:
 private:
     QWidget * makeTree();
     QWidget * makeSides();
-    void makeEditor();
     void fitColumns();
     void setTexts();
     void refresh();
     void showLevels();
     void showNotChecked();
     void showSelected();
-    void changeLevel(char const * level, double mil);
-    void saveLevels();
     void exportFile(QString const & title, QString const & name, QString const & filter,
                     std::function<KVCAM::UIAPI::Ext::SaveResult(QString const &)> const & write);
     QString countsText() const;
-    KVCAM::UIAPI::Ext::ReportCategory const * selectedCategory() const;
 
-    AnalysisRun m_run;
+    std::shared_ptr<AnalysisRun> m_run;
     BoardView * m_view;
     ResultsModel * m_model;
     QTreeView * m_tree = nullptr;
@@ -78,11 +74,7 @@ private:
     QPushButton * m_boardButton = nullptr;
     QPushButton * m_summaryButton = nullptr;
     QPushButton * m_reportButton = nullptr;
-    QGroupBox * m_levelsBox = nullptr;
-    QVBoxLayout * m_levelsLayout = nullptr;
-    LevelsEditor * m_editor = nullptr;
-    QLabel * m_levelsHint = nullptr;
-    QPushButton * m_saveButton = nullptr;
+    LevelsBox * m_levels = nullptr;
     QGroupBox * m_chartBox = nullptr;
     TrackWidthChart * m_chart = nullptr;
     QGroupBox * m_notCheckedBox = nullptr;

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -79,14 +80,6 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     m_opened = remarks();
 }
 
-// The base hides the dialog once more, and a field that loses the focus then would finish its size.
-FeatureDialog::~FeatureDialog()
-{
-    for (auto * child : findChildren<QWidget *>()) {
-        child->disconnect(this);
-    }
-}
-
 void FeatureDialog::followView()
 {
     for (KVLineEdit * field : {m_name, m_width, m_height, m_offset}) {
@@ -100,7 +93,11 @@ void FeatureDialog::followView()
     for (KVLineEdit * field : {m_width, m_height}) {
         field->installEventFilter(this);
         connect(field, &QLineEdit::textChanged, this, &FeatureDialog::showVerdict);
-        connect(field, &QLineEdit::editingFinished, this, [this, field] { finishSize(*field); });
+        // Queued: a box comes up when the field is done with its event, so that both may be deleted
+        // meanwhile.
+        connect(
+            field, &QLineEdit::editingFinished, this, [this, field] { finishSize(*field); },
+            Qt::QueuedConnection);
         connect(field, &KVLineEdit::validityChanged, this, [this, field](bool /*legal*/, QString words) {
             m_words[field] = words;
             showVerdict();
@@ -196,8 +193,13 @@ void FeatureDialog::finishSize(KVLineEdit & field)
     }
     field.setModified(false); // the box takes the focus, which must not finish the field once more
     QString const typed = field.text();
-    if (judgeCaculateIsStandard(typed) &&
-        isValueLegal(sizeValue(typed), smallestMil, largestMil, m_view.handle())) {
+    QPointer<FeatureDialog> const alive(this);
+    bool const isLegal = judgeCaculateIsStandard(typed) &&
+                         isValueLegal(sizeValue(typed), smallestMil, largestMil, m_view.handle());
+    if (!alive) {
+        return;
+    }
+    if (isLegal) {
         takeSize(field);
     }
     showSymbol();

@@ -37,7 +37,6 @@ public:
     /// the view outlives the dialog.
     FeatureDialog(BoardView & view, int feature, std::string job, QString formFile,
                   QWidget * parent = nullptr);
-    ~FeatureDialog() override;
 
     /// Whether the form was restored.
     bool isRestored() const { return m_isRestored; }

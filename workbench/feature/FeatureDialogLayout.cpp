@@ -233,10 +233,11 @@ void FeatureDialog::showNames()
 
 void FeatureDialog::attachFiles()
 {
-    KVFileDialog dialog(this);
-    if (dialog.exec() == QDialog::Accepted) {
-        m_documents->addItems(dialog.selectedFiles());
-    }
+    auto * dialog = new KVFileDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { m_documents->addItems(dialog->selectedFiles()); });
+    dialog->open();
 }
 
 } // namespace Workbench

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -180,11 +181,12 @@ void ReferencesPage::remove()
         return;
     }
     QStringList const names = namesOf(*item);
+    QPointer<ReferencesPage> const alive(this);
     auto const answer =
         Ext::showMessage({Ext::MessageKind::Question, this, tr("Delete"),
                           tr("Tell the library that \"%1\" is deleted? All references to it go as well.")
                               .arg(names.join(" / "))});
-    if (answer != Ext::MessageAnswer::Yes) {
+    if (!alive || answer != Ext::MessageAnswer::Yes) {
         return;
     }
     std::string const job = names[0].toStdString();

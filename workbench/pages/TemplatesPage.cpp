@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
 
@@ -288,7 +289,11 @@ void TemplatesPage::remove()
     QString const file = own.value_or(noFile);
     deleteAutoMatrix(index, file);
     if (own && QFile::exists(userTemplatePath(file))) {
+        QPointer<TemplatesPage> const alive(this);
         tell(tr("The file \"%1\" cannot be deleted.").arg(shownFile(file)));
+        if (!alive) {
+            return;
+        }
     }
     auto const left = getAutoMatrixTmpMap();
     refreshList(left.empty() ? -1 : left.begin()->first);

@@ -70,6 +70,7 @@ void press(QWidget & field, int key, QString const & text = {})
         QKeyEvent event(kind, key, Qt::NoModifier, text);
         QApplication::sendEvent(&field, &event);
     }
+    QApplication::processEvents(); // a size is taken after its key
 }
 
 // In place of what stands in the field.

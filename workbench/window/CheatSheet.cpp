@@ -1,5 +1,6 @@
 #include "window/CheatSheet.h"
 
+#include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
 #include "window/HotkeyCommands.h"
@@ -8,7 +9,6 @@
 
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -100,11 +100,8 @@ void CheatSheet::loadAgain()
 
 void CheatSheet::chooseExport()
 {
-    QString const path =
-        QFileDialog::getSaveFileName(this, tr("Export the hot keys"), Ext::hotkeyFile, "*.json");
-    if (!path.isEmpty()) {
-        exportTo(path);
-    }
+    askForFile(*this, tr("Export the hot keys"), Ext::hotkeyFile, "*.json",
+               [this](QString const & path) { exportTo(path); });
 }
 
 void CheatSheet::showBindings()
