@@ -141,14 +141,11 @@ class Pictures : public ::testing::Test
 protected:
     void SetUp() override
     {
-        QByteArray matrix = "STEP {\nCOL=1\nNAME=PCB\n}\n";
-        int row = 0;
-        for (char const * name : {"TOP", "PLANE", "EMPTY", "BROKEN", "TABLES"}) {
-            matrix += "LAYER {\nROW=" + QByteArray::number(++row) +
-                      "\nCONTEXT=BOARD\nTYPE=SIGNAL\nNAME=" + name + "\nPOLARITY=POSITIVE\n}\n";
-        }
-        writeFile("tiny/matrix/matrix", matrix);
-        writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+        writeJob("tiny", {{"SIGNAL", "TOP"},
+                          {"SIGNAL", "PLANE"},
+                          {"SIGNAL", "EMPTY"},
+                          {"SIGNAL", "BROKEN"},
+                          {"SIGNAL", "TABLES"}});
         QByteArray const square = "S P 0\nOB 0 0 I\nOS 10 0\nOS 10 10\nOS 0 10\nOS 0 0\nOE\n";
         writeFile("tiny/steps/pcb/profile", "UNITS=MM\n" + square + "SE\n");
         writeFile("tiny/steps/pcb/layers/top/features",
@@ -239,7 +236,7 @@ TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
 
 TEST_F(Pictures, SlicesOfTimeMakeTheSamePictureAsOneGo)
 {
-    ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
+    ASSERT_EQ(session.open(sampleJob), "");
     auto const top = std::make_shared<LayerPicture const>("demo-board", "pcb", layer(4));
     ASSERT_GT(top->shapes().size(), 150U); // the clock is looked at now and then
     QRectF const extent = top->extent();

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "job/Session.h"
 #include "pages/EdaPage.h"
 #include "ui/JsonText.h"
@@ -22,8 +23,6 @@
 #include <QToolButton>
 #include <QUdpSocket>
 
-#include <stdexcept>
-
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
@@ -45,15 +44,7 @@ public:
     QString content() const { return page.findChild<QPlainTextEdit *>("content")->toPlainText(); }
     QTableWidget & messages() const { return *page.findChild<QTableWidget *>(); }
     QSpinBox & port() const { return *page.findChild<QSpinBox *>(); }
-    QPushButton & button(char const * text) const
-    {
-        for (auto * each : page.findChildren<QPushButton *>()) {
-            if (each->text() == text) {
-                return *each;
-            }
-        }
-        throw std::invalid_argument(text);
-    }
+    QPushButton & button(char const * text) const { return buttonOf(page, text); }
     void type(QString const & text) const { page.findChild<QPlainTextEdit *>("editor")->setPlainText(text); }
     /// Size, kind and text of a row, with a mark if it is red.
     QString row(int index) const
@@ -291,7 +282,7 @@ TEST(EdaPages, TellsThatThereIsNoLinkWhereThePortIsTaken)
 TEST(EdaPages, MnemonicsAreUniqueBesideThoseOfTheWindow)
 {
     Session session;
-    ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
+    ASSERT_EQ(session.open(sampleJob), "");
     LogLines const log;
     CommandLine commandLine;
     commandLine.output = ".";

@@ -33,23 +33,11 @@ namespace {
 constexpr char const * topFeatures = "UNITS=MM\n$0 r100\n$1 r127\n$2 r200\n"
                                      "L 0 2 10 2 2 P 0\nL 0 1 10 1 1 P 0\nL 0 0 10 0 0 P 0\n";
 
-QByteArray layer(char const * type, char const * name, int row)
-{
-    return "LAYER {\nROW=" + QByteArray::number(row) + "\nCONTEXT=BOARD\nTYPE=" + type + "\nNAME=" + name +
-           "\nPOLARITY=POSITIVE\n}\n";
-}
-
-QString readFile(QString const & path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : "no file";
-}
-
 // The objects of the summary by their keys.
 QJsonObject summaryIn(QString const & path)
 {
     QJsonObject rows;
-    for (auto const & row : QJsonDocument::fromJson(readFile(path).toUtf8()).array()) {
+    for (auto const & row : QJsonDocument::fromJson(readFile(path)).array()) {
         QString const key = row.toObject().keys().value(0);
         rows[key] = row.toObject()[key].toObject()["result"];
     }
@@ -70,9 +58,7 @@ class Results : public ::testing::Test
 protected:
     void SetUp() override
     {
-        writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\n" + layer("SIGNAL", "TOP", 1) +
-                                            layer("SIGNAL", "BOT", 2) + layer("ROUT", "CUTS", 3));
-        writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+        writeJob("tiny", {{"SIGNAL", "TOP"}, {"SIGNAL", "BOT"}, {"ROUT", "CUTS"}});
         writeFile("tiny/steps/pcb/layers/top/features", topFeatures);
         writeFile("tiny/steps/pcb/layers/cuts/features", "UNITS=MM\n$0 r800\nL 0 5 2 5 0 P 0\n");
     }
@@ -194,10 +180,7 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     button("save levels").click();
     EXPECT_FALSE(button("save levels").isEnabled());
     QJsonObject const saved =
-        QJsonDocument::fromJson(readFile("config/ranges/mine/SignalLayerRanges.json").toUtf8())
-            .object()["rangesList"]
-            .toArray()[0]
-            .toObject();
+        readObject("config/ranges/mine/SignalLayerRanges.json")["rangesList"].toArray()[0].toObject();
     EXPECT_EQ(saved, (QJsonObject{{"name", "Lines"}, {"RedLv", "4"}, {"YellowLv", "3"}, {"GreenLv", "8"}}));
 }
 
