@@ -222,7 +222,7 @@ TEST_F(Pictures, ShowEachShapeWhereItIsAtEveryZoom)
 TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
 {
     EXPECT_FALSE(isDrawn(grab(), 2, 2));
-    view->showBeside({layer(0), layer(1)});
+    view->showBackgroundLayers({layer(0), layer(1)});
     QImage const both = grab();
     EXPECT_TRUE(isDrawn(both, 2, 2));
     auto const colour = [&](double x, double y) {
@@ -230,14 +230,14 @@ TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
     };
     EXPECT_EQ(colour(2, 2), colour(0.5, 0.5));    // the plane alone
     EXPECT_NE(colour(1.25, 2), colour(0.5, 0.5)); // the pad on it
-    view->showBeside({});
+    view->showBackgroundLayers({});
     EXPECT_FALSE(isDrawn(grab(), 0.5, 0.5));
 }
 
 TEST_F(Pictures, SlicesOfTimeMakeTheSamePictureAsOneGo)
 {
     ASSERT_EQ(session.open(sampleJob), "");
-    auto const top = std::make_shared<LayerPicture const>("demo-board", "pcb", layer(4));
+    auto const top = std::make_shared<LayerShapes const>("demo-board", "pcb", layer(4));
     ASSERT_GT(top->shapes().size(), 150U); // the clock is looked at now and then
     QRectF const extent = top->extent();
     QImage images[2];

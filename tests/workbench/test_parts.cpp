@@ -1,4 +1,5 @@
 #include "TestFiles.h"
+#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "board/FeatureShapes.h"
 #include "feature/PadSymbol.h"
@@ -115,9 +116,9 @@ protected:
 
 TEST_F(Boards, APlaceIsShownInTheUnitOfTheView)
 {
-    EXPECT_EQ(view->positionText(25400, -12700), "x 1.000 y -0.500 inch");
+    EXPECT_EQ(positionText(view->handle(), 25400, -12700), "x 1.000 y -0.500 inch");
     setUnit(view->handle(), 1);
-    EXPECT_EQ(view->positionText(25400, -12700), "x 25.400 y -12.700 mm");
+    EXPECT_EQ(positionText(view->handle(), 25400, -12700), "x 25.400 y -12.700 mm");
     EXPECT_EQ(KVCAM::Embedded::liveState().show.unit, 1);
 }
 

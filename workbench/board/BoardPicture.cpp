@@ -16,7 +16,7 @@ constexpr double sharedOpacity = 0.75; // of layers that are shown together
 } // namespace
 
 void BoardPicture::begin(QSize size, double ratio, QTransform const & boardToWidget, QRectF const & visible,
-                         QPainterPath profile, std::vector<std::shared_ptr<LayerPicture const>> layers)
+                         QPainterPath profile, std::vector<std::shared_ptr<LayerShapes const>> layers)
 {
     m_profile = std::move(profile);
     m_layers = std::move(layers);
@@ -50,7 +50,7 @@ void BoardPicture::paintProfile()
 void BoardPicture::work(QDeadlineTimer const & deadline)
 {
     while (!isFinished() && m_layer < m_layers.size() && !m_board.isNull()) {
-        LayerPicture const & layer = *m_layers[m_layer];
+        LayerShapes const & layer = *m_layers[m_layer];
         {
             QPainter painter(&m_layerImage);
             m_shape = paintShapes(painter, layer.shapes(), m_transform, m_visible, layer.colour(), m_shape,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "board/LayerPicture.h"
+#include "board/LayerShapes.h"
 
 #include <QDeadlineTimer>
 #include <QImage>
@@ -25,7 +25,7 @@ public:
     /// Begins anew. The first layer lies lowest; each is drawn apart, so that what is negative in one erases
     /// nothing of the others. `size` is in pixels of the widget, `ratio` how many of the picture make up one.
     void begin(QSize size, double ratio, QTransform const & boardToWidget, QRectF const & visible,
-               QPainterPath profile, std::vector<std::shared_ptr<LayerPicture const>> layers);
+               QPainterPath profile, std::vector<std::shared_ptr<LayerShapes const>> layers);
     bool isFinished() const { return m_layer > m_layers.size(); }
     /// Goes on until the picture is finished or the deadline has passed.
     void work(QDeadlineTimer const & deadline);
@@ -38,7 +38,7 @@ private:
     double opacity() const;
 
     QPainterPath m_profile;
-    std::vector<std::shared_ptr<LayerPicture const>> m_layers;
+    std::vector<std::shared_ptr<LayerShapes const>> m_layers;
     std::size_t m_layer = 1; // which is being painted; past the end when the picture is finished
     std::size_t m_shape = 0; // where to go on in it
     QRectF m_visible;

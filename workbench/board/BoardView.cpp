@@ -1,5 +1,6 @@
 #include "board/BoardView.h"
 
+#include "board/BoardTexts.h"
 #include "ui/LanguageChange.h"
 
 #include <UIAPICommon.h>
@@ -35,7 +36,7 @@ BoardView::BoardView(std::string job, std::string step, int unit, QWidget * pare
     : QWidget(parent)
     , m_job(std::move(job))
     , m_step(std::move(step))
-    , m_shown(std::make_shared<LayerPicture>())
+    , m_shown(std::make_shared<LayerShapes>())
 {
     setMouseTracking(true);
     setMinimumSize(320, 260);
@@ -69,33 +70,33 @@ BoardView::BoardView(std::string job, std::string step, int unit, QWidget * pare
 
 void BoardView::showLayer(layer_info const & layer)
 {
-    m_shown = picture(layer);
+    m_shown = shapesOf(layer);
     m_marked = -1;
     m_selected.clear();
     updateLayers();
 }
 
-void BoardView::showBeside(std::vector<layer_info> layers)
+void BoardView::showBackgroundLayers(std::vector<layer_info> layers)
 {
-    m_beside = std::move(layers);
+    m_background = std::move(layers);
     updateLayers();
 }
 
 void BoardView::reload()
 {
-    m_pictures.clear();
+    m_known.clear();
     m_selected.clear();
     if (!layer().empty()) {
-        m_shown = picture(layer_info(m_shown->info()));
+        m_shown = shapesOf(layer_info(m_shown->info()));
     }
     updateLayers();
 }
 
-std::shared_ptr<LayerPicture const> BoardView::picture(layer_info const & layer)
+std::shared_ptr<LayerShapes const> BoardView::shapesOf(layer_info const & layer)
 {
-    auto & known = m_pictures[layer.name];
+    auto & known = m_known[layer.name];
     if (known == nullptr) {
-        known = std::make_shared<LayerPicture const>(m_job, m_step, layer);
+        known = std::make_shared<LayerShapes const>(m_job, m_step, layer);
     }
     return known;
 }
@@ -109,6 +110,12 @@ void BoardView::updateLayers()
     m_port.setSize(size());
     m_port.setExtent(extent);
     changePort();
+}
+
+QString BoardView::emptyText() const
+{
+    bool const isEmpty = features().empty() && m_background.empty();
+    return isEmpty ? emptyLayerText(*m_shown) : QString();
 }
 
 void BoardView::markFeature(int feature)
@@ -147,8 +154,8 @@ void BoardView::zoomHome()
 void BoardView::zoomFit()
 {
     QRectF extent = m_shown->extent();
-    for (layer_info const & layer : m_beside) {
-        extent |= picture(layer)->extent();
+    for (layer_info const & layer : m_background) {
+        extent |= shapesOf(layer)->extent();
     }
     m_port.show(extent);
     changePort();
@@ -182,16 +189,16 @@ void BoardView::changePort()
 void BoardView::beginPicture()
 {
     m_isStale = false;
-    std::vector<std::shared_ptr<LayerPicture const>> layers;
-    for (auto layer = m_beside.rbegin(); layer != m_beside.rend(); ++layer) {
+    std::vector<std::shared_ptr<LayerShapes const>> layers;
+    for (auto layer = m_background.rbegin(); layer != m_background.rend(); ++layer) {
         if (layer->name != m_shown->info().name) {
-            layers.push_back(picture(*layer));
+            layers.push_back(shapesOf(*layer));
         }
     }
     layers.push_back(m_shown);
-    m_pictures.clear(); // what is not shown any more is read again when it is
+    m_known.clear(); // what is not shown any more is read again when it is
     for (auto const & layer : layers) {
-        m_pictures[layer->info().name] = layer;
+        m_known[layer->info().name] = layer;
     }
     m_picture.begin(size(), devicePixelRatioF(), boardToWidget(),
                     m_port.scale() > 0 ? m_port.visible() : QRectF(), m_profile, std::move(layers));

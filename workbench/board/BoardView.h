@@ -3,7 +3,7 @@
 #include "board/BoardPicture.h"
 #include "board/BoardSigns.h"
 #include "board/FeatureSelection.h"
-#include "board/LayerPicture.h"
+#include "board/LayerShapes.h"
 #include "board/ViewPort.h"
 
 #include <QTimer>
@@ -38,7 +38,7 @@ public:
     /// Makes a layer the one that is worked on: it is drawn on top, and its pads can be picked.
     void showLayer(KVCAM::API::layer_info const & layer);
     /// Draws these layers below it, the first one uppermost.
-    void showBeside(std::vector<KVCAM::API::layer_info> layers);
+    void showBackgroundLayers(std::vector<KVCAM::API::layer_info> layers);
     /// Reads the layers again: the engine's features have changed.
     void reload();
     /// Finishes the picture, which is otherwise made while the program has nothing else to do.
@@ -67,13 +67,6 @@ public:
     QPointF pixelOf(double x, double y) const { return boardToWidget().map(QPointF(x, y)); }
     /// The scale over the one at which the whole board is shown.
     double zoom() const { return m_port.zoom(); }
-
-    /// A position in micrometres as text in the view's unit: "x 0.100 y 0.250 inch".
-    QString positionText(double x, double y) const;
-    /// The same in the view's small unit: "(x 100.00 y 250.00 mil)".
-    QString finePositionText(double x, double y) const;
-    /// A size in micrometres as text in the view's unit: "3.000 x 3.000 inch".
-    QString sizeText(double width, double height) const;
 
     QSize sizeHint() const override { return {640, 520}; }
 
@@ -113,7 +106,7 @@ protected:
 
 private:
     QTransform boardToWidget() const { return m_port.boardToWidget(); }
-    std::shared_ptr<LayerPicture const> picture(KVCAM::API::layer_info const & layer);
+    std::shared_ptr<LayerShapes const> shapesOf(KVCAM::API::layer_info const & layer);
     void updateLayers();
     void changePort();
     void beginPicture();
@@ -125,9 +118,9 @@ private:
     std::string m_job;
     std::string m_step;
     QPainterPath m_profile;
-    std::vector<KVCAM::API::layer_info> m_beside;
-    std::map<std::string, std::shared_ptr<LayerPicture const>> m_pictures; // of the shown layers, by name
-    std::shared_ptr<LayerPicture const> m_shown;
+    std::vector<KVCAM::API::layer_info> m_background;
+    std::map<std::string, std::shared_ptr<LayerShapes const>> m_known; // of the shown layers, by name
+    std::shared_ptr<LayerShapes const> m_shown;
     std::vector<Mark> m_marks;
     ViewPort m_port;
     BoardPicture m_picture;

@@ -1,5 +1,6 @@
 #include "feature/FeatureDialog.h"
 
+#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "board/PadFamilies.h"
 #include "ui/Colours.h"
@@ -42,7 +43,7 @@ double sizeValue(QString const & calculation)
 }
 
 // Plain digits as a symbol name has them, far below a nanometre.
-QString sizeText(double value)
+QString plainText(double value)
 {
     QString text = QString::number(value, 'f', 6);
     while (text.endsWith('0')) {
@@ -220,7 +221,7 @@ void FeatureDialog::settleSizes()
 
 void FeatureDialog::takeSize(KVLineEdit const & field)
 {
-    PadSize const size{sizeText(sizeValue(field.text())), m_shownUnit};
+    PadSize const size{plainText(sizeValue(field.text())), m_shownUnit};
     if (&field == m_width) {
         m_symbol.setWidth(size);
     } else {
@@ -257,9 +258,10 @@ void FeatureDialog::showTitles()
     }
     for (auto const & item : m_view.features()) {
         if (item.index == m_feature) {
-            m_heading->setText(tr("Pad %1 of layer %2 at %3")
-                                   .arg(QString::number(m_feature), QString::fromStdString(m_view.layer()),
-                                        m_view.positionText(item.points.at(0).x, item.points.at(0).y)));
+            m_heading->setText(
+                tr("Pad %1 of layer %2 at %3")
+                    .arg(QString::number(m_feature), QString::fromStdString(m_view.layer()),
+                         positionText(m_view.handle(), item.points.at(0).x, item.points.at(0).y)));
         }
     }
 }
@@ -294,7 +296,7 @@ void FeatureDialog::showVerdict()
         }
         double const value = sizeValue(field->text());
         if (field->isModified() && !isSizeText(field->text()) && value > 0) {
-            values.append(QString("= %1 %2").arg(sizeText(value), unit));
+            values.append(QString("= %1 %2").arg(plainText(value), unit));
         }
     }
     words.removeDuplicates();

@@ -1,6 +1,6 @@
 #include "layers/LayerTable.h"
 
-#include "board/LayerPicture.h"
+#include "board/LayerShapes.h"
 #include "ui/Colours.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"

@@ -1,5 +1,6 @@
 #include "tour/Headless.h"
 
+#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "checks/ResultFiles.h"
 #include "checks/ResultsPage.h"
@@ -130,7 +131,8 @@ QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embe
             facts["engine after"] = toJson(KVCAM::Embedded::liveState());
         }
         if (outline) {
-            sizes.append(view.sizeText(outline->right - outline->left, outline->top - outline->bottom));
+            sizes.append(
+                sizeText(view.handle(), outline->right - outline->left, outline->top - outline->bottom));
         }
     }
     setUnit(view.handle(), unit);

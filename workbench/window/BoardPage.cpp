@@ -1,5 +1,6 @@
 #include "window/BoardPage.h"
 
+#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "feature/FeatureDialog.h"
 #include "layers/FilterBar.h"
@@ -179,7 +180,7 @@ void BoardPage::showTicked()
     for (std::size_t const index : m_layers->tickedLayers()) {
         layers.push_back(m_session.layers().at(index).info);
     }
-    currentView()->showBeside(std::move(layers));
+    currentView()->showBackgroundLayers(std::move(layers));
 }
 
 void BoardPage::showOutline()
@@ -188,8 +189,8 @@ void BoardPage::showOutline()
     QString const step = QString::fromStdString(view.step());
     auto const & outline = currentStep().outline;
     m_outline->setText(outline ? WindowTexts::tr("Board outline of step %1: %2")
-                                     .arg(step, view.sizeText(outline->right - outline->left,
-                                                              outline->top - outline->bottom))
+                                     .arg(step, sizeText(view.handle(), outline->right - outline->left,
+                                                         outline->top - outline->bottom))
                                : WindowTexts::tr("Step %1 has no profile").arg(step));
 }
 

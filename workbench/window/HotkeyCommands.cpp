@@ -1,5 +1,6 @@
 #include "window/HotkeyCommands.h"
 
+#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
@@ -350,14 +351,14 @@ QString HotkeyCommands::measure(int /*argument*/)
     if (m_measured != &shown) {
         m_measured = &shown;
         m_measuredFrom = place;
-        return tr("from %1; once more at the other end").arg(shown.positionText(place.x(), place.y()));
+        return tr("from %1; once more at the other end").arg(positionText(view(), place.x(), place.y()));
     }
     m_measured = nullptr;
     QPointF const distance = place - m_measuredFrom;
     return QString("%1 %2 (%3)")
         .arg(getUnitJudgeStringMetric(view(), std::hypot(distance.x(), distance.y())),
              QString::fromStdString(getUnitStringType(view(), 0)),
-             shown.sizeText(std::abs(distance.x()), std::abs(distance.y())));
+             sizeText(view(), std::abs(distance.x()), std::abs(distance.y())));
 }
 
 QString HotkeyCommands::snap(int mode)

@@ -1,5 +1,6 @@
 #include "window/MainWindow.h"
 
+#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "checks/ResultsPage.h"
 #include "layers/ReferencesPage.h"
@@ -309,11 +310,11 @@ void MainWindow::showUnit()
 
 void MainWindow::showPointer()
 {
-    BoardView const & view = *m_board->currentView();
-    coordinate const * place = getCoordinate(view.handle());
+    void const * view = m_board->currentView()->handle();
+    coordinate const * place = getCoordinate(view);
     bool const isKnown = place != nullptr && m_hasPointed;
-    m_pointer->setText(isKnown ? view.positionText(place->x, place->y) + "   " +
-                                     view.finePositionText(place->x, place->y)
+    m_pointer->setText(isKnown ? positionText(view, place->x, place->y) + "   " +
+                                     finePositionText(view, place->x, place->y)
                                : tr("Move the pointer over the board"));
 }
 

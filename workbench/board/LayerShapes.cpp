@@ -1,4 +1,4 @@
-#include "board/LayerPicture.h"
+#include "board/LayerShapes.h"
 
 #include <algorithm>
 #include <iterator>
@@ -6,7 +6,7 @@
 
 namespace Workbench {
 
-LayerPicture::LayerPicture(std::string const & job, std::string const & step, KVCAM::API::layer_info info)
+LayerShapes::LayerShapes(std::string const & job, std::string const & step, KVCAM::API::layer_info info)
     : m_info(std::move(info)), m_features(KVCAM::Embedded::features(job, step, m_info.name))
 {
     if (!KVCAM::Embedded::lastError().empty()) {
@@ -17,12 +17,12 @@ LayerPicture::LayerPicture(std::string const & job, std::string const & step, KV
     m_shapes = featureShapes(m_features, KVCAM::Embedded::featureDrawings(job, step, m_info.name));
 }
 
-QColor LayerPicture::colour() const
+QColor LayerShapes::colour() const
 {
     return layerColour(m_info);
 }
 
-QRectF LayerPicture::extent() const
+QRectF LayerShapes::extent() const
 {
     if (m_shapes.empty()) {
         return {};

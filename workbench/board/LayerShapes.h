@@ -12,7 +12,7 @@
 namespace Workbench {
 
 /// What a layer of a step looks like, read from the engine once.
-class LayerPicture
+class LayerShapes
 {
 public:
     enum class State
@@ -21,8 +21,8 @@ public:
         CutToTables, ///< the job holds features, but not in this copy
         Unreadable
     };
-    LayerPicture() = default; ///< of no layer, empty
-    LayerPicture(std::string const & job, std::string const & step, KVCAM::API::layer_info info);
+    LayerShapes() = default; ///< of no layer, empty
+    LayerShapes(std::string const & job, std::string const & step, KVCAM::API::layer_info info);
 
     KVCAM::API::layer_info const & info() const { return m_info; }
     State state() const { return m_state; }
