@@ -1,6 +1,8 @@
 #include "SampleWindow.h"
 #include "board/BoardView.h"
 #include "feature/FeatureDialog.h"
+#include "feature/PadGroup.h"
+#include "feature/RemarksGroup.h"
 #include "job/CommandLine.h"
 #include "job/Session.h"
 #include "ui/LogPane.h"
@@ -75,22 +77,22 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
     };
     for (auto const & row : rows) {
         type(width, row.typed);
-        EXPECT_EQ(dialog.verdict(), row.below) << row.typed;
+        EXPECT_EQ(dialog.pad().verdict(), row.below) << row.typed;
         QTest::keyClick(&width, Qt::Key_Return);
         QApplication::processEvents(); // the field is done with its key
         EXPECT_EQ(takeBoxes(), row.box != nullptr ? QStringList(row.box) : QStringList()) << row.typed;
         EXPECT_EQ(getUnit(view()), 0) << "Return pressed a button";
-        QString const symbol = dialog.symbol();
+        QString const symbol = dialog.pad().symbol();
         EXPECT_TRUE(symbol.startsWith(QString("rect") + row.shown + 'x')) << symbol.toStdString();
         for (int i = 0; i < 100; ++i) {
             setUnit(view(), 1 - getUnit(view()));
-            EXPECT_EQ(dialog.symbol() == symbol, i % 2 == 1) << row.typed;
+            EXPECT_EQ(dialog.pad().symbol() == symbol, i % 2 == 1) << row.typed;
         }
         EXPECT_EQ(width.text(), row.shown) << row.typed;
-        EXPECT_EQ(dialog.symbol(), symbol) << row.typed;
-        EXPECT_EQ(dialog.verdict(), "") << row.typed;
+        EXPECT_EQ(dialog.pad().symbol(), symbol) << row.typed;
+        EXPECT_EQ(dialog.pad().verdict(), "") << row.typed;
     }
-    EXPECT_EQ(dialog.exactWidth(), 6454734); // 254.1234 mil
+    EXPECT_EQ(dialog.pad().exactWidth(), 6454734); // 254.1234 mil
 }
 
 TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
@@ -113,7 +115,7 @@ TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
     EXPECT_EQ(width.text(), "317.5");
     EXPECT_TRUE(width.isEnabled());
     setUnit(view(), 0);
-    EXPECT_EQ(dialog.symbol(), "rect12.5x" + height);
+    EXPECT_EQ(dialog.pad().symbol(), "rect12.5x" + height);
 }
 
 TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
@@ -134,10 +136,10 @@ TEST_F(Windows, TypingASymbolCanBeUndone)
     EXPECT_EQ(field(dialog, "height").text(), "20");
     type(name, "r30");
     EXPECT_FALSE(field(dialog, "height").isEnabled());
-    for (int i = 0; i < 8 && dialog.symbol() != "oval30x20"; ++i) {
+    for (int i = 0; i < 8 && dialog.pad().symbol() != "oval30x20"; ++i) {
         name.undo();
     }
-    EXPECT_EQ(dialog.symbol(), "oval30x20");
+    EXPECT_EQ(dialog.pad().symbol(), "oval30x20");
     EXPECT_EQ(field(dialog, "height").text(), "20");
 }
 
@@ -151,11 +153,11 @@ TEST_F(Windows, ADialogComesBackAsItWasLeft)
     type(field(dialog, "offset"), "254.1234");
     setUnit(view(), 0);
     type(field(dialog, "width"), "10+2.5");
-    dialog.remark("me", "a note", "a file");
+    dialog.remarks().fill("me", "a note", "a file");
     FeatureDialog & other = openFeature(1); // in place of the first one, which is saved
     EXPECT_FALSE(other.isRestored());
     type(field(other, "height"), "90000*2");
-    other.remark("you", "", "");
+    other.remarks().fill("you", "", "");
     find<QTableWidget>().selectRow(6); // another layer closes the dialog
     find<QTableWidget>().selectRow(4);
     EXPECT_FALSE(readFile(formFile).contains("90000"));
@@ -164,7 +166,7 @@ TEST_F(Windows, ADialogComesBackAsItWasLeft)
     FeatureDialog & again = openFeature(0);
     EXPECT_TRUE(again.isRestored());
     EXPECT_EQ(getUnit(view()), 0);
-    EXPECT_EQ(again.width(), "12.5");
+    EXPECT_EQ(again.pad().width(), "12.5");
     EXPECT_EQ(field(again, "offset").text(), "10.0049");
     setUnit(view(), 1);
     EXPECT_EQ(field(again, "offset").text(), "254.1234");

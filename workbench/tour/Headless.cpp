@@ -1,4 +1,6 @@
 #include "tour/Headless.h"
+#include "feature/PadGroup.h"
+#include "feature/RemarksGroup.h"
 
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
@@ -186,36 +188,36 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
         QString const calculation = unit == inchUnit ? "10+2.5" : "254+63.5";
         width.setFocus();
         type(width, "90000*2");
-        facts["refused"] = dialog.verdict();
+        facts["refused"] = dialog.pad().verdict();
         camera.take(dialog, "feature-dialog-refused.png");
         press(width, Qt::Key_Return);
-        facts["width after refusal"] = dialog.width();
+        facts["width after refusal"] = dialog.pad().width();
         type(width, calculation);
-        facts["typed"] = dialog.width();
+        facts["typed"] = dialog.pad().width();
         press(width, Qt::Key_Return);
-        dialog.remark("uiapi-workbench",
-                      "The width was typed as " + calculation + " and is kept with this note.",
-                      session.directory() + "/matrix/matrix");
+        dialog.remarks().fill("uiapi-workbench",
+                              "The width was typed as " + calculation + " and is kept with this note.",
+                              session.directory() + "/matrix/matrix");
     }
-    QString const before = dialog.width();
+    QString const before = dialog.pad().width();
     for (int i = 0; i < 100; ++i) {
         switchUnit(view);
     }
     facts["width"] = before;
-    facts["width after 100 switches"] = dialog.width();
-    facts["width in nm"] = static_cast<double>(dialog.exactWidth());
-    facts["description"] = dialog.description();
+    facts["width after 100 switches"] = dialog.pad().width();
+    facts["width in nm"] = static_cast<double>(dialog.pad().exactWidth());
+    facts["description"] = dialog.pad().description();
     for (int const shown : {inchUnit, metricUnit}) {
         setUnit(view, shown);
-        facts[shown == inchUnit ? "symbol in mil" : "symbol in my"] = dialog.symbol();
+        facts[shown == inchUnit ? "symbol in mil" : "symbol in my"] = dialog.pad().symbol();
         camera.take(dialog, shown == inchUnit ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
     }
-    dialog.showNames();
+    dialog.pad().showNames();
     camera.take(dialog, "feature-dialog-names.png");
     dialog.setFocus(); // the list goes away by itself
     window.setLanguage(LANGUAGE_CHINESE);
     camera.take(dialog, "feature-dialog-chinese.png"); // which lets the dialog hear of the change
-    facts["description in Chinese"] = dialog.description();
+    facts["description in Chinese"] = dialog.pad().description();
     window.setLanguage(LANGUAGE_ENGLISH);
     setUnit(view, unit);
     facts["saved"] = dialog.saveForm();

@@ -1,4 +1,5 @@
 #include "window/BoardPage.h"
+#include "feature/PadSymbol.h"
 
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
