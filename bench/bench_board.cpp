@@ -1,8 +1,8 @@
 // The workbench's board picture of a layer with 100,000 features: tracks, vias and pads, as a large board has
-// them. How long it takes to read the layer's pictures, to paint it whole at some zooms, and how long one
+// them. How long it takes to read the layer's shapes, to paint it whole at some zooms, and how long one
 // step of the wheel keeps the program from its events; painting goes on in slices after that.
 
-#include "BoardView.h"
+#include "board/BoardView.h"
 
 #include <KVCAM_API.h>
 
@@ -91,17 +91,17 @@ private:
     QTemporaryDir m_folder;
 };
 
-void readPictures(benchmark::State & state)
+void readShapes(benchmark::State & state)
 {
     Board const & board = Board::get();
     for (auto _ : state) {
-        LayerPicture const picture("large", "pcb", board.layer);
-        if (picture.shapes().size() != features) {
+        LayerShapes const layer("large", "pcb", board.layer);
+        if (layer.shapes().size() != features) {
             state.SkipWithError("the layer was not read");
         }
     }
 }
-BENCHMARK(readPictures)->Unit(benchmark::kMillisecond);
+BENCHMARK(readShapes)->Unit(benchmark::kMillisecond);
 
 // The argument is the number of zoom steps, each of half the scale again.
 void paintWhole(benchmark::State & state)

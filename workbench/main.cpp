@@ -1,10 +1,12 @@
-#include "CommandLine.h"
-#include "ConfigDirectory.h"
-#include "Headless.h"
-#include "JobLoading.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "checks/ResultFiles.h"
+#include "job/CommandLine.h"
+#include "job/ConfigDirectory.h"
+#include "job/JobLoading.h"
+#include "job/Session.h"
+#include "tour/Headless.h"
+#include "ui/LogPane.h"
+#include "window/BoardPage.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -67,7 +69,7 @@ void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const &
 {
     using namespace KVCAM::UIAPI;
     window.showPage("results");
-    for (QString const & error : window.writeResults(commandLine).errors) {
+    for (QString const & error : Workbench::writeResults(window.results(), commandLine).errors) {
         fail(error);
         Ext::showMessage({Ext::MessageKind::Information, &window, window.windowTitle(), error});
     }
@@ -123,7 +125,7 @@ int main(int argc, char ** argv)
               << " step(s) and " << session.layers().size() << " layers";
 
     Workbench::MainWindow window(session, log, commandLine);
-    window.showStepOf(commandLine.step);
+    window.board().showStep(commandLine.step);
     if (!headless) {
         window.useStateFile(Workbench::configurationDirectory() + "/workbench.ini", commandLine.isUnitGiven);
         window.show();

@@ -1,35 +1,74 @@
 #pragma once
 
-#include "CommandLine.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "TestFiles.h"
+#include "board/BoardView.h"
+#include "job/CommandLine.h"
+#include "job/Session.h"
+#include "ui/LogPane.h"
+#include "window/BoardPage.h"
+#include "window/MainWindow.h"
+
+#include <UIAPICommon.h>
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QTest>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace Workbench {
 
-/// A window on the sample job, in front and with the focus.
+/// A window on the sample job. Boxes are collected, not shown; a case takes those that it expects.
 class SampleWindow : public ::testing::Test
 {
 protected:
-    void readSample() { ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), ""); }
-    void showWindow()
+    void SetUp() override
+    {
+        using namespace KVCAM::UIAPI;
+        ASSERT_EQ(session.open(sampleJob), "");
+        Ext::setMessagePresenter([this](Ext::Message const & message) {
+            boxes.append(message.text);
+            return answer();
+        });
+    }
+    void TearDown() override
+    {
+        EXPECT_EQ(boxes, QStringList()) << boxes.join('\n').toStdString();
+        KVCAM::UIAPI::Ext::setMessagePresenter({});
+    }
+
+    std::unique_ptr<MainWindow> makeWindow()
     {
         CommandLine commandLine;
         commandLine.output = ".";
-        window = std::make_unique<MainWindow>(session, log, commandLine);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        auto made = std::make_unique<MainWindow>(session, log, commandLine);
+        made->show();
+        made->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(made.get()));
+        return made;
     }
+    void open() { window = makeWindow(); }
+
+    BoardPage & board() const { return window->board(); }
+    /// The handle of the view in front.
+    void const * view() const { return board().currentView()->handle(); }
+    QString status() const { return find<QLabel>("hot keys").text(); }
+    template <class Widget>
+    Widget & find(char const * name = "") const
+    {
+        return *window->findChild<Widget *>(name);
+    }
+    QStringList takeBoxes() { return std::exchange(boxes, {}); }
 
     Session session;
     LogLines log;
+    QStringList boxes;
+    std::function<KVCAM::UIAPI::Ext::MessageAnswer()> answer = [] {
+        return KVCAM::UIAPI::Ext::MessageAnswer::Yes;
+    };
     std::unique_ptr<MainWindow> window;
 };
 

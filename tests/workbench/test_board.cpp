@@ -1,9 +1,9 @@
-#include "BoardPicture.h"
-#include "BoardView.h"
-#include "Session.h"
-#include "SymbolPath.h"
 #include "TestFiles.h"
-#include "ViewPort.h"
+#include "board/BoardPicture.h"
+#include "board/BoardView.h"
+#include "board/SymbolPath.h"
+#include "board/ViewPort.h"
+#include "job/Session.h"
 
 #include <UIAPICommon.h>
 
@@ -141,14 +141,11 @@ class Pictures : public ::testing::Test
 protected:
     void SetUp() override
     {
-        QByteArray matrix = "STEP {\nCOL=1\nNAME=PCB\n}\n";
-        int row = 0;
-        for (char const * name : {"TOP", "PLANE", "EMPTY", "BROKEN", "TABLES"}) {
-            matrix += "LAYER {\nROW=" + QByteArray::number(++row) +
-                      "\nCONTEXT=BOARD\nTYPE=SIGNAL\nNAME=" + name + "\nPOLARITY=POSITIVE\n}\n";
-        }
-        writeFile("tiny/matrix/matrix", matrix);
-        writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+        writeJob("tiny", {{"SIGNAL", "TOP"},
+                          {"SIGNAL", "PLANE"},
+                          {"SIGNAL", "EMPTY"},
+                          {"SIGNAL", "BROKEN"},
+                          {"SIGNAL", "TABLES"}});
         QByteArray const square = "S P 0\nOB 0 0 I\nOS 10 0\nOS 10 10\nOS 0 10\nOS 0 0\nOE\n";
         writeFile("tiny/steps/pcb/profile", "UNITS=MM\n" + square + "SE\n");
         writeFile("tiny/steps/pcb/layers/top/features",
@@ -225,7 +222,7 @@ TEST_F(Pictures, ShowEachShapeWhereItIsAtEveryZoom)
 TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
 {
     EXPECT_FALSE(isDrawn(grab(), 2, 2));
-    view->showBeside({layer(0), layer(1)});
+    view->showBackgroundLayers({layer(0), layer(1)});
     QImage const both = grab();
     EXPECT_TRUE(isDrawn(both, 2, 2));
     auto const colour = [&](double x, double y) {
@@ -233,14 +230,14 @@ TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
     };
     EXPECT_EQ(colour(2, 2), colour(0.5, 0.5));    // the plane alone
     EXPECT_NE(colour(1.25, 2), colour(0.5, 0.5)); // the pad on it
-    view->showBeside({});
+    view->showBackgroundLayers({});
     EXPECT_FALSE(isDrawn(grab(), 0.5, 0.5));
 }
 
 TEST_F(Pictures, SlicesOfTimeMakeTheSamePictureAsOneGo)
 {
-    ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
-    auto const top = std::make_shared<LayerPicture const>("demo-board", "pcb", layer(4));
+    ASSERT_EQ(session.open(sampleJob), "");
+    auto const top = std::make_shared<LayerShapes const>("demo-board", "pcb", layer(4));
     ASSERT_GT(top->shapes().size(), 150U); // the clock is looked at now and then
     QRectF const extent = top->extent();
     QImage images[2];

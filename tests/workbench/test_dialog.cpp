@@ -1,9 +1,13 @@
-#include "BoardView.h"
-#include "CommandLine.h"
-#include "FeatureDialog.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "SampleWindow.h"
+#include "board/BoardView.h"
+#include "feature/FeatureDialog.h"
+#include "feature/PadGroup.h"
+#include "feature/RemarksGroup.h"
+#include "job/CommandLine.h"
+#include "job/Session.h"
+#include "ui/LogPane.h"
+#include "window/BoardPage.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -27,26 +31,15 @@ namespace {
 
 char const * const formFile = "./feature-form.json";
 
-// A window on the sample job in inches; boxes are collected, not shown.
-class Windows : public ::testing::Test
+// A window on the sample job in inches.
+class Windows : public SampleWindow
 {
 protected:
     void SetUp() override
     {
-        ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
-        Ext::setMessagePresenter([this](Ext::Message const & message) {
-            boxes.append(message.text);
-            return Ext::MessageAnswer::Ok;
-        });
-        CommandLine commandLine;
-        commandLine.output = ".";
-        window = std::make_unique<MainWindow>(session, log, commandLine);
-        window->show();
-        setUnit(view(), 0);
+        SampleWindow::SetUp();
+        open();
     }
-    void TearDown() override { Ext::setMessagePresenter({}); }
-
-    void const * view() const { return window->currentView()->handle(); }
     static KVLineEdit & field(FeatureDialog & dialog, char const * name)
     {
         return *dialog.findChild<KVLineEdit *>(name);
@@ -57,11 +50,7 @@ protected:
         QTest::keyClick(&field, Qt::Key_Delete);
         QTest::keyClicks(&field, text);
     }
-
-    Session session;
-    LogLines log;
-    QStringList boxes;
-    std::unique_ptr<MainWindow> window;
+    FeatureDialog & openFeature(int feature) const { return *board().openFeature(feature); }
 };
 
 constexpr char const * outOfRange =
@@ -69,7 +58,7 @@ constexpr char const * outOfRange =
 
 TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
 {
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = openFeature(0);
     auto & width = field(dialog, "width");
     struct
     {
@@ -88,27 +77,27 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
     };
     for (auto const & row : rows) {
         type(width, row.typed);
-        EXPECT_EQ(dialog.verdict(), row.below) << row.typed;
+        EXPECT_EQ(dialog.pad().verdict(), row.below) << row.typed;
         QTest::keyClick(&width, Qt::Key_Return);
-        EXPECT_EQ(boxes, row.box != nullptr ? QStringList(row.box) : QStringList()) << row.typed;
-        boxes.clear();
+        QApplication::processEvents(); // the field is done with its key
+        EXPECT_EQ(takeBoxes(), row.box != nullptr ? QStringList(row.box) : QStringList()) << row.typed;
         EXPECT_EQ(getUnit(view()), 0) << "Return pressed a button";
-        QString const symbol = dialog.symbol();
+        QString const symbol = dialog.pad().symbol();
         EXPECT_TRUE(symbol.startsWith(QString("rect") + row.shown + 'x')) << symbol.toStdString();
         for (int i = 0; i < 100; ++i) {
             setUnit(view(), 1 - getUnit(view()));
-            EXPECT_EQ(dialog.symbol() == symbol, i % 2 == 1) << row.typed;
+            EXPECT_EQ(dialog.pad().symbol() == symbol, i % 2 == 1) << row.typed;
         }
         EXPECT_EQ(width.text(), row.shown) << row.typed;
-        EXPECT_EQ(dialog.symbol(), symbol) << row.typed;
-        EXPECT_EQ(dialog.verdict(), "") << row.typed;
+        EXPECT_EQ(dialog.pad().symbol(), symbol) << row.typed;
+        EXPECT_EQ(dialog.pad().verdict(), "") << row.typed;
     }
-    EXPECT_EQ(dialog.exactWidth(), 6454734); // 254.1234 mil
+    EXPECT_EQ(dialog.pad().exactWidth(), 6454734); // 254.1234 mil
 }
 
 TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
 {
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = openFeature(0);
     auto & width = field(dialog, "width");
     QString const height = field(dialog, "height").text();
     type(width, "10+2.5");
@@ -126,91 +115,82 @@ TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
     EXPECT_EQ(width.text(), "317.5");
     EXPECT_TRUE(width.isEnabled());
     setUnit(view(), 0);
-    EXPECT_EQ(dialog.symbol(), "rect12.5x" + height);
-    EXPECT_EQ(boxes, QStringList());
+    EXPECT_EQ(dialog.pad().symbol(), "rect12.5x" + height);
 }
 
 TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
 {
-    auto & width = field(*window->openFeature(0), "width");
+    auto & width = field(openFeature(0), "width");
     width.activateWindow();
     width.setFocus();
     QApplication::processEvents();
     type(width, "90000*2");
     window.reset();
-    EXPECT_EQ(boxes, QStringList());
 }
 
 TEST_F(Windows, TypingASymbolCanBeUndone)
 {
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = openFeature(0);
     auto & name = field(dialog, "symbol");
     type(name, "oval30x20");
     EXPECT_EQ(field(dialog, "height").text(), "20");
     type(name, "r30");
     EXPECT_FALSE(field(dialog, "height").isEnabled());
-    for (int i = 0; i < 8 && dialog.symbol() != "oval30x20"; ++i) {
+    for (int i = 0; i < 8 && dialog.pad().symbol() != "oval30x20"; ++i) {
         name.undo();
     }
-    EXPECT_EQ(dialog.symbol(), "oval30x20");
+    EXPECT_EQ(dialog.pad().symbol(), "oval30x20");
     EXPECT_EQ(field(dialog, "height").text(), "20");
 }
 
 TEST_F(Windows, ADialogComesBackAsItWasLeft)
 {
-    window->openFeature(1)->close();
+    openFeature(1).close();
     EXPECT_FALSE(QFile::exists(formFile)); // a mere look leaves nothing behind
 
-    FeatureDialog & dialog = *window->openFeature(0);
+    FeatureDialog & dialog = openFeature(0);
     setUnit(view(), 1);
     type(field(dialog, "offset"), "254.1234");
     setUnit(view(), 0);
     type(field(dialog, "width"), "10+2.5");
-    dialog.remark("me", "a note", "a file");
-    FeatureDialog & other = *window->openFeature(1); // in place of the first one, which is saved
+    dialog.remarks().fill("me", "a note", "a file");
+    FeatureDialog & other = openFeature(1); // in place of the first one, which is saved
     EXPECT_FALSE(other.isRestored());
     type(field(other, "height"), "90000*2");
-    other.remark("you", "", "");
-    window->findChild<QTableWidget *>()->selectRow(6); // another layer closes the dialog
-    window->findChild<QTableWidget *>()->selectRow(4);
-    QFile saved(formFile);
-    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
-    EXPECT_FALSE(saved.readAll().contains("90000"));
+    other.remarks().fill("you", "", "");
+    find<QTableWidget>().selectRow(6); // another layer closes the dialog
+    find<QTableWidget>().selectRow(4);
+    EXPECT_FALSE(readFile(formFile).contains("90000"));
 
     setUnit(view(), 1);
-    FeatureDialog & again = *window->openFeature(0);
+    FeatureDialog & again = openFeature(0);
     EXPECT_TRUE(again.isRestored());
     EXPECT_EQ(getUnit(view()), 0);
-    EXPECT_EQ(again.width(), "12.5");
+    EXPECT_EQ(again.pad().width(), "12.5");
     EXPECT_EQ(field(again, "offset").text(), "10.0049");
     setUnit(view(), 1);
     EXPECT_EQ(field(again, "offset").text(), "254.1234");
     EXPECT_EQ(again.findChild<QLineEdit *>("author")->text(), "me");
     window->close();
-    EXPECT_EQ(boxes, QStringList());
 }
 
 TEST_F(Windows, AFormInNoUnitIsNotRestored)
 {
-    window->openFeature(0)->saveForm();
-    QFile file(formFile);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    QJsonObject forms = QJsonDocument::fromJson(file.readAll()).object();
+    openFeature(0).saveForm();
+    QJsonObject forms = readObject(formFile);
     ASSERT_EQ(forms.size(), 1);
     QJsonObject form = forms.begin()->toObject();
     form["unit"] = 7;
     forms.begin().value() = form;
-    file.resize(0);
-    file.write(QJsonDocument(forms).toJson());
-    file.close();
-    EXPECT_FALSE(window->openFeature(0)->isRestored());
+    writeFile(formFile, QJsonDocument(forms).toJson());
+    EXPECT_FALSE(openFeature(0).isRestored());
     EXPECT_EQ(getUnit(view()), 0);
 }
 
 TEST_F(Windows, TheSymbolsPageFollowsTheLanguageAndTheShownStep)
 {
-    auto * page = window->findChild<QWidget *>("symbols");
-    auto * names = page->findChild<QTableWidget *>();
+    auto & page = find<QWidget>("symbols");
+    auto * names = page.findChild<QTableWidget *>();
     QString const english = names->item(0, 5)->text();
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
@@ -219,11 +199,11 @@ TEST_F(Windows, TheSymbolsPageFollowsTheLanguageAndTheShownStep)
     QApplication::processEvents();
     EXPECT_EQ(names->item(0, 5)->text(), english);
 
-    ASSERT_EQ(window->views().size(), 2U);
-    setUnit(window->views()[1]->handle(), 1);
-    auto * results = page->findChild<QGroupBox *>();
+    ASSERT_EQ(board().views().size(), 2U);
+    setUnit(board().views()[1]->handle(), 1);
+    auto * results = page.findChild<QGroupBox *>();
     EXPECT_TRUE(results->title().endsWith("Inch")) << results->title().toStdString();
-    auto * steps = qobject_cast<QTabWidget *>(window->views()[1]->parentWidget()->parentWidget());
+    auto * steps = qobject_cast<QTabWidget *>(board().views()[1]->parentWidget()->parentWidget());
     ASSERT_NE(steps, nullptr);
     steps->setCurrentIndex(1);
     EXPECT_TRUE(results->title().endsWith("MM")) << results->title().toStdString();

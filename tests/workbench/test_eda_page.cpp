@@ -1,9 +1,10 @@
-#include "EdaPage.h"
-#include "JsonText.h"
-#include "LanguageChange.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "TestFiles.h"
+#include "job/Session.h"
+#include "pages/EdaPage.h"
+#include "ui/JsonText.h"
+#include "ui/LanguageChange.h"
+#include "ui/LogPane.h"
+#include "window/MainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -21,8 +22,6 @@
 #include <QTest>
 #include <QToolButton>
 #include <QUdpSocket>
-
-#include <stdexcept>
 
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
@@ -45,15 +44,7 @@ public:
     QString content() const { return page.findChild<QPlainTextEdit *>("content")->toPlainText(); }
     QTableWidget & messages() const { return *page.findChild<QTableWidget *>(); }
     QSpinBox & port() const { return *page.findChild<QSpinBox *>(); }
-    QPushButton & button(char const * text) const
-    {
-        for (auto * each : page.findChildren<QPushButton *>()) {
-            if (each->text() == text) {
-                return *each;
-            }
-        }
-        throw std::invalid_argument(text);
-    }
+    QPushButton & button(char const * text) const { return buttonOf(page, text); }
     void type(QString const & text) const { page.findChild<QPlainTextEdit *>("editor")->setPlainText(text); }
     /// Size, kind and text of a row, with a mark if it is red.
     QString row(int index) const
@@ -291,7 +282,7 @@ TEST(EdaPages, TellsThatThereIsNoLinkWhereThePortIsTaken)
 TEST(EdaPages, MnemonicsAreUniqueBesideThoseOfTheWindow)
 {
     Session session;
-    ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), "");
+    ASSERT_EQ(session.open(sampleJob), "");
     LogLines const log;
     CommandLine commandLine;
     commandLine.output = ".";

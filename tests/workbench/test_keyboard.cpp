@@ -1,9 +1,10 @@
-#include "BoardView.h"
-#include "CheatSheet.h"
-#include "HotkeyCommands.h"
-#include "LayerTable.h"
 #include "SampleWindow.h"
 #include "TestFiles.h"
+#include "board/BoardView.h"
+#include "layers/LayerTable.h"
+#include "window/BoardPage.h"
+#include "window/CheatSheet.h"
+#include "window/HotkeyCommands.h"
 
 #include <UIAPICommon.h>
 
@@ -30,15 +31,7 @@ namespace {
 class Keyboard : public SampleWindow
 {
 protected:
-    void open()
-    {
-        readSample();
-        showWindow();
-    }
-
-    void const * view() const { return window->currentView()->handle(); }
-    QString told() const { return window->findChild<QLabel *>("hot keys")->text(); }
-    /// Presses keys that blanks part, "S G Shift+U"; what the window tells in the end is the result.
+    /// Presses keys that blanks part, "S G Shift+U"; the status in the end is the result.
     QString press(QString const & keys)
     {
         for (QString const & key : keys.split(' ')) {
@@ -47,7 +40,7 @@ protected:
             QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(number & ~mask),
                             Qt::KeyboardModifiers(number & mask));
         }
-        return told();
+        return status();
     }
     /// What the keys of the view can change.
     std::string state() const
@@ -111,13 +104,13 @@ TEST_F(Keyboard, KeysRunTheCommandsOfTheViewInFront)
 TEST_F(Keyboard, KeysMoveThePictureAndUndoAsks)
 {
     open();
-    BoardView & board = *window->currentView();
+    BoardView & shown = *board().currentView();
     int moves = 0;
-    QObject::connect(&board, &BoardView::portChanged, window.get(), [&moves] { ++moves; });
+    QObject::connect(&shown, &BoardView::portChanged, window.get(), [&moves] { ++moves; });
     coordinate & pointer = *getCoordinate(view());
     pointer = {20000, 10000};
     EXPECT_EQ(press("Ctrl+E"), "Centre at the pointer");
-    EXPECT_GT(board.zoom(), 1);
+    EXPECT_GT(shown.zoom(), 1);
     for (char const * keys :
          {"Ctrl+U", "Ctrl+D", "Ctrl+R", "Ctrl+L", "Shift+Up", "Shift+Down", "Shift+Right", "Shift+Left"}) {
         moves = 0;
@@ -125,31 +118,25 @@ TEST_F(Keyboard, KeysMoveThePictureAndUndoAsks)
         EXPECT_EQ(moves, 1) << keys;
         QKeyEvent again(QEvent::KeyPress, QKeySequence(keys)[0] & 0x01ffffff,
                         Qt::KeyboardModifiers(QKeySequence(keys)[0] & 0x0e000000), QString(), true);
-        QApplication::sendEvent(&board, &again);
+        QApplication::sendEvent(&shown, &again);
         EXPECT_EQ(moves, 2) << keys << " held down";
     }
     press("Ctrl+H");
-    EXPECT_EQ(board.zoom(), 1);
+    EXPECT_EQ(shown.zoom(), 1);
 
     QKeyEvent held(QEvent::KeyPress, Qt::Key_U, Qt::ShiftModifier, "U", true);
-    QApplication::sendEvent(&board, &held);
+    QApplication::sendEvent(&shown, &held);
     EXPECT_EQ(getUnit(view()), 0) << "a key held down switches nothing";
-    QStringList boxes;
-    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
-        boxes.append(message.text);
-        return Ext::MessageAnswer::Yes;
-    });
     std::string const layer =
         session.layers()[static_cast<std::size_t>(session.firstCopperLayer("pcb"))].info.name;
-    std::size_t const count = board.features().size();
+    std::size_t const count = shown.features().size();
     press("Ctrl+Z");
     ASSERT_TRUE(KVCAM::Embedded::deleteFeatures(session.job(), "pcb", layer, {0, 1}));
     press("Ctrl+F");
-    EXPECT_EQ(board.features().size(), count - 2);
+    EXPECT_EQ(shown.features().size(), count - 2);
     press("Ctrl+Z");
-    EXPECT_EQ(board.features().size(), count);
-    EXPECT_EQ(boxes, (QStringList{"There are no revocable actions!", "Are you sure to cancel?"}));
-    Ext::setMessagePresenter({});
+    EXPECT_EQ(shown.features().size(), count);
+    EXPECT_EQ(takeBoxes(), (QStringList{"There are no revocable actions!", "Are you sure to cancel?"}));
 }
 
 TEST_F(Keyboard, MeasuringTakesTwoPressesAndTheUnitOfTheView)
@@ -167,8 +154,7 @@ TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
 {
     open();
     std::string const before = state();
-    auto * board = window->findChild<QWidget *>("board");
-    QLineEdit field(board);
+    QLineEdit field(&board());
     field.show();
     field.setFocus();
     for (char const letter : {'s', 'g'}) {
@@ -259,11 +245,7 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
     writeFile(Ext::hotkeyFile, R"([{"func_name":"KP_Measure","Modifier":"Ctrl","key":"A"},
                                    {"func_name":"KP_Profile","Modifier":"Ctrl","key":"A"},
                                    {"func_name":"KP_Profil","Modifier":"Ctrl","key":"B"}])");
-    for (auto * button : sheet->findChildren<QPushButton *>()) {
-        if (button->text() == "Load the file again") {
-            button->click();
-        }
-    }
+    buttonOf(*sheet, "Load the file again").click();
     EXPECT_EQ(bindings.rowCount(), 2);
     EXPECT_TRUE(file.text().endsWith("holds 2 bindings. Findings: 42."));
     EXPECT_EQ(rowOf(findings, 0)[0], "2");

@@ -1,9 +1,10 @@
-#include "BoardView.h"
-#include "FeatureSelection.h"
-#include "FilterBar.h"
-#include "LayerTable.h"
-#include "ReferencesPage.h"
 #include "SampleWindow.h"
+#include "board/BoardView.h"
+#include "board/FeatureSelection.h"
+#include "layers/FilterBar.h"
+#include "layers/LayerTable.h"
+#include "layers/ReferencesPage.h"
+#include "window/BoardPage.h"
 
 #include <UIAPICommon.h>
 
@@ -25,8 +26,6 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include <utility>
-
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
@@ -34,38 +33,18 @@ namespace {
 
 using Request = QMap<QString, QString>;
 
-// A window on the sample job, whose boxes are answered with `answer`.
 class LayersOfAWindow : public SampleWindow
 {
 protected:
     void SetUp() override
     {
-        readSample();
+        SampleWindow::SetUp();
         for (Session::Layer & layer : session.layers()) {
             session.countFeatures(layer);
         }
-        Ext::setMessagePresenter([this](Ext::Message const & message) {
-            boxes.append(message.text);
-            return message.kind == Ext::MessageKind::Question ? answer : Ext::MessageAnswer::Ok;
-        });
-        showWindow();
-    }
-    void TearDown() override
-    {
-        EXPECT_EQ(boxes, QStringList()) << boxes.join('\n').toStdString();
-        Ext::setMessagePresenter({});
-    }
-
-    template <class Widget>
-    Widget & find(char const * name = "") const
-    {
-        return *window->findChild<Widget *>(name);
+        open();
     }
     QString explanation() const { return find<QLabel>("explanation").text(); }
-    QStringList takeBoxes() { return std::exchange(boxes, {}); }
-
-    QStringList boxes;
-    Ext::MessageAnswer answer = Ext::MessageAnswer::Yes;
 };
 
 // "5 9": the rows of the matrix that the table shows.
@@ -82,8 +61,8 @@ QString shownRows(LayerTable const & table)
 
 TEST_F(LayersOfAWindow, TheFilterBarShowsWhatItIsAskedForAndSaysWhyNot)
 {
-    auto & bar = *window->findChild<FilterBar *>();
-    auto & table = *window->findChild<LayerTable *>();
+    auto & bar = find<FilterBar>();
+    auto & table = find<LayerTable>();
     ASSERT_EQ(table.item(table.currentRow(), 1)->text(), "top");
     QString const all = shownRows(table);
     EXPECT_EQ(all.count(' '), 24);
@@ -134,8 +113,8 @@ TEST_F(LayersOfAWindow, TheFilterBarShowsWhatItIsAskedForAndSaysWhyNot)
 
 TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn)
 {
-    auto & bar = *window->findChild<FilterBar *>();
-    auto & table = *window->findChild<LayerTable *>();
+    auto & bar = find<FilterBar>();
+    auto & table = find<LayerTable>();
     auto const greyRows = [&table] {
         int rows = 0;
         for (int row = 0; row < table.rowCount(); ++row) {
@@ -173,17 +152,17 @@ TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn
 TEST_F(LayersOfAWindow, TypingInAFieldFiltersAndIsNoHotKey)
 {
     auto & type = find<QComboBox>("type");
-    SNAP_TYPE_MODE const snap = getSnapType(window->currentView()->handle());
+    SNAP_TYPE_MODE const snap = getSnapType(view());
     type.setFocus();
     QTest::keyClicks(type.lineEdit(), "sg");
     EXPECT_EQ(type.currentText(), "sg");
-    EXPECT_EQ(getSnapType(window->currentView()->handle()), snap);
-    EXPECT_EQ(shownRows(*window->findChild<LayerTable *>()), "");
+    EXPECT_EQ(getSnapType(view()), snap);
+    EXPECT_EQ(shownRows(find<LayerTable>()), "");
     type.setEditText({});
     QTest::keyClicks(type.lineEdit(), "signal|dr");
     QCompleter & completer = *type.completer();
     EXPECT_EQ(completer.currentCompletion(), "signal|drill");
-    EXPECT_EQ(shownRows(*window->findChild<LayerTable *>()), "5 9 11 13 15");
+    EXPECT_EQ(shownRows(find<LayerTable>()), "5 9 11 13 15");
     completer.popup()->hide();
 }
 
@@ -229,11 +208,11 @@ TEST_F(LayersOfAWindow, ThePageOfReferencesShowsAndChangesWhatTheLibraryKeeps)
               "renameReferenceLayer(\"demo-board\", \"other board\", \"pcb\", \"bottom\", \"l6\")");
     EXPECT_EQ(records.item(0, 2)->text(), "l6");
     EXPECT_EQ(layers.item(0)->text(), "l6"); // offered although the open job has none
-    answer = Ext::MessageAnswer::No;
+    answer = [] { return Ext::MessageAnswer::No; };
     choose("other board");
     click("delete");
     EXPECT_EQ(layersOf("pcb"), std::vector<std::string>{"l6"});
-    answer = Ext::MessageAnswer::Yes;
+    answer = [] { return Ext::MessageAnswer::Yes; };
     click("delete");
     EXPECT_TRUE(layersOf("pcb").empty());
     EXPECT_EQ(find<QLabel>("reference hint").text(), empty);
@@ -277,9 +256,8 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
         KVCAM::Embedded::setDatabaseFile("./uiapi-engine.sqlite");
         return KVCAM::Embedded::setSaveFlag(true);
     }());
-    BoardView & view = *window->currentView();
-    auto const & table = *window->findChild<LayerTable *>();
-    auto const & told = find<QLabel>("hot keys");
+    BoardView & view = *board().currentView();
+    auto const & table = find<LayerTable>();
     auto const state = [&] { // drawn, counted, to undo
         return QString("%1 %2 %3")
             .arg(view.features().size())
@@ -288,7 +266,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     };
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_Delete);
-    EXPECT_EQ(told.text(), "Nothing is selected: Ctrl and a click selects a feature.");
+    EXPECT_EQ(status(), "Nothing is selected: Ctrl and a click selects a feature.");
 
     FeatureShape const & pad = view.shapes().back();
     view.centreOn(pad.box.center().x(), pad.box.center().y());
@@ -300,27 +278,27 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     EXPECT_TRUE(view.selected().empty()) << "the second click takes it out";
     QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);
     QTest::keyClick(&view, Qt::Key_Delete);
-    EXPECT_EQ(told.text(), "Deleted features: 1");
+    EXPECT_EQ(status(), "Deleted features: 1");
     EXPECT_EQ(state(), "179 179 1");
     EXPECT_TRUE(view.selected().empty());
     view.select({1});
     view.reload();
     EXPECT_TRUE(view.selected().empty());
     QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(told.text(), "Select all: selected features: 179");
+    EXPECT_EQ(status(), "Select all: selected features: 179");
     QTest::keyClick(&view, Qt::Key_Delete);
     EXPECT_EQ(state(), "0 0 2");
     EXPECT_EQ(queried("SELECT layer FROM operation"), (QStringList{"top", "top"}));
 
     QAction const & undoEntry = *window->menuBar()->actions()[1]->menu()->actions().front();
     EXPECT_EQ(undoEntry.text(), "Undo (2)\tCtrl+Z");
-    answer = Ext::MessageAnswer::No;
+    answer = [] { return Ext::MessageAnswer::No; };
     QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(state(), "0 0 2");
-    answer = Ext::MessageAnswer::Yes;
+    answer = [] { return Ext::MessageAnswer::Yes; };
     QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(state(), "179 179 1");
-    EXPECT_EQ(told.text(), "Undo: operations left: 1");
+    EXPECT_EQ(status(), "Undo: operations left: 1");
     window->menuBar()->actions()[1]->menu()->actions().front()->trigger();
     EXPECT_EQ(state(), "180 180 0");
     EXPECT_EQ(undoEntry.text(), "Undo (0)\tCtrl+Z");

@@ -1,10 +1,10 @@
-#include "CommandLine.h"
-#include "JobLoading.h"
-#include "LayerTable.h"
-#include "Session.h"
-#include "SettingsPage.h"
-#include "TemplatesPage.h"
 #include "TestFiles.h"
+#include "job/CommandLine.h"
+#include "job/JobLoading.h"
+#include "job/Session.h"
+#include "layers/LayerTable.h"
+#include "pages/SettingsPage.h"
+#include "pages/TemplatesPage.h"
 
 #include <UIAPICommon.h>
 
@@ -44,10 +44,8 @@ QStringList userFiles()
     QStringList result;
     QDir const folder("autoMatrix");
     for (QString const & name : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         QStringList names;
-        for (auto const & each : QJsonDocument::fromJson(file.readAll()).object()["template"].toArray()) {
+        for (auto const & each : readObject(folder.filePath(name))["template"].toArray()) {
             names.append(each.toObject()["name"].toString());
         }
         result.append(name + ": " + names.join(", "));
@@ -76,11 +74,7 @@ QStringList use(TemplatesPage & page, int row, QString const & name, QString con
     if (!name.isEmpty()) {
         page.findChild<QLineEdit *>("name")->setText(name);
     }
-    for (auto * each : page.findChildren<QPushButton *>()) {
-        if (each->text() == button) {
-            each->click();
-        }
-    }
+    buttonOf(page, button).click();
     Ext::setMessagePresenter({});
     return boxes;
 }
@@ -208,15 +202,12 @@ TEST(Settings, WhatTheFileDoesNotHoldIsNotCalledSaved)
 
 TEST(DamagedLayers, AreToldAndNotCountedAsEmpty)
 {
-    QByteArray matrix = "STEP {\nCOL=1\nNAME=PCB\n}\n";
-    char const * const names[] = {"good", "empty", "broken", "packed", "tools"};
-    for (int row = 1; row <= 5; ++row) {
-        matrix += "LAYER {\nROW=" + QByteArray::number(row) +
-                  "\nCONTEXT=BOARD\nTYPE=SIGNAL\nNAME=" + names[row - 1] + "\nPOLARITY=POSITIVE\n}\n";
-    }
     QByteArray const pad = "UNITS=MM\n$0 r100\nP 0 0 0 P 0 0\n";
-    writeFile("tiny/matrix/matrix", matrix);
-    writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+    writeJob("tiny", {{"SIGNAL", "good"},
+                      {"SIGNAL", "empty"},
+                      {"SIGNAL", "broken"},
+                      {"SIGNAL", "packed"},
+                      {"SIGNAL", "tools"}});
     writeFile("tiny/steps/pcb/layers/good/features", pad);
     writeFile("tiny/steps/pcb/layers/broken/features", pad + "P 0 zero 0 P 0 0\n");
     writeFile("tiny/steps/pcb/layers/packed/features.Z", "\x1f\x9d");

@@ -1,10 +1,11 @@
-#include "BoardView.h"
-#include "FeatureShapes.h"
-#include "PadSymbol.h"
-#include "Session.h"
-#include "SettingsPage.h"
-#include "TemplatesPage.h"
 #include "TestFiles.h"
+#include "board/BoardTexts.h"
+#include "board/BoardView.h"
+#include "board/FeatureShapes.h"
+#include "feature/PadSymbol.h"
+#include "job/Session.h"
+#include "pages/SettingsPage.h"
+#include "pages/TemplatesPage.h"
 
 #include <UIAPICommon.h>
 
@@ -28,23 +29,6 @@ using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
 namespace {
-
-QJsonObject readFile(QString const & path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
-}
-
-void click(QWidget & page, QString const & text)
-{
-    for (auto * button : page.findChildren<QPushButton *>()) {
-        if (button->text() == text) {
-            button->click();
-            return;
-        }
-    }
-    FAIL() << "no button " << text.toStdString();
-}
 
 TEST(PadSymbols, AreConvertedFromWhatWasTyped)
 {
@@ -119,8 +103,7 @@ class Boards : public ::testing::Test
 protected:
     void SetUp() override
     {
-        QString const error = session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board");
-        ASSERT_EQ(error, "");
+        ASSERT_EQ(session.open(sampleJob), "");
         view = std::make_unique<BoardView>(session.job(), session.steps()[0].name, 0);
         view->resize(800, 600);
         auto const layer = static_cast<std::size_t>(session.firstCopperLayer(session.steps()[0].name));
@@ -133,9 +116,9 @@ protected:
 
 TEST_F(Boards, APlaceIsShownInTheUnitOfTheView)
 {
-    EXPECT_EQ(view->positionText(25400, -12700), "x 1.000 y -0.500 inch");
+    EXPECT_EQ(positionText(view->handle(), 25400, -12700), "x 1.000 y -0.500 inch");
     setUnit(view->handle(), 1);
-    EXPECT_EQ(view->positionText(25400, -12700), "x 25.400 y -12.700 mm");
+    EXPECT_EQ(positionText(view->handle(), 25400, -12700), "x 25.400 y -12.700 mm");
     EXPECT_EQ(KVCAM::Embedded::liveState().show.unit, 1);
 }
 
@@ -152,9 +135,7 @@ TEST_F(Boards, TheLibraryHoldsThePointersPlace)
 
 TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
 {
-    writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\n"
-                                    "NAME=TOP\nPOLARITY=POSITIVE\nOLD_NAME=\n}\n");
-    writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+    writeJob("tiny", {{"SIGNAL", "TOP"}});
     writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 rect2000x1000\n$1 r100\n"
                                                     "$2 thr1000x600x45x4x100\n$3 moire9x9x3x9x2000x0\n"
                                                     "P 0 0 0 P 0 0\n"
@@ -203,8 +184,8 @@ TEST(ConfigurationPages, AnEditedSettingIsSavedAndReachesTheEngine)
     EXPECT_EQ(threads->value(), 3);
     threads->setValue(5);
     emit threads->editingFinished();
-    EXPECT_EQ(readFile("config/server.json")["ThreadCount"].toInt(), 5);
-    EXPECT_EQ(readFile("config/server.json.bak")["Note"].toString(), "kept in the backup");
+    EXPECT_EQ(readObject("config/server.json")["ThreadCount"].toInt(), 5);
+    EXPECT_EQ(readObject("config/server.json.bak")["Note"].toString(), "kept in the backup");
     EXPECT_EQ(KVCAM::Embedded::liveState().threadCount, 5);
 }
 
@@ -213,13 +194,13 @@ TEST(ConfigurationPages, ATemplateIsSavedAsAFileOfItsOwnAndDeleted)
     writeFile("config/automatrix.json", R"({"template": [
         {"name": "a: b", "prefix": {"drill": "dr"}, "suffix": {}}]})");
     TemplatesPage page;
-    click(page, "Save as new");
+    buttonOf(page, "Save as new").click();
     EXPECT_EQ(getAutoMatrixTmpMap().at(2).prefix_drill, "dr");
     EXPECT_EQ(getAutoMatrixTmpMap().at(2).name, "a: b 2");
     EXPECT_TRUE(QFile::exists("autoMatrix/a_ b 2.json")); // a file name holds no colon
-    click(page, "Use as current");
+    buttonOf(page, "Use as current").click();
     EXPECT_EQ(getCurrentAutoMatrixTmp().name, "a: b 2");
-    click(page, "Delete");
+    buttonOf(page, "Delete").click();
     EXPECT_EQ(getAutoMatrixTmpMap().size(), 1U);
     EXPECT_FALSE(QFile::exists("autoMatrix/a_ b 2.json"));
 }

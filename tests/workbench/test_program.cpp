@@ -1,3 +1,5 @@
+#include "TestFiles.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -11,6 +13,8 @@
 #include <QSet>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+
+using namespace Workbench;
 
 namespace {
 
@@ -50,14 +54,9 @@ Result run(QStringList const & arguments)
     return result;
 }
 
-QString sampleJob()
-{
-    return UIAPI_SOURCE_DIR "/samples/jobs/demo-board";
-}
-
 Result runSample(QStringList const & options = {})
 {
-    Result result = run(QStringList{sampleJob(), "--headless", "--output", "out"} + options);
+    Result result = run(QStringList{sampleJob, "--headless", "--output", "out"} + options);
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     return result;
 }
@@ -80,8 +79,7 @@ int shownUnit(QJsonValue const & engine)
 TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
 {
     QDir().mkpath("empty");
-    QFile file("file");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    writeFile("file", "");
     struct
     {
         QStringList arguments;
@@ -90,13 +88,13 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         {{"nowhere", "--headless"}, "no such directory"},
         {{"empty", "--headless"}, "matrix"},
         {{"--headless"}, "no job directory"},
-        {{sampleJob(), "--headless", "--unit", "furlong"}, "furlong"},
-        {{sampleJob(), "--headless", "--wings"}, "wings"},
-        {{sampleJob(), "--headless", "--step", "attic"}, "no step \"attic\""},
-        {{sampleJob(), "--headless", "--report", "report.txt"}, "report.txt"},
-        {{sampleJob(), "--headless", "--output", "file"}, "cannot write to \""},
+        {{sampleJob, "--headless", "--unit", "furlong"}, "furlong"},
+        {{sampleJob, "--headless", "--wings"}, "wings"},
+        {{sampleJob, "--headless", "--step", "attic"}, "no step \"attic\""},
+        {{sampleJob, "--headless", "--report", "report.txt"}, "report.txt"},
+        {{sampleJob, "--headless", "--output", "file"}, "cannot write to \""},
 #ifdef Q_OS_LINUX // a directory that takes no files from anybody
-        {{sampleJob(), "--headless", "--output", "/proc"}, "cannot write to \""},
+        {{sampleJob, "--headless", "--output", "/proc"}, "cannot write to \""},
 #endif
     };
     for (auto const & item : cases) {
@@ -111,17 +109,8 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
 TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
 {
     QDir().mkpath("out/settings.png");
-    QDir().mkpath("job/steps/pcb/layers/top");
-    QDir().mkpath("job/matrix");
-    QFile matrix("job/matrix/matrix");
-    ASSERT_TRUE(matrix.open(QIODevice::WriteOnly));
-    matrix.write("STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\nNAME=TOP\n"
-                 "POLARITY=POSITIVE\n}\n");
-    matrix.close();
-    QFile features("job/steps/pcb/layers/top/features");
-    ASSERT_TRUE(features.open(QIODevice::WriteOnly));
-    features.write("P nonsense\n");
-    features.close();
+    writeJob("job", {{"SIGNAL", "TOP"}});
+    writeFile("job/steps/pcb/layers/top/features", "P nonsense\n");
     Result const result = run({"job", "--headless", "--output", "out", "--summary", "sum.json"});
     EXPECT_EQ(result.exitCode, 1) << result.err.toStdString();
     QJsonArray const errors = result.facts["errors"].toArray();
@@ -193,10 +182,8 @@ TEST(Workbench, TheSummaryOfTheSampleJobHasTheFiguresOfItsFiles)
         EXPECT_GT(analysis["counts"].toObject()[severity].toInt(), 0) << severity;
     }
 
-    QFile file("sum.json");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QMap<QString, QString> rows;
-    QJsonArray const summary = QJsonDocument::fromJson(file.readAll()).array();
+    QJsonArray const summary = QJsonDocument::fromJson(readFile("sum.json")).array();
     EXPECT_EQ(summary.size(), 49);
     for (auto const & row : summary) {
         QString const key = row.toObject().keys().first();
@@ -260,11 +247,7 @@ TEST(Workbench, TheFormComesBackOnTheSecondRunInItsOwnUnit)
 
 TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
 {
-    QDir().mkpath("site/settings");
-    QFile file("site/settings/server.json");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(R"({"ThreadCount": 6, "Colour": "blue"})");
-    file.close();
+    writeFile("site/settings/server.json", R"({"ThreadCount": 6, "Colour": "blue"})");
     QJsonObject const facts = runSample({"--config", "site/settings"}).facts["configuration"].toObject();
     EXPECT_EQ(facts["threads"].toInt(), 6);
     QStringList keys;
@@ -274,7 +257,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
     EXPECT_TRUE(keys.contains("Colour")) << keys.join(' ').toStdString();
     EXPECT_FALSE(QDir("out/workbench-session").exists());
 
-    EXPECT_EQ(run({sampleJob(), "--headless", "--config", "nowhere"}).exitCode, 2);
+    EXPECT_EQ(run({sampleJob, "--headless", "--config", "nowhere"}).exitCode, 2);
 }
 
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)

@@ -1,4 +1,4 @@
-#include "ReferenceBook.h"
+#include "layers/ReferenceBook.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,12 @@
-#include "BoardView.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "ResultsModel.h"
-#include "ResultsPage.h"
 #include "TestFiles.h"
-#include "TrackWidthChart.h"
+#include "board/BoardView.h"
+#include "checks/ResultFiles.h"
+#include "checks/ResultsModel.h"
+#include "checks/ResultsPage.h"
+#include "checks/TrackWidthChart.h"
+#include "ui/LogPane.h"
+#include "window/BoardPage.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -31,23 +33,11 @@ namespace {
 constexpr char const * topFeatures = "UNITS=MM\n$0 r100\n$1 r127\n$2 r200\n"
                                      "L 0 2 10 2 2 P 0\nL 0 1 10 1 1 P 0\nL 0 0 10 0 0 P 0\n";
 
-QByteArray layer(char const * type, char const * name, int row)
-{
-    return "LAYER {\nROW=" + QByteArray::number(row) + "\nCONTEXT=BOARD\nTYPE=" + type + "\nNAME=" + name +
-           "\nPOLARITY=POSITIVE\n}\n";
-}
-
-QString readFile(QString const & path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : "no file";
-}
-
 // The objects of the summary by their keys.
 QJsonObject summaryIn(QString const & path)
 {
     QJsonObject rows;
-    for (auto const & row : QJsonDocument::fromJson(readFile(path).toUtf8()).array()) {
+    for (auto const & row : QJsonDocument::fromJson(readFile(path)).array()) {
         QString const key = row.toObject().keys().value(0);
         rows[key] = row.toObject()[key].toObject()["result"];
     }
@@ -68,9 +58,7 @@ class Results : public ::testing::Test
 protected:
     void SetUp() override
     {
-        writeFile("tiny/matrix/matrix", "STEP {\nCOL=1\nNAME=PCB\n}\n" + layer("SIGNAL", "TOP", 1) +
-                                            layer("SIGNAL", "BOT", 2) + layer("ROUT", "CUTS", 3));
-        writeFile("tiny/steps/pcb/stephdr", "UNITS=MM\n");
+        writeJob("tiny", {{"SIGNAL", "TOP"}, {"SIGNAL", "BOT"}, {"ROUT", "CUTS"}});
         writeFile("tiny/steps/pcb/layers/top/features", topFeatures);
         writeFile("tiny/steps/pcb/layers/cuts/features", "UNITS=MM\n$0 r800\nL 0 5 2 5 0 P 0\n");
     }
@@ -139,7 +127,7 @@ TEST_F(Results, AreFiledAndSummarised)
     EXPECT_FALSE(button("summary").isEnabled());
     commandLine.summary = "summary.json";
     commandLine.reports = QStringList{"report.json", "report.csv", "nowhere/report.csv"};
-    WrittenResults const written = window->writeResults(commandLine);
+    WrittenResults const written = writeResults(window->results(), commandLine);
     EXPECT_EQ(written.files, (QStringList{"summary.json", "report.json", "report.csv"}));
     EXPECT_EQ(written.errors, QStringList{"The file \"nowhere/report.csv\" cannot be written."});
     EXPECT_EQ(text("note"), "No levels: everything is shown without colour.");
@@ -175,7 +163,7 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     EXPECT_EQ(tracks()[4], "3|● G|7.87|8|0.197, 0.079");
     EXPECT_TRUE(text("levels hint").startsWith("Not saved")) << text("levels hint").toStdString();
 
-    setUnit(window->currentView()->handle(), 1);
+    setUnit(window->board().currentView()->handle(), 1);
     EXPECT_EQ(header(ResultsModel::Measured), "Measured (my)");
     EXPECT_EQ(tracks(), (QStringList{"Lines|✖ R|100|101.6 / 127 / 203.2|", "top|✖ R|100||",
                                      "1|✖ R|100|101.6|5.000, 0.000", "2|▲ Y|127|127|5.000, 1.000",
@@ -192,10 +180,7 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     button("save levels").click();
     EXPECT_FALSE(button("save levels").isEnabled());
     QJsonObject const saved =
-        QJsonDocument::fromJson(readFile("config/ranges/mine/SignalLayerRanges.json").toUtf8())
-            .object()["rangesList"]
-            .toArray()[0]
-            .toObject();
+        readObject("config/ranges/mine/SignalLayerRanges.json")["rangesList"].toArray()[0].toObject();
     EXPECT_EQ(saved, (QJsonObject{{"name", "Lines"}, {"RedLv", "4"}, {"YellowLv", "3"}, {"GreenLv", "8"}}));
 }
 
@@ -205,12 +190,12 @@ TEST_F(Results, AMeasurementIsMarkedOnTheBoard)
     open();
     ASSERT_TRUE(page().runChecks());
     ASSERT_TRUE(page().showCheck(signalTable, linesNumber));
-    auto const & marks = window->currentView()->marks();
+    auto const & marks = window->board().currentView()->marks();
     ASSERT_EQ(marks.size(), 1U);
     EXPECT_EQ(QPointF(marks[0].x, marks[0].y), QPointF(5000, 0)); // the middle of the narrowest track
     EXPECT_EQ(marks[0].letter, "R");
     EXPECT_EQ(marks[0].toolTip, "Lines: 3.94 mil");
-    EXPECT_EQ(window->currentView()->layer(), "top");
+    EXPECT_EQ(window->board().currentView()->layer(), "top");
     EXPECT_FALSE(page().showCheck(signalTable, 3)); // needs a net list
 }
 
@@ -234,7 +219,7 @@ TEST_F(Results, OfADamagedJobAreAClearMessage)
     writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 r100\nL 0 0 ten 0 0 P 0\n");
     open();
     commandLine.summary = "summary.json";
-    WrittenResults const written = window->writeResults(commandLine);
+    WrittenResults const written = writeResults(window->results(), commandLine);
     EXPECT_EQ(written.files, QStringList());
     ASSERT_EQ(written.errors.size(), 1);
     EXPECT_TRUE(written.errors[0].startsWith("the checks failed: ")) << written.errors[0].toStdString();

@@ -1,11 +1,16 @@
-#include "BoardView.h"
-#include "CommandLine.h"
-#include "FeatureDialog.h"
-#include "LayerTable.h"
-#include "LogPane.h"
-#include "MainWindow.h"
-#include "Session.h"
+#include "SampleWindow.h"
 #include "TestFiles.h"
+#include "board/BoardView.h"
+#include "checks/ResultFiles.h"
+#include "checks/ResultsPage.h"
+#include "feature/FeatureDialog.h"
+#include "job/CommandLine.h"
+#include "job/Session.h"
+#include "layers/LayerTable.h"
+#include "ui/LogPane.h"
+#include "window/BoardPage.h"
+#include "window/CheatSheet.h"
+#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -18,6 +23,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QSet>
@@ -25,33 +31,18 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
 
-#include <memory>
+#include <functional>
+#include <utility>
 
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
 namespace {
 
-class MainWindows : public ::testing::Test
-{
-protected:
-    void SetUp() override { ASSERT_EQ(session.open(UIAPI_SOURCE_DIR "/samples/jobs/demo-board"), ""); }
-
-    std::unique_ptr<MainWindow> open()
-    {
-        CommandLine commandLine;
-        commandLine.output = ".";
-        auto window = std::make_unique<MainWindow>(session, log, commandLine);
-        window->show();
-        window->activateWindow();
-        QApplication::processEvents();
-        return window;
-    }
-
-    Session session;
-    LogLines log;
-};
+using MainWindows = SampleWindow;
 
 QTabWidget & pages(MainWindow & window)
 {
@@ -60,29 +51,27 @@ QTabWidget & pages(MainWindow & window)
 
 TEST_F(MainWindows, AWindowComesBackAsItWasClosed)
 {
-    QList<int> sizes;
-    {
-        auto const window = open();
-        window->useStateFile("./state.ini", false);
-        window->resize(1100, 800);
-        window->findChild<QSplitter *>("sides")->setSizes({300, 500, 300});
-        sizes = window->findChild<QSplitter *>("sides")->sizes();
-        window->showPage("templates");
-        setUnit(window->currentView()->handle(), 1);
-        window->setLanguage(LANGUAGE_CHINESE);
-        window->close();
-    }
-    auto const window = open();
+    open();
+    window->useStateFile("./state.ini", false);
+    window->resize(1100, 800);
+    find<QSplitter>("sides").setSizes({300, 500, 300});
+    QList<int> const sizes = find<QSplitter>("sides").sizes();
+    window->showPage("templates");
+    setUnit(view(), 1);
+    window->setLanguage(LANGUAGE_CHINESE);
+    window->close();
+    window.reset();
+    open();
     window->setLanguage(LANGUAGE_ENGLISH);
     window->useStateFile("./state.ini", false);
     EXPECT_EQ(window->size(), QSize(1100, 800));
-    EXPECT_EQ(window->findChild<QSplitter *>("sides")->sizes(), sizes);
+    EXPECT_EQ(find<QSplitter>("sides").sizes(), sizes);
     EXPECT_EQ(pages(*window).currentWidget()->objectName(), "templates");
-    EXPECT_EQ(getUnit(window->currentView()->handle()), 1);
-    EXPECT_EQ(window->findChild<QComboBox *>()->currentData().toInt(), LANGUAGE_CHINESE);
-    auto const other = open(); // started with a unit of its own
+    EXPECT_EQ(getUnit(view()), 1);
+    EXPECT_EQ(find<QComboBox>().currentData().toInt(), LANGUAGE_CHINESE);
+    auto const other = makeWindow(); // started with a unit of its own
     other->useStateFile("./state.ini", true);
-    EXPECT_EQ(getUnit(other->currentView()->handle()), 0);
+    EXPECT_EQ(getUnit(other->board().currentView()->handle()), 0);
 }
 
 TEST_F(MainWindows, ADamagedStateChangesNothing)
@@ -94,20 +83,18 @@ TEST_F(MainWindows, ADamagedStateChangesNothing)
         "[splitters]\nsides=@ByteArray(more)\n",
         "[window]\ngeometry=@Variant(\\0\\0\\0\\x7f)\nunit=@Invalid()\npage=@Size(1 2)\n",
     };
-    auto const fresh = open();
+    auto const fresh = makeWindow();
     for (char const * state : states) {
         writeFile("state.ini", state);
-        auto const window = open();
+        open();
         window->useStateFile("./state.ini", false);
         EXPECT_EQ(window->size(), fresh->size()) << state;
-        EXPECT_EQ(window->findChild<QSplitter *>("sides")->sizes(),
-                  fresh->findChild<QSplitter *>("sides")->sizes())
-            << state;
+        EXPECT_EQ(find<QSplitter>("sides").sizes(), fresh->findChild<QSplitter *>("sides")->sizes()) << state;
         EXPECT_EQ(pages(*window).currentIndex(), 0) << state;
-        EXPECT_EQ(getUnit(window->currentView()->handle()), 0) << state;
+        EXPECT_EQ(getUnit(view()), 0) << state;
     }
     QDir().mkpath("folder.ini");
-    auto const window = open();
+    open();
     window->useStateFile("./folder.ini", false);
     window->close();
     QApplication::processEvents();
@@ -116,7 +103,7 @@ TEST_F(MainWindows, ADamagedStateChangesNothing)
 
 TEST_F(MainWindows, TabReachesEveryControlOfEveryPage)
 {
-    auto const window = open();
+    open();
     for (int page = 0; page < pages(*window).count(); ++page) {
         pages(*window).setCurrentIndex(page);
         QApplication::processEvents();
@@ -142,7 +129,7 @@ TEST_F(MainWindows, TabReachesEveryControlOfEveryPage)
 
 TEST_F(MainWindows, ShortcutsAreFunctionKeysAndMnemonicsAreUnique)
 {
-    auto const window = open();
+    open();
     QStringList keys;
     for (QAction const * action : window->findChildren<QAction *>()) {
         for (QKeySequence const & key : action->shortcuts()) {
@@ -196,8 +183,8 @@ QStringList shownTexts(QWidget & window)
 
 TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
 {
-    auto const window = open();
-    FeatureDialog & dialog = *window->openFeature(0);
+    open();
+    FeatureDialog & dialog = *board().openFeature(0);
     QStringList const english = shownTexts(*window) + shownTexts(dialog);
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
@@ -219,29 +206,29 @@ TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
 
 TEST_F(MainWindows, ANegativePadStaysNegativeInTheOtherLanguage)
 {
-    auto const window = open();
-    window->openFeature(0)->findChild<QComboBox *>("polarity")->setCurrentIndex(1);
+    open();
+    board().openFeature(0)->findChild<QComboBox *>("polarity")->setCurrentIndex(1);
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
-    FeatureDialog const & again = *window->openFeature(0); // in place of the one before, which is saved
+    FeatureDialog const & again = *board().openFeature(0); // in place of the one before, which is saved
     EXPECT_EQ(again.findChild<QComboBox *>("polarity")->currentIndex(), 1);
     window->setLanguage(LANGUAGE_ENGLISH);
     QApplication::processEvents();
-    FeatureDialog const & third = *window->openFeature(0);
+    FeatureDialog const & third = *board().openFeature(0);
     EXPECT_EQ(third.findChild<QComboBox *>("polarity")->currentIndex(), 1);
 }
 
 TEST_F(MainWindows, TickedLayersAreDrawnInEveryStep)
 {
-    auto const window = open();
-    auto & layers = *window->findChild<LayerTable *>();
+    open();
+    auto & layers = find<LayerTable>();
     EXPECT_TRUE(layers.tickedLayers().empty());
     layers.setCurrentCell(6, 1);
     QTest::keyClick(&layers, Qt::Key_Space);
     layers.setCurrentCell(14, 1);
     QTest::keyClick(&layers, Qt::Key_Space);
     EXPECT_EQ(layers.tickedLayers(), (std::vector<std::size_t>{6, 14}));
-    auto & steps = *qobject_cast<QTabWidget *>(window->views()[0]->parentWidget()->parentWidget());
+    auto & steps = *qobject_cast<QTabWidget *>(board().views()[0]->parentWidget()->parentWidget());
     steps.setCurrentIndex(1);
     EXPECT_EQ(layers.tickedLayers(), (std::vector<std::size_t>{6, 14}));
     QTest::keyClick(&layers, Qt::Key_Space);
@@ -251,6 +238,99 @@ TEST_F(MainWindows, TickedLayersAreDrawnInEveryStep)
     EXPECT_EQ(layers.tickedLayers().size(), session.layers().size() - 1);
     layers.tickAll(false);
     EXPECT_TRUE(layers.tickedLayers().empty());
+}
+
+// Shows progress at once, and calls a function when its window handles events.
+class AtProgress : public QObject
+{
+public:
+    explicit AtProgress(std::function<void()> act) : m_act(std::move(act)) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject * watched, QEvent * event) override
+    {
+        auto * progress = qobject_cast<KVProgressDialog *>(watched);
+        if (progress != nullptr && event->type() == QEvent::WindowTitleChange) {
+            progress->setMinimumDuration(0);
+            QTimer::singleShot(0, m_act);
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_act;
+};
+
+TEST_F(MainWindows, AreDeletedWhileTheyAskAndNothingIsDone)
+{
+    writeFile("autoMatrix/mine.json", R"({"template": [{"name": "mine", "prefix": {}, "suffix": {}}]})");
+    struct
+    {
+        char const * what;
+        std::function<void()> ask;
+        int boxes;
+    } const rows[] = {
+        {"undo by its key",
+         [this] { QTest::keyPress(window->windowHandle(), Qt::Key_Z, Qt::ControlModifier); }, 1},
+        {"undo in the menu",
+         [this] { window->menuBar()->actions()[1]->menu()->actions().front()->trigger(); }, 1},
+        {"deleting a reference",
+         [this] {
+             find<QListWidget>("reference layers").item(0)->setCheckState(Qt::Checked);
+             find<QPushButton>("add").click();
+             auto & tree = find<QTreeWidget>("kept references");
+             tree.setCurrentItem(tree.topLevelItem(0));
+             find<QPushButton>("delete").click();
+         },
+         1},
+        {"a template that stays",
+         [this] {
+             QFile::remove("autoMatrix/mine.json");
+             QDir().mkpath("autoMatrix/mine.json");
+             auto & page = find<QWidget>("templates");
+             auto & list = *page.findChild<QTableWidget *>();
+             list.selectRow(list.rowCount() - 1);
+             buttonOf(page, "Delete").click();
+         },
+         1},
+        {"an illegal size",
+         [this] {
+             auto & width = *board().openFeature(0)->findChild<KVLineEdit *>("width");
+             width.selectAll();
+             QTest::keyClicks(&width, "90000*2");
+             QTest::keyClick(&width, Qt::Key_Return);
+             QApplication::processEvents();
+         },
+         1},
+        {"files to attach", [this] { buttonOf(*board().openFeature(0), "Attach files").click(); }, 0},
+        {"a file for the keys", [this] { buttonOf(*window->showKeys(), "Export...").click(); }, 0},
+        {"a file for the report",
+         [this] {
+             window->results().runChecks();
+             find<QPushButton>("report").click();
+         },
+         0},
+        {"checks",
+         [this] {
+             AtProgress const filter([this] { window.reset(); });
+             EXPECT_EQ(writeResults(window->results(), {}).errors, QStringList("the checks were stopped"));
+         },
+         0},
+    };
+    answer = [this] {
+        window.reset();
+        return Ext::MessageAnswer::Yes;
+    };
+    for (auto const & row : rows) {
+        open();
+        row.ask();
+        EXPECT_EQ(takeBoxes().size(), row.boxes) << row.what;
+        EXPECT_EQ(window == nullptr, row.boxes != 0 || row.what == QString("checks")) << row.what;
+        bool const isAsking = QApplication::activeModalWidget() != nullptr;
+        EXPECT_EQ(isAsking, window != nullptr) << row.what;
+        window.reset();
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(getReferenceLayerInfo("demo-board", "pcb").size(), 1U);
 }
 
 } // namespace

@@ -1,0 +1,395 @@
+#include "board/BoardView.h"
+
+#include "board/BoardTexts.h"
+#include "ui/LanguageChange.h"
+
+#include <UIAPICommon.h>
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Workbench {
+
+namespace {
+
+using namespace KVCAM::UIAPI;
+
+constexpr double zoomStep = 1.5;   // of a key
+constexpr double wheelStep = 1.25; // of a notch of the wheel
+constexpr double panStep = 0.1;    // of a key, in widths of the view
+constexpr double closeZoom = 4;    // at which a place is looked at
+constexpr double reach = 3;        // pixels beside a feature that still select it
+constexpr int slice = 25;          // milliseconds of drawing before the program looks for events again
+
+} // namespace
+
+BoardView::BoardView(std::string job, std::string step, int unit, QWidget * parent)
+    : QWidget(parent)
+    , m_job(std::move(job))
+    , m_step(std::move(step))
+    , m_shown(std::make_shared<LayerShapes>())
+{
+    setMouseTracking(true);
+    setMinimumSize(320, 260);
+    setCursor(Qt::CrossCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setTextsNowAndLater(*this, [this] {
+        setAccessibleName(tr("Board picture"));
+        update(); // the text of an empty picture
+    });
+
+    for (auto const & outline : KVCAM::Embedded::profileOutlines(m_job, m_step)) {
+        QPolygonF polygon;
+        for (point const & corner : outline) {
+            polygon << QPointF(corner.x, corner.y);
+        }
+        m_profile.addPolygon(polygon);
+        m_profile.closeSubpath();
+    }
+    Step_Config config;
+    config.view = handle();
+    config.show_param.unit = unit;
+    insertStepConfig(config);
+    connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, [this](void const * view) {
+        if (view == handle()) {
+            update();
+        }
+    });
+    m_goOn.setSingleShot(true);
+    connect(&m_goOn, &QTimer::timeout, this, &BoardView::goOnWithPicture);
+}
+
+void BoardView::showLayer(layer_info const & layer)
+{
+    m_shown = shapesOf(layer);
+    m_marked = -1;
+    m_selected.clear();
+    updateLayers();
+}
+
+void BoardView::showBackgroundLayers(std::vector<layer_info> layers)
+{
+    m_background = std::move(layers);
+    updateLayers();
+}
+
+void BoardView::reload()
+{
+    m_known.clear();
+    m_selected.clear();
+    if (!layer().empty()) {
+        m_shown = shapesOf(layer_info(m_shown->info()));
+    }
+    updateLayers();
+}
+
+std::shared_ptr<LayerShapes const> BoardView::shapesOf(layer_info const & layer)
+{
+    auto & known = m_known[layer.name];
+    if (known == nullptr) {
+        known = std::make_shared<LayerShapes const>(m_job, m_step, layer);
+    }
+    return known;
+}
+
+void BoardView::updateLayers()
+{
+    QRectF extent = m_profile.boundingRect();
+    if (extent.isEmpty()) { // a step without a profile is shown as large as its features
+        extent = m_shown->extent();
+    }
+    m_port.setSize(size());
+    m_port.setExtent(extent);
+    changePort();
+}
+
+QString BoardView::emptyText() const
+{
+    bool const isEmpty = features().empty() && m_background.empty();
+    return isEmpty ? emptyLayerText(*m_shown) : QString();
+}
+
+void BoardView::markFeature(int feature)
+{
+    m_marked = feature;
+    update();
+}
+
+void BoardView::select(FeatureSelection::Set features)
+{
+    m_selected = std::move(features);
+    update();
+}
+
+void BoardView::setMarks(std::vector<Mark> marks)
+{
+    m_marks = std::move(marks);
+    update();
+}
+
+void BoardView::centreOn(double x, double y)
+{
+    if (std::isfinite(x) && std::isfinite(y)) {
+        m_port.zoomAbout(QRectF(rect()).center(), std::max(closeZoom / zoom(), 1.0));
+        m_port.centreOn({x, y});
+        changePort();
+    }
+}
+
+void BoardView::zoomHome()
+{
+    m_port.home();
+    changePort();
+}
+
+void BoardView::zoomFit()
+{
+    QRectF extent = m_shown->extent();
+    for (layer_info const & layer : m_background) {
+        extent |= shapesOf(layer)->extent();
+    }
+    m_port.show(extent);
+    changePort();
+}
+
+void BoardView::zoomIn()
+{
+    m_port.zoomAbout(QRectF(rect()).center(), zoomStep);
+    changePort();
+}
+
+void BoardView::zoomOut()
+{
+    m_port.zoomAbout(QRectF(rect()).center(), 1 / zoomStep);
+    changePort();
+}
+
+void BoardView::pan(QPointF fraction)
+{
+    m_port.drag({-fraction.x() * width(), fraction.y() * height()});
+    changePort();
+}
+
+void BoardView::changePort()
+{
+    m_isStale = true;
+    update();
+    emit portChanged();
+}
+
+void BoardView::beginPicture()
+{
+    m_isStale = false;
+    std::vector<std::shared_ptr<LayerShapes const>> layers;
+    for (auto layer = m_background.rbegin(); layer != m_background.rend(); ++layer) {
+        if (layer->name != m_shown->info().name) {
+            layers.push_back(shapesOf(*layer));
+        }
+    }
+    layers.push_back(m_shown);
+    m_known.clear(); // what is not shown any more is read again when it is
+    for (auto const & layer : layers) {
+        m_known[layer->info().name] = layer;
+    }
+    m_picture.begin(size(), devicePixelRatioF(), boardToWidget(),
+                    m_port.scale() > 0 ? m_port.visible() : QRectF(), m_profile, std::move(layers));
+}
+
+void BoardView::goOnWithPicture()
+{
+    m_picture.work(QDeadlineTimer(slice));
+    if (m_picture.isFinished()) {
+        update();
+    } else {
+        m_goOn.start();
+    }
+}
+
+void BoardView::finishPicture()
+{
+    if (m_isStale) {
+        beginPicture();
+    }
+    m_picture.work(QDeadlineTimer::Forever);
+    update();
+}
+
+void BoardView::paintEvent(QPaintEvent * /*event*/)
+{
+    if (m_isStale) {
+        beginPicture();
+        m_picture.work(QDeadlineTimer(slice));
+        if (!m_picture.isFinished()) {
+            m_goOn.start();
+        }
+    }
+    QPainter painter(this);
+    m_picture.paint(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (m_port.scale() > 0) {
+        FeatureSelection::paint(painter, shapes(), m_selected, boardToWidget(), m_port.visible());
+    }
+    paintMarkedFeature(painter);
+    paintMarks(painter, m_marks, boardToWidget());
+    if (m_port.scale() > 0) {
+        paintLengthScale(painter, handle(), m_port.scale());
+    }
+    painter.setPen(QColor("#5f6672"));
+    painter.drawText(rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap, emptyText());
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().highlight().color(), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+}
+
+void BoardView::paintMarkedFeature(QPainter & painter) const
+{
+    auto const & list = shapes();
+    auto const marked = std::find_if(
+        list.begin(), list.end(), [this](FeatureShape const & shape) { return shape.feature == m_marked; });
+    if (marked != list.end()) {
+        QPainterPath const path = boardToWidget().map(marked->outline());
+        painter.setPen(QPen(QColor("#0050d0"), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(path);
+        painter.drawEllipse(boardToWidget().map(marked->box.center()), 14, 14);
+    }
+}
+
+bool BoardView::event(QEvent * event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        auto const * help = static_cast<QHelpEvent *>(event);
+        int const mark = markAt(help->pos(), m_marks, boardToWidget());
+        QToolTip::showText(help->globalPos(),
+                           mark < 0 ? QString() : m_marks[static_cast<std::size_t>(mark)].toolTip, this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void BoardView::resizeEvent(QResizeEvent * /*event*/)
+{
+    m_port.setSize(size());
+    changePort();
+}
+
+void BoardView::wheelEvent(QWheelEvent * event)
+{
+    m_port.zoomAbout(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
+    changePort();
+    event->accept();
+}
+
+void BoardView::mousePressEvent(QMouseEvent * event)
+{
+    m_pressedAt = event->localPos();
+    m_draggedTo = event->localPos();
+    m_isDragging = event->button() == Qt::MiddleButton;
+}
+
+void BoardView::mouseMoveEvent(QMouseEvent * event)
+{
+    if ((event->buttons() & (Qt::LeftButton | Qt::MiddleButton)) != 0) {
+        m_isDragging = m_isDragging || (event->localPos() - m_pressedAt).manhattanLength() >=
+                                           QApplication::startDragDistance();
+        if (m_isDragging) {
+            m_port.drag(event->localPos() - m_draggedTo);
+            m_draggedTo = event->localPos();
+            changePort();
+        }
+    }
+    QPointF const place = m_port.toBoard(event->localPos());
+    if (coordinate * readOut = getCoordinate(handle())) {
+        readOut->x = place.x();
+        readOut->y = place.y();
+    }
+    emit pointerMoved();
+}
+
+void BoardView::mouseReleaseEvent(QMouseEvent * event)
+{
+    if (event->button() == Qt::LeftButton && !m_isDragging) {
+        if ((event->modifiers() & Qt::ControlModifier) != 0) {
+            selectAt(event->localPos());
+        } else {
+            pickAt(event->localPos());
+        }
+    }
+    m_isDragging = false;
+}
+
+void BoardView::pickAt(QPointF pixel)
+{
+    if (int const mark = markAt(pixel, m_marks, boardToWidget()); mark >= 0) {
+        emit markPicked(mark);
+        return;
+    }
+    QPointF const place = m_port.toBoard(pixel);
+    auto const & list = shapes();
+    for (std::size_t i = list.size(); i-- > 0;) { // what was drawn last lies on top
+        if (list[i].kind == FeatureShape::Kind::Pad && list[i].box.contains(place)) {
+            markFeature(list[i].feature);
+            emit padPicked(list[i].feature);
+            return;
+        }
+    }
+}
+
+void BoardView::selectAt(QPointF pixel)
+{
+    int const feature = m_port.scale() > 0 ? FeatureSelection::featureAt(shapes(), m_port.toBoard(pixel),
+                                                                         reach / m_port.scale())
+                                           : -1;
+    if (feature >= 0) {
+        if (m_selected.erase(feature) == 0) {
+            m_selected.insert(feature);
+        }
+        update();
+        emit selectionChanged();
+    }
+}
+
+void BoardView::keyPressEvent(QKeyEvent * event)
+{
+    bool const isSign = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus;
+    Qt::KeyboardModifiers const without = // Shift and an arrow belongs to the hot keys
+        isSign ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if ((event->modifiers() & ~without) != 0) {
+        return QWidget::keyPressEvent(event);
+    }
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return pan({-panStep, 0});
+    case Qt::Key_Right:
+        return pan({panStep, 0});
+    case Qt::Key_Up:
+        return pan({0, panStep});
+    case Qt::Key_Down:
+        return pan({0, -panStep});
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // plus without Shift on many keyboards
+        return zoomIn();
+    case Qt::Key_Minus:
+        return zoomOut();
+    case Qt::Key_Home:
+        return zoomHome();
+    case Qt::Key_Delete:
+        emit deleteAsked();
+        return;
+    default:
+        return QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace Workbench

@@ -1,0 +1,122 @@
+#include "board/FeatureSelection.h"
+
+#include <QPainterPathStroker>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <tuple>
+
+namespace Workbench::FeatureSelection {
+
+namespace {
+
+// More than these are marked by their boxes: outlines would take too long to draw.
+constexpr std::size_t outlineLimit = 1000;
+
+double distanceToLine(QPointF place, QPointF from, QPointF to)
+{
+    QPointF const along = to - from;
+    double const square = QPointF::dotProduct(along, along);
+    double const part =
+        square > 0 ? std::clamp(QPointF::dotProduct(place - from, along) / square, 0.0, 1.0) : 0;
+    QPointF const away = place - (from + part * along);
+    return std::hypot(away.x(), away.y());
+}
+
+bool isAt(FeatureShape const & shape, QPointF place, double tolerance)
+{
+    if (!shape.box.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(place)) {
+        return false;
+    }
+    if (shape.kind == FeatureShape::Kind::Line) {
+        return distanceToLine(place, shape.place, shape.end) <= shape.penWidth / 2 + tolerance;
+    }
+    if (shape.kind == FeatureShape::Kind::Pad) {
+        return true; // its box will do, as for opening it
+    }
+    QPainterPathStroker stroker;
+    stroker.setWidth((shape.filled ? 0 : shape.penWidth) + 2 * tolerance);
+    return (shape.filled && shape.path.contains(place)) || stroker.createStroke(shape.path).contains(place);
+}
+
+auto looks(KVCAM::API::feature_info const & feature)
+{
+    return std::make_tuple(feature.kind, feature.symbol, feature.positive);
+}
+
+} // namespace
+
+int featureAt(Shapes const & shapes, QPointF place, double tolerance)
+{
+    auto const found = std::find_if(shapes.rbegin(), shapes.rend(), [&](FeatureShape const & shape) {
+        return isAt(shape, place, tolerance);
+    });
+    return found == shapes.rend() ? -1 : found->feature;
+}
+
+Set all(Features const & features)
+{
+    return reversed({}, features);
+}
+
+Set reversed(Set const & set, Features const & features)
+{
+    Set others;
+    for (auto const & feature : features) {
+        if (set.count(feature.index) == 0) {
+            others.insert(feature.index);
+        }
+    }
+    return others;
+}
+
+Set withSame(Set const & set, Features const & features)
+{
+    std::set<std::tuple<char, std::string, bool>> wanted;
+    for (auto const & feature : features) {
+        if (set.count(feature.index) != 0) {
+            wanted.insert(looks(feature));
+        }
+    }
+    Set result = set;
+    for (auto const & feature : features) {
+        if (wanted.count(looks(feature)) != 0) {
+            result.insert(feature.index);
+        }
+    }
+    return result;
+}
+
+void paint(QPainter & painter, Shapes const & shapes, Set const & set, QTransform const & boardToWidget,
+           QRectF const & visible)
+{
+    if (set.empty()) {
+        return;
+    }
+    std::vector<FeatureShape const *> shown;
+    for (FeatureShape const & shape : shapes) {
+        // A box without an area, as that of an upright line of no width, meets nothing in Qt's sense.
+        if (set.count(shape.feature) != 0 && visible.intersects(shape.box.adjusted(-1, -1, 1, 1))) {
+            shown.push_back(&shape);
+        }
+    }
+    bool const hasOutlines = shown.size() <= outlineLimit;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, hasOutlines);
+    painter.setPen(QPen(QColor("#e07000"), hasOutlines ? 2 : 1));
+    QBrush const inside(QColor(255, 150, 0, 70));
+    for (FeatureShape const * shape : shown) {
+        painter.setBrush(shape->filled || !hasOutlines ? inside : QBrush());
+        if (hasOutlines && shape->kind != FeatureShape::Kind::Line) {
+            painter.drawPath(boardToWidget.map(shape->outline()));
+        } else if (hasOutlines) {
+            painter.drawLine(boardToWidget.map(shape->place), boardToWidget.map(shape->end));
+        } else {
+            painter.drawRect(boardToWidget.mapRect(shape->box));
+        }
+    }
+    painter.restore();
+}
+
+} // namespace Workbench::FeatureSelection

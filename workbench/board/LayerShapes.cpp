@@ -1,0 +1,66 @@
+#include "board/LayerShapes.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace Workbench {
+
+LayerShapes::LayerShapes(std::string const & job, std::string const & step, KVCAM::API::layer_info info)
+    : m_info(std::move(info)), m_features(KVCAM::Embedded::features(job, step, m_info.name))
+{
+    if (!KVCAM::Embedded::lastError().empty()) {
+        m_state = State::Unreadable;
+    } else if (KVCAM::Embedded::isCutToTables(job, step, m_info.name)) {
+        m_state = State::CutToTables;
+    }
+    m_shapes = featureShapes(m_features, KVCAM::Embedded::featureDrawings(job, step, m_info.name));
+}
+
+QColor LayerShapes::colour() const
+{
+    return layerColour(m_info);
+}
+
+QRectF LayerShapes::extent() const
+{
+    if (m_shapes.empty()) {
+        return {};
+    }
+    // Not QRectF::united(), which leaves out what has no area.
+    double left = m_shapes.front().box.left();
+    double top = m_shapes.front().box.top();
+    double right = left;
+    double bottom = top;
+    for (FeatureShape const & shape : m_shapes) {
+        left = std::min(left, shape.box.left());
+        top = std::min(top, shape.box.top());
+        right = std::max(right, shape.box.right());
+        bottom = std::max(bottom, shape.box.bottom());
+    }
+    return {QPointF(left, top), QPointF(right, bottom)};
+}
+
+QColor layerColour(KVCAM::API::layer_info const & layer)
+{
+    // A number without small factors, so that copper layers with others between them differ all the same.
+    static constexpr char const * copper[] = {"#b5582a", "#2563a8", "#8c4a86", "#3f7d20",
+                                              "#b03060", "#0f7c80", "#8a6d1b"};
+    static constexpr std::pair<char const *, char const *> colours[] = {
+        {"solder_mask", "#2e7d4f"}, {"solder_paste", "#6b7280"}, {"silk_screen", "#3f51b5"},
+        {"drill", "#1f2937"},       {"rout", "#5b1f1f"},
+    };
+    for (char const * type : {"signal", "power_ground", "mixed"}) {
+        if (layer.type == type) {
+            return copper[static_cast<unsigned>(layer.row) % std::size(copper)];
+        }
+    }
+    for (auto const & [type, colour] : colours) {
+        if (layer.type == type) {
+            return colour;
+        }
+    }
+    return "#44617b";
+}
+
+} // namespace Workbench

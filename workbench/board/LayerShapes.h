@@ -1,0 +1,46 @@
+#pragma once
+
+#include "board/FeatureShapes.h"
+
+#include <KVCAM_API.h>
+
+#include <QColor>
+
+#include <string>
+#include <vector>
+
+namespace Workbench {
+
+/// What a layer of a step looks like, read from the engine once.
+class LayerShapes
+{
+public:
+    enum class State
+    {
+        Read,
+        CutToTables, ///< the job holds features, but not in this copy
+        Unreadable
+    };
+    LayerShapes() = default; ///< of no layer, empty
+    LayerShapes(std::string const & job, std::string const & step, KVCAM::API::layer_info info);
+
+    KVCAM::API::layer_info const & info() const { return m_info; }
+    State state() const { return m_state; }
+    QColor colour() const;
+    std::vector<KVCAM::API::feature_info> const & features() const { return m_features; }
+    /// One for each feature, in the same order.
+    std::vector<FeatureShape> const & shapes() const { return m_shapes; }
+    /// Of all that is painted, in micrometres; null without features.
+    QRectF extent() const;
+
+private:
+    KVCAM::API::layer_info m_info;
+    State m_state = State::Read;
+    std::vector<KVCAM::API::feature_info> m_features;
+    std::vector<FeatureShape> m_shapes;
+};
+
+/// The colour in which a layer is drawn: by its type, copper layers differing by their row.
+QColor layerColour(KVCAM::API::layer_info const & layer);
+
+} // namespace Workbench

@@ -1,0 +1,251 @@
+#include "checks/AnalysisRun.h"
+
+#include "job/ReportFormat.h"
+#include "ui/Units.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+constexpr std::array levelTables{drillTable, signalTable, Ext::unifiedTable};
+
+using RestResult = std::map<unified_check_items, std::map<std::string, unified_check_result>>;
+
+RestResult unifiedItems(decltype(KVCAM::Embedded::CheckResults::rest) const & rest)
+{
+    RestResult items;
+    for (auto const & [item, layers] : rest) {
+        auto & target = items[static_cast<unified_check_items>(item)];
+        for (auto const & [layer, lists] : layers) {
+            target[layer].groups = lists;
+        }
+    }
+    return items;
+}
+
+// The same number, or both of them none.
+bool isSame(double a, double b)
+{
+    return a == b || (std::isnan(a) && std::isnan(b));
+}
+
+bool isSame(Analysis_Ranges_Record const & a, Analysis_Ranges_Record const & b)
+{
+    return a.name == b.name && isSame(a.redLv, b.redLv) && isSame(a.yellowLv, b.yellowLv) &&
+           isSame(a.greenLv, b.greenLv);
+}
+
+} // namespace
+
+AnalysisRun::AnalysisRun(Session const & session) : m_session(session)
+{
+    for (char const * table : levelTables) {
+        getRanges(table, m_saved[table]);
+        loadLevels(table);
+    }
+}
+
+AnalysisRun::Outcome AnalysisRun::run(std::string const & step,
+                                      KVCAM::Embedded::CheckProgress const & progress)
+{
+    bool isCancelled = false;
+    KVCAM::Embedded::CheckResults results;
+    bool const isDone = KVCAM::Embedded::runChecks(m_session.job(), step, results, [&](int done, int total) {
+        isCancelled = progress && !progress(done, total);
+        return !isCancelled;
+    });
+    m_error.clear();
+    if (isDone) {
+        file(step, results);
+        return Outcome::Done;
+    }
+    if (isCancelled) {
+        return Outcome::Cancelled;
+    }
+    m_error = QString::fromStdString(KVCAM::Embedded::lastError()).simplified();
+    return Outcome::Failed;
+}
+
+void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults & results)
+{
+    std::vector<layer_info> layers;
+    m_copper.clear();
+    for (Session::Layer const & layer : m_session.layers()) {
+        layers.push_back(layer.info);
+        if (results.signal.count(layer.info.name) != 0) {
+            m_copper.push_back(layer.info.name);
+        }
+    }
+    RestResult rest = unifiedItems(results.rest);
+
+    Unified_AnalysisResult & unified = *Unified_AnalysisResult::instance();
+    unified.setJobStep(m_session.job(), step);
+    unified.setLayerInfo(std::move(layers));
+    unified.setDrillCheckResult(results.drill);
+    unified.setSignalLayerCheckResult(results.signal);
+    unified.setRestResult(rest);
+
+    m_report = {};
+    m_report.setJobStep(m_session.job(), step);
+    for (char const * table : levelTables) {
+        loadLevels(table);
+    }
+    m_report.addDrill(results.drill);
+    m_report.addSignal(results.signal);
+    m_report.addRest(rest);
+    for (KVCAM::Embedded::NotChecked const & entry : results.notChecked) {
+        noteUnchecked(entry);
+    }
+    m_hasResult = true;
+}
+
+void AnalysisRun::noteUnchecked(KVCAM::Embedded::NotChecked const & entry)
+{
+    std::string const table = entry.table == "drill"    ? drillTable
+                              : entry.table == "signal" ? signalTable
+                                                        : Ext::unifiedTable;
+    std::string name; // left to the report when the note is about every layer
+    if (entry.item < 0) {
+        name = entry.layer;
+    } else if (!entry.layer.empty()) {
+        name = getRangesName(table, entry.item) + ", " + entry.layer;
+    }
+    m_report.addNotChecked({table, entry.item, name, entry.reason});
+}
+
+void AnalysisRun::loadLevels(std::string const & table)
+{
+    Records records;
+    getRanges(table, records);
+    m_report.setLevels(table, records);
+}
+
+std::vector<LayerWidth> AnalysisRun::trackWidths() const
+{
+    std::map<std::string, LayerWidth> narrowest;
+    if (Ext::ReportCategory const * lines = m_report.find(signalTable, linesNumber)) {
+        for (Ext::ReportEntry const & entry : lines->entries) {
+            LayerWidth & width = narrowest[entry.layer];
+            if (entry.micrometres && (!width.micrometres || *entry.micrometres < *width.micrometres)) {
+                width = {entry.layer, entry.micrometres, entry.severity};
+            }
+        }
+    }
+    std::vector<LayerWidth> widths;
+    for (std::string const & layer : m_copper) {
+        auto const found = narrowest.find(layer);
+        widths.push_back(found == narrowest.end() ? LayerWidth{layer, {}, {}} : found->second);
+    }
+    return widths;
+}
+
+int AnalysisRun::rowOf(std::string const & layer) const
+{
+    auto const & layers = m_session.layers();
+    auto const found = std::find_if(layers.begin(), layers.end(),
+                                    [&](Session::Layer const & each) { return each.info.name == layer; });
+    return found == layers.end() ? std::numeric_limits<int>::max() : found->info.row;
+}
+
+bool AnalysisRun::hasLevels() const
+{
+    auto const & categories = m_report.categories();
+    return std::any_of(categories.begin(), categories.end(),
+                       [](Ext::ReportCategory const & category) { return category.levels.has_value(); });
+}
+
+void AnalysisRun::changeLevel(std::string const & table, std::string const & category, char const * level,
+                              double mil)
+{
+    changeRangesValue(table, category, level, mil);
+    loadLevels(table);
+}
+
+bool AnalysisRun::isUnsaved(std::string const & table) const
+{
+    auto const saved = m_saved.find(table);
+    if (saved == m_saved.end()) {
+        return false;
+    }
+    Records now;
+    getRanges(table, now);
+    return !std::equal(now.begin(), now.end(), saved->second.begin(), saved->second.end(),
+                       [](auto const & a, auto const & b) { return isSame(a, b); });
+}
+
+Ext::SaveResult AnalysisRun::saveLevels(std::string const & table)
+{
+    Ext::SaveResult result = Ext::saveRanges(table);
+    if (result.saved) {
+        getRanges(table, m_saved[table]);
+    }
+    return result;
+}
+
+Ext::SaveResult AnalysisRun::writeSummary(QString const & path) const
+{
+    std::string text;
+    Unified_AnalysisResult::instance()->jsonoutput(text);
+    auto const size = static_cast<qint64>(text.size());
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true); // for a directory that takes no new file
+    bool const isWritten = file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size &&
+                           file.flush() && file.commit();
+    if (!isWritten) {
+        return {false,
+                QCoreApplication::translate("Workbench", "The file \"%1\" cannot be written.").arg(path)};
+    }
+    return {true, {}};
+}
+
+Ext::SaveResult AnalysisRun::writeReport(QString const & path) const
+{
+    auto const format = reportFormat(path);
+    if (!format) {
+        return {false, QCoreApplication::translate("Workbench", "The name of a report ends in .json or .csv, "
+                                                                "not as that of \"%1\" does.")
+                           .arg(path)};
+    }
+    return Ext::writeReport(m_report, *format, path);
+}
+
+QJsonObject toJson(AnalysisRun const & run)
+{
+    if (!run.hasResult()) {
+        return {};
+    }
+    QJsonObject counts;
+    Ext::SeverityCounts const sums = run.report().counts();
+    for (Ext::SeverityMark const & mark : Ext::severityPalette) {
+        counts[QLatin1String(mark.name)] = static_cast<double>(sums[static_cast<std::size_t>(mark.severity)]);
+    }
+    QJsonArray widths;
+    for (LayerWidth const & width : run.trackWidths()) {
+        QJsonObject entry{{"layer", QString::fromStdString(width.layer)},
+                          {"um", QJsonValue()},
+                          {"mil", QJsonValue()},
+                          {"severity", Ext::markOf(width.severity).name}};
+        if (width.micrometres) {
+            entry["um"] = *width.micrometres;
+            entry["mil"] = *width.micrometres / micrometresPerMil;
+        }
+        widths.append(entry);
+    }
+    return {{"counts", counts},
+            {"track widths", widths},
+            {"not checked", static_cast<int>(run.report().notChecked().size())}};
+}
+
+} // namespace Workbench

@@ -1,0 +1,118 @@
+#include "checks/LevelsEditor.h"
+
+#include "checks/MeasureTexts.h"
+#include "ui/LanguageChange.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include <cmath>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+struct Level
+{
+    char const * name;
+    char const * title; ///< with the mnemonic of its field
+    Ext::Severity severity;
+    double Analysis_Ranges_Record::*value;
+};
+
+constexpr std::array<Level, 3> levels = {{
+    {"RedLv", QT_TRANSLATE_NOOP("Workbench::LevelsEditor", "Re&d"), Ext::Severity::Red,
+     &Analysis_Ranges_Record::redLv},
+    {"YellowLv", QT_TRANSLATE_NOOP("Workbench::LevelsEditor", "Yell&ow"), Ext::Severity::Yellow,
+     &Analysis_Ranges_Record::yellowLv},
+    {"GreenLv", QT_TRANSLATE_NOOP("Workbench::LevelsEditor", "&Green"), Ext::Severity::Green,
+     &Analysis_Ranges_Record::greenLv},
+}};
+
+// Without the last digits, which the way through another unit leaves behind: 76.2 micrometres are 3 mil.
+double withoutNoise(double mil)
+{
+    return QString::number(mil, 'g', 12).toDouble();
+}
+
+} // namespace
+
+LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent), m_view(view)
+{
+    auto * layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        Field & field = m_fields[i];
+        field.title = new QLabel(this);
+        QPalette colours = field.title->palette();
+        colours.setColor(QPalette::WindowText, colourOf(levels[i].severity));
+        field.title->setPalette(colours);
+        // The parent that a field is made with is the view whose unit it shows; the layout gives it its
+        // place.
+        field.edit = new KVLineEdit(RegNumber, &view);
+        field.edit->setObjectName(levels[i].name);
+        field.edit->setFollowView(true);
+        field.title->setBuddy(field.edit);
+        int const column = static_cast<int>(i);
+        layout->addWidget(field.title, 0, column);
+        layout->addWidget(field.edit, 1, column);
+        connect(field.edit, &KVLineEdit::editingFinished, this, [this, i] { takeLevel(i); });
+    }
+    setTextsNowAndLater(*this, [this] { setTexts(); });
+    show({});
+}
+
+void LevelsEditor::setTexts()
+{
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        m_fields[i].title->setText(signOf(levels[i].severity) + "  " + tr(levels[i].title));
+    }
+}
+
+void LevelsEditor::show(std::optional<Analysis_Ranges_Record> const & record)
+{
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        Field & field = m_fields[i];
+        field.edit->setEnabled(record.has_value());
+        field.shown = record ? (*record).*levels[i].value : 0;
+        if (record) {
+            showLevel(field);
+        } else {
+            field.edit->setText({});
+        }
+    }
+}
+
+// A text that says the same already is left as it was typed.
+void LevelsEditor::showLevel(Field & field)
+{
+    if (field.edit->text().isEmpty() || withoutNoise(field.edit->exactValue(0)) != field.shown) {
+        field.edit->setText(smallUnitText(&m_view, field.shown));
+    }
+}
+
+void LevelsEditor::takeLevel(std::size_t number)
+{
+    Field & field = m_fields[number];
+    double const typed = withoutNoise(field.edit->exactValue(0));
+    // Five decimals are shown: a level that has more is not to be changed by looking at it.
+    bool const isShown = field.edit->text() == smallUnitText(&m_view, field.shown);
+    if (!field.edit->isEnabled() || isShown || typed == field.shown) {
+        return;
+    }
+    field.shown = typed;
+    emit levelEdited(levels[number].name, typed);
+}
+
+bool isGrading(Analysis_Ranges_Record const & record)
+{
+    bool const isFinite =
+        std::isfinite(record.redLv) && std::isfinite(record.yellowLv) && std::isfinite(record.greenLv);
+    bool const rises = record.redLv <= record.yellowLv && record.yellowLv <= record.greenLv;
+    bool const falls = record.redLv >= record.yellowLv && record.yellowLv >= record.greenLv;
+    return isFinite && (rises || falls);
+}
+
+} // namespace Workbench

@@ -1,0 +1,37 @@
+#include "checks/ResultFiles.h"
+
+#include "checks/ResultsPage.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
+{
+    QPointer<ResultsPage> const alive(&page);
+    if (!page.runChecks()) {
+        QString const reason = alive ? page.run().error() : QString();
+        return {{},
+                {reason.isEmpty()
+                     ? QCoreApplication::translate("Workbench::MainWindow", "the checks were stopped")
+                     : QCoreApplication::translate("Workbench::MainWindow", "the checks failed: %1")
+                           .arg(reason)}};
+    }
+    WrittenResults results;
+    auto const note = [&results](QString const & file, Ext::SaveResult const & result) {
+        (result.saved ? results.files : results.errors).append(result.saved ? file : result.reason);
+    };
+    AnalysisRun const & run = page.run();
+    if (!commandLine.summary.isEmpty()) {
+        note(commandLine.summary, run.writeSummary(commandLine.summary));
+    }
+    for (QString const & report : commandLine.reports) {
+        note(report, run.writeReport(report));
+    }
+    return results;
+}
+
+} // namespace Workbench

@@ -1,0 +1,399 @@
+#include "checks/ResultsModel.h"
+
+#include "checks/MeasureTexts.h"
+
+#include <QBrush>
+#include <QFont>
+
+#include <algorithm>
+#include <numeric>
+
+// An index tells by its id what it is: 0 a category; 1 to n a layer of the category of that number; above n a
+// measurement of the group of the number beyond n.
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+std::size_t total(Ext::SeverityCounts const & counts)
+{
+    return std::accumulate(counts.begin(), counts.end(), std::size_t{0});
+}
+
+std::size_t at(Ext::SeverityCounts const & counts, Ext::Severity severity)
+{
+    return counts[static_cast<std::size_t>(severity)];
+}
+
+QString levelsText(void const * view, Analysis_Ranges_Record const & levels)
+{
+    return QString("%1 / %2 / %3")
+        .arg(smallUnitText(view, levels.redLv), smallUnitText(view, levels.yellowLv),
+             smallUnitText(view, levels.greenLv));
+}
+
+// The severity that a column counts; None for the others.
+Ext::Severity severityOf(int column)
+{
+    switch (column) {
+    case ResultsModel::Red:
+        return Ext::Severity::Red;
+    case ResultsModel::Yellow:
+        return Ext::Severity::Yellow;
+    case ResultsModel::Green:
+        return Ext::Severity::Green;
+    default:
+        return Ext::Severity::None;
+    }
+}
+
+std::optional<double> smaller(std::optional<double> a, std::optional<double> b)
+{
+    return !a || (b && *b < *a) ? b : a;
+}
+
+bool isNumeric(int column)
+{
+    return column >= ResultsModel::Count && column <= ResultsModel::Limit;
+}
+
+} // namespace
+
+ResultsModel::ResultsModel(AnalysisRun const & run, QObject * parent) : QAbstractItemModel(parent), m_run(run)
+{
+    m_firsts.push_back(0);
+}
+
+void ResultsModel::reload()
+{
+    beginResetModel();
+    m_groups.clear();
+    m_firsts.assign(1, 0);
+    for (std::size_t i = 0; i < m_run.report().categories().size(); ++i) {
+        addGroups(i);
+        m_firsts.push_back(m_groups.size());
+    }
+    countGroups();
+    endResetModel();
+}
+
+// Of one run the entries of a layer stand together.
+void ResultsModel::addGroups(std::size_t category)
+{
+    auto const & entries = m_run.report().categories()[category].entries;
+    std::size_t const first = m_groups.size();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (i == 0 || entries[i].layer != m_groups.back().layer) {
+            m_groups.push_back({category, entries[i].layer, i, i, {}, {}});
+        }
+        m_groups.back().end = i + 1;
+        m_groups.back().smallest = smaller(m_groups.back().smallest, entries[i].micrometres);
+    }
+    std::stable_sort(
+        m_groups.begin() + static_cast<std::ptrdiff_t>(first), m_groups.end(),
+        [this](Group const & a, Group const & b) { return m_run.rowOf(a.layer) < m_run.rowOf(b.layer); });
+}
+
+void ResultsModel::countGroups()
+{
+    for (Group & group : m_groups) {
+        auto const & entries = m_run.report().categories()[group.category].entries;
+        group.counts = {};
+        for (std::size_t i = group.begin; i < group.end; ++i) {
+            ++group.counts[static_cast<std::size_t>(entries[i].severity)];
+        }
+    }
+}
+
+void ResultsModel::regrade()
+{
+    countGroups();
+    refreshTexts();
+}
+
+void ResultsModel::setView(void const * view)
+{
+    m_view = view;
+    refreshTexts();
+}
+
+void ResultsModel::refreshTexts()
+{
+    emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    auto const tellAll = [this](QModelIndex const & parent) {
+        int const rows = rowCount(parent);
+        if (rows > 0) {
+            emit dataChanged(index(0, 0, parent), index(rows - 1, ColumnCount - 1, parent));
+        }
+    };
+    tellAll({});
+    for (int category = 0; category < rowCount(); ++category) {
+        QModelIndex const parent = index(category, 0);
+        tellAll(parent);
+        for (int layer = 0; layer < rowCount(parent); ++layer) {
+            tellAll(index(layer, 0, parent));
+        }
+    }
+}
+
+bool ResultsModel::isCategory(QModelIndex const & index) const
+{
+    return index.isValid() && index.internalId() == 0;
+}
+
+bool ResultsModel::isGroup(QModelIndex const & index) const
+{
+    return index.isValid() && index.internalId() > 0 && index.internalId() < m_firsts.size();
+}
+
+ResultsModel::Group const & ResultsModel::group(std::size_t category, int row) const
+{
+    return m_groups.at(m_firsts.at(category) + static_cast<std::size_t>(row));
+}
+
+ResultsModel::Row ResultsModel::at(QModelIndex const & index) const
+{
+    auto const & categories = m_run.report().categories();
+    if (!index.isValid()) {
+        return {};
+    }
+    auto const row = static_cast<std::size_t>(index.row());
+    if (isCategory(index)) {
+        return {&categories.at(row), nullptr, nullptr};
+    }
+    if (isGroup(index)) {
+        Group const & shown = group(index.internalId() - 1, index.row());
+        return {&categories.at(shown.category), &shown.layer, nullptr};
+    }
+    Group const & owner = m_groups.at(index.internalId() - m_firsts.size());
+    Ext::ReportCategory const & category = categories.at(owner.category);
+    return {&category, &owner.layer, &category.entries.at(owner.begin + row)};
+}
+
+QModelIndex ResultsModel::find(std::string const & table, int number) const
+{
+    auto const & categories = m_run.report().categories();
+    for (int row = 0; row < rowCount(); ++row) {
+        auto const & category = categories[static_cast<std::size_t>(row)];
+        if (category.number == number && category.table == table) {
+            return index(row, 0);
+        }
+    }
+    return {};
+}
+
+QModelIndex ResultsModel::index(int row, int column, QModelIndex const & parent) const
+{
+    if (!hasIndex(row, column, parent)) {
+        return {};
+    }
+    if (!parent.isValid()) {
+        return createIndex(row, column, quintptr{0});
+    }
+    auto const place = static_cast<std::size_t>(parent.row());
+    if (isCategory(parent)) {
+        return createIndex(row, column, static_cast<quintptr>(place + 1));
+    }
+    std::size_t const shown = m_firsts.at(parent.internalId() - 1) + place;
+    return createIndex(row, column, static_cast<quintptr>(m_firsts.size() + shown));
+}
+
+QModelIndex ResultsModel::parent(QModelIndex const & child) const
+{
+    if (!child.isValid() || isCategory(child)) {
+        return {};
+    }
+    if (isGroup(child)) {
+        return createIndex(static_cast<int>(child.internalId() - 1), 0, quintptr{0});
+    }
+    std::size_t const owner = child.internalId() - m_firsts.size();
+    std::size_t const category = m_groups.at(owner).category;
+    return createIndex(static_cast<int>(owner - m_firsts.at(category)), 0,
+                       static_cast<quintptr>(category + 1));
+}
+
+int ResultsModel::rowCount(QModelIndex const & parent) const
+{
+    if (!parent.isValid()) {
+        return static_cast<int>(m_firsts.size() - 1);
+    }
+    if (parent.column() != 0) {
+        return 0;
+    }
+    if (isCategory(parent)) {
+        auto const category = static_cast<std::size_t>(parent.row());
+        return static_cast<int>(m_firsts.at(category + 1) - m_firsts.at(category));
+    }
+    if (isGroup(parent)) {
+        Group const & shown = group(parent.internalId() - 1, parent.row());
+        return static_cast<int>(shown.end - shown.begin);
+    }
+    return 0;
+}
+
+int ResultsModel::columnCount(QModelIndex const & /*parent*/) const
+{
+    return ColumnCount;
+}
+
+Ext::SeverityCounts ResultsModel::countsAt(QModelIndex const & index) const
+{
+    Row const row = at(index);
+    if (row.entry != nullptr) {
+        Ext::SeverityCounts counts{};
+        counts[static_cast<std::size_t>(row.entry->severity)] = 1;
+        return counts;
+    }
+    return isGroup(index) ? group(index.internalId() - 1, index.row()).counts : row.category->counts;
+}
+
+QVariant ResultsModel::data(QModelIndex const & index, int role) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(index);
+    case Qt::TextAlignmentRole:
+        return static_cast<int>((isNumeric(index.column()) ? Qt::AlignRight : Qt::AlignLeft) |
+                                Qt::AlignVCenter);
+    case Qt::ToolTipRole:
+        return index.column() == Severity ? wordOf(worstOf(countsAt(index))) : text(index);
+    case Qt::ForegroundRole:
+        if (index.column() == Severity || severityOf(index.column()) != Ext::Severity::None) {
+            Ext::Severity const shown =
+                index.column() == Severity ? worstOf(countsAt(index)) : severityOf(index.column());
+            return QBrush(colourOf(shown));
+        }
+        return total(countsAt(index)) == 0 ? QVariant(QBrush(colourOf(Ext::Severity::None))) : QVariant();
+    case Qt::FontRole:
+        if (index.column() == Severity) {
+            QFont font;
+            font.setBold(true);
+            return font;
+        }
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+std::optional<double> ResultsModel::smallestOf(std::size_t category) const
+{
+    std::optional<double> smallest;
+    for (std::size_t i = m_firsts.at(category); i < m_firsts.at(category + 1); ++i) {
+        smallest = smaller(smallest, m_groups[i].smallest);
+    }
+    return smallest;
+}
+
+QString ResultsModel::text(QModelIndex const & index) const
+{
+    Row const row = at(index);
+    if (row.entry != nullptr) {
+        return measurementText(index.column(), row, index.row() + 1);
+    }
+    if (isGroup(index)) {
+        Group const & shown = group(index.internalId() - 1, index.row());
+        return sumText(index.column(), row, shown.counts, shown.smallest);
+    }
+    return sumText(index.column(), row, row.category->counts,
+                   smallestOf(static_cast<std::size_t>(index.row())));
+}
+
+QString ResultsModel::measurementText(int column, Row const & row, int number) const
+{
+    switch (column) {
+    case Name:
+        return QString::number(number);
+    case Severity:
+        return signOf(row.entry->severity);
+    case Measured:
+        return row.entry->micrometres ? measuredText(m_view, *row.entry->micrometres) : tr("not known");
+    case Limit: {
+        auto const limit = Ext::limitOf(*row.category, *row.entry);
+        return limit ? smallUnitText(m_view, *limit) : QString();
+    }
+    case Position:
+        return row.entry->position
+                   ? QString("%1, %2").arg(getUnitJudgeStringMetric(m_view, row.entry->position->x),
+                                           getUnitJudgeStringMetric(m_view, row.entry->position->y))
+                   : QString();
+    default:
+        return {};
+    }
+}
+
+QString ResultsModel::sumText(int column, Row const & row, Ext::SeverityCounts const & counts,
+                              std::optional<double> smallest) const
+{
+    std::size_t const count = total(counts);
+    switch (column) {
+    case Name:
+        return QString::fromStdString(row.layer != nullptr ? *row.layer : row.category->name);
+    case Severity:
+        return count == 0 ? QString() : signOf(worstOf(counts));
+    case Count:
+        return QString::number(count);
+    case Measured:
+        return smallest ? measuredText(m_view, *smallest) : QString();
+    case Limit:
+        return row.layer == nullptr && row.category->levels ? levelsText(m_view, *row.category->levels)
+                                                            : QString();
+    case Position:
+        return count == 0 ? tr("nothing found") : QString();
+    default:
+        break;
+    }
+    Ext::Severity const counted = severityOf(column);
+    bool const isShown = counted != Ext::Severity::None && Workbench::at(counts, counted) != 0;
+    return isShown ? QString::number(Workbench::at(counts, counted)) : QString();
+}
+
+QVariant ResultsModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal) {
+        return {};
+    }
+    if (role == Qt::ForegroundRole && severityOf(section) != Ext::Severity::None) {
+        return QBrush(colourOf(severityOf(section)));
+    }
+    if (role == Qt::ToolTipRole) {
+        switch (section) {
+        case Severity:
+            return tr("Of a check or layer the worst");
+        case Measured:
+            return tr("Measured in whole micrometres; of a check or layer the smallest");
+        case Limit:
+            return tr("The level that gave the colour; of a check its levels red / yellow / green");
+        default:
+            return severityOf(section) == Ext::Severity::None ? QVariant()
+                                                              : QVariant(wordOf(severityOf(section)));
+        }
+    }
+    if (role != Qt::DisplayRole) {
+        return {};
+    }
+    switch (section) {
+    case Name:
+        return tr("Check, layer, measurement");
+    case Severity:
+        return tr("Colour");
+    case Count:
+        return tr("Count");
+    case Measured:
+        return tr("Measured (%1)").arg(smallUnitName(m_view));
+    case Limit:
+        return tr("Limit (%1)").arg(smallUnitName(m_view));
+    case Position:
+        return tr("Position (%1)").arg(QString::fromStdString(getUnitStringType(m_view, 0)));
+    default:
+        return signOf(severityOf(section));
+    }
+}
+
+} // namespace Workbench

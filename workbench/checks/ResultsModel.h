@@ -1,0 +1,94 @@
+#pragma once
+
+#include "checks/AnalysisRun.h"
+
+#include <QAbstractItemModel>
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace Workbench {
+
+/// The measurements of a run as a tree: categories, their layers by row, the measurements of each in the
+/// engine's order. Nothing is made for a measurement: its texts are put together when they are shown.
+class ResultsModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column : int
+    {
+        Name,
+        Severity, ///< of a category or layer: the worst
+        Count,
+        Red,
+        Yellow,
+        Green,
+        Measured, ///< of a category or layer: the smallest
+        Limit,    ///< of a category: its three levels
+        Position,
+        ColumnCount
+    };
+    /// What a row stands for; null where it has none.
+    struct Row
+    {
+        KVCAM::UIAPI::Ext::ReportCategory const * category = nullptr;
+        std::string const * layer = nullptr;
+        KVCAM::UIAPI::Ext::ReportEntry const * entry = nullptr;
+    };
+
+    /// The run outlives the model, which shows its report from the first reload() on.
+    explicit ResultsModel(AnalysisRun const & run, QObject * parent = nullptr);
+
+    /// Shows the report of a new run. Nothing may be asked between the run and this.
+    void reload();
+    /// Shows the severities anew.
+    void regrade();
+    /// Shows lengths in the unit of a view.
+    void setView(void const * view);
+    /// Shows all texts anew: the language, or the unit of the view, has changed.
+    void refreshTexts();
+
+    Row at(QModelIndex const & index) const;
+    /// The row of a category, or an invalid index.
+    QModelIndex find(std::string const & table, int number) const;
+
+    QModelIndex index(int row, int column, QModelIndex const & parent = {}) const override;
+    QModelIndex parent(QModelIndex const & child) const override;
+    int rowCount(QModelIndex const & parent = {}) const override;
+    int columnCount(QModelIndex const & parent = {}) const override;
+    QVariant data(QModelIndex const & index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    // A layer of a category: the measurements [begin, end) of it.
+    struct Group
+    {
+        std::size_t category = 0;
+        std::string layer;
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        KVCAM::UIAPI::Ext::SeverityCounts counts{};
+        std::optional<double> smallest; // micrometres
+    };
+
+    void addGroups(std::size_t category);
+    void countGroups();
+    bool isCategory(QModelIndex const & index) const;
+    bool isGroup(QModelIndex const & index) const;
+    Group const & group(std::size_t category, int row) const;
+    QString text(QModelIndex const & index) const;
+    QString measurementText(int column, Row const & row, int number) const;
+    QString sumText(int column, Row const & row, KVCAM::UIAPI::Ext::SeverityCounts const & counts,
+                    std::optional<double> smallest) const;
+    std::optional<double> smallestOf(std::size_t category) const;
+    KVCAM::UIAPI::Ext::SeverityCounts countsAt(QModelIndex const & index) const;
+
+    AnalysisRun const & m_run;
+    void const * m_view = nullptr;
+    std::vector<Group> m_groups;       // by category
+    std::vector<std::size_t> m_firsts; // the first group of each category, and the end
+};
+
+} // namespace Workbench

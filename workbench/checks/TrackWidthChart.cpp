@@ -1,0 +1,233 @@
+#include "checks/TrackWidthChart.h"
+
+#include "checks/MeasureTexts.h"
+#include "ui/Units.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStringList>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+constexpr int gap = 6;       // pixels between a text and what it belongs to
+constexpr int mostTicks = 6; // of the axis
+
+// A round number that divides a length into at most `mostTicks` parts.
+double tickStep(double length)
+{
+    double const least = length / mostTicks;
+    double const decade = std::pow(10.0, std::floor(std::log10(least)));
+    for (double const factor : {1.0, 2.0, 5.0}) {
+        if (factor * decade >= least) {
+            return factor * decade;
+        }
+    }
+    return 10 * decade;
+}
+
+} // namespace
+
+TrackWidthChart::TrackWidthChart(QWidget * parent) : QWidget(parent)
+{
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+}
+
+void TrackWidthChart::setWidths(std::vector<LayerWidth> widths, std::optional<Analysis_Ranges_Record> levels)
+{
+    m_widths = std::move(widths);
+    m_levels = std::move(levels);
+    QStringList texts; // a screen reader sees no picture
+    for (std::size_t i = 0; i < m_widths.size(); ++i) {
+        texts.append(barText(i));
+    }
+    setAccessibleDescription(texts.join('\n'));
+    updateGeometry();
+    update();
+}
+
+void TrackWidthChart::setView(void const * view)
+{
+    m_view = view;
+    setWidths(std::move(m_widths), std::move(m_levels));
+}
+
+QString TrackWidthChart::valueText(LayerWidth const & width) const
+{
+    if (!width.micrometres) {
+        return tr("no tracks");
+    }
+    QString const value = measuredText(m_view, *width.micrometres);
+    return width.severity == Ext::Severity::None ? value : value + "  " + signOf(width.severity);
+}
+
+QString TrackWidthChart::barText(std::size_t bar) const
+{
+    if (bar >= m_widths.size()) {
+        return {};
+    }
+    LayerWidth const & width = m_widths[bar];
+    QString const layer = QString::fromStdString(width.layer);
+    if (!width.micrometres) {
+        return layer + ": " + tr("no tracks");
+    }
+    return QString("%1: %2 %3 (%4)")
+        .arg(layer, measuredText(m_view, *width.micrometres), smallUnitName(m_view), wordOf(width.severity));
+}
+
+QSize TrackWidthChart::sizeHint() const
+{
+    int const rows = static_cast<int>(std::min<std::size_t>(m_widths.size(), 100000));
+    return {320, (rows + 2) * rowHeight() + 3 * gap};
+}
+
+bool TrackWidthChart::event(QEvent * event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        auto const & help = static_cast<QHelpEvent const &>(*event);
+        double const row = (help.pos().y() - plot().top()) / rowHeight();
+        QToolTip::showText(help.globalPos(), row < 0 ? QString() : barText(static_cast<std::size_t>(row)),
+                           this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+int TrackWidthChart::rowHeight() const
+{
+    return fontMetrics().height() + gap;
+}
+
+// Where the bars are: below the letters of the levels, above the axis, between the names and the values.
+QRectF TrackWidthChart::plot() const
+{
+    int names = 0;
+    int values = 0;
+    for (LayerWidth const & width : m_widths) {
+        names = std::max(names, fontMetrics().horizontalAdvance(QString::fromStdString(width.layer)));
+        values = std::max(values, fontMetrics().horizontalAdvance(valueText(width)));
+    }
+    double const left = std::min<double>(names, this->width() * 0.35) + 2 * gap;
+    double const right = std::max<double>(this->width() - values - 3 * gap, left + 1);
+    return {left, static_cast<double>(rowHeight()), right - left,
+            static_cast<double>(m_widths.size()) * rowHeight()};
+}
+
+std::vector<TrackWidthChart::Level> TrackWidthChart::levels() const
+{
+    std::vector<Level> shown;
+    if (m_levels) {
+        for (Level const & level :
+             {Level{Ext::Severity::Red, m_levels->redLv}, Level{Ext::Severity::Yellow, m_levels->yellowLv},
+              Level{Ext::Severity::Green, m_levels->greenLv}}) {
+            if (std::isfinite(level.mil) && level.mil >= 0) {
+                shown.push_back(level);
+            }
+        }
+    }
+    return shown;
+}
+
+// The end of the axis, in mil. A level far beyond all tracks is left out rather than to flatten the bars.
+double TrackWidthChart::longest() const
+{
+    double bars = 0;
+    for (LayerWidth const & width : m_widths) {
+        bars = std::max(bars, width.micrometres.value_or(0) / micrometresPerMil);
+    }
+    double end = bars;
+    for (Level const & level : levels()) {
+        if (bars == 0 || level.mil <= 4 * bars) {
+            end = std::max(end, level.mil);
+        }
+    }
+    return end > 0 ? 1.05 * end : 1;
+}
+
+double TrackWidthChart::place(QRectF const & plot, double mil) const
+{
+    return plot.left() + plot.width() * mil / longest();
+}
+
+void TrackWidthChart::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (m_widths.empty()) {
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("No copper layer was measured."));
+        return;
+    }
+    QRectF const bars = plot();
+    paintAxis(painter, bars);
+    paintBars(painter, bars);
+    paintLevels(painter, bars);
+}
+
+void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
+{
+    double const perMil = getUnitJudgeDouble(m_view, 1.0); // of the unit that is shown
+    double const end = longest() * perMil;
+    double const step = tickStep(end);
+    QRectF const foot(plot.left(), plot.bottom() + gap, plot.width(), rowHeight());
+    QColor const grid("#d5d9de");
+    for (int tick = 0; tick * step <= end; ++tick) {
+        double const x = place(plot, tick * step / perMil);
+        painter.setPen(grid);
+        painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom() + gap / 2.0));
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(QRectF(x - 40, foot.top(), 80, foot.height()), Qt::AlignHCenter | Qt::AlignTop,
+                         QString::fromStdString(doubleToString(tick * step)));
+    }
+    painter.drawText(QRectF(foot.right() + gap, foot.top(), width() - foot.right() - gap, foot.height()),
+                     Qt::AlignRight | Qt::AlignTop, smallUnitName(m_view) + ' ');
+}
+
+void TrackWidthChart::paintLevels(QPainter & painter, QRectF const & plot) const
+{
+    double free = 0; // where the next letter may stand
+    for (Level const & level : levels()) {
+        double const x = place(plot, level.mil);
+        if (x > plot.right()) {
+            continue;
+        }
+        painter.setPen(QPen(colourOf(level.severity), 1.5, Qt::DashLine));
+        painter.drawLine(QPointF(x, plot.top() - gap / 2.0), QPointF(x, plot.bottom()));
+        double const half = fontMetrics().horizontalAdvance(signOf(level.severity)) / 2.0;
+        double const middle = std::max(x, free + half);
+        painter.drawText(QRectF(middle - half, 0, 2 * half + 1, plot.top() - gap / 2.0), Qt::AlignCenter,
+                         signOf(level.severity));
+        free = middle + half + gap;
+    }
+}
+
+void TrackWidthChart::paintBars(QPainter & painter, QRectF const & plot) const
+{
+    double top = plot.top();
+    for (LayerWidth const & width : m_widths) {
+        QRectF const row(plot.left(), top, plot.width(), rowHeight());
+        top += rowHeight();
+        painter.setPen(palette().color(QPalette::Text));
+        QRectF const name(gap, row.top(), plot.left() - 2 * gap, row.height());
+        painter.drawText(name, Qt::AlignRight | Qt::AlignVCenter,
+                         fontMetrics().elidedText(QString::fromStdString(width.layer), Qt::ElideMiddle,
+                                                  static_cast<int>(name.width())));
+        double const end = place(plot, width.micrometres.value_or(0) / micrometresPerMil);
+        painter.fillRect(QRectF(row.left(), row.top() + 3, end - row.left(), row.height() - 6),
+                         colourOf(width.severity));
+        painter.setPen(width.severity == Ext::Severity::None ? palette().color(QPalette::Text)
+                                                             : colourOf(width.severity));
+        painter.drawText(QRectF(row.right() + gap, row.top(), this->width() - row.right(), row.height()),
+                         Qt::AlignLeft | Qt::AlignVCenter, valueText(width));
+    }
+}
+
+} // namespace Workbench

@@ -1,0 +1,124 @@
+#include "feature/PadSymbol.h"
+
+#include "board/PadFamilies.h"
+#include "feature/FormFile.h"
+
+#include <UIAPICommon.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Workbench {
+
+namespace {
+
+// A name whose sizes can be shown and set: they are turned into the other unit together with the name.
+std::optional<PadName> sizedName(QString const & name)
+{
+    auto parts = parsePadName(name);
+    return parts && parts->family->isConverted ? parts : std::nullopt;
+}
+
+// The library converts names, and a length is the size of a round.
+QString converted(QString name, int from, int to)
+{
+    if (from != to) {
+        KVCAM::UIAPI::setSymbolUIData(name, to);
+    }
+    return name;
+}
+
+} // namespace
+
+QString PadSize::in(int otherUnit) const
+{
+    return text.isEmpty() ? QString() : converted('r' + text, unit, otherUnit).mid(1);
+}
+
+qint64 PadSize::nanometres() const
+{
+    // A rounding that does not fit is undefined; this is the last double below 2^63.
+    constexpr double most = 9223372036854774784.0;
+    return std::llround(std::min(text.toDouble() * nanometresPer(unit), most));
+}
+
+PadSymbol::PadSymbol(QString name, int unit) : m_name(std::move(name)), m_unit(unit)
+{
+    if (auto const parts = sizedName(m_name)) {
+        m_width = {parts->first, unit};
+        m_height = {parts->second, unit};
+    }
+}
+
+bool PadSymbol::hasWidth() const
+{
+    return sizedName(m_name).has_value();
+}
+
+bool PadSymbol::hasHeight() const
+{
+    auto const parts = sizedName(m_name);
+    return parts && parts->family->hasSecond;
+}
+
+QString PadSymbol::in(int otherUnit) const
+{
+    // A name of the user's own may look as if it had sizes.
+    return hasWidth() ? withSizes(converted(m_name, m_unit, otherUnit), otherUnit) : m_name;
+}
+
+void PadSymbol::setWidth(PadSize const & size)
+{
+    m_width = size;
+    m_name = withSizes(m_name, m_unit);
+}
+
+void PadSymbol::setHeight(PadSize const & size)
+{
+    m_height = size;
+    m_name = withSizes(m_name, m_unit);
+}
+
+QString PadSymbol::withSizes(QString const & name, int unit) const
+{
+    auto const parts = sizedName(name);
+    if (!parts || m_width.text.isEmpty()) {
+        return name;
+    }
+    QString const start = parts->family->prefix + m_width.in(unit);
+    if (m_height.text.isEmpty()) {
+        return start + parts->rest;
+    }
+    bool const isUnfinished = parts->second.isEmpty() && parts->rest == "x"; // "rect10x" gets its height
+    return start + 'x' + m_height.in(unit) + (isUnfinished ? QString() : parts->rest);
+}
+
+QJsonObject PadSymbol::toJson() const
+{
+    return {{"name", m_name},          {"unit", m_unit},
+            {"width", m_width.text},   {"width unit", m_width.unit},
+            {"height", m_height.text}, {"height unit", m_height.unit}};
+}
+
+std::optional<PadSymbol> PadSymbol::fromJson(QJsonObject const & json)
+{
+    for (char const * key : {"unit", "width unit", "height unit"}) {
+        if (!isUnit(json[key])) {
+            return std::nullopt;
+        }
+    }
+    PadSymbol symbol(json["name"].toString(), json["unit"].toInt());
+    PadSize const width{json["width"].toString(), json["width unit"].toInt()};
+    PadSize const height{json["height"].toString(), json["height unit"].toInt()};
+    for (auto const & [target, size] :
+         {std::pair(&symbol.m_width, width), std::pair(&symbol.m_height, height)}) {
+        if (!size.text.isEmpty() && !isSizeText(size.text)) {
+            return std::nullopt;
+        }
+        *target = size;
+    }
+    return symbol;
+}
+
+} // namespace Workbench

@@ -1,0 +1,63 @@
+#include "job/ConfigDirectory.h"
+
+#include <EmbeddedEngine.h>
+#include <KVCAM_API.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace Workbench {
+
+namespace {
+
+// WORKBENCH_SAMPLES is the samples' place at build time; elsewhere the program starts without settings.
+void copySamples(QString const & name, QString const & directory)
+{
+    QDir().mkpath(directory);
+    QDir const samples(QStringLiteral(WORKBENCH_SAMPLES "/") + name);
+    for (QString const & file : samples.entryList(QDir::Files)) {
+        QString const copy = directory + '/' + file;
+        QFile::copy(samples.filePath(file), copy);
+        QFile::setPermissions(copy,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    }
+    for (QString const & folder : samples.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        copySamples(name + '/' + folder, directory + '/' + folder);
+    }
+}
+
+} // namespace
+
+QString enterConfiguration(QString const & directory, QString const & output)
+{
+    QString const chosen = directory.isEmpty() ? output + "/workbench-session/config" : directory;
+    QFileInfo const folder(chosen);
+    if (!folder.exists() && directory.isEmpty()) {
+        copySamples("config", chosen);
+        copySamples("autoMatrix", folder.path() + "/autoMatrix"); // the user's own templates
+    } else if (!folder.isDir()) {
+        return QString("the configuration directory \"%1\" is not there").arg(chosen);
+    }
+    KVCAM::Embedded::setConfigDirectory(chosen.toStdString());
+    if (!QDir::setCurrent(folder.path())) {
+        return QString("cannot enter \"%1\"").arg(folder.path());
+    }
+    return {};
+}
+
+QString configurationDirectory()
+{
+    QString const root = QString::fromStdString(Common::getPath());
+    return (root.isEmpty() ? QDir::currentPath() : root) + '/' +
+           QString::fromStdString(Common::getPath_config());
+}
+
+QJsonObject readJsonObject(QString const & path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QJsonDocument::fromJson(file.readAll()).object()
+                                                            : QJsonObject();
+}
+
+} // namespace Workbench

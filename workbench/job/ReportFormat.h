@@ -1,0 +1,14 @@
+#pragma once
+
+#include <UIAPICommon.h>
+
+#include <QString>
+
+#include <optional>
+
+namespace Workbench {
+
+/// The format of a report by the ending of its file's name, ".json" or ".csv" in whatever case.
+std::optional<KVCAM::UIAPI::Ext::ReportFormat> reportFormat(QString const & path);
+
+} // namespace Workbench

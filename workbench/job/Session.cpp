@@ -1,0 +1,115 @@
+#include "job/Session.h"
+
+#include <glog/logging.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Workbench {
+
+namespace {
+
+QString failure(QString const & directory, std::string const & reason)
+{
+    return QString("cannot open the job \"%1\": ").arg(QDir::toNativeSeparators(directory)) +
+           QString::fromStdString(reason).simplified();
+}
+
+// What the latest reading said, if it failed: an empty list alone tells nothing.
+QString readingError()
+{
+    return QString::fromStdString(KVCAM::Embedded::lastError()).simplified();
+}
+
+} // namespace
+
+QString Session::open(QString const & directory)
+{
+    QFileInfo const folder(directory);
+    if (!folder.isDir()) {
+        return failure(directory, folder.exists() ? "it is not a directory" : "there is no such directory");
+    }
+    std::string const job = folder.fileName().toStdString();
+    if (!KVCAM::API::open_job(folder.path().toStdString(), job)) {
+        return failure(directory, KVCAM::Embedded::lastError());
+    }
+    std::vector<std::string> names;
+    std::vector<KVCAM::API::layer_info> layers;
+    std::string const error = KVCAM::API::get_matrix(job, names, layers);
+    if (!error.empty()) {
+        return failure(directory, error);
+    }
+    if (names.empty()) {
+        return failure(directory, "its matrix has no steps");
+    }
+    m_directory = directory;
+    m_job = job;
+    m_steps.clear();
+    for (std::string const & name : names) {
+        KVCAM::Embedded::Box box;
+        bool const hasOutline = KVCAM::Embedded::profileBox(job, name, box);
+        m_steps.push_back({name, hasOutline ? std::optional(box) : std::nullopt});
+    }
+    m_layers.clear();
+    for (KVCAM::API::layer_info const & info : layers) {
+        m_layers.push_back({info, {}, {}});
+    }
+    return {};
+}
+
+void Session::countFeatures(Layer & layer) const
+{
+    layer.features.clear();
+    layer.errors.clear();
+    for (Step const & step : m_steps) {
+        int const features = KVCAM::Embedded::featureCount(m_job, step.name, layer.info.name);
+        QStringList errors{readingError()};
+        bool const isKnown =
+            features >= 0 && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
+        layer.features.push_back(isKnown ? std::optional(features) : std::nullopt);
+        KVCAM::Embedded::tools(m_job, step.name, layer.info.name);
+        errors.append(readingError());
+        errors.removeAll(QString());
+        for (QString const & error : errors) {
+            LOG(ERROR) << "workbench: cannot read layer " << layer.info.name << " of step " << step.name
+                       << ": " << error.toStdString();
+        }
+        layer.errors.push_back(errors.join('\n'));
+    }
+}
+
+void Session::recount(std::size_t step)
+{
+    for (Layer & layer : m_layers) {
+        if (step < layer.features.size() && layer.features[step]) {
+            layer.features[step] =
+                KVCAM::Embedded::featureCount(m_job, m_steps.at(step).name, layer.info.name);
+        }
+    }
+}
+
+bool Session::hasStep(QString const & name) const
+{
+    return std::any_of(m_steps.begin(), m_steps.end(), [&](Step const & step) {
+        return QString::fromStdString(step.name).compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+int Session::firstCopperLayer(std::string const & step) const
+{
+    for (std::size_t i = 0; i < m_layers.size(); ++i) {
+        KVCAM::API::layer_info const & info = m_layers[i].info;
+        if (info.context != "board" || info.type != "signal") {
+            continue;
+        }
+        auto const features = KVCAM::Embedded::features(m_job, step, info.name);
+        if (std::any_of(features.begin(), features.end(), [](auto const & f) { return f.kind == 'P'; })) {
+            return static_cast<int>(i);
+        }
+    }
+    return 0;
+}
+
+} // namespace Workbench

@@ -1,0 +1,281 @@
+#include "layers/FilterBar.h"
+
+#include "ui/LanguageChange.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+/// A key of the filter and the words that are offered for it, some of them several at once.
+struct FilterBar::Field
+{
+    char const * key;
+    char const * title;
+    std::vector<char const *> words;
+};
+
+FilterBar::Field const FilterBar::fields[] = {
+    {"type",
+     QT_TRANSLATE_NOOP("Workbench::FilterBar", "Ty&pe"),
+     {"signal", "power_ground", "mixed", "signal|power_ground|mixed", "solder_mask", "silk_screen",
+      "solder_paste", "drill", "rout", "drill|rout", "component", "dielectric", "document"}},
+    {"context", QT_TRANSLATE_NOOP("Workbench::FilterBar", "&Context"), {"board", "misc"}},
+    {"side", QT_TRANSLATE_NOOP("Workbench::FilterBar", "S&ide"), {"top", "bottom", "inner", "top|bottom"}},
+    {"pos", QT_TRANSLATE_NOOP("Workbench::FilterBar", "P&olarity"), {"positive", "negative"}},
+};
+
+namespace {
+
+// Completes the last of the words that "|" joins in a field.
+class WordCompleter : public QCompleter
+{
+public:
+    WordCompleter(QStringList const & words, QComboBox & field) : QCompleter(words, &field), m_field(field) {}
+
+    QStringList splitPath(QString const & text) const override { return {text.section('|', -1)}; }
+    QString pathFromIndex(QModelIndex const & index) const override
+    {
+        QString const text = m_field.currentText();
+        return text.left(text.lastIndexOf('|') + 1) + QCompleter::pathFromIndex(index);
+    }
+
+private:
+    QComboBox & m_field;
+};
+
+} // namespace
+
+FilterBar::FilterBar(Session const & session, QWidget * parent)
+    : QWidget(parent)
+    , m_job(QString::fromStdString(session.job()))
+    , m_hides(new QCheckBox)
+    , m_analysis(new QPushButton)
+    , m_clear(new QPushButton)
+    , m_count(new QLabel)
+    , m_explanation(new QLabel)
+{
+    static_assert(std::size(fields) == fieldCount);
+    for (Session::Layer const & layer : session.layers()) {
+        m_names.push_back(layer.info.name);
+    }
+    makeLayout();
+    m_hides->setChecked(true);
+    m_analysis->setObjectName("for analysis");
+    m_analysis->setCheckable(true);
+    m_count->setObjectName("layer count");
+    m_explanation->setObjectName("explanation");
+    m_explanation->setWordWrap(true);
+    m_explanation->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_explanation->setMinimumHeight(2 * fontMetrics().lineSpacing()); // the table below keeps its place
+    m_explanation->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    connect(m_hides, &QCheckBox::toggled, this, &FilterBar::changed);
+    connect(m_analysis, &QPushButton::toggled, this, &FilterBar::askForAnalysis);
+    connect(m_clear, &QPushButton::clicked, this, [this] { ask({}); });
+    refresh();
+    setTextsNowAndLater(*this, [this] { setTexts(); });
+}
+
+void FilterBar::makeLayout()
+{
+    auto * layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (std::size_t i = 0; i < fieldCount; ++i) {
+        auto * words = new QComboBox;
+        words->setObjectName(fields[i].key);
+        words->setEditable(true);
+        words->setInsertPolicy(QComboBox::NoInsert);
+        words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // the list of layers may be narrow
+        words->setMinimumWidth(60);
+        QStringList offered;
+        for (char const * word : fields[i].words) {
+            offered.append(word);
+        }
+        words->addItems(offered);
+        words->setEditText({});
+        auto * completer = new WordCompleter(offered, *words);
+        completer->setCaseSensitivity(Qt::CaseSensitive); // as the filter is
+        words->setCompleter(completer);
+        connect(words, &QComboBox::editTextChanged, this, &FilterBar::refresh);
+        m_words[i] = words;
+        m_titles[i] = new QLabel;
+        m_titles[i]->setBuddy(words);
+        int const row = static_cast<int>(i) / 2;
+        int const column = static_cast<int>(i) % 2 * 2;
+        layout->addWidget(m_titles[i], row, column);
+        layout->addWidget(words, row, column + 1);
+        layout->setColumnStretch(column + 1, 1);
+    }
+    auto * buttons = new QHBoxLayout;
+    buttons->addWidget(m_analysis);
+    buttons->addWidget(m_clear);
+    buttons->addStretch(1);
+    buttons->addWidget(m_hides);
+    layout->addLayout(buttons, 2, 0, 1, -1);
+    layout->addWidget(m_count, 3, 0, 1, -1);
+    layout->addWidget(m_explanation, 4, 0, 1, -1);
+}
+
+void FilterBar::setTexts()
+{
+    for (std::size_t i = 0; i < fieldCount; ++i) {
+        m_titles[i]->setText(tr(fields[i].title));
+        m_words[i]->lineEdit()->setPlaceholderText(tr("every layer"));
+        m_words[i]->setToolTip(tr("Words joined by |; case counts. After the last | an empty word follows, "
+                                  "which accepts layers that say nothing here."));
+    }
+    m_hides->setText(tr("Hi&de others"));
+    m_hides->setToolTip(tr("Layers that do not match are hidden, or else greyed"));
+    m_analysis->setText(tr("For analysis"));
+    m_analysis->setToolTip(tr("Shows the layers that analysis and checks read"));
+    m_clear->setText(tr("C&lear"));
+    m_clear->setToolTip(tr("Shows all layers"));
+    tell();
+}
+
+QMap<QString, QString> FilterBar::request() const
+{
+    QMap<QString, QString> request;
+    for (std::size_t i = 0; i < fieldCount; ++i) {
+        if (!m_words[i]->currentText().isEmpty()) {
+            request[fields[i].key] = m_words[i]->currentText();
+        }
+    }
+    return request;
+}
+
+void FilterBar::ask(QMap<QString, QString> const & request)
+{
+    for (QComboBox * words : m_words) {
+        QSignalBlocker const blocker(words);
+        words->setEditText(request.value(words->objectName()));
+    }
+    askForAnalysis(false);
+}
+
+void FilterBar::askForAnalysis(bool on)
+{
+    QSignalBlocker const blocker(m_analysis);
+    m_analysis->setChecked(on);
+    for (QComboBox * words : m_words) {
+        words->setEnabled(!on);
+    }
+    refresh();
+}
+
+void FilterBar::setStep(std::string const & step)
+{
+    m_step = QString::fromStdString(step);
+    refresh();
+}
+
+void FilterBar::setLayer(int layer)
+{
+    m_layer = layer;
+    tell();
+}
+
+int FilterBar::matchCount() const
+{
+    return static_cast<int>(std::count(m_matches.begin(), m_matches.end(), true));
+}
+
+bool FilterBar::hidesOthers() const
+{
+    return m_hides->isChecked();
+}
+
+// The library gives names in matrix order, and no two layers of a matrix have the same.
+void FilterBar::refresh()
+{
+    std::vector<std::string> selected;
+    if (m_analysis->isChecked()) {
+        selected = getAnalyzeAndDFMLayers(m_job, m_step);
+    } else {
+        UIAPICommonPara::instance()->selectLayersByType(m_job, selected, request());
+        m_report = Ext::explainLayerFilter(m_job, request());
+    }
+    m_matches.assign(m_names.size(), false);
+    auto next = selected.begin();
+    for (std::size_t i = 0; i < m_names.size() && next != selected.end(); ++i) {
+        if (m_names[i] == *next) {
+            m_matches[i] = true;
+            ++next;
+        }
+    }
+    tell();
+    emit changed();
+}
+
+void FilterBar::tell()
+{
+    m_count->setText(tr("%1 of %2 layers").arg(matchCount()).arg(m_names.size()));
+    m_explanation->setText(explanation());
+}
+
+QString FilterBar::fieldTitle(QString const & key) const
+{
+    auto const found =
+        std::find_if(std::begin(fields), std::end(fields), [&key](Field const & f) { return key == f.key; });
+    return found == std::end(fields) ? key : tr(found->title).remove('&').section('(', 0, 0);
+}
+
+QString FilterBar::idleText(Ext::LayerFilterWord const & word) const
+{
+    QString const text = word.fault == Ext::LayerWordFault::UnknownWord
+                             ? tr("%1: \"%2\" is no word of this field.")
+                             : tr("%1: no layer of the job is \"%2\".");
+    return text.arg(fieldTitle(word.key), word.word);
+}
+
+QString FilterBar::analysisText() const
+{
+    QString const text = tr("These are the layers that analysis and checks read.");
+    bool const isOut = m_layer >= 0 && !m_matches.at(static_cast<std::size_t>(m_layer));
+    return isOut ? text + ' ' +
+                       tr("\"%1\" is none of them.")
+                           .arg(QString::fromStdString(m_names[static_cast<std::size_t>(m_layer)]))
+                 : text;
+}
+
+QString FilterBar::explanation() const
+{
+    if (m_analysis->isChecked()) {
+        return analysisText();
+    }
+    if (!m_report.error.empty()) {
+        return QString::fromStdString(m_report.error);
+    }
+    if (request().isEmpty()) {
+        return tr("All layers are shown.");
+    }
+    QStringList sentences;
+    for (Ext::LayerFilterWord const & word : m_report.idleWords) {
+        sentences.append(idleText(word));
+    }
+    if (matchCount() == 0) {
+        sentences.append(tr("No layer matches."));
+    }
+    auto const layer = static_cast<std::size_t>(m_layer);
+    if (m_layer >= 0 && layer < m_report.layers.size()) {
+        Ext::LayerVerdict const & verdict = m_report.layers[layer];
+        QString const name = QString::fromStdString(verdict.name);
+        sentences.append(verdict.refusedBy.isEmpty()
+                             ? tr("\"%1\" matches.").arg(name)
+                             : tr("\"%1\" is left out by: %2.").arg(name, fieldTitle(verdict.refusedBy)));
+    }
+    return sentences.join(' ');
+}
+
+} // namespace Workbench

@@ -1,0 +1,140 @@
+#include "pages/SymbolsPage.h"
+
+#include "ui/LanguageChange.h"
+#include "ui/TableTools.h"
+
+#include <EmbeddedEngine.h>
+#include <UIAPICommon.h>
+
+#include <QGroupBox>
+#include <QJsonObject>
+#include <QVBoxLayout>
+
+namespace Workbench {
+
+namespace {
+
+using namespace KVCAM::UIAPI;
+
+constexpr int descriptionColumn = 5;
+
+// Names that are stored in mil are shown rounded and snapped, as the library does for its own lists; those in
+// micrometres are first turned into mil.
+SymbolRow symbolRow(KVCAM::Embedded::SymbolUse const & use)
+{
+    SymbolRow row;
+    row.stored = QString::fromStdString(use.name);
+    row.unit = use.unit;
+    row.features = use.features;
+    QString mil = row.stored;
+    if (use.unit != inchUnit) {
+        setSymbolUIData(mil, inchUnit);
+    }
+    row.inch = QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), inchUnit));
+    row.metric = use.unit != inchUnit
+                     ? row.stored
+                     : QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), metricUnit));
+    row.description = Ext::describeSymbol(row.stored, use.unit);
+    return row;
+}
+
+char const * sizeUnitOf(SymbolRow const & row)
+{
+    return row.unit == inchUnit ? "mil" : "my";
+}
+
+} // namespace
+
+std::vector<SymbolRow> symbolRows(std::string const & job)
+{
+    std::vector<SymbolRow> rows;
+    for (KVCAM::Embedded::SymbolUse const & use : KVCAM::Embedded::jobSymbols(job)) {
+        rows.push_back(symbolRow(use));
+    }
+    return rows;
+}
+
+QJsonArray toJson(std::vector<SymbolRow> const & rows)
+{
+    QJsonArray symbols;
+    for (SymbolRow const & row : rows) {
+        symbols.append(QJsonObject{{"name", row.stored},
+                                   {"unit", sizeUnitOf(row)},
+                                   {"mil", row.inch},
+                                   {"my", row.metric},
+                                   {"description", row.description},
+                                   {"features", row.features}});
+    }
+    return symbols;
+}
+
+SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * parent)
+    : QWidget(parent), m_job(job), m_view(view)
+{
+    m_names = makeTable({{}, {}, {}, {}, {}, {}});
+    wrapLastColumn(*m_names);
+    for (SymbolRow const & row : symbolRows(job)) {
+        addRow(*m_names,
+               {row.stored, sizeUnitOf(row), row.inch, row.metric, QString::number(row.features),
+                row.description},
+               {4});
+    }
+    m_results = makeTable({{}, {}});
+    m_resultsTitle = new QGroupBox;
+    auto * resultsLayout = new QVBoxLayout(m_resultsTitle);
+    resultsLayout->addWidget(m_results);
+
+    auto * layout = new QVBoxLayout(this);
+    layout->addWidget(m_names, 3);
+    layout->addWidget(m_resultsTitle, 1);
+    connect(m_names, &QTableWidget::itemSelectionChanged, this, &SymbolsPage::showResults);
+    connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &SymbolsPage::showResults);
+    m_names->selectRow(0);
+    setTextsNowAndLater(*this, [this] { setTexts(); });
+}
+
+void SymbolsPage::setView(void const * view)
+{
+    m_view = view;
+    showResults();
+}
+
+void SymbolsPage::setTexts()
+{
+    m_names->setHorizontalHeaderLabels({tr("As stored"), tr("Stored in"), tr("In mil"),
+                                        tr("In micrometres (my)"), tr("Features"), tr("Description")});
+    m_results->setHorizontalHeaderLabels({tr("Function"), tr("Result")});
+    auto const rows = symbolRows(m_job);
+    for (int i = 0; i < m_names->rowCount() && i < static_cast<int>(rows.size()); ++i) {
+        m_names->item(i, descriptionColumn)->setText(rows[static_cast<std::size_t>(i)].description);
+    }
+    showResults();
+}
+
+void SymbolsPage::showResults()
+{
+    m_results->setRowCount(0);
+    if (m_names->currentRow() < 0) {
+        return;
+    }
+    QString const name = m_names->item(m_names->currentRow(), 0)->text();
+    int const unit = getUnit(m_view);
+    m_resultsTitle->setTitle(
+        tr("%1 by each function, unit %2").arg(name, QString::fromStdString(getUnitString(m_view))));
+    auto const changed = [&name](auto change) {
+        QString copy = name;
+        change(copy);
+        return copy;
+    };
+    addRow(*m_results, {"setSymbolUIData", changed([&](QString & text) { setSymbolUIData(text, unit); })});
+    addRow(*m_results,
+           {"getSymbolNameByUnit", QString::fromStdString(getSymbolNameByUnit(name.toStdString(), unit))});
+    addRow(*m_results,
+           {"setSymbolDataByUnit", changed([&](QString & text) { setSymbolDataByUnit(m_view, text); })});
+    addRow(*m_results, {"setSymbolDataByMilUnit",
+                        changed([&](QString & text) { setSymbolDataByMilUnit(m_view, text); })});
+    addRow(*m_results,
+           {"setSymbolAPIData", changed([&](QString & text) { setSymbolAPIData(m_view, text); })});
+}
+
+} // namespace Workbench

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/Units.h"
+
+#include <QJsonArray>
+#include <QWidget>
+
+class QGroupBox;
+class QTableWidget;
+
+namespace Workbench {
+
+/// One symbol name of the job in both units.
+struct SymbolRow
+{
+    QString stored;
+    int unit = inchUnit; ///< of the stored sizes
+    QString inch;
+    QString metric;
+    QString description;
+    int features = 0;
+};
+
+/// Every symbol name of the job, sorted.
+std::vector<SymbolRow> symbolRows(std::string const & job);
+QJsonArray toJson(std::vector<SymbolRow> const & rows);
+
+/// The symbol names of the job as a table, and what each of the library's functions makes of the selected
+/// name in the unit of a view.
+class SymbolsPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SymbolsPage(std::string const & job, void const * view, QWidget * parent = nullptr);
+
+    /// Shows the functions' results in the unit of another view.
+    void setView(void const * view);
+
+private:
+    void setTexts();
+    void showResults();
+
+    std::string m_job;
+    void const * m_view;
+    QTableWidget * m_names;
+    QGroupBox * m_resultsTitle;
+    QTableWidget * m_results;
+};
+
+} // namespace Workbench

@@ -1,0 +1,377 @@
+#include "tour/Headless.h"
+#include "feature/PadGroup.h"
+#include "feature/RemarksGroup.h"
+
+#include "board/BoardTexts.h"
+#include "board/BoardView.h"
+#include "checks/ResultFiles.h"
+#include "checks/ResultsPage.h"
+#include "feature/FeatureDialog.h"
+#include "layers/LayerTable.h"
+#include "pages/EdaPage.h"
+#include "pages/EnginePane.h"
+#include "pages/SymbolsPage.h"
+#include "tour/HeadlessLayers.h"
+#include "ui/Units.h"
+#include "window/BoardPage.h"
+#include "window/CheatSheet.h"
+#include "window/MainWindow.h"
+
+#include <UIAPICommon.h>
+
+#include <glog/logging.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QJsonArray>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPixmap>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace Workbench {
+
+namespace {
+
+using namespace KVCAM::UIAPI;
+
+// Takes screenshots into a folder and remembers where they are.
+class Camera
+{
+public:
+    explicit Camera(QString const & folder) : m_folder(folder) {}
+
+    void take(QWidget & widget, QString const & name)
+    {
+        QApplication::processEvents(); // layouts settle before the picture is taken
+        for (auto * view : widget.findChildren<BoardView *>()) {
+            view->finishPicture();
+        }
+        QString const path = m_folder.filePath(name);
+        if (widget.grab().save(path)) {
+            m_pictures.append(path);
+        } else {
+            LOG(ERROR) << "workbench: cannot write " << path.toStdString();
+            m_errors.append(QJsonObject{{"file", path}, {"text", "the screenshot cannot be written"}});
+        }
+    }
+    QJsonArray const & pictures() const { return m_pictures; }
+    QJsonArray const & errors() const { return m_errors; }
+
+private:
+    QDir m_folder;
+    QJsonArray m_pictures;
+    QJsonArray m_errors;
+};
+
+void press(QWidget & field, int key, QString const & text = {})
+{
+    for (auto const kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(kind, key, Qt::NoModifier, text);
+        QApplication::sendEvent(&field, &event);
+    }
+    QApplication::processEvents(); // a size is taken after its key
+}
+
+// In place of what stands in the field.
+void type(QLineEdit & field, QString const & text)
+{
+    field.selectAll();
+    for (QChar const letter : text) {
+        press(field, letter.unicode(), letter);
+    }
+}
+
+QJsonArray layersOf(Session const & session)
+{
+    QJsonArray layers;
+    for (Session::Layer const & layer : session.layers()) {
+        QJsonArray counts;
+        for (std::optional<int> const & count : layer.features) {
+            counts.append(count ? QJsonValue(*count) : QJsonValue());
+        }
+        layers.append(QJsonObject{{"row", layer.info.row},
+                                  {"name", QString::fromStdString(layer.info.name)},
+                                  {"context", QString::fromStdString(layer.info.context)},
+                                  {"type", QString::fromStdString(layer.info.type)},
+                                  {"polarity", QString::fromStdString(layer.info.polarity)},
+                                  {"features", counts}});
+    }
+    return layers;
+}
+
+// What the job's files and the camera could not do.
+QJsonArray errorsOf(Session const & session, Camera const & camera)
+{
+    QJsonArray errors = camera.errors();
+    for (Session::Layer const & layer : session.layers()) {
+        for (std::size_t i = 0; i < layer.errors.size(); ++i) {
+            if (!layer.errors[i].isEmpty()) {
+                errors.append(QJsonObject{{"layer", QString::fromStdString(layer.info.name)},
+                                          {"step", QString::fromStdString(session.steps()[i].name)},
+                                          {"text", layer.errors[i]}});
+            }
+        }
+    }
+    return errors;
+}
+
+QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embedded::Box> const & outline)
+{
+    int const unit = getUnit(view.handle());
+    setStepConfigToAPI(view.handle());
+    QJsonObject facts{{"name", QString::fromStdString(view.step())},
+                      {"unit", QString::fromStdString(getUnitString(view.handle()))},
+                      {"engine before", toJson(KVCAM::Embedded::liveState())}};
+    QJsonArray sizes;
+    for (int const shown : {unit, otherUnit(unit)}) {
+        if (shown != unit) {
+            setUnit(view.handle(), shown);
+            facts["engine after"] = toJson(KVCAM::Embedded::liveState());
+        }
+        if (outline) {
+            sizes.append(
+                sizeText(view.handle(), outline->right - outline->left, outline->top - outline->bottom));
+        }
+    }
+    setUnit(view.handle(), unit);
+    facts["outline"] = sizes;
+    return facts;
+}
+
+// Presses the keys of a sequence, and shows the hot keys.
+QJsonObject useHotkeys(MainWindow & window, Camera & camera)
+{
+    auto const & told = *window.findChild<QLabel *>("hot keys");
+    BoardView & view = *window.board().currentView();
+    SNAP_TYPE_MODE const mode = getSnapType(view.handle());
+    view.setFocus();
+    press(view, Qt::Key_S);
+    QJsonObject facts{{"pending", told.text()}};
+    camera.take(window, "hot-key-pending.png");
+    press(view, Qt::Key_G);
+    facts["done"] = told.text();
+    facts["snap"] = static_cast<int>(getSnapType(view.handle()));
+    setSnapType(view.handle(), mode);
+    CheatSheet & sheet = *window.showKeys();
+    camera.take(sheet, "hot-keys.png");
+    sheet.showOwnFile();
+    camera.take(sheet, "hot-keys-file.png");
+    sheet.close();
+    QJsonArray findings;
+    for (Ext::HotkeyFinding const & finding : Ext::tryLoadHotkeys(Ext::hotkeyFile).findings) {
+        findings.append(finding.text);
+    }
+    facts["findings"] = findings;
+    return facts;
+}
+
+// Works through the feature dialog as a user would: types an illegal width and one to calculate, switches the
+// unit a hundred times. A form that was restored is left as it is.
+QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
+{
+    int const pad = window.board().firstPad();
+    if (pad < 0) {
+        return {};
+    }
+    FeatureDialog & dialog = *window.board().openFeature(pad);
+    void const * const view = window.board().currentView()->handle();
+    int const unit = getUnit(view);
+    QJsonObject facts{{"layer", QString::fromStdString(window.board().currentView()->layer())},
+                      {"pad", pad},
+                      {"restored", dialog.isRestored()}};
+    if (!dialog.isRestored()) {
+        auto & width = *dialog.findChild<KVLineEdit *>("width");
+        QString const calculation = unit == inchUnit ? "10+2.5" : "254+63.5";
+        width.setFocus();
+        type(width, "90000*2");
+        facts["refused"] = dialog.pad().verdict();
+        camera.take(dialog, "feature-dialog-refused.png");
+        press(width, Qt::Key_Return);
+        facts["width after refusal"] = dialog.pad().width();
+        type(width, calculation);
+        facts["typed"] = dialog.pad().width();
+        press(width, Qt::Key_Return);
+        dialog.remarks().fill("uiapi-workbench",
+                              "The width was typed as " + calculation + " and is kept with this note.",
+                              session.directory() + "/matrix/matrix");
+    }
+    QString const before = dialog.pad().width();
+    for (int i = 0; i < 100; ++i) {
+        switchUnit(view);
+    }
+    facts["width"] = before;
+    facts["width after 100 switches"] = dialog.pad().width();
+    facts["width in nm"] = static_cast<double>(dialog.pad().exactWidth());
+    facts["description"] = dialog.pad().description();
+    for (int const shown : {inchUnit, metricUnit}) {
+        setUnit(view, shown);
+        facts[shown == inchUnit ? "symbol in mil" : "symbol in my"] = dialog.pad().symbol();
+        camera.take(dialog, shown == inchUnit ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
+    }
+    dialog.pad().showNames();
+    camera.take(dialog, "feature-dialog-names.png");
+    dialog.setFocus(); // the list goes away by itself
+    window.setLanguage(LANGUAGE_CHINESE);
+    camera.take(dialog, "feature-dialog-chinese.png"); // which lets the dialog hear of the change
+    facts["description in Chinese"] = dialog.pad().description();
+    window.setLanguage(LANGUAGE_ENGLISH);
+    setUnit(view, unit);
+    facts["saved"] = dialog.saveForm();
+    dialog.close();
+    return facts;
+}
+
+// All layers together, the whole board and then a pad of the selected layer from near.
+void showPicture(MainWindow & window, Camera & camera)
+{
+    auto & layers = *window.findChild<LayerTable *>();
+    BoardView & view = *window.board().currentView();
+    layers.tickAll(true);
+    camera.take(window, "board-whole.png");
+    auto const & shapes = view.shapes();
+    auto const pad = std::find_if(shapes.begin(), shapes.end(), [](FeatureShape const & shape) {
+        return shape.kind == FeatureShape::Kind::Pad;
+    });
+    if (pad != shapes.end()) {
+        view.centreOn(pad->place.x(), pad->place.y());
+    }
+    view.zoomIn();
+    camera.take(window, "board-zoomed.png");
+    layers.tickAll(false);
+    view.zoomHome();
+}
+
+// Shows the link with a message that the program sends to itself. Where another program has the port,
+// nothing is sent: it would be that program's.
+QJsonObject useEdaPage(MainWindow & window, Camera & camera)
+{
+    window.showPage("eda");
+    Ext::EdaLinkState const before = Ext::edaLinkState();
+    if (before.bound) {
+        auto & page = *window.findChild<EdaPage *>();
+        page.compose({{"command", "show"}, {"nets", QJsonArray{"GND", "VCC"}}}, EdaPage::receivePort);
+        QEventLoop waiting;
+        QObject::connect(Ext::edaLink(), &ConnectEDA::datagramReceived, &waiting, &QEventLoop::quit);
+        QTimer::singleShot(2000, &waiting, &QEventLoop::quit);
+        page.send();
+        waiting.exec();
+        setEdaPort(before.port);
+    }
+    camera.take(window, "eda.png");
+    Ext::EdaLinkState const state = Ext::edaLinkState();
+    return {{"bound", state.bound},
+            {"sent", static_cast<int>(state.sent)},
+            {"received", static_cast<int>(state.received)}};
+}
+
+QJsonObject configuration()
+{
+    QJsonArray templates;
+    for (auto const & [index, tmpl] : getAutoMatrixTmpMap()) {
+        templates.append(QJsonObject{{"index", index}, {"name", QString::fromStdString(tmpl.name)}});
+    }
+    std::vector<std::string> attributes;
+    getParentAttribute(attributes);
+    QJsonArray findings;
+    for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
+        findings.append(QJsonObject{{"file", finding.file}, {"key", finding.key}, {"text", finding.text}});
+    }
+    return {{"threads", getThreadCount()},
+            {"templates", templates},
+            {"attributes", static_cast<int>(attributes.size())},
+            {"findings", findings}};
+}
+
+// Runs the checks, writes their files and shows the results in both units, then the narrowest track on the
+// board.
+QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
+{
+    if (files.summary.isEmpty()) {
+        files.summary = files.output + "/summary.json";
+    }
+    BoardView & view = *window.board().currentView();
+    WrittenResults const written = writeResults(window.results(), files);
+    QJsonObject facts = toJson(window.results().run());
+    facts["step"] = QString::fromStdString(view.step());
+    facts["summary"] = written.files.contains(files.summary) ? QJsonValue(files.summary) : QJsonValue();
+    facts["files"] = QJsonArray::fromStringList(written.files);
+    facts["errors"] = QJsonArray::fromStringList(written.errors);
+    int const unit = getUnit(view.handle());
+    window.showPage("results");
+    bool const hasTracks = window.results().showCheck(signalTable, linesNumber);
+    for (int const shown : {inchUnit, metricUnit}) {
+        setUnit(view.handle(), shown);
+        camera.take(window, shown == inchUnit ? "results-inch.png" : "results-mm.png");
+    }
+    setUnit(view.handle(), unit);
+    window.showPage("board");
+    if (hasTracks && !view.marks().empty()) {
+        camera.take(window, "results-on-board.png");
+        view.setMarks({});
+    }
+    return facts;
+}
+
+} // namespace
+
+QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine)
+{
+    // Nobody is there to close a box: the texts go into the facts instead.
+    QJsonArray boxes;
+    auto questions = Ext::MessageAnswer::No;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
+        boxes.append(message.text);
+        return message.kind == Ext::MessageKind::Question ? questions : Ext::MessageAnswer::Ok;
+    });
+    Camera camera(commandLine.output);
+    window.show();
+    QJsonArray steps;
+    for (std::size_t i = 0; i < session.steps().size(); ++i) {
+        steps.append(switchThereAndBack(*window.board().views()[i], session.steps()[i].outline));
+    }
+    setStepConfigToAPI(window.board().currentView()->handle());
+    camera.take(window, "workbench.png");
+    showPicture(window, camera);
+    for (QString const page : {"symbols", "settings", "templates", "attributes"}) {
+        window.showPage(page);
+        camera.take(window, page + ".png");
+    }
+    QJsonObject const eda = useEdaPage(window, camera);
+    window.showPage("board");
+    QJsonObject const hotkeys = useHotkeys(window, camera);
+    TakePicture const take = [&camera](QWidget & widget, QString const & name) { camera.take(widget, name); };
+    QJsonObject const filters = useFilters(window, take);
+    questions = Ext::MessageAnswer::Yes;
+    QJsonObject const references = useReferences(window, take);
+    QJsonObject const undone = useUndo(window, session, take);
+    questions = Ext::MessageAnswer::No;
+    QJsonObject const feature = useFeatureDialog(window, session, camera);
+    QJsonObject const analysis = useResults(window, commandLine, camera);
+    QJsonArray errors = errorsOf(session, camera);
+    for (auto const & error : analysis["errors"].toArray()) {
+        errors.append(QJsonObject{{"step", analysis["step"]}, {"text", error}});
+    }
+    Ext::setMessagePresenter({});
+    return {{"job", QString::fromStdString(session.job())},
+            {"directory", session.directory()},
+            {"steps", steps},
+            {"layers", layersOf(session)},
+            {"symbols", toJson(symbolRows(session.job()))},
+            {"EDA link", eda},
+            {"hot keys", hotkeys},
+            {"filters", filters},
+            {"references", references},
+            {"undo", undone},
+            {"feature", feature},
+            {"analysis", analysis},
+            {"configuration", configuration()},
+            {"boxes", boxes},
+            {"errors", errors},
+            {"screenshots", camera.pictures()}};
+}
+
+} // namespace Workbench

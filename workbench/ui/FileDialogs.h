@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace Workbench {
+
+/// Opens a dialog for the name of a file to write, beginning with a proposal, and returns at once. `take`
+/// gets the path that the user chooses. The dialog belongs to the parent: if that is deleted, nothing is
+/// taken.
+void askForFile(QWidget & parent, QString const & title, QString const & proposal, QString const & filter,
+                std::function<void(QString const &)> take);
+
+} // namespace Workbench

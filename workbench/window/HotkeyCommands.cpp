@@ -1,0 +1,370 @@
+#include "window/HotkeyCommands.h"
+
+#include "board/BoardTexts.h"
+#include "board/BoardView.h"
+#include "ui/Units.h"
+#include "window/BoardPage.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace Workbench {
+
+using namespace KVCAM;
+using namespace KVCAM::UIAPI;
+
+namespace {
+
+enum Direction
+{
+    Up,
+    Down,
+    Right,
+    Left
+};
+
+/// Where a move goes, in sizes of the view.
+QPointF way(int direction, double part)
+{
+    switch (direction) {
+    case Up:
+        return {0, part};
+    case Down:
+        return {0, -part};
+    case Right:
+        return {part, 0};
+    default:
+        return {-part, 0};
+    }
+}
+
+} // namespace
+
+/// What a code means here. Without a function the host has nothing for it.
+struct HotkeyCommands::Command
+{
+    FuncCode code;
+    char const * text; ///< "group: detail" for the commands of a group, in every language
+    QString (HotkeyCommands::*function)(int) = nullptr;
+    int argument = 0;
+    bool repeats = false; ///< whether a key that is held down does it again and again
+
+    static Command const table[];
+};
+
+HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
+    {KP_NoFunction, ""},
+    {KP_AllSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select all"), &HotkeyCommands::selectAll},
+    {KP_ReverseSelect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Reverse the selection"),
+     &HotkeyCommands::reverseSelection},
+    {KP_ShowCAMGuide, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "CAM guide")},
+    {KP_Nequtive, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Negative"),
+     &HotkeyCommands::changeNegative},
+    {KP_Profile, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Profile"), &HotkeyCommands::changeProfile},
+    {KP_WidthMode, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Width mode"),
+     &HotkeyCommands::changeWidth},
+    {KP_EditUndo, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Undo"), &HotkeyCommands::undo},
+    {KP_EditMoveSamelayer, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move within the layer")},
+    {KP_EditBuferCopy, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Copy to the edit buffer")},
+    {KP_EditBuferPaste, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Paste from the edit buffer")},
+    {KP_Unnamed11, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "The function without a name")},
+    {KP_ToolMoveSnap, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: snap")},
+    {KP_ToolMoveHome, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: home"), &HotkeyCommands::home},
+    {KP_ToolMoveUp, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: up"), &HotkeyCommands::move, Up,
+     true},
+    {KP_ToolMoveDown, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: down"), &HotkeyCommands::move,
+     Down, true},
+    {KP_ToolMoveRight, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: right"), &HotkeyCommands::move,
+     Right, true},
+    {KP_ToolMoveLeft, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Move: left"), &HotkeyCommands::move,
+     Left, true},
+    {KP_ToolRefersh, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Refresh"), &HotkeyCommands::refresh},
+    {KP_EditContourize, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Contourize")},
+    {KP_ToolMovePanUp, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: up"), &HotkeyCommands::pan, Up,
+     true},
+    {KP_ToolMovePanDown, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: down"), &HotkeyCommands::pan,
+     Down, true},
+    {KP_ToolMovePanRight, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: right"), &HotkeyCommands::pan,
+     Right, true},
+    {KP_ToolMovePanLeft, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: left"), &HotkeyCommands::pan,
+     Left, true},
+    {KP_Compare, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Compare")},
+    {KP_MoveByMouseCenter, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Centre at the pointer"),
+     &HotkeyCommands::centre},
+    {KP_CopyOrignal, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Copy the original")},
+    {KP_Tranform, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Transform")},
+    {KP_SelectSameFeature, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Select the same features"),
+     &HotkeyCommands::selectSame},
+    {KP_ChangeUnit, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Unit"), &HotkeyCommands::changeUnit},
+    {KP_Measure, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Measure"), &HotkeyCommands::measure},
+    {KK_SnapSkeleton, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: skeleton"), &HotkeyCommands::snap,
+     SNAP_SKELETON},
+    {KK_SnapOff, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: off"), &HotkeyCommands::snap,
+     SNAP_OFF},
+    {KK_SnapGrid, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: grid"), &HotkeyCommands::snap,
+     SNAP_GRID},
+    {KK_SnapCenter, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: centre"), &HotkeyCommands::snap,
+     SNAP_CENTER},
+    {KK_SnapArc, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: arc"), &HotkeyCommands::snap,
+     SNAP_ARC},
+    {KK_SnapEdge, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: edge"), &HotkeyCommands::snap,
+     SNAP_EDGE},
+    {KK_SnapIntersect, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: crossing"),
+     &HotkeyCommands::snap, SNAP_INTERSECT},
+    {KK_SnapMidpoint, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: middle"), &HotkeyCommands::snap,
+     SNAP_MIDPOINT},
+    {KK_SnapProfile, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: profile"), &HotkeyCommands::snap,
+     SNAP_PROFILE},
+    {KK_SnapAdv, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Snap: advanced"), &HotkeyCommands::snap,
+     SNAP_ADVANCED},
+    {KK_Hightlight, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Highlight")},
+};
+
+namespace {
+
+// A read-only text is one, too: its keys select and copy.
+bool hasText(QWidget const & widget)
+{
+    return qobject_cast<QLineEdit const *>(&widget) != nullptr ||
+           qobject_cast<QTextEdit const *>(&widget) != nullptr ||
+           qobject_cast<QPlainTextEdit const *>(&widget) != nullptr ||
+           qobject_cast<QAbstractSpinBox const *>(&widget) != nullptr ||
+           qobject_cast<QComboBox const *>(&widget) != nullptr ||
+           qobject_cast<QLabel const *>(&widget) != nullptr;
+}
+
+// "S ... G grid, O off": what is left of the sequences that the pending key begins; empty if there are none.
+QString pendingText()
+{
+    QStringList following;
+    for (Ext::HotkeyContinuation const & next : Ext::continuations()) {
+        following.append(next.key + ' ' + HotkeyCommands::text(next.code).section(": ", -1));
+    }
+    return following.isEmpty() ? QString() : Ext::pendingKey() + " ... " + following.join(", ");
+}
+
+QString onOff(bool on)
+{
+    return on ? HotkeyCommands::tr("on") : HotkeyCommands::tr("off");
+}
+
+} // namespace
+
+HotkeyCommands::HotkeyCommands(BoardPage & board, QObject * parent) : QObject(parent), m_board(board)
+{
+    connect(&board, &BoardPage::selectionChanged, this, [this] { emit status(selectionText()); });
+    board.currentView()->setFocus();
+    qApp->installEventFilter(this);
+}
+
+HotkeyCommands::Command const & HotkeyCommands::command(FuncCode code)
+{
+    auto const found = std::find_if(std::begin(Command::table), std::end(Command::table),
+                                    [code](Command const & each) { return each.code == code; });
+    return found == std::end(Command::table) ? Command::table[0] : *found;
+}
+
+QString HotkeyCommands::text(FuncCode code)
+{
+    return tr(command(code).text);
+}
+
+bool HotkeyCommands::isAvailable(FuncCode code)
+{
+    return command(code).function != nullptr;
+}
+
+QString HotkeyCommands::run(FuncCode code)
+{
+    Command const & chosen = command(code);
+    QString const result = chosen.function != nullptr ? (this->*chosen.function)(chosen.argument)
+                                                      : tr("not available in this host");
+    return result.isEmpty() ? text(code) : text(code) + ": " + result;
+}
+
+void HotkeyCommands::perform(FuncCode code)
+{
+    QPointer<HotkeyCommands> const alive(this); // a command may ask, and the window be deleted meanwhile
+    QString const text = run(code);
+    if (alive) {
+        emit status(text);
+    }
+}
+
+// A key that its receiver ignores is sent to the parents as well: only the first receiver counts.
+bool HotkeyCommands::isOurs(QObject * receiver) const
+{
+    QWidget const * const window = m_board.window();
+    QWidget const * const first = window->focusWidget() != nullptr ? window->focusWidget() : window;
+    return receiver == first && m_board.isVisible() && !hasText(*first);
+}
+
+bool HotkeyCommands::eventFilter(QObject * receiver, QEvent * event)
+{
+    return event->type() == QEvent::KeyPress && isOurs(receiver) && press(static_cast<QKeyEvent &>(*event));
+}
+
+bool HotkeyCommands::press(QKeyEvent & event)
+{
+    if (event.isAutoRepeat() && event.modifiers() == Qt::NoModifier) {
+        return false; // a key held down is no sequence
+    }
+    FuncCode const code = KVHotKey::getInstance()->getFunctionCode(&event);
+    if (event.isAutoRepeat() && !command(code).repeats) {
+        return code != KP_NoFunction; // and switches nothing back
+    }
+    QPointer<HotkeyCommands> const alive(this);
+    QStringList lines;
+    if (code != KP_NoFunction) {
+        lines.append(run(code));
+    }
+    if (!alive) {
+        return true;
+    }
+    QString const pending = pendingText();
+    if (!pending.isEmpty()) {
+        lines.append(pending);
+    }
+    emit status(lines.join("   |   "));
+    return !lines.isEmpty();
+}
+
+void const * HotkeyCommands::view() const
+{
+    return m_board.currentView()->handle();
+}
+
+QString HotkeyCommands::changeUnit(int /*argument*/)
+{
+    switchUnit(view());
+    return QString::fromStdString(getUnitString(view()));
+}
+
+QString HotkeyCommands::changeNegative(int /*argument*/)
+{
+    setNegative(view(), !getNegative(view()));
+    return onOff(getNegative(view()));
+}
+
+QString HotkeyCommands::changeProfile(int /*argument*/)
+{
+    setProfile(view(), !getProfile(view()));
+    return onOff(getProfile(view()));
+}
+
+QString HotkeyCommands::changeWidth(int /*argument*/)
+{
+    setWidth(view(), getWidth(view()) == 0 ? 1 : 0);
+    return onOff(getWidth(view()) != 0);
+}
+
+QString HotkeyCommands::undo(int /*argument*/)
+{
+    QPointer<HotkeyCommands> const alive(this);
+    m_board.undoLast();
+    if (!alive) {
+        return {};
+    }
+    BoardView const & shown = *m_board.currentView();
+    return tr("operations left: %1")
+        .arg(Ext::undoCount(QString::fromStdString(shown.job()), QString::fromStdString(shown.step())));
+}
+
+QString HotkeyCommands::selectionText() const
+{
+    return tr("selected features: %1").arg(m_board.currentView()->selected().size());
+}
+
+QString HotkeyCommands::selectAll(int /*argument*/)
+{
+    BoardView & shown = *m_board.currentView();
+    shown.select(FeatureSelection::all(shown.features()));
+    return selectionText();
+}
+
+QString HotkeyCommands::reverseSelection(int /*argument*/)
+{
+    BoardView & shown = *m_board.currentView();
+    shown.select(FeatureSelection::reversed(shown.selected(), shown.features()));
+    return selectionText();
+}
+
+QString HotkeyCommands::selectSame(int /*argument*/)
+{
+    BoardView & shown = *m_board.currentView();
+    shown.select(FeatureSelection::withSame(shown.selected(), shown.features()));
+    return selectionText();
+}
+
+QString HotkeyCommands::refresh(int /*argument*/)
+{
+    m_board.refresh();
+    return {};
+}
+
+QString HotkeyCommands::home(int /*argument*/)
+{
+    m_board.currentView()->zoomHome();
+    return {};
+}
+
+QString HotkeyCommands::move(int direction)
+{
+    m_board.currentView()->pan(way(direction, 0.5));
+    return {};
+}
+
+QString HotkeyCommands::pan(int direction)
+{
+    m_board.currentView()->pan(way(direction, 0.1));
+    return {};
+}
+
+QString HotkeyCommands::centre(int /*argument*/)
+{
+    if (coordinate const * const pointer = getCoordinate(view())) {
+        m_board.currentView()->centreOn(pointer->x, pointer->y);
+    }
+    return {};
+}
+
+// The first press takes the pointer's place, the second tells how far the pointer is from there.
+QString HotkeyCommands::measure(int /*argument*/)
+{
+    BoardView const & shown = *m_board.currentView();
+    coordinate const * const pointer = getCoordinate(view());
+    if (pointer == nullptr) {
+        return {};
+    }
+    QPointF const place(pointer->x, pointer->y);
+    if (m_measured != &shown) {
+        m_measured = &shown;
+        m_measuredFrom = place;
+        return tr("from %1; once more at the other end").arg(positionText(view(), place.x(), place.y()));
+    }
+    m_measured = nullptr;
+    QPointF const distance = place - m_measuredFrom;
+    return QString("%1 %2 (%3)")
+        .arg(getUnitJudgeStringMetric(view(), std::hypot(distance.x(), distance.y())),
+             QString::fromStdString(getUnitStringType(view(), 0)),
+             sizeText(view(), std::abs(distance.x()), std::abs(distance.y())));
+}
+
+QString HotkeyCommands::snap(int mode)
+{
+    setSnapType(view(), static_cast<SNAP_TYPE_MODE>(mode));
+    return {};
+}
+
+} // namespace Workbench

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <UIAPICommon.h>
+
+#include <QObject>
+#include <QPointF>
+
+class QKeyEvent;
+
+namespace Workbench {
+
+class BoardPage;
+class BoardView;
+
+/// Runs the commands of the board's page by their hot keys while the page is in front. Widgets with a text of
+/// their own keep their keys; all others give up those that are hot keys or begin a sequence.
+class HotkeyCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The page stands in its window already; it is not owned and outlives the object. Its view gets the
+    /// focus.
+    HotkeyCommands(BoardPage & board, QObject * parent);
+
+    /// Runs the command of a code on the view in front, as its key would.
+    void perform(KVCAM::FuncCode code);
+
+    /// What a code means, in a few words.
+    static QString text(KVCAM::FuncCode code);
+    /// Whether this host has something for the code.
+    static bool isAvailable(KVCAM::FuncCode code);
+
+signals:
+    /// After each key that the commands saw, and after each change of the selection: what was done, and which
+    /// keys can follow. May be empty.
+    void status(QString const & text);
+
+protected:
+    bool eventFilter(QObject * receiver, QEvent * event) override;
+
+private:
+    struct Command;
+
+    static Command const & command(KVCAM::FuncCode code);
+    bool isOurs(QObject * receiver) const;
+    bool press(QKeyEvent & event);
+    QString run(KVCAM::FuncCode code);
+    void const * view() const;
+    // Each returns what the status shows besides the command's text.
+    QString changeUnit(int);
+    QString changeNegative(int);
+    QString changeProfile(int);
+    QString changeWidth(int);
+    QString undo(int);
+    QString selectAll(int);
+    QString reverseSelection(int);
+    QString selectSame(int);
+    QString selectionText() const;
+    QString refresh(int);
+    QString home(int);
+    QString move(int direction);
+    QString pan(int direction);
+    QString centre(int);
+    QString measure(int);
+    QString snap(int mode);
+
+    BoardPage & m_board;
+    BoardView const * m_measured = nullptr; ///< the view that the first point stands in
+    QPointF m_measuredFrom;
+};
+
+} // namespace Workbench

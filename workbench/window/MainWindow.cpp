@@ -1,0 +1,362 @@
+#include "window/MainWindow.h"
+
+#include "board/BoardTexts.h"
+#include "board/BoardView.h"
+#include "checks/ResultsPage.h"
+#include "layers/ReferencesPage.h"
+#include "pages/AttributesPage.h"
+#include "pages/EdaPage.h"
+#include "pages/SettingsPage.h"
+#include "pages/SymbolsPage.h"
+#include "pages/TemplatesPage.h"
+#include "ui/LanguageChange.h"
+#include "ui/Units.h"
+#include "window/BoardPage.h"
+#include "window/CheatSheet.h"
+#include "window/EditMenu.h"
+#include "window/HotkeyCommands.h"
+#include "window/WindowState.h"
+
+#include <EmbeddedEngine.h>
+#include <UIAPICommonVersion.h>
+
+#include <glog/logging.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <cmath>
+#include <utility>
+
+namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+
+MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine const & commandLine)
+    : m_session(session), m_database(commandLine.output + "/uiapi-engine.sqlite")
+{
+    resize(1440, 900);
+    makeToolBar();
+    m_saveFlag->setChecked(commandLine.saveFlag); // before the views, so that their registration is recorded
+    m_board = new BoardPage(session, log, commandLine.unit, commandLine.output + "/feature-form.json");
+    m_pages = new QTabWidget;
+    setCentralWidget(m_pages);
+    addPage(m_board, "board", QT_TR_NOOP("&Board"));
+    addPages();
+    m_commands = new HotkeyCommands(*m_board, this);
+    makeMenus();
+    makeStatusBar();
+    connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, [this] {
+        showUnit();
+        showPointer();
+    });
+    connect(m_pages, &QTabWidget::currentChanged, m_board, &BoardPage::refreshEngine);
+    connect(m_board, &BoardPage::stepChanged, this, [this] {
+        showUnit();
+        showPointer();
+        showZoom();
+    });
+    setTextsNowAndLater(*this, [this] { setTexts(); });
+}
+
+void MainWindow::makeToolBar()
+{
+    m_bar = addToolBar(QString());
+    m_bar->setObjectName("tools");
+    m_bar->setMovable(false);
+    m_bar->toggleViewAction()->setVisible(false);
+    m_unit = m_bar->addAction(QString());
+    m_unit->setShortcut(Qt::Key_F5);
+    connect(m_unit, &QAction::triggered, this, [this] { switchUnit(m_board->currentView()->handle()); });
+    m_saveFlag = m_bar->addAction(QString());
+    m_saveFlag->setCheckable(true);
+    connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
+    m_feature = m_bar->addAction(QString());
+    m_feature->setShortcut(Qt::Key_F4);
+    connect(m_feature, &QAction::triggered, this, [this] { m_board->openFirstPad(); });
+    m_language = new QComboBox;
+    m_language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
+    m_language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
+    connect(m_language, QOverload<int>::of(&QComboBox::activated), this,
+            [this] { setLanguage(static_cast<LANGUAGE_MODE>(m_language->currentData().toInt())); });
+    m_bar->addSeparator();
+    m_bar->addWidget(m_language);
+    for (auto * button : m_bar->findChildren<QToolButton *>()) {
+        button->setAutoRaise(false);
+    }
+    setTextsNowAndLater(*m_bar, [this] {
+        m_bar->setWindowTitle(tr("View"));
+        m_unit->setToolTip(tr("Switches the unit of the shown step's view"));
+        m_saveFlag->setText(tr("&Save flag"));
+        m_saveFlag->setToolTip(tr("Makes the engine write what it is told to %1 as well").arg(m_database));
+        m_feature->setText(tr("&Feature"));
+        m_feature->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
+        m_language->setToolTip(tr("Language of all texts"));
+    });
+}
+
+// The title is given untranslated; the mnemonic in it brings the page to the front.
+void MainWindow::addPage(QWidget * page, QString const & name, char const * title)
+{
+    page->setObjectName(name);
+    m_pages->addTab(page, QString());
+    setTextsNowAndLater(*page,
+                        [this, page, title] { m_pages->setTabText(m_pages->indexOf(page), tr(title)); });
+}
+
+void MainWindow::addPages()
+{
+    addResults();
+    auto * symbols = new SymbolsPage(m_session.job(), m_board->currentView()->handle());
+    addPage(symbols, "symbols", QT_TR_NOOP("S&ymbols"));
+    connect(m_board, &BoardPage::stepChanged, symbols,
+            [this, symbols] { symbols->setView(m_board->currentView()->handle()); });
+    auto * references = new ReferencesPage(m_session);
+    addPage(references, "references", QT_TR_NOOP("Refere&nces"));
+    connect(m_board, &BoardPage::stepChanged, references,
+            [this, references] { references->setStep(m_board->currentView()->step()); });
+    addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
+    addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
+    addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
+    addPage(new EdaPage, "eda", QT_TR_NOOP("EDA lin&k"));
+}
+
+void MainWindow::addResults()
+{
+    m_results = new ResultsPage(m_session, *m_board->currentView());
+    addPage(m_results, "results", QT_TR_NOOP("&Results"));
+    connect(m_board, &BoardPage::stepChanged, m_results,
+            [this] { m_results->setView(*m_board->currentView()); });
+    connect(m_results, &ResultsPage::measurementSelected, m_board, &BoardPage::showMeasurement);
+    connect(m_results, &ResultsPage::boardWanted, this, [this] {
+        showPage("board");
+        m_board->currentView()->setFocus();
+    });
+}
+
+// The shortcuts are function keys: letters with and without Ctrl belong to the table of hot keys.
+void MainWindow::makeMenus()
+{
+    QMenu * file = addMenu(QT_TR_NOOP("&File"));
+    file->addAction(m_feature);
+    file->addAction(m_saveFlag);
+    file->addSeparator();
+    addEntry(*file, QT_TR_NOOP("&Quit"), "", [this] { close(); });
+    auto * edit = new EditMenu(*m_board, *m_commands);
+    edit->setParent(menuBar(), edit->windowFlags());
+    menuBar()->addMenu(edit);
+    makeViewMenu();
+    makeHelpMenu();
+}
+
+QMenu * MainWindow::addMenu(char const * title)
+{
+    QMenu * menu = menuBar()->addMenu(QString());
+    setTextsNowAndLater(*menu, [menu, title] { menu->setTitle(tr(title)); });
+    return menu;
+}
+
+void MainWindow::addEntry(QMenu & menu, char const * text, char const * key, std::function<void()> act)
+{
+    QAction * action = menu.addAction(QString());
+    action->setShortcut(QKeySequence(QString::fromLatin1(key)));
+    connect(action, &QAction::triggered, this, std::move(act));
+    setTextsNowAndLater(menu, [action, text] { action->setText(tr(text)); });
+}
+
+void MainWindow::makeViewMenu()
+{
+    QMenu * view = addMenu(QT_TR_NOOP("&View"));
+    view->addAction(m_unit);
+    view->addSeparator();
+    auto const addZoom = [&](char const * text, char const * key, void (BoardView::*zoom)()) {
+        addEntry(*view, text, key, [this, zoom] { (m_board->currentView()->*zoom)(); });
+    };
+    addZoom(QT_TR_NOOP("&Whole board"), "F6", &BoardView::zoomHome);
+    addZoom(QT_TR_NOOP("&All features"), "F9", &BoardView::zoomFit);
+    addZoom(QT_TR_NOOP("Zoom &out"), "F7", &BoardView::zoomOut);
+    addZoom(QT_TR_NOOP("Zoom &in"), "F8", &BoardView::zoomIn);
+    view->addSeparator();
+    addEntry(*view, QT_TR_NOOP("&Tick all layers"), "", [this] { m_board->tickAllLayers(true); });
+    addEntry(*view, QT_TR_NOOP("U&ntick all layers"), "", [this] { m_board->tickAllLayers(false); });
+    view->addSeparator();
+    m_pageMenu = view->addMenu(QString());
+    connect(m_pageMenu, &QMenu::aboutToShow, this, &MainWindow::listPages);
+    QMenu * language = view->addMenu(QString());
+    language->addAction("&English", this, [this] { setLanguage(LANGUAGE_ENGLISH); });
+    language->addAction(QString::fromUtf8("&简体中文"), this, [this] { setLanguage(LANGUAGE_CHINESE); });
+    setTextsNowAndLater(*view, [this, language] {
+        m_pageMenu->setTitle(tr("&Page"));
+        language->setTitle(tr("&Language"));
+    });
+}
+
+void MainWindow::makeHelpMenu()
+{
+    QMenu * help = addMenu(QT_TR_NOOP("&Help"));
+    addEntry(*help, QT_TR_NOOP("&Hot keys"), "F1", [this] { showKeys(); });
+    addEntry(*help, QT_TR_NOOP("&Using the board picture"), "", [this] { showHelp(); });
+    addEntry(*help, QT_TR_NOOP("&About"), "", [this] { showAbout(); });
+}
+
+void MainWindow::makeStatusBar()
+{
+    m_status = new QLabel;
+    m_status->setObjectName("hot keys");
+    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
+    m_pointer = new QLabel;
+    m_zoom = new QLabel;
+    statusBar()->addWidget(m_status, 20); // all but what the pointer needs
+    statusBar()->addWidget(m_pointer, 1);
+    statusBar()->addPermanentWidget(m_zoom);
+    statusBar()->addPermanentWidget(new QLabel(m_session.directory()));
+    connect(m_commands, &HotkeyCommands::status, this, &MainWindow::showStatus);
+    connect(m_board, &BoardPage::status, this, &MainWindow::showStatus);
+    connect(m_board, &BoardPage::portChanged, this, &MainWindow::showZoom);
+    connect(m_board, &BoardPage::pointerMoved, this, [this] {
+        m_hasPointed = true;
+        showPointer();
+    });
+}
+
+bool MainWindow::showPage(QString const & name)
+{
+    for (int i = 0; i < m_pages->count(); ++i) {
+        if (m_pages->widget(i)->objectName() == name) {
+            m_pages->setCurrentIndex(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+void MainWindow::listPages()
+{
+    m_pageMenu->clear();
+    for (int i = 0; i < m_pages->count(); ++i) {
+        QAction * action =
+            m_pageMenu->addAction(m_pages->tabText(i), this, [this, i] { m_pages->setCurrentIndex(i); });
+        action->setCheckable(true);
+        action->setChecked(i == m_pages->currentIndex());
+    }
+}
+
+CheatSheet * MainWindow::showKeys()
+{
+    if (m_keys == nullptr) {
+        m_keys = new CheatSheet(this);
+    }
+    m_keys->refresh();
+    m_keys->show();
+    m_keys->raise();
+    return m_keys;
+}
+
+void MainWindow::setLanguage(LANGUAGE_MODE language)
+{
+    m_language->setCurrentIndex(m_language->findData(static_cast<int>(language)));
+    if (!showChinese(language == LANGUAGE_CHINESE)) {
+        LOG(ERROR) << "workbench: there are no texts in this language";
+    }
+}
+
+void MainWindow::useStateFile(QString const & file, bool keepsUnit)
+{
+    m_stateFile = file;
+    auto const choices = restoreWindow(*this, file);
+    if (!choices) {
+        return;
+    }
+    showPage(choices->page);
+    for (BoardView const * view : m_board->views()) {
+        if (!keepsUnit && getUnit(view->handle()) != choices->unit) {
+            setUnit(view->handle(), choices->unit);
+        }
+    }
+    setLanguage(choices->chinese ? LANGUAGE_CHINESE : LANGUAGE_ENGLISH);
+}
+
+void MainWindow::closeEvent(QCloseEvent * event)
+{
+    m_board->closeFeature();
+    if (!m_stateFile.isEmpty()) {
+        bool const chinese = m_language->currentData().toInt() == LANGUAGE_CHINESE;
+        int const unit = getUnit(m_board->currentView()->handle());
+        keepWindow(*this, {m_pages->currentWidget()->objectName(), unit, chinese}, m_stateFile);
+    }
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::setTexts()
+{
+    setWindowTitle(tr("%1 - UIAPICommon workbench").arg(QString::fromStdString(m_session.job())));
+    showUnit();
+    showPointer();
+    showZoom();
+}
+
+void MainWindow::showUnit()
+{
+    m_unit->setText(
+        tr("&Unit: %1").arg(QString::fromStdString(getUnitString(m_board->currentView()->handle()))));
+}
+
+void MainWindow::showPointer()
+{
+    void const * view = m_board->currentView()->handle();
+    coordinate const * place = getCoordinate(view);
+    bool const isKnown = place != nullptr && m_hasPointed;
+    m_pointer->setText(isKnown ? positionText(view, place->x, place->y) + "   " +
+                                     finePositionText(view, place->x, place->y)
+                               : tr("Move the pointer over the board"));
+}
+
+void MainWindow::showZoom()
+{
+    m_zoom->setText(tr("Zoom %1 %").arg(std::lround(m_board->currentView()->zoom() * 100)));
+}
+
+void MainWindow::showStatus(QString const & text)
+{
+    m_status->setText(text);
+    m_status->setToolTip(text); // where the window is too narrow
+}
+
+void MainWindow::showHelp()
+{
+    Ext::showMessage(
+        {Ext::MessageKind::Information, this, tr("Using the board picture"),
+         tr("The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks "
+            "a mark.\nWith the picture in focus the arrow keys move the board, + and - zoom, Home "
+            "shows the whole board.\nTicked layers are drawn beside the selected one; Space in the "
+            "list of layers sets and clears the tick.\nCtrl and a click selects a feature or takes it out; "
+            "the "
+            "Delete key deletes what is selected.")});
+}
+
+void MainWindow::showAbout()
+{
+    Ext::showMessage(
+        {Ext::MessageKind::Information, this, tr("About"),
+         tr("The reference host of UIAPICommon %1: shows a board's job through the library and the "
+            "default engine.")
+             .arg(UIAPICOMMON_VERSION)});
+}
+
+void MainWindow::switchSaveFlag(bool on)
+{
+    KVCAM::Embedded::setDatabaseFile(m_database.toStdString());
+    if (!KVCAM::Embedded::setSaveFlag(on)) {
+        LOG(ERROR) << "workbench: " << KVCAM::Embedded::lastError();
+        m_saveFlag->setChecked(false);
+    }
+}
+
+} // namespace Workbench

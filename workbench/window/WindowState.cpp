@@ -1,0 +1,66 @@
+#include "window/WindowState.h"
+
+#include <glog/logging.h>
+
+#include <QMainWindow>
+#include <QSettings>
+#include <QSplitter>
+
+namespace Workbench {
+
+namespace {
+
+constexpr char const * geometryKey = "window/geometry";
+constexpr char const * pageKey = "window/page";
+constexpr char const * unitKey = "window/unit";
+constexpr char const * languageKey = "window/chinese";
+
+QString splitterKey(QSplitter const & splitter)
+{
+    return "splitters/" + splitter.objectName();
+}
+
+} // namespace
+
+std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const & file)
+{
+    QSettings const settings(file, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError) {
+        LOG(WARNING) << "workbench: no window state is read from " << file.toStdString();
+        return std::nullopt;
+    }
+    window.restoreGeometry(settings.value(geometryKey).toByteArray());
+    for (auto * splitter : window.findChildren<QSplitter *>()) {
+        splitter->restoreState(settings.value(splitterKey(*splitter)).toByteArray());
+        splitter->setChildrenCollapsible(false); // which the state holds, too
+    }
+    WindowChoices choices;
+    bool isNumber = false;
+    choices.unit = settings.value(unitKey).toString().toInt(&isNumber);
+    if (!isNumber || !isUnit(choices.unit)) {
+        return std::nullopt;
+    }
+    choices.page = settings.value(pageKey).toString();
+    choices.chinese = settings.value(languageKey).toString() == "true";
+    return choices;
+}
+
+bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QString const & file)
+{
+    QSettings settings(file, QSettings::IniFormat);
+    settings.setValue(geometryKey, window.saveGeometry());
+    for (auto const * splitter : window.findChildren<QSplitter *>()) {
+        settings.setValue(splitterKey(*splitter), splitter->saveState());
+    }
+    settings.setValue(pageKey, choices.page);
+    settings.setValue(unitKey, choices.unit);
+    settings.setValue(languageKey, choices.chinese);
+    settings.sync();
+    if (settings.status() != QSettings::NoError) {
+        LOG(ERROR) << "workbench: the window state cannot be written to " << file.toStdString();
+        return false;
+    }
+    return true;
+}
+
+} // namespace Workbench
