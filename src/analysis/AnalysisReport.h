@@ -3,6 +3,7 @@
 #include "UIAPICommonExport.h"
 #include "analysis/AnalysisRecords.h"
 #include "analysis/Grade.h"
+#include "support/Result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -131,21 +132,15 @@ enum class ReportFormat : int
     Csv   ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
 };
 
-/// Whether a file was written, and if not why, as one translated sentence.
-struct SaveResult
-{
-    bool saved = false; ///< whether the file holds what it was to hold
-    QString reason;     ///< empty when saved
-};
-
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
 /// has null and CSV an empty field. Numbers have the shortest form that reads back equal. The CSV starts with
 /// a byte-order mark, without which spreadsheets take it for the system's code page, and a text in it that a
-/// spreadsheet would take for a formula has a "'" before it.
+/// spreadsheet would take for a formula, full-width signs included, has a "'" before it.
 UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
 
-/// Writes reportText() to a file, which is replaced whole. Nothing is logged.
-UIAPICOMMON_EXPORT SaveResult writeReport(AnalysisReport const & report, ReportFormat format,
-                                          QString const & path);
+/// Writes reportText() to a file, which is replaced whole. The reason of a failure is translated. Nothing is
+/// logged.
+[[nodiscard]] UIAPICOMMON_EXPORT Result writeReport(AnalysisReport const & report, ReportFormat format,
+                                                    QString const & path);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -1,5 +1,6 @@
 #include "analysis/RangeStore.h"
 
+#include "config/ConfigFiles.h"
 #include "support/Guard.h"
 #include "support/HostPaths.h"
 #include "support/JsonFile.h"
@@ -18,7 +19,7 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-Ext::SaveResult refused(QString const & reason)
+Ext::Result refused(QString const & reason)
 {
     return {false, reason};
 }
@@ -56,6 +57,7 @@ void RangeStore::scanMetaData(QString const & fileName, QString const & filePath
 void RangeStore::readFile(QString const & fileName, QString const & filePath)
 {
     JsonFile::ReadResult const file = JsonFile::read(filePath, QIODevice::Text);
+    ConfigFiles::diagnose(filePath, file);
     switch (file.status) {
     case JsonFile::ReadStatus::Missing:
         return Log::error(Log::commonPara, "Ranger json文件不存在！路径：" + filePath.toStdString());
@@ -83,6 +85,16 @@ void RangeStore::getRanges(std::string const & rangeName, std::vector<Analysis_R
     }
 }
 
+std::vector<Ext::RangeSource> RangeStore::loadedFiles() const
+{
+    std::vector<Ext::RangeSource> files;
+    files.reserve(m_ranges.size());
+    for (auto const & [name, range] : m_ranges) {
+        files.push_back({name, range.path});
+    }
+    return files;
+}
+
 void RangeStore::changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                                    std::string const & levelName, double value)
 {
@@ -104,7 +116,7 @@ void RangeStore::changeRangesValue(std::string const & rangeName, std::string co
     }
 }
 
-Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
+Ext::Result RangeStore::saveRanges(std::string const & rangeName)
 {
     auto const found = m_ranges.find(rangeName);
     if (found == m_ranges.end()) {
@@ -112,7 +124,7 @@ Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
     }
     Range & range = found->second;
     if (!range.loaded) {
-        return {true, {}};
+        return {};
     }
     JsonFile::ReadResult file = JsonFile::read(range.path, QIODevice::Text);
     if (file.status != JsonFile::ReadStatus::Ok) {
@@ -120,7 +132,7 @@ Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
     }
     switch (RangeFile::writeLevels(file.document, *range.loaded, range.records)) {
     case RangeFile::Change::Nothing:
-        return {true, {}};
+        return {};
     case RangeFile::Change::Stale:
         return refused(QObject::tr("The range file \"%1\" holds other categories than when it was read.")
                            .arg(range.path));
@@ -130,11 +142,11 @@ Ext::SaveResult RangeStore::saveRanges(std::string const & rangeName)
     case RangeFile::Change::Changed:
         break;
     }
-    if (JsonFile::replace(range.path, file.document.toJson(), QIODevice::Text) != JsonFile::WriteStatus::Ok) {
+    if (!JsonFile::replace(range.path, file.document.toJson(), QIODevice::Text)) {
         return refused(QObject::tr("The file \"%1\" cannot be written.").arg(range.path));
     }
     range.loaded.reset();
-    return {true, {}};
+    return {};
 }
 
 void listErfFiles(std::string const & folder, std::vector<std::string> & names)

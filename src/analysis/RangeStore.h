@@ -1,7 +1,8 @@
 #pragma once
 
-#include "analysis/AnalysisReport.h"
 #include "analysis/RangeFile.h"
+#include "analysis/RangeSource.h"
+#include "support/Result.h"
 
 #include <QString>
 
@@ -13,7 +14,7 @@
 namespace KVCAM::UIAPI {
 
 /// The colour levels by range file, read once from the sub-directories of the ranges directory. Log lines go
-/// under "UIAPICommonPara".
+/// under "UIAPICommonPara"; a file that cannot be read is a finding of Ext::diagnostics() too.
 class RangeStore
 {
 public:
@@ -25,11 +26,13 @@ public:
 
     /// Replaces `out`; by nothing for an unknown file.
     void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const;
+    /// What getRanges() knows, by name, ascending byte by byte.
+    std::vector<Ext::RangeSource> loadedFiles() const;
     /// Sets one level of the first category of this name, in memory alone.
     void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                            std::string const & levelName, double value);
     /// Writes the changed levels back into the file that the range came from.
-    Ext::SaveResult saveRanges(std::string const & rangeName);
+    Ext::Result saveRanges(std::string const & rangeName);
 
 private:
     struct Range

@@ -144,14 +144,16 @@ QByteArray jsonText(AnalysisReport const & report)
 
 // --- CSV ----------------------------------------------------------------------------------------------
 
-// A text that begins like a formula is one to a spreadsheet, and runs there.
+// A text that begins like a formula is one to a spreadsheet, and runs there. Those of East Asia take the
+// full-width signs for the plain ones.
 QByteArray csvText(std::string const & text)
 {
-    QByteArray out = utf8(text);
-    if (!out.isEmpty() && QByteArray("=+-@\t\r\n").contains(out[0])) {
-        out.prepend('\'');
+    QString const beginnings = QStringLiteral("=+-@＝＋－＠\t\r\n");
+    QString out = QString::fromStdString(text);
+    if (!out.isEmpty() && beginnings.contains(out[0])) {
+        out.prepend(QLatin1Char('\''));
     }
-    return '"' + out.replace('"', "\"\"") + '"';
+    return '"' + out.toUtf8().replace('"', "\"\"") + '"';
 }
 
 void appendCsvLine(QByteArray & out, std::initializer_list<QByteArray> fields)
@@ -228,12 +230,12 @@ QByteArray reportText(AnalysisReport const & report, ReportFormat format)
     return format == ReportFormat::Json ? jsonText(report) : csvReport(report);
 }
 
-SaveResult writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
+Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
 {
-    if (JsonFile::replace(path, reportText(report, format)) != JsonFile::WriteStatus::Ok) {
+    if (!JsonFile::replace(path, reportText(report, format))) {
         return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
     }
-    return {true, {}};
+    return {};
 }
 
 } // namespace KVCAM::UIAPI::Ext

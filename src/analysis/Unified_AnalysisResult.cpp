@@ -49,6 +49,12 @@ Unified_AnalysisResult * Unified_AnalysisResult::instance()
         object, [] { return new Unified_AnalysisResult; }, [](Unified_AnalysisResult &) {});
 }
 
+void Ext::clearUnifiedResults()
+{
+    *Unified_AnalysisResult::instance()->d = {};
+    layerList().clear();
+}
+
 void Unified_AnalysisResult::setJobStep(std::string const & job, std::string const & step)
 {
     guardedResult([&] {

@@ -10,13 +10,23 @@
 
 namespace KVCAM::UIAPI {
 
+namespace Ext {
+
+/// Empties Unified_AnalysisResult between two jobs, as it was at the start: results, which kinds were filed,
+/// job and step, and the list of setLayerInfo(). GUI thread only.
+UIAPICOMMON_EXPORT void clearUnifiedResults();
+
+} // namespace Ext
+
 /// The results of the engine's checks for one job and step, by unified item and layer: filed by the setters,
 /// queried by the result views, summarised as one JSON document. One object per process, created by the first
 /// call of instance() and alive until the process ends. Results accumulate until other ones are filed in
-/// their place. GUI thread only; nothing is locked. Nothing is logged but what is thrown, as when memory is
-/// short: the method then returns false or nothing.
+/// their place or Ext::clearUnifiedResults() is called. GUI thread only; nothing is locked. Nothing is logged
+/// but what is thrown, as when memory is short: the method then returns false or nothing.
 class UIAPICOMMON_EXPORT Unified_AnalysisResult
 {
+    friend void Ext::clearUnifiedResults();
+
 public:
     /// The object, created at the first call.
     static Unified_AnalysisResult * instance();

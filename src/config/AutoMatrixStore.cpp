@@ -228,15 +228,16 @@ int AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
 
 bool AutoMatrixStore::saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl)
 {
-    auto status = JsonFile::WriteStatus::OpenFailed;
+    Ext::Result result{false, QStringLiteral("The name would leave the folder of the templates.")};
     if (isTemplateFileName(name)) {
-        QDir().mkpath(userFolder());
-        status = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl));
+        QDir().mkpath(userFolder()); // where that fails, so does the file
+        result = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl));
     }
-    if (status == JsonFile::WriteStatus::OpenFailed) {
+    if (!result) {
+        FileDiagnostics(userFile(name)).report(Ext::DiagnosticKind::SaveFailed, {}, result.reason);
         showInformation(nullptr, QObject::tr("File open failed"));
     }
-    return status == JsonFile::WriteStatus::Ok;
+    return result.ok;
 }
 
 } // namespace KVCAM::UIAPI

@@ -44,8 +44,8 @@ public:
     /// Adds the templates of one file from `index` on, which counts on. The result is how many of them there
     /// are, those included whose index is taken. Failures are logged.
     int readAutoMatrixFromJson(QString const & path, int & index);
-    /// Writes a template to the user's file of this name. A file that cannot be opened, and a name that would
-    /// leave the folder, give the box "File open failed". False when the file was not written whole.
+    /// Writes a template to the user's file of this name. A file that cannot be written, and a name that
+    /// would leave the folder, give a finding and the box "File open failed", and false.
     bool saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl);
 
 private:

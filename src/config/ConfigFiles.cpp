@@ -27,25 +27,18 @@ void log(ReadStatus status, LoadTexts const & texts, QString const & shown, bool
     }
 }
 
-void diagnose(JsonFile::ReadResult const & result, FileDiagnostics const & diagnostics)
+Ext::DiagnosticKind kindOf(ReadStatus status)
 {
-    using Ext::DiagnosticKind;
-    switch (result.status) {
-    case ReadStatus::Ok:
-        break;
-    case ReadStatus::Missing:
-        diagnostics.report(DiagnosticKind::MissingFile, {}, QStringLiteral("There is no such file."));
-        break;
+    switch (status) {
     case ReadStatus::OpenFailed:
-        diagnostics.report(DiagnosticKind::OpenFailed, {},
-                           QStringLiteral("The file cannot be opened for reading."));
-        break;
+        return Ext::DiagnosticKind::OpenFailed;
     case ReadStatus::ParseError:
-        diagnostics.report(DiagnosticKind::ParseError, {},
-                           QStringLiteral("The file is not JSON: %1 at byte offset %2.")
-                               .arg(result.parseError, QString::number(result.errorOffset)));
+        return Ext::DiagnosticKind::ParseError;
+    case ReadStatus::Ok:
+    case ReadStatus::Missing:
         break;
     }
+    return Ext::DiagnosticKind::MissingFile;
 }
 
 } // namespace
@@ -57,8 +50,15 @@ JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString
 {
     JsonFile::ReadResult result = JsonFile::read(path, extra);
     log(result.status, texts, shown, steps == Steps::All, line);
-    diagnose(result, FileDiagnostics(path));
+    diagnose(path, result);
     return result;
+}
+
+void diagnose(QString const & path, JsonFile::ReadResult const & result)
+{
+    if (result.status != ReadStatus::Ok) {
+        FileDiagnostics(path).report(kindOf(result.status), {}, result.reason);
+    }
 }
 
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,

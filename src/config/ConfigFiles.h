@@ -34,6 +34,9 @@ JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString
                           Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
                           int line = __builtin_LINE());
 
+/// Reports a file that could not be read as one finding, without a log line.
+void diagnose(QString const & path, JsonFile::ReadResult const & result);
+
 /// Loads a file whose top-level object has one member, the array `key`. Empty when the file cannot be read,
 /// which is reported as by load() with the path shown, and, without a log line, when it is shaped otherwise.
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,

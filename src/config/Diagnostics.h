@@ -9,11 +9,11 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// What a loader found wrong with a file.
+/// What is wrong with a file.
 enum class DiagnosticKind : int
 {
     MissingFile,      ///< no such file; its content counts as empty
-    OpenFailed,       ///< there, but it cannot be opened for reading
+    OpenFailed,       ///< there, but it cannot be opened, is no regular file, or has more than 64 MiB
     ParseError,       ///< not JSON; the text names the byte offset
     MissingKey,       ///< a key that the loader looks for is absent
     WrongType,        ///< a value of another JSON type than the loader takes, read as its neutral value
@@ -21,20 +21,22 @@ enum class DiagnosticKind : int
     DuplicateElement, ///< an element whose name an earlier element of the file bears
     KeyNotReadBack,   ///< a key that is written at a save and not read at a start
     IndexTaken,       ///< a template that was not added, because its index is in use
-    BackupFailed      ///< the old file could not be kept before a save replaced it
+    BackupFailed,     ///< the old file could not be kept before a save replaced it
+    SaveFailed        ///< "server.json" or a template was not written; the text says why
 };
 
 /// One finding.
 struct Diagnostic
 {
-    QString file; ///< the path as the loader opened it
+    QString file; ///< the path as it was opened
     QString key;  ///< where in the file, "TotalAttributes[3].unit"; empty for the file as a whole
     DiagnosticKind kind = DiagnosticKind::MissingFile; ///< what is wrong
     QString text;                                      ///< one English sentence for people
 };
 
-/// What the loaders have found since the process started, in the order in which they found it. Empty until
-/// something is loaded: asking creates no singleton and reads no file. GUI thread only.
+/// What the loaders of the configuration and range files have found since the process started, and the saves
+/// that failed, in the order of finding. Empty until something is loaded: asking creates no singleton and
+/// reads no file. GUI thread only.
 UIAPICOMMON_EXPORT std::vector<Diagnostic> diagnostics();
 
 /// Whether the first save of the process that writes "server.json" keeps the old file beside it as

@@ -1,13 +1,13 @@
 #include "config/GlobalConfigStore.h"
 
 #include "config/ConfigFiles.h"
+#include "config/SettingsFile.h"
 #include "support/Guard.h"
 #include "support/HostPaths.h"
 #include "support/JsonFile.h"
 #include "support/Log.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <utility>
 
@@ -15,6 +15,19 @@ namespace KVCAM::UIAPI {
 namespace {
 
 constexpr ConfigFiles::LoadTexts texts = {"config json文件不存在！路径：", "config json文件打开失败!路径："};
+
+struct State
+{
+    Ext::Result lastSave;
+    KeysTaken keys = KeysTaken::Read;
+};
+
+// Never destroyed: a setter may be called while the process ends.
+State & state()
+{
+    static auto * state = new State;
+    return *state;
+}
 
 QString filePath(QString const & directory)
 {
@@ -37,13 +50,23 @@ void GlobalConfigStore::load()
     JsonFile::ReadResult const result =
         ConfigFiles::load(path, texts, directory, ConfigFiles::Steps::All, QIODevice::Text);
     m_loadFailed = result.status != JsonFile::ReadStatus::Ok;
-    m_settings = readServerSettings(result.document);
+    m_settings = readServerSettings(result.document, state().keys);
     if (!m_loadFailed) {
-        diagnoseServerSettings(result.document, FileDiagnostics(path));
+        diagnoseServerSettings(result.document, state().keys, FileDiagnostics(path));
     }
 }
 
 void GlobalConfigStore::saveGlobalConfig()
+{
+    Ext::Result const result = save();
+    if (!result) {
+        FileDiagnostics(filePath(QString::fromStdString(m_directory)))
+            .report(Ext::DiagnosticKind::SaveFailed, {}, result.reason);
+    }
+    state().lastSave = result;
+}
+
+Ext::Result GlobalConfigStore::save()
 {
     QString const directory = QString::fromStdString(m_directory);
     // Not QDir(directory).exists(): that takes an empty path for the current directory.
@@ -51,16 +74,15 @@ void GlobalConfigStore::saveGlobalConfig()
     if (!exists) {
         // The value just set is in memory only, until the next save.
         Log::warning(Log::globalVar, "configpath不存在！路径：" + m_directory + ", Create!");
-        if (!directory.isEmpty()) {
-            QDir().mkpath(directory);
-        }
-        return;
+        bool const isCreated = !directory.isEmpty() && QDir().mkpath(directory);
+        return {false, isCreated ? QStringLiteral("The directory was created and nothing written.")
+                                 : QStringLiteral("There is no directory, and it cannot be created.")};
     }
     QString const path = filePath(directory);
     if (!std::exchange(m_saved, true) && keepsBackup()) {
         keepBackup(path);
     }
-    JsonFile::replace(path, writeServerSettings(m_settings), QIODevice::Text);
+    return JsonFile::replace(path, writeServerSettings(m_settings), QIODevice::Text);
 }
 
 void GlobalConfigStore::keepBackup(QString const & path)
@@ -69,13 +91,25 @@ void GlobalConfigStore::keepBackup(QString const & path)
     if (!m_loadFailed && old.status == JsonFile::ReadStatus::Ok && !holdsKeysThatASaveDrops(old.document)) {
         return;
     }
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly) &&
-        JsonFile::replace(path + QStringLiteral(".bak"), file.readAll()) != JsonFile::WriteStatus::Ok) {
+    // Byte by byte as it is, so not in text mode.
+    JsonFile::Content const content = JsonFile::readBytes(path);
+    if (content.status == JsonFile::ReadStatus::OpenFailed ||
+        (content.status == JsonFile::ReadStatus::Ok &&
+         !JsonFile::replace(path + QStringLiteral(".bak"), content.bytes))) {
         FileDiagnostics(path).report(
             Ext::DiagnosticKind::BackupFailed, {},
             QStringLiteral("The file was replaced and no copy of it could be kept."));
     }
+}
+
+Ext::Result Ext::lastSettingsSave()
+{
+    return state().lastSave;
+}
+
+void Ext::setReadSavedKeys(bool read)
+{
+    state().keys = read ? KeysTaken::WrittenToo : KeysTaken::Read;
 }
 
 } // namespace KVCAM::UIAPI

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/ServerSettings.h"
+#include "support/Result.h"
 
 #include <string>
 
@@ -19,9 +20,9 @@ public:
     /// the fallback defaults, without a word. Throws nothing.
     void getGlobalConfig();
 
-    /// Rewrites the whole file; a file that cannot be written stays as it was, without a word (a full disk
-    /// loses it only where it is written in place, see JsonFile::replace). A missing
-    /// directory is only warned about and created.
+    /// Rewrites the whole file; a file that cannot be written stays as it was, without a log line (a full
+    /// disk loses it only where it is written in place, see JsonFile::replace). A missing directory is only
+    /// warned about and created. Ext::lastSettingsSave() and a finding tell of both.
     void saveGlobalConfig();
 
     /// Assigns one setting and saves.
@@ -34,6 +35,7 @@ public:
 
 private:
     void load();
+    Ext::Result save();
     void keepBackup(QString const & path);
 
     ServerSettings m_settings;

@@ -1,18 +1,25 @@
 #include "config/OpenJobs.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace KVCAM::UIAPI {
 
 void OpenJobs::delJob(std::string name)
 {
-    // The index advances after a removal too: the entry that moves into the freed slot is passed over.
+    // The entry after a removed one is not looked at: it moves into the freed slot, which is passed over.
     // Callers that open a job twice rely on it, so this is not std::remove().
+    std::size_t kept = 0;
     for (std::size_t i = 0; i < m_names.size(); ++i) {
         if (m_names[i] == name) {
-            m_names.erase(m_names.begin() + static_cast<std::ptrdiff_t>(i));
+            ++i;
+        }
+        if (i < m_names.size()) {
+            std::swap(m_names[kept], m_names[i]);
+            ++kept;
         }
     }
+    m_names.resize(kept);
 }
 
 } // namespace KVCAM::UIAPI

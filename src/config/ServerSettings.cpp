@@ -75,6 +75,12 @@ SettingField const * find(char const * SettingField::*key, QString const & name)
     return found == settingFields.end() ? nullptr : &*found;
 }
 
+char const * keyOf(SettingField const & field, QJsonObject const & object, KeysTaken keys)
+{
+    bool const takesWritten = keys == KeysTaken::WrittenToo && !object.contains(QLatin1String(field.readKey));
+    return takesWritten ? field.writtenKey : field.readKey;
+}
+
 template <class Value>
 void check(QJsonValue const & value, Value ServerSettings::*, char const * key,
            FileDiagnostics const & diagnostics)
@@ -88,18 +94,19 @@ void check(QJsonValue const & value, Value ServerSettings::*, char const * key,
 
 } // namespace
 
-ServerSettings readServerSettings(QJsonDocument const & document)
+ServerSettings readServerSettings(QJsonDocument const & document, KeysTaken keys)
 {
     QJsonObject const object = document.object();
     ServerSettings settings;
     for (SettingField const & field : settingFields) {
-        QJsonValue const value = object.value(QLatin1String(field.readKey));
+        QJsonValue const value = object.value(QLatin1String(keyOf(field, object, keys)));
         std::visit([&](auto member) { read(value, settings.*member); }, field.member);
     }
     return settings;
 }
 
-void diagnoseServerSettings(QJsonDocument const & document, FileDiagnostics const & diagnostics)
+void diagnoseServerSettings(QJsonDocument const & document, KeysTaken keys,
+                            FileDiagnostics const & diagnostics)
 {
     if (!diagnostics.checkTop(document.isObject(), "an object")) {
         return;
@@ -107,28 +114,30 @@ void diagnoseServerSettings(QJsonDocument const & document, FileDiagnostics cons
     QJsonObject const object = document.object();
     int found = 0;
     for (SettingField const & field : settingFields) {
-        QJsonValue const value = object.value(QLatin1String(field.readKey));
+        char const * const key = keyOf(field, object, keys);
+        QJsonValue const value = object.value(QLatin1String(key));
         if (value.isUndefined()) {
             diagnostics.missingKey({}, field.readKey);
         } else {
             ++found;
         }
-        std::visit([&](auto member) { check(value, member, field.readKey, diagnostics); }, field.member);
+        std::visit([&](auto member) { check(value, member, key, diagnostics); }, field.member);
     }
     if (object.size() == found) {
         return;
     }
-    QStringList const keys = object.keys();
-    for (QString const & key : keys) {
+    QStringList const present = object.keys();
+    for (QString const & key : present) {
         if (find(&SettingField::readKey, key) != nullptr) {
             continue;
         }
-        if (SettingField const * field = find(&SettingField::writtenKey, key)) {
+        SettingField const * const field = find(&SettingField::writtenKey, key);
+        if (field == nullptr) {
+            diagnostics.unknownKey({}, key);
+        } else if (key != QLatin1String(keyOf(*field, object, keys))) {
             diagnostics.report(Ext::DiagnosticKind::KeyNotReadBack, key,
                                QStringLiteral("\"%1\" is written at a save but not read; \"%2\" is read.")
                                    .arg(key, QLatin1String(field->readKey)));
-        } else {
-            diagnostics.unknownKey({}, key);
         }
     }
 }

@@ -44,7 +44,8 @@ struct SettingField
 };
 
 /// The settings in the order in which they are read. Four are written under another key than they are read
-/// from: what is saved there does not come back at the next start, and the files in the field count on it.
+/// from: what is saved there does not come back at the next start, and the files in the field count on it
+/// (unless Ext::setReadSavedKeys() asks for more).
 inline constexpr std::array<SettingField, 17> settingFields = {{
     {&ServerSettings::serverIp, "ServerIp", "ServerIp"},
     {&ServerSettings::clientIp, "ClientIp", "ClientIp"},
@@ -65,12 +66,20 @@ inline constexpr std::array<SettingField, 17> settingFields = {{
     {&ServerSettings::pythonHome, "PythonHome", "PythonHome"},
 }};
 
+/// Under which keys settings are looked for.
+enum class KeysTaken
+{
+    Read,       ///< the read keys alone
+    WrittenToo, ///< the written key where the read one is absent
+};
+
 /// Reads all settings. A missing key, a value of another type, a fraction or a number beyond int where an
 /// integer is wanted give an empty text, 0, false or 0.0.
-ServerSettings readServerSettings(QJsonDocument const & document);
+ServerSettings readServerSettings(QJsonDocument const & document, KeysTaken keys);
 
 /// Reports what is missing, of another type, unknown or not read back in the file.
-void diagnoseServerSettings(QJsonDocument const & document, FileDiagnostics const & diagnostics);
+void diagnoseServerSettings(QJsonDocument const & document, KeysTaken keys,
+                            FileDiagnostics const & diagnostics);
 
 /// The file's content: indented, members in ascending order of their keys.
 QByteArray writeServerSettings(ServerSettings const & settings);

@@ -64,10 +64,11 @@ public:
 
     ///@{
     /// Each assigns its setting and rewrites "server.json" whole. A file that cannot be written stays as it
-    /// was, without a word. Where the configuration directory is missing, a WARNING line is logged, the
-    /// directory is created and nothing is written: the value reaches the file with the next save.
-    /// The layer copy suffix, the movement factor, the shift confict and the contour accuracy are written
-    /// under keys that are not read at the next start.
+    /// was, without a log line; Ext::lastSettingsSave() tells. Where the configuration directory is missing,
+    /// a WARNING line is logged, the directory is created and nothing is written: the value reaches the file
+    /// with the next save. The layer copy suffix, the movement factor, the shift confict and the contour
+    /// accuracy are written under keys that are not read at the next start, unless Ext::setReadSavedKeys()
+    /// was called before it.
     void setServerIP(std::string const & ip);
     void setClientIP(std::string const & ip);
     void setServerPort(int port);
@@ -109,8 +110,8 @@ public:
     void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl);
     /// Stores the template under the index, replacing one that is there, and writes it to the file
     /// "autoMatrix/" + name + ".json" below the current directory, creating the folder. A file that cannot be
-    /// opened, and a name that would leave the folder, give an information box "File open failed". The
-    /// selected template does not change.
+    /// written, for whatever reason, and a name that would leave the folder, give an information box "File
+    /// open failed"; Ext::diagnostics() says why. The selected template does not change.
     void saveCurrentAutoMatrixTmp(int index, QString name, AutoMatrixTmp const & tmpl);
     /// Removes the template of this index and the user's file of this name; silent where there is none. The
     /// selected template does not change.

@@ -1,5 +1,7 @@
 #include "hotkey/HotkeyFile.h"
 
+#include "support/JsonFile.h"
+
 #include <QJsonObject>
 
 namespace KVCAM::UIAPI {
@@ -87,6 +89,14 @@ QJsonValue writeElement(HotkeyEntry const & entry)
     element[QLatin1String(entry.isSequence() ? firstMember : keyMember)] = key;
     element[QLatin1String(entry.isSequence() ? secondMember : modifierMember)] = other;
     return element;
+}
+
+HotkeyDocument readHotkeyFile(QString const & path)
+{
+    JsonFile::ReadResult const file = JsonFile::read(path, QIODevice::Text);
+    return {{file.status == JsonFile::ReadStatus::Ok, file.reason},
+            file.document.isArray(),
+            file.document.array()};
 }
 
 HotkeyTables readTables(QJsonArray const & array, HotkeyNames const & names)

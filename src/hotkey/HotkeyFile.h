@@ -3,6 +3,7 @@
 #include "hotkey/HotkeyNames.h"
 #include "hotkey/HotkeyTables.h"
 #include "hotkey/HotkeyTools.h"
+#include "support/Result.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
@@ -24,6 +25,16 @@ HotkeyElement readElement(QJsonValue const & element, HotkeyNames const & names)
 
 /// What an element needs to be to bind the entry; null when the file has no words for it.
 QJsonValue writeElement(HotkeyEntry const & entry);
+
+/// A file of hot keys as it was read.
+struct HotkeyDocument
+{
+    Ext::Result result; ///< why nothing was read
+    bool isArray = false;
+    QJsonArray elements; ///< none when the top level is no array
+};
+
+HotkeyDocument readHotkeyFile(QString const & path);
 
 /// The tables of a file. Elements that bind nothing are left out without a word.
 HotkeyTables readTables(QJsonArray const & array, HotkeyNames const & names);

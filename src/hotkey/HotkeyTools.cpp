@@ -102,19 +102,6 @@ QString faultText(HotkeyElement const & element)
     }
 }
 
-QString unreadableText(JsonFile::ReadResult const & file)
-{
-    switch (file.status) {
-    case JsonFile::ReadStatus::Missing:
-        return QStringLiteral("The file is not there.");
-    case JsonFile::ReadStatus::ParseError:
-        return QStringLiteral("The file is not JSON: %1 at byte %2.")
-            .arg(file.parseError, QString::number(file.errorOffset));
-    default:
-        return QStringLiteral("The file cannot be opened.");
-    }
-}
-
 } // namespace
 
 std::vector<HotkeyBinding> bindings()
@@ -141,28 +128,32 @@ HotkeyTrial tryLoadHotkeys(QString const & path)
 {
     Judge judge;
     HotkeyTrial trial;
-    JsonFile::ReadResult const file = JsonFile::read(path, QIODevice::Text);
-    trial.loads = file.status == JsonFile::ReadStatus::Ok;
+    HotkeyDocument const file = readHotkeyFile(path);
+    trial.loads = file.result.ok;
     if (!trial.loads) {
-        judge.find(HotkeyFindingKind::Unreadable, -1, unreadableText(file));
+        judge.find(HotkeyFindingKind::Unreadable, -1, file.result.reason);
         trial.findings = judge.findings;
         return trial;
     }
-    QJsonArray const array = file.document.array();
-    for (int i = 0; i < array.size(); ++i) {
-        HotkeyElement const element = readElement(array.at(i), HotkeyDoor::read().names);
+    for (int i = 0; i < file.elements.size(); ++i) {
+        HotkeyElement const element = readElement(file.elements.at(i), HotkeyDoor::read().names);
         if (element.fault) {
             judge.find(*element.fault, i, faultText(element));
         } else {
             trial.bindings.push_back(judge.judge(element.entry, i));
         }
     }
-    if (!file.document.isArray()) {
+    if (!file.isArray) {
         judge.find(HotkeyFindingKind::NotAnArray, -1, QStringLiteral("The top level is not an array."));
     }
     judge.findFunctionsWithoutKey();
     trial.findings = judge.findings;
     return trial;
+}
+
+Result lastHotkeyLoad()
+{
+    return HotkeyDoor::read().lastLoad;
 }
 
 HotkeyExport exportHotkeys(QString const & path)
@@ -179,16 +170,7 @@ HotkeyExport exportHotkeys(QString const & path)
             array.append(element);
         }
     }
-    switch (JsonFile::replace(path, QJsonDocument(array).toJson())) {
-    case JsonFile::WriteStatus::Ok:
-        break;
-    case JsonFile::WriteStatus::OpenFailed:
-        result.error = QStringLiteral("The file cannot be opened for writing.");
-        break;
-    case JsonFile::WriteStatus::CommitFailed:
-        result.error = QStringLiteral("The file cannot be written.");
-        break;
-    }
+    result.error = JsonFile::replace(path, QJsonDocument(array).toJson()).reason;
     return result;
 }
 

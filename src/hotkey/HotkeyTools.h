@@ -2,6 +2,7 @@
 
 #include "UIAPICommonExport.h"
 #include "hotkey/FuncCode.h"
+#include "support/Result.h"
 
 #include <QString>
 
@@ -63,6 +64,10 @@ struct HotkeyTrial
 /// Reads a file of hot keys as KVHotKey would and tells, without loading it, why each element that binds
 /// nothing does not, and what hotkeyReport() would say of the rest.
 UIAPICOMMON_EXPORT HotkeyTrial tryLoadHotkeys(QString const & path);
+
+/// What became of the latest KVHotKey::uploadHotkeyModel(), that of the object's making included: whether the
+/// file's bindings took the place of those before, and if not why. A missing file is such a reason, too.
+[[nodiscard]] UIAPICOMMON_EXPORT Result lastHotkeyLoad();
 
 /// What became of an export.
 struct HotkeyExport

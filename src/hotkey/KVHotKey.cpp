@@ -3,7 +3,6 @@
 #include "hotkey/HotkeyFile.h"
 #include "hotkey/KVHotKeyPrivate.h"
 #include "support/Guard.h"
-#include "support/JsonFile.h"
 #include "support/Log.h"
 #include "support/Singleton.h"
 
@@ -86,10 +85,11 @@ void KVHotKey::initHotkeyTable()
 void KVHotKey::uploadHotkeyModel()
 {
     guardedKeys([&] {
-        JsonFile::ReadResult const file = JsonFile::read(QLatin1String(Ext::hotkeyFile), QIODevice::Text);
-        if (file.status == JsonFile::ReadStatus::Ok) {
-            updateHotkeyTable(file.document.array());
+        HotkeyDocument const file = readHotkeyFile(QLatin1String(Ext::hotkeyFile));
+        if (file.result) {
+            updateHotkeyTable(file.elements);
         }
+        d->lastLoad = file.result;
     });
 }
 

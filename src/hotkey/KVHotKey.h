@@ -60,7 +60,7 @@ public:
     /// that are there.
     void initHotkeyTable();
     /// Replaces all bindings by those of "./config/keyboard.json". A file that cannot be read or parsed
-    /// changes nothing; one that is not an array leaves no binding at all.
+    /// changes nothing; one that is not an array leaves no binding at all. Ext::lastHotkeyLoad() tells.
     void uploadHotkeyModel();
 
 private:

@@ -4,6 +4,7 @@
 #include "hotkey/HotkeyTables.h"
 #include "hotkey/KVHotKey.h"
 #include "hotkey/KeyBuffer.h"
+#include "support/Result.h"
 
 namespace KVCAM {
 
@@ -12,6 +13,7 @@ struct KVHotKey::Private
     UIAPI::HotkeyNames names;
     UIAPI::HotkeyTables tables;
     UIAPI::KeyBuffer buffer;
+    UIAPI::Ext::Result lastLoad; ///< of the file
 };
 
 /// Through which the tools look at the object's state.

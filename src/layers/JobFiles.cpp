@@ -62,7 +62,7 @@ bool JobFiles::saveTextByIODevice(QString const & path, QString const & text)
     if (fromText(path).empty() || (file.exists() && !file.isFile())) {
         return false;
     }
-    return JsonFile::replace(path, text.toUtf8()) == JsonFile::WriteStatus::Ok;
+    return JsonFile::replace(path, text.toUtf8()).ok;
 }
 
 QString JobFiles::formatTime(qint64 milliseconds)

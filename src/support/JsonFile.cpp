@@ -1,43 +1,103 @@
 #include "support/JsonFile.h"
 
+#include "support/RegularFile.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonParseError>
+#include <QLatin1String>
 #include <QSaveFile>
 
+#include <algorithm>
+
 namespace KVCAM::UIAPI::JsonFile {
+namespace {
+
+constexpr QLatin1String notRegular("It is not a regular file.");
+
+// By the piece: a file may grow while it is read, and some claim to be empty and never end.
+QByteArray readUpTo(QFile & file, qint64 limit)
+{
+    constexpr qint64 piece = 64 * 1024;
+    QByteArray bytes;
+    bytes.reserve(static_cast<int>(std::min(file.size() + 1, limit)));
+    while (bytes.size() < limit) {
+        QByteArray const read = file.read(std::min(piece, limit - bytes.size()));
+        if (read.isEmpty()) {
+            break;
+        }
+        bytes += read;
+    }
+    return bytes;
+}
+
+} // namespace
+
+Content readBytes(QString const & path, QIODevice::OpenMode extra)
+{
+    QFile file(path);
+    RegularFile const opened = openRegular(file, extra);
+    if (opened == RegularFile::NotRegular) {
+        return {ReadStatus::OpenFailed, {}, QString(notRegular)};
+    }
+    if (opened == RegularFile::NotOpened && !file.exists()) {
+        return {ReadStatus::Missing, {}, QStringLiteral("There is no such file.")};
+    }
+    if (opened == RegularFile::NotOpened) {
+        return {ReadStatus::OpenFailed, {}, QStringLiteral("The file cannot be opened for reading.")};
+    }
+    bool isTooLarge = file.size() > largestFile;
+    QByteArray const bytes = isTooLarge ? QByteArray() : readUpTo(file, largestFile + 1);
+    isTooLarge = isTooLarge || bytes.size() > largestFile;
+    if (isTooLarge) {
+        return {ReadStatus::OpenFailed,
+                {},
+                QStringLiteral("The file is too large: more than %1 bytes.").arg(largestFile)};
+    }
+    return {ReadStatus::Ok, bytes, {}};
+}
 
 ReadResult read(QString const & path, QIODevice::OpenMode extra)
 {
-    ReadResult result;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | extra)) {
-        result.status = file.exists() ? ReadStatus::OpenFailed : ReadStatus::Missing;
-        return result;
+    Content const content = readBytes(path, extra);
+    if (content.status != ReadStatus::Ok) {
+        return {content.status, {}, content.reason};
     }
     QJsonParseError error;
-    result.document = QJsonDocument::fromJson(file.readAll(), &error);
+    QJsonDocument const document = QJsonDocument::fromJson(content.bytes, &error);
     if (error.error != QJsonParseError::NoError) {
-        result.status = ReadStatus::ParseError;
-        result.parseError = error.errorString();
-        result.errorOffset = error.offset;
+        return {ReadStatus::ParseError,
+                {},
+                QStringLiteral("The file is not JSON: %1 at byte offset %2.")
+                    .arg(error.errorString(), QString::number(error.offset))};
     }
-    return result;
+    return {ReadStatus::Ok, document, {}};
 }
 
-WriteStatus replace(QString const & path, QByteArray const & bytes, QIODevice::OpenMode extra)
+Ext::Result replace(QString const & path, QByteArray const & bytes, QIODevice::OpenMode extra)
 {
+    // A device or a pipe, which a link may lead to, would be lost to a file of that name.
+    if (QFileInfo const old(path); old.exists() && !old.isFile()) {
+        return {false, QString(notRegular)};
+    }
     QSaveFile file(path);
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly | extra)) {
-        return WriteStatus::OpenFailed;
+        return {false, QStringLiteral("The file cannot be opened for writing: %1.").arg(file.errorString())};
     }
     // Flushed here: what commit() flushes itself and cannot write, on a full disk, it would not notice and
     // rename an empty file over the old one.
     bool const written = file.write(bytes) == bytes.size() && file.flush();
+    // The system's reason: Qt knows none for a write that stopped half-way.
+    QString const writeError = written ? QString() : qt_error_string();
     if (!written) {
         file.cancelWriting();
     }
-    return file.commit() && written ? WriteStatus::Ok : WriteStatus::CommitFailed;
+    if (file.commit() && written) {
+        return {};
+    }
+    QString const error = written ? file.errorString() : writeError;
+    return {false, QStringLiteral("The file cannot be written: %1.").arg(error)};
 }
 
 } // namespace KVCAM::UIAPI::JsonFile

@@ -12,10 +12,31 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <new>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
+
+namespace {
+std::size_t largestAllocation = std::numeric_limits<std::size_t>::max();
+}
+
+// In place of the library's own, so that a case can run out of memory.
+void * operator new(std::size_t size)
+{
+    void * const memory = size <= largestAllocation ? std::malloc(size) : nullptr;
+    return memory != nullptr ? memory : throw std::bad_alloc();
+}
+void operator delete(void * memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void * memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
 
 namespace {
 
@@ -47,65 +68,34 @@ protected:
     RangeStore store;
 };
 
+// The whole vocabulary and its numbers, taken down once: none of the names is ever to change.
 TEST_F(RangesTest, EveryTableHasItsNumbers)
 {
-    struct Row
-    {
-        char const * table;
-        int count, first, last, gap;
-        char const *firstName, *lastName;
-    };
-    Row const rows[] = {
-        {"DrillRanges", 38, 0, 37, -1, "PTH Summary", "Different Net Close VIA2PTH"},
-        {"BoardDrillRanges", 14, 0, 13, -1, "Via to Via", "Laser to Rout"},
-        {"SolderMaskRanges", 86, 0, 85, -1, "PTH annular Ring", "SM local spacing"},
-        {"SignalLayerRanges", 82, 0, 82, 63, "Pad to pad", "VIA to Copper(Same net)"},
-        {"SurfaceAnalyzerRanges", 11, 0, 10, -1, "Self-intersection in surface", "Small edge in symbol"},
-        {"SilkScreenRanges", 27, 0, 26, -1, "SM Clearance", "SS Over Channel"},
-        {"PrePareRanges", 31, 0, 30, -1, "Org step check", "Prepare step drill pad poisition check"},
-        {"SolderMaskOptRanges", 19, 0, 18, -1, "No Violations", "Shaves"},
-        {"SignalLayerOptRanges", 19, 1, 19, -1, "ARG repaired", "Unfillable polygon shave"},
-        {"TeardropsRanges", 10, 1, 10, -1, "Full Teardrops", "Suspected Teardrop"},
-        {"NFPRemoval", 4, 1, 4, -1, "Isolated", "Covered"},
-        {"PadSnappingRanges", 3, 0, 2, -1, "Snapped pads", "Spacing problems"},
-        {"PowerGroundRanges", 38, 0, 38, 12, "NPTH to Copper", "Photo Via Annular Ring"},
-        {"PowerGroundOptRanges", 27, 1, 27, -1, "Via AirGap Not Modified", "Build Donut"},
-    };
-    Names tables;
+    Names const tables{
+        "DrillRanges",           "BoardDrillRanges",    "SolderMaskRanges", "SignalLayerRanges",
+        "SurfaceAnalyzerRanges", "SilkScreenRanges",    "PrePareRanges",    "SolderMaskOptRanges",
+        "SignalLayerOptRanges",  "TeardropsRanges",     "NFPRemoval",       "PadSnappingRanges",
+        "PowerGroundRanges",     "PowerGroundOptRanges"};
+    EXPECT_EQ(Ext::categoryTables(), tables);
     QCryptographicHash vocabulary(QCryptographicHash::Sha256);
-    for (Row const & row : rows) {
-        tables.emplace_back(row.table);
-        int count = 0;
+    for (std::string const & table : tables) {
         for (int number = -2; number < 120; ++number) {
-            std::string const name = getRangesName(row.table, number);
-            bool const isAssigned = number >= row.first && number <= row.last && number != row.gap;
-            EXPECT_EQ(name.empty(), !isAssigned) << row.table << number;
+            std::string const name = getRangesName(table, number);
             // The duplicate below is the one name that leads to another number.
-            if (isAssigned && number != 85) {
-                EXPECT_EQ(getRangesEnum(row.table, name), number);
+            if (!name.empty() && number != 85) {
+                EXPECT_EQ(getRangesEnum(table, name), number);
             }
-            if (isAssigned) {
-                ++count;
-                vocabulary.addData((QString(row.table) + ' ' + QString::number(number) + ' ').toUtf8());
-                vocabulary.addData((QString::fromStdString(name) + '\n').toUtf8());
+            if (!name.empty()) {
+                vocabulary.addData((table + ' ' + std::to_string(number) + ' ' + name + '\n').c_str());
             }
         }
-        EXPECT_EQ(count, row.count) << row.table;
-        EXPECT_EQ(getRangesName(row.table, row.first), row.firstName);
-        EXPECT_EQ(getRangesName(row.table, row.last), row.lastName);
     }
-    EXPECT_EQ(Ext::categoryTables(), tables);
-    // Of the whole vocabulary, taken down once: none of the names is ever to change.
     EXPECT_EQ(vocabulary.result().toHex(),
               "2db1ebcbe1250dc66c8d1fb0f184bebbdff4f5c088e885f2a9047e8c0f921a79");
 }
 
 TEST_F(RangesTest, SpellingsAreTheProgramsOwn)
 {
-    EXPECT_EQ(getRangesName("SolderMaskOptRanges", 15), "Partial   Clearances");
-    EXPECT_EQ(getRangesName("SolderMaskOptRanges", 16), "Small     Clearances");
-    EXPECT_EQ(getRangesName("SolderMaskRanges", 68), "** Not in Use **");
-    EXPECT_EQ(getRangesName("SignalLayerOptRanges", 4), "Pad enlarge > limit");
     EXPECT_EQ(getRangesEnum("SolderMaskRanges", "SM local spacing"), 39) << "stands twice";
     for (auto const & [table, name] : {std::pair("DrillRanges", "pth summary"),
                                        {"DrillRanges", "PTH"},
@@ -115,6 +105,8 @@ TEST_F(RangesTest, SpellingsAreTheProgramsOwn)
                                        {"DrillRanges", ""}}) {
         EXPECT_EQ(getRangesEnum(table, name), -1) << table << name;
     }
+    EXPECT_EQ(getRangesName("SolderMaskRanges", 85), "SM local spacing");
+    EXPECT_EQ(getRangesName("TeardropsRanges", 0), "") << "starts at 1";
     EXPECT_EQ(builtInCategoryName("SignalLayerRanges", 63), "");
     EXPECT_EQ(builtInCategoryName("SignalLayerRanges", 64), "Shaved SMD");
     EXPECT_EQ(builtInCategoryName("?", 1), "");
@@ -153,14 +145,11 @@ TEST_F(RangesTest, LevelsAreReadFromTextsAlone)
 TEST_F(RangesTest, FilesThatCannotBeReadAreLogged)
 {
     store.scanMetaData("a", "missing.json");
-    ASSERT_TRUE(QDir().mkdir("folder.json"));
-    store.scanMetaData("a", "folder.json");
     writeFile("broken.json", R"({"rangesList":[)");
     store.scanMetaData("a", "broken.json");
     writeFile("empty.json", "");
     store.scanMetaData("a", "empty.json");
     EXPECT_EQ(log.take(), (Lines{paraError("Ranger json文件不存在！路径：missing.json"),
-                                 paraError("Ranger json文件打开失败!路径：folder.json"),
                                  paraError("解析ranges json文件错误！路径：broken.json"),
                                  paraError("解析ranges json文件错误！路径：empty.json")}));
     EXPECT_EQ(shown(store, "a"), Names{});
@@ -178,22 +167,25 @@ TEST_F(RangesTest, FilesStandInSubDirectoriesAndTheFirstOfANameWins)
     writeFile(folder + "sub/c.json.json", two);
     writeFile(folder + "sub/d.json", "{}"); // does not
     writeFile(folder + "sub/d.json.json", two);
-    writeFile(folder + "sub/z.json", "{");
-    writeFile(folder + "sub/y.json", "{");
+    for (char const * broken : {"sub/z.json", "sub/y.json", "sub/Z.json", "sub/.y.json", ".hidden/H.json"}) {
+        writeFile(folder + broken, "{");
+    }
     writeFile(folder + "sub/a.txt", one);
     EXPECT_TRUE(store.loadAllRanges());
-    for (auto const & [name, expected] : std::map<std::string, Names>{{"Direct", {}},
-                                                                      {"Deep", {}},
-                                                                      {"B", {}},
-                                                                      {"B.JSON", {"one 0 0 0"}},
-                                                                      {"a.b", {"one 0 0 0"}},
-                                                                      {"c", {}},
-                                                                      {"d", {"two 0 0 0"}}}) {
-        EXPECT_EQ(shown(store, name), expected) << name;
+    std::string found;
+    for (auto const & [name, path] : store.loadedFiles()) {
+        EXPECT_TRUE(path.startsWith(QString::fromStdString(directory))) << path.toStdString();
+        found += name + ' ' + path.section('/', -1).toStdString();
+        for (std::string const & record : shown(store, name)) {
+            found += " (" + record + ')';
+        }
+        found += "; ";
     }
-    EXPECT_EQ(log.take(),
-              (Lines{paraError("解析ranges json文件错误！路径：" + directory + "sub/y.json"),
-                     paraError("解析ranges json文件错误！路径：" + directory + "sub/z.json"), loaded}));
+    EXPECT_EQ(found, "B.JSON B.JSON (one 0 0 0); a.b a.json.b.json (one 0 0 0); c c.json; "
+                     "d d.json.json (two 0 0 0); ");
+    std::string const broken = paraError("解析ranges json文件错误！路径：" + directory + "sub/");
+    EXPECT_EQ(log.take(), (Lines{broken + "Z.json", broken + "y.json", broken + "z.json", loaded}))
+        << "upper case first, and nothing hidden";
 
     writeFile(folder + "other/a.b.json", two);
     ASSERT_TRUE(QDir().mkpath(folder + "none"));
@@ -236,6 +228,16 @@ TEST_F(RangesTest, AHostThatThrowsCostsTheLevelsAlone)
     EXPECT_EQ(log.take(), Lines{"I UIAPICommonPara: 加载Ranges失败"});
     EXPECT_FALSE(store.loadAllRanges());
     log.take();
+}
+
+TEST_F(RangesTest, AFileThatIsTooMuchForTheMemoryCostsItsOwnLevelsAlone)
+{
+    writeFile(folder + "sub/a.json", R"({"rangesList":[{"name":")" + QByteArray(2000000, 'a') + "\"}]}");
+    writeFile(folder + "sub/b.json", R"({"rangesList":[{"name":"one"}]})");
+    largestAllocation = 1000000;
+    EXPECT_TRUE(store.loadAllRanges());
+    EXPECT_EQ(log.take(), (Lines{"I UIAPICommonPara: Ranges scanMetaData失败", loaded}));
+    EXPECT_EQ(shown(store, "b"), Names{"one 0 0 0"});
 }
 
 TEST_F(RangesTest, WithoutADirectoryNothingIsLogged)

@@ -1,11 +1,16 @@
 #include "Generation.h"
 
+#include "config/AutoMatrixStore.h"
+#include "config/Diagnostics.h"
 #include "config/GlobalConfigStore.h"
+#include "config/SettingsFile.h"
+#include "support/MessagePresenter.h"
 
 #include <glog/logging.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <cstdlib>
@@ -19,8 +24,9 @@
 #endif
 
 // config_writer DIRECTORY loop FIRST: saves generation after generation until it is killed.
-// config_writer DIRECTORY once NUMBER [limit BYTES | user ID]: saves one; no file may then grow beyond BYTES,
-// as on a full disk, or the process has no more rights than that user.
+// config_writer DIRECTORY once|template NUMBER [limit BYTES | user ID]: saves one, of the settings or of a
+// template, and prints what is said of it. No file may then grow beyond BYTES, as on a full disk, or the
+// process has no more rights than that user.
 
 using namespace KVCAM::UIAPI;
 
@@ -43,6 +49,27 @@ bool restrictProcess(char const * what, char const * value)
 #endif
 }
 
+void saveOne(GlobalConfigStore & store, char const * what, std::string const & text)
+{
+    Ext::setMessagePresenter([](Ext::Message const & message) {
+        std::printf("box: %s\n", qPrintable(message.text));
+        return Ext::MessageAnswer::Ok;
+    });
+    if (std::strcmp(what, "once") == 0) {
+        store.set(&ServerSettings::serverIp, text);
+        std::printf("last: %s\n", qPrintable(Ext::lastSettingsSave().reason));
+    } else {
+        AutoMatrixTmp tmpl;
+        tmpl.name = text;
+        AutoMatrixStore().saveAutoMatrixtoJson("mine", tmpl);
+    }
+    for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
+        if (finding.kind == Ext::DiagnosticKind::SaveFailed) {
+            std::printf("%s: %s\n", qPrintable(QFileInfo(finding.file).fileName()), qPrintable(finding.text));
+        }
+    }
+}
+
 } // namespace
 
 int main(int argc, char ** argv)
@@ -58,8 +85,8 @@ int main(int argc, char ** argv)
     if (argc > 5 && !restrictProcess(argv[4], argv[5])) {
         return 3;
     }
-    if (std::strcmp(argv[2], "once") == 0) {
-        store.set(&ServerSettings::serverIp, KVCAM::Testing::generation(number));
+    if (std::strcmp(argv[2], "loop") != 0) {
+        saveOne(store, argv[2], KVCAM::Testing::generation(number));
         return 0;
     }
     std::puts("ready");

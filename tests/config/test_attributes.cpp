@@ -6,6 +6,8 @@
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/Attributes.h"
 
+#include <set>
+
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
 
@@ -59,10 +61,6 @@ TEST_F(AttributesTest, FailuresToLoadAreLoggedWithTheFilesPath)
     writeFile(config + "attributes.json", "{\"TotalAttributes\":[");
     catalogue.getTotalAttributesFromJson();
     EXPECT_EQ(log.take(), Lines{globalError("解析config json文件错误！路径：" + path)});
-    ASSERT_TRUE(QFile::remove(config + "attributes.json"));
-    ASSERT_TRUE(QDir().mkdir(config + "attributes.json"));
-    catalogue.getTotalAttributesFromJson();
-    EXPECT_EQ(log.take(), Lines{globalError("total attributes json文件打开失败!路径：" + path)});
 }
 
 TEST_F(AttributesTest, ParentNamesAreAppendedAndTheTotalIsAssigned)
@@ -82,41 +80,27 @@ TEST_F(AttributesTest, ParentNamesAreAppendedAndTheTotalIsAssigned)
 
 TEST_F(AttributesTest, ABuiltInAttributeOffersItsValues)
 {
-    Texts const impedance{"sig1", "sig2", "sig3", "sig4", "sig5", "dif1", "dif2", "dif3", "dif4", "dif5"};
-    std::map<std::string, Texts> const offering{
-        {".area", {"bga_area", "half", "v-cut", "unknown"}},
-        {".avoid_shave", {"same_close", "different_close"}},
-        {".bga", {"bga_area"}},
-        {".dfm_added_shave", {"same_close", "different_close"}},
-        {".drill", {"non_plated", "plated"}},
-        {".drill_noopt", {"non_plated", "plated"}},
-        {".fiducial_mark", {"mark"}},
-        {".fiducial_name", {"mark"}},
-        {".imp_info", impedance},
-        {".imp_line", impedance},
-        {".imp_line_bot", impedance},
-        {".imp_line_top", impedance},
-        {".laser_via_pad", {"laser", "drilled"}},
-        {".patch", {"repair", "repair_line", "broken", "trace"}},
-        {".shave", {"same_close", "different_close"}},
-        {".via_type", {"laser", "drilled"}},
-    };
     BuiltInAttributes list;
     list.initTotalAttributes();
-    EXPECT_EQ(list.entries().size(), 31U);
-    std::map<std::string, Texts> found;
+    std::string names;
+    std::set<std::string> values;
     for (auto const & [name, entry] : list.entries()) {
-        EXPECT_EQ(entry.takesListedValue, offering.count(name) == 1) << name;
-        if (!entry.offered.empty()) {
-            found[name] = entry.offered;
-        }
+        EXPECT_EQ(entry.takesListedValue, !entry.offered.empty()) << name;
+        names += name;
+        values.insert(entry.offered.begin(), entry.offered.end());
     }
-    EXPECT_EQ(found, offering);
-    for (char const * name : {".ball_pad", ".detch_comp", ".gold_finger", ".ignore_action", ".is_cappad",
-                              ".nomenclature", ".npth_pad", ".pattern_fill", ".pth_pad", ".sliver_fill",
-                              ".smd", ".tear_drop", ".via_pad", ".plating_line", ".plating_bar"}) {
-        EXPECT_EQ(list.entries().count(name), 1U) << name;
+    EXPECT_EQ(names,
+              ".area.avoid_shave.ball_pad.bga.detch_comp.dfm_added_shave.drill.drill_noopt.fiducial_mark"
+              ".fiducial_name.gold_finger.ignore_action.imp_info.imp_line.imp_line_bot.imp_line_top"
+              ".is_cappad.laser_via_pad.nomenclature.npth_pad.patch.pattern_fill.plating_bar"
+              ".plating_line.pth_pad.shave.sliver_fill.smd.tear_drop.via_pad.via_type");
+    std::string offered;
+    for (std::string const & value : values) {
+        offered += value + ' ';
     }
+    EXPECT_EQ(offered, "bga_area broken dif1 dif2 dif3 dif4 dif5 different_close drilled half laser mark "
+                       "non_plated plated repair repair_line same_close sig1 sig2 sig3 sig4 sig5 trace "
+                       "unknown v-cut ");
 }
 
 TEST_F(AttributesTest, ChildValuesAreAssignedAndNeedNoConfiguration)
@@ -161,10 +145,6 @@ TEST_F(AttributesTest, CamMateNodesComeInTwoShapes)
         EXPECT_EQ(nodes.getCamMateNodes(), row.names) << (row.content != nullptr ? row.content : "absent");
         EXPECT_EQ(log.take(), row.expected);
     }
-    ASSERT_TRUE(QDir().mkdir("cammatenodes.json"));
-    CamMateNodes nodes;
-    nodes.readCamMateNodesFromJson("cammatenodes.json");
-    EXPECT_EQ(log.take(), Lines{broken});
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ConfigTest.h"
 #include "Generation.h"
 
+#include "config/SettingsFile.h"
 #include "support/JsonFile.h"
 
 #include <QElapsedTimer>
@@ -30,13 +31,15 @@ class SafeSaving : public ConfigTest
 protected:
     QString const file = config + "server.json";
 
-    static int write(QStringList const & arguments)
+    int write(QStringList const & arguments)
     {
         QProcess writer;
         writer.start(CONFIG_WRITER, arguments);
-        return writer.waitForFinished() && writer.exitStatus() == QProcess::NormalExit ? writer.exitCode()
-                                                                                       : -1;
+        bool const ended = writer.waitForFinished() && writer.exitStatus() == QProcess::NormalExit;
+        said = writer.readAllStandardOutput().toStdString();
+        return ended ? writer.exitCode() : -1;
     }
+    std::string said; ///< by the latest writer
     static bool isUnix()
     {
 #ifdef Q_OS_UNIX
@@ -89,6 +92,9 @@ TEST_F(SafeSaving, AWriteThatFailsLeavesTheOldFileWhole)
 {
     ASSERT_TRUE(QDir().mkdir("config"));
     ASSERT_EQ(write({".", "once", "1"}), 0);
+    EXPECT_EQ(said, "last: \n");
+    ASSERT_EQ(write({".", "template", "1"}), 0);
+    QByteArray const old = readFile("autoMatrix/mine.json");
     // Both below and above the size up to which Qt gathers what it writes.
     for (char const * number : {"2", "39"}) {
         int const result = write({".", "once", number, "limit", "2000"});
@@ -98,6 +104,12 @@ TEST_F(SafeSaving, AWriteThatFailsLeavesTheOldFileWhole)
         EXPECT_EQ(result, 0);
         EXPECT_EQ(generationIn(file), 1) << number;
         EXPECT_EQ(QDir(config).entryList(QDir::Files), QStringList{"server.json"});
+        std::string const reason = "The file cannot be written: File too large.\n";
+        EXPECT_EQ(said, "last: " + reason + "server.json: " + reason) << number;
+        EXPECT_EQ(write({".", "template", number, "limit", "900"}), 0);
+        EXPECT_EQ(said, "box: File open failed\nmine.json: " + reason) << number;
+        EXPECT_EQ(readFile("autoMatrix/mine.json"), old) << number;
+        EXPECT_EQ(QDir("autoMatrix").entryList(QDir::Files), QStringList{"mine.json"});
     }
     EXPECT_EQ(write({".", "once", "2"}), 0);
     EXPECT_EQ(generationIn(file), 2);
@@ -121,6 +133,9 @@ TEST_F(SafeSaving, AFullDiskLeavesTheOldFileWhole)
     }
     EXPECT_EQ(write({"disk", "once", "80"}), 0); // a short text
     EXPECT_EQ(generationIn("disk/config/server.json"), 1);
+    EXPECT_NE(said.find("No space left on device"), std::string::npos) << said;
+    EXPECT_EQ(write({"disk", "template", "80"}), 0);
+    EXPECT_NE(said.find("box: File open failed"), std::string::npos) << said;
 
     filler.close();
     EXPECT_TRUE(filler.remove());
@@ -129,7 +144,7 @@ TEST_F(SafeSaving, AFullDiskLeavesTheOldFileWhole)
     EXPECT_EQ(QProcess::execute("umount", {"disk"}), 0);
 }
 
-TEST_F(SafeSaving, ADirectoryInTheFilesPlaceStaysAndNothingIsSaid)
+TEST_F(SafeSaving, ADirectoryInTheFilesPlaceStaysAndNothingIsLogged)
 {
     writeFile(file, R"({"OS":1})");
     UIAPIGlobalVar & global = restartQuietly();
@@ -139,6 +154,10 @@ TEST_F(SafeSaving, ADirectoryInTheFilesPlaceStaysAndNothingIsSaid)
     EXPECT_TRUE(QDir(file).exists());
     EXPECT_EQ(QDir(config).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"server.json"});
     EXPECT_EQ(log.take(), Lines{});
+    EXPECT_EQ(Ext::lastSettingsSave().reason, "It is not a regular file.");
+    ASSERT_TRUE(QDir().rmdir(file));
+    global.setOS(3);
+    EXPECT_TRUE(Ext::lastSettingsSave().ok);
 }
 
 TEST_F(SafeSaving, AReadOnlyDirectoryKeepsAReadOnlyFileAndRewritesAWritableOneInPlace)

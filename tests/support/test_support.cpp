@@ -2,7 +2,6 @@
 
 #include "support/Boxes.h"
 #include "support/Guard.h"
-#include "support/HostPaths.h"
 #include "support/JsonFile.h"
 #include "support/Log.h"
 #include "support/Narrowing.h"
@@ -11,7 +10,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
@@ -20,6 +21,7 @@
 #include <limits>
 #include <stdexcept>
 #include <thread>
+#include <tuple>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::Testing;
@@ -77,40 +79,44 @@ TEST_F(SupportTest, NumberRunsAlternateAndKeepEveryCharacter)
     }
 }
 
-TEST_F(SupportTest, ConfigurationDirectoryIsComposedOfRootAndFolder)
-{
-    std::string const current = QDir::currentPath().toStdString();
-    EXPECT_EQ(HostPaths::configurationDirectory().toStdString(), current + "/config/");
-    engine.root = "/opt/cam";
-    engine.configFolder = "设置";
-    EXPECT_EQ(HostPaths::configurationDirectory().toStdString(), "/opt/cam/设置/");
-    engine.throwFrom("getPath");
-    EXPECT_THROW(HostPaths::configurationDirectory(), std::runtime_error);
-}
-
 TEST_F(SupportTest, JsonFileTellsWhyItCannotBeRead)
 {
-    EXPECT_EQ(JsonFile::read("absent.json").status, JsonFile::ReadStatus::Missing);
+    using JsonFile::ReadStatus;
     ASSERT_TRUE(QDir().mkdir("directory.json"));
-    EXPECT_EQ(JsonFile::read("directory.json").status, JsonFile::ReadStatus::OpenFailed);
-
-    ASSERT_EQ(JsonFile::replace("broken.json", "{\"a\": }"), JsonFile::WriteStatus::Ok);
-    JsonFile::ReadResult const broken = JsonFile::read("broken.json");
-    EXPECT_EQ(broken.status, JsonFile::ReadStatus::ParseError);
-    EXPECT_TRUE(broken.document.isNull());
-    EXPECT_EQ(broken.errorOffset, 7);
-    EXPECT_FALSE(broken.parseError.isEmpty());
-
-    ASSERT_EQ(JsonFile::replace("whole.json", "[1]"), JsonFile::WriteStatus::Ok);
-    EXPECT_EQ(JsonFile::read("whole.json", QIODevice::Text).document.toJson(QJsonDocument::Compact), "[1]");
+    ASSERT_TRUE(JsonFile::replace("broken.json", "{\"a\": }") && JsonFile::replace("whole.json", "[\r\n1]"));
+    ASSERT_TRUE(QFile::link("whole.json", "link.json"));
+    for (auto const & [name, more] : {std::pair("largest.json", 0), {"too large.json", 1}}) {
+        QFile sparse(name);
+        ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(JsonFile::largestFile + more));
+    }
+    for (auto const & [name, status, reason] :
+         {std::tuple("absent.json", ReadStatus::Missing, "There is no such file."),
+          {"", ReadStatus::Missing, "There is no such file."},
+          {"directory.json", ReadStatus::OpenFailed, "It is not a regular file."},
+          {"broken.json", ReadStatus::ParseError,
+           "The file is not JSON: object is missing after a comma at byte offset 7."},
+          {"largest.json", ReadStatus::ParseError, "The file is not JSON: illegal value at byte offset 1."},
+          {"too large.json", ReadStatus::OpenFailed, "The file is too large: more than 67108864 bytes."},
+          {"link.json", ReadStatus::Ok, ""}}) {
+        JsonFile::ReadResult const result = JsonFile::read(name);
+        EXPECT_EQ(result.status, status) << name;
+        EXPECT_EQ(result.reason.toStdString(), reason) << name;
+        EXPECT_EQ(result.document.isArray(), status == ReadStatus::Ok) << name;
+    }
+    EXPECT_EQ(JsonFile::readBytes("link.json", QIODevice::Text).bytes, "[\n1]");
 }
 
-TEST_F(SupportTest, ReplacingAFileIsRefusedWhereADirectoryStands)
+TEST_F(SupportTest, WhatIsNoRegularFileIsNotReplaced)
 {
     ASSERT_TRUE(QDir().mkdir("taken"));
-    EXPECT_EQ(JsonFile::replace("taken", "x"), JsonFile::WriteStatus::OpenFailed);
-    EXPECT_EQ(JsonFile::replace("no/such/folder/file", "x"), JsonFile::WriteStatus::OpenFailed);
-    EXPECT_TRUE(QDir("taken").exists());
+    ASSERT_EQ(QProcess::execute("mkfifo", {"pipe"}), 0);
+    ASSERT_TRUE(QFile::link("pipe", "link"));
+    for (char const * name : {"taken", "pipe", "link"}) {
+        EXPECT_EQ(JsonFile::replace(name, "x").reason, "It is not a regular file.");
+        EXPECT_FALSE(QFileInfo(name).isFile()) << name;
+    }
+    EXPECT_EQ(JsonFile::replace("no/such/folder/file", "x").reason,
+              "The file cannot be opened for writing: No such file or directory.");
 }
 
 // The real box, driven as a user would: the timer runs inside its event loop.

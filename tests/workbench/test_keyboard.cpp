@@ -239,7 +239,7 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
     EXPECT_EQ(rowOf(bindings, 32), (QStringList{"S, G", "Snap: grid", "KK_SnapGrid", ""}));
     EXPECT_TRUE(file.text().endsWith("the default keys are in use."));
     sheet->exportTo("nowhere/keys.json");
-    EXPECT_EQ(sheet->findChild<QLabel *>("hint")->text().section('.', 0, 0),
+    EXPECT_EQ(sheet->findChild<QLabel *>("hint")->text().section(':', 0, 0),
               "The file cannot be opened for writing");
 
     writeFile(Ext::hotkeyFile, R"([{"func_name":"KP_Measure","Modifier":"Ctrl","key":"A"},

@@ -185,16 +185,16 @@ bool AnalysisRun::isUnsaved(std::string const & table) const
                        [](auto const & a, auto const & b) { return isSame(a, b); });
 }
 
-Ext::SaveResult AnalysisRun::saveLevels(std::string const & table)
+Ext::Result AnalysisRun::saveLevels(std::string const & table)
 {
-    Ext::SaveResult result = Ext::saveRanges(table);
-    if (result.saved) {
+    Ext::Result result = Ext::saveRanges(table);
+    if (result.ok) {
         getRanges(table, m_saved[table]);
     }
     return result;
 }
 
-Ext::SaveResult AnalysisRun::writeSummary(QString const & path) const
+Ext::Result AnalysisRun::writeSummary(QString const & path) const
 {
     std::string text;
     Unified_AnalysisResult::instance()->jsonoutput(text);
@@ -210,7 +210,7 @@ Ext::SaveResult AnalysisRun::writeSummary(QString const & path) const
     return {true, {}};
 }
 
-Ext::SaveResult AnalysisRun::writeReport(QString const & path) const
+Ext::Result AnalysisRun::writeReport(QString const & path) const
 {
     auto const format = reportFormat(path);
     if (!format) {

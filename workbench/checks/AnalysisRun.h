@@ -62,12 +62,12 @@ public:
     void changeLevel(std::string const & table, std::string const & category, char const * level, double mil);
     /// Whether a level of the table was changed and is not in its file.
     bool isUnsaved(std::string const & table) const;
-    KVCAM::UIAPI::Ext::SaveResult saveLevels(std::string const & table);
+    KVCAM::UIAPI::Ext::Result saveLevels(std::string const & table);
 
     /// Writes the library's summary of the board as it is; the file is replaced whole.
-    KVCAM::UIAPI::Ext::SaveResult writeSummary(QString const & path) const;
+    KVCAM::UIAPI::Ext::Result writeSummary(QString const & path) const;
     /// Writes the report in the format that the file's name asks for.
-    KVCAM::UIAPI::Ext::SaveResult writeReport(QString const & path) const;
+    KVCAM::UIAPI::Ext::Result writeReport(QString const & path) const;
 
 private:
     void file(std::string const & step, KVCAM::Embedded::CheckResults & results);

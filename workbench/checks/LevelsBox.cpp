@@ -110,9 +110,9 @@ void LevelsBox::saveLevels()
     if (m_category == nullptr) {
         return;
     }
-    Ext::SaveResult const result = m_run.saveLevels(m_category->table);
+    Ext::Result const result = m_run.saveLevels(m_category->table);
     setTexts();
-    if (!result.saved) {
+    if (!result.ok) {
         Ext::showMessage({Ext::MessageKind::Information, this, tr("Levels"), result.reason});
     }
 }

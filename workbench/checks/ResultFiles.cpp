@@ -21,8 +21,8 @@ WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
                            .arg(reason)}};
     }
     WrittenResults results;
-    auto const note = [&results](QString const & file, Ext::SaveResult const & result) {
-        (result.saved ? results.files : results.errors).append(result.saved ? file : result.reason);
+    auto const note = [&results](QString const & file, Ext::Result const & result) {
+        (result.ok ? results.files : results.errors).append(result.ok ? file : result.reason);
     };
     AnalysisRun const & run = page.run();
     if (!commandLine.summary.isEmpty()) {

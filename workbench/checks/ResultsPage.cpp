@@ -325,11 +325,11 @@ void ResultsPage::showSelected()
 }
 
 void ResultsPage::exportFile(QString const & title, QString const & name, QString const & filter,
-                             std::function<Ext::SaveResult(QString const &)> const & write)
+                             std::function<Ext::Result(QString const &)> const & write)
 {
     askForFile(*this, title, name, filter, [this, title, write](QString const & path) {
-        Ext::SaveResult const result = write(path);
-        if (!result.saved) {
+        Ext::Result const result = write(path);
+        if (!result.ok) {
             Ext::showMessage({Ext::MessageKind::Information, this, title, result.reason});
         }
     });

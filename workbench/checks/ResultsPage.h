@@ -59,7 +59,7 @@ private:
     void showNotChecked();
     void showSelected();
     void exportFile(QString const & title, QString const & name, QString const & filter,
-                    std::function<KVCAM::UIAPI::Ext::SaveResult(QString const &)> const & write);
+                    std::function<KVCAM::UIAPI::Ext::Result(QString const &)> const & write);
     QString countsText() const;
 
     std::shared_ptr<AnalysisRun> m_run;

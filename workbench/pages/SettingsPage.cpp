@@ -114,6 +114,8 @@ QString kindText(Ext::DiagnosticKind kind)
         return SettingsPage::tr("index taken");
     case Ext::DiagnosticKind::BackupFailed:
         return SettingsPage::tr("no backup");
+    case Ext::DiagnosticKind::SaveFailed:
+        return SettingsPage::tr("not saved");
     }
     return {};
 }

@@ -1274,6 +1274,10 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>没有备份</translation>
     </message>
     <message>
+        <source>not saved</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
         <source>Settings of server.json</source>
         <translation>server.json 的设置</translation>
     </message>

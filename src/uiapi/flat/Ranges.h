@@ -2,7 +2,8 @@
 
 #include "UIAPICommonExport.h"
 #include "analysis/AnalysisRecords.h"
-#include "analysis/AnalysisReport.h"
+#include "analysis/RangeSource.h"
+#include "support/Result.h"
 
 #include <string>
 #include <vector>
@@ -30,12 +31,18 @@ UIAPICOMMON_EXPORT void getERFList(std::string folder, std::vector<std::string> 
 
 namespace Ext {
 
+/// The ranges that were read, by name, ascending byte by byte. A name that is not among them was not read: no
+/// file has it, or its file is at fault (see diagnostics()) or holds no list. One that is there and of which
+/// getRanges() gives nothing has an empty list. Of two files of the same name the first that was read stands
+/// here.
+UIAPICOMMON_EXPORT std::vector<RangeSource> loadedRangeFiles();
+
 /// Writes the levels that changeRangesValue() changed back into the file that the range was read from. Only
 /// these levels change, as texts in the shortest form that reads back equal; unknown keys and elements that
 /// are no records are kept. The file is replaced whole. Refused when the range was not read from a file, and
 /// when the file does not hold the categories that were read from it any more. Nothing to write counts as
-/// saved. Nothing is logged.
-UIAPICOMMON_EXPORT SaveResult saveRanges(std::string const & rangeName);
+/// saved. The reason of a failure is translated. Nothing is logged.
+[[nodiscard]] UIAPICOMMON_EXPORT Result saveRanges(std::string const & rangeName);
 
 } // namespace Ext
 
