@@ -60,7 +60,8 @@ FuncCode KVHotKey::getFunctionCode(QKeyEvent * event)
 
 void KVHotKey::buffAddKey(Qt::Key key)
 {
-    guardedKeys([&] { d->buffer.add(key); });
+    int const code = key; // any number, not only those that have a name
+    guardedKeys([&] { d->buffer.add(code); });
 }
 
 void KVHotKey::buffClear()
