@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int exitIncomplete = 1; // of a headless run that could not read or write everything
+constexpr int exitIncomplete = 1; // a headless run could not read or write everything
 constexpr int exitWrongInput = 2;
 
 void print(std::FILE * stream, QByteArray const & text)
@@ -42,8 +42,8 @@ bool canWriteInto(QString const & directory)
     return QDir().mkpath(directory) && QTemporaryFile(directory + "/probe-XXXXXX").open();
 }
 
-// The library logs through glog and leaves its start to the host. No log files: warnings and errors go to
-// stderr, and the window's pane shows every line.
+// The library logs through glog but leaves its initialisation to the host. There are no log files: warnings
+// and errors go to stderr, and the window shows every line.
 void initialiseLog(char const * program)
 {
     google::InitGoogleLogging(program);
@@ -53,18 +53,18 @@ void initialiseLog(char const * program)
     google::SetStderrLogging(google::GLOG_WARNING);
 }
 
-// Qt's remarks about the desktop belong into the pane with the rest, not between the lines of the terminal.
+// Qt's messages about the desktop belong into the log, not between the lines on the terminal.
 void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QString const & text)
 {
     if (text.startsWith("This plugin does not support ")) {
-        return; // the offscreen platform says so of every window
+        return; // reported by the offscreen platform for every window
     }
     bool const isError = type == QtCriticalMsg || type == QtFatalMsg;
     google::LogMessage("Qt", 0, isError ? google::GLOG_ERROR : google::GLOG_INFO).stream()
         << qPrintable(text);
 }
 
-// With a window, where somebody can read a box.
+// For a run with a window, in which a box can be read.
 void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const & commandLine)
 {
     using namespace KVCAM::UIAPI;
@@ -88,7 +88,7 @@ int main(int argc, char ** argv)
     }
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");
-    if (headless) { // screenshots do not depend on a desktop's taste
+    if (headless) { // screenshots must not depend on the desktop's font
         QFont font = QApplication::font();
         font.setPointSize(10);
         QApplication::setFont(font);
@@ -148,7 +148,7 @@ int main(int argc, char ** argv)
         print(stderr, "uiapi-workbench: wrote " + file.toString().toUtf8() + '\n');
     }
     for (auto const & failure : facts["analysis"].toObject()["errors"].toArray()) {
-        fail(failure.toString()); // the checks' own; of the layers' errors the log has told
+        fail(failure.toString()); // of the checks; errors of layers are in the log
     }
     return facts["errors"].toArray().isEmpty() ? 0 : exitIncomplete;
 }

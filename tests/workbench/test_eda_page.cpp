@@ -85,9 +85,9 @@ TEST(JsonTexts, AnObjectIsOneAndTheRestIsToldWithItsPlace)
     } const rows[] = {
         {"{}", ""},
         {" {\"a\": [1, {\"b\": null}]}\n", ""},
-        {"", "A JSON object is expected, which begins with a brace."},
-        {"[1]", "A JSON object is expected, which begins with a brace."},
-        {"7", "A JSON object is expected, which begins with a brace."},
+        {"", "A JSON object is expected; it begins with a brace."},
+        {"[1]", "A JSON object is expected; it begins with a brace."},
+        {"7", "A JSON object is expected; it begins with a brace."},
         {"{", "Line 1, near column 2: a name in quotation marks, a comma or a closing brace is expected."},
         {"{\n \"层\" 1}", "Line 2, near column 7: a colon is expected after the name."},
         {"{\"a\": 1,\n}", "Line 2, near column 2: a name or a value is expected."},

@@ -144,7 +144,7 @@ TEST_F(Keyboard, MeasuringTakesTwoPressesAndTheUnitOfTheView)
     open();
     coordinate & pointer = *getCoordinate(view());
     pointer = {25400, 0};
-    EXPECT_EQ(press("Shift+V"), "Measure: from x 1.000 y 0.000 inch; once more at the other end");
+    EXPECT_EQ(press("Shift+V"), "Measure: from x 1.000 y 0.000 inch; press again at the other end");
     pointer = {25400 + 3 * 25400, -4 * 25400};
     EXPECT_EQ(press("Shift+V"), "Measure: 5.000 inch (3.000 x 4.000 inch)");
     EXPECT_TRUE(press("Shift+V").startsWith("Measure: from"));

@@ -88,7 +88,7 @@ TEST_F(LayersOfAWindow, TheFilterBarShowsWhatItIsAskedForAndSaysWhyNot)
          "No layer matches. \"top\" is left out by: Type."},
         {{{"side", "Top"}},
          "",
-         "Side: \"Top\" is no word of this field. No layer matches. \"top\" is left out by: Side."},
+         "Side: \"Top\" is not a word of this field. No layer matches. \"top\" is left out by: Side."},
         {{{"type", "copper|signal"}},
          "5 9 11 13 15",
          "Type: no layer of the job is \"copper\". \"top\" matches."},
@@ -142,7 +142,7 @@ TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn
     find<QPushButton>("for analysis").click();
     EXPECT_EQ(shownRows(table), "2 3 4 5 7 9 11 13 15 16 17 18 20 21 22 23");
     EXPECT_EQ(explanation(),
-              "These are the layers that analysis and checks read. \"comp_+_top\" is none of them.");
+              "These are the layers that analysis and checks read. \"comp_+_top\" is not one of them.");
     EXPECT_FALSE(find<QComboBox>("type").isEnabled());
     find<QPushButton>("for analysis").click();
     EXPECT_EQ(shownRows(table).count(' '), 24);
@@ -266,7 +266,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     };
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_Delete);
-    EXPECT_EQ(status(), "Nothing is selected: Ctrl and a click selects a feature.");
+    EXPECT_EQ(status(), "Nothing is selected. Ctrl with a click selects a feature.");
 
     FeatureShape const & pad = view.shapes().back();
     view.centreOn(pad.box.center().x(), pad.box.center().y());

@@ -95,7 +95,7 @@ TEST(TemplateFiles, OnlyTheFileOfATemplateIsEverWrittenOrDeleted)
         others + QStringList{"old name.json: Alone", "one.json: mine", "z.JSON: not read"};
     auto const taken = [](char const * file) {
         return QStringList{
-            QString("The file \"autoMatrix/%1.json\" is there already. Choose another name.").arg(file)};
+            QString("The file \"autoMatrix/%1.json\" already exists. Choose another name.").arg(file)};
     };
     struct
     {

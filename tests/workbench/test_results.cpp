@@ -123,7 +123,7 @@ TEST_F(Results, AreFiledAndSummarised)
 {
     open();
     EXPECT_EQ(text("note"), "");
-    EXPECT_TRUE(text("empty").contains("not run yet"));
+    EXPECT_TRUE(text("empty").contains("not been run yet"));
     EXPECT_FALSE(button("summary").isEnabled());
     commandLine.summary = "summary.json";
     commandLine.reports = QStringList{"report.json", "report.csv", "nowhere/report.csv"};

@@ -11,7 +11,7 @@ namespace Workbench {
 
 namespace {
 
-constexpr double sharedOpacity = 0.75; // of layers that are shown together
+constexpr double sharedOpacity = 0.75; // of each layer when several are shown
 
 } // namespace
 

@@ -14,7 +14,7 @@ namespace Workbench {
 
 namespace {
 
-constexpr int scaleMargin = 28;      // pixels left of the length scale
+constexpr int scaleMargin = 28;      // pixels to the left of the scale bar
 constexpr double longestScale = 160; // pixels
 constexpr double markRadius = 9;     // pixels
 
@@ -62,7 +62,7 @@ void paintLengthScale(QPainter & painter, void const * view, double scale)
     if (!(available > 0) || !std::isfinite(available)) {
         return;
     }
-    // Below a thousandth of the large unit the library's texts show nothing but zeros.
+    // Below a thousandth of the large unit the library's texts would show only zeros.
     bool const isSmall = available < 0.005;
     double const perUnit = isSmall ? perLargeUnit / 1000 : perLargeUnit;
     double const room = longestScale / scale / perUnit;

@@ -12,7 +12,7 @@ class QPainter;
 
 namespace Workbench {
 
-/// A place of the board to be pointed out: a lettered sign that keeps its size at every zoom.
+/// A place on the board to point out: a letter in a disc that has the same size at every zoom.
 struct Mark
 {
     double x = 0; ///< micrometres
@@ -22,13 +22,13 @@ struct Mark
     QString toolTip;
 };
 
-/// Paints the marks that a widget shows; the last one lies on top.
+/// Paints marks onto a widget; the last one is on top.
 void paintMarks(QPainter & painter, std::vector<Mark> const & marks, QTransform const & boardToWidget);
-/// The index of the uppermost mark at a place of the widget, -1 for none.
+/// The index of the uppermost mark at a place on the widget; -1 for none.
 int markAt(QPointF pixel, std::vector<Mark> const & marks, QTransform const & boardToWidget);
 
-/// Paints a length scale into the left lower corner: the largest round length in the unit of a view that
-/// takes at most 160 pixels. `scale` is in pixels for a micrometre.
+/// Paints a scale bar into the lower left corner: the largest round length, in the unit of a view, that fits
+/// into 160 pixels. `scale` is in pixels per micrometre.
 void paintLengthScale(QPainter & painter, void const * view, double scale);
 
 } // namespace Workbench

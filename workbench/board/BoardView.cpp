@@ -24,11 +24,11 @@ namespace {
 using namespace KVCAM::UIAPI;
 
 constexpr double zoomStep = 1.5;   // of a key
-constexpr double wheelStep = 1.25; // of a notch of the wheel
-constexpr double panStep = 0.1;    // of a key, in widths of the view
-constexpr double closeZoom = 4;    // at which a place is looked at
-constexpr double reach = 3;        // pixels beside a feature that still select it
-constexpr int slice = 25;          // milliseconds of drawing before the program looks for events again
+constexpr double wheelStep = 1.25; // of one notch of the wheel
+constexpr double panStep = 0.1;    // of a key, in sizes of the view
+constexpr double closeZoom = 4;    // relative to home, for looking at a place
+constexpr double reach = 3;        // pixels from a feature within which a click selects it
+constexpr int slice = 25;          // milliseconds of drawing between two turns of the event loop
 
 } // namespace
 
@@ -104,7 +104,7 @@ std::shared_ptr<LayerShapes const> BoardView::shapesOf(layer_info const & layer)
 void BoardView::updateLayers()
 {
     QRectF extent = m_profile.boundingRect();
-    if (extent.isEmpty()) { // a step without a profile is shown as large as its features
+    if (extent.isEmpty()) { // a step without a profile is as large as its features
         extent = m_shown->extent();
     }
     m_port.setSize(size());
@@ -196,7 +196,7 @@ void BoardView::beginPicture()
         }
     }
     layers.push_back(m_shown);
-    m_known.clear(); // what is not shown any more is read again when it is
+    m_known.clear(); // layers that are not shown are read again when needed
     for (auto const & layer : layers) {
         m_known[layer->info().name] = layer;
     }
@@ -337,7 +337,7 @@ void BoardView::pickAt(QPointF pixel)
     }
     QPointF const place = m_port.toBoard(pixel);
     auto const & list = shapes();
-    for (std::size_t i = list.size(); i-- > 0;) { // what was drawn last lies on top
+    for (std::size_t i = list.size(); i-- > 0;) { // the last one drawn is on top
         if (list[i].kind == FeatureShape::Kind::Pad && list[i].box.contains(place)) {
             markFeature(list[i].feature);
             emit padPicked(list[i].feature);
@@ -363,7 +363,7 @@ void BoardView::selectAt(QPointF pixel)
 void BoardView::keyPressEvent(QKeyEvent * event)
 {
     bool const isSign = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus;
-    Qt::KeyboardModifiers const without = // Shift and an arrow belongs to the hot keys
+    Qt::KeyboardModifiers const without = // Shift with an arrow belongs to the hot keys
         isSign ? Qt::KeypadModifier | Qt::ShiftModifier : Qt::KeyboardModifiers(Qt::KeypadModifier);
     if ((event->modifiers() & ~without) != 0) {
         return QWidget::keyPressEvent(event);
@@ -378,7 +378,7 @@ void BoardView::keyPressEvent(QKeyEvent * event)
     case Qt::Key_Down:
         return pan({0, -panStep});
     case Qt::Key_Plus:
-    case Qt::Key_Equal: // plus without Shift on many keyboards
+    case Qt::Key_Equal: // the plus key without Shift on many keyboards
         return zoomIn();
     case Qt::Key_Minus:
         return zoomOut();

@@ -16,12 +16,12 @@
 
 namespace Workbench {
 
-/// The graphic view of one step, and as such the handle under which the library keeps its state: the view
-/// registers itself when it is made and shows lengths in its own unit. The library never forgets a view, so
-/// views live as long as the window.
+/// The graphic view of one step, and the handle under which the library keeps its state: the view registers
+/// itself on construction and shows lengths in its own unit. The library never forgets a view, so views live
+/// as long as the window.
 ///
-/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or a pad, Ctrl and a
-/// click selects a feature or takes it out. With the focus the arrows move, + and - zoom, Home shows the
+/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or a pad, and Ctrl with
+/// a click toggles the selection of a feature. With the focus, arrows move, + and - zoom, and Home shows the
 /// whole board. Zoom and place stay when the layer or the unit changes.
 class BoardView : public QWidget
 {
@@ -32,40 +32,39 @@ public:
 
     std::string const & job() const { return m_job; }
     std::string const & step() const { return m_step; }
-    /// What the library calls this view.
+    /// The handle for the library's functions.
     void const * handle() const { return static_cast<QWidget const *>(this); }
 
-    /// Makes a layer the one that is worked on: it is drawn on top, and its pads can be picked.
+    /// Sets the layer to work on: it is drawn on top, and its pads can be picked.
     void showLayer(KVCAM::API::layer_info const & layer);
-    /// Draws these layers below it, the first one uppermost.
+    /// Draws these layers below it, the first one on top.
     void showBackgroundLayers(std::vector<KVCAM::API::layer_info> layers);
-    /// Reads the layers again: the engine's features have changed.
+    /// Reads the layers again after the engine's features have changed.
     void reload();
-    /// Finishes the picture, which is otherwise made while the program has nothing else to do.
+    /// Finishes the picture now; otherwise it is made while the program is idle.
     void finishPicture();
     /// Marks a feature of the shown layer; -1 marks none.
     void markFeature(int feature);
-    /// Makes these features of the shown layer the selected ones; none are when another layer is shown or the
-    /// layers are read again.
+    /// Selects these features of the shown layer. Showing another layer or reading the layers again clears
+    /// the selection.
     void select(FeatureSelection::Set features);
     FeatureSelection::Set const & selected() const { return m_selected; }
     std::vector<KVCAM::API::feature_info> const & features() const { return m_shown->features(); }
-    /// Their pictures, in the same order.
+    /// Their shapes, in the same order.
     std::vector<FeatureShape> const & shapes() const { return m_shown->shapes(); }
     std::string const & layer() const { return m_shown->info().name; }
     /// Why nothing is drawn; empty when something is.
     QString emptyText() const;
 
-    /// Shows these marks in place of those before, the last one on top; they stay when another layer is
-    /// shown.
+    /// Replaces the marks; the last one is on top. They stay when another layer is shown.
     void setMarks(std::vector<Mark> marks);
     std::vector<Mark> const & marks() const { return m_marks; }
-    /// Brings a place in micrometres into the middle, at four times home's scale or what is larger already. A
-    /// place that is not finite changes nothing.
+    /// Centres a place (micrometres) at four times the home scale, or at the current scale if that is larger.
+    /// A place that is not finite is ignored.
     void centreOn(double x, double y);
-    /// Where a place in micrometres lies on the widget.
+    /// The widget position of a place in micrometres.
     QPointF pixelOf(double x, double y) const { return boardToWidget().map(QPointF(x, y)); }
-    /// The scale over the one at which the whole board is shown.
+    /// The scale relative to that which shows the whole board.
     double zoom() const { return m_port.zoom(); }
 
     QSize sizeHint() const override { return {640, 520}; }
@@ -73,25 +72,25 @@ public:
 public slots:
     /// Shows the whole board.
     void zoomHome();
-    /// Shows all features of the shown layers, beyond the board as well.
+    /// Shows all features of the shown layers, including those outside the board.
     void zoomFit();
-    /// About the middle.
+    /// Both about the middle.
     void zoomIn();
     void zoomOut();
-    /// Moves the view by a fraction of its size: (1, 0) shows what lay right of it, (0, 1) what lay above.
+    /// Moves the view by a fraction of its size: (1, 0) shows what was to the right, (0, 1) what was above.
     void pan(QPointF fraction);
 
 signals:
-    /// A click on a mark; `index` counts in marks().
+    /// A mark was clicked; `index` counts in marks().
     void markPicked(int index);
-    /// What part of the board is shown, or at what scale, has changed.
+    /// The part of the board that is shown, or its scale, has changed.
     void portChanged();
-    /// The pointer is at another place of the board; the library's coordinate read-out holds it.
+    /// The pointer has moved; the library's coordinate read-out holds its place on the board.
     void pointerMoved();
     void padPicked(int feature);
-    /// The Delete key: the selected features shall go.
+    /// The Delete key was pressed: the selected features are to be deleted.
     void deleteAsked();
-    /// The user has selected a feature or taken it out.
+    /// The user has selected or deselected a feature.
     void selectionChanged();
 
 protected:
@@ -119,12 +118,12 @@ private:
     std::string m_step;
     QPainterPath m_profile;
     std::vector<KVCAM::API::layer_info> m_background;
-    std::map<std::string, std::shared_ptr<LayerShapes const>> m_known; // of the shown layers, by name
+    std::map<std::string, std::shared_ptr<LayerShapes const>> m_known; // the layers that are shown, by name
     std::shared_ptr<LayerShapes const> m_shown;
     std::vector<Mark> m_marks;
     ViewPort m_port;
     BoardPicture m_picture;
-    bool m_isStale = true; // the picture is to be begun anew
+    bool m_isStale = true; // a new picture has to be started
     QTimer m_goOn;
     int m_marked = -1;
     FeatureSelection::Set m_selected;

@@ -11,7 +11,7 @@ namespace Workbench::FeatureSelection {
 
 namespace {
 
-// More than these are marked by their boxes: outlines would take too long to draw.
+// Above this number features are marked by their boxes: outlines would take too long to draw.
 constexpr std::size_t outlineLimit = 1000;
 
 double distanceToLine(QPointF place, QPointF from, QPointF to)
@@ -33,7 +33,7 @@ bool isAt(FeatureShape const & shape, QPointF place, double tolerance)
         return distanceToLine(place, shape.place, shape.end) <= shape.penWidth / 2 + tolerance;
     }
     if (shape.kind == FeatureShape::Kind::Pad) {
-        return true; // its box will do, as for opening it
+        return true; // the box is close enough, as for opening a pad
     }
     QPainterPathStroker stroker;
     stroker.setWidth((shape.filled ? 0 : shape.penWidth) + 2 * tolerance);
@@ -96,7 +96,7 @@ void paint(QPainter & painter, Shapes const & shapes, Set const & set, QTransfor
     }
     std::vector<FeatureShape const *> shown;
     for (FeatureShape const & shape : shapes) {
-        // A box without an area, as that of an upright line of no width, meets nothing in Qt's sense.
+        // For Qt a box without area, such as that of a vertical line of zero width, intersects nothing.
         if (set.count(shape.feature) != 0 && visible.intersects(shape.box.adjusted(-1, -1, 1, 1))) {
             shown.push_back(&shape);
         }

@@ -17,18 +17,18 @@ namespace {
 
 using KVCAM::API::feature_info;
 
-constexpr double crossSize = 300; // half the arm of the cross that stands for a user-defined symbol
+constexpr double crossSize = 300; // micrometres; half the arm of the cross for a user-defined symbol
 
 QPointF toPoint(KVCAM::API::point const & point)
 {
     return {point.x, point.y};
 }
 
-// What a symbol name stands for; looked up once for each name and unit of a layer.
+// What a symbol name stands for; looked up once per name and unit of a layer.
 struct Symbol
 {
     std::optional<QPainterPath> path;
-    double width = 0; // of a stroke that is drawn with it
+    double width = 0; // of a stroke drawn with it
     bool isSquare = false;
 };
 
@@ -69,7 +69,7 @@ QPainterPath arcPath(QPointF start, QPointF end, QPointF centre, bool clockwise)
     QPointF const from = start - centre;
     QPointF const to = end - centre;
     double const radius = std::hypot(from.x(), from.y());
-    // Qt counts angles counter-clockwise against a y axis that points down; the board's points up.
+    // Qt counts angles counter-clockwise with a y axis that points down; the board's points up.
     double const startAngle = std::atan2(-from.y(), from.x()) * 180 / M_PI;
     double sweep = std::atan2(-to.y(), to.x()) * 180 / M_PI - startAngle;
     if (clockwise) {

@@ -13,37 +13,37 @@
 
 namespace Workbench {
 
-/// One feature as a picture, in micrometres with y upwards. A layer may hold a hundred thousand, so the pads
-/// of a symbol share its path, and a line is its two ends.
+/// How one feature is drawn, in micrometres with y upwards. A layer may hold a hundred thousand, so the pads
+/// of one symbol share their path, and a line is just its two ends.
 struct FeatureShape
 {
     enum class Kind : char
     {
-        Pad,  ///< `path` stands about the origin and is turned by `angle` and moved to `place`
-        Line, ///< from `place` to `end`, without a path
-        Path  ///< an arc or a surface: `path` as it lies on the board
+        Pad,  ///< `path` around the origin, to be turned by `angle` and moved to `place`
+        Line, ///< from `place` to `end`; no path
+        Path  ///< an arc or a surface: `path` in board coordinates
     };
     Kind kind = Kind::Path;
     bool positive = true;
-    bool filled = true;      ///< else the path or line is a stroke
-    bool squareEnds = false; ///< of a stroke; else they are round
-    bool mirrored = false;   ///< of a pad: about its upright axis, before it is turned
-    int feature = 0;         ///< the feature's index in its layer
+    bool filled = true;      ///< otherwise the path or line is stroked
+    bool squareEnds = false; ///< of a stroke; otherwise round
+    bool mirrored = false;   ///< of a pad: about its vertical axis, before it is turned
+    int feature = 0;         ///< index in its layer
     int unit = inchUnit;     ///< of the sizes in the feature's symbol name
     double penWidth = 0;     ///< of a stroke; 0: a hairline at every zoom
     double angle = 0;        ///< degrees clockwise
     QPointF place;
     QPointF end;
     QPainterPath path;
-    QRectF box; ///< of all that is painted
+    QRectF box; ///< of everything that is painted
 
-    /// The path or line where it lies on the board.
+    /// The path or line in board coordinates.
     QPainterPath outline() const;
 };
 
-/// Pictures of a layer's features, in order; `drawings` has an entry for each as well. A user-defined symbol
-/// is a cross of hairlines: what it looks like stands in files of its own. A line or arc is drawn with the
-/// smaller extent of its symbol, with square ends for squares and rectangles and else with round ones.
+/// Shapes of a layer's features, in order; `drawings` has one entry per feature. A user-defined symbol is
+/// drawn as a cross of hairlines, since its graphics are in separate files. Lines and arcs are as wide as the
+/// smaller extent of their symbol, with square ends for squares and rectangles and round ends otherwise.
 std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
                                         std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings);
 

@@ -8,18 +8,18 @@ namespace Workbench {
 
 namespace {
 
-constexpr double pointSize = 1.5;       // pixels up to which a shape is a point
-constexpr double hairline = 1;          // pixels up to which a stroke is a hairline
-constexpr double roundEndWidth = 3;     // pixels from which on the ends of a stroke can be told apart
-constexpr std::size_t lookAtClock = 64; // shapes
+constexpr double pointSize = 1.5;       // pixels; smaller shapes are points
+constexpr double hairline = 1;          // pixels; strokes up to this width are hairlines
+constexpr double roundEndWidth = 3;     // pixels; thinner strokes do not show the form of their ends
+constexpr std::size_t lookAtClock = 64; // shapes between two looks at the clock
 
-bool overlap(QRectF const & a, QRectF const & b) // also without an area
+bool overlap(QRectF const & a, QRectF const & b) // true for boxes without area, too
 {
     return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() && b.top() <= a.bottom();
 }
 
-// Collects points and hairlines, which the painter draws far faster together. In what order shapes of one
-// polarity are drawn cannot be seen, since they have one colour.
+// Collects points and hairlines, which the painter draws far faster in one call. The order of shapes with the
+// same polarity does not matter: they have one colour.
 class ShapePainter
 {
 public:

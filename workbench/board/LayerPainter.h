@@ -13,9 +13,9 @@
 namespace Workbench {
 
 /// Paints the shapes from index `from` on that touch `visible` (micrometres) in one colour onto a transparent
-/// picture; negative ones erase what is there. `boardToPicture` scales alike in both directions. What is
-/// smaller than a pixel or two becomes a point, a stroke that is thinner a hairline, so nothing vanishes at a
-/// small scale. Stops after the deadline; the result is where to go on, the number of shapes at the end.
+/// picture; negative ones erase. `boardToPicture` scales equally in both directions. Shapes below a pixel or
+/// two become points and thinner strokes hairlines, so that nothing vanishes at a small scale. Stops after
+/// the deadline. Returns the index to continue at, which is the number of shapes when all are done.
 std::size_t paintShapes(QPainter & painter, std::vector<FeatureShape> const & shapes,
                         QTransform const & boardToPicture, QRectF const & visible, QColor const & colour,
                         std::size_t from, QDeadlineTimer const & deadline);

@@ -27,7 +27,7 @@ QRectF LayerShapes::extent() const
     if (m_shapes.empty()) {
         return {};
     }
-    // Not QRectF::united(), which leaves out what has no area.
+    // Not QRectF::united(), which ignores boxes without area.
     double left = m_shapes.front().box.left();
     double top = m_shapes.front().box.top();
     double right = left;
@@ -43,7 +43,7 @@ QRectF LayerShapes::extent() const
 
 QColor layerColour(KVCAM::API::layer_info const & layer)
 {
-    // A number without small factors, so that copper layers with others between them differ all the same.
+    // The number of colours is prime, so that copper layers at regular distances still differ.
     static constexpr char const * copper[] = {"#b5582a", "#2563a8", "#8c4a86", "#3f7d20",
                                               "#b03060", "#0f7c80", "#8a6d1b"};
     static constexpr std::pair<char const *, char const *> colours[] = {

@@ -11,26 +11,26 @@
 
 namespace Workbench {
 
-/// What a layer of a step looks like, read from the engine once.
+/// The features of a layer in a step and their shapes, read from the engine once.
 class LayerShapes
 {
 public:
     enum class State
     {
         Read,
-        CutToTables, ///< the job holds features, but not in this copy
+        CutToTables, ///< the features exist, but not in this copy of the job
         Unreadable
     };
-    LayerShapes() = default; ///< of no layer, empty
+    LayerShapes() = default; ///< no layer, empty
     LayerShapes(std::string const & job, std::string const & step, KVCAM::API::layer_info info);
 
     KVCAM::API::layer_info const & info() const { return m_info; }
     State state() const { return m_state; }
     QColor colour() const;
     std::vector<KVCAM::API::feature_info> const & features() const { return m_features; }
-    /// One for each feature, in the same order.
+    /// One per feature, in the same order.
     std::vector<FeatureShape> const & shapes() const { return m_shapes; }
-    /// Of all that is painted, in micrometres; null without features.
+    /// Of everything that is painted, in micrometres; null without features.
     QRectF extent() const;
 
 private:
@@ -40,7 +40,7 @@ private:
     std::vector<FeatureShape> m_shapes;
 };
 
-/// The colour in which a layer is drawn: by its type, copper layers differing by their row.
+/// The colour of a layer: by type, and for copper by row.
 QColor layerColour(KVCAM::API::layer_info const & layer);
 
 } // namespace Workbench

@@ -6,12 +6,12 @@
 
 namespace Workbench {
 
-/// A family of standard symbols, as far as its names go.
+/// A family of standard symbols, as far as names are concerned.
 struct PadFamily
 {
     char const * prefix;
-    bool hasSecond;          ///< whether a second size follows the first
-    bool isConverted = true; ///< whether the library turns its names from one unit into the other
+    bool hasSecond;          ///< a second size follows the first
+    bool isConverted = true; ///< the library converts its names between units
 };
 
 /// A standard symbol's name, taken apart.
@@ -19,14 +19,14 @@ struct PadName
 {
     PadFamily const * family;
     QString first;
-    QString second; ///< empty for a family with one size, or when it is missing
-    QString rest;   ///< what follows, with its "x"
+    QString second; ///< empty for a family with one size, or when missing
+    QString rest;   ///< what follows, including its "x"
 };
 
-/// Nothing for a name that begins with no family and a size, or goes on as no standard name does.
+/// Nothing unless the name is that of a family, with a size and what may follow it.
 std::optional<PadName> parsePadName(QString const & name);
 
-/// Whether a text is a size as it stands in a symbol name: digits, with or without decimals, and no sign.
+/// Whether a text is a size as written in symbol names: digits, with or without decimals, without a sign.
 bool isSizeText(QString const & text);
 
 } // namespace Workbench

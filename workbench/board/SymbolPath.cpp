@@ -15,17 +15,17 @@ namespace Workbench {
 
 namespace {
 
-constexpr double mostSize = 1e9; // in a name, which may hold more digits than a number can
-constexpr int mostParts = 100;   // spokes of a thermal or rings of a moire; no real one comes near
+constexpr double mostSize = 1e9; // in a name, whose digits may exceed any number type
+constexpr int mostParts = 100;   // spokes of a thermal or rings of a moire; far beyond any real one
 
-// The sizes of a name in order, a plating letter as 0, and the corners that are cut.
+// The sizes in a name, in order and with a plating letter as 0, and the corners that are cut.
 struct Sizes
 {
     std::vector<double> values; // as in the name
-    double scale = 1;           // micrometres for each
+    double scale = 1;           // micrometres per unit of the values
     double corner = 0;          // micrometres
     bool isChamfered = false;
-    QString corners = "1234"; // which are cut, counter-clockwise from the right upper one
+    QString corners = "1234"; // counter-clockwise from the upper right one
 
     double operator[](std::size_t i) const { return values[i] * scale; }
     QSizeF size() const { return {(*this)[0], (*this)[1]}; }
@@ -90,7 +90,7 @@ QPainterPath oval(QSizeF size)
     return path;
 }
 
-// A rectangle, its corners cut as the name says.
+// A rectangle with its corners cut as the name says.
 QPainterPath box(QSizeF size, Sizes const & sizes)
 {
     QRectF const frame = centred(size);
@@ -103,9 +103,9 @@ QPainterPath box(QSizeF size, Sizes const & sizes)
     struct Corner
     {
         char digit;
-        double x; // which way it points
+        double x; // direction from the centre
         double y;
-        double angle; // where its arc begins, as Qt counts it in a frame whose y points upwards
+        double angle; // start of its arc as Qt counts, in a frame with y upwards
     };
     static constexpr Corner corners[] = {
         {'1', 1, 1, 0}, {'2', -1, 1, -90}, {'3', -1, -1, -180}, {'4', 1, -1, -270}};
@@ -114,7 +114,7 @@ QPainterPath box(QSizeF size, Sizes const & sizes)
         QPointF const tip(corner.x * size.width() / 2, corner.y * size.height() / 2);
         bool const isCut = sizes.corners.contains(corner.digit);
         QPointF const centre = tip - QPointF(corner.x, corner.y) * cut;
-        // Counter-clockwise: the first and the third corner are entered along their upright side.
+        // Counter-clockwise: the first and the third corner are entered along their vertical side.
         bool const isUpright = corner.x == corner.y;
         QPointF const enter(isUpright ? tip.x() : centre.x(), isUpright ? centre.y() : tip.y());
         QPointF const leave(isUpright ? centre.x() : tip.x(), isUpright ? tip.y() : centre.y());
@@ -130,7 +130,7 @@ QPainterPath box(QSizeF size, Sizes const & sizes)
     return path;
 }
 
-// Two opposite quarters of a shape: right above and left below.
+// Two opposite quarters of a shape: upper right and lower left.
 QPainterPath butterfly(QPainterPath const & whole)
 {
     QRectF const frame = whole.boundingRect();
@@ -140,7 +140,7 @@ QPainterPath butterfly(QPainterPath const & whole)
     return whole.intersected(quarters);
 }
 
-// A ring that is cut by gaps of a width at even angles. Whether the gaps' ends are round is not shown.
+// A ring cut by evenly spaced gaps of a given width. Round and square gap ends look the same here.
 QPainterPath withGaps(QPainterPath const & ring, double angle, double spokes, double gap)
 {
     double const reach = std::hypot(ring.boundingRect().width(), ring.boundingRect().height());
@@ -164,7 +164,7 @@ QPainterPath moire(Sizes const & sizes)
         double const inner = 2 * (i * (sizes[0] + sizes[1]) + sizes[1]);
         double const outer = inner + 2 * sizes[0];
         path.addPath(ellipse({outer, outer}));
-        path.addPath(ellipse({inner, inner}).toReversed()); // which leaves it open by the winding rule
+        path.addPath(ellipse({inner, inner}).toReversed()); // so that the winding rule leaves it open
     }
     QTransform const turned = QTransform().rotate(-sizes.values[5]);
     for (QSizeF const & line : {QSizeF(sizes[4], sizes[3]), QSizeF(sizes[3], sizes[4])}) {
@@ -201,8 +201,8 @@ QSizeF shrunk(QSizeF size, double by)
 
 using Shape = QPainterPath (*)(Sizes const & s);
 
-// A family: the text before its first size, how many sizes it has at least, its outer shape, and the hole in
-// it. Of a thermal the third to the fifth size are angle, number and width of the gaps.
+// A family: the text before its first size, its minimum number of sizes, its outer shape and its hole. The
+// third to fifth size of a thermal are the angle, number and width of its gaps.
 struct Family
 {
     char const * prefix;
@@ -218,7 +218,7 @@ constexpr Shape boxOuter = [](Sizes const & s) { return box(s.size(), s); };
 constexpr Shape ovalOuter = [](Sizes const & s) { return oval(s.size()); };
 constexpr Shape roundHole = [](Sizes const & s) { return ellipse(square(s[1])); };
 constexpr Shape squareHole = [](Sizes const & s) { return box(square(s[1]), {}); };
-constexpr Shape halfOval = [](Sizes const & s) { // the round end lies on the right
+constexpr Shape halfOval = [](Sizes const & s) { // the round end is on the right
     Sizes rounded = s;
     rounded.corner = std::min(s[0], s[1]) / 2;
     rounded.corners = "14";

@@ -7,9 +7,9 @@
 
 namespace Workbench {
 
-/// What a standard symbol looks like: an area in micrometres about the origin, y upwards, to be filled by its
-/// fill rule. `unit` says what the sizes in its name are in. Empty for a symbol without extent. Nothing for a
-/// user-defined symbol, or when the name lacks sizes that its family's shape needs.
+/// The outline of a standard symbol in micrometres around the origin, y upwards, to be filled by its fill
+/// rule. `unit` is that of the sizes in the name. Empty for a symbol without extent. Nothing for a
+/// user-defined symbol, or when the name lacks sizes that the shape needs.
 std::optional<QPainterPath> symbolPath(std::string const & name, int unit);
 
 } // namespace Workbench

@@ -7,8 +7,8 @@ namespace Workbench {
 
 namespace {
 
-constexpr double margin = 28;    // pixels around the board, room for the scale
-constexpr double mostScale = 10; // pixels for a micrometre
+constexpr double margin = 28;    // pixels around the board, with room for the scale bar
+constexpr double mostScale = 10; // pixels per micrometre
 constexpr double leastZoom = 0.125;
 
 bool isFinite(QPointF point)
@@ -108,7 +108,7 @@ QTransform ViewPort::boardToWidget() const
     return transform;
 }
 
-// Not by the inverted transform: Qt takes the scale of a very large board for none.
+// Not by the inverted transform: for a very large board Qt takes the scale for zero.
 QPointF ViewPort::toBoard(QPointF pixel) const
 {
     if (m_scale <= 0) {

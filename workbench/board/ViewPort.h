@@ -7,29 +7,29 @@
 
 namespace Workbench {
 
-/// Which part of a board a widget shows: board places are micrometres with y upwards, widget places pixels
-/// with y downwards. At home the whole extent is shown, and stays so when the widget or the extent changes;
-/// away from home the place in the middle and the scale stay.
+/// The part of a board that a widget shows. Board places are in micrometres with y upwards, widget places in
+/// pixels with y downwards. At home the whole extent is shown, also after the widget or the extent has
+/// changed; away from home the place in the middle and the scale are kept.
 class ViewPort
 {
 public:
     void setSize(QSizeF size);
     void setExtent(QRectF const & extent);
 
-    /// Shows a rectangle of the board whole; an empty one changes nothing.
+    /// Shows a whole rectangle of the board; an empty one is ignored.
     void show(QRectF const & box);
     void home();
     bool isHome() const { return m_isHome; }
-    /// Changes the scale by a factor; the place of the board at `pixel` stays there. The scale stays between
-    /// an eighth of home's and ten pixels for a micrometre; a factor that is no positive number is ignored.
+    /// Changes the scale by a factor and keeps the place at `pixel`. The scale stays between an eighth of
+    /// home's and ten pixels per micrometre. A factor that is not a positive number is ignored.
     void zoomAbout(QPointF pixel, double factor);
-    /// Moves the board below the widget by pixels.
+    /// Moves the board by widget pixels.
     void drag(QPointF pixels);
     void centreOn(QPointF place);
 
-    /// Pixels for a micrometre; 0 while there is nothing to show or no room to show it in.
+    /// Pixels per micrometre; 0 while there is nothing to show or no room for it.
     double scale() const { return m_scale; }
-    /// The scale over home's.
+    /// The scale relative to home's.
     double zoom() const;
     QTransform boardToWidget() const;
     QPointF toBoard(QPointF pixel) const;

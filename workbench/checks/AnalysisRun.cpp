@@ -35,7 +35,7 @@ RestResult unifiedItems(decltype(KVCAM::Embedded::CheckResults::rest) const & re
     return items;
 }
 
-// The same number, or both of them none.
+// Equal, or both not a number.
 bool isSame(double a, double b)
 {
     return a == b || (std::isnan(a) && std::isnan(b));
@@ -116,7 +116,7 @@ void AnalysisRun::noteUnchecked(KVCAM::Embedded::NotChecked const & entry)
     std::string const table = entry.table == "drill"    ? drillTable
                               : entry.table == "signal" ? signalTable
                                                         : Ext::unifiedTable;
-    std::string name; // left to the report when the note is about every layer
+    std::string name; // empty for a note on all layers: the report names it
     if (entry.item < 0) {
         name = entry.layer;
     } else if (!entry.layer.empty()) {
@@ -200,7 +200,7 @@ Ext::Result AnalysisRun::writeSummary(QString const & path) const
     Unified_AnalysisResult::instance()->jsonoutput(text);
     auto const size = static_cast<qint64>(text.size());
     QSaveFile file(path);
-    file.setDirectWriteFallback(true); // for a directory that takes no new file
+    file.setDirectWriteFallback(true); // for a directory without write access
     bool const isWritten = file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size &&
                            file.flush() && file.commit();
     if (!isWritten) {
@@ -214,9 +214,10 @@ Ext::Result AnalysisRun::writeReport(QString const & path) const
 {
     auto const format = reportFormat(path);
     if (!format) {
-        return {false, QCoreApplication::translate("Workbench", "The name of a report ends in .json or .csv, "
-                                                                "not as that of \"%1\" does.")
-                           .arg(path)};
+        return {false,
+                QCoreApplication::translate(
+                    "Workbench", "The name of a report must end in .json or .csv; that of \"%1\" does not.")
+                    .arg(path)};
     }
     return Ext::writeReport(m_report, *format, path);
 }

@@ -15,7 +15,7 @@
 
 namespace Workbench {
 
-/// The tables and the number that the workbench itself looks at.
+/// The range tables, and the number of the track check, that the workbench itself uses.
 inline constexpr char const * drillTable = "DrillRanges";
 inline constexpr char const * signalTable = "SignalLayerRanges";
 inline constexpr int linesNumber = 46;
@@ -28,45 +28,45 @@ struct LayerWidth
     KVCAM::UIAPI::Ext::Severity severity = KVCAM::UIAPI::Ext::Severity::None;
 };
 
-/// The engine's checks on a step of the session's job: run, filed in the library's unified result, and as a
-/// report that is graded by the levels of the library. Levels are in mil.
+/// The engine's checks on a step of the session's job. The results are filed in the library's unified result,
+/// and in a report graded by the library's levels. Levels are in mil.
 class AnalysisRun
 {
 public:
     enum class Outcome
     {
         Done,
-        Cancelled, ///< by the progress
-        Failed     ///< error() says why
+        Cancelled, ///< by the progress callback
+        Failed     ///< see error()
     };
 
     /// The session outlives the run.
     explicit AnalysisRun(Session const & session);
 
-    /// Measures a step and files the replies. A run that was not done leaves the results of the one before.
+    /// Checks a step and files the results. Unless done, the previous results stay.
     Outcome run(std::string const & step, KVCAM::Embedded::CheckProgress const & progress = {});
-    /// Why the latest run failed, on one line; empty when it did not.
+    /// Why the latest run failed, on one line; empty if it did not.
     QString const & error() const { return m_error; }
 
     bool hasResult() const { return m_hasResult; }
-    /// Valid until the next run; the categories stay in place when levels change.
+    /// Valid until the next run; categories keep their place when levels change.
     KVCAM::UIAPI::Ext::AnalysisReport const & report() const { return m_report; }
-    /// The copper layers that were measured, by their row.
+    /// The copper layers measured, by row.
     std::vector<LayerWidth> trackWidths() const;
-    /// Where a layer stands in the matrix; behind all others for one that it does not have.
+    /// The row of a layer in the matrix; a layer that the job does not have comes last.
     int rowOf(std::string const & layer) const;
 
-    /// Whether the library has levels for one of the measured categories.
+    /// Whether the library has levels for any of the measured categories.
     bool hasLevels() const;
-    /// Sets a level ("RedLv", "YellowLv" or "GreenLv") in the library and grades the table again.
+    /// Sets a level ("RedLv", "YellowLv" or "GreenLv") in the library and regrades the table.
     void changeLevel(std::string const & table, std::string const & category, char const * level, double mil);
-    /// Whether a level of the table was changed and is not in its file.
+    /// Whether the table has changed levels that are not in its file.
     bool isUnsaved(std::string const & table) const;
     KVCAM::UIAPI::Ext::Result saveLevels(std::string const & table);
 
-    /// Writes the library's summary of the board as it is; the file is replaced whole.
+    /// Writes the library's summary of the board unchanged; the file is replaced as a whole.
     KVCAM::UIAPI::Ext::Result writeSummary(QString const & path) const;
-    /// Writes the report in the format that the file's name asks for.
+    /// Writes the report in the format given by the file's name.
     KVCAM::UIAPI::Ext::Result writeReport(QString const & path) const;
 
 private:
@@ -79,12 +79,12 @@ private:
     Session const & m_session;
     KVCAM::UIAPI::Ext::AnalysisReport m_report;
     std::vector<std::string> m_copper;      ///< by row
-    std::map<std::string, Records> m_saved; ///< the levels of each table as its file holds them
+    std::map<std::string, Records> m_saved; ///< by table, as in its file
     QString m_error;
     bool m_hasResult = false;
 };
 
-/// The facts of a run: counts by severity, track widths, how much was not checked. Empty without a result.
+/// The facts of a run: counts by severity, track widths, number of unchecked items. Empty without a result.
 QJsonObject toJson(AnalysisRun const & run);
 
 } // namespace Workbench

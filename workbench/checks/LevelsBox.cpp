@@ -39,7 +39,7 @@ LevelsBox::LevelsBox(AnalysisRun & run, BoardView & view, std::function<void()> 
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
-// A field keeps to the view that it was made with, so another view takes new fields.
+// A field keeps the view it was made with, so another view needs new fields.
 void LevelsBox::makeEditor()
 {
     delete m_editor;
@@ -87,7 +87,7 @@ QString LevelsBox::hint() const
     if (!m_category->levels) {
         sentences.append(tr("The range files have no levels for this check: it is shown without colour."));
     } else if (!isGrading(*m_category->levels)) {
-        sentences.append(tr("These levels contradict each other: they colour nothing."));
+        sentences.append(tr("These levels contradict each other and grade nothing."));
     }
     if (m_save->isEnabled()) {
         sentences.append(tr("Not saved: levels of %1 were changed.").arg(table));

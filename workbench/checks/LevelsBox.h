@@ -17,7 +17,7 @@ class AnalysisRun;
 class BoardView;
 class LevelsEditor;
 
-/// The levels of the selected check, to be edited and saved, with a hint on what they are worth.
+/// The levels of the selected check, which can be edited and saved, with a hint on their state.
 class LevelsBox : public QGroupBox
 {
     Q_DECLARE_TR_FUNCTIONS(Workbench::ResultsPage)

@@ -31,7 +31,7 @@ constexpr std::array<Level, 3> levels = {{
      &Analysis_Ranges_Record::greenLv},
 }};
 
-// Without the last digits, which the way through another unit leaves behind: 76.2 micrometres are 3 mil.
+// Drops the noise digits of a conversion: 76.2 micrometres are 3 mil.
 double withoutNoise(double mil)
 {
     return QString::number(mil, 'g', 12).toDouble();
@@ -49,8 +49,8 @@ LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent), 
         QPalette colours = field.title->palette();
         colours.setColor(QPalette::WindowText, colourOf(levels[i].severity));
         field.title->setPalette(colours);
-        // The parent that a field is made with is the view whose unit it shows; the layout gives it its
-        // place.
+        // The view is the parent on construction, which decides the unit. The layout sets another parent
+        // later.
         field.edit = new KVLineEdit(RegNumber, &view);
         field.edit->setObjectName(levels[i].name);
         field.edit->setFollowView(true);
@@ -85,7 +85,7 @@ void LevelsEditor::show(std::optional<Analysis_Ranges_Record> const & record)
     }
 }
 
-// A text that says the same already is left as it was typed.
+// A text with the same value stays as typed.
 void LevelsEditor::showLevel(Field & field)
 {
     if (field.edit->text().isEmpty() || withoutNoise(field.edit->exactValue(0)) != field.shown) {
@@ -97,7 +97,7 @@ void LevelsEditor::takeLevel(std::size_t number)
 {
     Field & field = m_fields[number];
     double const typed = withoutNoise(field.edit->exactValue(0));
-    // Five decimals are shown: a level that has more is not to be changed by looking at it.
+    // Five decimals are shown. A level with more must not change by being looked at.
     bool const isShown = field.edit->text() == smallUnitText(&m_view, field.shown);
     if (!field.edit->isEnabled() || isShown || typed == field.shown) {
         return;

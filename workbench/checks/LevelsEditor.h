@@ -11,22 +11,22 @@ class QLabel;
 
 namespace Workbench {
 
-/// The three levels of a category, to be edited in the unit of a view. What is typed in one unit keeps its
-/// digits when the view changes to the other and back.
+/// Edits the three levels of a category in the unit of a view. What is typed in one unit keeps its digits
+/// when the view changes to the other and back.
 class LevelsEditor : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `view` is the handle whose unit counts; a view's handle is its widget.
+    /// `view` is the widget that serves as the handle of the view.
     explicit LevelsEditor(QWidget & view, QWidget * parent = nullptr);
 
-    /// Shows the levels, in mil; without any the fields are empty and take nothing.
+    /// Shows the levels in mil. Without levels the fields are empty and disabled.
     void show(std::optional<KVCAM::UIAPI::Analysis_Ranges_Record> const & levels);
     using QWidget::show;
 
 signals:
-    /// The user has entered another level. `level` is its name: "RedLv".
+    /// The user has changed a level, such as "RedLv".
     void levelEdited(char const * level, double mil);
 
 private:
@@ -45,7 +45,7 @@ private:
     std::array<Field, 3> m_fields;
 };
 
-/// Whether the levels grade anything: finite and in one order or the other.
+/// Whether the levels can grade: all finite, and rising or falling.
 bool isGrading(KVCAM::UIAPI::Analysis_Ranges_Record const & levels);
 
 } // namespace Workbench

@@ -7,7 +7,7 @@
 
 namespace Workbench {
 
-/// A length in mil as text in a view's small unit, without trailing zeros; "–" for what is not finite.
+/// A length in mil as text in a view's small unit, without trailing zeros; "–" if not finite.
 QString smallUnitText(void const * view, double mil, int decimals = 5);
 /// A measured value in micrometres as text in a view's small unit, rounded to two decimals.
 QString measuredText(void const * view, double micrometres);

@@ -8,15 +8,15 @@ namespace Workbench {
 
 class ResultsPage;
 
-/// What became of the files that hold the results of the checks.
+/// The outcome of writing the results of the checks.
 struct WrittenResults
 {
-    QStringList files;  ///< that were written
-    QStringList errors; ///< in sentences
+    QStringList files;  ///< that have been written
+    QStringList errors; ///< as sentences
 };
 
-/// Runs the checks of a page on its step and writes the summary and the reports that the command line asks
-/// for. The page may be deleted meanwhile, which stops the checks.
+/// Runs the checks of a page on its step, and writes the summary and the reports requested on the command
+/// line. If the page is deleted meanwhile, the checks stop.
 WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine);
 
 } // namespace Workbench

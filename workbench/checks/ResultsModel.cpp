@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <numeric>
 
-// An index tells by its id what it is: 0 a category; 1 to n a layer of the category of that number; above n a
-// measurement of the group of the number beyond n.
+// The id of an index tells its kind. With n categories: 0 is a category, 1 to n is a layer of category id -
+// 1, and above that a measurement of group id - n - 1.
 
 namespace Workbench {
 
@@ -34,7 +34,7 @@ QString levelsText(void const * view, Analysis_Ranges_Record const & levels)
              smallUnitText(view, levels.greenLv));
 }
 
-// The severity that a column counts; None for the others.
+// The severity that a column counts, None for other columns.
 Ext::Severity severityOf(int column)
 {
     switch (column) {
@@ -79,7 +79,7 @@ void ResultsModel::reload()
     endResetModel();
 }
 
-// Of one run the entries of a layer stand together.
+// Within one run the entries of a layer are adjacent.
 void ResultsModel::addGroups(std::size_t category)
 {
     auto const & entries = m_run.report().categories()[category].entries;
@@ -122,18 +122,18 @@ void ResultsModel::setView(void const * view)
 void ResultsModel::refreshTexts()
 {
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-    auto const tellAll = [this](QModelIndex const & parent) {
+    auto const announceRows = [this](QModelIndex const & parent) {
         int const rows = rowCount(parent);
         if (rows > 0) {
             emit dataChanged(index(0, 0, parent), index(rows - 1, ColumnCount - 1, parent));
         }
     };
-    tellAll({});
+    announceRows({});
     for (int category = 0; category < rowCount(); ++category) {
         QModelIndex const parent = index(category, 0);
-        tellAll(parent);
+        announceRows(parent);
         for (int layer = 0; layer < rowCount(parent); ++layer) {
-            tellAll(index(layer, 0, parent));
+            announceRows(index(layer, 0, parent));
         }
     }
 }
@@ -365,11 +365,11 @@ QVariant ResultsModel::headerData(int section, Qt::Orientation orientation, int 
     if (role == Qt::ToolTipRole) {
         switch (section) {
         case Severity:
-            return tr("Of a check or layer the worst");
+            return tr("For a check or layer, the worst");
         case Measured:
-            return tr("Measured in whole micrometres; of a check or layer the smallest");
+            return tr("Measured in whole micrometres; for a check or layer, the smallest");
         case Limit:
-            return tr("The level that gave the colour; of a check its levels red / yellow / green");
+            return tr("The level that gave the colour; for a check, its levels red / yellow / green");
         default:
             return severityOf(section) == Ext::Severity::None ? QVariant()
                                                               : QVariant(wordOf(severityOf(section)));

@@ -10,8 +10,8 @@
 
 namespace Workbench {
 
-/// The measurements of a run as a tree: categories, their layers by row, the measurements of each in the
-/// engine's order. Nothing is made for a measurement: its texts are put together when they are shown.
+/// The measurements of a run as a tree: categories, their layers by row, and the measurements in the engine's
+/// order. Measurements have no items of their own: their texts are made when shown.
 class ResultsModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
         Position,
         ColumnCount
     };
-    /// What a row stands for; null where it has none.
+    /// What a row stands for; null where it has no such part.
     struct Row
     {
         KVCAM::UIAPI::Ext::ReportCategory const * category = nullptr;
@@ -41,13 +41,13 @@ public:
     /// The run outlives the model, which shows its report from the first reload() on.
     explicit ResultsModel(AnalysisRun const & run, QObject * parent = nullptr);
 
-    /// Shows the report of a new run. Nothing may be asked between the run and this.
+    /// Shows the report of a new run. The model must not be used between the run and this call.
     void reload();
-    /// Shows the severities anew.
+    /// Updates the severities.
     void regrade();
     /// Shows lengths in the unit of a view.
     void setView(void const * view);
-    /// Shows all texts anew: the language, or the unit of the view, has changed.
+    /// Updates all texts after a change of the language or of the view's unit.
     void refreshTexts();
 
     Row at(QModelIndex const & index) const;
@@ -62,7 +62,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    // A layer of a category: the measurements [begin, end) of it.
+    // A layer of a category: its measurements [begin, end).
     struct Group
     {
         std::size_t category = 0;
@@ -88,7 +88,7 @@ private:
     AnalysisRun const & m_run;
     void const * m_view = nullptr;
     std::vector<Group> m_groups;       // by category
-    std::vector<std::size_t> m_firsts; // the first group of each category, and the end
+    std::vector<std::size_t> m_firsts; // the first group of each category, then the end
 };
 
 } // namespace Workbench

@@ -99,7 +99,7 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
 QWidget * ResultsPage::makeTree()
 {
     m_tree = new QTreeView;
-    m_tree->setUniformRowHeights(true); // or each of 100,000 rows would be measured
+    m_tree->setUniformRowHeights(true); // otherwise each of 100,000 rows would be measured
     m_tree->setAlternatingRowColors(true);
     m_tree->setModel(m_model);
     m_tree->header()->setStretchLastSection(true);
@@ -180,7 +180,7 @@ void ResultsPage::fitColumns()
 
 bool ResultsPage::runChecks()
 {
-    // Without a parent, which would delete the dialog while it handles events in setValue().
+    // No parent: it could delete the dialog while the dialog handles events in setValue().
     KVProgressDialog progress;
     progress.winId(); // creates the handle
     progress.windowHandle()->setTransientParent(window()->windowHandle());
@@ -189,7 +189,7 @@ bool ResultsPage::runChecks()
     progress.setCancelButtonText(tr("Stop"));
     progress.setWindowModality(Qt::ApplicationModal);
     QPointer<ResultsPage> const alive(this);
-    std::shared_ptr<AnalysisRun> const run = m_run; // goes on to its end even without the page
+    std::shared_ptr<AnalysisRun> const run = m_run; // finishes even without the page
     AnalysisRun::Outcome const outcome = run->run(m_view->step(), [&](int done, int total) {
         progress.setMaximum(total);
         progress.setValue(done);
@@ -217,7 +217,7 @@ bool ResultsPage::showCheck(std::string const & table, int number)
     }
     QModelIndex worst = category;
     for (int layer = 0; layer < m_model->rowCount(category); ++layer) {
-        // Within a layer the engine's order ascends by what was measured: the first one is the smallest.
+        // The engine sorts the measurements of a layer, so the first is the smallest.
         QModelIndex const first = m_model->index(0, 0, m_model->index(layer, 0, category));
         Ext::ReportEntry const * found = m_model->at(worst).entry;
         auto const measured = m_model->at(first).entry->micrometres;
@@ -254,7 +254,8 @@ void ResultsPage::refresh()
     m_empty->setText(
         m_run->hasResult()
             ? tr("There was nothing to check in step %1.").arg(QString::fromStdString(m_run->report().step()))
-            : tr("The checks were not run yet. They measure step %1, which the board page shows.").arg(step));
+            : tr("The checks have not been run yet. They measure step %1, the one on the board page.")
+                  .arg(step));
     m_counts->setText(m_run->hasResult() ? countsText() : QString());
     QString note;
     if (m_outcome == AnalysisRun::Outcome::Failed) {

@@ -23,9 +23,9 @@ class LevelsBox;
 class ResultsModel;
 class TrackWidthChart;
 
-/// What the engine's checks found on a step, by check and layer, coloured by the levels; the levels
+/// The results of the engine's checks on a step, by check and layer, coloured by the levels; the levels
 /// themselves, the narrowest track of each layer, and what was not checked. Lengths are in the unit of the
-/// shown step's view.
+/// step's view.
 class ResultsPage : public QWidget
 {
     Q_OBJECT
@@ -35,18 +35,18 @@ public:
     ResultsPage(Session const & session, BoardView & view, QWidget * parent = nullptr);
 
     AnalysisRun const & run() const { return *m_run; }
-    /// Takes the step to be checked next and the unit from another view.
+    /// Takes the next step to check and the unit from another view.
     void setView(BoardView & view);
-    /// Checks the shown step behind a progress dialog, which may be cancelled. False when there are no new
-    /// results; the page says why, unless it was deleted meanwhile.
+    /// Checks the step with a progress dialog, which can be cancelled. False when there are no new results;
+    /// the page says why, unless it was deleted meanwhile.
     bool runChecks();
-    /// Selects the worst measurement of a check, or else the check. False for one without a row.
+    /// Selects the worst measurement of a check, or the check if it has none. False if it has no row.
     bool showCheck(std::string const & table, int number);
 
 signals:
-    /// A measurement is selected: its place, where it has one.
+    /// A measurement with a place was selected.
     void measurementSelected(QString step, QString layer, Workbench::Mark mark);
-    /// The board with the mark is to be shown.
+    /// The user wants to see the board with the mark.
     void boardWanted();
 
 private:
@@ -66,7 +66,7 @@ private:
     BoardView * m_view;
     ResultsModel * m_model;
     QTreeView * m_tree = nullptr;
-    QStackedWidget * m_stack = nullptr; ///< the tree, or why there is none
+    QStackedWidget * m_stack = nullptr; ///< the tree, or a text that says why it is empty
     QLabel * m_empty = nullptr;
     QLabel * m_counts = nullptr;
     QLabel * m_note = nullptr;

@@ -18,8 +18,8 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-constexpr int gap = 6;       // pixels between a text and what it belongs to
-constexpr int mostTicks = 6; // of the axis
+constexpr int gap = 6;       // pixels around texts
+constexpr int mostTicks = 6; // on the axis
 
 // A round number that divides a length into at most `mostTicks` parts.
 double tickStep(double length)
@@ -46,7 +46,7 @@ void TrackWidthChart::setWidths(std::vector<LayerWidth> widths, std::optional<An
 {
     m_widths = std::move(widths);
     m_levels = std::move(levels);
-    QStringList texts; // a screen reader sees no picture
+    QStringList texts; // for screen readers
     for (std::size_t i = 0; i < m_widths.size(); ++i) {
         texts.append(barText(i));
     }
@@ -107,7 +107,7 @@ int TrackWidthChart::rowHeight() const
     return fontMetrics().height() + gap;
 }
 
-// Where the bars are: below the letters of the levels, above the axis, between the names and the values.
+// The area of the bars: below the letters of the levels, above the axis, between names and values.
 QRectF TrackWidthChart::plot() const
 {
     int names = 0;
@@ -137,7 +137,7 @@ std::vector<TrackWidthChart::Level> TrackWidthChart::levels() const
     return shown;
 }
 
-// The end of the axis, in mil. A level far beyond all tracks is left out rather than to flatten the bars.
+// The end of the axis in mil. A level far beyond all tracks is left out, since it would flatten the bars.
 double TrackWidthChart::longest() const
 {
     double bars = 0;
@@ -174,7 +174,7 @@ void TrackWidthChart::paintEvent(QPaintEvent * /*event*/)
 
 void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
 {
-    double const perMil = getUnitJudgeDouble(m_view, 1.0); // of the unit that is shown
+    double const perMil = getUnitJudgeDouble(m_view, 1.0); // of the unit shown
     double const end = longest() * perMil;
     double const step = tickStep(end);
     QRectF const foot(plot.left(), plot.bottom() + gap, plot.width(), rowHeight());
@@ -193,7 +193,7 @@ void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
 
 void TrackWidthChart::paintLevels(QPainter & painter, QRectF const & plot) const
 {
-    double free = 0; // where the next letter may stand
+    double free = 0; // where the next letter fits
     for (Level const & level : levels()) {
         double const x = place(plot, level.mil);
         if (x > plot.right()) {

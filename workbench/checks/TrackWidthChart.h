@@ -9,8 +9,8 @@
 
 namespace Workbench {
 
-/// The narrowest track of each layer as a bar, with the levels as lines. Lengths are in the unit of a view.
-/// Each bar carries the sign of its severity beside the colour.
+/// A bar chart of the narrowest track of each layer, with the levels as lines. Lengths are in the unit of a
+/// view. Each bar shows the sign of its severity as well as the colour.
 class TrackWidthChart : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     void setWidths(std::vector<LayerWidth> widths,
                    std::optional<KVCAM::UIAPI::Analysis_Ranges_Record> levels);
     void setView(void const * view);
-    /// What a bar says: "top: 4.02 mil (✖ R)". Empty for a number that is none.
+    /// The text of a bar: "top: 4.02 mil (red)". Empty for an invalid index.
     QString barText(std::size_t bar) const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {160, sizeHint().height()}; }

@@ -45,7 +45,7 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     m_opened = content();
 }
 
-// The base hides the dialog once more, and a field that loses the focus then must have no effect.
+// The base class hides the dialog again. A field that loses the focus then must have no effect.
 FeatureDialog::~FeatureDialog()
 {
     m_remarks->note().disconnect(this);
@@ -54,12 +54,12 @@ FeatureDialog::~FeatureDialog()
 
 QWidget * FeatureDialog::makeButtons()
 {
-    // Return finishes a field and presses no button, so none of them is a default.
+    // Return finishes a field and must not press a button, so none is a default button.
     auto * buttons = new QDialogButtonBox;
     auto * unit = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     auto * save = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     auto * close = buttons->addButton(QDialogButtonBox::Close);
-    setTextsNowAndLater(*close, [unit, save, close] { // after Qt has set its own
+    setTextsNowAndLater(*close, [unit, save, close] { // after Qt has set its own texts
         unit->setText(tr("Switch unit"));
         save->setText(tr("Save form"));
         close->setText(tr("Close"));
@@ -135,7 +135,7 @@ QJsonObject FeatureDialog::content() const
     return content;
 }
 
-// A pad that was only looked at leaves no form behind, whose unit would come back with it another time.
+// A pad that was only looked at leaves no form behind: restoring it would bring back its unit.
 void FeatureDialog::done(int result)
 {
     m_pad->settle();

@@ -13,7 +13,7 @@ class BoardView;
 class PadGroup;
 class RemarksGroup;
 
-/// One pad of a view, and the user's remarks on it. Nothing is written to the job; the form is saved in a
+/// One pad of a view, with the user's remarks on it. Nothing is written to the job; the form is saved in a
 /// file.
 class FeatureDialog : public QDialog
 {
@@ -53,7 +53,7 @@ private:
     QLabel * m_heading;
     PadGroup * m_pad;
     RemarksGroup * m_remarks;
-    QJsonObject m_opened; ///< what content() was before the user did anything
+    QJsonObject m_opened; ///< content() as it was before the user did anything
     bool m_isRestored = false;
 };
 

@@ -7,8 +7,8 @@
 
 namespace Workbench {
 
-/// A form between two runs. The texts of a form are in the unit that was shown, so the unit is kept beside
-/// them; `extra` holds what the library's form functions do not know, for example a note.
+/// A form as saved between runs. Its texts are in the unit that was shown, which is saved with them. `extra`
+/// holds what the library's form functions do not handle, such as a note.
 struct SavedForm
 {
     int unit = inchUnit;
@@ -16,12 +16,13 @@ struct SavedForm
     QJsonObject extra;
 };
 
-/// Whether a value of such a file is a unit. Any other number would be a factor on the sizes.
+/// Whether a value in such a file is a unit. With any other number sizes would be scaled once more.
 bool isUnit(QJsonValue const & value);
 
-/// Reads the form saved for a pad in a file. False when there is none or it is not such a file.
+/// Reads a pad's form from a file. False if there is none, or if it is not such a file.
 bool readForm(QString const & path, QString const & pad, SavedForm & form);
-/// Writes it beside the forms of other pads, the file whole or not at all. False when it cannot be written.
+/// Writes it to a file that holds the forms of other pads as well. The file is replaced as a whole. False
+/// when it cannot be written.
 bool writeForm(QString const & path, QString const & pad, SavedForm const & form);
 
 } // namespace Workbench

@@ -62,7 +62,7 @@ PadGroup::PadGroup(BoardView & view, int feature, std::string job)
 
 void PadGroup::makeFields()
 {
-    // A field's parent at its making is the view whose unit it has; the layout gives it another one.
+    // The view is the parent on construction, which decides the unit. The layout sets another parent later.
     m_name = new KVLineEdit(RegSymbolName, &m_view);
     auto const judged = [this] { showVerdict(); };
     m_width =
@@ -114,7 +114,7 @@ void PadGroup::makeLayout()
     });
 }
 
-// The label's attributes hold its title, untranslated, and the scale of its unit, for showTitles().
+// The label's attributes hold its untranslated title and the scale of its unit for showTitles().
 void PadGroup::addRow(QFormLayout & form, QString title, QString scale, QWidget * field)
 {
     auto * label = new KVLabel;
@@ -131,8 +131,8 @@ void PadGroup::followView()
     m_offset->setFollowView(true);
     connect(m_name, &QLineEdit::textChanged, this, &PadGroup::symbolEdited);
     connect(m_offset, &QLineEdit::textChanged, this, &PadGroup::offsetEdited);
-    // After the fields that follow by themselves. A size does not: the text of a calculation has no other
-    // unit.
+    // Connected after the fields that follow by themselves. Sizes do not, since a calculation has no
+    // conversion.
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
             [this](void const * view, Ext::ViewAspects aspects) {
                 if (view == m_view.handle() && aspects.testFlag(Ext::ViewAspect::Unit)) {
@@ -151,7 +151,7 @@ void PadGroup::letGo()
     }
 }
 
-// While the unit changes, the fields rewrite their texts; that is no edit.
+// True while fields rewrite their texts for another unit, which is not an edit.
 bool PadGroup::isFollowing() const
 {
     return m_isFilling || getUnit(m_view.handle()) != m_shownUnit;
@@ -165,7 +165,7 @@ void PadGroup::fillFromPad()
     if (pad == features.end()) {
         return;
     }
-    // One layer may use the same name in both units, so the feature itself is asked.
+    // A layer may use the same name in both units, so the feature itself decides.
     auto const position = static_cast<std::size_t>(pad - features.begin());
     auto const & shapes = m_view.shapes();
     int const unit = position < shapes.size() ? shapes[position].unit : 0;
@@ -173,10 +173,9 @@ void PadGroup::fillFromPad()
     m_polarity->setCurrentIndex(pad->positive ? 0 : 1);
 }
 
-// Shows the symbol and its sizes in the view's unit. The symbol field follows a switch by itself; the dialog
-// knows besides in which unit each text was typed or stored, and converts from there: a symbol field alone
-// converts by the same factor in both directions, and a number that was stored in the other unit has been
-// rounded for the field. A text that stays is not set, since that would end the field's undo history.
+// Shows the symbol and its sizes in the view's unit. The symbol field follows a switch by itself, but it
+// converts with one factor in both directions and has rounded numbers stored in the other unit. The group
+// knows the unit in which each text was typed or stored, and converts from there.
 void PadGroup::showSymbol()
 {
     m_isFilling = true;
@@ -218,8 +217,8 @@ void PadGroup::finishSize(std::optional<QString> const & size, void (PadSymbol::
     showSymbol();
 }
 
-// For a form that is closed, saved or shown in the other unit while a size is being typed. What was typed
-// counts in the unit that was shown.
+// For a form that is closed, saved or switched to the other unit while a size is being typed. The text counts
+// in the unit that was shown.
 void PadGroup::settleSizes()
 {
     if (auto const width = m_width->typedSize(m_shownUnit)) {
@@ -232,7 +231,7 @@ void PadGroup::settleSizes()
 
 void PadGroup::refreshUnit()
 {
-    settleSizes(); // in the unit that was shown so far
+    settleSizes(); // in the unit shown so far
     m_shownUnit = getUnit(m_view.handle());
     showSymbol();
     showTitles();
@@ -327,17 +326,17 @@ bool PadGroup::restore(SavedForm const & form)
     if (!symbol || !isUnit(offset["unit"])) {
         return false;
     }
-    setUnit(m_view.handle(), form.unit); // first, since the texts are in that unit
-    m_isFilling = true;                  // the saved texts agree with each other
+    setUnit(m_view.handle(), form.unit); // first: the texts are in that unit
+    m_isFilling = true;                  // the saved texts are consistent
     QList<QObject *> restored = fields();
     writeJsonToList(form.fields, restored);
     m_isFilling = false;
     m_symbol = *symbol;
-    // The field keeps what was typed in the unit of its typing, so it is typed there once more.
+    // The field keeps its text in the unit of typing, so it is entered in that unit again.
     setUnit(m_view.handle(), offset["unit"].toInt());
     m_offset->setText(offset["text"].toString());
     setUnit(m_view.handle(), form.unit);
-    if (form.extra["negative"].isBool()) { // forms of earlier versions hold the text alone
+    if (form.extra["negative"].isBool()) { // earlier versions saved the text only
         m_polarity->setCurrentIndex(form.extra["negative"].toBool() ? 1 : 0);
     }
     m_name->setCursorPosition(0);

@@ -13,14 +13,14 @@ namespace Workbench {
 
 namespace {
 
-// A name whose sizes can be shown and set: they are turned into the other unit together with the name.
+// A name whose sizes can be shown and set, since the library converts the whole name.
 std::optional<PadName> sizedName(QString const & name)
 {
     auto parts = parsePadName(name);
     return parts && parts->family->isConverted ? parts : std::nullopt;
 }
 
-// The library converts names, and a length is the size of a round.
+// The library converts names only; a length is converted as the size of a round.
 QString converted(QString name, int from, int to)
 {
     if (from != to) {
@@ -38,7 +38,7 @@ QString PadSize::in(int otherUnit) const
 
 qint64 PadSize::nanometres() const
 {
-    // A rounding that does not fit is undefined; this is the last double below 2^63.
+    // Rounding a value that does not fit is undefined; this is the last double below 2^63.
     constexpr double most = 9223372036854774784.0;
     return std::llround(std::min(text.toDouble() * nanometresPer(unit), most));
 }
@@ -64,7 +64,7 @@ bool PadSymbol::hasHeight() const
 
 QString PadSymbol::in(int otherUnit) const
 {
-    // A name of the user's own may look as if it had sizes.
+    // A user-defined name may only look as if it had sizes.
     return hasWidth() ? withSizes(converted(m_name, m_unit, otherUnit), otherUnit) : m_name;
 }
 

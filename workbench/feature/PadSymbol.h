@@ -9,21 +9,20 @@
 
 namespace Workbench {
 
-/// A length as it was typed or stored, in the small unit of a code.
+/// A length as typed or stored, in the small unit of a code.
 struct PadSize
 {
     QString text;
     int unit = inchUnit;
 
-    /// The text in a unit, six significant digits where it has to be converted.
+    /// The text in a unit; six significant digits if converted.
     QString in(int otherUnit) const;
-    /// To the nearest; saturates at the ends of qint64.
+    /// Rounded to nearest, saturating at the ends of qint64.
     qint64 nanometres() const;
 };
 
-/// A pad's symbol: its name as it was typed or stored, and its first two sizes, each with the unit it was
-/// typed in. Asking for a unit converts what was typed, never what was converted before, so that no digit
-/// is lost by switching.
+/// A pad's symbol: its name as typed or stored, and its first two sizes, each with the unit it was typed in.
+/// A conversion always starts from what was typed, so switching units loses no digit.
 class PadSymbol
 {
 public:
@@ -32,13 +31,13 @@ public:
 
     QString const & name() const { return m_name; }
     int unit() const { return m_unit; }
-    /// Whether the name is of a standard family whose sizes the library turns from one unit into the other.
+    /// Whether the name belongs to a standard family whose sizes the library converts.
     bool hasWidth() const;
-    /// False for a family with one size, too.
+    /// False for a family with one size as well.
     bool hasHeight() const;
     /// Empty without hasWidth().
     PadSize const & width() const { return m_width; }
-    /// Empty when the name does not have it, or not yet.
+    /// Empty when the name has none, or not yet.
     PadSize const & height() const { return m_height; }
     QString in(int otherUnit) const;
 
@@ -46,7 +45,7 @@ public:
     void setHeight(PadSize const & size);
 
     QJsonObject toJson() const;
-    /// Nothing when the text of a size is no size or a unit is neither 0 nor 1.
+    /// Nothing when a size is not a size or a unit not a unit.
     static std::optional<PadSymbol> fromJson(QJsonObject const & json);
 
 private:

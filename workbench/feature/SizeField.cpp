@@ -17,14 +17,14 @@ namespace {
 constexpr double smallestMil = 0.5;
 constexpr double largestMil = 1000;
 
-// 0/0 lies in every range; like any other text that is no number it counts as 0.
+// 0/0 would lie in every range; like any text that is not a number it counts as 0.
 double sizeValue(QString const & calculation)
 {
     double const value = caculateData(calculation);
     return std::isnan(value) ? 0 : value;
 }
 
-// Plain digits as a symbol name has them, far below a nanometre.
+// Plain digits as in a symbol name, far finer than a nanometre.
 QString plainText(double value)
 {
     QString text = QString::number(value, 'f', 6);
@@ -42,7 +42,7 @@ SizeField::SizeField(QWidget & view, std::function<void()> judged,
 {
     setRefusalHints(true);
     connect(this, &QLineEdit::textChanged, this, judged);
-    // Queued: the box comes up when the field is done with its event, so that both may be deleted meanwhile.
+    // Queued: the box opens when the field is done with its event, so that both may be deleted meanwhile.
     connect(
         this, &QLineEdit::editingFinished, this, [this] { finish(); }, Qt::QueuedConnection);
     connect(this, &KVLineEdit::validityChanged, this, [this, judged](bool /*legal*/, QString words) {
@@ -77,7 +77,7 @@ void SizeField::finish()
     if (!isModified()) {
         return;
     }
-    setModified(false); // the box takes the focus, which must not finish the field once more
+    setModified(false); // the box takes the focus, which must not finish the field again
     QString const typed = text();
     QPointer<SizeField> const alive(this);
     bool const isLegal =
@@ -101,7 +101,7 @@ QString SizeField::valueText() const
     return isCalculation ? "= " + plainText(value) : QString();
 }
 
-// An empty field is never finished by the base, so leaving it has to bring its size back.
+// The base class never finishes an empty field, so leaving it has to restore the size.
 void SizeField::focusOutEvent(QFocusEvent * event)
 {
     if (text().isEmpty()) {

@@ -7,23 +7,23 @@
 
 namespace Workbench {
 
-/// What the user asked for. Paths are absolute, since the program changes its current directory later.
+/// The user's options. Paths are absolute, since the program changes its current directory later.
 struct CommandLine
 {
-    QString job;    ///< the job's folder
-    QString config; ///< the configuration folder; empty: a copy of the samples
-    QString output; ///< where screenshots, the database and the saved form go
+    QString job;    ///< folder of the job
+    QString config; ///< configuration folder; empty: a copy of the samples
+    QString output; ///< for screenshots, the database and the saved form
     int unit = inchUnit;
-    bool isUnitGiven = false; ///< else the unit of the latest run may be used
+    bool isUnitGiven = false; ///< otherwise the unit of the latest run applies
     bool headless = false;
     bool saveFlag = false;
-    QString step;        ///< the one to show first; empty: the job's first
-    QString summary;     ///< where the summary of the checks goes; empty: nowhere, or the output folder
-    QStringList reports; ///< where reports of the checks go, ".json" or ".csv"
+    QString step;        ///< shown first; empty: the job's first
+    QString summary;     ///< file for the summary of the checks; empty: none, or one in the output folder
+    QStringList reports; ///< files for reports of the checks, ".json" or ".csv"
 };
 
-/// What became of the arguments: a command line, a text to print and to leave with success (help, version),
-/// or an error.
+/// The outcome of parsing: a command line, a text to print before a successful exit (help, version), or an
+/// error.
 struct ParsedArguments
 {
     enum class Outcome
@@ -37,12 +37,12 @@ struct ParsedArguments
     QString text; ///< for Print and Error
 };
 
-/// Judges the arguments, the program's name first. Without a job the one that the environment variable
-/// UIAPI_WORKBENCH_JOB names is taken. Touches no file.
+/// Parses the arguments, of which the first is the program's name. Without a job, the one named by the
+/// environment variable UIAPI_WORKBENCH_JOB is used. Touches no file.
 ParsedArguments parseArguments(QStringList const & arguments);
 
-/// Whether the program must run without a window: asked for, or there is no display. Called before the
-/// QApplication, which needs to know.
+/// Whether the program has to run without a window: by request, or because there is no display. Call it
+/// before the QApplication is made, which depends on it.
 bool runsHeadless(int argc, char ** argv);
 
 } // namespace Workbench

@@ -11,7 +11,8 @@ namespace Workbench {
 
 namespace {
 
-// WORKBENCH_SAMPLES is the samples' place at build time; elsewhere the program starts without settings.
+// WORKBENCH_SAMPLES is where the samples were at build time; without them the program starts without
+// settings.
 void copySamples(QString const & name, QString const & directory)
 {
     QDir().mkpath(directory);

@@ -8,7 +8,7 @@ namespace Workbench {
 
 bool readLayers(Session & session)
 {
-    // The texts and the range go in through the setters: the library's constructor takes a parent only.
+    // Texts and range are set afterwards: the library's constructor uses the parent only.
     KVProgressDialog progress;
     progress.setWindowTitle(
         QCoreApplication::translate("Workbench", "Opening %1").arg(QString::fromStdString(session.job())));

@@ -4,9 +4,8 @@
 
 namespace Workbench {
 
-/// Reads the layers of an opened job, which is the slow part, behind a progress dialog. F1 or its button
-/// stops it: what was not read then is read when it is shown, and its features are not counted. False when it
-/// was stopped.
+/// Reads the layers of an open job, which is slow, with a progress dialog. F1 or its button stops this:
+/// layers not read by then are read when shown, and their features are not counted. False when stopped.
 bool readLayers(Session & session);
 
 } // namespace Workbench

@@ -17,7 +17,7 @@ QString failure(QString const & directory, std::string const & reason)
            QString::fromStdString(reason).simplified();
 }
 
-// What the latest reading said, if it failed: an empty list alone tells nothing.
+// The engine's error, which tells a failure from an empty list.
 QString readingError()
 {
     return QString::fromStdString(KVCAM::Embedded::lastError()).simplified();

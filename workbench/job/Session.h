@@ -12,31 +12,30 @@
 
 namespace Workbench {
 
-/// The opened job, as the engine tells it. Texts that go back to the engine are kept as the engine gave them.
+/// The open job, as reported by the engine. Texts that go back to the engine are kept unchanged.
 class Session
 {
 public:
     struct Layer
     {
         KVCAM::API::layer_info info;
-        /// How many, by step; without a value where they cannot be read. Empty until they are counted.
+        /// Number of features by step, without a value if unreadable. Empty until counted.
         std::vector<std::optional<int>> features;
-        std::vector<QString> errors; ///< what could not be read, by step; empty texts where all was
+        std::vector<QString> errors; ///< by step; empty texts where all was read
     };
     struct Step
     {
         std::string name;
-        std::optional<KVCAM::Embedded::Box> outline; ///< extent of the profile in micrometres, if it has one
+        std::optional<KVCAM::Embedded::Box> outline; ///< of the profile, in micrometres
     };
 
-    /// Opens the job in a folder. The result is one line that says what is wrong, empty on success.
+    /// Opens the job in a folder. Returns one line that says what is wrong, empty on success.
     QString open(QString const & directory);
-    /// Counts the features of a layer in every step; the slow part of opening, for which a progress dialog
-    /// may be shown. Reads the layer's tools as well. What fails is kept in the layer and logged at ERROR.
+    /// Counts the features of a layer in every step, which is the slow part of opening. Reads the layer's
+    /// tools as well. Failures are kept in the layer and logged at ERROR.
     void countFeatures(Layer & layer) const;
 
-    /// Asks again how many features the layers have in a step, those that were counted before: an operation
-    /// has changed them.
+    /// Counts the features of a step again after an operation, in the layers where they have been counted.
     void recount(std::size_t step);
 
     std::string const & job() const { return m_job; }
@@ -44,7 +43,7 @@ public:
     std::vector<Step> const & steps() const { return m_steps; }
     std::vector<Layer> const & layers() const { return m_layers; }
     std::vector<Layer> & layers() { return m_layers; }
-    /// Whether the job has a step of this name, in whatever case.
+    /// Whether the job has a step of this name, ignoring case.
     bool hasStep(QString const & name) const;
     /// The index of the first board signal layer that has pads in a step, else 0.
     int firstCopperLayer(std::string const & step) const;

@@ -18,7 +18,7 @@ namespace Workbench {
 
 using namespace KVCAM::UIAPI;
 
-/// A key of the filter and the words that are offered for it, some of them several at once.
+/// A key of the filter and the words offered for it, some of them combined.
 struct FilterBar::Field
 {
     char const * key;
@@ -38,7 +38,7 @@ FilterBar::Field const FilterBar::fields[] = {
 
 namespace {
 
-// Completes the last of the words that "|" joins in a field.
+// Completes the last of the words joined by "|" in a field.
 class WordCompleter : public QCompleter
 {
 public:
@@ -78,7 +78,7 @@ FilterBar::FilterBar(Session const & session, QWidget * parent)
     m_explanation->setObjectName("explanation");
     m_explanation->setWordWrap(true);
     m_explanation->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_explanation->setMinimumHeight(2 * fontMetrics().lineSpacing()); // the table below keeps its place
+    m_explanation->setMinimumHeight(2 * fontMetrics().lineSpacing()); // keeps the table below in place
     m_explanation->setTextInteractionFlags(Qt::TextSelectableByMouse);
     connect(m_hides, &QCheckBox::toggled, this, &FilterBar::changed);
     connect(m_analysis, &QPushButton::toggled, this, &FilterBar::askForAnalysis);
@@ -96,7 +96,7 @@ void FilterBar::makeLayout()
         words->setObjectName(fields[i].key);
         words->setEditable(true);
         words->setInsertPolicy(QComboBox::NoInsert);
-        words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // the list of layers may be narrow
+        words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // lets the layer list be narrow
         words->setMinimumWidth(60);
         QStringList offered;
         for (char const * word : fields[i].words) {
@@ -132,16 +132,16 @@ void FilterBar::setTexts()
     for (std::size_t i = 0; i < fieldCount; ++i) {
         m_titles[i]->setText(tr(fields[i].title));
         m_words[i]->lineEdit()->setPlaceholderText(tr("every layer"));
-        m_words[i]->setToolTip(tr("Words joined by |; case counts. After the last | an empty word follows, "
-                                  "which accepts layers that say nothing here."));
+        m_words[i]->setToolTip(tr("Words separated by |; case matters. A | at the end adds the empty word, "
+                                  "which accepts layers without a value here."));
     }
     m_hides->setText(tr("Hi&de others"));
-    m_hides->setToolTip(tr("Layers that do not match are hidden, or else greyed"));
+    m_hides->setToolTip(tr("Hides layers that do not match instead of greying them"));
     m_analysis->setText(tr("For analysis"));
     m_analysis->setToolTip(tr("Shows the layers that analysis and checks read"));
     m_clear->setText(tr("C&lear"));
     m_clear->setToolTip(tr("Shows all layers"));
-    tell();
+    showExplanation();
 }
 
 QMap<QString, QString> FilterBar::request() const
@@ -183,7 +183,7 @@ void FilterBar::setStep(std::string const & step)
 void FilterBar::setLayer(int layer)
 {
     m_layer = layer;
-    tell();
+    showExplanation();
 }
 
 int FilterBar::matchCount() const
@@ -196,7 +196,7 @@ bool FilterBar::hidesOthers() const
     return m_hides->isChecked();
 }
 
-// The library gives names in matrix order, and no two layers of a matrix have the same.
+// The library returns names in matrix order, and they are unique in a matrix.
 void FilterBar::refresh()
 {
     std::vector<std::string> selected;
@@ -214,11 +214,11 @@ void FilterBar::refresh()
             ++next;
         }
     }
-    tell();
+    showExplanation();
     emit changed();
 }
 
-void FilterBar::tell()
+void FilterBar::showExplanation()
 {
     m_count->setText(tr("%1 of %2 layers").arg(matchCount()).arg(m_names.size()));
     m_explanation->setText(explanation());
@@ -231,10 +231,10 @@ QString FilterBar::fieldTitle(QString const & key) const
     return found == std::end(fields) ? key : tr(found->title).remove('&').section('(', 0, 0);
 }
 
-QString FilterBar::idleText(Ext::LayerFilterWord const & word) const
+QString FilterBar::unmatchedText(Ext::LayerFilterWord const & word) const
 {
     QString const text = word.fault == Ext::LayerWordFault::UnknownWord
-                             ? tr("%1: \"%2\" is no word of this field.")
+                             ? tr("%1: \"%2\" is not a word of this field.")
                              : tr("%1: no layer of the job is \"%2\".");
     return text.arg(fieldTitle(word.key), word.word);
 }
@@ -244,7 +244,7 @@ QString FilterBar::analysisText() const
     QString const text = tr("These are the layers that analysis and checks read.");
     bool const isOut = m_layer >= 0 && !m_matches.at(static_cast<std::size_t>(m_layer));
     return isOut ? text + ' ' +
-                       tr("\"%1\" is none of them.")
+                       tr("\"%1\" is not one of them.")
                            .arg(QString::fromStdString(m_names[static_cast<std::size_t>(m_layer)]))
                  : text;
 }
@@ -262,7 +262,7 @@ QString FilterBar::explanation() const
     }
     QStringList sentences;
     for (Ext::LayerFilterWord const & word : m_report.idleWords) {
-        sentences.append(idleText(word));
+        sentences.append(unmatchedText(word));
     }
     if (matchCount() == 0) {
         sentences.append(tr("No layer matches."));

@@ -18,8 +18,8 @@ class QPushButton;
 
 namespace Workbench {
 
-/// Narrows the layers of a job by type, context, side and polarity, and tells why one is left out. A field
-/// without a text accepts every layer.
+/// Filters the layers of a job by type, context, side and polarity, and explains why one is left out. An
+/// empty field accepts every layer.
 class FilterBar : public QWidget
 {
     Q_OBJECT
@@ -27,27 +27,27 @@ class FilterBar : public QWidget
 public:
     explicit FilterBar(Session const & session, QWidget * parent = nullptr);
 
-    /// For each layer in matrix order whether it is accepted.
+    /// For each layer in matrix order, whether it is accepted.
     std::vector<bool> const & matches() const { return m_matches; }
     int matchCount() const;
-    /// Whether the other layers are to be hidden, else greyed.
+    /// Whether to hide the other layers rather than grey them.
     bool hidesOthers() const;
-    /// What the fields ask for: the library's keys and the words joined by "|".
+    /// The request in the fields: the library's keys, with words joined by "|".
     QMap<QString, QString> request() const;
-    /// Why the layers that are left out are, and which words select nothing.
+    /// Why layers are left out, and which words match nothing.
     QString explanation() const;
 
-    /// Fills the fields whose keys are given and empties the others.
+    /// Fills the fields whose keys are given and clears the others.
     void ask(QMap<QString, QString> const & request);
-    /// Shows the layers that analysis and checks read in place of those that the fields ask for.
+    /// Shows the layers that analysis and checks read, instead of those requested by the fields.
     void askForAnalysis(bool on);
-    /// The step that is shown.
+    /// Sets the step that is shown.
     void setStep(std::string const & step);
-    /// The layer, -1 for none, that the explanation is about.
+    /// Sets the layer that the explanation is about; -1 for none.
     void setLayer(int layer);
 
 signals:
-    /// The layers that are accepted, or what becomes of the others.
+    /// The accepted layers, or the treatment of the others, have changed.
     void changed();
 
 private:
@@ -58,9 +58,9 @@ private:
     void makeLayout();
     void setTexts();
     void refresh();
-    void tell();
+    void showExplanation();
     QString fieldTitle(QString const & key) const;
-    QString idleText(KVCAM::UIAPI::Ext::LayerFilterWord const & word) const;
+    QString unmatchedText(KVCAM::UIAPI::Ext::LayerFilterWord const & word) const;
     QString analysisText() const;
 
     QString m_job;

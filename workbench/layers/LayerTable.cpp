@@ -98,7 +98,7 @@ void LayerTable::showMatches(std::vector<bool> matches, bool hidesOthers)
 
 void LayerTable::applyMatches()
 {
-    QSignalBlocker const blocker(this); // colours are no ticks
+    QSignalBlocker const blocker(this); // a changed colour is not a changed tick
     int const rows = std::min(rowCount(), static_cast<int>(m_matches.size()));
     for (int row = 0; row < rows; ++row) {
         bool const isOut = !m_matches[static_cast<std::size_t>(row)];
@@ -112,7 +112,7 @@ void LayerTable::applyMatches()
     }
     for (int column = 0; column < columnCount(); ++column) {
         if (horizontalHeader()->sectionResizeMode(column) == QHeaderView::ResizeToContents) {
-            resizeColumnToContents(column); // the header has measured the rows that stood there halfway
+            resizeColumnToContents(column); // the header has measured only part of the rows so far
         }
     }
     updateGeometries();

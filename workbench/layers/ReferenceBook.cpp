@@ -8,7 +8,7 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-// Calls a function of the library and notes the call as it would stand in a program.
+// Calls a function of the library and records the call as source text.
 template <class... Names>
 void call(QStringList & calls, char const * name, void (*function)(std::string const &, Names const &...),
           std::string const & first, Names const &... others)

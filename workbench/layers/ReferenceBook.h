@@ -11,9 +11,9 @@
 
 namespace Workbench {
 
-/// The host's side of the library's reference layers. The library tells the references of a step but not
-/// which steps have any, so the book keeps their names, and when a job, step or layer is renamed or deleted
-/// it tells the library for every one of them.
+/// The host's side of the library's reference layers. The library returns the references of a given step but
+/// not the steps that have any. The book keeps their names, and passes on the renaming or deletion of a job,
+/// step or layer for each of them.
 class ReferenceBook
 {
 public:
@@ -24,8 +24,8 @@ public:
     Records records(std::string const & job, std::string const & step) const;
     void setRecords(std::string const & job, std::string const & step, Records const & records);
 
-    // What a host does after one of its jobs, steps or layers got another name or is gone: the references to
-    // it follow, and so do its own. The result is each call of the library, in order.
+    // To be called when the host has renamed or deleted a job, step or layer: references to it and its own
+    // references follow. Returns the calls to the library in order.
 
     QStringList renameJob(std::string const & oldJob, std::string const & newJob);
     QStringList renameStep(std::string const & job, std::string const & oldStep, std::string const & newStep);

@@ -134,7 +134,7 @@ void ReferenceEditor::refresh()
             addRow(*m_records, {QString::fromStdString(record.job), QString::fromStdString(record.step),
                                 layersText(record)});
         }
-        m_records->selectRow(row); // nothing when there is no such row
+        m_records->selectRow(row); // nothing without such a row
     }
     showRecord();
     m_hint->setText(m_records->rowCount() > 0
@@ -157,7 +157,7 @@ void ReferenceEditor::showRecord()
     offerLayers(record.layers);
 }
 
-// Those that are ticked come first, in the order of choice.
+// Ticked layers come first, in the order chosen.
 void ReferenceEditor::offerLayers(std::vector<std::string> const & ticked)
 {
     m_layers->clear();

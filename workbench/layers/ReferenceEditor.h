@@ -16,8 +16,8 @@ class QTableWidget;
 
 namespace Workbench {
 
-/// The reference layers of one step, to add to, change and remove. The layers offered are those of the open
-/// job and of the record that is selected: a job that is not open may have others.
+/// Edits the reference layers of one step. Offers the layers of the open job and those of the selected
+/// record, since a job that is not open may have others.
 class ReferenceEditor : public QGroupBox
 {
     Q_OBJECT
@@ -28,11 +28,11 @@ public:
 
     /// Shows the references of a step of the open job.
     void setStep(std::string const & step);
-    /// Shows what the book holds now.
+    /// Shows the current state of the book.
     void refresh();
 
 signals:
-    /// References of the step were set.
+    /// The references of the step were changed.
     void changed();
 
 private:

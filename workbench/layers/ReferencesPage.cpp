@@ -19,7 +19,7 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-// An entry of the tree stands for the names in its data: a job, a job's step, or a step's layer.
+// The data of a tree entry are the names that it stands for: a job, a job's step, or a step's layer.
 constexpr int ofJob = 1;
 constexpr int ofStep = 2;
 
@@ -28,7 +28,7 @@ QStringList namesOf(QTreeWidgetItem const & item)
     return item.data(0, Qt::UserRole).toStringList();
 }
 
-// A new entry; it shows the last of its names.
+// Adds an entry, which shows the last of its names.
 template <class Parent>
 QTreeWidgetItem * addItem(Parent * parent, QStringList const & names, QString const & meaning)
 {
@@ -61,13 +61,13 @@ ReferencesPage::ReferencesPage(Session const & session, QWidget * parent)
     , m_newName(new QLineEdit)
     , m_rename(new QPushButton)
     , m_delete(new QPushButton)
-    , m_told(new QLabel)
+    , m_calls(new QLabel)
 {
     auto * layout = new QHBoxLayout(this);
     layout->addWidget(m_editor, 1);
     layout->addWidget(makeTree(), 1);
     connect(m_editor, &ReferenceEditor::changed, this, [this] {
-        m_told->clear();
+        m_calls->clear();
         refresh();
     });
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &ReferencesPage::showSelected);
@@ -86,9 +86,9 @@ QWidget * ReferencesPage::makeTree()
     m_newNameTitle->setBuddy(m_newName);
     m_rename->setObjectName("rename");
     m_delete->setObjectName("delete");
-    m_told->setObjectName("told the library");
-    m_told->setWordWrap(true);
-    m_told->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_calls->setObjectName("told the library");
+    m_calls->setWordWrap(true);
+    m_calls->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_empty->setWordWrap(true);
     auto * names = new QHBoxLayout;
     names->addWidget(m_newNameTitle);
@@ -99,7 +99,7 @@ QWidget * ReferencesPage::makeTree()
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_empty);
     layout->addLayout(names);
-    layout->addWidget(m_told);
+    layout->addWidget(m_calls);
     return m_kept;
 }
 
@@ -162,16 +162,16 @@ void ReferencesPage::rename()
         return;
     }
     if (entered.isEmpty() || isTaken(*m_tree, *item, entered)) {
-        m_told->setText(entered.isEmpty() ? tr("A name is needed.") : tr("This name is taken."));
+        m_calls->setText(entered.isEmpty() ? tr("A name is needed.") : tr("This name is taken."));
         return;
     }
     QStringList const names = namesOf(*item);
     std::string const job = names[0].toStdString();
     std::string const step = names.value(1).toStdString();
     std::string const newName = entered.toStdString();
-    tell(names.size() == ofJob    ? m_book.renameJob(job, newName)
-         : names.size() == ofStep ? m_book.renameStep(job, step, newName)
-                                  : m_book.renameLayer(job, step, names[2].toStdString(), newName));
+    showCalls(names.size() == ofJob    ? m_book.renameJob(job, newName)
+              : names.size() == ofStep ? m_book.renameStep(job, step, newName)
+                                       : m_book.renameLayer(job, step, names[2].toStdString(), newName));
 }
 
 void ReferencesPage::remove()
@@ -191,14 +191,14 @@ void ReferencesPage::remove()
     }
     std::string const job = names[0].toStdString();
     std::string const step = names.value(1).toStdString();
-    tell(names.size() == ofJob    ? m_book.deleteJob(job)
-         : names.size() == ofStep ? m_book.deleteStep(job, step)
-                                  : m_book.deleteLayer(job, step, names[2].toStdString()));
+    showCalls(names.size() == ofJob    ? m_book.deleteJob(job)
+              : names.size() == ofStep ? m_book.deleteStep(job, step)
+                                       : m_book.deleteLayer(job, step, names[2].toStdString()));
 }
 
-void ReferencesPage::tell(QStringList const & calls)
+void ReferencesPage::showCalls(QStringList const & calls)
 {
-    m_told->setText(calls.join('\n'));
+    m_calls->setText(calls.join('\n'));
     refresh();
     m_editor->refresh();
 }

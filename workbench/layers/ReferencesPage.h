@@ -18,9 +18,9 @@ namespace Workbench {
 
 class ReferenceEditor;
 
-/// The reference layers of the step in front beside all that the library keeps: each step with references and
-/// what it refers to. A job, step or layer of the tree can be renamed and deleted as a host would do it; the
-/// library is told, the files of the job stay as they are.
+/// The reference layers of the step in front, beside all that the library keeps: each step with references
+/// and what they refer to. A job, step or layer in the tree can be renamed and deleted as a host would do;
+/// the library is told, the files of the job stay unchanged.
 class ReferencesPage : public QWidget
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ private:
     void showSelected();
     void rename();
     void remove();
-    void tell(QStringList const & calls);
+    void showCalls(QStringList const & calls);
 
     ReferenceBook m_book;
     ReferenceEditor * m_editor;
@@ -49,7 +49,7 @@ private:
     QLineEdit * m_newName;
     QPushButton * m_rename;
     QPushButton * m_delete;
-    QLabel * m_told;
+    QLabel * m_calls;
 };
 
 } // namespace Workbench

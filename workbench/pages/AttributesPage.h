@@ -8,8 +8,8 @@ class QTableWidget;
 
 namespace Workbench {
 
-/// The attribute catalogue of "attributes.json" beside the values that the library itself offers for the
-/// system attributes, and the CAM-mate nodes. A wildcard pattern narrows the list.
+/// The attribute catalogue of "attributes.json" with the values that the library itself offers for the system
+/// attributes, and the CAM-mate nodes. A wildcard pattern filters the list.
 class AttributesPage : public QWidget
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ using namespace KVCAM::UIAPI;
 
 enum Column
 {
-    TimeColumn, // its item holds the bytes as they came
+    TimeColumn, // its item holds the bytes as received
     SizeColumn,
     KindColumn, // its item holds whether they are an object
     TextColumn
@@ -62,7 +62,7 @@ QString indented(QJsonObject const & object)
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Indented)).trimmed();
 }
 
-// The beginning, in one line.
+// The beginning as one line.
 QString preview(QByteArray const & bytes)
 {
     QString const whole = QString::fromUtf8(bytes.constData(), qMin(bytes.size(), 4 * previewLength));
@@ -73,7 +73,7 @@ QString preview(QByteArray const & bytes)
     return whole.size() > previewLength ? text + "..." : text;
 }
 
-// An invalid message is red, and says so.
+// An invalid message is red and labelled so.
 void setKind(QTableWidgetItem & item)
 {
     bool const isObject = item.data(Qt::UserRole).toBool();
@@ -91,7 +91,7 @@ void addMessage(QTableWidget & table, QTime time, QByteArray const & bytes)
     int const row = table.rowCount();
     addRow(table, {time.toString("HH:mm:ss.zzz"), QString::number(bytes.size()), {}, preview(bytes)},
            {SizeColumn});
-    table.item(row, TextColumn)->setToolTip({}); // where it could pass for rich text
+    table.item(row, TextColumn)->setToolTip({}); // it might be taken for rich text there
     table.item(row, TimeColumn)->setData(Qt::UserRole, bytes);
     table.item(row, KindColumn)->setData(Qt::UserRole, JsonText(bytes).isObject());
     setKind(*table.item(row, KindColumn));
@@ -123,7 +123,7 @@ QWidget * EdaPage::makeSender()
     m_verdict = makeLabel("verdict");
     m_port = new QSpinBox;
     m_port->setRange(1, 65535);
-    m_port->setKeyboardTracking(false); // half a number is no port to set
+    m_port->setKeyboardTracking(false); // an incomplete number is not a port
     m_send = new QPushButton;
     m_result = makeLabel("result");
 
@@ -165,7 +165,7 @@ QWidget * EdaPage::makeReceiver()
 {
     m_messages = makeTable({{}, {}, {}, {}});
     m_messages->setWordWrap(false);
-    m_messages->horizontalHeader()->setResizeContentsPrecision(0); // by the rows in sight
+    m_messages->horizontalHeader()->setResizeContentsPrecision(0); // by the visible rows
     m_content = new QPlainTextEdit;
     setFixedFont(*m_content, "content");
     m_content->setReadOnly(true);
@@ -225,7 +225,7 @@ void EdaPage::send()
     if (!text.isObject()) {
         return;
     }
-    m_port->interpretText(); // a mnemonic leaves the field in focus
+    m_port->interpretText(); // a mnemonic does not take the focus from the field
     setEdaPort(m_port->value());
     Ext::EdaSendResult const result = Ext::sendEdaDataChecked(text.object());
     m_sending = Sending{QTime::currentTime(), result, compact(text.object()).size(), m_port->value(),
@@ -237,7 +237,8 @@ void EdaPage::send()
 void EdaPage::showEvent(QShowEvent * event)
 {
     QWidget::showEvent(event);
-    // Others may have sent, or set the port. One that is none stays set until something is sent from here.
+    // Other modules may have sent, or set the port. An invalid port stays set until something is sent from
+    // here.
     QSignalBlocker const blocker(m_port);
     m_port->setValue(Ext::edaLinkState().port);
     showState();
@@ -259,13 +260,13 @@ void EdaPage::judge()
 void EdaPage::showResult()
 {
     if (!m_sending) {
-        m_result->setText(tr("Nothing was sent from here yet."));
+        m_result->setText(tr("Nothing has been sent from here yet."));
         return;
     }
     QString text;
     switch (m_sending->result) {
     case Ext::EdaSendResult::Sent:
-        text = tr("Sent %1 bytes to port %2. Whether anybody listens there cannot be known.")
+        text = tr("Sent %1 bytes to port %2. It is not known whether anybody listens there.")
                    .arg(m_sending->bytes)
                    .arg(m_sending->port);
         break;
@@ -273,7 +274,7 @@ void EdaPage::showResult()
         text = tr("Not sent: there is no link.");
         break;
     case Ext::EdaSendResult::NoPort:
-        text = tr("Not sent: %1 is no port.").arg(m_sending->port);
+        text = tr("Not sent: %1 is not a port.").arg(m_sending->port);
         break;
     case Ext::EdaSendResult::TooLarge:
         text = tr("Not sent: %1 bytes do not fit into one message.").arg(m_sending->bytes);
@@ -304,12 +305,13 @@ void EdaPage::showState()
         counts += "     " + tr("Latest error: %1").arg(state.lastError);
     }
     m_counts->setText(counts);
-    m_empty->setText(state.bound ? tr("Nothing was received yet.\nWhat an EDA tool sends to port %1 of this "
-                                      "computer is listed here.")
-                                       .arg(receivePort)
-                                 : tr("Nothing can be received.\nClose the program that has port %1, then "
-                                      "start this one again.")
-                                       .arg(receivePort));
+    m_empty->setText(state.bound
+                         ? tr("Nothing has been received yet.\nWhat an EDA tool sends to port %1 of this "
+                              "computer is listed here.")
+                               .arg(receivePort)
+                         : tr("Nothing can be received.\nClose the program that has port %1, then "
+                              "start this one again.")
+                               .arg(receivePort));
 }
 
 void EdaPage::setReceiverTexts()
@@ -322,7 +324,7 @@ void EdaPage::setReceiverTexts()
     showMessage();
 }
 
-// Messages may come faster than a table takes them. They are listed together when the event loop gets to it.
+// Messages may arrive faster than a table can take them, so they are listed once per turn of the event loop.
 void EdaPage::receive(QByteArray const & bytes)
 {
     m_waiting.push_back({QTime::currentTime(), bytes});
@@ -336,7 +338,7 @@ void EdaPage::receive(QByteArray const & bytes)
 
 void EdaPage::listWaiting()
 {
-    // Whoever looks at the latest wants to see the next; whoever looks at another keeps it.
+    // The selection follows the latest message, and stays with any other.
     bool const follows = m_messages->currentRow() == m_messages->rowCount() - 1;
     int const surplus = m_messages->rowCount() + static_cast<int>(m_waiting.size()) - kept;
     if (surplus > 0) {

@@ -18,21 +18,21 @@ class QTimer;
 
 namespace Workbench {
 
-/// The link to an EDA tool: an object to send, what became of it, how the link fares, and the latest messages
-/// that came. What came is shown as plain text only, since anybody on this computer may have sent it.
+/// The link to an EDA tool: an object to send and its outcome, the status of the link, and the latest
+/// messages received. They are shown as plain text only, since anybody on this computer may have sent them.
 class EdaPage : public QWidget
 {
     Q_OBJECT
 
 public:
     static constexpr int receivePort = 2333; ///< the library's
-    static constexpr int kept = 500;         ///< messages; those before are dropped
+    static constexpr int kept = 500;         ///< messages; older ones are dropped
 
     explicit EdaPage(QWidget * parent = nullptr);
 
     /// Puts a message into the editor and a port (1 to 65535) into its field.
     void compose(QJsonObject const & message, int port);
-    /// Sends what is in the editor to the port of the field. Nothing happens if it is no object.
+    /// Sends the editor's content to the port in the field. Nothing happens if it is not an object.
     void send();
 
 protected:
@@ -50,7 +50,7 @@ private:
         KVCAM::UIAPI::Ext::EdaSendResult result;
         int bytes;
         int port;
-        QString error; ///< the socket's words
+        QString error; ///< as reported by the socket
     };
 
     QWidget * makeSender();
@@ -73,7 +73,7 @@ private:
     QLabel * m_result;
     std::optional<Sending> m_sending; ///< the latest
     QLabel * m_empty;
-    QStackedWidget * m_stack;      ///< what is shown while there are no messages, and the messages
+    QStackedWidget * m_stack;      ///< the text without messages, and the messages
     std::deque<Message> m_waiting; ///< to be listed
     QTimer * m_listing;            ///< lists them
     QTableWidget * m_messages;

@@ -7,10 +7,10 @@
 
 namespace Workbench {
 
-/// What the engine was told last, as JSON: one object for each of its records.
+/// The engine's latest state as JSON: one object per record.
 QJsonObject toJson(KVCAM::Embedded::LiveState const & state);
 
-/// Shows what the engine was told last; follows every change that the library reports to the engine.
+/// Shows what the engine was told last, and follows every change that the library reports to it.
 class EnginePane : public QTreeWidget
 {
     Q_OBJECT

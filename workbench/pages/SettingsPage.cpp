@@ -28,9 +28,9 @@ using namespace KVCAM::UIAPI;
 struct Setting
 {
     char const * title;
-    char const * key; ///< in "server.json", for what can be written
+    char const * key; ///< in "server.json"; for settings that can be written
     QVariant (*read)();
-    void (*write)(QVariant const &); ///< null: the library reads the setting at its start only
+    void (*write)(QVariant const &); ///< null: read only at the library's start
 };
 
 namespace {
@@ -45,8 +45,8 @@ UIAPIGlobalVar & globals()
     return *UIAPIGlobalVar::instance();
 }
 
-// Getters are the flat functions; most setters are methods of UIAPIGlobalVar alone. The suffix record has no
-// getter: the library hands it to the engine, which tells it here.
+// Getters are flat functions; most setters exist only as methods of UIAPIGlobalVar. The suffix record has no
+// getter: the library passes it to the engine, which is asked for it.
 constexpr Setting settings[] = {
     {QT_TRANSLATE_NOOP("Workbench::SettingsPage", "Server address"), "ServerIp",
      [] { return text(getServerIP()); },
@@ -204,8 +204,8 @@ void SettingsPage::store(Setting const & setting, QVariant const & value)
     }
     setting.write(value);
     m_unsaved.insert(&setting);
-    // The library writes all settings at every save and is silent about one that failed: ask the file. What
-    // failed before may have reached it now.
+    // The library writes all settings at every save and does not report a failure, so the file is read.
+    // Earlier failures may have reached it now.
     QJsonObject const stored = readJsonObject(configurationDirectory() + "/server.json");
     for (auto const & [each, state] : m_states) {
         if (m_unsaved.count(each) == 0) {
@@ -223,7 +223,7 @@ void SettingsPage::store(Setting const & setting, QVariant const & value)
 void SettingsPage::refreshDiagnostics()
 {
     m_diagnostics->setRowCount(0);
-    m_summary->setText(Ext::diagnostics().empty() ? tr("All files were read; nothing is wrong with them.")
+    m_summary->setText(Ext::diagnostics().empty() ? tr("All files were read, and nothing is wrong with them.")
                                                   : tr("Findings: %1").arg(Ext::diagnostics().size()));
     for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
         addRow(*m_diagnostics,

@@ -14,8 +14,8 @@ namespace Workbench {
 
 struct Setting;
 
-/// The settings of "server.json" and what the loaders found wrong in the configuration files. A setting that
-/// can be saved is saved as soon as it is edited; the page says where that failed.
+/// The settings of "server.json", and what the loaders found wrong in the configuration files. A setting is
+/// saved as soon as it is edited, if it can be saved at all; the page says where saving failed.
 class SettingsPage : public QWidget
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ private:
     QString stateText(Setting const & setting) const;
     void refreshDiagnostics();
 
-    std::map<Setting const *, QLabel *> m_states; ///< whether each is saved
-    std::set<Setting const *> m_unsaved;          ///< which the file does not hold
+    std::map<Setting const *, QLabel *> m_states; ///< saved or not
+    std::set<Setting const *> m_unsaved;          ///< not in the file
     QLabel * m_summary;
     QTableWidget * m_diagnostics;
 };

@@ -18,8 +18,8 @@ using namespace KVCAM::UIAPI;
 
 constexpr int descriptionColumn = 5;
 
-// Names that are stored in mil are shown rounded and snapped, as the library does for its own lists; those in
-// micrometres are first turned into mil.
+// Names stored in mil are shown rounded and snapped, as in the library's own lists; those in micrometres are
+// converted to mil first.
 SymbolRow symbolRow(KVCAM::Embedded::SymbolUse const & use)
 {
     SymbolRow row;

@@ -25,8 +25,8 @@ struct SymbolRow
 std::vector<SymbolRow> symbolRows(std::string const & job);
 QJsonArray toJson(std::vector<SymbolRow> const & rows);
 
-/// The symbol names of the job as a table, and what each of the library's functions makes of the selected
-/// name in the unit of a view.
+/// A table of the job's symbol names, and the result of each of the library's functions for the selected name
+/// in the unit of a view.
 class SymbolsPage : public QWidget
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ class SymbolsPage : public QWidget
 public:
     SymbolsPage(std::string const & job, void const * view, QWidget * parent = nullptr);
 
-    /// Shows the functions' results in the unit of another view.
+    /// Shows the results in the unit of another view.
     void setView(void const * view);
 
 private:

@@ -23,11 +23,11 @@ namespace {
 
 using namespace KVCAM::UIAPI;
 
-constexpr int firstUserIndex = 2;    // where the library counts the user's templates from
-constexpr int noIndex = -1;          // for deleting a file alone
-constexpr char const * noFile = "/"; // for deleting a template alone: no file has this name
+constexpr int firstUserIndex = 2;    // the library's first index for user templates
+constexpr int noIndex = -1;          // to delete only a file
+constexpr char const * noFile = "/"; // to delete only a template: no file has this name
 
-// A template's file is called after it; what no file may be called is replaced.
+// A template's file has its name; characters not allowed in file names are replaced.
 QString fileName(AutoMatrixTmp const & tmpl)
 {
     static QRegularExpression const forbidden(R"([\\/:*?"<>|\p{Cc}]|^\.+)");
@@ -44,7 +44,7 @@ QString userTemplatePath(QString const & file)
     return QDir::currentPath() + '/' + shownFile(file);
 }
 
-// Whether the file holds what the library has under the index: it is silent about a save that failed.
+// Whether the file holds the library's template of this index. The library does not report a failed save.
 bool isStored(int index, QString const & file)
 {
     auto const stored = Ext::autoMatrixFile(index);
@@ -53,7 +53,7 @@ bool isStored(int index, QString const & file)
 
 bool isSameFile(QString const & a, QString const & b)
 {
-    return a.compare(b, Qt::CaseInsensitive) == 0; // some file systems know no case
+    return a.compare(b, Qt::CaseInsensitive) == 0; // some file systems ignore case
 }
 
 } // namespace
@@ -218,14 +218,14 @@ void TemplatesPage::save()
         return;
     }
     AutoMatrixTmp const tmpl = edited();
-    QString const old = *own; // which may be called otherwise than its template
+    QString const old = *own; // may differ from the template's name
     bool const isRenamed = getAutoMatrixTmpMap()[index].name != tmpl.name;
     QString const file = isRenamed && !isSameFile(fileName(tmpl), old) ? fileName(tmpl) : old;
     if (file != old && refuseUsedFile(file)) {
         return;
     }
     saveCurrentAutoMatrixTmp(index, file, tmpl);
-    // The old file, which would come back at the next start, goes only when the new one is whole.
+    // The old file would come back at the next start; it is deleted once the new one is complete.
     if (file != old && isStored(index, file)) {
         deleteAutoMatrix(noIndex, old);
     }
@@ -240,7 +240,7 @@ void TemplatesPage::saveAsNew()
         templates.empty() ? firstUserIndex : std::max(firstUserIndex, templates.rbegin()->first + 1);
     AutoMatrixTmp tmpl = edited();
     if (getAutomatrixMatrixIndex(QString::fromStdString(tmpl.name)) >= 0) {
-        tmpl.name += ' ' + std::to_string(index); // a file of its own
+        tmpl.name += ' ' + std::to_string(index); // gets a file of its own
     }
     QString const file = fileName(tmpl);
     if (refuseUsedFile(file)) {
@@ -262,19 +262,19 @@ void TemplatesPage::checkStored(int index, QString const & file)
 bool TemplatesPage::refuseUsedFile(QString const & file)
 {
     auto const templates = getAutoMatrixTmpMap();
-    bool const isUsed = // a file that holds no template the library took is not overwritten either
+    bool const isUsed = // a file that the library took no template from is not overwritten either
         QFile::exists(userTemplatePath(file)) ||
         std::any_of(templates.begin(), templates.end(), [&file](auto const & entry) {
             auto const used = Ext::autoMatrixFile(entry.first);
             return used && isSameFile(used->name, file);
         });
     if (isUsed) {
-        tell(tr("The file \"%1\" is there already. Choose another name.").arg(shownFile(file)));
+        inform(tr("The file \"%1\" already exists. Choose another name.").arg(shownFile(file)));
     }
     return isUsed;
 }
 
-void TemplatesPage::tell(QString const & text)
+void TemplatesPage::inform(QString const & text)
 {
     Ext::showMessage({Ext::MessageKind::Information, this, tr("Information"), text});
 }
@@ -290,7 +290,7 @@ void TemplatesPage::remove()
     deleteAutoMatrix(index, file);
     if (own && QFile::exists(userTemplatePath(file))) {
         QPointer<TemplatesPage> const alive(this);
-        tell(tr("The file \"%1\" cannot be deleted.").arg(shownFile(file)));
+        inform(tr("The file \"%1\" cannot be deleted.").arg(shownFile(file)));
         if (!alive) {
             return;
         }

@@ -14,9 +14,9 @@ class QTableWidget;
 
 namespace Workbench {
 
-/// The auto-matrix templates: all of them by index, and the 25 texts of the one at hand, which can be
-/// selected as the current template, saved as one of the user's and deleted. Files are written and deleted
-/// only for templates that stand alone in a file of the user's.
+/// The auto-matrix templates by index, and the 25 texts of the selected one, which can be made the current
+/// template, saved as a user template and deleted. Files are written and deleted only for templates that are
+/// alone in a user's file.
 class TemplatesPage : public QWidget
 {
     Q_OBJECT
@@ -36,11 +36,11 @@ private:
     void saveAsNew();
     void remove();
     void describeFile(int index);
-    /// The file of a template that stands alone in one; nothing for every other.
+    /// The file of a template that is alone in it; nothing for any other template.
     static std::optional<QString> ownFile(int index);
     bool refuseUsedFile(QString const & file);
     void checkStored(int index, QString const & file);
-    void tell(QString const & text);
+    void inform(QString const & text);
 
     QTableWidget * m_list;
     QLabel * m_current;

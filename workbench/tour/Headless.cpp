@@ -38,7 +38,7 @@ namespace {
 
 using namespace KVCAM::UIAPI;
 
-// Takes screenshots into a folder and remembers where they are.
+// Takes screenshots into a folder and keeps their paths.
 class Camera
 {
 public:
@@ -46,7 +46,7 @@ public:
 
     void take(QWidget & widget, QString const & name)
     {
-        QApplication::processEvents(); // layouts settle before the picture is taken
+        QApplication::processEvents(); // lets layouts settle
         for (auto * view : widget.findChildren<BoardView *>()) {
             view->finishPicture();
         }
@@ -73,10 +73,10 @@ void press(QWidget & field, int key, QString const & text = {})
         QKeyEvent event(kind, key, Qt::NoModifier, text);
         QApplication::sendEvent(&field, &event);
     }
-    QApplication::processEvents(); // a size is taken after its key
+    QApplication::processEvents(); // a size is taken after its key event
 }
 
-// In place of what stands in the field.
+// Replaces the text of the field.
 void type(QLineEdit & field, QString const & text)
 {
     field.selectAll();
@@ -103,7 +103,7 @@ QJsonArray layersOf(Session const & session)
     return layers;
 }
 
-// What the job's files and the camera could not do.
+// The errors of the job's files and of the camera.
 QJsonArray errorsOf(Session const & session, Camera const & camera)
 {
     QJsonArray errors = camera.errors();
@@ -142,18 +142,18 @@ QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embe
     return facts;
 }
 
-// Presses the keys of a sequence, and shows the hot keys.
+// Presses the keys of a sequence and shows the hot keys.
 QJsonObject useHotkeys(MainWindow & window, Camera & camera)
 {
-    auto const & told = *window.findChild<QLabel *>("hot keys");
+    auto const & status = *window.findChild<QLabel *>("hot keys");
     BoardView & view = *window.board().currentView();
     SNAP_TYPE_MODE const mode = getSnapType(view.handle());
     view.setFocus();
     press(view, Qt::Key_S);
-    QJsonObject facts{{"pending", told.text()}};
+    QJsonObject facts{{"pending", status.text()}};
     camera.take(window, "hot-key-pending.png");
     press(view, Qt::Key_G);
-    facts["done"] = told.text();
+    facts["done"] = status.text();
     facts["snap"] = static_cast<int>(getSnapType(view.handle()));
     setSnapType(view.handle(), mode);
     CheatSheet & sheet = *window.showKeys();
@@ -169,8 +169,8 @@ QJsonObject useHotkeys(MainWindow & window, Camera & camera)
     return facts;
 }
 
-// Works through the feature dialog as a user would: types an illegal width and one to calculate, switches the
-// unit a hundred times. A form that was restored is left as it is.
+// Uses the feature dialog as a user would: types an illegal width and a calculation, and switches the unit a
+// hundred times. A restored form is not edited.
 QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
 {
     int const pad = window.board().firstPad();
@@ -214,9 +214,9 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     }
     dialog.pad().showNames();
     camera.take(dialog, "feature-dialog-names.png");
-    dialog.setFocus(); // the list goes away by itself
+    dialog.setFocus(); // hides the list
     window.setLanguage(LANGUAGE_CHINESE);
-    camera.take(dialog, "feature-dialog-chinese.png"); // which lets the dialog hear of the change
+    camera.take(dialog, "feature-dialog-chinese.png"); // also delivers the language change to the dialog
     facts["description in Chinese"] = dialog.pad().description();
     window.setLanguage(LANGUAGE_ENGLISH);
     setUnit(view, unit);
@@ -225,7 +225,7 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     return facts;
 }
 
-// All layers together, the whole board and then a pad of the selected layer from near.
+// Shows all layers, first the whole board and then a pad of the selected layer from near.
 void showPicture(MainWindow & window, Camera & camera)
 {
     auto & layers = *window.findChild<LayerTable *>();
@@ -245,8 +245,8 @@ void showPicture(MainWindow & window, Camera & camera)
     view.zoomHome();
 }
 
-// Shows the link with a message that the program sends to itself. Where another program has the port,
-// nothing is sent: it would be that program's.
+// Shows the link with a message that the program sends to itself. If another program has the port, nothing is
+// sent: it would receive the message.
 QJsonObject useEdaPage(MainWindow & window, Camera & camera)
 {
     window.showPage("eda");
@@ -286,7 +286,7 @@ QJsonObject configuration()
             {"findings", findings}};
 }
 
-// Runs the checks, writes their files and shows the results in both units, then the narrowest track on the
+// Runs the checks, writes their files, and shows the results in both units and the narrowest track on the
 // board.
 QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
 {
@@ -320,7 +320,7 @@ QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
 
 QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine)
 {
-    // Nobody is there to close a box: the texts go into the facts instead.
+    // Nobody can close a box: its text goes into the facts instead.
     QJsonArray boxes;
     auto questions = Ext::MessageAnswer::No;
     Ext::setMessagePresenter([&](Ext::Message const & message) {

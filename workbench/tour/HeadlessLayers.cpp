@@ -35,7 +35,7 @@ QJsonObject asJson(QMap<QString, QString> const & request)
     return fields;
 }
 
-// The first entry of a tree with a text that stands for so many names.
+// The first tree entry with this text that stands for this number of names.
 QTreeWidgetItem * findItem(QTreeWidget const & tree, QString const & text, int names)
 {
     for (QTreeWidgetItem * item : tree.findItems(text, Qt::MatchExactly | Qt::MatchRecursive)) {
@@ -64,7 +64,7 @@ QJsonObject useFilters(MainWindow & window, TakePicture const & take)
     struct
     {
         QMap<QString, QString> request;
-        char const * picture; ///< empty: none is taken
+        char const * picture; ///< empty: no picture
     } const questions[] = {
         {{{"type", "signal"}, {"side", "inner"}}, ""},
         {{{"type", "signal|power_ground|mixed"}, {"pos", "negative"}}, ""},
@@ -95,7 +95,7 @@ QJsonObject useReferences(MainWindow & window, TakePicture const & take)
     take(window, "references-none.png");
     auto const & layers = *window.findChild<QListWidget *>("reference layers");
     auto const & tree = *window.findChild<QTreeWidget *>("kept references");
-    auto const & told = *window.findChild<QLabel *>("told the library");
+    auto const & latestCalls = *window.findChild<QLabel *>("told the library");
     auto const click = [&window](char const * name) { window.findChild<QPushButton *>(name)->click(); };
     for (int i = 0; i < std::min(layers.count(), 3); ++i) {
         layers.item(i)->setCheckState(Qt::Checked);
@@ -107,7 +107,7 @@ QJsonObject useReferences(MainWindow & window, TakePicture const & take)
             item->treeWidget()->setCurrentItem(item);
             window.findChild<QLineEdit *>("new name")->setText(newName);
             click("rename");
-            calls.append(told.text());
+            calls.append(latestCalls.text());
         }
     };
     QString const job = QString::fromStdString(window.board().currentView()->job());
@@ -119,7 +119,7 @@ QJsonObject useReferences(MainWindow & window, TakePicture const & take)
     if (QTreeWidgetItem * item = findItem(tree, "renamed job", 1)) {
         item->treeWidget()->setCurrentItem(item);
         click("delete");
-        calls.append(told.text());
+        calls.append(latestCalls.text());
     }
     window.showPage("board");
     return {{"calls", calls}, {"kept", kept}, {"left", tree.topLevelItemCount()}};
@@ -151,7 +151,7 @@ QJsonObject useUndo(MainWindow & window, Session const & session, TakePicture co
     note("deleted");
     commands.perform(KP_EditUndo);
     note("undone");
-    commands.perform(KP_EditUndo); // there is nothing left
+    commands.perform(KP_EditUndo); // nothing is left to undo
     return facts;
 }
 

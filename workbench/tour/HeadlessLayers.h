@@ -14,13 +14,13 @@ class Session;
 
 using TakePicture = std::function<void(QWidget &, QString const &)>;
 
-// What a headless run does with the layers; each leaves the window as it was. The results are facts.
+// What a headless run does with the layers. Each function leaves the window as it was and returns facts.
 
-/// Asks the filter bar some questions: how many layers match, and what the bar explains.
+/// Makes some requests to the filter bar, and returns how many layers match and the explanations.
 QJsonObject useFilters(MainWindow & window, TakePicture const & take);
-/// Sets reference layers of the step in front, renames a layer, a step and a job of them, and deletes one.
+/// Sets reference layers of the step in front, renames a layer, a step and a job among them, and deletes one.
 QJsonObject useReferences(MainWindow & window, TakePicture const & take);
-/// Deletes features of the shown layer and takes that back.
+/// Deletes features of the shown layer and undoes it.
 QJsonObject useUndo(MainWindow & window, Session const & session, TakePicture const & take);
 
 } // namespace Workbench

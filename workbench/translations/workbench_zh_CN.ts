@@ -20,7 +20,7 @@
         <translation>无法写入文件“%1”。</translation>
     </message>
     <message>
-        <source>The name of a report ends in .json or .csv, not as that of &quot;%1&quot; does.</source>
+        <source>The name of a report must end in .json or .csv; that of &quot;%1&quot; does not.</source>
         <translation>报告的文件名须以 .json 或 .csv 结尾，“%1”不是。</translation>
     </message>
     <message>
@@ -244,11 +244,11 @@
         <translation>是 JSON 对象；将发送 %1 字节。</translation>
     </message>
     <message>
-        <source>Nothing was sent from here yet.</source>
+        <source>Nothing has been sent from here yet.</source>
         <translation>还没有从这里发送过。</translation>
     </message>
     <message>
-        <source>Sent %1 bytes to port %2. Whether anybody listens there cannot be known.</source>
+        <source>Sent %1 bytes to port %2. It is not known whether anybody listens there.</source>
         <translation>已向端口 %2 发送 %1 字节。无法得知是否有程序在监听。</translation>
     </message>
     <message>
@@ -256,7 +256,7 @@
         <translation>未发送：没有链接。</translation>
     </message>
     <message>
-        <source>Not sent: %1 is no port.</source>
+        <source>Not sent: %1 is not a port.</source>
         <translation>未发送：%1 不是端口号。</translation>
     </message>
     <message>
@@ -290,7 +290,7 @@ Reason: %2</source>
         <translation>最近的错误：%1</translation>
     </message>
     <message>
-        <source>Nothing was received yet.
+        <source>Nothing has been received yet.
 What an EDA tool sends to port %1 of this computer is listed here.</source>
         <translation>还没有收到消息。
 EDA 工具发到本机端口 %1 的消息会列在这里。</translation>
@@ -463,7 +463,7 @@ Close the program that has port %1, then start this one again.</source>
         <translation>所有层</translation>
     </message>
     <message>
-        <source>Words joined by |; case counts. After the last | an empty word follows, which accepts layers that say nothing here.</source>
+        <source>Words separated by |; case matters. A | at the end adds the empty word, which accepts layers without a value here.</source>
         <translation>以 | 连接的词，区分大小写。末尾的 | 之后是空词，匹配此项为空的层。</translation>
     </message>
     <message>
@@ -471,7 +471,7 @@ Close the program that has port %1, then start this one again.</source>
         <translation>隐藏其他层(&amp;D)</translation>
     </message>
     <message>
-        <source>Layers that do not match are hidden, or else greyed</source>
+        <source>Hides layers that do not match instead of greying them</source>
         <translation>隐藏不匹配的层，否则以灰色显示</translation>
     </message>
     <message>
@@ -495,7 +495,7 @@ Close the program that has port %1, then start this one again.</source>
         <translation>%1 / %2 层</translation>
     </message>
     <message>
-        <source>%1: "%2" is no word of this field.</source>
+        <source>%1: "%2" is not a word of this field.</source>
         <translation>%1：此项没有“%2”这个词。</translation>
     </message>
     <message>
@@ -507,7 +507,7 @@ Close the program that has port %1, then start this one again.</source>
         <translation>这些是分析和检查所读取的层。</translation>
     </message>
     <message>
-        <source>"%1" is none of them.</source>
+        <source>"%1" is not one of them.</source>
         <translation>“%1”不在其中。</translation>
     </message>
     <message>
@@ -714,14 +714,14 @@ Close the program that has port %1, then start this one again.</source>
         <translation>本程序中不可用</translation>
     </message>
     <message>
-        <source>from %1; once more at the other end</source>
+        <source>from %1; press again at the other end</source>
         <translation>从 %1；在另一端再按一次</translation>
     </message>
 </context>
 <context>
     <name>Workbench::JsonText</name>
     <message>
-        <source>A JSON object is expected, which begins with a brace.</source>
+        <source>A JSON object is expected; it begins with a brace.</source>
         <translation>应为以花括号开头的 JSON 对象。</translation>
     </message>
     <message>
@@ -890,7 +890,7 @@ Close the program that has port %1, then start this one again.</source>
         <source>The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks a mark.
 With the picture in focus the arrow keys move the board, + and - zoom, Home shows the whole board.
 Ticked layers are drawn beside the selected one; Space in the list of layers sets and clears the tick.
-Ctrl and a click selects a feature or takes it out; the Delete key deletes what is selected.</source>
+Ctrl with a click selects or deselects a feature; the Delete key deletes the selection.</source>
         <translation>滚轮以指针为中心缩放，拖动移动板图，单击打开焊盘或选取标记。
 板图获得焦点时，方向键移动，+ 和 - 缩放，Home 显示整板。
 勾选的层与选中的层一起显示；在层列表中按空格键勾选或取消。
@@ -905,7 +905,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>删除选中的图形</translation>
     </message>
     <message>
-        <source>Nothing is selected: Ctrl and a click selects a feature.</source>
+        <source>Nothing is selected. Ctrl with a click selects a feature.</source>
         <translation>没有选中的图形：按住 Ctrl 单击可选中。</translation>
     </message>
     <message>
@@ -961,7 +961,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>保存标志(&amp;S)</translation>
     </message>
     <message>
-        <source>Makes the engine write what it is told to %1 as well</source>
+        <source>Makes the engine also write what it is told to %1</source>
         <translation>让引擎把收到的内容同时写入 %1</translation>
     </message>
     <message>
@@ -969,7 +969,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>图形(&amp;F)</translation>
     </message>
     <message>
-        <source>Opens the dialog on a pad; a click on a pad does so, too</source>
+        <source>Opens the dialog on a pad, as a click on it does</source>
         <translation>打开焊盘对话框；单击焊盘也可以</translation>
     </message>
     <message>
@@ -1314,7 +1314,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>未保存</translation>
     </message>
     <message>
-        <source>All files were read; nothing is wrong with them.</source>
+        <source>All files were read, and nothing is wrong with them.</source>
         <translation>全部文件已读取，没有问题。</translation>
     </message>
     <message>
@@ -1440,7 +1440,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>文件“%1”未能保存；所见内容只保留到下次启动。</translation>
     </message>
     <message>
-        <source>The file "%1" is there already. Choose another name.</source>
+        <source>The file "%1" already exists. Choose another name.</source>
         <translation>文件“%1”已存在，请换一个名称。</translation>
     </message>
     <message>
@@ -1478,15 +1478,15 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>未发现</translation>
     </message>
     <message>
-        <source>Of a check or layer the worst</source>
+        <source>For a check or layer, the worst</source>
         <translation>检查项或层的最差等级</translation>
     </message>
     <message>
-        <source>Measured in whole micrometres; of a check or layer the smallest</source>
+        <source>Measured in whole micrometres; for a check or layer, the smallest</source>
         <translation>以整微米测量；检查项或层显示最小值</translation>
     </message>
     <message>
-        <source>The level that gave the colour; of a check its levels red / yellow / green</source>
+        <source>The level that gave the colour; for a check, its levels red / yellow / green</source>
         <translation>决定颜色的级别；检查项显示红 / 黄 / 绿级别</translation>
     </message>
     <message>
@@ -1597,7 +1597,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>步骤 %1 中没有可检查的内容。</translation>
     </message>
     <message>
-        <source>The checks were not run yet. They measure step %1, which the board page shows.</source>
+        <source>The checks have not been run yet. They measure step %1, the one on the board page.</source>
         <translation>尚未运行检查。检查将测量板图页所示的步骤 %1。</translation>
     </message>
     <message>
@@ -1637,7 +1637,7 @@ Ctrl and a click selects a feature or takes it out; the Delete key deletes what 
         <translation>范围文件中没有此检查项的级别：不着色显示。</translation>
     </message>
     <message>
-        <source>These levels contradict each other: they colour nothing.</source>
+        <source>These levels contradict each other and grade nothing.</source>
         <translation>这些级别相互矛盾：不着色。</translation>
     </message>
     <message>

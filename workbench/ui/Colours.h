@@ -5,7 +5,7 @@
 
 namespace Workbench {
 
-// The colours with a meaning in more than one place. Those of the severities are the library's.
+// Colours used in more than one place. The library defines those of the severities.
 
 /// What is wrong: errors, refused input, values that were not saved.
 inline constexpr QRgb faultColour = 0xffb00020;
@@ -18,7 +18,7 @@ inline QString textStyle(QRgb colour)
     return "color: " + QColor(colour).name();
 }
 
-/// The style sheet of a text that reports a fault; empty for any other text.
+/// The style sheet of a text that may report a fault; empty if it does not.
 inline QString faultStyle(bool isFault)
 {
     return isFault ? textStyle(faultColour) : QString();

@@ -12,7 +12,7 @@ JsonText::JsonText(QByteArray const & bytes)
     m_isObject = m_error == QJsonParseError::NoError && document.isObject();
     m_object = document.object();
     m_hasBrace = bytes.trimmed().startsWith('{');
-    // The parser may stop behind the end.
+    // The parser may stop beyond the end.
     QString const before = QString::fromUtf8(bytes.constData(), qBound(0, error.offset, bytes.size()));
     m_line = before.count('\n') + 1;
     m_column = before.size() - before.lastIndexOf('\n');
@@ -24,12 +24,12 @@ QString JsonText::fault() const
         return {};
     }
     if (!m_hasBrace) {
-        return tr("A JSON object is expected, which begins with a brace.");
+        return tr("A JSON object is expected; it begins with a brace.");
     }
     return tr("Line %1, near column %2: %3").arg(m_line).arg(m_column).arg(reason());
 }
 
-// The parser's own words are English only, and some of them mislead.
+// The parser's own messages exist in English only, and some mislead.
 QString JsonText::reason() const
 {
     switch (m_error) {

@@ -8,7 +8,7 @@
 
 #include <utility>
 
-// The resource stands in a static library, whose initialiser is left out otherwise. The macro cannot stand in
+// A resource in a static library is left out unless it is initialised by name. The macro does not work inside
 // a namespace.
 static void registerCatalogue()
 {
@@ -52,18 +52,18 @@ bool showChinese(bool on)
 {
     using namespace KVCAM::UIAPI;
     LANGUAGE_MODE language = on ? LANGUAGE_CHINESE : LANGUAGE_ENGLISH;
-    setCurrentLanguageMode(language); // for the modules that ask; the next calls change the texts
+    setCurrentLanguageMode(language); // for modules that ask; the next calls change the texts
     if (!Ext::installTranslation(language)) {
         return false;
     }
-    static auto * const catalogue = new QTranslator; // an application may outlive static objects
+    static auto * const catalogue = new QTranslator; // the application may outlive static objects
     if (catalogue->isEmpty()) {
         registerCatalogue();
         if (!catalogue->load(QStringLiteral(":/workbench/translations/workbench_zh_CN.qm"))) {
             return false;
         }
     }
-    QCoreApplication::removeTranslator(catalogue); // or it would be installed twice
+    QCoreApplication::removeTranslator(catalogue); // it would be installed twice otherwise
     return !on || QCoreApplication::installTranslator(catalogue);
 }
 

@@ -8,8 +8,8 @@
 
 namespace Workbench {
 
-/// Collects the log lines of the process from its construction on, the library's among them. Lines may come
-/// from any thread; they are kept and told on the thread of this object.
+/// Collects the log lines of the process, including the library's, from its construction on. Lines may come
+/// from any thread; they are kept and signalled on the thread of this object.
 class LogLines : public QObject, public google::LogSink
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     LogLines(LogLines const &) = delete;
     LogLines & operator=(LogLines const &) = delete;
 
-    /// "ERROR UIAPICommonPara: text", the oldest first.
+    /// "ERROR UIAPICommonPara: text", oldest first.
     QStringList const & lines() const { return m_lines; }
 
     using google::LogSink::send;
@@ -34,7 +34,7 @@ private:
     QStringList m_lines;
 };
 
-/// Shows the collected lines, errors and warnings in colour.
+/// Shows the collected lines, with errors and warnings in colour.
 class LogPane : public QPlainTextEdit
 {
     Q_OBJECT

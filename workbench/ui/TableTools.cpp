@@ -26,7 +26,7 @@ void prepareTable(QTableWidget & table, QStringList const & titles)
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
     table.setAlternatingRowColors(true);
-    table.setTabKeyNavigation(false); // Tab leaves the table, the arrows move in it
+    table.setTabKeyNavigation(false); // Tab leaves the table, arrows move in it
 }
 
 void wrapLastColumn(QTableWidget & table)
@@ -35,7 +35,7 @@ void wrapLastColumn(QTableWidget & table)
     header->setMaximumSectionSize(-1);
     header->setStretchLastSection(false);
     header->setSectionResizeMode(table.columnCount() - 1, QHeaderView::Stretch);
-    // Queued, since the widths are final only when the header is done.
+    // Queued: the widths are final only when the header is done.
     QObject::connect(header, &QHeaderView::sectionResized, &table, &QTableWidget::resizeRowsToContents,
                      Qt::QueuedConnection);
 }

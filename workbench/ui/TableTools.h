@@ -5,14 +5,14 @@
 
 namespace Workbench {
 
-/// A read-only table with whole rows to select, columns as wide as their content and the last one stretched.
+/// A read-only table: whole rows are selected, columns fit their content, the last one is stretched.
 QTableWidget * makeTable(QStringList const & titles);
 void prepareTable(QTableWidget & table, QStringList const & titles);
 
-/// Lets the texts of the last column wrap at its width; rows become as high as they need, columns as wide.
+/// Wraps the texts of the last column; rows grow as needed, the other columns fit their content.
 void wrapLastColumn(QTableWidget & table);
 
-/// Appends a row of texts, each its own tooltip; the columns in `right` are aligned to the right.
+/// Appends a row of texts, each with itself as tooltip; the columns in `right` are right-aligned.
 void addRow(QTableWidget & table, QStringList const & texts, QList<int> const & right = {});
 
 } // namespace Workbench

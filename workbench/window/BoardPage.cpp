@@ -269,7 +269,7 @@ void BoardPage::deleteSelected()
     BoardView const & view = *currentView();
     std::vector<int> const features(view.selected().begin(), view.selected().end());
     if (features.empty()) {
-        emit status(WindowTexts::tr("Nothing is selected: Ctrl and a click selects a feature."));
+        emit status(WindowTexts::tr("Nothing is selected. Ctrl with a click selects a feature."));
         return;
     }
     if (!Embedded::deleteFeatures(m_session.job(), view.step(), view.layer(), features)) {

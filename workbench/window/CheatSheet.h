@@ -8,7 +8,7 @@ class QTableWidget;
 
 namespace Workbench {
 
-/// The hot keys as they are, and what is odd about the user's own file of them.
+/// The current hot keys, and the findings on the user's own file.
 class CheatSheet : public QDialog
 {
     Q_OBJECT
@@ -16,11 +16,11 @@ class CheatSheet : public QDialog
 public:
     explicit CheatSheet(QWidget * parent = nullptr);
 
-    /// Shows the bindings and judges the file again.
+    /// Shows the bindings and checks the file again.
     void refresh();
     /// Brings the tab with the user's own file to the front.
     void showOwnFile();
-    /// Writes the bindings to a file; the hint tells what became of it.
+    /// Writes the bindings to a file; the hint shows the outcome.
     void exportTo(QString const & path);
 
 private:

@@ -34,7 +34,7 @@ enum Direction
     Left
 };
 
-/// Where a move goes, in sizes of the view.
+/// The direction of a move, in sizes of the view.
 QPointF way(int direction, double part)
 {
     switch (direction) {
@@ -51,14 +51,14 @@ QPointF way(int direction, double part)
 
 } // namespace
 
-/// What a code means here. Without a function the host has nothing for it.
+/// What a code does here. Without a function it is not available in this host.
 struct HotkeyCommands::Command
 {
     FuncCode code;
     char const * text; ///< "group: detail" for the commands of a group, in every language
     QString (HotkeyCommands::*function)(int) = nullptr;
     int argument = 0;
-    bool repeats = false; ///< whether a key that is held down does it again and again
+    bool repeats = false; ///< a key that is held down repeats it
 
     static Command const table[];
 };
@@ -133,7 +133,7 @@ HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
 
 namespace {
 
-// A read-only text is one, too: its keys select and copy.
+// Read-only texts count as well: their keys select and copy.
 bool hasText(QWidget const & widget)
 {
     return qobject_cast<QLineEdit const *>(&widget) != nullptr ||
@@ -144,7 +144,7 @@ bool hasText(QWidget const & widget)
            qobject_cast<QLabel const *>(&widget) != nullptr;
 }
 
-// "S ... G grid, O off": what is left of the sequences that the pending key begins; empty if there are none.
+// "S ... G grid, O off": the continuations of the pending key; empty if there are none.
 QString pendingText()
 {
     QStringList following;
@@ -195,14 +195,14 @@ QString HotkeyCommands::run(FuncCode code)
 
 void HotkeyCommands::perform(FuncCode code)
 {
-    QPointer<HotkeyCommands> const alive(this); // a command may ask, and the window be deleted meanwhile
+    QPointer<HotkeyCommands> const alive(this); // the window may be deleted while a command asks
     QString const text = run(code);
     if (alive) {
         emit status(text);
     }
 }
 
-// A key that its receiver ignores is sent to the parents as well: only the first receiver counts.
+// A key ignored by its receiver is sent to the parents as well; only the first receiver counts.
 bool HotkeyCommands::isOurs(QObject * receiver) const
 {
     QWidget const * const window = m_board.window();
@@ -218,11 +218,11 @@ bool HotkeyCommands::eventFilter(QObject * receiver, QEvent * event)
 bool HotkeyCommands::press(QKeyEvent & event)
 {
     if (event.isAutoRepeat() && event.modifiers() == Qt::NoModifier) {
-        return false; // a key held down is no sequence
+        return false; // a key held down does not begin a sequence
     }
     FuncCode const code = KVHotKey::getInstance()->getFunctionCode(&event);
     if (event.isAutoRepeat() && !command(code).repeats) {
-        return code != KP_NoFunction; // and switches nothing back
+        return code != KP_NoFunction; // and does not switch back
     }
     QPointer<HotkeyCommands> const alive(this);
     QStringList lines;
@@ -339,7 +339,7 @@ QString HotkeyCommands::centre(int /*argument*/)
     return {};
 }
 
-// The first press takes the pointer's place, the second tells how far the pointer is from there.
+// The first press takes the pointer's place, the second shows the distance from there.
 QString HotkeyCommands::measure(int /*argument*/)
 {
     BoardView const & shown = *m_board.currentView();
@@ -351,7 +351,7 @@ QString HotkeyCommands::measure(int /*argument*/)
     if (m_measured != &shown) {
         m_measured = &shown;
         m_measuredFrom = place;
-        return tr("from %1; once more at the other end").arg(positionText(view(), place.x(), place.y()));
+        return tr("from %1; press again at the other end").arg(positionText(view(), place.x(), place.y()));
     }
     m_measured = nullptr;
     QPointF const distance = place - m_measuredFrom;

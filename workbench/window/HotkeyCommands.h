@@ -12,14 +12,14 @@ namespace Workbench {
 class BoardPage;
 class BoardView;
 
-/// Runs the commands of the board's page by their hot keys while the page is in front. Widgets with a text of
-/// their own keep their keys; all others give up those that are hot keys or begin a sequence.
+/// Runs the commands of the board's page by their hot keys while the page is in front. Text widgets keep
+/// their keys; all others give up keys that are hot keys or begin a sequence.
 class HotkeyCommands : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The page stands in its window already; it is not owned and outlives the object. Its view gets the
+    /// The page must be in its window already; it is not owned and outlives the object. Its view gets the
     /// focus.
     HotkeyCommands(BoardPage & board, QObject * parent);
 
@@ -28,7 +28,7 @@ public:
 
     /// What a code means, in a few words.
     static QString text(KVCAM::FuncCode code);
-    /// Whether this host has something for the code.
+    /// Whether the code is available in this host.
     static bool isAvailable(KVCAM::FuncCode code);
 
 signals:
@@ -66,7 +66,7 @@ private:
     QString snap(int mode);
 
     BoardPage & m_board;
-    BoardView const * m_measured = nullptr; ///< the view that the first point stands in
+    BoardView const * m_measured = nullptr; ///< the view of the first point
     QPointF m_measuredFrom;
 };
 

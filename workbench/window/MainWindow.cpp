@@ -44,7 +44,7 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
 {
     resize(1440, 900);
     makeToolBar();
-    m_saveFlag->setChecked(commandLine.saveFlag); // before the views, so that their registration is recorded
+    m_saveFlag->setChecked(commandLine.saveFlag); // before the views, to record their registration
     m_board = new BoardPage(session, log, commandLine.unit, commandLine.output + "/feature-form.json");
     m_pages = new QTabWidget;
     setCentralWidget(m_pages);
@@ -95,9 +95,9 @@ void MainWindow::makeToolBar()
         m_bar->setWindowTitle(tr("View"));
         m_unit->setToolTip(tr("Switches the unit of the shown step's view"));
         m_saveFlag->setText(tr("&Save flag"));
-        m_saveFlag->setToolTip(tr("Makes the engine write what it is told to %1 as well").arg(m_database));
+        m_saveFlag->setToolTip(tr("Makes the engine also write what it is told to %1").arg(m_database));
         m_feature->setText(tr("&Feature"));
-        m_feature->setToolTip(tr("Opens the dialog on a pad; a click on a pad does so, too"));
+        m_feature->setToolTip(tr("Opens the dialog on a pad, as a click on it does"));
         m_language->setToolTip(tr("Language of all texts"));
     });
 }
@@ -210,10 +210,10 @@ void MainWindow::makeStatusBar()
 {
     m_status = new QLabel;
     m_status->setObjectName("hot keys");
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
+    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // texts may be long
     m_pointer = new QLabel;
     m_zoom = new QLabel;
-    statusBar()->addWidget(m_status, 20); // all but what the pointer needs
+    statusBar()->addWidget(m_status, 20); // all except what the pointer needs
     statusBar()->addWidget(m_pointer, 1);
     statusBar()->addPermanentWidget(m_zoom);
     statusBar()->addPermanentWidget(new QLabel(m_session.directory()));
@@ -326,7 +326,7 @@ void MainWindow::showZoom()
 void MainWindow::showStatus(QString const & text)
 {
     m_status->setText(text);
-    m_status->setToolTip(text); // where the window is too narrow
+    m_status->setToolTip(text); // in case the window is too narrow
 }
 
 void MainWindow::showHelp()
@@ -336,9 +336,8 @@ void MainWindow::showHelp()
          tr("The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks "
             "a mark.\nWith the picture in focus the arrow keys move the board, + and - zoom, Home "
             "shows the whole board.\nTicked layers are drawn beside the selected one; Space in the "
-            "list of layers sets and clears the tick.\nCtrl and a click selects a feature or takes it out; "
-            "the "
-            "Delete key deletes what is selected.")});
+            "list of layers sets and clears the tick.\nCtrl with a click selects or deselects a feature; the "
+            "Delete key deletes the selection.")});
 }
 
 void MainWindow::showAbout()

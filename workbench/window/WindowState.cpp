@@ -32,7 +32,7 @@ std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const &
     window.restoreGeometry(settings.value(geometryKey).toByteArray());
     for (auto * splitter : window.findChildren<QSplitter *>()) {
         splitter->restoreState(settings.value(splitterKey(*splitter)).toByteArray());
-        splitter->setChildrenCollapsible(false); // which the state holds, too
+        splitter->setChildrenCollapsible(false); // the state holds this, too
     }
     WindowChoices choices;
     bool isNumber = false;

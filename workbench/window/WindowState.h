@@ -10,7 +10,7 @@ class QMainWindow;
 
 namespace Workbench {
 
-/// What a window shows besides its widgets' own geometry.
+/// What the user has chosen in a window, apart from its geometry.
 struct WindowChoices
 {
     QString page; ///< object name
@@ -18,10 +18,10 @@ struct WindowChoices
     bool chinese = false;
 };
 
-/// Brings the window and its named splitters back as they were kept in a file, each as far as the file holds
-/// sense: a damaged or missing file changes nothing. The result is what was chosen besides, if that was kept.
+/// Restores the window and its named splitters from a file, each as far as the file is valid: a damaged or
+/// missing file changes nothing. Returns the other choices, if they were saved.
 std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const & file);
-/// Keeps them in a file. False, and logged at ERROR, when it cannot be written.
+/// Saves them to a file. False, and logged at ERROR, if it cannot be written.
 bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QString const & file);
 
 } // namespace Workbench
