@@ -35,6 +35,7 @@
 #include "uiapi/flat/Files.h"
 #include "uiapi/flat/Forms.h"
 #include "uiapi/flat/GlobalConfig.h"
+#include "uiapi/flat/HostAddress.h"
 #include "uiapi/flat/LayerFilters.h"
 #include "uiapi/flat/ModifierKeys.h"
 #include "uiapi/flat/PluginCommands.h"

@@ -2,8 +2,8 @@
 
 #include "config/UIAPIGlobalVar.h"
 #include "layers/JobFiles.h"
-#include "layers/JobServer.h"
 #include "layers/LayerFilter.h"
+#include "links/JobServer.h"
 #include "support/Log.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
 

@@ -2,6 +2,7 @@
 
 #include "links/HostAddress.h"
 #include "uiapi/UIAPICommonPara.h"
+#include "uiapi/flat/HostAddress.h"
 #include "uiapi/flat/PluginCommands.h"
 
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "layers/JobServer.h"
+#include "links/JobServer.h"
 
 #include <QByteArray>
 #include <QDeadlineTimer>
