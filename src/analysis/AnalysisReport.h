@@ -106,8 +106,13 @@ public:
 
 private:
     ReportCategory & category(std::string const & table, int number);
+    template <class Lists>
+    void appendAll(ReportCategory & category, std::string const & layer, Lists const & lists) const;
+    void append(ReportCategory & category, std::string const & layer, int level,
+                std::vector<check_info> const & list) const;
+    std::optional<Analysis_Ranges_Record> levelsOf(ReportCategory const & category) const;
+    void gradeEntry(ReportCategory & category, ReportEntry & entry) const;
     void grade(ReportCategory & category) const;
-    void regrade();
 
     std::string m_job;
     std::string m_step;
