@@ -12,8 +12,6 @@
 namespace KVCAM::UIAPI::Ext {
 namespace {
 
-constexpr char const * drillTable = "DrillRanges";
-constexpr char const * signalTable = "SignalLayerRanges";
 constexpr int drillLevels = 3;
 
 struct UnifiedName
@@ -45,7 +43,7 @@ std::string_view unifiedName(int number)
     return found == unifiedNames.end() ? std::string_view() : found->name;
 }
 
-std::string nameOf(std::string const & table, int number)
+std::string nameOf(std::string_view table, int number)
 {
     std::string_view const name =
         table == unifiedTable ? unifiedName(number) : builtInCategoryName(table, number);
@@ -53,9 +51,9 @@ std::string nameOf(std::string const & table, int number)
 }
 
 // Drill before signal before the rest, as they are checked; other tables cannot be added.
-int rankOf(std::string const & table)
+int rankOf(std::string_view table)
 {
-    return table == drillTable ? 0 : table == signalTable ? 1 : 2;
+    return table == Categories::drillRanges.name ? 0 : table == Categories::signalLayerRanges.name ? 1 : 2;
 }
 
 } // namespace
@@ -74,7 +72,7 @@ void AnalysisReport::addDrill(
             for (int level = 0; level < drillLevels; ++level) {
                 auto const & list = reply.list(static_cast<drill_check_item>(known.number), level);
                 if (!list.empty()) {
-                    append(category(drillTable, known.number), layer, level, list);
+                    append(category(Categories::drillRanges.name, known.number), layer, level, list);
                 }
             }
         }
@@ -86,7 +84,7 @@ void AnalysisReport::addSignal(
 {
     for (auto const & [layer, reply] : replies) {
         for (auto const & [item, result] : reply) {
-            appendAll(category(signalTable, item), layer, result.lists);
+            appendAll(category(Categories::signalLayerRanges.name, item), layer, result.lists);
         }
     }
 }
@@ -150,7 +148,7 @@ SeverityCounts AnalysisReport::counts() const
     return sum;
 }
 
-ReportCategory & AnalysisReport::category(std::string const & table, int number)
+ReportCategory & AnalysisReport::category(std::string_view table, int number)
 {
     auto const position =
         std::lower_bound(m_categories.begin(), m_categories.end(), std::pair(rankOf(table), number),

@@ -13,6 +13,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Additions to the fixed interface. They are opt-in and change none of its results.
@@ -105,7 +106,7 @@ public:
     std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
 
 private:
-    ReportCategory & category(std::string const & table, int number);
+    ReportCategory & category(std::string_view table, int number);
     template <class Lists>
     void appendAll(ReportCategory & category, std::string const & layer, Lists const & lists) const;
     void append(ReportCategory & category, std::string const & layer, int level,
