@@ -2,7 +2,7 @@
 
 #include "analysis/CategoryDictionary.h"
 #include "analysis/CategoryTables.h"
-#include "units/UnitConversion.h"
+#include "analysis/CheckKinds.h"
 
 #include <algorithm>
 #include <functional>
@@ -12,8 +12,6 @@
 namespace KVCAM::UIAPI::Ext {
 namespace {
 
-constexpr char const * drillTable = "DrillRanges";
-constexpr char const * signalTable = "SignalLayerRanges";
 constexpr int drillLevels = 3;
 
 struct UnifiedName
@@ -45,7 +43,7 @@ std::string_view unifiedName(int number)
     return found == unifiedNames.end() ? std::string_view() : found->name;
 }
 
-std::string nameOf(std::string const & table, int number)
+std::string nameOf(std::string_view table, int number)
 {
     std::string_view const name =
         table == unifiedTable ? unifiedName(number) : builtInCategoryName(table, number);
@@ -53,41 +51,9 @@ std::string nameOf(std::string const & table, int number)
 }
 
 // Drill before signal before the rest, as they are checked; other tables cannot be added.
-int rankOf(std::string const & table)
+int rankOf(std::string_view table)
 {
-    return table == drillTable ? 0 : table == signalTable ? 1 : 2;
-}
-
-// Every kind starts with a place; the kinds 1 and 2 have two.
-std::optional<KVCAM::API::point> positionOf(check_info const & info)
-{
-    std::vector<int> const & points = info.points;
-    bool const isPair = info.type == 1 || info.type == 2;
-    if (points.size() < (isPair ? 4U : 2U)) {
-        return std::nullopt;
-    }
-    KVCAM::API::point const first{static_cast<double>(points[0]), static_cast<double>(points[1])};
-    if (!isPair) {
-        return first;
-    }
-    return KVCAM::API::point{(first.x + points[2]) / 2, (first.y + points[3]) / 2};
-}
-
-void append(ReportCategory & category, std::string const & layer, std::size_t level,
-            std::vector<check_info> const & list)
-{
-    for (check_info const & info : list) {
-        category.entries.push_back({layer, static_cast<int>(level), info.value, Units::measuredValue(info),
-                                    positionOf(info), Severity::None});
-    }
-}
-
-template <class Lists>
-void appendAll(ReportCategory & category, std::string const & layer, Lists const & lists)
-{
-    for (std::size_t level = 0; level < lists.size(); ++level) {
-        append(category, layer, level, lists[level]);
-    }
+    return table == Categories::drillRanges.name ? 0 : table == Categories::signalLayerRanges.name ? 1 : 2;
 }
 
 } // namespace
@@ -106,12 +72,11 @@ void AnalysisReport::addDrill(
             for (int level = 0; level < drillLevels; ++level) {
                 auto const & list = reply.list(static_cast<drill_check_item>(known.number), level);
                 if (!list.empty()) {
-                    append(category(drillTable, known.number), layer, static_cast<std::size_t>(level), list);
+                    append(category(Categories::drillRanges.name, known.number), layer, level, list);
                 }
             }
         }
     }
-    regrade();
 }
 
 void AnalysisReport::addSignal(
@@ -119,10 +84,9 @@ void AnalysisReport::addSignal(
 {
     for (auto const & [layer, reply] : replies) {
         for (auto const & [item, result] : reply) {
-            appendAll(category(signalTable, item), layer, result.lists);
+            appendAll(category(Categories::signalLayerRanges.name, item), layer, result.lists);
         }
     }
-    regrade();
 }
 
 void AnalysisReport::addRest(
@@ -134,7 +98,6 @@ void AnalysisReport::addRest(
             appendAll(target, layer, result.groups);
         }
     }
-    regrade();
 }
 
 void AnalysisReport::addNotChecked(NotChecked check)
@@ -162,7 +125,9 @@ void AnalysisReport::setLevels(std::string const & table, std::vector<Analysis_R
 void AnalysisReport::setLevelUnit(LevelUnit unit)
 {
     m_unit = unit;
-    regrade();
+    for (ReportCategory & entry : m_categories) {
+        grade(entry);
+    }
 }
 
 ReportCategory const * AnalysisReport::find(std::string const & table, int number) const
@@ -183,7 +148,7 @@ SeverityCounts AnalysisReport::counts() const
     return sum;
 }
 
-ReportCategory & AnalysisReport::category(std::string const & table, int number)
+ReportCategory & AnalysisReport::category(std::string_view table, int number)
 {
     auto const position =
         std::lower_bound(m_categories.begin(), m_categories.end(), std::pair(rankOf(table), number),
@@ -197,30 +162,54 @@ ReportCategory & AnalysisReport::category(std::string const & table, int number)
     made.table = table;
     made.number = number;
     made.name = nameOf(table, number);
+    made.levels = levelsOf(made);
     return *m_categories.insert(position, std::move(made));
+}
+
+template <class Lists>
+void AnalysisReport::appendAll(ReportCategory & category, std::string const & layer,
+                               Lists const & lists) const
+{
+    for (std::size_t level = 0; level < lists.size(); ++level) {
+        append(category, layer, static_cast<int>(level), lists[level]);
+    }
+}
+
+void AnalysisReport::append(ReportCategory & category, std::string const & layer, int level,
+                            std::vector<check_info> const & list) const
+{
+    for (check_info const & info : list) {
+        category.entries.push_back(
+            {layer, level, info.value, measuredValue(info), positionOf(info), Severity::None});
+        gradeEntry(category, category.entries.back());
+    }
+}
+
+std::optional<Analysis_Ranges_Record> AnalysisReport::levelsOf(ReportCategory const & category) const
+{
+    if (auto const table = m_levels.find(category.table); table != m_levels.end()) {
+        if (auto const record = table->second.find(category.name); record != table->second.end()) {
+            return record->second;
+        }
+    }
+    return std::nullopt;
+}
+
+// An entry is counted where it is graded.
+void AnalysisReport::gradeEntry(ReportCategory & category, ReportEntry & entry) const
+{
+    entry.severity = category.levels && entry.micrometres
+                         ? gradeMeasured(*category.levels, *entry.micrometres, m_unit)
+                         : Severity::None;
+    ++category.counts[static_cast<std::size_t>(entry.severity)];
 }
 
 void AnalysisReport::grade(ReportCategory & category) const
 {
-    category.levels.reset();
-    if (auto const table = m_levels.find(category.table); table != m_levels.end()) {
-        if (auto const record = table->second.find(category.name); record != table->second.end()) {
-            category.levels = record->second;
-        }
-    }
+    category.levels = levelsOf(category);
     category.counts = {};
     for (ReportEntry & entry : category.entries) {
-        entry.severity = category.levels && entry.micrometres
-                             ? gradeMeasured(*category.levels, *entry.micrometres, m_unit)
-                             : Severity::None;
-        ++category.counts[static_cast<std::size_t>(entry.severity)];
-    }
-}
-
-void AnalysisReport::regrade()
-{
-    for (ReportCategory & entry : m_categories) {
-        grade(entry);
+        gradeEntry(category, entry);
     }
 }
 

@@ -13,6 +13,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Additions to the fixed interface. They are opt-in and change none of its results.
@@ -105,9 +106,14 @@ public:
     std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
 
 private:
-    ReportCategory & category(std::string const & table, int number);
+    ReportCategory & category(std::string_view table, int number);
+    template <class Lists>
+    void appendAll(ReportCategory & category, std::string const & layer, Lists const & lists) const;
+    void append(ReportCategory & category, std::string const & layer, int level,
+                std::vector<check_info> const & list) const;
+    std::optional<Analysis_Ranges_Record> levelsOf(ReportCategory const & category) const;
+    void gradeEntry(ReportCategory & category, ReportEntry & entry) const;
     void grade(ReportCategory & category) const;
-    void regrade();
 
     std::string m_job;
     std::string m_step;

@@ -4,17 +4,21 @@
 #include "analysis/CategoryTables.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace KVCAM::UIAPI {
 namespace {
 
-Categories::Table const * builtInTable(std::string_view name)
+// Empty without a table, and for a number that it lacks.
+std::string_view nameIn(Categories::Table const * table, int number)
 {
-    auto const found = std::find_if(Categories::tables.begin(), Categories::tables.end(),
-                                    [&](Categories::Table const & table) { return table.name == name; });
-    return found == Categories::tables.end() ? nullptr : &*found;
+    if (table == nullptr) {
+        return {};
+    }
+    auto const found = std::lower_bound(
+        table->begin(), table->end(), number,
+        [](Categories::Category const & category, int wanted) { return category.number < wanted; });
+    return found == table->end() || found->number != number ? std::string_view() : found->name;
 }
 
 } // namespace
@@ -37,124 +41,110 @@ void CategoryDictionary::insertAll()
     insertPowerGroundOptRout();
 }
 
-int CategoryDictionary::getRangesEnum(std::string const & tableName, std::string const & categoryName) const
+Categories::Table const * CategoryDictionary::find(std::string_view tableName) const
 {
-    auto const table = m_tables.find(tableName);
-    if (table == m_tables.end()) {
-        return -1;
-    }
-    // A name may stand twice ("SM local spacing"); the smaller number answers.
-    auto const found = std::find_if(table->second.begin(), table->second.end(),
-                                    [&](auto const & entry) { return entry.second == categoryName; });
-    return found == table->second.end() ? -1 : found->first;
+    auto const found = m_tables.find(tableName);
+    return found == m_tables.end() ? nullptr : found->second;
 }
 
-std::string CategoryDictionary::getRangesName(std::string const & tableName, int number) const
+int CategoryDictionary::getRangesEnum(std::string_view tableName, std::string_view categoryName) const
 {
-    auto const table = m_tables.find(tableName);
-    if (table == m_tables.end()) {
-        return {};
+    Categories::Table const * table = find(tableName);
+    if (table == nullptr) {
+        return -1;
     }
-    auto const found = table->second.find(number);
-    return found == table->second.end() ? std::string() : found->second;
+    // A name may stand twice ("SM local spacing"); the smaller number answers, as the table ascends.
+    auto const found = std::find_if(table->begin(), table->end(), [&](Categories::Category const & category) {
+        return category.name == categoryName;
+    });
+    return found == table->end() ? -1 : found->number;
+}
+
+std::string CategoryDictionary::getRangesName(std::string_view tableName, int number) const
+{
+    return std::string(nameIn(find(tableName), number));
 }
 
 void CategoryDictionary::insertDrillRout()
 {
-    insertTable("DrillRanges");
+    insertTable(Categories::drillRanges);
 }
 
 void CategoryDictionary::insertBoardDrillRout()
 {
-    insertTable("BoardDrillRanges");
+    insertTable(Categories::boardDrillRanges);
 }
 
 void CategoryDictionary::insertSolidMaskRout()
 {
-    insertTable("SolderMaskRanges");
+    insertTable(Categories::solderMaskRanges);
 }
 
 void CategoryDictionary::insertSignalLayerRout()
 {
-    insertTable("SignalLayerRanges");
+    insertTable(Categories::signalLayerRanges);
 }
 
 void CategoryDictionary::insertSurfaceAnalyzerRout()
 {
-    insertTable("SurfaceAnalyzerRanges");
+    insertTable(Categories::surfaceAnalyzerRanges);
 }
 
 void CategoryDictionary::insertSilkScreenRout()
 {
-    insertTable("SilkScreenRanges");
+    insertTable(Categories::silkScreenRanges);
 }
 
 void CategoryDictionary::insertPrepareCheckRout()
 {
-    insertTable("PrePareRanges");
+    insertTable(Categories::prePareRanges);
 }
 
 void CategoryDictionary::insertSolderMaskOpt()
 {
-    insertTable("SolderMaskOptRanges");
+    insertTable(Categories::solderMaskOptRanges);
 }
 
 void CategoryDictionary::insertDFMSignalLayerOptRout()
 {
-    insertTable("SignalLayerOptRanges");
+    insertTable(Categories::signalLayerOptRanges);
 }
 
 void CategoryDictionary::insertDFMTeardropsRout()
 {
-    insertTable("TeardropsRanges");
+    insertTable(Categories::teardropsRanges);
 }
 
 void CategoryDictionary::insertNFPRemovalRout()
 {
-    insertTable("NFPRemoval");
+    insertTable(Categories::nfpRemoval);
 }
 
 void CategoryDictionary::insertPadSnappingRout()
 {
-    insertTable("PadSnappingRanges");
+    insertTable(Categories::padSnappingRanges);
 }
 
 void CategoryDictionary::insertPowerGroundRout()
 {
-    insertTable("PowerGroundRanges");
+    insertTable(Categories::powerGroundRanges);
 }
 
 void CategoryDictionary::insertPowerGroundOptRout()
 {
-    insertTable("PowerGroundOptRanges");
+    insertTable(Categories::powerGroundOptRanges);
 }
 
-void CategoryDictionary::insertPair(int number, std::string name, Numbers & table)
+void CategoryDictionary::insertTable(Categories::Table const & table)
 {
-    table.try_emplace(number, std::move(name));
-}
-
-void CategoryDictionary::insertTable(std::string_view name)
-{
-    Numbers numbers;
-    if (Categories::Table const * table = builtInTable(name)) {
-        for (Categories::Category const & category : *table) {
-            insertPair(category.number, std::string(category.name), numbers);
-        }
-    }
-    m_tables.insert_or_assign(std::string(name), std::move(numbers));
+    m_tables.insert_or_assign(table.name, &table);
 }
 
 std::string_view builtInCategoryName(std::string_view tableName, int number)
 {
-    Categories::Table const * table = builtInTable(tableName);
-    if (table == nullptr) {
-        return {};
-    }
-    auto const found = std::lower_bound(
-        table->begin(), table->end(), number,
-        [](Categories::Category const & category, int wanted) { return category.number < wanted; });
-    return found == table->end() || found->number != number ? std::string_view() : found->name;
+    auto const found = std::find_if(Categories::tables.begin(), Categories::tables.end(),
+                                    [&](Categories::Table const & table) { return table.name == tableName; });
+    return found == Categories::tables.end() ? std::string_view() : nameIn(&*found, number);
 }
 
 std::vector<std::string> Ext::categoryTables()

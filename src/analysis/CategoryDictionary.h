@@ -6,7 +6,12 @@
 
 namespace KVCAM::UIAPI {
 
-/// The result categories by table and number, made of the built-in tables and never changed afterwards.
+namespace Categories {
+struct Table;
+}
+
+/// The result categories by table and number: the built-in tables that were registered. They are looked up,
+/// not copied.
 class CategoryDictionary
 {
 public:
@@ -15,11 +20,11 @@ public:
 
     /// The smallest number of that name in the table, byte for byte; -1 when the table or the name is
     /// unknown.
-    int getRangesEnum(std::string const & tableName, std::string const & categoryName) const;
+    int getRangesEnum(std::string_view tableName, std::string_view categoryName) const;
     /// Empty when the table or the number is unknown.
-    std::string getRangesName(std::string const & tableName, int number) const;
+    std::string getRangesName(std::string_view tableName, int number) const;
 
-    // Each builds one table.
+    // Each registers one table.
     void insertDrillRout();
     void insertBoardDrillRout();
     void insertSolidMaskRout();
@@ -36,13 +41,11 @@ public:
     void insertPowerGroundOptRout();
 
 private:
-    using Numbers = std::map<int, std::string>;
+    void insertTable(Categories::Table const & table);
+    /// Null for a table that was not registered.
+    Categories::Table const * find(std::string_view tableName) const;
 
-    /// Keeps the name that a number has already.
-    static void insertPair(int number, std::string name, Numbers & table);
-    void insertTable(std::string_view name);
-
-    std::map<std::string, Numbers> m_tables;
+    std::map<std::string_view, Categories::Table const *> m_tables; // by name, which the table holds
 };
 
 /// The name of a category in the built-in tables; empty when the table or the number is unknown.

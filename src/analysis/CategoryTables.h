@@ -14,7 +14,23 @@ struct Category
     std::string_view name;
 };
 
-inline constexpr std::array<Category, 38> drillRanges = {{
+/// One table under the name that the dictionary and, usually, a range file have for it.
+struct Table
+{
+    template <std::size_t Count>
+    constexpr Table(std::string_view tableName, std::array<Category, Count> const & rows)
+        : name(tableName), first(rows.data()), count(Count)
+    {}
+
+    std::string_view name;
+    Category const * first;
+    std::size_t count;
+
+    constexpr Category const * begin() const { return first; }
+    constexpr Category const * end() const { return first + count; }
+};
+
+inline constexpr std::array<Category, 38> drillRangesRows = {{
     {0, "PTH Summary"},
     {1, "NPTH Summary"},
     {2, "Via Summary"},
@@ -54,8 +70,9 @@ inline constexpr std::array<Category, 38> drillRanges = {{
     {36, "Same Net Close VIA2PTH"},
     {37, "Different Net Close VIA2PTH"},
 }};
+inline constexpr Table drillRanges{"DrillRanges", drillRangesRows};
 
-inline constexpr std::array<Category, 14> boardDrillRanges = {{
+inline constexpr std::array<Category, 14> boardDrillRangesRows = {{
     {0, "Via to Via"},
     {1, "Via to PTH"},
     {2, "Via to NPTH"},
@@ -71,8 +88,9 @@ inline constexpr std::array<Category, 14> boardDrillRanges = {{
     {12, "Laser to NPTH"},
     {13, "Laser to Rout"},
 }};
+inline constexpr Table boardDrillRanges{"BoardDrillRanges", boardDrillRangesRows};
 
-inline constexpr std::array<Category, 86> solderMaskRanges = {{
+inline constexpr std::array<Category, 86> solderMaskRangesRows = {{
     {0, "PTH annular Ring"},
     {1, "NPTH annular Ring"},
     {2, "Via annular Ring"},
@@ -160,8 +178,9 @@ inline constexpr std::array<Category, 86> solderMaskRanges = {{
     {84, "No Bridge (BGA Pads)"},
     {85, "SM local spacing"},
 }};
+inline constexpr Table solderMaskRanges{"SolderMaskRanges", solderMaskRangesRows};
 
-inline constexpr std::array<Category, 82> signalLayerRanges = {{
+inline constexpr std::array<Category, 82> signalLayerRangesRows = {{
     {0, "Pad to pad"},
     {1, "Pad to circuit"},
     {2, "SMD to circuit"},
@@ -245,8 +264,9 @@ inline constexpr std::array<Category, 82> signalLayerRanges = {{
     {81, "Pad to surface(spacing)"},
     {82, "VIA to Copper(Same net)"},
 }};
+inline constexpr Table signalLayerRanges{"SignalLayerRanges", signalLayerRangesRows};
 
-inline constexpr std::array<Category, 11> surfaceAnalyzerRanges = {{
+inline constexpr std::array<Category, 11> surfaceAnalyzerRangesRows = {{
     {0, "Self-intersection in surface"},
     {1, "Self-intersection in symbol"},
     {2, "Problematic surface"},
@@ -259,8 +279,9 @@ inline constexpr std::array<Category, 11> surfaceAnalyzerRanges = {{
     {9, "Small edge in surface"},
     {10, "Small edge in symbol"},
 }};
+inline constexpr Table surfaceAnalyzerRanges{"SurfaceAnalyzerRanges", surfaceAnalyzerRangesRows};
 
-inline constexpr std::array<Category, 27> silkScreenRanges = {{
+inline constexpr std::array<Category, 27> silkScreenRangesRows = {{
     {0, "SM Clearance"},
     {1, "SMD Clearance"},
     {2, "PTH pads Clearance"},
@@ -289,8 +310,9 @@ inline constexpr std::array<Category, 27> silkScreenRanges = {{
     {25, "SS Over Text"},
     {26, "SS Over Channel"},
 }};
+inline constexpr Table silkScreenRanges{"SilkScreenRanges", silkScreenRangesRows};
 
-inline constexpr std::array<Category, 31> prePareRanges = {{
+inline constexpr std::array<Category, 31> prePareRangesRows = {{
     {0, "Org step check"},
     {1, "Org solder paste top layer check"},
     {2, "Org silk screen top layer check"},
@@ -323,8 +345,9 @@ inline constexpr std::array<Category, 31> prePareRanges = {{
     {29, "Prepare board layer symbol size check"},
     {30, "Prepare step drill pad poisition check"},
 }};
+inline constexpr Table prePareRanges{"PrePareRanges", prePareRangesRows};
 
-inline constexpr std::array<Category, 19> solderMaskOptRanges = {{
+inline constexpr std::array<Category, 19> solderMaskOptRangesRows = {{
     {0, "No Violations"},
     {1, "Violations (Optimal)"},
     {2, "Opt.Cover Only"},
@@ -345,8 +368,9 @@ inline constexpr std::array<Category, 19> solderMaskOptRanges = {{
     {17, "Shave Avoided"},
     {18, "Shaves"},
 }};
+inline constexpr Table solderMaskOptRanges{"SolderMaskOptRanges", solderMaskOptRangesRows};
 
-inline constexpr std::array<Category, 19> signalLayerOptRanges = {{
+inline constexpr std::array<Category, 19> signalLayerOptRangesRows = {{
     {1, "ARG repaired"},
     {2, "ARG violation(min)"},
     {3, "ARG violation(opt)"},
@@ -367,8 +391,9 @@ inline constexpr std::array<Category, 19> signalLayerOptRanges = {{
     {18, "Filled polygon shave"},
     {19, "Unfillable polygon shave"},
 }};
+inline constexpr Table signalLayerOptRanges{"SignalLayerOptRanges", signalLayerOptRangesRows};
 
-inline constexpr std::array<Category, 10> teardropsRanges = {{
+inline constexpr std::array<Category, 10> teardropsRangesRows = {{
     {1, "Full Teardrops"},
     {2, "One Sided Teardrops"},
     {3, "Shortened Teardrops"},
@@ -380,21 +405,24 @@ inline constexpr std::array<Category, 10> teardropsRanges = {{
     {9, "Updated Teardrops Size"},
     {10, "Suspected Teardrop"},
 }};
+inline constexpr Table teardropsRanges{"TeardropsRanges", teardropsRangesRows};
 
-inline constexpr std::array<Category, 4> nfpRemoval = {{
+inline constexpr std::array<Category, 4> nfpRemovalRows = {{
     {1, "Isolated"},
     {2, "Duplicate"},
     {3, "Drilled Over"},
     {4, "Covered"},
 }};
+inline constexpr Table nfpRemoval{"NFPRemoval", nfpRemovalRows};
 
-inline constexpr std::array<Category, 3> padSnappingRanges = {{
+inline constexpr std::array<Category, 3> padSnappingRangesRows = {{
     {0, "Snapped pads"},
     {1, "Un Snapped pads"},
     {2, "Spacing problems"},
 }};
+inline constexpr Table padSnappingRanges{"PadSnappingRanges", padSnappingRangesRows};
 
-inline constexpr std::array<Category, 38> powerGroundRanges = {{
+inline constexpr std::array<Category, 38> powerGroundRangesRows = {{
     {0, "NPTH to Copper"},
     {1, "NPTH to Plane"},
     {2, "PTH Annular Ring"},
@@ -434,8 +462,9 @@ inline constexpr std::array<Category, 38> powerGroundRanges = {{
     {37, "Laser Via Annular Ring"},
     {38, "Photo Via Annular Ring"},
 }};
+inline constexpr Table powerGroundRanges{"PowerGroundRanges", powerGroundRangesRows};
 
-inline constexpr std::array<Category, 27> powerGroundOptRanges = {{
+inline constexpr std::array<Category, 27> powerGroundOptRangesRows = {{
     {1, "Via AirGap Not Modified"},
     {2, "Via AirGap Modified"},
     {3, "Via Spacing Not Modified"},
@@ -464,35 +493,13 @@ inline constexpr std::array<Category, 27> powerGroundOptRanges = {{
     {26, "Pad Misregistration"},
     {27, "Build Donut"},
 }};
-
-/// One table under the name that the dictionary and, usually, a range file have for it.
-struct Table
-{
-    std::string_view name;
-    Category const * first;
-    std::size_t count;
-
-    constexpr Category const * begin() const { return first; }
-    constexpr Category const * end() const { return first + count; }
-};
+inline constexpr Table powerGroundOptRanges{"PowerGroundOptRanges", powerGroundOptRangesRows};
 
 /// In the order of the dictionary's making.
-inline constexpr std::array<Table, 14> tables = {{
-    {"DrillRanges", drillRanges.data(), drillRanges.size()},
-    {"BoardDrillRanges", boardDrillRanges.data(), boardDrillRanges.size()},
-    {"SolderMaskRanges", solderMaskRanges.data(), solderMaskRanges.size()},
-    {"SignalLayerRanges", signalLayerRanges.data(), signalLayerRanges.size()},
-    {"SurfaceAnalyzerRanges", surfaceAnalyzerRanges.data(), surfaceAnalyzerRanges.size()},
-    {"SilkScreenRanges", silkScreenRanges.data(), silkScreenRanges.size()},
-    {"PrePareRanges", prePareRanges.data(), prePareRanges.size()},
-    {"SolderMaskOptRanges", solderMaskOptRanges.data(), solderMaskOptRanges.size()},
-    {"SignalLayerOptRanges", signalLayerOptRanges.data(), signalLayerOptRanges.size()},
-    {"TeardropsRanges", teardropsRanges.data(), teardropsRanges.size()},
-    {"NFPRemoval", nfpRemoval.data(), nfpRemoval.size()},
-    {"PadSnappingRanges", padSnappingRanges.data(), padSnappingRanges.size()},
-    {"PowerGroundRanges", powerGroundRanges.data(), powerGroundRanges.size()},
-    {"PowerGroundOptRanges", powerGroundOptRanges.data(), powerGroundOptRanges.size()},
-}};
+inline constexpr std::array<Table, 14> tables = {
+    {drillRanges, boardDrillRanges, solderMaskRanges, signalLayerRanges, surfaceAnalyzerRanges,
+     silkScreenRanges, prePareRanges, solderMaskOptRanges, signalLayerOptRanges, teardropsRanges, nfpRemoval,
+     padSnappingRanges, powerGroundRanges, powerGroundOptRanges}};
 
 /// Whether the numbers of a table run from `first` to `last` without a gap except at `unassigned` (-1: none).
 constexpr bool runs(Table const & table, int first, int last, int unassigned = -1)
@@ -518,19 +525,19 @@ constexpr std::size_t total()
 }
 
 static_assert(total() == 409);
-static_assert(runs(tables[0], 0, 37));
-static_assert(runs(tables[1], 0, 13));
-static_assert(runs(tables[2], 0, 85));
-static_assert(runs(tables[3], 0, 82, 63));
-static_assert(runs(tables[4], 0, 10));
-static_assert(runs(tables[5], 0, 26));
-static_assert(runs(tables[6], 0, 30));
-static_assert(runs(tables[7], 0, 18));
-static_assert(runs(tables[8], 1, 19));
-static_assert(runs(tables[9], 1, 10));
-static_assert(runs(tables[10], 1, 4));
-static_assert(runs(tables[11], 0, 2));
-static_assert(runs(tables[12], 0, 38, 12));
-static_assert(runs(tables[13], 1, 27));
+static_assert(runs(drillRanges, 0, 37));
+static_assert(runs(boardDrillRanges, 0, 13));
+static_assert(runs(solderMaskRanges, 0, 85));
+static_assert(runs(signalLayerRanges, 0, 82, 63));
+static_assert(runs(surfaceAnalyzerRanges, 0, 10));
+static_assert(runs(silkScreenRanges, 0, 26));
+static_assert(runs(prePareRanges, 0, 30));
+static_assert(runs(solderMaskOptRanges, 0, 18));
+static_assert(runs(signalLayerOptRanges, 1, 19));
+static_assert(runs(teardropsRanges, 1, 10));
+static_assert(runs(nfpRemoval, 1, 4));
+static_assert(runs(padSnappingRanges, 0, 2));
+static_assert(runs(powerGroundRanges, 0, 38, 12));
+static_assert(runs(powerGroundOptRanges, 1, 27));
 
 } // namespace KVCAM::UIAPI::Categories

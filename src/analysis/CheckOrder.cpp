@@ -1,6 +1,7 @@
 #include "analysis/CheckOrder.h"
 
 #include "analysis/BoundedMergeSort.h"
+#include "analysis/CheckKinds.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +12,6 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-constexpr std::array<std::size_t, 3> comparedPoints = {2, 4, 6};
 constexpr std::size_t unordered = comparedPoints.size();
 
 // Of the radix sort. Below so many entries its tables cost more than merging.
@@ -21,18 +21,12 @@ constexpr std::size_t fewest = 1000;
 // Which of the compared points counts for a kind.
 std::size_t slotOf(int kind)
 {
-    switch (kind) {
-    case 0:
-    case 5: // although the measured value is the smaller of the third and the fourth point
-        return 0;
-    case 1:
-    case 2:
-        return 1;
-    case 3:
-        return 2;
-    default:
-        return unordered;
+    std::size_t const point = checkKind(kind).compared;
+    std::size_t slot = 0;
+    while (slot < unordered && comparedPoints[slot] != point) {
+        ++slot;
     }
+    return slot;
 }
 
 // What the comparison reads of an entry, so that it is looked up once and not once per comparison.

@@ -7,9 +7,9 @@
 
 namespace KVCAM::UIAPI {
 
-/// Whether `a` goes before `b`: the third (kinds 0 and 5), fifth (1 and 2) or seventh (3) point of both is
-/// compared, as a's kind says. False where one of them lacks that point; true for every other kind of a,
-/// which is no order and kept as it is.
+/// Whether `a` goes before `b`: the point by which a's kind is compared (see CheckKinds.h) is smaller in `a`.
+/// False where one of them lacks that point; always true for a kind without one, which is no order and kept
+/// as it is.
 bool goesBefore(check_info const & a, check_info const & b);
 
 /// The entries of the lists, one list after the other, sorted ascending by goesBefore(), stably where that is

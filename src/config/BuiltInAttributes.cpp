@@ -1,14 +1,12 @@
 #include "config/BuiltInAttributes.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
 
 namespace KVCAM::UIAPI {
 namespace {
-
-// A text list of the table below, null-terminated.
-using Values = char const * const *;
 
 constexpr char const * none[] = {nullptr};
 constexpr char const * areas[] = {"bga_area", "half", "v-cut", "unknown", nullptr};
@@ -21,13 +19,7 @@ constexpr char const * repairs[] = {"repair", "repair_line", "broken", "trace", 
 constexpr char const * impedance[] = {"sig1", "sig2", "sig3", "sig4", "sig5", "dif1",
                                       "dif2", "dif3", "dif4", "dif5", nullptr};
 
-struct Row
-{
-    char const * name;
-    Values offered;
-};
-
-constexpr std::array<Row, 31> table = {{
+constexpr std::array<BuiltInAttributes::Row, 31> table = {{
     {".area", areas},
     {".avoid_shave", closeness},
     {".ball_pad", none},
@@ -81,20 +73,19 @@ static_assert(namesAreUniqueSystemNames());
 
 void BuiltInAttributes::initTotalAttributes()
 {
-    for (Row const & row : table) {
-        Entry & entry = m_entries[row.name];
-        entry.offered.clear();
-        for (Values value = row.offered; *value != nullptr; ++value) {
-            entry.offered.emplace_back(*value);
-        }
-        entry.takesListedValue = !entry.offered.empty();
-    }
+    m_begin = table.data();
+    m_end = m_begin + table.size();
 }
 
 void BuiltInAttributes::getChildAttribute(std::string const & name, std::vector<std::string> & out) const
 {
-    auto const found = m_entries.find(name);
-    out = found == m_entries.end() ? std::vector<std::string>{} : found->second.offered;
+    auto const row = std::find_if(begin(), end(), [&](Row const & each) { return each.name == name; });
+    out.clear(); // not before, since the name may stand in it
+    if (row != end()) {
+        for (char const * const * value = row->offered; *value != nullptr; ++value) {
+            out.emplace_back(*value);
+        }
+    }
 }
 
 } // namespace KVCAM::UIAPI

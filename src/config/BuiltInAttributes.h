@@ -1,29 +1,34 @@
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
 namespace KVCAM::UIAPI {
 
-/// The values that the known system attributes offer.
+/// The values that the known system attributes offer. Nothing is known before initTotalAttributes().
 class BuiltInAttributes
 {
 public:
-    struct Entry
+    struct Row
     {
-        bool takesListedValue = false; ///< the attribute's value is one of `offered`
-        std::vector<std::string> offered;
+        char const * name;            ///< ".drill"
+        char const * const * offered; ///< null-terminated
     };
 
-    /// Fills the list.
+    /// Registers the list.
     void initTotalAttributes();
     /// Assigns the offered values of an attribute; none for one that the list does not hold.
     void getChildAttribute(std::string const & name, std::vector<std::string> & out) const;
-    std::map<std::string, Entry> const & entries() const { return m_entries; }
+
+    ///@{
+    /// The list, in the order of its making.
+    Row const * begin() const { return m_begin; }
+    Row const * end() const { return m_end; }
+    ///@}
 
 private:
-    std::map<std::string, Entry> m_entries;
+    Row const * m_begin = nullptr;
+    Row const * m_end = nullptr;
 };
 
 } // namespace KVCAM::UIAPI

@@ -5,8 +5,8 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-template <class Table, class Matches>
-FuncCode firstCode(Table const & table, Matches const & matches)
+template <class Matches>
+FuncCode firstCode(std::vector<HotkeyEntry> const & table, Matches const & matches)
 {
     auto const entry = std::find_if(table.begin(), table.end(), matches);
     return entry == table.end() ? KP_NoFunction : entry->code;
@@ -16,12 +16,7 @@ FuncCode firstCode(Table const & table, Matches const & matches)
 
 void HotkeyTables::add(HotkeyEntry const & entry)
 {
-    if (entry.isSequence()) {
-        sequences.push_back({std::make_unique<std::pair<int, int>>(entry.key, entry.second), entry.code});
-    } else {
-        singles.push_back(
-            {std::make_unique<QKeyEvent>(QEvent::KeyPress, entry.key, entry.modifiers), entry.code});
-    }
+    (entry.isSequence() ? sequences : singles).push_back(entry);
 }
 
 void HotkeyTables::addDefaults()
@@ -33,26 +28,21 @@ void HotkeyTables::addDefaults()
 
 FuncCode HotkeyTables::find(int key, Qt::KeyboardModifiers modifiers) const
 {
-    return firstCode(singles, [&](Single const & entry) {
-        return entry.event->key() == key && entry.event->modifiers() == modifiers;
-    });
+    return firstCode(
+        singles, [&](HotkeyEntry const & entry) { return entry.key == key && entry.modifiers == modifiers; });
 }
 
 FuncCode HotkeyTables::find(std::pair<int, int> const & keys) const
 {
-    return firstCode(sequences, [&](Sequence const & entry) { return *entry.keys == keys; });
+    return firstCode(sequences, [&](HotkeyEntry const & entry) {
+        return entry.key == keys.first && entry.second == keys.second;
+    });
 }
 
 std::vector<HotkeyEntry> HotkeyTables::entries() const
 {
-    std::vector<HotkeyEntry> result;
-    result.reserve(singles.size() + sequences.size());
-    for (Single const & entry : singles) {
-        result.push_back({entry.code, entry.event->modifiers(), entry.event->key(), noKey});
-    }
-    for (Sequence const & entry : sequences) {
-        result.push_back({entry.code, Qt::NoModifier, entry.keys->first, entry.keys->second});
-    }
+    std::vector<HotkeyEntry> result = singles;
+    result.insert(result.end(), sequences.begin(), sequences.end());
     return result;
 }
 

@@ -2,9 +2,8 @@
 
 #include "hotkey/FunctionTable.h"
 
-#include <QKeyEvent>
+#include <qnamespace.h>
 
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -22,21 +21,11 @@ struct HotkeyEntry
 };
 
 /// The two tables of bindings. Entries keep the order in which they were added and may be equal; the first of
-/// equal ones answers. Each owns the object that stands for its keys.
+/// equal ones answers.
 struct HotkeyTables
 {
-    struct Single
-    {
-        std::unique_ptr<QKeyEvent> event;
-        FuncCode code;
-    };
-    struct Sequence
-    {
-        std::unique_ptr<std::pair<int, int>> keys;
-        FuncCode code;
-    };
-    std::vector<Single> singles;
-    std::vector<Sequence> sequences;
+    std::vector<HotkeyEntry> singles;
+    std::vector<HotkeyEntry> sequences;
 
     void add(HotkeyEntry const & entry);
     /// The bindings of the default table.

@@ -6,6 +6,8 @@
 #include "support/Log.h"
 #include "support/Singleton.h"
 
+#include <QKeyEvent>
+
 #include <utility>
 
 namespace KVCAM {

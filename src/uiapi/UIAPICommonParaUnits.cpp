@@ -1,5 +1,6 @@
 // Unit conversion by view: the unit is looked up here, the rules stand in units/.
 
+#include "analysis/CheckKinds.h"
 #include "uiapi/DisplayUnit.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
@@ -64,7 +65,7 @@ std::string UIAPICommonPara::doubleToString(double value) const
 
 double UIAPICommonPara::getMeasureValue(check_info const & info) const
 {
-    return guardedPara([&] { return Units::measuredValue(info).value_or(0.0); });
+    return guardedPara([&] { return measuredValue(info).value_or(0.0); });
 }
 
 } // namespace KVCAM::UIAPI

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstddef>
 #include <map>
-#include <vector>
 
 namespace KVCAM::UIAPI::Units {
 namespace {
@@ -123,21 +122,6 @@ std::string nameByKind(int unit, int kind)
 std::string areaName(int unit)
 {
     return unit == inch ? "sq/in" : "sq/mm";
-}
-
-std::optional<double> measuredValue(KVCAM::API::check_info const & info)
-{
-    std::vector<int> const & points = info.points;
-    if ((info.type == 1 || info.type == 2) && points.size() == 5) {
-        return points[4];
-    }
-    if (info.type == 3 && points.size() == 8) {
-        return points[6];
-    }
-    if (info.type == 5 && points.size() == 4) {
-        return std::min(points[2], points[3]);
-    }
-    return std::nullopt;
 }
 
 } // namespace KVCAM::UIAPI::Units

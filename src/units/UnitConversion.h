@@ -1,10 +1,7 @@
 #pragma once
 
-#include <kvcam/Records.h>
-
 #include <QString>
 
-#include <optional>
 #include <string>
 
 /// Conversion and formatting of values by unit code: 0 is inch (small unit mil), 1 is millimetre (small unit
@@ -55,8 +52,5 @@ std::string name(int unit);
 std::string nameByKind(int unit, int kind);
 /// "sq/in" for unit 0, else "sq/mm".
 std::string areaName(int unit);
-
-/// The measured quantity of a check result, picked by its kind; nothing when kind and count do not agree.
-std::optional<double> measuredValue(KVCAM::API::check_info const & info);
 
 } // namespace KVCAM::UIAPI::Units

@@ -48,7 +48,6 @@ KVLineEdit::KVLineEdit(QWidget * parent) : KVLineEdit(QString(), parent) {}
 KVLineEdit::KVLineEdit(QString const & text, QWidget * parent) : QLineEdit(text, parent), d(new Private)
 {
     d->owner = parent;
-    insertLimit();
 }
 
 KVLineEdit::KVLineEdit(KVERegExp kind, QWidget * parent) : KVLineEdit(parent)
@@ -71,19 +70,19 @@ KVLineEdit::~KVLineEdit()
     delete d;
 }
 
+// A kind outside the table gets an empty pattern, which accepts nothing typed.
 void KVLineEdit::insertLimit()
 {
-    for (InputKind const & row : inputKinds) {
-        d->patterns[row.kind] = QString::fromUtf8(row.pattern);
-    }
+    InputKind const * const row = inputKind(d->kind);
+    QString const pattern = row == nullptr ? QString() : QString::fromUtf8(row->pattern);
+    setValidator(new QRegExpValidator(QRegExp(pattern), this));
 }
 
 void KVLineEdit::restrictTo(KVERegExp kind)
 {
     d->recording = connect(this, &QLineEdit::textChanged, this, &KVLineEdit::on_textchanged);
     d->kind = kind;
-    // An inserting look-up: a kind outside the table gets an empty pattern.
-    setValidator(new QRegExpValidator(QRegExp(d->patterns[kind]), this));
+    insertLimit();
 }
 
 void KVLineEdit::on_textchanged(QString const & text)

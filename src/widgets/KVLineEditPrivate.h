@@ -7,7 +7,6 @@
 
 #include <QMetaObject>
 
-#include <map>
 #include <optional>
 
 namespace KVCAM::UIAPI {
@@ -21,7 +20,6 @@ struct KVLineEdit::Quantity
 
 struct KVLineEdit::Private
 {
-    std::map<int, QString> patterns;
     QString metricNumber;
     QString inchNumber;
     QString metricSymbol;

@@ -105,10 +105,7 @@ TEST_F(RangesTest, SpellingsAreTheProgramsOwn)
                                        {"DrillRanges", ""}}) {
         EXPECT_EQ(getRangesEnum(table, name), -1) << table << name;
     }
-    EXPECT_EQ(getRangesName("SolderMaskRanges", 85), "SM local spacing");
     EXPECT_EQ(getRangesName("TeardropsRanges", 0), "") << "starts at 1";
-    EXPECT_EQ(builtInCategoryName("SignalLayerRanges", 63), "");
-    EXPECT_EQ(builtInCategoryName("SignalLayerRanges", 64), "Shaved SMD");
     EXPECT_EQ(builtInCategoryName("?", 1), "");
 }
 

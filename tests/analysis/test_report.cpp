@@ -3,11 +3,14 @@
 
 #include "CheckReply.h"
 #include "analysis/AnalysisReport.h"
+#include "analysis/CheckKinds.h"
 
 #include <QJsonArray>
 
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <vector>
 
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::UIAPI::Ext;
@@ -86,6 +89,27 @@ TEST(Grade, ColoursStayApartInRedGreenBlindness)
     }
 }
 
+TEST(CheckKind, ValueAndPlaceNeedTheirPoints)
+{
+    struct Row
+    {
+        int kind;
+        std::vector<int> points;
+        std::optional<double> value;
+        double x; ///< -1: no place
+    };
+    for (Row const & row :
+         {Row{1, {1, 2, 4, 4, 5}, 5, 2.5}, Row{2, {1, 2, 4, 4, 5}, 5, 2.5}, Row{1, {1, 2, 3, 4}, {}, 2},
+          Row{1, {1, 2, 3}, {}, -1}, Row{3, {1, 2, 3, 4, 5, 6, 7, 8}, 7, 1},
+          Row{3, {1, 2, 3, 4, 5, 6, 7}, {}, 1}, Row{5, {1, 2, 9, 4}, 4, 1}, Row{5, {1, 2, 3, 4}, 3, 1},
+          Row{5, {1, 2, 3, 4, 5}, {}, 1}, Row{4, {1, 2, 3, 4, 5}, {}, 1}, Row{0, {1, 2, 3, 4, 5}, {}, 1},
+          Row{-1, {1, 2, 3, 4, 5}, {}, 1}, Row{6, {1}, {}, -1}}) {
+        check_info const info{row.kind, 99, row.points};
+        EXPECT_EQ(measuredValue(info), row.value) << row.kind;
+        EXPECT_EQ(positionOf(info).value_or(KVCAM::API::point{-1, -1}).x, row.x) << row.kind;
+    }
+}
+
 class ReportTest : public UiapiTest
 {
 protected:
@@ -104,10 +128,10 @@ protected:
         rest[UNIFIED_SLOTS]["=cmd|'/c'!\"A1\", é"].groups[3] = {{3, 1, {-5, 6, 0, 0, 0, 0, 50, 0}}};
         report.setJobStep("job\n\"1\"", "pcb");
         report.addRest(rest);
+        report.setLevels("SignalLayerRanges", {{"Lines", 3, 4, 5}, {"Lines", 99, 99, 99}, {"Pads", 1, 2, 3}});
         report.addSignal(signal);
         report.addDrill(drill);
         report.addNotChecked({"SignalLayerRanges", 3, "", "-needs nets"});
-        report.setLevels("SignalLayerRanges", {{"Lines", 3, 4, 5}, {"Lines", 99, 99, 99}, {"Pads", 1, 2, 3}});
         report.setLevels("UnifiedItems", {{"Slots", 50, 40, 30}});
     }
 

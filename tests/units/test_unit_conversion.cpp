@@ -9,7 +9,6 @@
 #include <cmath>
 #include <functional>
 #include <limits>
-#include <optional>
 #include <random>
 #include <vector>
 
@@ -132,23 +131,6 @@ TEST(UnitConversion, SixDigitTextsTurnToExponents)
     EXPECT_EQ(Units::milText(1, 1.0, -127), "25.400000");
     EXPECT_EQ(Units::milText(1, 1e-9, -128), "0.0000000254"); // as many decimals as it needs
     EXPECT_EQ(Units::milText(1, 1.0, std::numeric_limits<int>::max()).size(), 3 + 1074);
-}
-
-TEST(UnitConversion, MeasuredValueNeedsKindAndCountToAgree)
-{
-    struct Row
-    {
-        int kind;
-        std::vector<int> points;
-        std::optional<double> value;
-    };
-    for (Row const & row : {Row{1, {1, 2, 3, 4, 5}, 5}, Row{2, {1, 2, 3, 4, 5}, 5}, Row{1, {1, 2, 3, 4}, {}},
-                            Row{3, {1, 2, 3, 4, 5, 6, 7, 8}, 7}, Row{3, {1, 2, 3, 4, 5, 6, 7}, {}},
-                            Row{5, {1, 2, 9, 4}, 4}, Row{5, {1, 2, 3, 4}, 3}, Row{5, {1, 2, 3, 4, 5}, {}},
-                            Row{4, {1, 2, 3, 4, 5}, {}}, Row{0, {1, 2, 3, 4, 5}, {}},
-                            Row{-1, {1, 2, 3, 4, 5}, {}}, Row{6, {1, 2, 3, 4}, {}}, Row{1, {}, {}}}) {
-        EXPECT_EQ(Units::measuredValue({row.kind, 99, row.points}), row.value) << row.kind;
-    }
 }
 
 class UnitViews : public UiapiTest
