@@ -13,7 +13,7 @@
 namespace KVCAM::UIAPI::JsonFile {
 namespace {
 
-constexpr QLatin1String notRegular("It is not a regular file.");
+constexpr char const * notRegular = "It is not a regular file.";
 
 // By the piece: a file may grow while it is read, and some claim to be empty and never end.
 QByteArray readUpTo(QFile & file, qint64 limit)
@@ -38,7 +38,7 @@ Content readBytes(QString const & path, QIODevice::OpenMode extra)
     QFile file(path);
     RegularFile const opened = openRegular(file, extra);
     if (opened == RegularFile::NotRegular) {
-        return {ReadStatus::OpenFailed, {}, QString(notRegular)};
+        return {ReadStatus::OpenFailed, {}, QLatin1String(notRegular)};
     }
     if (opened == RegularFile::NotOpened && !file.exists()) {
         return {ReadStatus::Missing, {}, QStringLiteral("There is no such file.")};
@@ -78,7 +78,7 @@ Ext::Result replace(QString const & path, QByteArray const & bytes, QIODevice::O
 {
     // A device or a pipe, which a link may lead to, would be lost to a file of that name.
     if (QFileInfo const old(path); old.exists() && !old.isFile()) {
-        return {false, QString(notRegular)};
+        return {false, QLatin1String(notRegular)};
     }
     QSaveFile file(path);
     file.setDirectWriteFallback(true);

@@ -66,6 +66,7 @@ TEST_F(AutoMatrixTest, ShippedTemplatesCountFromZeroAndUserTemplatesFromTwo)
                  {{"b.json", fileOf({"x", "y"})},
                   {"a.json", fileOf({"z"})},
                   {"B.json", fileOf({"first"})},
+                  {".a.json", fileOf({"hidden"})},
                   {"c.JSON", fileOf({"no"})},
                   {"d.json.txt", fileOf({"no"})},
                   {"e.f.json", fileOf({"last"})},
