@@ -1,23 +1,18 @@
 #pragma once
 
+#include <UIAPICommon.h>
+
 #include <QString>
 
 #include <optional>
 
 namespace Workbench {
 
-/// A family of standard symbols, as far as its names go.
-struct PadFamily
-{
-    char const * prefix;
-    bool hasSecond;          ///< whether a second size follows the first
-    bool isConverted = true; ///< whether the library turns its names from one unit into the other
-};
-
 /// A standard symbol's name, taken apart.
 struct PadName
 {
-    PadFamily const * family;
+    KVCAM::UIAPI::Ext::SymbolGrammar const * grammar; ///< its family's
+    QString prefix;
     QString first;
     QString second; ///< empty for a family with one size, or when it is missing
     QString rest;   ///< what follows, with its "x"
@@ -25,6 +20,9 @@ struct PadName
 
 /// Nothing for a name that begins with no family and a size, or goes on as no standard name does.
 std::optional<PadName> parsePadName(QString const & name);
+
+/// Whether a second size follows the first in the names of a family.
+bool hasSecondSize(KVCAM::UIAPI::Ext::SymbolGrammar const & grammar);
 
 /// Whether a text is a size as it stands in a symbol name: digits, with or without decimals, and no sign.
 bool isSizeText(QString const & text);
