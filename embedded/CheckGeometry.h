@@ -1,6 +1,8 @@
 #pragma once
 
-#include "EmbeddedEngine.h"
+#include "EmbeddedRecords.h"
+
+#include <kvcam/Records.h>
 
 #include <vector>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "EmbeddedRecords.h"
+
 #include <kvcam/Records.h>
 
 #include <string>
@@ -60,18 +62,6 @@ KVCAM_API_EXPORT std::vector<std::string> openJobs();
 /// Forgets a job, its deletions and what could be undone; false when it is not open.
 KVCAM_API_EXPORT bool closeJob(std::string const & job);
 
-/// An upright rectangle in micrometres.
-struct Box
-{
-    ///@{
-    /// An edge.
-    double left = 0;
-    double bottom = 0;
-    double right = 0;
-    double top = 0;
-    ///@}
-};
-
 /// The extent of a step's profile. False when the job or step is not open or has no profile.
 KVCAM_API_EXPORT bool profileBox(std::string const & job, std::string const & step, Box & box);
 /// The profile's outlines as closed polygons in micrometres (arcs as short chords); empty when there is none.
@@ -126,14 +116,6 @@ KVCAM_API_EXPORT std::vector<SymbolUse> layerSymbols(std::string const & job, st
 /// be read is left out; lastError() then says why the first one could not.
 KVCAM_API_EXPORT std::vector<SymbolUse> jobSymbols(std::string const & job);
 
-/// One tool of a drill or rout layer; sizes in micrometres.
-struct Tool
-{
-    int number = 0;        ///< as in the tools file
-    std::string type;      ///< "via", "plated", "non_plated"
-    double drillSize = 0;  ///< of the drill
-    double finishSize = 0; ///< of the hole when it is finished
-};
 /// The tools of a layer in the order of its tools file. Empty, with lastError() set, on failure; a layer
 /// without that file has none.
 KVCAM_API_EXPORT std::vector<Tool> tools(std::string const & job, std::string const & step,

@@ -97,7 +97,7 @@ bool is_job_opened(std::string job)
 bool identify_symbol(std::string const & name, symboltype & type, int & first, int & second, bool /*flag*/)
 {
     if (auto const symbol = Embedded::standardSymbol(name)) {
-        type = symbol->type;
+        type = Embedded::symbolType(symbol->family);
         first = UIAPI::saturatedInt(symbol->first);
         second = UIAPI::saturatedInt(symbol->second);
         return true;
@@ -107,7 +107,7 @@ bool identify_symbol(std::string const & name, symboltype & type, int & first, i
         return job->hasSymbol(wanted);
     });
     if (own) {
-        type = symbol_user;
+        type = Embedded::ownSymbol;
         first = 0;
         second = 0;
     }

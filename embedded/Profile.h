@@ -1,7 +1,9 @@
 #pragma once
 
-#include "EmbeddedEngine.h"
+#include "EmbeddedRecords.h"
 #include "FeaturesFile.h"
+
+#include <kvcam/Records.h>
 
 #include <cstddef>
 #include <optional>

@@ -1,62 +1,25 @@
 #include "StandardSymbol.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
+#include <cstddef>
 
 namespace KVCAM::Embedded {
 namespace {
 
-// What may follow the fields: nothing, rounded corners, or corners rounded or chamfered; either
-// "xr<radius>" or "xc<radius>", then optionally "x" and the corners concerned, out of 1234.
-enum class Corners
-{
-    None,
-    Rounded,
-    RoundedOrChamfered
-};
+using UIAPI::Ext::SymbolField;
+using UIAPI::Ext::SymbolGrammar;
 
-// A family: the text before its first digit, and one letter for each field between the 'x': s size,
-// a angle, n whole number, p plating (p, n or v).
-struct Family
+constexpr bool fieldsFit()
 {
-    std::string_view prefix;
-    API::symboltype type;
-    std::string_view fields;
-    Corners corners = Corners::None;
-};
-
-constexpr std::array families{
-    Family{"r", API::symbol_round, "s"},
-    Family{"s", API::symbol_square, "s"},
-    Family{"rect", API::symbol_rectangle, "ss", Corners::RoundedOrChamfered},
-    Family{"oval", API::symbol_oval, "ss"},
-    Family{"oval_h", API::symbol_half_oval, "ss"},
-    Family{"di", API::symbol_diamond, "ss"},
-    Family{"oct", API::symbol_octagon, "sss"},
-    Family{"el", API::symbol_ellipse, "ss"},
-    Family{"tri", API::symbol_triangle, "ss"},
-    Family{"bfr", API::symbol_round_butterfly, "s"},
-    Family{"bfs", API::symbol_square_butterfly, "s"},
-    Family{"hex_l", API::symbol_hexagon_lying, "sss"},
-    Family{"hex_s", API::symbol_hexagon_standing, "sss"},
-    Family{"hole", API::symbol_hole, "spss"},
-    Family{"donut_r", API::symbol_donut_round, "ss"},
-    Family{"donut_s", API::symbol_donut_square, "ss", Corners::Rounded},
-    Family{"donut_sr", API::symbol_donut_square_round, "ss"},
-    Family{"donut_o", API::symbol_donut_oval, "sss"},
-    Family{"donut_rc", API::symbol_donut_rectangle, "sss", Corners::Rounded},
-    Family{"thr", API::symbol_thermal_round, "ssans"},
-    Family{"ths", API::symbol_thermal_round_squared, "ssans"},
-    Family{"sr_ths", API::symbol_thermal_square_round, "ssans"},
-    Family{"s_ths", API::symbol_thermal_square, "ssans", Corners::Rounded},
-    Family{"s_tho", API::symbol_thermal_square_open, "ssans", Corners::Rounded},
-    Family{"rc_ths", API::symbol_thermal_rectangle, "ssanss", Corners::Rounded},
-    Family{"rc_tho", API::symbol_thermal_rectangle_open, "ssanss", Corners::Rounded},
-    Family{"o_ths", API::symbol_thermal_oval, "ssanss"},
-    Family{"moire", API::symbol_moire, "ssnssa"},
-};
-static_assert(families.size() + 1 == API::symbol_families, "every family but the user's stands in the table");
+    for (SymbolGrammar const & grammar : UIAPI::Ext::symbolGrammars) {
+        if (grammar.layout.required > decltype(StandardSymbol::fields)().size()) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(fieldsFit());
 
 constexpr std::string_view digits = "0123456789";
 
@@ -91,23 +54,24 @@ bool take(std::string_view & text, char c)
     return true;
 }
 
-std::optional<double> takeField(std::string_view & text, char kind)
+std::optional<double> takeField(std::string_view & text, SymbolField field)
 {
-    if (kind != 'p') {
-        return takeNumber(text, kind != 'n');
+    if (field != SymbolField::Plating) {
+        return takeNumber(text, !isSymbolCount(field));
     }
     bool const plating = take(text, 'p') || take(text, 'n') || take(text, 'v');
     return plating ? std::optional(0.0) : std::nullopt;
 }
 
-// Takes a whole tail "xr<radius>[x<corners>]" as the family allows it; false for any other text.
-bool takeCorners(std::string_view text, Corners allowed, StandardSymbol & symbol)
+// Takes a whole tail "xr<radius>[x<corners>]" or "xc<length>[x<corners>]" as the family allows it; false for
+// any other text.
+bool takeCorners(std::string_view text, SymbolGrammar const & grammar, StandardSymbol & symbol)
 {
-    if (allowed == Corners::None || !take(text, 'x')) {
+    if (!grammar.layout.allowsCorner() || !take(text, 'x')) {
         return false;
     }
     symbol.cut = !take(text, 'r');
-    if (symbol.cut && !(allowed == Corners::RoundedOrChamfered && take(text, 'c'))) {
+    if (symbol.cut && !(grammar.allowsChamfers && take(text, 'c'))) {
         return false;
     }
     std::optional<double> const corner = takeNumber(text, true);
@@ -131,30 +95,29 @@ bool takeCorners(std::string_view text, Corners allowed, StandardSymbol & symbol
 std::optional<StandardSymbol> standardSymbol(std::string_view name)
 {
     std::string_view const prefix = name.substr(0, name.find_first_of(digits));
-    auto const family = std::find_if(families.begin(), families.end(), [prefix](Family const & candidate) {
-        return candidate.prefix == prefix;
-    });
-    if (family == families.end()) {
+    SymbolGrammar const * const grammar = UIAPI::Ext::findSymbolGrammar(prefix);
+    if (grammar == nullptr) {
         return std::nullopt;
     }
     StandardSymbol symbol;
-    symbol.type = family->type;
+    symbol.family = grammar->family;
     std::string_view rest = name.substr(prefix.size());
     int sizes = 0;
-    for (std::size_t i = 0; i < family->fields.size(); ++i) {
+    for (std::size_t i = 0; i < grammar->layout.required; ++i) {
+        SymbolField const field = grammar->layout.fields[i];
         if (i != 0 && !take(rest, 'x')) {
             return std::nullopt;
         }
-        std::optional<double> const value = takeField(rest, family->fields[i]);
+        std::optional<double> const value = takeField(rest, field);
         if (!value) {
             return std::nullopt;
         }
         symbol.fields.at(i) = *value;
-        if (family->fields[i] == 's' && sizes < 2) {
+        if (isSymbolLength(field) && sizes < 2) {
             (sizes++ == 0 ? symbol.first : symbol.second) = *value;
         }
     }
-    bool const whole = rest.empty() || takeCorners(rest, family->corners, symbol);
+    bool const whole = rest.empty() || takeCorners(rest, *grammar, symbol);
     return whole ? std::optional(symbol) : std::nullopt;
 }
 

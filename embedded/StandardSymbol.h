@@ -1,55 +1,29 @@
 #pragma once
 
+#include "support/SymbolFamilies.h"
+
 #include <kvcam/Records.h>
 
 #include <array>
 #include <optional>
 #include <string_view>
 
-namespace KVCAM::API {
-
-/// The families of symbols, as this engine numbers them.
-enum symboltype : int
-{
-    symbol_user = 0,
-    symbol_round,
-    symbol_square,
-    symbol_rectangle,
-    symbol_oval,
-    symbol_half_oval,
-    symbol_diamond,
-    symbol_octagon,
-    symbol_ellipse,
-    symbol_triangle,
-    symbol_round_butterfly,
-    symbol_square_butterfly,
-    symbol_hexagon_lying,
-    symbol_hexagon_standing,
-    symbol_hole,
-    symbol_donut_round,
-    symbol_donut_square,
-    symbol_donut_square_round,
-    symbol_donut_oval,
-    symbol_donut_rectangle,
-    symbol_thermal_round,
-    symbol_thermal_round_squared,
-    symbol_thermal_square_round,
-    symbol_thermal_square,
-    symbol_thermal_square_open,
-    symbol_thermal_rectangle,
-    symbol_thermal_rectangle_open,
-    symbol_thermal_oval,
-    symbol_moire,
-    symbol_families ///< how many there are
-};
-
-} // namespace KVCAM::API
-
 namespace KVCAM::Embedded {
+
+using UIAPI::Ext::SymbolFamily;
+
+/// How this engine numbers a job's own symbol.
+inline constexpr auto ownSymbol = static_cast<API::symboltype>(0);
+
+/// How this engine numbers a family.
+constexpr API::symboltype symbolType(SymbolFamily family) noexcept
+{
+    return static_cast<API::symboltype>(static_cast<int>(family) + 1);
+}
 
 struct StandardSymbol
 {
-    API::symboltype type = API::symbol_user;
+    SymbolFamily family = SymbolFamily::Round;
     double first = 0;  ///< as in the name: mil or micrometre
     double second = 0; ///< 0 for a family of one size
     /// All numbers between the 'x', in their order; 0 for the plating of a hole.
@@ -59,7 +33,7 @@ struct StandardSymbol
     bool someCorners = false; ///< only some of the four are
 };
 
-/// What a symbol name says by the grammar of the standard families; nothing when it does not follow it.
+/// What a well-formed name of a standard family says; nothing for any other name.
 std::optional<StandardSymbol> standardSymbol(std::string_view name);
 
 } // namespace KVCAM::Embedded

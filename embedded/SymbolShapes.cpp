@@ -111,26 +111,26 @@ SymbolShape oval(double width, double height)
 }
 
 // The families that are no rectangles, ovals or circles, nor donuts or thermals of them.
-SymbolShape cornered(API::symboltype type, double w, double h, double corner)
+SymbolShape cornered(SymbolFamily family, double w, double h, double corner)
 {
     double const x = w / 2;
     double const y = h / 2;
-    switch (type) {
-    case API::symbol_half_oval:
+    switch (family) {
+    case SymbolFamily::HalfOval:
         return solid(w, h, rounded(w, h, 0), oval(w, h).inner);
-    case API::symbol_diamond:
+    case SymbolFamily::Diamond:
         return solid(w, h, polygon({{-x, 0}, {0, -y}, {x, 0}, {0, y}}));
-    case API::symbol_octagon:
+    case SymbolFamily::Octagon:
         return solid(w, h, cut(w, h, corner));
-    case API::symbol_ellipse:
+    case SymbolFamily::Ellipse:
         return solid(w, h, ellipse(w, h, true), ellipse(w, h, false));
-    case API::symbol_triangle:
+    case SymbolFamily::Triangle:
         return solid(w, h, polygon({{-x, -y}, {x, -y}, {0, y}}));
-    case API::symbol_hexagon_lying: {
+    case SymbolFamily::LyingHexagon: {
         double const c = x - std::min(corner, x);
         return solid(w, h, polygon({{-x, 0}, {-c, -y}, {c, -y}, {x, 0}, {c, y}, {-c, y}}));
     }
-    case API::symbol_hexagon_standing: {
+    case SymbolFamily::StandingHexagon: {
         double const c = y - std::min(corner, y);
         return solid(w, h, polygon({{0, -y}, {x, -c}, {x, c}, {0, y}, {-x, c}, {-x, -c}}));
     }
@@ -144,49 +144,56 @@ SymbolShape shapeOf(StandardSymbol const & symbol, double scale)
     double const w = symbol.first * scale;
     double const h = symbol.second * scale;
     double const third = symbol.fields[2] * scale;
-    switch (symbol.type) {
-    case API::symbol_round:
-    case API::symbol_hole:
+    switch (symbol.family) {
+    case SymbolFamily::Round:
+    case SymbolFamily::Hole:
         return solid(w, w, circle(w));
-    case API::symbol_donut_round:
+    case SymbolFamily::RoundDonut:
         return donut(solid(w, w, circle(w)), h / 2);
-    case API::symbol_round_butterfly:
-    case API::symbol_thermal_round:
-    case API::symbol_thermal_round_squared:
+    case SymbolFamily::RoundButterfly:
+    case SymbolFamily::RoundThermal:
+    case SymbolFamily::RoundSquaredThermal:
         return hollow(solid(w, w, circle(w)));
-    case API::symbol_moire: {
+    case SymbolFamily::Moire: {
         // Ring width, gap, number of rings, then width and length of the cross.
         double const cross = std::hypot(symbol.fields[3], symbol.fields[4]) * scale;
         double const size = std::max(cross, 2 * (w + h) * symbol.fields[2]);
         return hollow(solid(size, size, circle(size)));
     }
-    case API::symbol_square:
+    case SymbolFamily::Square:
         return rectangle(w, w, symbol, scale);
-    case API::symbol_square_butterfly:
-    case API::symbol_thermal_square_round:
-    case API::symbol_thermal_square:
-    case API::symbol_thermal_square_open:
+    case SymbolFamily::SquareButterfly:
+    case SymbolFamily::SquareRoundThermal:
+    case SymbolFamily::SquareThermal:
+    case SymbolFamily::SquareOpenThermal:
         return hollow(rectangle(w, w, symbol, scale));
-    case API::symbol_donut_square:
+    case SymbolFamily::SquareDonut:
         return donut(rectangle(w, w, symbol, scale), std::hypot(h, h) / 2);
-    case API::symbol_donut_square_round:
+    case SymbolFamily::SquareRoundDonut:
         return donut(rectangle(w, w, symbol, scale), h / 2);
-    case API::symbol_rectangle:
+    case SymbolFamily::Rectangle:
         return rectangle(w, h, symbol, scale);
-    case API::symbol_thermal_rectangle:
-    case API::symbol_thermal_rectangle_open:
+    case SymbolFamily::RectangleThermal:
+    case SymbolFamily::RectangleOpenThermal:
         return hollow(rectangle(w, h, symbol, scale));
-    case API::symbol_donut_rectangle:
+    case SymbolFamily::RectangleDonut:
         return donut(rectangle(w, h, symbol, scale), w, h, third);
-    case API::symbol_oval:
+    case SymbolFamily::Oval:
         return oval(w, h);
-    case API::symbol_thermal_oval:
+    case SymbolFamily::OvalThermal:
         return hollow(oval(w, h));
-    case API::symbol_donut_oval:
+    case SymbolFamily::OvalDonut:
         return donut(oval(w, h), w, h, third);
-    default:
-        return cornered(symbol.type, w, h, third);
+    case SymbolFamily::HalfOval:
+    case SymbolFamily::Diamond:
+    case SymbolFamily::Octagon:
+    case SymbolFamily::Ellipse:
+    case SymbolFamily::Triangle:
+    case SymbolFamily::LyingHexagon:
+    case SymbolFamily::StandingHexagon:
+        return cornered(symbol.family, w, h, third);
     }
+    return {};
 }
 
 // The box about a graphic of a symbol's drawing; nothing when its own symbol is not a standard one.

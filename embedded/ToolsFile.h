@@ -1,6 +1,6 @@
 #pragma once
 
-#include "EmbeddedEngine.h"
+#include "EmbeddedRecords.h"
 
 #include <QString>
 

@@ -24,6 +24,7 @@
 #include "links/ConnectEDA.h"
 #include "support/MessagePresenter.h"
 #include "support/Result.h"
+#include "support/SymbolFamilies.h"
 #include "support/ThreadCheck.h"
 #include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"

@@ -3,7 +3,7 @@
 #include "support/Narrowing.h"
 #include "support/NumberRuns.h"
 #include "units/DecimalText.h"
-#include "units/SymbolFamilies.h"
+#include "units/SymbolParts.h"
 #include "units/UnitConversion.h"
 
 #include <QStringView>
@@ -14,12 +14,42 @@
 namespace KVCAM::UIAPI::Symbols {
 namespace {
 
+using Ext::SymbolGrammar;
+using Ext::SymbolRewrite;
 using Units::inch;
 using Units::millimetre;
 using Units::millimetresPerInch;
 
 constexpr QLatin1Char separator('x');
 constexpr std::size_t rewrittenFields = 6; // further fields of a thermal are dropped
+
+constexpr std::size_t families(SymbolRewrite rewrite)
+{
+    std::size_t found = 0;
+    for (SymbolGrammar const & grammar : Ext::symbolGrammars) {
+        found += grammar.rewrite == rewrite ? 1 : 0;
+    }
+    return found;
+}
+
+constexpr bool rewrittenFieldsExist()
+{
+    for (SymbolGrammar const & grammar : Ext::symbolGrammars) {
+        bool const byField =
+            grammar.rewrite == SymbolRewrite::Thermal || grammar.rewrite == SymbolRewrite::Moire;
+        if (byField && grammar.layout.count < rewrittenFields) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Which names are rewritten, and how, is fixed.
+static_assert(families(SymbolRewrite::EveryNumber) == 15);
+static_assert(families(SymbolRewrite::Rectangle) == 1);
+static_assert(families(SymbolRewrite::Thermal) == 5);
+static_assert(families(SymbolRewrite::Moire) == 1);
+static_assert(rewrittenFieldsExist());
 
 // Halves go away from zero.
 double thousandths(double value)
@@ -122,7 +152,7 @@ QString rewriteRectangle(QString const & name, SymbolParts const & parts, qsizet
 // Thermals and moires. Angles and counts are copied. Everything else counts as a plain length, so a corner
 // "r5" in the sixth place, which is no number, becomes 0.
 template <class Convert>
-QString rewriteFields(QString const & name, Family const & family, SymbolParts const & parts,
+QString rewriteFields(QString const & name, SymbolGrammar const & grammar, SymbolParts const & parts,
                       qsizetype prefixLength, Convert const & convert)
 {
     QString out = startOutput(name);
@@ -135,7 +165,7 @@ QString rewriteFields(QString const & name, Family const & family, SymbolParts c
         } else {
             out += separator;
         }
-        if (isLength(family.fields[i])) {
+        if (isSymbolLength(grammar.layout.fields[i])) {
             appendLength(out, part, convert);
         } else {
             append(out, part);
@@ -148,25 +178,25 @@ QString rewriteFields(QString const & name, Family const & family, SymbolParts c
 template <class Convert>
 QString rewriteByFamily(QString const & name, bool checked, Convert const & convert)
 {
-    Family const * const family = findRewriteFamily(symbolPrefix(name));
-    if (family == nullptr || family->kind == FamilyKind::Described) {
+    SymbolGrammar const * const grammar = findRewriteGrammar(symbolPrefix(name));
+    if (grammar == nullptr || grammar->rewrite == SymbolRewrite::Unchanged) {
         return name;
     }
-    if (family->kind == FamilyKind::Simple) {
+    if (grammar->rewrite == SymbolRewrite::EveryNumber) {
         return rewriteEachRun(name, convert);
     }
     SymbolParts const parts = splitParts(name);
-    auto const prefixLength = static_cast<qsizetype>(family->prefix.size());
+    auto const prefixLength = static_cast<qsizetype>(grammar->prefix.size());
     if (checked && parts[0].size() <= prefixLength) {
         return name;
     }
-    switch (family->kind) {
-    case FamilyKind::Rectangle:
+    switch (grammar->rewrite) {
+    case SymbolRewrite::Rectangle:
         return rewriteRectangle(name, parts, prefixLength, checked, convert);
-    case FamilyKind::Thermal:
-        return parts.size() >= 5 ? rewriteFields(name, *family, parts, prefixLength, convert) : name;
-    case FamilyKind::Moire:
-        return parts.size() == 6 ? rewriteFields(name, *family, parts, prefixLength, convert) : name;
+    case SymbolRewrite::Thermal:
+        return parts.size() >= 5 ? rewriteFields(name, *grammar, parts, prefixLength, convert) : name;
+    case SymbolRewrite::Moire:
+        return parts.size() == 6 ? rewriteFields(name, *grammar, parts, prefixLength, convert) : name;
     default:
         return name;
     }

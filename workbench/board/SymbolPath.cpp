@@ -1,17 +1,24 @@
 #include "board/SymbolPath.h"
 
-#include "board/PadFamilies.h"
+#include "board/PadName.h"
 #include "ui/Units.h"
+
+#include <UIAPICommon.h>
 
 #include <QPolygonF>
 #include <QRegularExpression>
 #include <QTransform>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <vector>
 
 namespace Workbench {
+
+using namespace KVCAM::UIAPI;
+using Ext::SymbolFamily;
 
 namespace {
 
@@ -201,15 +208,12 @@ QSizeF shrunk(QSizeF size, double by)
 
 using Shape = QPainterPath (*)(Sizes const & s);
 
-// A family: the text before its first size, its minimum number of sizes, its outer shape and its hole. The
-// third to fifth size of a thermal are the angle, number and width of its gaps.
-struct Family
+// How a family is drawn: its outer shape, and the hole in it.
+struct Drawing
 {
-    char const * prefix;
-    std::size_t sizes;
+    SymbolFamily family;
     Shape outer;
     Shape hole = nullptr;
-    bool isThermal = false;
 };
 
 constexpr Shape roundOuter = [](Sizes const & s) { return ellipse(square(s[0])); };
@@ -241,36 +245,53 @@ constexpr Shape standingHexagon = [](Sizes const & s) {
     return polygon({{0, y}, {-x, y - s[2]}, {-x, s[2] - y}, {0, -y}, {x, s[2] - y}, {x, y - s[2]}});
 };
 
-constexpr Family families[] = {
-    {"r", 1, roundOuter},
-    {"s", 1, squareOuter},
-    {"rect", 2, boxOuter},
-    {"oval", 2, ovalOuter},
-    {"oval_h", 2, halfOval},
-    {"di", 2, diamond},
-    {"oct", 3, [](Sizes const & s) { return octagon(s.size(), s[2]); }},
-    {"el", 2, [](Sizes const & s) { return ellipse(s.size()); }},
-    {"tri", 2, triangle},
-    {"bfr", 1, [](Sizes const & s) { return butterfly(roundOuter(s)); }},
-    {"bfs", 1, [](Sizes const & s) { return butterfly(squareOuter(s)); }},
-    {"hex_l", 3, lyingHexagon},
-    {"hex_s", 3, standingHexagon},
-    {"hole", 1, roundOuter},
-    {"donut_r", 2, roundOuter, roundHole},
-    {"donut_s", 2, squareOuter, squareHole},
-    {"donut_sr", 2, squareOuter, roundHole},
-    {"donut_o", 3, ovalOuter, [](Sizes const & s) { return oval(shrunk(s.size(), s[2])); }},
-    {"donut_rc", 3, boxOuter, [](Sizes const & s) { return box(shrunk(s.size(), s[2]), {}); }},
-    {"thr", 5, roundOuter, roundHole, true},
-    {"ths", 5, roundOuter, roundHole, true},
-    {"sr_ths", 5, squareOuter, roundHole, true},
-    {"s_ths", 5, squareOuter, squareHole, true},
-    {"s_tho", 5, squareOuter, squareHole, true},
-    {"rc_ths", 6, boxOuter, [](Sizes const & s) { return box(shrunk(s.size(), s[5]), {}); }, true},
-    {"rc_tho", 6, boxOuter, [](Sizes const & s) { return box(shrunk(s.size(), s[5]), {}); }, true},
-    {"o_ths", 6, ovalOuter, [](Sizes const & s) { return oval(shrunk(s.size(), s[5])); }, true},
-    {"moire", 6, moire},
+constexpr std::array drawings{
+    Drawing{SymbolFamily::Round, roundOuter},
+    Drawing{SymbolFamily::Square, squareOuter},
+    Drawing{SymbolFamily::Rectangle, boxOuter},
+    Drawing{SymbolFamily::Oval, ovalOuter},
+    Drawing{SymbolFamily::HalfOval, halfOval},
+    Drawing{SymbolFamily::Diamond, diamond},
+    Drawing{SymbolFamily::Octagon, [](Sizes const & s) { return octagon(s.size(), s[2]); }},
+    Drawing{SymbolFamily::Ellipse, [](Sizes const & s) { return ellipse(s.size()); }},
+    Drawing{SymbolFamily::Triangle, triangle},
+    Drawing{SymbolFamily::RoundButterfly, [](Sizes const & s) { return butterfly(roundOuter(s)); }},
+    Drawing{SymbolFamily::SquareButterfly, [](Sizes const & s) { return butterfly(squareOuter(s)); }},
+    Drawing{SymbolFamily::LyingHexagon, lyingHexagon},
+    Drawing{SymbolFamily::StandingHexagon, standingHexagon},
+    Drawing{SymbolFamily::Hole, roundOuter},
+    Drawing{SymbolFamily::RoundDonut, roundOuter, roundHole},
+    Drawing{SymbolFamily::SquareDonut, squareOuter, squareHole},
+    Drawing{SymbolFamily::SquareRoundDonut, squareOuter, roundHole},
+    Drawing{SymbolFamily::OvalDonut, ovalOuter, [](Sizes const & s) { return oval(shrunk(s.size(), s[2])); }},
+    Drawing{SymbolFamily::RectangleDonut, boxOuter,
+            [](Sizes const & s) { return box(shrunk(s.size(), s[2]), {}); }},
+    Drawing{SymbolFamily::RoundThermal, roundOuter, roundHole},
+    Drawing{SymbolFamily::RoundSquaredThermal, roundOuter, roundHole},
+    Drawing{SymbolFamily::SquareRoundThermal, squareOuter, roundHole},
+    Drawing{SymbolFamily::SquareThermal, squareOuter, squareHole},
+    Drawing{SymbolFamily::SquareOpenThermal, squareOuter, squareHole},
+    Drawing{SymbolFamily::RectangleThermal, boxOuter,
+            [](Sizes const & s) { return box(shrunk(s.size(), s[5]), {}); }},
+    Drawing{SymbolFamily::RectangleOpenThermal, boxOuter,
+            [](Sizes const & s) { return box(shrunk(s.size(), s[5]), {}); }},
+    Drawing{SymbolFamily::OvalThermal, ovalOuter,
+            [](Sizes const & s) { return oval(shrunk(s.size(), s[5])); }},
+    Drawing{SymbolFamily::Moire, moire},
 };
+static_assert(Ext::isBySymbolFamily(drawings));
+
+// How many sizes a drawing needs. Plating and tolerances of a hole are not drawn.
+std::size_t sizesDrawn(Ext::SymbolGrammar const & grammar)
+{
+    return grammar.family == SymbolFamily::Hole ? 1 : grammar.layout.required;
+}
+
+// Their angle, number and gap are the third to the fifth size.
+bool hasSpokes(Ext::SymbolLayout const & layout)
+{
+    return layout.count > 4 && layout.fields[3] == Ext::SymbolField::SpokeCount;
+}
 
 } // namespace
 
@@ -280,19 +301,17 @@ std::optional<QPainterPath> symbolPath(std::string const & name, int unit)
     if (!parts) {
         return std::nullopt;
     }
-    auto const * family =
-        std::find_if(std::begin(families), std::end(families), [&parts](Family const & row) {
-            return QLatin1String(row.prefix) == QLatin1String(parts->family->prefix);
-        });
+    Ext::SymbolGrammar const & grammar = *parts->grammar;
     Sizes const sizes = sizesOf(*parts, unit);
-    if (family == std::end(families) || sizes.values.size() < family->sizes) {
+    if (sizes.values.size() < sizesDrawn(grammar)) {
         return std::nullopt;
     }
-    QPainterPath path = family->outer(sizes);
-    if (family->hole != nullptr) {
-        path.addPath(family->hole(sizes)); // odd-even
+    Drawing const & drawing = drawings[static_cast<std::size_t>(grammar.family)];
+    QPainterPath path = drawing.outer(sizes);
+    if (drawing.hole != nullptr) {
+        path.addPath(drawing.hole(sizes)); // odd-even
     }
-    if (family->isThermal) {
+    if (hasSpokes(grammar.layout)) {
         path = withGaps(path, sizes.values[2], sizes.values[3], sizes[4]);
     }
     return path.boundingRect().isEmpty() ? QPainterPath() : path;

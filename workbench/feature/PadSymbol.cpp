@@ -1,6 +1,6 @@
 #include "feature/PadSymbol.h"
 
-#include "board/PadFamilies.h"
+#include "board/PadName.h"
 #include "feature/FormFile.h"
 
 #include <UIAPICommon.h>
@@ -17,7 +17,8 @@ namespace {
 std::optional<PadName> sizedName(QString const & name)
 {
     auto parts = parsePadName(name);
-    return parts && parts->family->isConverted ? parts : std::nullopt;
+    bool const isConverted = parts && parts->grammar->rewrite != KVCAM::UIAPI::Ext::SymbolRewrite::Unchanged;
+    return isConverted ? parts : std::nullopt;
 }
 
 // The library converts names only; a length is converted as the size of a round.
@@ -59,7 +60,7 @@ bool PadSymbol::hasWidth() const
 bool PadSymbol::hasHeight() const
 {
     auto const parts = sizedName(m_name);
-    return parts && parts->family->hasSecond;
+    return parts && hasSecondSize(*parts->grammar);
 }
 
 QString PadSymbol::in(int otherUnit) const
@@ -86,7 +87,7 @@ QString PadSymbol::withSizes(QString const & name, int unit) const
     if (!parts || m_width.text.isEmpty()) {
         return name;
     }
-    QString const start = parts->family->prefix + m_width.in(unit);
+    QString const start = parts->prefix + m_width.in(unit);
     if (m_height.text.isEmpty()) {
         return start + parts->rest;
     }

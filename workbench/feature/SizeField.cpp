@@ -1,6 +1,6 @@
 #include "feature/SizeField.h"
 
-#include "board/PadFamilies.h"
+#include "board/PadName.h"
 
 #include <QPointer>
 

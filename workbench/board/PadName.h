@@ -1,23 +1,18 @@
 #pragma once
 
+#include <UIAPICommon.h>
+
 #include <QString>
 
 #include <optional>
 
 namespace Workbench {
 
-/// A family of standard symbols, as far as names are concerned.
-struct PadFamily
-{
-    char const * prefix;
-    bool hasSecond;          ///< a second size follows the first
-    bool isConverted = true; ///< the library converts its names between units
-};
-
 /// A standard symbol's name, taken apart.
 struct PadName
 {
-    PadFamily const * family;
+    KVCAM::UIAPI::Ext::SymbolGrammar const * grammar; ///< its family's
+    QString prefix;
     QString first;
     QString second; ///< empty for a family with one size, or when missing
     QString rest;   ///< what follows, including its "x"
@@ -25,6 +20,9 @@ struct PadName
 
 /// Nothing unless the name is that of a family, with a size and what may follow it.
 std::optional<PadName> parsePadName(QString const & name);
+
+/// Whether a second size follows the first in the names of a family.
+bool hasSecondSize(KVCAM::UIAPI::Ext::SymbolGrammar const & grammar);
 
 /// Whether a text is a size as written in symbol names: digits, with or without decimals, without a sign.
 bool isSizeText(QString const & text);
