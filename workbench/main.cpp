@@ -119,7 +119,7 @@ int main(int argc, char ** argv)
     if (!wrongConfiguration.isEmpty()) {
         return fail(wrongConfiguration);
     }
-    KVCAM::UIAPI::Ext::setKeepBackup(true);
+    KVCAM::UIAPI::Ext::setKeepSettingsBackup(true);
     Workbench::readLayers(session);
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
               << " step(s) and " << session.layers().size() << " layers";

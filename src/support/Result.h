@@ -6,6 +6,7 @@
 namespace KVCAM::UIAPI::Ext {
 
 /// Whether something succeeded, and if not why.
+/// \since 0.1
 struct Result
 {
     bool ok = true; ///< also when there was nothing to do

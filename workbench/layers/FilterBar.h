@@ -60,7 +60,7 @@ private:
     void refresh();
     void tell();
     QString fieldTitle(QString const & key) const;
-    QString idleText(KVCAM::UIAPI::Ext::LayerFilterWord const & word) const;
+    QString unmatchedText(KVCAM::UIAPI::Ext::LayerFilterFinding const & word) const;
     QString analysisText() const;
 
     QString m_job;
