@@ -2,12 +2,12 @@
 
 // Configuration: what became of the files that the library loads and saves.
 //
-//   diagnostics()                what the loaders found wrong, and the saves that failed: Finding with the
-//   file setKeepSettingsBackup()      keeps "server.json" as "server.json.bak" before a save would lose
-//   something lastSettingsSave()           whether the last save of "server.json" reached the file
-//   setReadSavedSettingKeys()    also reads the four keys that are written but not read; before the first
-//   call autoMatrixRoles              the twelve roles of a template with their members, for loops
-//   autoMatrixFile()             which of the user's files holds a template
+//   diagnostics()               what the loaders found wrong, and the saves that failed
+//   setKeepSettingsBackup()     keeps "server.json.bak" before a save of "server.json" would lose something
+//   lastSettingsSave()          whether the last save of "server.json" reached the file
+//   setReadSavedSettingKeys()   also reads the four keys that are written but not read
+//   autoMatrixRoles             the twelve roles of a template with their members, for loops
+//   autoMatrixFile()            which of the user's files holds a template
 //
 // The loaders run when the first flat function creates its singleton; switch on what concerns them before
 // that. The setters of settings and saveCurrentAutoMatrixTmp() save; a failure shows in diagnostics(), and

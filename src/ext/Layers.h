@@ -2,9 +2,9 @@
 
 // Layers, directories of jobs and undo.
 //
-//   explainLayerFilter()   what selectLayersByType() makes of a request: each layer's verdict, unmatched
-//   words setRemovalRoots()      the only folders below which delDir() may remove undoCount()            how
-//   many operations undo() could take back, without asking anybody
+//   explainLayerFilter()   what selectLayersByType() makes of a request, by layer and by word
+//   setRemovalRoots()      the only folders below which delDir() may remove
+//   undoCount()            how many operations undo() could take back, without asking the user
 //
 // Each stands alone: explainLayerFilter() and undoCount() ask the engine, setRemovalRoots() is a switch of
 // the host's for the life of the process.

@@ -12,7 +12,7 @@ struct Result
     bool ok = true; ///< also when there was nothing to do
     QString reason; ///< one sentence for people; empty when ok
 
-    explicit operator bool() const { return ok; }
+    explicit operator bool() const { return ok; } ///< the same as ok
 };
 
 } // namespace KVCAM::UIAPI::Ext

@@ -213,7 +213,6 @@ TEST_F(Views, StateIsKeptPerView)
     EXPECT_EQ(buffer->image.width(), 2); // only the lists are replaced
     Step_Config copy;
     getStepConfig(viewHandle(19), copy);
-    EXPECT_EQ(copy.view, viewHandle(19));
     EXPECT_EQ(copy.show_param.unit, 1);
     EXPECT_EQ(getSelectedPara(viewHandle(19)), 42);
     EXPECT_EQ(getSelectedPara(viewHandle(18)), 0);
