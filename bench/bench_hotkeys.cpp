@@ -42,7 +42,7 @@ void loadMany()
     }
     file.close();
     KVHotKey::getInstance()->uploadHotkeyModel();
-    if (UIAPI::Ext::bindings().size() != 2 * manyEntries) {
+    if (UIAPI::Ext::hotkeyBindings().size() != 2 * manyEntries) {
         qFatal("the bindings were not loaded");
     }
 }

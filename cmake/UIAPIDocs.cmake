@@ -4,17 +4,16 @@ if(NOT UIAPI_DOXYGEN)
   return()
 endif()
 
-get_target_property(_headers UIAPICommon HEADER_SET)
+get_target_property(_headers UIAPICommon_headers HEADER_SET)
 get_target_property(_platform UIAPICommon HEADER_SET_platform)
 set(_inputs ${_headers} ${_platform})
 if(TARGET KVCAM_API)
-  get_target_property(_headers KVCAM_API HEADER_SET)
+  get_target_property(_headers KVCAM_API_headers HEADER_SET)
   list(APPEND _inputs ${_headers})
 endif()
 foreach(_page IN ITEMS README ARCHITECTURE CONTRIBUTING CHANGELOG docs/Extensions)
   list(APPEND _inputs "${PROJECT_SOURCE_DIR}/${_page}.md")
 endforeach()
-list(FILTER _inputs EXCLUDE REGEX "UIAPICommon(Export|Version)\\.h$") # nothing but macros
 list(TRANSFORM _inputs PREPEND "\"")
 list(TRANSFORM _inputs APPEND "\"")
 list(JOIN _inputs " \\\n  " _inputs)
@@ -24,7 +23,6 @@ PROJECT_NUMBER = ${PROJECT_VERSION}
 OUTPUT_DIRECTORY = \"${PROJECT_BINARY_DIR}/docs\"
 USE_MDFILE_AS_MAINPAGE = \"${PROJECT_SOURCE_DIR}/README.md\"
 STRIP_FROM_PATH = \"${PROJECT_SOURCE_DIR}/src\" \"${PROJECT_SOURCE_DIR}/platform\" \"${PROJECT_SOURCE_DIR}\"
-STRIP_FROM_INC_PATH = \"${PROJECT_SOURCE_DIR}/src\" \"${PROJECT_SOURCE_DIR}/platform\"
 IMAGE_PATH = \"${PROJECT_SOURCE_DIR}/docs\"
 INPUT = ${_inputs}
 ")

@@ -33,11 +33,11 @@ if(UIAPI_SANITIZE)
 endif()
 
 # uiapi_room(SOURCES ... HEADERS ... PUBLIC_HEADERS ...): what a room of src/ adds to the library. Public
-# headers are installed under their path below src/.
+# headers are installed as <UIAPICommon/room/Header.h>.
 function(uiapi_room)
   cmake_parse_arguments(ROOM "" "" "SOURCES;HEADERS;PUBLIC_HEADERS" ${ARGN})
   target_sources(UIAPICommon_objects PRIVATE ${ROOM_SOURCES} ${ROOM_HEADERS} ${ROOM_PUBLIC_HEADERS})
   if(ROOM_PUBLIC_HEADERS)
-    target_sources(UIAPICommon PUBLIC FILE_SET HEADERS FILES ${ROOM_PUBLIC_HEADERS})
+    target_sources(UIAPICommon_headers INTERFACE FILE_SET HEADERS FILES ${ROOM_PUBLIC_HEADERS})
   endif()
 endfunction()

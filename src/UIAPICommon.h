@@ -1,32 +1,18 @@
 #pragma once
 
-// Everything that UIAPICommon exports.
+// Everything that UIAPICommon exports: the fixed interface and, by UIAPICommonExt.h, what was added to it.
 
+#include "UIAPICommonExt.h"
 #include "UIAPICommonVersion.h"
 
 #include "analysis/AnalysisRecords.h"
-#include "analysis/AnalysisReport.h"
-#include "analysis/Grade.h"
-#include "analysis/RangeSource.h"
 #include "analysis/Unified_AnalysisResult.h"
-#include "config/AutoMatrixFile.h"
 #include "config/AutoMatrixTmp.h"
-#include "config/Diagnostics.h"
-#include "config/SettingsFile.h"
 #include "config/UIAPIGlobalVar.h"
 #include "hotkey/FuncCode.h"
-#include "hotkey/HotkeyTools.h"
 #include "hotkey/KVHotKey.h"
-#include "layers/LayerFilterReport.h"
 #include "layers/ReferenceLayerInfo.h"
-#include "layers/RemovalRoots.h"
-#include "layers/UndoCount.h"
 #include "links/ConnectEDA.h"
-#include "support/MessagePresenter.h"
-#include "support/Result.h"
-#include "support/SymbolFamilies.h"
-#include "support/ThreadCheck.h"
-#include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/ViewRecords.h"
 #include "uiapi/flat/Arithmetic.h"
@@ -50,8 +36,6 @@
 #include "uiapi/flat/Undo.h"
 #include "uiapi/flat/Units.h"
 #include "uiapi/flat/ViewAccess.h"
-#include "units/SymbolDescription.h"
-#include "units/ValueCheck.h"
 #include "widgets/KVFileDialog.h"
 #include "widgets/KVLabel.h"
 #include "widgets/KVLineEdit.h"
@@ -59,4 +43,3 @@
 #include "widgets/KVListWidgetItem.h"
 #include "widgets/KVProgressDialog.h"
 #include "widgets/KVTextEdit.h"
-#include "widgets/Translation.h"

@@ -119,8 +119,8 @@ int main(int argc, char ** argv)
     if (!wrongConfiguration.isEmpty()) {
         return fail(wrongConfiguration);
     }
-    KVCAM::UIAPI::Ext::setKeepBackup(true);
-    KVCAM::UIAPI::Ext::setReadSavedKeys(true); // what the settings page saves is there at the next start
+    KVCAM::UIAPI::Ext::setKeepSettingsBackup(true);
+    KVCAM::UIAPI::Ext::setReadSavedSettingKeys(true); // what the settings page saves is there at the next start
     KVCAM::UIAPI::Ext::setRemovalRoots({commandLine.output + "/workbench-session"});
     Workbench::readLayers(session);
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()

@@ -89,7 +89,7 @@ void AnalysisReport::addSignal(
     }
 }
 
-void AnalysisReport::addRest(
+void AnalysisReport::addUnified(
     std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results)
 {
     for (auto const & [item, layers] : results) {

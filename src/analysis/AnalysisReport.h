@@ -1,9 +1,9 @@
 #pragma once
 
+#include "../support/Result.h"
+#include "AnalysisRecords.h"
+#include "Grade.h"
 #include "UIAPICommonExport.h"
-#include "analysis/AnalysisRecords.h"
-#include "analysis/Grade.h"
-#include "support/Result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -60,6 +60,7 @@ inline constexpr char const * unifiedTable = "UnifiedItems";
 /// What a run of the engine's checks found, by the exact category of each measurement and graded by the
 /// configured levels. It takes the raw replies, before they are filed in Unified_AnalysisResult, which
 /// gathers several categories under one item. A value: copies are independent, nothing is shared.
+/// \since 0.1
 class AnalysisReport
 {
 public:
@@ -78,7 +79,7 @@ public:
         std::map<std::string, std::map<signal_layers_checks_items, signal_check_result>> const & replies);
     /// Adds unified items, under `unifiedTable`.
     UIAPICOMMON_EXPORT void
-    addRest(std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results);
+    addUnified(std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results);
     /// Adds a check that was not run; a name that is left empty is filled from the table.
     UIAPICOMMON_EXPORT void addNotChecked(NotChecked check);
 

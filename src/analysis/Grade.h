@@ -1,7 +1,7 @@
 #pragma once
 
+#include "AnalysisRecords.h"
 #include "UIAPICommonExport.h"
-#include "analysis/AnalysisRecords.h"
 
 #include <array>
 #include <cstddef>
@@ -38,17 +38,19 @@ enum class LevelUnit : int
 /// between two levels that of the better one: with the levels 3, 4 and 5, smaller being worse, 3 is red, 3.5
 /// yellow, 5 green and 6 none. None where the value or a level is not finite, and where the levels do not
 /// stand in the order of the sense (levels may be equal): contradicting levels grade nothing.
-UIAPICOMMON_EXPORT Severity grade(Analysis_Ranges_Record const & record, double value, Sense sense);
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT Severity grade(Analysis_Ranges_Record const & record, double value,
+                                                Sense sense);
 
 /// The sense in which the levels of a record stand: LargerIsWorse when the red level is above the green one,
 /// else SmallerIsWorse.
-UIAPICOMMON_EXPORT Sense senseOf(Analysis_Ranges_Record const & record);
+[[nodiscard]] UIAPICOMMON_EXPORT Sense senseOf(Analysis_Ranges_Record const & record);
 
 /// grade() of a measurement in micrometres by levels in `unit`, in the levels' own sense. The engine measures
 /// in whole micrometres, and levels are compared at that resolution: a track of 4 mil, measured as 102, is at
 /// the level 4 (101.6), not beyond it.
-UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record, double micrometres,
-                                          LevelUnit unit = LevelUnit::Mil);
+[[nodiscard]] UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record,
+                                                        double micrometres, LevelUnit unit = LevelUnit::Mil);
 
 /// How a severity is shown. The colours stay apart in red-green blindness and have a contrast of at least 3
 /// on white; letter and icon say the same without colour.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "AnalysisRecords.h"
 #include "UIAPICommonExport.h"
-#include "analysis/AnalysisRecords.h"
 
 #include <map>
 #include <string>
@@ -14,6 +14,7 @@ namespace Ext {
 
 /// Empties Unified_AnalysisResult between two jobs, as it was at the start: results, which kinds were filed,
 /// job and step, and the list of setLayerInfo(). GUI thread only.
+/// \since 0.1
 UIAPICOMMON_EXPORT void clearUnifiedResults();
 
 } // namespace Ext

@@ -15,7 +15,7 @@ namespace KVCAM::UIAPI {
 /// Adds one finding to what Ext::diagnostics() returns.
 void addDiagnostic(Ext::Diagnostic diagnostic);
 
-/// The value set by Ext::setKeepBackup().
+/// The value set by Ext::setKeepSettingsBackup().
 bool keepsBackup();
 
 /// Where in a file an object stands; without an array at the top level. Spelt out only for a finding.

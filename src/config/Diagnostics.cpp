@@ -56,7 +56,7 @@ std::vector<Diagnostic> diagnostics()
     return state().found;
 }
 
-void setKeepBackup(bool keep)
+void setKeepSettingsBackup(bool keep)
 {
     state().keepBackup = keep;
 }
@@ -89,7 +89,7 @@ QString JsonPlace::key(QString const & last) const
 
 void FileDiagnostics::report(DiagnosticKind kind, QString const & key, QString const & text) const
 {
-    addDiagnostic({m_file, key, kind, text});
+    addDiagnostic({{key, kind, text}, m_file});
 }
 
 void FileDiagnostics::missingKey(JsonPlace const & place, char const * key) const

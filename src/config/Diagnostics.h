@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../support/Finding.h"
 #include "UIAPICommonExport.h"
 
 #include <QString>
@@ -25,24 +26,22 @@ enum class DiagnosticKind : int
     SaveFailed        ///< "server.json" or a template was not written; the text says why
 };
 
-/// One finding.
-struct Diagnostic
+/// What is wrong at one place of a file. `where` is the key, "TotalAttributes[3].unit".
+struct Diagnostic : Finding<DiagnosticKind>
 {
     QString file; ///< the path as it was opened
-    QString key;  ///< where in the file, "TotalAttributes[3].unit"; empty for the file as a whole
-    DiagnosticKind kind = DiagnosticKind::MissingFile; ///< what is wrong
-    QString text;                                      ///< one English sentence for people
 };
 
 /// What the loaders of the configuration and range files have found since the process started, and the saves
 /// that failed, in the order of finding. Empty until something is loaded: asking creates no singleton and
 /// reads no file. GUI thread only.
-UIAPICOMMON_EXPORT std::vector<Diagnostic> diagnostics();
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<Diagnostic> diagnostics();
 
 /// Whether the first save of the process that writes "server.json" keeps the old file beside it as
 /// "server.json.bak" (an older one is replaced), when the last load failed or the file holds keys that the
 /// save would drop. Off until set. A backup that cannot be written is given up; diagnostics()
 /// says so.
-UIAPICOMMON_EXPORT void setKeepBackup(bool keep);
+UIAPICOMMON_EXPORT void setKeepSettingsBackup(bool keep);
 
 } // namespace KVCAM::UIAPI::Ext

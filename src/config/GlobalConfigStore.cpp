@@ -107,7 +107,7 @@ Ext::Result Ext::lastSettingsSave()
     return state().lastSave;
 }
 
-void Ext::setReadSavedKeys(bool read)
+void Ext::setReadSavedSettingKeys(bool read)
 {
     state().keys = read ? KeysTaken::WrittenToo : KeysTaken::Read;
 }

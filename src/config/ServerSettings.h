@@ -45,7 +45,7 @@ struct SettingField
 
 /// The settings in the order in which they are read. Four are written under another key than they are read
 /// from: what is saved there does not come back at the next start, and the files in the field count on it
-/// (unless Ext::setReadSavedKeys() asks for more).
+/// (unless Ext::setReadSavedSettingKeys() asks for more).
 inline constexpr std::array<SettingField, 17> settingFields = {{
     {&ServerSettings::serverIp, "ServerIp", "ServerIp"},
     {&ServerSettings::clientIp, "ClientIp", "ClientIp"},

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "AutoMatrixFile.h"
+#include "AutoMatrixTmp.h"
 #include "UIAPICommonExport.h"
-#include "config/AutoMatrixFile.h"
-#include "config/AutoMatrixTmp.h"
 
 #include <kvcam/Records.h>
 
@@ -67,8 +67,8 @@ public:
     /// was, without a log line; Ext::lastSettingsSave() tells. Where the configuration directory is missing,
     /// a WARNING line is logged, the directory is created and nothing is written: the value reaches the file
     /// with the next save. The layer copy suffix, the movement factor, the shift confict and the contour
-    /// accuracy are written under keys that are not read at the next start, unless Ext::setReadSavedKeys()
-    /// was called before it.
+    /// accuracy are written under keys that are not read at the next start, unless
+    /// Ext::setReadSavedSettingKeys() was called before it.
     void setServerIP(std::string const & ip);
     void setClientIP(std::string const & ip);
     void setServerPort(int port);

@@ -64,9 +64,14 @@ public:
         return binding;
     }
 
-    void find(HotkeyFindingKind kind, int element, QString const & text)
+    /// `member` is the element's one that is at fault, if it is not the element as a whole.
+    void find(HotkeyFindingKind kind, int element, QString const & text, char const * member = nullptr)
     {
-        findings.push_back({kind, element, text});
+        QString where = element < 0 ? QString() : QStringLiteral("[%1]").arg(element);
+        if (member != nullptr) {
+            where += QLatin1Char('.') + QLatin1String(member);
+        }
+        findings.push_back({{where, kind, text}, element});
     }
     void findFunctionsWithoutKey()
     {
@@ -104,11 +109,11 @@ QString faultText(HotkeyElement const & element)
 
 } // namespace
 
-std::vector<HotkeyBinding> bindings()
+std::vector<HotkeyBinding> hotkeyBindings()
 {
     Judge judge;
     std::vector<HotkeyBinding> result;
-    for (HotkeyEntry const & entry : HotkeyDoor::read().tables.entries()) {
+    for (HotkeyEntry const & entry : HotkeyAccess::read().tables.entries()) {
         result.push_back(judge.judge(entry));
     }
     return result;
@@ -117,43 +122,43 @@ std::vector<HotkeyBinding> bindings()
 std::vector<HotkeyFinding> hotkeyReport()
 {
     Judge judge;
-    for (HotkeyEntry const & entry : HotkeyDoor::read().tables.entries()) {
+    for (HotkeyEntry const & entry : HotkeyAccess::read().tables.entries()) {
         judge.judge(entry);
     }
     judge.findFunctionsWithoutKey();
     return judge.findings;
 }
 
-HotkeyTrial tryLoadHotkeys(QString const & path)
+HotkeyFileCheck checkHotkeyFile(QString const & path)
 {
     Judge judge;
-    HotkeyTrial trial;
+    HotkeyFileCheck check;
     HotkeyDocument const file = readHotkeyFile(path);
-    trial.loads = file.result.ok;
-    if (!trial.loads) {
+    check.loads = file.result.ok;
+    if (!check.loads) {
         judge.find(HotkeyFindingKind::Unreadable, -1, file.result.reason);
-        trial.findings = judge.findings;
-        return trial;
+        check.findings = judge.findings;
+        return check;
     }
     for (int i = 0; i < file.elements.size(); ++i) {
-        HotkeyElement const element = readElement(file.elements.at(i), HotkeyDoor::read().names);
+        HotkeyElement const element = readElement(file.elements.at(i), HotkeyAccess::read().names);
         if (element.fault) {
-            judge.find(*element.fault, i, faultText(element));
+            judge.find(*element.fault, i, faultText(element), element.member);
         } else {
-            trial.bindings.push_back(judge.judge(element.entry, i));
+            check.bindings.push_back(judge.judge(element.entry, i));
         }
     }
     if (!file.isArray) {
         judge.find(HotkeyFindingKind::NotAnArray, -1, QStringLiteral("The top level is not an array."));
     }
     judge.findFunctionsWithoutKey();
-    trial.findings = judge.findings;
-    return trial;
+    check.findings = judge.findings;
+    return check;
 }
 
 Result lastHotkeyLoad()
 {
-    return HotkeyDoor::read().lastLoad;
+    return HotkeyAccess::read().lastLoad;
 }
 
 HotkeyExport exportHotkeys(QString const & path)
@@ -161,7 +166,7 @@ HotkeyExport exportHotkeys(QString const & path)
     HotkeyExport result;
     QJsonArray array;
     Judge judge;
-    for (HotkeyEntry const & entry : HotkeyDoor::read().tables.entries()) {
+    for (HotkeyEntry const & entry : HotkeyAccess::read().tables.entries()) {
         HotkeyBinding const binding = judge.judge(entry);
         QJsonValue const element = writeElement(entry);
         if (element.isNull()) {
@@ -170,19 +175,19 @@ HotkeyExport exportHotkeys(QString const & path)
             array.append(element);
         }
     }
-    result.error = JsonFile::replace(path, QJsonDocument(array).toJson()).reason;
+    result.result = JsonFile::replace(path, QJsonDocument(array).toJson());
     return result;
 }
 
-QString pendingKey()
+QString pendingHotkey()
 {
-    int const key = HotkeyDoor::read().buffer.pending();
+    int const key = HotkeyAccess::read().buffer.pending();
     return key == noKey ? QString() : keyText(key);
 }
 
-std::vector<HotkeyContinuation> continuations()
+std::vector<HotkeyContinuation> hotkeyContinuations()
 {
-    auto const & state = HotkeyDoor::read();
+    auto const & state = HotkeyAccess::read();
     Judge judge;
     std::vector<HotkeyContinuation> result;
     for (HotkeyEntry const & entry : state.tables.entries()) {

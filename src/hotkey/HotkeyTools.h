@@ -1,8 +1,9 @@
 #pragma once
 
+#include "../support/Finding.h"
+#include "../support/Result.h"
+#include "FuncCode.h"
 #include "UIAPICommonExport.h"
-#include "hotkey/FuncCode.h"
-#include "support/Result.h"
 
 #include <QString>
 
@@ -25,7 +26,8 @@ struct HotkeyBinding
 };
 
 /// All bindings, those of single keys first, each kind in the order in which it is searched.
-UIAPICOMMON_EXPORT std::vector<HotkeyBinding> bindings();
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyBinding> hotkeyBindings();
 
 /// What can be odd about an element of the file or about the bindings.
 enum class HotkeyFindingKind : int
@@ -41,20 +43,18 @@ enum class HotkeyFindingKind : int
     WithoutKey       ///< no keys give the function
 };
 
-/// One odd thing.
-struct HotkeyFinding
+/// One odd thing. `where` is the place in the file, "[3].key1" or "[3]"; empty in hotkeyReport().
+struct HotkeyFinding : Finding<HotkeyFindingKind>
 {
-    HotkeyFindingKind kind = HotkeyFindingKind::Unreadable; ///< what it is
     int element = -1; ///< which element of the file, counting from 0; -1 for the whole
-    QString text;     ///< one English sentence for people
 };
 
 /// What is odd about the bindings that KVHotKey holds: keys bound twice, bindings that never fire, in the
-/// order of bindings(), and then the functions without a key, by code.
-UIAPICOMMON_EXPORT std::vector<HotkeyFinding> hotkeyReport();
+/// order of hotkeyBindings(), and then the functions without a key, by code.
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyFinding> hotkeyReport();
 
 /// What loading a file would do.
-struct HotkeyTrial
+struct HotkeyFileCheck
 {
     bool loads = false;                  ///< whether it would replace the bindings
     std::vector<HotkeyFinding> findings; ///< by element, then those of the whole
@@ -63,7 +63,7 @@ struct HotkeyTrial
 
 /// Reads a file of hot keys as KVHotKey would and tells, without loading it, why each element that binds
 /// nothing does not, and what hotkeyReport() would say of the rest.
-UIAPICOMMON_EXPORT HotkeyTrial tryLoadHotkeys(QString const & path);
+[[nodiscard]] UIAPICOMMON_EXPORT HotkeyFileCheck checkHotkeyFile(QString const & path);
 
 /// What became of the latest KVHotKey::uploadHotkeyModel(), that of the object's making included: whether the
 /// file's bindings took the place of those before, and if not why. A missing file is such a reason, too.
@@ -72,17 +72,17 @@ UIAPICOMMON_EXPORT HotkeyTrial tryLoadHotkeys(QString const & path);
 /// What became of an export.
 struct HotkeyExport
 {
-    QString error;                      ///< why nothing was written; empty on success
+    Result result;                      ///< whether the file was written
     std::vector<HotkeyBinding> leftOut; ///< what the file has no words for: the code without a name
 };
 
 /// Writes the bindings that KVHotKey holds as a file that it can load. An old file is replaced whole or stays
 /// as it was; the folder must be there.
-UIAPICOMMON_EXPORT HotkeyExport exportHotkeys(QString const & path);
+[[nodiscard]] UIAPICOMMON_EXPORT HotkeyExport exportHotkeys(QString const & path);
 
 /// The plain key that the next one can complete to a sequence, "S"; empty when there is none. Whether a
-/// sequence begins with it is what continuations() tells.
-UIAPICOMMON_EXPORT QString pendingKey();
+/// sequence begins with it is what hotkeyContinuations() tells.
+[[nodiscard]] UIAPICOMMON_EXPORT QString pendingHotkey();
 
 /// A key that completes a sequence.
 struct HotkeyContinuation
@@ -93,6 +93,6 @@ struct HotkeyContinuation
 };
 
 /// The plain keys that give a code when pressed next, in the order of the bindings.
-UIAPICOMMON_EXPORT std::vector<HotkeyContinuation> continuations();
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyContinuation> hotkeyContinuations();
 
 } // namespace KVCAM::UIAPI::Ext

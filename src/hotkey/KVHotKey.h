@@ -1,7 +1,7 @@
 #pragma once
 
+#include "FuncCode.h"
 #include "UIAPICommonExport.h"
-#include "hotkey/FuncCode.h"
 
 #include <QObject>
 
@@ -11,7 +11,7 @@ class QKeyEvent;
 namespace KVCAM {
 
 namespace UIAPI {
-struct HotkeyDoor;
+struct HotkeyAccess;
 }
 
 /// Turns key presses into function codes: a key with modifiers (Ctrl+A), or two plain keys one after the
@@ -20,7 +20,7 @@ struct HotkeyDoor;
 ///
 /// It starts from a default table, which the user's "./config/keyboard.json", relative to the current
 /// directory, replaces when it is there and parses. Nothing is logged but what is thrown, as when memory is
-/// short (the method then gives its neutral result); Ext::tryLoadHotkeys() tells what is wrong with a file.
+/// short (the method then gives its neutral result); Ext::checkHotkeyFile() tells what is wrong with a file.
 ///
 /// The file is a JSON array of objects with texts: "func_name" with "Modifier" ("", "Shift", "Ctrl") and
 /// "key", or "func_name" with "key1" and "key2". Keys are the characters "0" to "`", "a" to "z" for the same
@@ -64,7 +64,7 @@ public:
     void uploadHotkeyModel();
 
 private:
-    friend struct UIAPI::HotkeyDoor;
+    friend struct UIAPI::HotkeyAccess;
     struct Private;
 
     KVHotKey();

@@ -17,7 +17,7 @@ struct KVHotKey::Private
 };
 
 /// Through which the tools look at the object's state.
-struct UIAPI::HotkeyDoor
+struct UIAPI::HotkeyAccess
 {
     static KVHotKey::Private const & read() { return *KVHotKey::getInstance()->d; }
 };

@@ -30,14 +30,19 @@ void reportWords(KeyFact const & fact, Words const & words, Layers const & layer
     for (QString const & word : words) {
         QString const key = QLatin1String(fact.name);
         if (!isInVocabulary(fact.key, word)) {
-            report.idleWords.push_back({key, word, LayerWordFault::UnknownWord});
+            report.unmatchedWords.push_back({{key, LayerWordFault::UnknownWord,
+                                              QStringLiteral("\"%1\" has no word \"%2\".").arg(key, word)},
+                                             word});
             continue;
         }
         WordSet const one(fact.key, {word}, board);
-        bool const isIdle = std::none_of(one.values().begin(), one.values().end(),
-                                         [&](auto const & value) { return present.count(value) != 0; });
-        if (isIdle) {
-            report.idleWords.push_back({key, word, LayerWordFault::NoSuchLayer});
+        bool const isUnmatched = std::none_of(one.values().begin(), one.values().end(),
+                                              [&](auto const & value) { return present.count(value) != 0; });
+        if (isUnmatched) {
+            report.unmatchedWords.push_back(
+                {{key, LayerWordFault::NoSuchLayer,
+                  QStringLiteral("No layer has the \"%1\" \"%2\".").arg(key, word)},
+                 word});
         }
     }
 }

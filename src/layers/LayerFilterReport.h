@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../support/Finding.h"
 #include "UIAPICommonExport.h"
 
 #include <QMap>
@@ -19,12 +20,10 @@ enum class LayerWordFault : int
     NoSuchLayer  ///< no layer of the matrix is of that type, context, side or polarity
 };
 
-/// A word of a request that selects nothing.
-struct LayerFilterWord
+/// A word of a request that selects nothing. `where` is its key: "type", "context", "side" or "pos".
+struct LayerFilterFinding : Finding<LayerWordFault>
 {
-    QString key;                                        ///< "type", "context", "side" or "pos"
-    QString word;                                       ///< as it stands in the request
-    LayerWordFault fault = LayerWordFault::UnknownWord; ///< why
+    QString word; ///< as it stands in the request
 };
 
 /// Whether a layer is selected.
@@ -37,16 +36,17 @@ struct LayerVerdict
 /// What a request makes of the layers of a job.
 struct LayerFilterReport
 {
-    std::string error;                      ///< the engine's text when the matrix cannot be read, else empty
-    QStringList unknownKeys;                ///< keys that are ignored, in ascending order
-    std::vector<LayerFilterWord> idleWords; ///< words that select nothing, by key and then as they stand
-    std::vector<LayerVerdict> layers;       ///< every layer in matrix order
+    std::string error;       ///< the engine's text when the matrix cannot be read, else empty
+    QStringList unknownKeys; ///< keys that are ignored, in ascending order
+    std::vector<LayerFilterFinding> unmatchedWords; ///< by key and then as they stand
+    std::vector<LayerVerdict> layers;               ///< every layer in matrix order
 };
 
 /// What UIAPICommonPara::selectLayersByType() makes of a request, and why. The layers without a refusing key
 /// are those that it appends. What the engine throws is logged and gives an empty report. No singleton is
 /// created.
-UIAPICOMMON_EXPORT LayerFilterReport explainLayerFilter(QString const & job,
-                                                        QMap<QString, QString> const & filters);
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT LayerFilterReport explainLayerFilter(QString const & job,
+                                                                      QMap<QString, QString> const & filters);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -14,6 +14,7 @@ namespace KVCAM::UIAPI::Ext {
 /// A path is made absolute here, its links resolved as far as it exists. Nothing lies below a directory that
 /// does not exist when delDir() asks, nor below a text that is no path: a list of nothing else forbids every
 /// removal. Nothing is logged, no singleton is created. GUI thread only.
+/// \since 0.1
 UIAPICOMMON_EXPORT void setRemovalRoots(QStringList const & directories);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -138,7 +138,7 @@ ConnectEDA::~ConnectEDA()
 
 void ConnectEDA::sendData(QJsonObject const & data)
 {
-    sendDataChecked(data);
+    static_cast<void>(sendDataChecked(data)); // this one tells nobody
 }
 
 Ext::EdaSendResult ConnectEDA::sendDataChecked(QJsonObject const & data)

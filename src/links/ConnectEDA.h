@@ -11,7 +11,7 @@ namespace KVCAM::UIAPI {
 
 namespace Ext {
 
-/// What became of one message to the EDA tool.
+/// What became of one message to the EDA tool: an enumeration and no Result, since a host acts on it.
 enum class EdaSendResult : int
 {
     Sent,       ///< handed to the network; whether anybody listens cannot be known
@@ -21,7 +21,7 @@ enum class EdaSendResult : int
     SocketError ///< anything else; EdaLinkState::lastError has the words
 };
 
-/// How a link to the EDA tool fares.
+/// Status of a link to the EDA tool.
 struct EdaLinkState
 {
     bool exists = false;  ///< false: there is no link, and nothing below counts
@@ -68,8 +68,8 @@ public:
     // --- Additions ----------------------------------------------------------------------------------------
 
     /// sendData(), and says what became of it.
-    Ext::EdaSendResult sendDataChecked(QJsonObject const & data);
-    /// How the link fares.
+    [[nodiscard]] Ext::EdaSendResult sendDataChecked(QJsonObject const & data);
+    /// Status of the link.
     Ext::EdaLinkState state() const;
 
 public slots:

@@ -43,6 +43,7 @@ using MessagePresenter = std::function<MessageAnswer(Message const &)>;
 /// QApplication or the caller is not on its thread, a WARNING line "title: text" and the neutral answer (No
 /// to a question). A parent may be deleted while its box is open: that too is the
 /// neutral answer. GUI thread only.
+/// \since 0.1
 UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter presenter);
 
 /// Shows a message through the presenter in force and returns the answer. A presenter that throws counts as

@@ -16,6 +16,7 @@ enum class ThreadCheck : int
 /// library belongs to the thread that calls this last, so call it in main(), before the first dialog. Setting
 /// it again allows for one more log line. The calls themselves run as ever: nothing is locked. Meant for
 /// debug builds of hosts.
+/// \since 0.1
 UIAPICOMMON_EXPORT void setThreadCheck(ThreadCheck check);
 
 } // namespace KVCAM::UIAPI::Ext

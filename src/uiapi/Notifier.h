@@ -20,6 +20,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(ViewAspects)
 
 /// Tells who listens that a view's state changed. One object for the process; it is never destroyed, and
 /// asking for it creates no singleton of the library.
+/// \since 0.1
 class UIAPICOMMON_EXPORT Notifier : public QObject
 {
     Q_OBJECT

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "../analysis/AnalysisRecords.h"
+#include "../layers/ReferenceLayerInfo.h"
 #include "UIAPICommonExport.h"
-#include "analysis/AnalysisRecords.h"
-#include "layers/ReferenceLayerInfo.h"
-#include "uiapi/ViewRecords.h"
+#include "ViewRecords.h"
 
 #include <QJsonObject>
 #include <QList>
@@ -331,10 +331,10 @@ public:
     QString getReceiveStr() const;
     /// The link, owned by nobody and alive until the process ends; null when there is none.
     ConnectEDA * edaLink() const;
-    /// How the link fares.
+    /// Status of the link; the type stands in ext/EdaLink.h.
     Ext::EdaLinkState edaLinkState() const;
     /// sendEdaData(), and says what became of it.
-    Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
+    [[nodiscard]] Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
 
     /// Hands a command to the modules that have a route for it, see the flat function of this name.
     void setPluginCmd(int command, std::string const & key, void * data) const;
@@ -345,7 +345,7 @@ public:
     bool removePluginRoute(int command, std::string const & key, std::string const & module);
 
 private:
-    friend struct CommonParaDoor;
+    friend struct CommonParaAccess;
 
     UIAPICommonPara();
     ~UIAPICommonPara();

@@ -45,7 +45,7 @@ auto guardedPara(Body && body, int line = __builtin_LINE())
 }
 
 /// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
-struct CommonParaDoor
+struct CommonParaAccess
 {
     static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }
 };

@@ -10,6 +10,7 @@ namespace KVCAM::UIAPI::Ext {
 /// (508 my), corners rounded by 5 mil (127 my)". `unit` says what the name's sizes are in, 0 mil, another
 /// code micrometres; that unit comes first. Sizes have up to six decimals. A name that is no standard symbol,
 /// or whose fields do not fit its family, is "user symbol" and the name; an empty name gives an empty text.
-UIAPICOMMON_EXPORT QString describeSymbol(QString const & name, int unit);
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT QString describeSymbol(QString const & name, int unit);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -19,11 +19,14 @@ struct ValueVerdict
 // code is metric. Nothing is shown or logged, and no singleton is created.
 
 /// A value in the small unit (mil or micrometres) against bounds in mil.
-UIAPICOMMON_EXPORT ValueVerdict checkValue(double value, double minimum, double maximum, int unit);
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkValue(double value, double minimum, double maximum,
+                                                         int unit);
 /// A plain number; nothing is converted.
-UIAPICOMMON_EXPORT ValueVerdict checkNumber(double value, double minimum, double maximum);
+[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkNumber(double value, double minimum, double maximum);
 /// Every number of a symbol name, counts and angles included, in the small unit against bounds in mil. The
 /// text is that of the first illegal one.
-UIAPICOMMON_EXPORT ValueVerdict checkSymbol(QString const & name, double minimum, double maximum, int unit);
+[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkSymbol(QString const & name, double minimum,
+                                                          double maximum, int unit);
 
 } // namespace KVCAM::UIAPI::Ext

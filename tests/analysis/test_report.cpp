@@ -127,7 +127,7 @@ protected:
         std::map<unified_check_items, std::map<std::string, unified_check_result>> rest;
         rest[UNIFIED_SLOTS]["=cmd|'/c'!\"A1\", é"].groups[3] = {{3, 1, {-5, 6, 0, 0, 0, 0, 50, 0}}};
         report.setJobStep("job\n\"1\"", "pcb");
-        report.addRest(rest);
+        report.addUnified(rest);
         report.setLevels("SignalLayerRanges", {{"Lines", 3, 4, 5}, {"Lines", 99, 99, 99}, {"Pads", 1, 2, 3}});
         report.addSignal(signal);
         report.addDrill(drill);

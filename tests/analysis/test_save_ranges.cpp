@@ -1,7 +1,7 @@
 #include "config/ConfigTest.h"
 
 #include "analysis/RangeStore.h"
-#include "uiapi/UIAPICommonPara.h"
+#include "ext/Analysis.h"
 #include "uiapi/flat/Ranges.h"
 
 #include <QJsonArray>

@@ -1,7 +1,7 @@
 #include "ConfigTest.h"
 
 #include "config/AutoMatrixStore.h"
-#include "config/Diagnostics.h"
+#include "ext/Configuration.h"
 #include "uiapi/flat/AutoMatrix.h"
 
 #include <QJsonArray>

@@ -42,7 +42,7 @@ protected:
         for (; m_seen < all.size(); ++m_seen) {
             EXPECT_FALSE(all[m_seen].text.isEmpty());
             lines.push_back((QFileInfo(all[m_seen].file).fileName() + ' ' + kindName(all[m_seen].kind) + ' ' +
-                             all[m_seen].key)
+                             all[m_seen].where)
                                 .trimmed()
                                 .toStdString());
         }
@@ -133,7 +133,7 @@ TEST_F(DiagnosticsTest, EachLoaderTellsWhatItFinds)
     // Asked for, the keys of a save are read, checked and not reported.
     writeFile(config + "server.json", wholeSettings + ",\"LayerCopySuffix\":\"\",\"MovementFactor\":\"x\"," +
                                           "\"ShiftConfict\":1,\"Shift_confict\":1}");
-    Ext::setReadSavedKeys(true);
+    Ext::setReadSavedSettingKeys(true);
     GlobalConfigStore().getGlobalConfig();
     EXPECT_EQ(found(), (Lines{"server.json type MovementFactor", "server.json missing contour_accuracy",
                               "server.json not read ShiftConfict"}));
@@ -232,7 +232,7 @@ TEST_F(DiagnosticsTest, TheFirstSaveKeepsABackupOfWhatItWouldLose)
         QFile::remove(config + "server.json.bak");
         GlobalConfigStore store;
         store.getGlobalConfig();
-        Ext::setKeepBackup(row.keep);
+        Ext::setKeepSettingsBackup(row.keep);
         store.set(&ServerSettings::os, 2);
         EXPECT_EQ(readFile(config + "server.json.bak"), row.expected ? row.content : QByteArray())
             << row.name;

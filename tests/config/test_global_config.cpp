@@ -84,7 +84,7 @@ TEST_F(GlobalConfigTest, FourSettingsAreReadBackFromTheKeysTheyAreWrittenUnderOn
 {
     writeFile(config + "server.json", wholeFile(&KeyRow::writtenKey));
     for (bool const isAsked : {false, true}) {
-        Ext::setReadSavedKeys(isAsked);
+        Ext::setReadSavedSettingKeys(isAsked);
         restartQuietly();
         for (KeyRow const & row : keyRows()) {
             EXPECT_EQ(row.isRead(), isAsked || std::string(row.readKey) == row.writtenKey) << row.readKey;

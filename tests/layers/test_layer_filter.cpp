@@ -212,7 +212,7 @@ TEST_F(LayerFilterTest, AnalysisReadsTheBoardLayersOfItsTypes)
     EXPECT_EQ(engine.take(), Lines{});
 }
 
-TEST_F(LayerFilterTest, TheExplanationNamesIdleWordsAndTheFirstRefusingKey)
+TEST_F(LayerFilterTest, TheExplanationNamesUnmatchedWordsAndTheFirstRefusingKey)
 {
     makeSignals(3);
     engine.layers.push_back({"misc", "document", "fab", "POS"});
@@ -225,8 +225,9 @@ TEST_F(LayerFilterTest, TheExplanationNamesIdleWordsAndTheFirstRefusingKey)
     EXPECT_EQ(report.error, "half read");
     EXPECT_EQ(report.unknownKeys, (QStringList{"Side", "layer"}));
     QStringList words;
-    for (auto const & [key, word, fault] : report.idleWords) {
-        words << key + '=' + word + (fault == Ext::LayerWordFault::UnknownWord ? '?' : '-');
+    for (auto const & it : report.unmatchedWords) {
+        words << it.where + '=' + it.word + (it.kind == Ext::LayerWordFault::UnknownWord ? '?' : '-');
+        EXPECT_TRUE(it.text.contains('"' + it.where + '"') && it.text.contains('"' + it.word + '"'));
     }
     EXPECT_EQ(words.join(' ').toStdString(),
               "pos=negative- pos=x? side=inner- side=Bottom? side=? type=rout- type=-");

@@ -2,6 +2,7 @@
 // loop hears it, and Qt has nothing to complain about. With the argument "taken" another socket has the port
 // at first: the link is deaf for good. With "late" the first call comes when the process ends.
 
+#include "ext/EdaLink.h"
 #include "uiapi/flat/EdaLink.h"
 
 #include <QCoreApplication>

@@ -41,14 +41,12 @@ TEST_F(UiState, DefaultsAndRoundTrips)
 {
     UIAPICommonPara & para = *UIAPICommonPara::instance();
     EXPECT_EQ(getCurrentLanguageMode(), LANGUAGE_ENGLISH);
-    EXPECT_FALSE(getPanelPositionStatus() || getCoordinateStatus());
+    EXPECT_FALSE(getPanelPositionStatus() || getCoordinateStatus() || getSplitPtr() != nullptr);
     EXPECT_EQ(getCoordinatePos(), QPoint(0, 0));
-    EXPECT_EQ(getSplitPtr(), nullptr);
     EXPECT_TRUE(para.KvcamAsExe());
     LANGUAGE_MODE language = LANGUAGE_CHINESE;
     setCurrentLanguageMode(language);
     setPanelPositionStatus(true);
-    EXPECT_FALSE(getCoordinateStatus());
     setCoordinateStatus(true);
     setCoordinatePos(QPoint(-3, 4));
     QWidget split;

@@ -188,12 +188,12 @@ TEST_F(Keyboard, EveryCommandOfTheHostHasAKeyUnderTheDefaultsAndTheSample)
             QDir().mkdir("config");
             ASSERT_TRUE(QFile::copy(UIAPI_SOURCE_DIR "/samples/config/keyboard.json", Ext::hotkeyFile));
             KVHotKey::getInstance()->uploadHotkeyModel();
-            Ext::HotkeyTrial const trial = Ext::tryLoadHotkeys(Ext::hotkeyFile);
+            Ext::HotkeyFileCheck const trial = Ext::checkHotkeyFile(Ext::hotkeyFile);
             ASSERT_EQ(trial.findings.size(), 1U);
             EXPECT_EQ(trial.findings[0].text, "Function 11 has no key; a file cannot name it.");
         }
         QSet<int> reached;
-        for (Ext::HotkeyBinding const & binding : Ext::bindings()) {
+        for (Ext::HotkeyBinding const & binding : Ext::hotkeyBindings()) {
             if (binding.answers) {
                 reached.insert(binding.code);
             }

@@ -177,7 +177,7 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
 TEST(ConfigurationPages, AnEditedSettingIsSavedAndReachesTheEngine)
 {
     writeFile("config/server.json", R"({"ThreadCount": 3, "Note": "kept in the backup"})");
-    Ext::setKeepBackup(true);
+    Ext::setKeepSettingsBackup(true);
     SettingsPage page;
     auto * threads = page.findChild<QSpinBox *>("Calculation threads");
     ASSERT_NE(threads, nullptr);

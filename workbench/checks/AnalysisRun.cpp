@@ -104,7 +104,7 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
     }
     m_report.addDrill(results.drill);
     m_report.addSignal(results.signal);
-    m_report.addRest(rest);
+    m_report.addUnified(rest);
     for (KVCAM::Embedded::NotChecked const & entry : results.notChecked) {
         noteUnchecked(entry);
     }

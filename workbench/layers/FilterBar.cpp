@@ -231,12 +231,12 @@ QString FilterBar::fieldTitle(QString const & key) const
     return found == std::end(fields) ? key : tr(found->title).remove('&').section('(', 0, 0);
 }
 
-QString FilterBar::unmatchedText(Ext::LayerFilterWord const & word) const
+QString FilterBar::unmatchedText(Ext::LayerFilterFinding const & word) const
 {
-    QString const text = word.fault == Ext::LayerWordFault::UnknownWord
+    QString const text = word.kind == Ext::LayerWordFault::UnknownWord
                              ? tr("%1: \"%2\" is not a word of this field.")
                              : tr("%1: no layer of the job is \"%2\".");
-    return text.arg(fieldTitle(word.key), word.word);
+    return text.arg(fieldTitle(word.where), word.word);
 }
 
 QString FilterBar::analysisText() const
@@ -261,7 +261,7 @@ QString FilterBar::explanation() const
         return tr("All layers are shown.");
     }
     QStringList sentences;
-    for (Ext::LayerFilterWord const & word : m_report.idleWords) {
+    for (Ext::LayerFilterFinding const & word : m_report.unmatchedWords) {
         sentences.append(unmatchedText(word));
     }
     if (matchCount() == 0) {

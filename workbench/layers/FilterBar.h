@@ -60,7 +60,7 @@ private:
     void refresh();
     void showExplanation();
     QString fieldTitle(QString const & key) const;
-    QString unmatchedText(KVCAM::UIAPI::Ext::LayerFilterWord const & word) const;
+    QString unmatchedText(KVCAM::UIAPI::Ext::LayerFilterFinding const & word) const;
     QString analysisText() const;
 
     QString m_job;

@@ -227,7 +227,7 @@ void SettingsPage::refreshDiagnostics()
                                                   : tr("Findings: %1").arg(Ext::diagnostics().size()));
     for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
         addRow(*m_diagnostics,
-               {QFileInfo(finding.file).fileName(), finding.key, kindText(finding.kind), finding.text});
+               {QFileInfo(finding.file).fileName(), finding.where, kindText(finding.kind), finding.text});
     }
     m_diagnostics->resizeRowsToContents();
 }

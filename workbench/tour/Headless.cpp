@@ -162,7 +162,7 @@ QJsonObject useHotkeys(MainWindow & window, Camera & camera)
     camera.take(sheet, "hot-keys-file.png");
     sheet.close();
     QJsonArray findings;
-    for (Ext::HotkeyFinding const & finding : Ext::tryLoadHotkeys(Ext::hotkeyFile).findings) {
+    for (Ext::HotkeyFinding const & finding : Ext::checkHotkeyFile(Ext::hotkeyFile).findings) {
         findings.append(finding.text);
     }
     facts["findings"] = findings;
@@ -278,7 +278,7 @@ QJsonObject configuration()
     getParentAttribute(attributes);
     QJsonArray findings;
     for (Ext::Diagnostic const & finding : Ext::diagnostics()) {
-        findings.append(QJsonObject{{"file", finding.file}, {"key", finding.key}, {"text", finding.text}});
+        findings.append(QJsonObject{{"file", finding.file}, {"key", finding.where}, {"text", finding.text}});
     }
     return {{"threads", getThreadCount()},
             {"templates", templates},

@@ -82,8 +82,8 @@ void CheatSheet::exportTo(QString const & path)
 {
     Ext::HotkeyExport const result = Ext::exportHotkeys(path);
     QStringList lines;
-    lines.append(result.error.isEmpty() ? tr("Written to \"%1\".").arg(QDir::toNativeSeparators(path))
-                                        : result.error);
+    lines.append(result.result.ok ? tr("Written to \"%1\".").arg(QDir::toNativeSeparators(path))
+                                  : result.result.reason);
     for (Ext::HotkeyBinding const & binding : result.leftOut) {
         lines.append(tr("%1 is left out: the file has no name for what it does.").arg(binding.keys));
     }
@@ -107,7 +107,7 @@ void CheatSheet::chooseExport()
 void CheatSheet::showBindings()
 {
     m_bindings->setRowCount(0);
-    for (Ext::HotkeyBinding const & binding : Ext::bindings()) {
+    for (Ext::HotkeyBinding const & binding : Ext::hotkeyBindings()) {
         QString const remark = !binding.answers                             ? tr("never answers")
                                : !HotkeyCommands::isAvailable(binding.code) ? tr("not available in this host")
                                                                             : QString();
@@ -124,16 +124,16 @@ void CheatSheet::showFile()
 {
     QFileInfo const file{QString(Ext::hotkeyFile)};
     QString const path = QDir::toNativeSeparators(QDir::cleanPath(file.absoluteFilePath()));
-    Ext::HotkeyTrial const trial = Ext::tryLoadHotkeys(Ext::hotkeyFile);
+    Ext::HotkeyFileCheck const check = Ext::checkHotkeyFile(Ext::hotkeyFile);
     m_findings->setRowCount(0);
-    for (Ext::HotkeyFinding const & finding : trial.findings) {
+    for (Ext::HotkeyFinding const & finding : check.findings) {
         addRow(*m_findings,
                {finding.element < 0 ? QString() : QString::number(finding.element + 1), finding.text});
     }
     m_findings->resizeRowsToContents();
-    m_file->setText(trial.loads ? tr("%1 holds %2 bindings. Findings: %3.")
-                                      .arg(path, QString::number(trial.bindings.size()),
-                                           QString::number(trial.findings.size()))
+    m_file->setText(check.loads ? tr("%1 holds %2 bindings. Findings: %3.")
+                                      .arg(path, QString::number(check.bindings.size()),
+                                           QString::number(check.findings.size()))
                     : file.exists() ? tr("%1 cannot be loaded; the keys stay as they are.").arg(path)
                                     : tr("There is no file %1; the default keys are in use.").arg(path));
 }

@@ -24,7 +24,7 @@ constexpr FuncCode hotkeyCommands[] = {KP_EditUndo, KP_AllSelect, KP_ReverseSele
 // The keys of a command, after the tab that a menu shows them behind. They are no shortcut of the menu.
 QString keysOf(FuncCode code)
 {
-    for (Ext::HotkeyBinding const & binding : Ext::bindings()) {
+    for (Ext::HotkeyBinding const & binding : Ext::hotkeyBindings()) {
         if (binding.code == code && binding.answers) {
             return '\t' + binding.keys;
         }

@@ -148,10 +148,10 @@ bool hasText(QWidget const & widget)
 QString pendingText()
 {
     QStringList following;
-    for (Ext::HotkeyContinuation const & next : Ext::continuations()) {
+    for (Ext::HotkeyContinuation const & next : Ext::hotkeyContinuations()) {
         following.append(next.key + ' ' + HotkeyCommands::text(next.code).section(": ", -1));
     }
-    return following.isEmpty() ? QString() : Ext::pendingKey() + " ... " + following.join(", ");
+    return following.isEmpty() ? QString() : Ext::pendingHotkey() + " ... " + following.join(", ");
 }
 
 QString onOff(bool on)

@@ -35,9 +35,4 @@ int getAutomatrixMatrixIndex(QString name)
     return Flat::onGlobalVar([&](UIAPIGlobalVar & global) { return global.getAutomatrixMatrixIndex(name); });
 }
 
-std::optional<Ext::AutoMatrixFile> Ext::autoMatrixFile(int index)
-{
-    return Flat::onGlobalVar([&](UIAPIGlobalVar & global) { return global.autoMatrixFile(index); });
-}
-
 } // namespace KVCAM::UIAPI

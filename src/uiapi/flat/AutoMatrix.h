@@ -1,13 +1,11 @@
 #pragma once
 
+#include "../../config/AutoMatrixTmp.h"
 #include "UIAPICommonExport.h"
-#include "config/AutoMatrixFile.h"
-#include "config/AutoMatrixTmp.h"
 
 #include <QString>
 
 #include <map>
-#include <optional>
 
 /// The auto-matrix templates: how the roles of layers are recognised from their names.
 namespace KVCAM::UIAPI {
@@ -28,13 +26,5 @@ UIAPICOMMON_EXPORT void saveCurrentAutoMatrixTmp(int index, QString name, AutoMa
 UIAPICOMMON_EXPORT void deleteAutoMatrix(int index, QString name);
 /// The smallest index of a template of this name, compared byte for byte as UTF-8; -1 if there is none.
 UIAPICOMMON_EXPORT int getAutomatrixMatrixIndex(QString name);
-
-namespace Ext {
-
-/// Which file of the user's a template stands in; nothing for a shipped template, an index without a
-/// template, and one that was never saved.
-UIAPICOMMON_EXPORT std::optional<AutoMatrixFile> autoMatrixFile(int index);
-
-} // namespace Ext
 
 } // namespace KVCAM::UIAPI

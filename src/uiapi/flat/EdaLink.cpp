@@ -21,21 +21,4 @@ QString getReceiveStr()
     return onCommonPara([](auto & para) { return para.getReceiveStr(); });
 }
 
-ConnectEDA * Ext::edaLink()
-{
-    return onCommonPara([](auto & para) { return para.edaLink(); });
-}
-
-Ext::EdaLinkState Ext::edaLinkState()
-{
-    return onCommonPara([](auto & para) { return para.edaLinkState(); });
-}
-
-Ext::EdaSendResult Ext::sendEdaDataChecked(QJsonObject const & data)
-{
-    EdaSendResult result = EdaSendResult::SocketError; // should anything be thrown
-    onCommonPara([&](auto & para) { result = para.sendEdaDataChecked(data); });
-    return result;
-}
-
 } // namespace KVCAM::UIAPI

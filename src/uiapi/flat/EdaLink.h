@@ -1,7 +1,6 @@
 #pragma once
 
 #include "UIAPICommonExport.h"
-#include "links/ConnectEDA.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -19,14 +18,4 @@ UIAPICOMMON_EXPORT void sendEdaData(QJsonObject const & data);
 /// The text of the datagram received last; empty when there was none. Not cleared by reading.
 UIAPICOMMON_EXPORT QString getReceiveStr();
 
-namespace Ext {
-
-/// The process's link, to connect to its signals; not to be deleted. Null when there is none.
-UIAPICOMMON_EXPORT ConnectEDA * edaLink();
-/// How the link fares. The only place that tells of a port 2333 that another process has.
-UIAPICOMMON_EXPORT EdaLinkState edaLinkState();
-/// sendEdaData(), and says what became of it.
-UIAPICOMMON_EXPORT EdaSendResult sendEdaDataChecked(QJsonObject const & data);
-
-} // namespace Ext
 } // namespace KVCAM::UIAPI

@@ -1,9 +1,6 @@
 #include "uiapi/flat/Ranges.h"
 
-#include "uiapi/UIAPICommonParaPrivate.h"
 #include "uiapi/flat/Forward.h"
-
-#include <QObject>
 
 #include <utility>
 
@@ -35,22 +32,6 @@ void changeRangesValue(std::string const & rangeName, std::string const & catego
 void getERFList(std::string folder, std::vector<std::string> & names)
 {
     Flat::onCommonPara([&](UIAPICommonPara & para) { para.getERFList(std::move(folder), names); });
-}
-
-std::vector<Ext::RangeSource> Ext::loadedRangeFiles()
-{
-    return Flat::onCommonPara(
-        [](UIAPICommonPara & para) { return CommonParaDoor::ranges(para).loadedFiles(); });
-}
-
-Ext::Result Ext::saveRanges(std::string const & rangeName)
-{
-    // Of what throws, too, nobody may believe that it was saved.
-    Result result{false,
-                  QObject::tr("The file \"%1\" cannot be written.").arg(QString::fromStdString(rangeName))};
-    Flat::onCommonPara(
-        [&](UIAPICommonPara & para) { result = CommonParaDoor::ranges(para).saveRanges(rangeName); });
-    return result;
 }
 
 } // namespace KVCAM::UIAPI

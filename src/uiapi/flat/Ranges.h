@@ -1,9 +1,7 @@
 #pragma once
 
+#include "../../analysis/AnalysisRecords.h"
 #include "UIAPICommonExport.h"
-#include "analysis/AnalysisRecords.h"
-#include "analysis/RangeSource.h"
-#include "support/Result.h"
 
 #include <string>
 #include <vector>
@@ -28,22 +26,5 @@ UIAPICOMMON_EXPORT void changeRangesValue(std::string const & rangeName, std::st
 /// Appends the base names (up to the first ".") of the files in "./ERFconfig/" + folder, in no order. Nothing
 /// where there is no such directory, and for a folder of which a component is "..".
 UIAPICOMMON_EXPORT void getERFList(std::string folder, std::vector<std::string> & names);
-
-namespace Ext {
-
-/// The ranges that were read, by name, ascending byte by byte. A name that is not among them was not read: no
-/// file has it, or its file is at fault (see diagnostics()) or holds no list. One that is there and of which
-/// getRanges() gives nothing has an empty list. Of two files of the same name the first that was read stands
-/// here.
-UIAPICOMMON_EXPORT std::vector<RangeSource> loadedRangeFiles();
-
-/// Writes the levels that changeRangesValue() changed back into the file that the range was read from. Only
-/// these levels change, as texts in the shortest form that reads back equal; unknown keys and elements that
-/// are no records are kept. The file is replaced whole. Refused when the range was not read from a file, and
-/// when the file does not hold the categories that were read from it any more. Nothing to write counts as
-/// saved. The reason of a failure is translated. Nothing is logged.
-[[nodiscard]] UIAPICOMMON_EXPORT Result saveRanges(std::string const & rangeName);
-
-} // namespace Ext
 
 } // namespace KVCAM::UIAPI

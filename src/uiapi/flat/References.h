@@ -1,7 +1,7 @@
 #pragma once
 
+#include "../../layers/ReferenceLayerInfo.h"
 #include "UIAPICommonExport.h"
-#include "layers/ReferenceLayerInfo.h"
 
 #include <string>
 #include <utility>

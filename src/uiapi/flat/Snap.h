@@ -1,7 +1,7 @@
 #pragma once
 
+#include "../ViewRecords.h"
 #include "UIAPICommonExport.h"
-#include "uiapi/ViewRecords.h"
 
 /// The snap mode of a view. Type and mode are one field under two names. Nothing is pushed to the engine.
 namespace KVCAM::UIAPI {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "../ViewRecords.h"
 #include "UIAPICommonExport.h"
-#include "uiapi/ViewRecords.h"
 
 #include <map>
 #include <string>

@@ -1,8 +1,11 @@
 // What a plug-in does first: register its view, switch its unit, show a value. Exits with 0 when the engine
 // behind the library was told.
 
-#include <EmbeddedEngine.h>
+#include <KVCAM_API/EmbeddedEngine.h>
 #include <UIAPICommon.h>
+#if __has_include(<ext/Views.h>) || __has_include(<EmbeddedEngine.h>) || !__has_include(<UIAPICommon/ext/Views.h>)
+#error "the rooms belong in a folder of their own"
+#endif
 
 #include <QCoreApplication>
 

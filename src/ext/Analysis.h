@@ -1,0 +1,49 @@
+#pragma once
+
+// Analysis: check results graded by the configured levels, and reports of them.
+//
+//   loadedRangeFiles()      which range files were read, and from where
+//   saveRanges()            writes what changeRangesValue() changed back into the file
+//   categoryTables()        the names of the category tables
+//   grade()                 the severity of a value by the three levels of a category
+//   gradeMeasured()         the same for a measurement in micrometres
+//   senseOf()               which side of the levels is the bad one
+//   severityPalette         how a severity is shown: colour, letter, icon, name
+//   markOf()                its row for a severity
+//   AnalysisReport          every measurement with its category and severity
+//   limitOf()               the level that decided
+//   reportText()            a report as JSON or CSV
+//   writeReport()           the same into a file
+//   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
+//
+// A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
+// addUnified() and then, as ever, Unified_AnalysisResult; what was not run -> addNotChecked(); at the end
+// writeReport(). The report grades by gradeMeasured().
+
+#include "../analysis/AnalysisReport.h"
+#include "../analysis/Grade.h"
+#include "../analysis/RangeSource.h"
+#include "../analysis/Unified_AnalysisResult.h"
+#include "../support/Result.h"
+#include "UIAPICommonExport.h"
+
+#include <string>
+#include <vector>
+
+namespace KVCAM::UIAPI::Ext {
+
+/// The ranges that were read, by name, ascending byte by byte. A name that is not among them was not read: no
+/// file has it, or its file is at fault (see diagnostics()) or holds no list. One that is there and of which
+/// getRanges() gives nothing has an empty list. Of two files of the same name the first that was read stands
+/// here.
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<RangeSource> loadedRangeFiles();
+
+/// Writes the levels that changeRangesValue() changed back into the file that the range was read from. Only
+/// these levels change, as texts in the shortest form that reads back equal; unknown keys and elements that
+/// are no records are kept. The file is replaced whole. Refused when the range was not read from a file, and
+/// when the file does not hold the categories that were read from it any more. Nothing to write counts as
+/// saved. The reason of a failure is translated. Nothing is logged.
+[[nodiscard]] UIAPICOMMON_EXPORT Result saveRanges(std::string const & rangeName);
+
+} // namespace KVCAM::UIAPI::Ext

@@ -1,0 +1,31 @@
+#pragma once
+
+// Configuration: what became of the files that the library loads and saves.
+//
+//   diagnostics()               what the loaders found wrong, and the saves that failed
+//   setKeepSettingsBackup()     keeps "server.json.bak" before a save of "server.json" would lose something
+//   lastSettingsSave()          whether the last save of "server.json" reached the file
+//   setReadSavedSettingKeys()   also reads the four keys that are written but not read
+//   autoMatrixRoles             the twelve roles of a template with their members, for loops
+//   autoMatrixFile()            which of the user's files holds a template
+//
+// The loaders run when the first flat function creates its singleton; switch on what concerns them before
+// that. The setters of settings and saveCurrentAutoMatrixTmp() save; a failure shows in diagnostics(), and
+// that of the settings in lastSettingsSave() too.
+
+#include "../config/AutoMatrixFile.h"
+#include "../config/AutoMatrixTmp.h"
+#include "../config/Diagnostics.h"
+#include "../config/SettingsFile.h"
+#include "UIAPICommonExport.h"
+
+#include <optional>
+
+namespace KVCAM::UIAPI::Ext {
+
+/// Which file of the user's a template stands in; nothing for a shipped template, an index without a
+/// template, and one that was never saved.
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT std::optional<AutoMatrixFile> autoMatrixFile(int index);
+
+} // namespace KVCAM::UIAPI::Ext

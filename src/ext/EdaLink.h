@@ -1,0 +1,29 @@
+#pragma once
+
+// Host links: the link to the EDA tool, and commands to plug-in modules.
+//
+//   edaLink()              the link, for its signals
+//   edaLinkState()         bound or why not, counts, the latest error
+//   sendEdaDataChecked()   sendEdaData(), and says what became of it
+//
+// The signals stand in ConnectEDA: datagramReceived() for each datagram, then jsonReceived() or
+// invalidReceived(). The three functions are UIAPICommonPara's methods of the same names, which call
+// ConnectEDA::state() and sendDataChecked(). UIAPICommonPara::addPluginRoute() and removePluginRoute() are
+// the additions to setPluginCmd().
+
+#include "../links/ConnectEDA.h"
+#include "UIAPICommonExport.h"
+
+#include <QJsonObject>
+
+namespace KVCAM::UIAPI::Ext {
+
+/// The process's link, to connect to its signals; not to be deleted. Null when there is none.
+/// \since 0.1
+UIAPICOMMON_EXPORT ConnectEDA * edaLink();
+/// Status of the link. The only place that tells of a port 2333 that another process has.
+[[nodiscard]] UIAPICOMMON_EXPORT EdaLinkState edaLinkState();
+/// sendEdaData(), and says what became of it.
+[[nodiscard]] UIAPICOMMON_EXPORT EdaSendResult sendEdaDataChecked(QJsonObject const & data);
+
+} // namespace KVCAM::UIAPI::Ext

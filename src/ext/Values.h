@@ -1,0 +1,16 @@
+#pragma once
+
+// Values and symbols, judged and described without a box or a view.
+//
+//   checkValue()       isValueLegal() as verdict and text
+//   checkNumber()      isNumValueLegal() as verdict and text
+//   checkSymbol()      isSymbolValueLegal() as verdict and text
+//   describeSymbol()   a symbol name in words, in both units
+//   symbolGrammars     the standard families: prefix, fields, what a unit switch does; findSymbolGrammar() looks one up
+//
+// The flat functions go by the same rules and show the text in a box; a dialog that shows it beside the field
+// calls these. KVLineEdit::setRange() calls checkValue() and checkSymbol() at every edit.
+
+#include "../support/SymbolFamilies.h"
+#include "../units/SymbolDescription.h"
+#include "../units/ValueCheck.h"
