@@ -10,7 +10,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr std::size_t chunk = 4096; // features between two tellings
+constexpr std::size_t chunk = 4096; // features between two progress reports
 constexpr std::size_t stageLength = 1000;
 
 } // namespace

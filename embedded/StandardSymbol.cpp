@@ -7,8 +7,8 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// What may follow the fields: nothing, rounded corners, or corners rounded or chamfered; either
-// "xr<radius>" or "xc<radius>", then optionally "x" and the corners concerned, out of 1234.
+// What may follow the fields: nothing, rounded corners, or rounded or chamfered corners: "xr<radius>" or
+// "xc<radius>", then optionally "x" and the affected corners, out of 1234.
 enum class Corners
 {
     None,
@@ -16,8 +16,8 @@ enum class Corners
     RoundedOrChamfered
 };
 
-// A family: the text before its first digit, and one letter for each field between the 'x': s size,
-// a angle, n whole number, p plating (p, n or v).
+// A family: the text before its first digit, and one letter for each field between the 'x': s size, a angle,
+// n whole number, p plating (p, n or v).
 struct Family
 {
     std::string_view prefix;
@@ -60,7 +60,7 @@ static_assert(families.size() + 1 == API::symbol_families, "every family but the
 
 constexpr std::string_view digits = "0123456789";
 
-// Takes digits, with `decimals` also a point between digits, off the front of a text.
+// Removes leading digits from a text; with `decimals` also a point between digits.
 std::optional<double> takeNumber(std::string_view & text, bool decimals)
 {
     std::size_t end = std::min(text.find_first_not_of(digits), text.size());
@@ -100,7 +100,7 @@ std::optional<double> takeField(std::string_view & text, char kind)
     return plating ? std::optional(0.0) : std::nullopt;
 }
 
-// Takes a whole tail "xr<radius>[x<corners>]" as the family allows it; false for any other text.
+// Consumes a whole tail "xr<radius>[x<corners>]" as the family allows it; false for any other text.
 bool takeCorners(std::string_view text, Corners allowed, StandardSymbol & symbol)
 {
     if (allowed == Corners::None || !take(text, 'x')) {

@@ -40,7 +40,7 @@ enum symboltype : int
     symbol_thermal_rectangle_open,
     symbol_thermal_oval,
     symbol_moire,
-    symbol_families ///< how many there are
+    symbol_families ///< number of families
 };
 
 } // namespace KVCAM::API
@@ -51,15 +51,15 @@ struct StandardSymbol
 {
     API::symboltype type = API::symbol_user;
     double first = 0;  ///< as in the name: mil or micrometre
-    double second = 0; ///< 0 for a family of one size
-    /// All numbers between the 'x', in their order; 0 for the plating of a hole.
+    double second = 0; ///< 0 for a family with one size
+    /// All numbers between the 'x', in order; 0 for the plating of a hole.
     std::array<double, 6> fields{};
-    double corner = 0;        ///< how far the corners are rounded or cut
-    bool cut = false;         ///< they are cut
-    bool someCorners = false; ///< only some of the four are
+    double corner = 0;        ///< size of the rounded or cut corners
+    bool cut = false;         ///< cut, not rounded
+    bool someCorners = false; ///< only some of the four
 };
 
-/// What a symbol name says by the grammar of the standard families; nothing when it does not follow it.
+/// Parses a symbol name by the grammar of the standard families; nothing if it does not match.
 std::optional<StandardSymbol> standardSymbol(std::string_view name);
 
 } // namespace KVCAM::Embedded
