@@ -1,4 +1,4 @@
-# The target "docs": the reference of the installed headers, as pages in docs/ of the build directory.
+# Target "docs": the reference of the installed headers, as pages in docs/ of the build directory.
 find_program(UIAPI_DOXYGEN doxygen)
 if(NOT UIAPI_DOXYGEN)
   return()
@@ -14,7 +14,7 @@ endif()
 foreach(_page IN ITEMS README ARCHITECTURE CONTRIBUTING CHANGELOG docs/Extensions)
   list(APPEND _inputs "${PROJECT_SOURCE_DIR}/${_page}.md")
 endforeach()
-list(FILTER _inputs EXCLUDE REGEX "UIAPICommon(Export|Version)\\.h$") # nothing but macros
+list(FILTER _inputs EXCLUDE REGEX "UIAPICommon(Export|Version)\\.h$") # only macros
 list(TRANSFORM _inputs PREPEND "\"")
 list(TRANSFORM _inputs APPEND "\"")
 list(JOIN _inputs " \\\n  " _inputs)
