@@ -36,7 +36,7 @@ public:
     void setStages(std::size_t count) { m_stages = count; }
     void endStage();
     /// Reports that `done` of `total` parts of the stage are done. Throws when the run is cancelled.
-    void tell(std::size_t done, std::size_t total) const;
+    void reportProgress(std::size_t done, std::size_t total) const;
 
 private:
     std::string m_job;

@@ -69,7 +69,7 @@ CheckResults run(CheckContext & context)
     std::vector<API::layer_info> const drills = layers(context, isDrill, "drill");
     std::vector<API::layer_info> const coppers = layers(context, isCopper, "signal");
     context.setStages(std::max<std::size_t>(drills.size() + coppers.size(), 1));
-    context.tell(0, 1);
+    context.reportProgress(0, 1);
 
     CheckResults results;
     std::vector<Hole> holes;

@@ -116,7 +116,7 @@ std::vector<Measurement> PadChecks::smdSpacings() const
             pairs.emplace_back(std::min(i, nearest->item), std::max(i, nearest->item));
         }
         if (i % chunk == 0) {
-            m_context.tell(3 * shapes.size() + i, 6 * shapes.size()); // the fourth of six parts
+            m_context.reportProgress(3 * shapes.size() + i, 6 * shapes.size()); // the fourth of six parts
         }
     }
     std::sort(pairs.begin(), pairs.end());
@@ -147,7 +147,7 @@ std::array<std::vector<Measurement>, 3> PadChecks::rings(std::vector<Hole> const
     for (std::size_t i = 0; i < holes.size(); ++i) {
         Hole const & hole = holes[i];
         if (i % chunk == 0) {
-            m_context.tell(2 * holes.size() + i, 3 * holes.size()); // the last of three parts
+            m_context.reportProgress(2 * holes.size() + i, 3 * holes.size()); // the last of three parts
         }
         if (row < hole.firstRow || row > hole.lastRow) {
             continue;
