@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-// The main function of benchmarks that show widgets: with an application, and without a display unless told.
+// main() for benchmarks with widgets: creates an application, offscreen unless told otherwise.
 int main(int argc, char ** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {

@@ -21,8 +21,8 @@
 #include <utility>
 #include <vector>
 
-// Filing beside copying the entries and sorting their keys, the summary beside the same document with bare
-// jsoncpp, the range files beside their bare parse, a query beside a copy of its answer.
+// Baselines: filing beside copying the entries and sorting their keys, the summary beside the same document
+// with bare jsoncpp, the range files beside a bare parse, a query beside a copy of its answer.
 
 namespace {
 
@@ -32,7 +32,7 @@ using SignalReplies = std::map<std::string, std::map<signal_layers_checks_items,
 
 constexpr auto lines = static_cast<signal_layers_checks_items>(46);
 
-// Kinds: one kind for all, or each in turn. Every entry has eight points, so that each has its key.
+// Kinds: the same for all entries, or cycling. Every entry has eight points, enough for the key of each kind.
 std::vector<check_info> entries(std::size_t count, bool isMixed)
 {
     std::mt19937 random(7);
@@ -61,7 +61,7 @@ void file(benchmark::State & state, bool isMixed)
     state.SetComplexityN(state.range(0));
 }
 
-// The copy takes the place of the former one, as a filing does.
+// The copy replaces the previous one, as filing does.
 void copyAndSortKeys(benchmark::State & state)
 {
     SignalReplies const replies = oneItem(entries(static_cast<std::size_t>(state.range(0)), false));
@@ -105,7 +105,7 @@ std::string layerName(std::int64_t number)
     return "layer_" + std::to_string(number);
 }
 
-// So many layers with ten entries each, and nothing of what an earlier row filed.
+// Files `count` layers with ten entries each and drops what an earlier row filed.
 void fileLayers(std::int64_t count)
 {
     SignalReplies replies;
@@ -148,7 +148,7 @@ struct PlainRow
     std::vector<std::pair<std::string, std::string>> result;
 };
 
-// What the summary holds, as plain data.
+// The contents of the summary as plain data.
 std::vector<PlainRow> plainRows()
 {
     std::string text;
@@ -235,7 +235,7 @@ BENCHMARK(bareCopy)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
 // --- Range files --------------------------------------------------------------------------------------
 
-/// A working directory with a file of levels for every table, current while it lives.
+/// A working directory with a range file for every table, current during its lifetime.
 class World
 {
 public:
@@ -287,7 +287,7 @@ void start(benchmark::State & state, bool hasRanges)
 {
     World const world(hasRanges);
     for (auto _ : state) {
-        UIAPICommonPara::m_pUIAPICommonParaInstance = nullptr; // the former object stays, as in a process
+        UIAPICommonPara::m_pUIAPICommonParaInstance = nullptr; // leaked, as in a process
         benchmark::DoNotOptimize(UIAPICommonPara::instance());
     }
     state.counters["bytes"] = static_cast<double>(world.bytes);
@@ -317,7 +317,7 @@ void bareReadAndParse(benchmark::State & state)
     state.counters["bytes"] = static_cast<double>(world.bytes);
 }
 
-// What is made stays, as with a start: the heap has nothing to hand out again.
+// Leaks its results, like a start, so that the heap has no freed blocks to reuse.
 void bareReadAndParseKept(benchmark::State & state)
 {
     World const world(true);

@@ -1,6 +1,6 @@
-// The workbench's board picture of a layer with 100,000 features: tracks, vias and pads, as a large board has
-// them. How long it takes to read the layer's shapes, to paint it whole at some zooms, and how long one
-// step of the wheel keeps the program from its events; painting goes on in slices after that.
+// The workbench's board picture of a layer with 100,000 features: tracks, vias and pads, as on a large board.
+// Measures reading the layer's shapes, painting the whole layer at several zooms, and how long one wheel step
+// blocks the event loop; painting then continues in slices.
 
 #include "board/BoardView.h"
 
@@ -29,7 +29,7 @@ void write(QString const & path, QByteArray const & content)
     file.write(content);
 }
 
-// 400 mm x 250 mm of tracks of three segments with a via or a pad at each end.
+// 400 mm x 250 mm of three-segment tracks with a via or a pad at each end.
 QByteArray board()
 {
     QByteArray text = "UNITS=MM\n$0 r150\n$1 r500\n$2 rect300x1200xr60\n$3 s250\n";
@@ -103,7 +103,7 @@ void readShapes(benchmark::State & state)
 }
 BENCHMARK(readShapes)->Unit(benchmark::kMillisecond);
 
-// The argument is the number of zoom steps, each of half the scale again.
+// The argument is the number of zoom steps; each multiplies the scale by 1.5.
 void paintWhole(benchmark::State & state)
 {
     Board & board = Board::get();

@@ -1,6 +1,6 @@
-// The checks of the default engine on boards of 1,000 to 100,000 features, beside reading the same files,
-// without which nothing can be measured. Boards: pads, tracks and holes spread evenly; the same crowded into
-// a thousandth of the area with a few far out; all pads and holes about one place.
+// The checks of the default engine on boards of 1,000 to 100,000 features, beside reading the same files, the
+// minimum for any measurement. Boards: pads, tracks and holes spread evenly; the same crowded into a
+// thousandth of the area with a few outliers; all pads and holes around one place.
 
 #include <EmbeddedChecks.h>
 #include <EmbeddedEngine.h>
@@ -43,8 +43,8 @@ QByteArray layer(int row, char const * type, char const * name)
            "\nPOLARITY=POSITIVE\n}\n";
 }
 
-// A layer of `count` features, a third each SMD pads, vias' pads and tracks; the vias' holes as a layer of
-// theirs.
+// A layer of `count` features, a third each SMD pads, via pads and tracks; the via holes are on a separate
+// layer.
 void writeBoard(QString const & folder, int count, Spread spread)
 {
     std::mt19937 random(1);
@@ -74,7 +74,7 @@ void writeBoard(QString const & folder, int count, Spread spread)
     write(folder + "/steps/pcb/layers/drill/features", drill);
 }
 
-// The folder that holds the job "board".
+// The folder of the job "board".
 std::string boardFolder(benchmark::State const & state)
 {
     static QTemporaryDir const world;

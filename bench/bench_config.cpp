@@ -13,8 +13,8 @@
 
 #include <vector>
 
-// The start of the configuration beside the bare parse of the same bytes, and a persisted setter beside one
-// bare safe write of the same bytes.
+// Configuration start-up beside a bare parse of the same bytes, and a persisted setter beside a bare safe
+// write of the same bytes.
 
 namespace {
 
@@ -39,7 +39,7 @@ void write(QString const & path, QByteArray const & bytes)
 
 QByteArray manyTemplates(int count)
 {
-    // The sample's templates over and over, each under a name of its own.
+    // The sample's templates repeated, each under its own name.
     QJsonObject top =
         QJsonDocument::fromJson(contentOf(QStringLiteral(CONFIG_SAMPLE "/automatrix.json"))).object();
     QJsonArray const samples = top["template"].toArray();
@@ -68,7 +68,7 @@ QByteArray manyAttributes(int count)
     return QJsonDocument(top).toJson();
 }
 
-/// A working directory with a configuration in it, current while it lives.
+/// A working directory with a configuration, current during its lifetime.
 class World
 {
 public:
@@ -103,7 +103,7 @@ void start(benchmark::State & state, bool isLarge)
 {
     World const world(isLarge);
     for (auto _ : state) {
-        UIAPIGlobalVar::m_pUIAPIGlobalVarInstance = nullptr; // the former object stays, as in a process
+        UIAPIGlobalVar::m_pUIAPIGlobalVarInstance = nullptr; // leaked, as in a process
         benchmark::DoNotOptimize(UIAPIGlobalVar::instance());
     }
     state.counters["bytes"] = static_cast<double>(world.bytes);
@@ -120,7 +120,7 @@ void bareParse(benchmark::State & state, bool isLarge)
     state.counters["bytes"] = static_cast<double>(world.bytes);
 }
 
-// What is made stays, as with a start: the heap has nothing to hand out again.
+// Leaks its results, like a start, so that the heap has no freed blocks to reuse.
 void bareParseKept(benchmark::State & state, bool isLarge)
 {
     World const world(isLarge);

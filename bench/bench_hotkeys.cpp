@@ -1,5 +1,5 @@
-// One key press: the look-up in the default table and in one of 1,000 single keys and 1,000 sequences beside
-// one QHash look-up.
+// One key press: the look-up in the default table, and in a table of 1,000 single keys and 1,000 sequences,
+// beside one QHash look-up.
 
 #include <UIAPICommon.h>
 
@@ -21,8 +21,7 @@ using namespace KVCAM;
 
 constexpr int manyEntries = 1000;
 
-/// Half of them sequences, no two alike, half single keys; the last of each kind is the one that is looked
-/// for.
+/// Half are sequences, all different, half are single keys. The look-up is for the last of each kind.
 void loadMany()
 {
     QJsonArray array;
@@ -31,7 +30,7 @@ void loadMany()
         array.append(QJsonObject{{"func_name", "KK_SnapGrid"},
                                  {"key1", QString(QChar('0' + i / 40))},
                                  {"key2", QString(QChar('0' + i % 40))}});
-        // There are not so many single keys as that: all the others are the same.
+        // There are fewer than 1,000 single keys: all the others are the same.
         array.append(
             QJsonObject{{"func_name", "KP_Measure"}, {"Modifier", "Ctrl"}, {"key", isLast ? "Q" : "X"}});
     }

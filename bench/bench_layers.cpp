@@ -1,5 +1,5 @@
-// Layer filters and the reference table: the library beside what it cannot beat, the engine's matrix and one
-// look at each layer, or the bare containers.
+// Layer filters and the reference table beside their baselines: fetching the engine's matrix and looking at
+// each layer once, or the bare containers.
 
 #include <KVCAM_API.h>
 #include <UIAPICommon.h>
@@ -20,7 +20,7 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-/// Writes and opens a job whose layers are half board signal layers; its name.
+/// Writes and opens a job in which half of the layers are board signal layers; returns its name.
 std::string openJob(int layers)
 {
     std::string const name = "job" + std::to_string(layers);
@@ -67,7 +67,7 @@ void explain(benchmark::State & state)
     }
 }
 
-// The predicate as hosts call it, for the layer that is compared last.
+// The predicate as hosts call it, for the last layer in the comparison.
 void side(benchmark::State & state)
 {
     std::vector<std::string> board;
@@ -169,7 +169,7 @@ void referenceSet(benchmark::State & state)
     }
 }
 
-// There and back, so that the table stays as it is.
+// Renames there and back, so that the table does not change.
 void referenceRename(benchmark::State & state)
 {
     fillTable();

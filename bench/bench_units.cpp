@@ -1,5 +1,5 @@
 // Symbol names and typed expressions beside the straightforward way to the same result. Both sides run in one
-// process, so the ratio holds whatever the machine.
+// process, so the ratio does not depend on the machine.
 #include "uiapi/flat/Arithmetic.h"
 #include "uiapi/flat/SymbolNames.h"
 
@@ -18,10 +18,10 @@ namespace {
 struct Name
 {
     char const * text;
-    char const * pattern; // every captured group of odd number is copied, of even number converted
+    char const * pattern; // odd captured groups are copied, even ones converted
 };
 
-// The expression of a family captures texts and sizes in turn.
+// The expression of a family captures texts and sizes alternately.
 constexpr char const * simple = nullptr; // any number of sizes
 constexpr char const * rectangle = "^(rect)([^x]+)(x)([^x]+)(?:(x[^x])([^x]+)(?:(x[^x]*))?)?$";
 constexpr char const * thermal =
@@ -119,7 +119,7 @@ void expressionLibrary(benchmark::State & state)
     }
 }
 
-// What no evaluator of this text can do without.
+// The minimum for any evaluator of this text.
 void expressionOperandsOnly(benchmark::State & state)
 {
     std::array const operands{QString("10"), QString("2"), QString("3"), QString("8"), QString("4")};

@@ -1,4 +1,4 @@
-// View state and units: the flat functions beside what they cannot beat.
+// View state and units: the flat functions beside their baselines.
 
 #include <KVCAM_API.h>
 #include <UIAPICommon.h>
@@ -118,8 +118,7 @@ void flatDoubleToString(benchmark::State & state)
 }
 BENCHMARK(flatDoubleToString);
 
-// What a registration cannot do without: a scan of the handles, a copy of the record, three calls into the
-// engine.
+// The minimum for a registration: a scan of the handles, a copy of the record, three engine calls.
 void bareRegistration(benchmark::State & state)
 {
     std::vector<void const *> scanned;
@@ -137,7 +136,7 @@ void bareRegistration(benchmark::State & state)
 }
 BENCHMARK(bareRegistration)->Iterations(1000);
 
-// After the 256 views above, each repetition goes on where the last one ended.
+// Continues after the 256 views above; each repetition continues where the last one ended.
 void flatRegistration(benchmark::State & state)
 {
     static int next = 256;

@@ -1,5 +1,5 @@
-// One keystroke in a unit-tracked field beside one in a plain QLineEdit. The difference is the field's own
-// share.
+// One keystroke in a unit-tracked field beside one in a plain QLineEdit. The difference is the cost of the
+// field itself.
 
 #include <uiapi/flat/ShowParameters.h>
 #include <uiapi/flat/ViewAccess.h>
@@ -36,7 +36,7 @@ void press(QLineEdit & edit, int key, QString const & text)
     QApplication::sendEvent(&edit, &up);
 }
 
-// Types a digit behind `start` and takes it back: two keystrokes, and the text stays as short as it was.
+// Types a digit after `start` and deletes it: two keystrokes, and the text does not grow.
 void typeAndErase(benchmark::State & state, QLineEdit & edit, char const * start)
 {
     edit.setText(QString::fromLatin1(start));
@@ -59,7 +59,7 @@ void plainLineEdit(benchmark::State & state)
 }
 BENCHMARK(plainLineEdit);
 
-// What the pattern alone costs.
+// The cost of the pattern alone.
 void plainLineEditWithTheSameValidator(benchmark::State & state)
 {
     QLineEdit edit(registeredView());
@@ -93,7 +93,7 @@ void numberFieldWithEveryAddition(benchmark::State & state)
 }
 BENCHMARK(numberFieldWithEveryAddition);
 
-// A unit switch with a hundred fields that follow it.
+// A unit switch followed by a hundred fields.
 void switchOfAHundredFields(benchmark::State & state)
 {
     QWidget * const view = registeredView();

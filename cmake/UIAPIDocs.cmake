@@ -1,4 +1,4 @@
-# The target "docs": the reference of the installed headers, as pages in docs/ of the build directory.
+# Target "docs": the reference of the installed headers, as pages in docs/ of the build directory.
 find_program(UIAPI_DOXYGEN doxygen)
 if(NOT UIAPI_DOXYGEN)
   return()

@@ -1,5 +1,5 @@
-# Flags of every target of this project. They stand on interface targets that are linked privately, so
-# nothing leaks into a project that takes this one in.
+# Flags of every target of this project, on privately linked interface targets, so that nothing leaks into a project
+# that includes this one.
 
 add_library(uiapi_settings INTERFACE)
 if(MSVC)
@@ -14,8 +14,8 @@ target_compile_definitions(uiapi_settings INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
   $<$<CXX_COMPILER_ID:MSVC>:_USE_MATH_DEFINES NOMINMAX>)
 
-# Optimised builds are hardened as a distribution's packages are. (Executables are position-independent by
-# CMAKE_POSITION_INDEPENDENT_CODE, for which the linker must be asked first.)
+# Hardens optimised builds like a distribution's packages. (CMAKE_POSITION_INDEPENDENT_CODE makes executables
+# position-independent; the linker must be checked for support first.)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT UIAPI_SANITIZE)
   include(CheckPIESupported)
   check_pie_supported()
@@ -32,7 +32,7 @@ if(UIAPI_SANITIZE)
   target_link_options(uiapi_settings INTERFACE ${_uiapi_sanitizers})
 endif()
 
-# uiapi_room(SOURCES ... HEADERS ... PUBLIC_HEADERS ...): what a room of src/ adds to the library. Public
+# uiapi_room(SOURCES ... HEADERS ... PUBLIC_HEADERS ...): adds the sources of a room of src/ to the library. Public
 # headers are installed as <UIAPICommon/room/Header.h>.
 function(uiapi_room)
   cmake_parse_arguments(ROOM "" "" "SOURCES;HEADERS;PUBLIC_HEADERS" ${ARGN})

@@ -1,4 +1,4 @@
-# 64-bit Windows from Debian with mingw-w64 (posix threads). UIAPI_WINDOWS_PREFIX, a variable or from the environment,
+# 64-bit Windows from Debian with mingw-w64 (posix threads). UIAPI_WINDOWS_PREFIX, a CMake or environment variable,
 # names the folder that scripts/windows-prefix fills.
 if(NOT DEFINED UIAPI_WINDOWS_PREFIX)
   set(UIAPI_WINDOWS_PREFIX "$ENV{UIAPI_WINDOWS_PREFIX}")
@@ -18,6 +18,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-# Catalogues are compiled by the tools of the machine that builds.
+# Catalogues are compiled with the tools of the build machine.
 file(GLOB _linguist_tools /usr/lib/*/cmake/Qt5LinguistTools)
 set(Qt5LinguistTools_DIR "${_linguist_tools}" CACHE PATH "Qt's translation tools of the building machine")

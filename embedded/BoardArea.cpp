@@ -34,7 +34,7 @@ std::vector<Box> boxesOf(std::vector<std::array<API::point, 2>> const & edges)
     return boxes;
 }
 
-// The points of a feature that decide where it lies.
+// The points that decide whether a feature lies inside.
 std::vector<API::point> witnesses(Feature const & feature)
 {
     auto const & p = feature.points;
@@ -61,7 +61,7 @@ bool BoardArea::holds(API::point point) const
     if (m_all) {
         return true;
     }
-    // To the right of a point inside lies an odd number of edges.
+    // Ray casting: an inside point has an odd number of edges to its right.
     bool inside = false;
     constexpr double farRight = 1e300;
     m_grid.forEachTouching({point.x, point.y, farRight, point.y}, [&](std::size_t edge) {

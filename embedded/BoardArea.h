@@ -10,18 +10,18 @@
 
 namespace KVCAM::Embedded {
 
-/// What lies inside a step's profile. Without a profile everything does, and nothing is its outline.
+/// The area inside a step's profile. Without a profile everything is inside and nothing is the outline.
 class BoardArea
 {
 public:
     explicit BoardArea(std::optional<Profile> const & profile);
 
-    /// The edge belongs to it, to within a micrometre.
+    /// The edge counts as inside, within a micrometre.
     bool holds(API::point point) const;
-    /// Whether a pad's place, or the ends and the middle of a line or arc, lie inside.
+    /// Whether a pad's place, or the ends and the middle of a line or arc, are inside.
     bool holds(Feature const & feature) const;
-    /// Whether a line or arc of a width runs along the profile: its ends and its middle are no farther from
-    /// it than half the width.
+    /// Whether a line or arc of this width runs along the profile: its ends and its middle are within half
+    /// its width of it.
     bool isOutline(Feature const & feature, double width) const;
 
 private:
@@ -29,7 +29,7 @@ private:
 
     bool nearEdge(API::point point, double within) const;
 
-    bool m_all; // there is no profile
+    bool m_all; // no profile
     std::vector<Edge> m_edges;
     SpatialGrid m_grid;
 };

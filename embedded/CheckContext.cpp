@@ -10,7 +10,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr std::size_t chunk = 4096; // features between two tellings
+constexpr std::size_t chunk = 4096; // features between two progress reports
 constexpr std::size_t stageLength = 1000;
 
 } // namespace
@@ -59,7 +59,7 @@ void CheckContext::forEachMeasurable(API::layer_info const & layer, char const *
                 example = symbol.name;
             }
         }
-        tell(std::min(begin + chunk, size), std::max<std::size_t>(2 * size, 1));
+        reportProgress(std::min(begin + chunk, size), std::max<std::size_t>(2 * size, 1));
     }
     if (erasing != 0) {
         note({table, -1, layer.name,
@@ -75,10 +75,10 @@ void CheckContext::forEachMeasurable(API::layer_info const & layer, char const *
 void CheckContext::endStage()
 {
     ++m_stage;
-    tell(0, 1);
+    reportProgress(0, 1);
 }
 
-void CheckContext::tell(std::size_t done, std::size_t total) const
+void CheckContext::reportProgress(std::size_t done, std::size_t total) const
 {
     std::size_t const now = m_stage * stageLength + stageLength * done / total;
     if (m_progress && !m_progress(static_cast<int>(now), static_cast<int>(m_stages * stageLength))) {

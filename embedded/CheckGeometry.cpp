@@ -37,7 +37,7 @@ double cross(API::point a, API::point b)
     return a.x * b.y - a.y * b.x;
 }
 
-// A polygon of two corners has one side, and one of a single corner has one without length.
+// A polygon with two corners has one side. A polygon with one corner has one side of length zero.
 std::size_t sides(Shape const & shape)
 {
     return shape.corners.size() < 3 ? 1 : shape.corners.size();
@@ -48,7 +48,7 @@ API::point next(Shape const & shape, std::size_t corner)
     return shape.corners[(corner + 1) % shape.corners.size()];
 }
 
-// The distance from a point inside the polygon to its nearest side; nothing when the point lies outside.
+// The distance from a point inside the polygon to the nearest side. Nothing for a point outside.
 std::optional<double> insideBy(Shape const & shape, API::point point)
 {
     if (shape.corners.size() < 3) {
@@ -64,11 +64,11 @@ std::optional<double> insideBy(Shape const & shape, API::point point)
         right += offset < 0 ? 1 : 0;
         nearest = std::min(nearest, std::abs(offset));
     }
-    // A polygon that rounding has flattened has no inside.
+    // A polygon flattened by rounding has no inside.
     return (left != 0) == (right != 0) ? std::nullopt : std::optional(nearest);
 }
 
-// Where two sides cross, when they do so at an angle.
+// The intersection of two sides that are not parallel.
 std::optional<API::point> crossing(API::point a, API::point b, API::point c, API::point d)
 {
     double const along = cross(b - a, d - c);
@@ -88,7 +88,7 @@ void take(Gap & best, API::point from, API::point to)
     }
 }
 
-// Between the polygons, without their radii.
+// Between the polygons; the radii are ignored.
 Gap gapBetweenPolygons(Shape const & a, Shape const & b)
 {
     if (insideBy(b, a.corners.front())) {

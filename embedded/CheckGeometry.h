@@ -9,33 +9,33 @@
 /// The geometry of the checks, in micrometres.
 namespace KVCAM::Embedded {
 
-/// A convex shape: every point within `radius` of the polygon of `corners`. One corner makes a circle, two
-/// make an oval; a radius of 0 makes the polygon itself. Corners run either way round, none twice in
-/// succession.
+/// A convex shape: every point within `radius` of the polygon `corners`. One corner makes a circle, two make
+/// an oval, radius 0 makes the polygon itself. Corners may run in either direction; consecutive corners
+/// differ.
 struct Shape
 {
     std::vector<API::point> corners;
     double radius = 0;
 };
 
-/// Where a symbol is drawn: mirrored (left and right exchanged) first, then turned, then moved to `place`.
+/// Placement of a symbol: mirrored first (left and right exchanged), then rotated, then moved to `place`.
 struct Placement
 {
     API::point place;
-    double cosine = 1; ///< of the clockwise turn
+    double cosine = 1; ///< of the clockwise rotation
     double sine = 0;
     bool mirrored = false;
 };
 
-/// Quarter turns are exact.
+/// Exact for quarter turns.
 Placement placement(API::point place, double degreesClockwise, bool mirrored);
 API::point placed(API::point point, Placement const & where);
 Shape placed(Shape shape, Placement const & where);
-/// The point as the symbol's drawing sees it; undoes placed().
+/// The point in the symbol's own coordinates; the inverse of placed().
 API::point unplaced(API::point point, Placement const & where);
 
 double distance(API::point a, API::point b);
-/// From a point to the nearest one of the side between two points, which may be one and the same.
+/// The distance from a point to the side between two points, which may coincide.
 API::point nearestOnSide(API::point p, API::point a, API::point b);
 /// 0 where the boxes touch.
 double boxGap(Box const & a, Box const & b);
@@ -43,24 +43,23 @@ void include(Box & box, API::point point);
 Box boxOf(API::point point);
 Box extent(Shape const & shape);
 
-/// How far inside the shape a point lies: its distance to the edge, negative outside.
+/// Depth of a point in the shape: its distance to the edge, negative outside.
 double depth(Shape const & shape, API::point point);
-/// The distance from a point to the farthest one of the shape.
+/// The distance from a point to the farthest point of the shape.
 double reach(Shape const & shape, API::point point);
-/// How wide the shape is for one who looks along a direction, which need not have the length 1 but must have
-/// some.
+/// The width of the shape seen along a direction. The direction need not have length 1 but must not be zero.
 double widthAcross(Shape const & shape, API::point direction);
 
-/// The shortest way from one shape to another.
+/// The shortest path from one shape to another.
 struct Gap
 {
-    double distance = 0; ///< 0 where they overlap; from and to are then one point of both
+    double distance = 0; ///< 0 where they overlap; from and to are then the same point, in both shapes
     API::point from;
     API::point to;
 };
 Gap gapBetween(Shape const & a, Shape const & b);
 
-/// The point half way along an arc. Equal ends make a full circle.
+/// The midpoint of an arc. Equal ends make a full circle.
 API::point arcMiddle(API::point start, API::point end, API::point centre, bool clockwise);
 
 } // namespace KVCAM::Embedded

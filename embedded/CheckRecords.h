@@ -7,18 +7,19 @@
 
 namespace KVCAM::Embedded {
 
-/// Micrometres in whole mil, rounded down. What lacks less than a millionth of the next mil has reached it,
-/// since an exact 8 mil comes out of its conversions a little below or above. At least 0; saturates.
+/// Micrometres to whole mil, rounded down. A value less than a millionth of a mil short of the next mil
+/// counts as that mil, since an exact 8 mil can come out of the conversions slightly low or high. At least 0;
+/// saturates.
 int floorMil(double micrometres);
 
-/// A record together with what it says before any rounding, in micrometres.
+/// A record and its unrounded measure in micrometres.
 struct Measurement
 {
     double measure = 0;
     API::check_info info;
 };
 
-/// `points` are rounded to the nearest and saturate; the value is the measure in mil.
+/// `points` are rounded to the nearest micrometre and saturate. The value is the measure in mil.
 Measurement measurement(int type, double measure, std::initializer_list<double> points);
 
 /// The records, smallest measure first.

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <utility>
 
-/// The members of check_reply. They belong to the engine's library, which instantiates them for the items it
-/// answers, so they stand in no header of the host's interface. One source includes them: in another they
-/// would be instantiated hidden, and the linker takes the hidden ones for both.
+/// The members of check_reply. The engine's library instantiates them for the items that it answers, so they
+/// are not in the host's headers. Include this in one source only: elsewhere they would be instantiated with
+/// hidden visibility, and the linker would use the hidden copies for both.
 namespace KVCAM::API {
 
 template <class Item, class Info>

@@ -13,9 +13,9 @@ namespace {
 using Lists = std::map<API::signal_layers_checks_items, API::signal_check_result>;
 
 constexpr int pads = 45;
-constexpr int lines = 46; // and arcs: the least track width of a layer is taken from here
+constexpr int lines = 46; // and arcs: the layer's least track width is taken from this item
 constexpr int smdToSmd = 12;
-// Of the annular rings, by kind of hole: plated, non-plated, via.
+// Annular rings by kind of hole: plated, non-plated, via.
 constexpr std::array<int, 3> rings{31, 36, 33};
 
 double trackWidth(Feature const & feature, SymbolShape const & shape)
@@ -31,7 +31,7 @@ std::vector<API::check_info> & list(Lists & lists, int item)
     return lists[static_cast<API::signal_layers_checks_items>(item)].lists[0];
 }
 
-// The lists of rings are sorted into one by their points, where a micrometre may hold two values.
+// The ring lists are merged by points, and several values can fall on the same micrometre.
 void agreeOnTies(Lists & lists)
 {
     std::map<int, int> lowest; // value by ring in micrometres

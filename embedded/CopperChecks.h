@@ -6,8 +6,8 @@
 
 namespace KVCAM::Embedded {
 
-/// Measures the tracks, pads, SMD spacings and rings of a copper layer into the results. Of the holes, those
-/// count that go through its row.
+/// Measures the tracks, pads, SMD spacings and rings of a copper layer and adds them to the results. Only the
+/// holes that pass through its row count.
 void checkCopper(CheckContext & context, API::layer_info const & layer, std::vector<Hole> const & holes,
                  CheckResults & results);
 

@@ -3,7 +3,7 @@
 
 #include <kvcam/Database.h>
 
-// While the flag is off the twins do nothing; while it is on a row that cannot be written throws.
+// With the flag off the twins do nothing. With it on, a row that cannot be written throws.
 namespace KVCAM::DB {
 
 using Embedded::EngineState;
@@ -40,7 +40,7 @@ void set_select_param_db_save(API::select_info value)
 
 namespace {
 
-// Notes a call of the undo family and does its work, both or neither.
+// Records a call of the undo family and performs it: both or neither.
 template <class Work>
 void undoCall(char const * call, std::string const & job, std::string const & step, Work work)
 {

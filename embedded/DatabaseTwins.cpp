@@ -14,7 +14,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// A name of its own: the default connection belongs to the host.
+// A separate name: the default connection belongs to the host.
 QString connectionName()
 {
     return QStringLiteral("kvcam-embedded-engine");
@@ -60,7 +60,7 @@ void DatabaseTwins::open(std::string const & file)
 {
     close();
     if (file.empty()) {
-        throw std::runtime_error("the database file has no name"); // SQLite would take a file of its own
+        throw std::runtime_error("the database file has no name"); // SQLite would create a file of its own
     }
     m_file = QFileInfo(QString::fromStdString(file)).absoluteFilePath();
     if (QCoreApplication::instance() == nullptr) {
@@ -119,7 +119,7 @@ void DatabaseTwins::run(char const * sql, QVariantList const & values)
 void DatabaseTwins::rollback() noexcept
 {
     QSqlQuery query(connection());
-    query.exec(QStringLiteral("ROLLBACK")); // without effect when the database has rolled back by itself
+    query.exec(QStringLiteral("ROLLBACK")); // no effect if the database has already rolled back
 }
 
 long long DatabaseTwins::highestSequence()

@@ -18,8 +18,8 @@ namespace KVCAM::Embedded {
 namespace {
 
 constexpr int slotItem = 10;
-constexpr std::size_t slotList = 3; // the one that the board's summary counts
-// Of the drill checks, by kind of hole.
+constexpr std::size_t slotList = 3; // the list that the board's summary counts
+// Drill checks by kind of hole.
 constexpr std::array<int, 3> summaryItems{0, 1, 2};
 
 std::optional<HoleKind> kindOf(Tool const & tool)
@@ -46,7 +46,7 @@ HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> cons
     return tool == tools.end() ? HoleKind::Plated : kindOf(*tool).value_or(HoleKind::Plated);
 }
 
-// The rows that a layer goes through; all of them where the matrix does not name both ends.
+// The rows that a layer passes through; all rows if the matrix does not name both ends.
 std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer)
 {
     auto const row = [&matrix](std::string const & name) {
@@ -62,7 +62,7 @@ std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer)
                  : std::pair(0, std::numeric_limits<int>::max());
 }
 
-// The ends of a slot's middle line; both the same for a round hole.
+// The ends of a slot's centre line; equal for a round hole.
 std::pair<API::point, API::point> middleLine(Feature const & feature, SymbolShape const & shape)
 {
     if (feature.kind != 'P') {
@@ -83,8 +83,8 @@ struct Slot
     API::point to;
 };
 
-// Leaves out what joins another one end to end, and full circles: they are the path of the rout. The same
-// slot drawn twice is no path.
+// Drops full circles and anything joined end to end with another element: they are the rout path. The same
+// slot drawn twice is not a path.
 std::vector<Measurement> withoutPaths(std::vector<Slot> slots)
 {
     using Key = std::pair<std::int64_t, std::int64_t>;

@@ -14,7 +14,7 @@ enum class HoleKind : int
     Via
 };
 
-/// A round hole, and the rows of the matrix that it goes through.
+/// A round hole and the matrix rows it passes through.
 struct Hole
 {
     API::point place;
@@ -24,7 +24,7 @@ struct Hole
     int lastRow = std::numeric_limits<int>::max();
 };
 
-/// Measures the holes and slots of a drill or rout layer into the results; the holes are appended to `holes`.
+/// Measures the holes and slots of a drill or rout layer into the results. Appends the holes to `holes`.
 void checkDrills(CheckContext & context, API::layer_info const & layer, CheckResults & results,
                  std::vector<Hole> & holes);
 

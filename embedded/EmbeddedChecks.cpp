@@ -43,7 +43,7 @@ bool isDrill(API::layer_info const & layer)
     return layer.type == "drill" || layer.type == "rout";
 }
 
-// The positive board layers of some types; notes the negative ones.
+// The positive board layers of the given types; notes the negative ones.
 std::vector<API::layer_info> layers(CheckContext & context, bool (*wanted)(API::layer_info const &),
                                     char const * table)
 {
@@ -69,7 +69,7 @@ CheckResults run(CheckContext & context)
     std::vector<API::layer_info> const drills = layers(context, isDrill, "drill");
     std::vector<API::layer_info> const coppers = layers(context, isCopper, "signal");
     context.setStages(std::max<std::size_t>(drills.size() + coppers.size(), 1));
-    context.tell(0, 1);
+    context.reportProgress(0, 1);
 
     CheckResults results;
     std::vector<Hole> holes;
@@ -94,7 +94,7 @@ bool runChecks(std::string const & job, std::string const & step, CheckResults &
     return answered(false, [&](EngineState & state) {
         CheckContext context(job, step, progress);
         out = run(context);
-        state.lastError.clear(); // of calls that `progress` made
+        state.lastError.clear(); // set by calls from `progress`
         return true;
     });
 }

@@ -12,7 +12,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// Counts the symbols of a layer's table into `uses`, which has one entry for each name and unit.
+// Adds the symbols of a layer's table to `uses`, which has one entry per name and unit.
 void addSymbols(LayerGraphics const & graphics, std::vector<SymbolUse> & uses)
 {
     std::map<std::pair<std::string, int>, std::size_t> known;

@@ -76,7 +76,7 @@ bool open_job(std::string const & path, std::string const & job)
         auto opened = std::make_unique<Job>(path, job);
         std::string const name = lowerCase(opened->name());
         if (state.database.isOpen()) {
-            state.database.removeOperations(name, {}); // what was read anew has no history
+            state.database.removeOperations(name, {}); // a freshly read job has no history
         }
         auto const earlier = std::find_if(state.jobs.begin(), state.jobs.end(),
                                           [&](auto const & open) { return lowerCase(open->name()) == name; });
@@ -122,8 +122,8 @@ void get_special_symbol_names(std::string const & job, std::vector<std::string> 
     }
 }
 
-// The history is kept consistent with every operation, so there is never anything left to correct; and false
-// for a job that is not open would have the caller ask for ever.
+// The history is always consistent, so nothing is left to correct. Returning false for a job that is not open
+// would make the caller ask forever.
 bool CorrectUndo(std::string const & /*job*/, std::string const & /*step*/)
 {
     return true;

@@ -42,7 +42,7 @@ void EngineState::openDatabase()
     try {
         raiseSequence();
         database.inTransaction([this] {
-            database.removeOperations({}, {}); // those of an earlier process cannot be undone any more
+            database.removeOperations({}, {}); // those of an earlier process can no longer be undone
             for (std::unique_ptr<Job> const & open : jobs) {
                 for (Step const & step : open->steps()) {
                     addHistory(lowerCase(open->name()), step);

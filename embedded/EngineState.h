@@ -13,11 +13,11 @@
 
 namespace KVCAM::Embedded {
 
-/// Everything that the engine keeps: what it was told, the open jobs, the database.
+/// All state of the engine: the values it was given, the open jobs, the database.
 class EngineState
 {
 public:
-    /// The process's one state. It is never destroyed, so calls at exit find it whole.
+    /// The only state of the process. Never destroyed, so it is still valid for calls at exit.
     static EngineState & get();
 
     LiveState live;
@@ -29,12 +29,12 @@ public:
     std::vector<std::unique_ptr<Job>> jobs; ///< in order of opening
     std::deque<PluginCommand> pluginCommands;
 
-    /// Counts the changes of the live state and the rows of the database, so that their order can be told.
+    /// Counts the changes of the live state and the rows of the database together, which gives their order.
     long long nextSequence() { return ++m_sequence; }
-    /// Goes on above the rows that the database file already holds.
+    /// Continues above the rows already in the database file.
     void raiseSequence() { m_sequence = std::max(m_sequence, database.highestSequence()); }
-    /// Has `insert` add a row with the next number. Another process may have written to the file meanwhile:
-    /// when the number is taken, counting goes on above its rows.
+    /// Calls `insert` to add a row with the next number. Another process may have written to the file: if the
+    /// number is taken, counting continues above that process's rows.
     template <class Insert>
     void addRow(Insert insert)
     {
@@ -46,17 +46,17 @@ public:
         insert(nextSequence());
     }
 
-    /// By name in any case; null when it is not open.
+    /// By name, case-insensitive. Null when it is not open.
     Job * findJob(std::string const & name);
     /// As findJob(), but throws JobError.
     Job & job(std::string const & name);
 
-    /// How many operations on a step can be undone; 0 when it is not open.
+    /// The number of undoable operations on a step; 0 when it is not open.
     int operations(std::string const & job, std::string const & step);
 
-    /// Opens the database; its table of operations then mirrors the history of the open jobs.
+    /// Opens the database. Its table of operations then mirrors the history of the open jobs.
     void openDatabase();
-    /// Writes the history of a step to the database anew.
+    /// Rewrites the history of a step in the database.
     void mirrorHistory(std::string const & job, std::string const & step);
 
 private:
@@ -65,8 +65,8 @@ private:
     long long m_sequence = 0;
 };
 
-/// Runs an action of the engine's own interface and keeps the text of what it throws as the last error;
-/// `neutral` is the result then.
+/// Runs an action of the engine's own interface. If it throws, stores the text as the last error and returns
+/// `neutral`.
 template <class Result, class Action>
 Result answered(Result neutral, Action action)
 {

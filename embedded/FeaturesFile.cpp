@@ -10,7 +10,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr std::size_t longestName = 128; // each record of a feature holds a copy
+constexpr std::size_t longestName = 128; // each feature record holds a copy
 
 class FeaturesReader
 {
@@ -73,7 +73,7 @@ private:
     void readHead()
     {
         KeyValue const pair = keyValue(m_reader);
-        // The head's keys are words, and they stand above the features: the rest are damaged records.
+        // Header keys are words above the features; anything else is a damaged record.
         if (!m_file.features.empty() || pair.key.size() < 2) {
             m_reader.fail("a record expected, not " + quoted(m_reader.line()));
         }
@@ -104,7 +104,7 @@ private:
         m_scale = unit == "MM" ? 1000.0 : 25400.0;
     }
 
-    // Splits "<index> <text>" of a table's line.
+    // Splits a table line "<index> <text>".
     std::pair<int, std::string_view> entry(std::string_view line) const
     {
         std::string_view const digits = line.substr(0, line.find_first_of(" \t"));
@@ -137,7 +137,7 @@ private:
     void readSymbol(std::string_view line)
     {
         auto [index, name] = entry(line);
-        int unit = -1; // the file's, which may stand below
+        int unit = -1; // the file's, which may come further down
         if (name.size() > 2 && (name.back() == 'I' || name.back() == 'M')) {
             std::string_view const bare = name.substr(0, name.size() - 1);
             if (bare.back() == ' ' || bare.back() == '\t') {
@@ -203,7 +203,7 @@ private:
         return index;
     }
 
-    // 0 to 3 are quarter turns, 4 to 7 the same mirrored; 8 and 9 are followed by an angle, 9 is mirrored.
+    // 0 to 3 are quarter turns, 4 to 7 the same mirrored. 8 and 9 are followed by an angle; 9 is mirrored.
     void readOrientation(Words & words, Feature & feature) const
     {
         int const orientation = words.integer("orientation");
@@ -214,7 +214,7 @@ private:
         feature.angle = orientation >= 8 ? words.decimal("angle") : 90.0 * (orientation % 4);
     }
 
-    // ";<index>[=<value>],...;ID=<n>", each part optional, and the ID may stand first.
+    // ";<index>[=<value>],...;ID=<n>". Each part is optional, and the ID may come first.
     void readAttributes(std::string_view tail, Feature & feature) const
     {
         if (tail.empty()) {
@@ -275,12 +275,12 @@ private:
     FeaturesFile m_file;
     double m_scale = 25400.0; // micrometres per unit of the file
     int m_announced = 0;
-    int m_announcedLine = 0; // 0: the file announces no number of features
+    int m_announcedLine = 0; // 0: the file does not announce a number of features
     std::set<int> m_attributeNames;
     std::map<int, std::uint8_t> m_marks; // by attribute index
-    int m_drillAttribute = -1;           // index of .drill; -1: the file does not name it
+    int m_drillAttribute = -1;           // index of .drill; -1: not named in the file
     std::set<int> m_attributeTexts;
-    int m_surfaceLine = 0; // where the open surface begins; 0: none is open
+    int m_surfaceLine = 0; // where the open surface begins; 0: none open
     bool m_contourOpen = false;
 };
 

@@ -13,15 +13,15 @@
 
 namespace KVCAM::Embedded {
 
-/// A symbol of a file's table: its name without the unit mark, and what its sizes are in (0 mil,
-/// 1 micrometre), by the mark or else by the file's unit.
+/// A symbol of a file's table: its name without the unit suffix, and the unit of its sizes (0 mil, 1
+/// micrometre), from the suffix or else from the file's unit.
 struct SymbolEntry
 {
     std::string name;
     int unit = 0;
 };
 
-/// One side of a contour: straight, or an arc about `centre`. Micrometres.
+/// One side of a contour: a straight line, or an arc about `centre`. Micrometres.
 struct Side
 {
     API::point to;
@@ -32,12 +32,12 @@ struct Side
 
 struct Contour
 {
-    bool island = true; ///< false: a hole in the islands before it
+    bool island = true; ///< false: a hole in the preceding islands
     API::point start;
     std::vector<Side> sides;
 };
 
-/// The attributes of a feature that the checks ask for, as bits.
+/// The feature attributes that the checks use, as bits.
 enum Mark : std::uint8_t
 {
     markSmd = 1,
@@ -45,9 +45,10 @@ enum Mark : std::uint8_t
     markString = 4
 };
 
-/// A graphic of a layer, in micrometres. A surface has contours, every other kind has a symbol and points:
-/// a pad its place, a line its start and end, an arc its start, end and centre. A file may hold millions of
-/// them, so they keep no list of their own for the few points; attributes are checked, but few are kept.
+/// A graphic of a layer, in micrometres. A surface has contours. Every other kind has a symbol and points: a
+/// pad its place, a line its start and end, an arc its start, end and centre. A file may hold millions of
+/// features, so the few points are stored inline instead of in a list. All attributes are validated, few are
+/// kept.
 struct Feature
 {
     char kind = 'P';
@@ -57,12 +58,12 @@ struct Feature
     std::uint8_t marks = 0; ///< which Mark attributes it has
     std::int8_t drill = -1; ///< the option of its .drill: 0 plated, 1 non-plated, 2 via; -1 for none
     double angle = 0;       ///< of a pad, degrees clockwise
-    int symbol = -1;        ///< index of the symbol table
-    int code = 0;           ///< on a drill layer the number of its tool
+    int symbol = -1;        ///< index into the symbol table
+    int code = 0;           ///< on a drill layer, the number of its tool
     std::array<API::point, 3> points{};
     std::vector<Contour> contours;
 
-    /// How many of `points` are in use.
+    /// The number of `points` in use.
     std::size_t pointCount() const { return kind == 'P' ? 1 : kind == 'L' ? 2 : kind == 'A' ? 3 : 0; }
 };
 
@@ -74,11 +75,11 @@ struct FeaturesFile
     std::vector<Feature> features;
 };
 
-/// Reads a features file whole or throws JobError. With `tablesOnly` the file is one that holds the head and
-/// the tables alone, and its announced number of features is not held against it.
+/// Reads a whole features file or throws JobError. With `tablesOnly` the file holds only the head and the
+/// tables, and its announced number of features is not enforced.
 FeaturesFile readFeatures(QString const & path, bool tablesOnly = false);
 
-/// The points of a feature in the order of its record; those of an arc's centre follow its end.
+/// The points of a feature in the order of its record; an arc's centre follows its end.
 std::vector<API::point> recordPoints(Feature const & feature);
 
 } // namespace KVCAM::Embedded

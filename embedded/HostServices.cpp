@@ -39,7 +39,7 @@ QTpluginsManger4CAM * QTpluginsManger4CAM::instance()
     return &manager;
 }
 
-// The default host has no plug-in modules: it keeps the latest commands to be looked at.
+// The default host has no plug-in modules. It keeps the latest commands for inspection.
 void QTpluginsManger4CAM::recMegToPlugin(void * /*data*/, PluginMetaData meta)
 {
     constexpr std::size_t kept = 100;

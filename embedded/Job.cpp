@@ -11,7 +11,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// The header says nothing that the engine needs, but a damaged one means a damaged step.
+// The engine uses nothing from the header, but a damaged header means a damaged step.
 void checkStepHeader(QString const & path)
 {
     LineReader reader(path);

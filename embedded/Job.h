@@ -14,15 +14,15 @@
 
 namespace KVCAM::Embedded {
 
-/// The graphics of a layer as they stand: what its file holds, and which features are deleted.
+/// The current graphics of a layer: the contents of its file, and which features are deleted.
 struct LayerGraphics
 {
     FeaturesFile file;
     std::vector<bool> deleted; ///< as many as features
-    bool cutToTables = false;  ///< the file holds the head and the tables alone
+    bool cutToTables = false;  ///< the file holds only the head and the tables
 };
 
-/// One deletion: the layer, and the indices of what was deleted, ascending.
+/// One deletion: the layer and the ascending indices of the deleted features.
 struct Deletion
 {
     std::string layer;
@@ -34,16 +34,16 @@ struct Step
     std::string name; ///< lower case
     QString folder;
     std::optional<Profile> profile;
-    std::map<std::string, LayerGraphics> graphics; ///< what has been read so far, by layer
-    std::vector<Deletion> history;                 ///< what Undo() takes back, latest last
+    std::map<std::string, LayerGraphics> graphics; ///< by layer; those read so far
+    std::vector<Deletion> history;                 ///< what Undo() reverts, latest last
 };
 
-/// An open job. The matrix, the step headers, the profiles and the names of the symbols are read when it is
-/// opened; a layer's files when they are first asked for. Methods throw JobError; names are lower case.
+/// An open job. The matrix, the step headers, the profiles and the symbol names are read on opening, the
+/// files of a layer on first use. Methods throw JobError. Names are lower case.
 class Job
 {
 public:
-    /// Reads the job in the sub-folder `name` of `path`.
+    /// Reads the job in the subfolder `name` of `path`.
     Job(std::string const & path, std::string const & name);
 
     std::string const & name() const { return m_name; }
@@ -51,7 +51,7 @@ public:
     /// The names of its own symbols, sorted.
     std::vector<std::string> const & symbols() const { return m_symbols; }
     bool hasSymbol(std::string const & name) const;
-    /// The drawing of one of its own symbols; nothing when the job does not hold it.
+    /// The drawing of one of its own symbols; nothing if the job does not contain it.
     std::optional<FeaturesFile> symbolDrawing(std::string const & name) const;
 
     std::vector<Step> const & steps() const { return m_steps; }
@@ -62,11 +62,11 @@ public:
     LayerGraphics & graphics(std::string const & step, std::string const & layer);
     std::vector<Tool> tools(std::string const & step, std::string const & layer);
 
-    /// A deletion with its indices sorted, each once; throws when one does not stand for a feature.
+    /// A deletion with its indices sorted and unique. Throws if an index is not a feature.
     Deletion checkedDeletion(std::string const & step, std::string const & layer,
                              std::vector<int> const & indices);
     void apply(std::string const & step, Deletion deletion);
-    /// Takes the step's latest deletion back; false when there is none.
+    /// Reverts the step's latest deletion; false when there is none.
     bool undo(std::string const & step);
 
 private:

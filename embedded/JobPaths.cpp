@@ -44,7 +44,7 @@ std::string refusal(std::string const & name)
 
 QStringList entriesOf(QString const & folder, QDir::Filters filters)
 {
-    // Qt lists what cannot be read as empty, and nothing must be taken for absent because of that.
+    // Qt lists an unreadable folder as empty; that must not pass for absent entries.
     if (QFileInfo const info(folder); info.isDir() && !(info.isReadable() && info.isExecutable())) {
         throw JobError(folder.toStdString() + ": no permission to read the folder");
     }

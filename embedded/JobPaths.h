@@ -8,19 +8,19 @@
 
 namespace KVCAM::Embedded {
 
-/// Names of jobs, steps, layers and symbols compare without case; this is the form that they are compared in.
+/// The form in which names of jobs, steps, layers and symbols are compared, since case does not matter.
 std::string lowerCase(std::string const & name);
 
-/// Why a name must not become part of a path ("" when it may): names are untrusted, and one with a separator
-/// or ".." would lead out of the job.
+/// Why a name must not become part of a path ("" if it may). Names are untrusted: a separator or ".." would
+/// lead out of the job.
 std::string refusal(std::string const & name);
 
-/// The names in a folder, sorted; none when there is no such folder. Throws JobError when it may not be read.
+/// The names in a folder, sorted; none if the folder does not exist. Throws JobError if it is unreadable.
 QStringList entriesOf(QString const & folder, QDir::Filters filters);
-/// The sub-folder of that name in any case, or "" when there is none.
+/// The subfolder of that name (case-insensitive), or "" if there is none.
 QString findFolder(QString const & folder, std::string const & name);
-/// The file of that name in any case, or "" when there is none. Throws JobError when only a folder of
-/// that name or a compressed form of it (".Z") is there.
+/// The file of that name (case-insensitive), or "" if there is none. Throws JobError if there is only a
+/// folder of that name, or only a compressed form of the file (".Z").
 QString findFile(QString const & folder, std::string const & name);
 
 } // namespace KVCAM::Embedded

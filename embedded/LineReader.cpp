@@ -11,7 +11,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// What is read of a file may take some twenty times as much memory.
+// The parsed contents may take some twenty times as much memory as the file.
 constexpr qint64 largestFile = 64LL * 1024 * 1024;
 constexpr std::size_t longestLine = 1024UL * 1024;
 constexpr double largestNumber = 1e9;
@@ -63,7 +63,7 @@ LineReader::LineReader(QString const & path) : m_path(QDir::cleanPath(path))
     if (file.size() > largestFile) {
         throw JobError(shown + ": the file is larger than 64 MiB");
     }
-    m_text = file.read(file.size()); // allocates what it is asked for
+    m_text = file.read(file.size()); // allocates the size passed to it
     if (file.error() != QFileDevice::NoError) {
         throw JobError(shown + ": " + file.errorString().toStdString());
     }

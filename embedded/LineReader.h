@@ -9,35 +9,35 @@
 
 namespace KVCAM::Embedded {
 
-/// Why a job's file cannot be used: "file:line: reason". Readers throw it; the engine's calls catch it.
+/// Why a job's file cannot be used: "file:line: reason". Thrown by readers, caught by the engine's calls.
 class JobError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// The lines of one text file of a job, LF or CRLF. Files are untrusted: a file over 64 MiB or a line over
-/// 1 MiB is refused.
+/// The lines of one text file of a job, LF or CRLF. Files are untrusted: a file over 64 MiB or a line over 1
+/// MiB is refused.
 class LineReader
 {
 public:
-    /// Reads the whole file; throws JobError when that fails.
+    /// Reads the whole file; throws JobError on failure.
     explicit LineReader(QString const & path);
 
-    /// Goes to the next line that is neither blank nor a comment ('#'); false at the end of the file.
+    /// Advances to the next line that is neither blank nor a comment ('#'); false at the end of the file.
     bool next();
-    /// The current line without blanks at its ends; valid as long as the reader.
+    /// The current line, trimmed; valid as long as the reader.
     std::string_view line() const { return m_line; }
     int lineNumber() const { return m_number; }
 
     /// Throws a JobError for the current line.
     [[noreturn]] void fail(std::string const & reason) const;
     [[noreturn]] void fail(std::string const & reason, int lineNumber) const;
-    /// Throws a JobError for the file, where no line is to blame.
+    /// Throws a JobError for the file, if no line is to blame.
     [[noreturn]] void failWhole(std::string const & reason) const;
 
-    /// A whole text as a number, whatever the locale; fails with `what` otherwise. A decimal is finite and
-    /// within +-1e9.
+    /// Parses a whole text as a number, independent of the locale; fails with `what` otherwise. A decimal is
+    /// finite and within +-1e9.
     double decimal(std::string_view text, char const * what) const;
     int integer(std::string_view text, char const * what) const;
 
@@ -49,7 +49,7 @@ private:
     int m_number = 0;
 };
 
-/// A line "KEY = value" split at the first '='; the key in capitals, both without blanks at their ends.
+/// A line "KEY = value" split at the first '='; the key in capitals, both trimmed.
 struct KeyValue
 {
     std::string key;
@@ -64,13 +64,13 @@ class Words
 public:
     Words(LineReader const & reader, std::string_view text) : m_reader(reader), m_rest(text) {}
 
-    /// The next word; fails with `what` when there is none.
+    /// The next word; fails with `what` if there is none.
     std::string_view next(char const * what);
     double decimal(char const * what) { return m_reader.decimal(next(what), what); }
     int integer(char const * what) { return m_reader.integer(next(what), what); }
-    /// The next word, which is to be `yes` or `no`.
+    /// The next word, which must be `yes` or `no`.
     bool choice(char yes, char no, char const * what);
-    /// Fails when words are left.
+    /// Fails if words are left.
     void end() const;
 
 private:
@@ -79,11 +79,11 @@ private:
 };
 
 std::string_view trimmed(std::string_view text);
-/// ASCII only, as the keys and fixed values of the files are.
+/// ASCII only, like the keys and fixed values of the files.
 std::string upperCase(std::string_view text);
-/// A text of a file as UTF-8: bytes that are none become replacement characters.
+/// Text of a file as UTF-8; invalid bytes become replacement characters.
 std::string validText(std::string_view text);
-/// A text of a file for a message: in quotes, shortened, without characters that do not print.
+/// Text of a file for a message: quoted, shortened, without unprintable characters.
 std::string quoted(std::string_view text);
 
 } // namespace KVCAM::Embedded

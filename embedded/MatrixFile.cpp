@@ -10,7 +10,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// One block: its keys in capitals, and the line it begins at, for messages about the block as a whole.
+// One block: its keys in capitals, and its first line, for messages about the whole block.
 class Block
 {
 public:
@@ -29,7 +29,7 @@ public:
         m_reader.fail("the " + m_kind + " block is not closed", m_line);
     }
 
-    // The value of a key that must be there and not be empty.
+    // The value of a key that must exist and not be empty.
     std::string const & text(char const * key) const
     {
         auto const found = m_entries.find(key);
@@ -39,7 +39,7 @@ public:
         return found->second.value;
     }
 
-    // The value of a key that may be missing, in lower case.
+    // The value of an optional key, in lower case.
     std::string optional(char const * key) const
     {
         auto const found = m_entries.find(key);
@@ -85,7 +85,7 @@ private:
     std::map<std::string, Entry> m_entries;
 };
 
-// What has been read of one kind of block, by position.
+// The blocks of one kind read so far, by position.
 template <class Record>
 class Positions
 {

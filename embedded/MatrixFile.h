@@ -17,13 +17,13 @@ struct Matrix
 {
     std::vector<std::string> steps;
     std::vector<API::layer_info> layers;
-    /// The first and the last layer that a drill or rout layer goes through, by its name; "" where the matrix
-    /// leaves them out. They need not be layers of the matrix.
+    /// The first and last layer that each drill or rout layer passes through, by its name; "" if the matrix
+    /// omits them. They need not be layers of the matrix.
     std::map<std::string, std::pair<std::string, std::string>> spans;
 };
 
-/// Throws JobError. Blocks must be whole, their numbers positive and distinct, their names distinct without
-/// regard to case and fit to name a folder.
+/// Throws JobError. Blocks must be complete, their numbers positive and distinct, their names distinct
+/// regardless of case and usable as folder names.
 Matrix readMatrix(QString const & path);
 
 } // namespace KVCAM::Embedded

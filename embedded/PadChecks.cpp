@@ -17,11 +17,11 @@ namespace KVCAM::Embedded {
 namespace {
 
 constexpr double endless = std::numeric_limits<double>::infinity();
-constexpr double noise = 2.54e-5;  // micrometres: a millionth of a mil, as when values are rounded
-constexpr std::size_t chunk = 256; // pads or holes between two tellings
+constexpr double noise = 2.54e-5;  // micrometres: a millionth of a mil, as in the rounding of values
+constexpr std::size_t chunk = 256; // pads or holes between two progress reports
 
-// Equal for pads that cover the same place, however it came about: a square turned by 90 degrees is itself.
-// In nanometres, so that rounding does not tell them apart.
+// Equal for pads that cover the same area, however they are described: a square rotated by 90 degrees equals
+// itself. In nanometres, so that rounding errors do not separate them.
 std::vector<std::int64_t> footprint(Pad const & pad)
 {
     auto const nanometres = [](double value) { return UIAPI::nearestInt64(value * 1000); };
@@ -38,8 +38,8 @@ std::vector<std::int64_t> footprint(Pad const & pad)
     return key;
 }
 
-// The pads with distinct footprints, in their order. One of equal pads that is an SMD pad makes the one that
-// stays one.
+// The pads with distinct footprints, in order. If any of several equal pads is an SMD pad, so is the
+// remaining one.
 std::vector<Pad> distinct(std::vector<Pad> const & pads)
 {
     std::vector<std::vector<std::int64_t>> keys;
@@ -77,7 +77,7 @@ std::vector<Box> extents(std::vector<Shape> const & shapes)
     return boxes;
 }
 
-// How deep a hole's centre lies in the pad; nothing where the pad leaves the hole no ring.
+// The depth of a hole's centre in the pad; nothing if the pad leaves the hole no ring.
 std::optional<double> depthOf(Hole const & hole, Pad const & pad)
 {
     API::point const centre = unplaced(hole.place, pad.where);
@@ -116,7 +116,7 @@ std::vector<Measurement> PadChecks::smdSpacings() const
             pairs.emplace_back(std::min(i, nearest->item), std::max(i, nearest->item));
         }
         if (i % chunk == 0) {
-            m_context.tell(3 * shapes.size() + i, 6 * shapes.size()); // the fourth of six parts
+            m_context.reportProgress(3 * shapes.size() + i, 6 * shapes.size()); // the fourth of six parts
         }
     }
     std::sort(pairs.begin(), pairs.end());
@@ -147,12 +147,12 @@ std::array<std::vector<Measurement>, 3> PadChecks::rings(std::vector<Hole> const
     for (std::size_t i = 0; i < holes.size(); ++i) {
         Hole const & hole = holes[i];
         if (i % chunk == 0) {
-            m_context.tell(2 * holes.size() + i, 3 * holes.size()); // the last of three parts
+            m_context.reportProgress(2 * holes.size() + i, 3 * holes.size()); // the last of three parts
         }
         if (row < hole.firstRow || row > hole.lastRow) {
             continue;
         }
-        // The deepest pad has the lowest measure; none is deeper than its box.
+        // The deepest pad has the lowest measure. No pad is deeper than its box.
         API::point const at = hole.place;
         auto const deepest = grid.lowest(
             noise,

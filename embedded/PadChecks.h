@@ -8,7 +8,7 @@
 
 namespace KVCAM::Embedded {
 
-/// A pad as it is drawn.
+/// A pad as drawn.
 struct Pad
 {
     Placement where;
@@ -16,19 +16,19 @@ struct Pad
     bool smd = false;
 };
 
-/// What is measured between the pads of one layer and their neighbours or holes.
+/// Measures between the pads of one layer and their neighbours or holes.
 class PadChecks
 {
 public:
     PadChecks(std::vector<Pad> pads, CheckContext const & context);
 
-    /// Each SMD pad and the one nearest to it, each pair once.
+    /// Each SMD pad and its nearest neighbour, each pair once.
     std::vector<Measurement> smdSpacings() const;
-    /// The rings of the holes through a row of the matrix, by kind of hole.
+    /// The rings of the holes through a matrix row, by kind of hole.
     std::array<std::vector<Measurement>, 3> rings(std::vector<Hole> const & holes, int row) const;
 
 private:
-    std::vector<Pad> m_pads; // no two of one shape in one place
+    std::vector<Pad> m_pads; // no two of the same shape in the same place
     CheckContext const & m_context;
 };
 

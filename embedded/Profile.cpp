@@ -11,8 +11,8 @@ namespace KVCAM::Embedded {
 namespace {
 
 constexpr double pi = 3.14159265358979323846;
-constexpr std::size_t mostPoints = 10'000'000; // a file of straight sides cannot hold so many
-constexpr int chordsPerTurn = 72; // a multiple of four: the extreme points of a circle are among them
+constexpr std::size_t mostPoints = 10'000'000; // more than a file of straight sides can hold
+constexpr int chordsPerTurn = 72; // a multiple of four, to include the extreme points of a circle
 
 // Appends the points between the ends of an arc. Equal ends make a full circle.
 void appendArc(std::vector<API::point> & points, API::point from, Side const & side)
@@ -25,7 +25,7 @@ void appendArc(std::vector<API::point> & points, API::point from, Side const & s
     double sweep = direction * (end - begin);
     sweep = sweep <= 1e-12 ? sweep + 2 * pi : sweep;
 
-    // In units of a chord and counted in the arc's direction: the whole numbers strictly inside the sweep.
+    // In units of a chord, counted in the arc's direction: the integers strictly inside the sweep.
     double const first = direction * begin / unit;
     auto const last = static_cast<int>(std::ceil(first + sweep / unit - 1e-9));
     for (int step = static_cast<int>(std::floor(first + 1e-9)) + 1; step < last; ++step) {

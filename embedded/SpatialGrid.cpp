@@ -29,7 +29,7 @@ SpatialGrid::SpatialGrid(std::vector<Box> boxes) : m_boxes(std::move(boxes)), m_
     }
 }
 
-// Makes the node of a run of m_order.
+// Makes the node of a range of m_order.
 void SpatialGrid::build(std::size_t index, std::size_t first, std::size_t count)
 {
     Box box = m_boxes[m_order[first]];
@@ -65,8 +65,8 @@ void SpatialGrid::build(std::size_t index, std::size_t first, std::size_t count)
     }
 }
 
-// Sorts a run by the cells that the centres lie in; at least two cells get some, since the outermost centres
-// lie in different ones.
+// Sorts a range by the cells of the centres. At least two cells are used, since the outermost centres fall in
+// different cells.
 SpatialGrid::Starts SpatialGrid::splitByPlace(std::size_t first, std::size_t count, Box const & centres)
 {
     auto const step = [](double value, double low, double high) {
@@ -93,7 +93,7 @@ SpatialGrid::Starts SpatialGrid::splitByPlace(std::size_t first, std::size_t cou
     return starts;
 }
 
-// Boxes about one centre cannot be told apart by place: the largest come first, in parts of equal number.
+// Boxes with a common centre cannot be separated by place: largest first, in parts of equal count.
 SpatialGrid::Starts SpatialGrid::splitBySize(std::size_t first, std::size_t count)
 {
     auto const begin = m_order.begin() + static_cast<std::ptrdiff_t>(first);

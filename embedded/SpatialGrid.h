@@ -11,9 +11,9 @@
 
 namespace KVCAM::Embedded {
 
-/// Boxes filed by their centres into the cells of a grid. A crowded cell is a grid of its own over what it
-/// holds, so the cost of a question stays about the same however the boxes are spread; memory is about linear
-/// in their number. Coordinates must be finite.
+/// Boxes stored by their centres in the cells of a grid. A crowded cell is itself a grid over its contents,
+/// so the cost of a query stays about the same whatever the distribution. Memory is roughly linear in the
+/// number of boxes. Coordinates must be finite.
 class SpatialGrid
 {
 public:
@@ -21,12 +21,12 @@ public:
 
     struct Found
     {
-        std::size_t item = 0; ///< index of the boxes
+        std::size_t item = 0; ///< index into the boxes
         double measure = 0;
     };
 
-    /// The item with the lowest measure(item) below `limit`; of several, any. bound(box) is what no measure
-    /// of an item within that box falls below; what it rules out is not measured.
+    /// The item with the lowest measure(item) below `limit`; any of them if several tie. bound(box) is a
+    /// lower bound for the measures of the items within that box; items that it rules out are not measured.
     template <class Bound, class Measure>
     std::optional<Found> lowest(double limit, Bound const & bound, Measure const & measure) const
     {
@@ -48,12 +48,12 @@ public:
 
 private:
     static constexpr std::size_t across = 4; // cells of a grid in each direction
-    static constexpr std::size_t most = 8;   // what a cell holds before it becomes a grid
+    static constexpr std::size_t most = 8;   // capacity of a cell before it becomes a grid
 
     struct Node
     {
         Box box;
-        std::uint32_t first = 0; // of m_order in a cell, of m_nodes in a grid
+        std::uint32_t first = 0; // index into m_order for a cell, into m_nodes for a grid
         std::uint32_t count = 0;
         bool cell = true;
     };
@@ -114,8 +114,8 @@ private:
     Starts splitBySize(std::size_t first, std::size_t count);
 
     std::vector<Box> m_boxes;
-    std::vector<std::uint32_t> m_order; // items, those of a cell next to each other
-    std::vector<Node> m_nodes;          // the first is the whole; the children of a grid next to each other
+    std::vector<std::uint32_t> m_order; // items, those of a cell adjacent
+    std::vector<Node> m_nodes;          // the root first; the children of a grid adjacent
 };
 
 } // namespace KVCAM::Embedded

@@ -23,7 +23,7 @@ static_assert(fieldsFit());
 
 constexpr std::string_view digits = "0123456789";
 
-// Takes digits, with `decimals` also a point between digits, off the front of a text.
+// Removes leading digits from a text; with `decimals` also a point between digits.
 std::optional<double> takeNumber(std::string_view & text, bool decimals)
 {
     std::size_t end = std::min(text.find_first_not_of(digits), text.size());

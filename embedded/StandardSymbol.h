@@ -25,12 +25,12 @@ struct StandardSymbol
 {
     SymbolFamily family = SymbolFamily::Round;
     double first = 0;  ///< as in the name: mil or micrometre
-    double second = 0; ///< 0 for a family of one size
-    /// All numbers between the 'x', in their order; 0 for the plating of a hole.
+    double second = 0; ///< 0 for a family with one size
+    /// All numbers between the 'x', in order; 0 for the plating of a hole.
     std::array<double, 6> fields{};
-    double corner = 0;        ///< how far the corners are rounded or cut
-    bool cut = false;         ///< they are cut
-    bool someCorners = false; ///< only some of the four are
+    double corner = 0;        ///< size of the rounded or cut corners
+    bool cut = false;         ///< cut, not rounded
+    bool someCorners = false; ///< only some of the four
 };
 
 /// What a well-formed name of a standard family says; nothing for any other name.

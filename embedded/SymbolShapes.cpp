@@ -10,7 +10,7 @@ namespace KVCAM::Embedded {
 namespace {
 
 constexpr double pi = 3.14159265358979323846;
-constexpr double largest = 2.54e10; // micrometres; what is larger is no symbol of a board
+constexpr double largest = 2.54e10; // micrometres; nothing on a board is larger
 
 bool same(API::point a, API::point b)
 {
@@ -54,7 +54,7 @@ Shape circle(double diameter)
     return {{{0, 0}}, diameter / 2};
 }
 
-// An ellipse's polygon: outside it when `about`, else inside.
+// An ellipse's polygon: circumscribed when `about`, else inscribed.
 Shape ellipse(double width, double height, bool about)
 {
     constexpr int corners = 32;
@@ -90,7 +90,7 @@ SymbolShape donut(SymbolShape shape, double opening)
     return shape;
 }
 
-// A donut whose copper is `line` wide all round.
+// A donut with copper `line` wide all round.
 SymbolShape donut(SymbolShape shape, double width, double height, double line)
 {
     double const x = width / 2 - line;
@@ -110,7 +110,7 @@ SymbolShape oval(double width, double height)
     return solid(width, height, rounded(width, height, std::min(width, height)));
 }
 
-// The families that are no rectangles, ovals or circles, nor donuts or thermals of them.
+// Families other than rectangles, ovals and circles and their donuts and thermals.
 SymbolShape cornered(SymbolFamily family, double w, double h, double corner)
 {
     double const x = w / 2;
@@ -196,7 +196,7 @@ SymbolShape shapeOf(StandardSymbol const & symbol, double scale)
     return {};
 }
 
-// The box about a graphic of a symbol's drawing; nothing when its own symbol is not a standard one.
+// The box around a graphic of a symbol's drawing; nothing if the graphic's symbol is not a standard symbol.
 std::optional<Box> extent(FeaturesFile const & drawing, Feature const & feature)
 {
     if (feature.kind == 'S') {

@@ -11,7 +11,7 @@
 
 namespace KVCAM::Embedded {
 
-/// What a symbol covers, about its own origin, in micrometres. Where the two shapes differ the symbol lies
+/// The area of a symbol about its origin, in micrometres. Where the two shapes differ, the symbol lies
 /// between them.
 struct SymbolShape
 {
@@ -24,19 +24,19 @@ struct SymbolShape
 
     Kind kind = Kind::Unknown;
     Shape outer;
-    Shape inner; ///< without corners: the symbol is not solid
+    Shape inner; ///< no corners: the symbol is not solid
     double narrower = 0;
     double wider = 0;
-    double opening = 0; ///< radius of a circle about the origin that holds a donut's opening
+    double opening = 0; ///< radius of a circle about the origin that contains a donut's opening
 };
 
 SymbolShape standardShape(StandardSymbol const & symbol, int unit);
 
-/// The shapes of a job's symbols, each worked out once.
+/// The shapes of a job's symbols, each computed once.
 class SymbolShapes
 {
 public:
-    /// Valid as long as this. Throws JobError when the drawing of a symbol of the job's own is damaged.
+    /// Valid as long as this object. Throws JobError if the drawing of a symbol of the job's own is damaged.
     SymbolShape const & find(Job const & job, SymbolEntry const & symbol);
 
 private:

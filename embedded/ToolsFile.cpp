@@ -40,7 +40,7 @@ Tool readTool(LineReader & reader)
 std::vector<Tool> readTools(QString const & path)
 {
     LineReader reader(path);
-    double scale = 25.4; // micrometres per unit of the sizes: mils unless the head says otherwise
+    double scale = 25.4; // micrometres per unit of the sizes: mil unless the head says otherwise
     std::vector<Tool> tools;
     while (reader.next()) {
         std::string_view const line = reader.line();

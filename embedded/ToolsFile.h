@@ -8,7 +8,7 @@
 
 namespace KVCAM::Embedded {
 
-/// Reads the tools of a drill or rout layer, in file order, or throws JobError.
+/// Reads the tools of a drill or rout layer in file order, or throws JobError.
 std::vector<Tool> readTools(QString const & path);
 
 } // namespace KVCAM::Embedded

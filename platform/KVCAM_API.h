@@ -1,7 +1,7 @@
 #pragma once
 
 // Everything that the host provides: engine records and calls, path helpers, the plug-in manager. All of it
-// is defined in the host's library, so that another engine can take its place.
+// is defined in the host's library, so that the engine can be replaced.
 
 #include <kvcam/Database.h>
 #include <kvcam/Engine.h>

@@ -1,12 +1,12 @@
 # shellcheck shell=bash disable=SC2034
-# What the scripts share. Sourced, not run.
+# Shared functions of the scripts. To be sourced, not run.
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-# take_no_install ARGUMENT...: with --no-install first, packages are only checked: a missing one ends the script. The
-# other arguments are left in `arguments`.
+# take_no_install ARGUMENT...: with --no-install first, only checks the packages: a missing one ends the script. Leaves
+# the other arguments in `arguments`.
 may_install=yes
 arguments=()
 take_no_install() {
@@ -17,8 +17,8 @@ take_no_install() {
   arguments=("$@")
 }
 
-# install_packages NAME...: installs the Debian packages that are missing, and says so first. Without apt-get (another
-# distribution, Windows) it changes nothing: the build will name what it does not find.
+# install_packages NAME...: installs the missing Debian packages, after listing them. Without apt-get (another
+# distribution, Windows) it changes nothing: the build will name what it cannot find.
 install_packages() {
   command -v apt-get >/dev/null 2>&1 || return 0
   local missing=() name
@@ -43,7 +43,7 @@ install_packages() {
 
 build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
   libqt5sql5-sqlite libgoogle-glog-dev libjsoncpp-dev)
-# The offscreen platform takes the place of a display; it needs fonts to draw text with.
+# The offscreen platform replaces a display. It needs fonts to draw text.
 run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)
 windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine xvfb xauth zip cmake ninja-build

@@ -1,5 +1,5 @@
-// What a host does: it starts the log, registers its views, says which plug-in module answers which command,
-// and sends commands. Its arguments are the path of a plug-in module and a key.
+// The work of a host: it starts the log, registers its views, maps commands to plug-in modules, and sends
+// commands. Arguments: the path of a plug-in module and a key.
 
 #include <UIAPICommon.h>
 
@@ -22,7 +22,7 @@ int main(int argc, char ** argv)
         return 2;
     }
 
-    // A graphic view. Any address may name one; with a widget's, message boxes find their parent.
+    // A graphic view. Any address can be a handle; a widget's address also gives message boxes their parent.
     QWidget view;
     Step_Config config;
     config.view = &view;
@@ -32,7 +32,7 @@ int main(int argc, char ** argv)
     constexpr int sizeCommand = 1;
     UIAPICommonPara::instance()->addPluginRoute(sizeCommand, argv[2], argv[1]);
     setPluginCmd(sizeCommand, argv[2], &view);
-    setPluginCmd(2, argv[2], &view); // nobody's command: a line in the log
+    setPluginCmd(2, argv[2], &view); // no route: a line in the log
 
     std::printf("host: the view shows %s now\n", getUnit(&view) == 0 ? "inches" : "millimetres");
     return 0;

@@ -20,7 +20,7 @@ SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
 {
     setWindowTitle(QStringLiteral("Track size"));
     unit = new QComboBox;
-    unit->setObjectName(QStringLiteral("unit")); // what the form is remembered by
+    unit->setObjectName(QStringLiteral("unit")); // its key in the saved form
     unit->addItems({QStringLiteral("mil"), QStringLiteral("micrometre")});
     unit->setCurrentIndex(getUnit(view));
     words = new QLabel;
@@ -29,7 +29,7 @@ SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
     width = addField(RegPositive, "width");
     clearance = addField(RegExpression, "clearance");
 
-    auto * const layout = new QFormLayout(this); // takes the controls under this dialog
+    auto * const layout = new QFormLayout(this); // makes the controls children of this dialog
     layout->addRow(QStringLiteral("&Unit"), unit);
     layout->addRow(QStringLiteral("&Width"), width);
     layout->addRow(QStringLiteral("&Clearance"), clearance);
@@ -38,14 +38,13 @@ SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
 
     connect(buttons, &QDialogButtonBox::accepted, this, &SizeDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SizeDialog::reject);
-    // The library tells the engine and every field that follows the view.
+    // The library notifies the engine and every field that follows the view.
     connect(unit, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [this](int index) { setUnit(m_view, index); });
     restore();
 }
 
-// The first parent of a field is the view whose unit it has; moving it to the dialog changes nothing about
-// that.
+// A field's first parent is the view whose unit it shows. Reparenting it to the dialog does not change that.
 KVLineEdit * SizeDialog::addField(KVERegExp kind, char const * name)
 {
     auto * const field = new KVLineEdit(kind, m_view);
@@ -68,7 +67,7 @@ void SizeDialog::restore()
 {
     QFile file(m_formFile);
     if (file.open(QIODevice::ReadOnly)) {
-        QList<QObject *> controls = fields(); // the unit first, since the texts are in it
+        QList<QObject *> controls = fields(); // the unit first, since the texts are in that unit
         writeJsonToList(QJsonDocument::fromJson(file.readAll()).object(), controls);
     }
 }
@@ -80,7 +79,7 @@ void SizeDialog::accept()
     QSaveFile file(m_formFile);
     if (file.open(QIODevice::WriteOnly)) {
         file.write(QJsonDocument(form).toJson());
-        file.commit(); // a form that cannot be remembered is no reason to refuse the sizes
+        file.commit(); // failing to save the form is no reason to refuse the sizes
     }
     QDialog::accept();
 }

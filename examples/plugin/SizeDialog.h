@@ -7,12 +7,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// Asks for the width of a track and for a clearance in the unit of a view, and remembers what was asked
-/// last.
+/// Asks for a track width and a clearance in the unit of a view, and remembers the latest answers.
 class SizeDialog : public QDialog
 {
 public:
-    /// `view` is a registered view handle and a widget, `formFile` where the form is remembered.
+    /// `view` is a registered view handle and a widget. `formFile` is where the form is saved.
     SizeDialog(QWidget * view, QString const & formFile);
 
     void accept() override;
@@ -21,7 +20,7 @@ public:
     QComboBox * unit = nullptr;
     KVCAM::UIAPI::KVLineEdit * width = nullptr;     ///< a number
     KVCAM::UIAPI::KVLineEdit * clearance = nullptr; ///< an expression
-    QLabel * words = nullptr;                       ///< why OK is not to be had
+    QLabel * words = nullptr;                       ///< why OK is disabled
     QPushButton * ok = nullptr;
 
 private:

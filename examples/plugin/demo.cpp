@@ -16,8 +16,7 @@ char const * const demoForm = "example-plugin-demo.json";
 void type(KVLineEdit * field, char const * text)
 {
     field->clear();
-    field->insert(
-        QString::fromLatin1(text)); // what the field does not accept is refused, as from the keyboard
+    field->insert(QString::fromLatin1(text)); // refuses what the field refuses from the keyboard
 }
 
 void show(char const * what, SizeDialog const & dialog)
@@ -48,7 +47,7 @@ void runDialog(QWidget * view)
 void runDemo(QWidget * view)
 {
     QString const form = QString::fromLatin1(demoForm);
-    QFile::remove(form); // of the demo before
+    QFile::remove(form); // from an earlier demo
     {
         SizeDialog dialog(view, form);
         type(dialog.width, "10");

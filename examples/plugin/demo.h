@@ -2,7 +2,7 @@
 
 class QWidget;
 
-/// Opens the dialog of a view and prints what was asked for.
+/// Opens the dialog of a view and prints the sizes entered.
 void runDialog(QWidget * view);
-/// The same without a person: types into the dialog and prints what it makes of it.
+/// The same unattended: types into the dialog and prints the results.
 void runDemo(QWidget * view);

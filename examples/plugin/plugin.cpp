@@ -1,4 +1,4 @@
-// What the host's plug-in manager calls.
+// The function that the host's plug-in manager calls.
 
 #include "demo.h"
 
@@ -11,7 +11,7 @@
 #define EXAMPLE_EXPORT __attribute__((visibility("default")))
 #endif
 
-/// `data` is the view, as the host passes it.
+/// `data` is the view, as passed by the host.
 extern "C" EXAMPLE_EXPORT void examplePluginCommand(void * data, int command, char const * key)
 {
     std::printf("plug-in: command %d, \"%s\"\n", command, key);

@@ -6,38 +6,38 @@
 namespace KVCAM::API {
 
 ///@{
-/// The state of a view is this from now on.
+/// Sets the current state of a view.
 KVCAM_API_EXPORT void set_show_para(show_param const & value);
 KVCAM_API_EXPORT void set_selection(Selection const & value);
 KVCAM_API_EXPORT void set_select_param(select_info value);
 ///@}
 
-/// Fills the steps and layers of a job, in matrix order, replacing what the vectors held. The result is an
-/// error text, empty on success.
+/// Replaces the contents of the vectors with the steps and layers of a job, in matrix order. Returns an error
+/// text, empty on success.
 KVCAM_API_EXPORT std::string get_matrix(std::string const & job, std::vector<std::string> & steps,
                                         std::vector<layer_info> & layers);
 
-/// Opens a job: `path` is the folder that holds the job's folder, `job` the name of the latter.
+/// Opens a job. `path` is the folder that contains the job's folder, `job` the name of the job's folder.
 KVCAM_API_EXPORT bool open_job(std::string const & path, std::string const & job);
 /// Whether a job is open.
 KVCAM_API_EXPORT bool is_job_opened(std::string job);
 
-/// True if `name` is a standard symbol or a symbol of an open job; then type and the first two sizes are set.
+/// True if `name` is a standard symbol or a symbol of an open job. Then sets type and the first two sizes.
 KVCAM_API_EXPORT bool identify_symbol(std::string const & name, symboltype & type, int & first, int & second,
                                       bool flag);
-/// The names of a job's own symbols, replacing what the vector held.
+/// Replaces the contents of the vector with the names of a job's own symbols.
 KVCAM_API_EXPORT void get_special_symbol_names(std::string const & job, std::vector<std::string> & names);
 
-/// Prepares the undo history of a step; false means: call again.
+/// Prepares the undo history of a step. False means: call again.
 KVCAM_API_EXPORT bool CorrectUndo(std::string const & job, std::string const & step);
-/// The number of operations on a step that can be undone.
+/// The number of undoable operations on a step.
 KVCAM_API_EXPORT int op_size(std::string const & job, std::string const & step);
-/// Takes the latest operation on a step back; false when there is none.
+/// Reverts the latest operation on a step; false when there is none.
 KVCAM_API_EXPORT bool Undo(std::string const & job, std::string const & step);
 
-/// The number of threads for the calculation of nets.
+/// Sets the number of threads for net calculation.
 KVCAM_API_EXPORT void set_net_cal_thread(int count);
-/// How the backups of layers are named.
+/// Sets how layer backups are named.
 KVCAM_API_EXPORT void set_backup_layername_info(back_layer_name_info const & info);
 
 } // namespace KVCAM::API

@@ -1,9 +1,9 @@
 #pragma once
 
-/// Marks what the host's engine library provides.
+/// Export macro of the host's engine library.
 ///
-/// KVCAM_API_BUILD is defined while that library itself is compiled, KVCAM_API_STATIC where an engine is
-/// linked in as objects (as the tests do with theirs). Everybody else imports.
+/// Define KVCAM_API_BUILD while compiling that library, and KVCAM_API_STATIC to link an engine in as objects
+/// (as the tests do with theirs). Otherwise the declarations are imported.
 #if defined(KVCAM_API_STATIC)
 #define KVCAM_API_EXPORT
 #elif defined(_WIN32)

@@ -7,7 +7,7 @@
 /// Where the host is installed.
 namespace Common {
 
-/// The installation root; empty: the process's current directory stands in for it.
+/// The installation root; if empty, the current directory of the process.
 KVCAM_API_EXPORT std::string getPath();
 /// The configuration folder, relative to the root.
 KVCAM_API_EXPORT std::string getPath_config();

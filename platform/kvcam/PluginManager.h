@@ -7,17 +7,17 @@
 /// A command for one of the host's plug-in modules.
 struct PluginMetaData
 {
-    QString module;  ///< the module it is meant for
-    int command = 0; ///< what it shall do
-    QString key;     ///< with what; its meaning is the module's
+    QString module;  ///< the target module
+    int command = 0; ///< what to do
+    QString key;     ///< the argument; its meaning is up to the module
 };
 
-/// The host's plug-in manager: one object for the process, owned by the host.
+/// The host's plug-in manager: one object per process, owned by the host.
 class KVCAM_API_EXPORT QTpluginsManger4CAM
 {
 public:
-    /// The one object.
+    /// The single object.
     static QTpluginsManger4CAM * instance();
-    /// Hands a command to its module; `data` stays the caller's.
+    /// Passes a command to its module; the caller keeps ownership of `data`.
     void recMegToPlugin(void * data, PluginMetaData meta);
 };

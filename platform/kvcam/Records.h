@@ -13,8 +13,8 @@ namespace KVCAM::API {
 /// A position in micrometres.
 struct point
 {
-    double x = 0; ///< the abscissa
-    double y = 0; ///< the ordinate
+    double x = 0; ///< x coordinate
+    double y = 0; ///< y coordinate
 };
 
 /// How a view is shown.
@@ -23,7 +23,7 @@ struct show_param
     /// 0 inch (small unit mil), 1 millimetre (small unit micrometre).
     int unit = 0;
     ///@{
-    /// The engine's; the library stores and pushes it.
+    /// Defined by the engine; the library stores and pushes it.
     int width = 0;
     bool negative = false;
     bool textax = true;
@@ -31,11 +31,11 @@ struct show_param
     ///@}
 };
 
-/// What a selection in a view takes in.
+/// What a selection in a view includes.
 struct Selection
 {
     ///@{
-    /// The engine's; the library stores and pushes it.
+    /// Defined by the engine; the library stores and pushes it.
     bool select = false;
     bool clear = false;
     bool display = false;
@@ -48,7 +48,7 @@ struct Selection
 /// What is selected.
 struct select_info
 {
-    int selected_para = 0; ///< the selected parameter; its meaning is the engine's
+    int selected_para = 0; ///< the selected parameter; its meaning is up to the engine
 };
 
 /// One layer of a job's matrix.
@@ -61,10 +61,10 @@ struct layer_info
     int row = 0;          ///< counts from 1 at the top of the board
 };
 
-/// How the engine names the backup of a layer.
+/// How the engine names layer backups.
 struct back_layer_name_info
 {
-    bool use_suffix = false;    ///< whether the suffix is used
+    bool use_suffix = false;    ///< whether to use the suffix
     std::string suffix = "+++"; ///< of the backup's name
 };
 
@@ -73,41 +73,41 @@ struct check_info
 {
     int type = 0;            ///< its kind
     int value = 0;           ///< mil
-    std::vector<int> points; ///< micrometres; how many there are depends on the kind
+    std::vector<int> points; ///< micrometres; the count depends on the kind
 };
 
-/// One feature of a layer as an edit buffer holds it.
+/// One feature of a layer, as in an edit buffer.
 struct feature_info
 {
-    int index = 0;             ///< in the order of the layer
+    int index = 0;             ///< in layer order
     char kind = 'P';           ///< 'P' pad, 'L' line, 'A' arc, 'S' surface
     std::string symbol;        ///< empty for a surface
     bool positive = true;      ///< the polarity
-    std::vector<point> points; ///< the feature's own, in the order of its record
+    std::vector<point> points; ///< in the order of the feature's record
 };
 
 ///@{
-/// The numbers belong to the engine. The underlying type is fixed, so that any number may be cast to it.
+/// The values are defined by the engine. The fixed underlying type allows casting any number to it.
 enum symboltype : int;
 enum drill_check_item : int;
 enum signal_layers_checks_items : int;
 ///@}
 
-/// The engine's answer to a check: for each item up to three lists, at the levels 0, 1 and 2.
+/// The engine's answer to a check: for each item up to three lists, at levels 0, 1 and 2.
 template <class Item, class Info>
 class KVCAM_API_EXPORT check_reply
 {
 public:
-    /// Appends to the list of an item and level; a level other than 0, 1 and 2 is ignored.
+    /// Appends to the list of an item and level; levels other than 0, 1 and 2 are ignored.
     void add(Item item, int level, Info info);
-    /// The list of an item and level; an empty list when there is none. Valid until the next add().
+    /// The list of an item and level; empty if there is none. Valid until the next add().
     std::vector<Info> const & list(Item item, int level) const;
 
 private:
     std::map<Item, std::array<std::vector<Info>, 3>> m_lists;
 };
 
-// The engine's own sources instantiate it instead: a declaration cannot export.
+// The engine's own sources instantiate it instead: an extern declaration cannot export.
 #if !defined(KVCAM_API_BUILD)
 extern template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
 #endif

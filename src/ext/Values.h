@@ -6,7 +6,8 @@
 //   checkNumber()      isNumValueLegal() as verdict and text
 //   checkSymbol()      isSymbolValueLegal() as verdict and text
 //   describeSymbol()   a symbol name in words, in both units
-//   symbolGrammars     the standard families: prefix, fields, what a unit switch does; findSymbolGrammar() looks one up
+//   symbolGrammars     the standard families: prefix, fields, what a unit switch does
+//   findSymbolGrammar() the family of a prefix
 //
 // The flat functions go by the same rules and show the text in a box; a dialog that shows it beside the field
 // calls these. KVLineEdit::setRange() calls checkValue() and checkSymbol() at every edit.

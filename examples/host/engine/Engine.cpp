@@ -1,5 +1,5 @@
-// The smallest engine that the library can live on: it prints what it is told and has no jobs. Every function
-// that the headers in platform/ declare needs a definition here or in PluginManager.cpp.
+// The smallest engine that works with the library: it prints what it receives and has no jobs. Every function
+// declared in the headers of platform/ needs a definition here or in PluginManager.cpp.
 
 #include <KVCAM_API.h>
 
@@ -78,7 +78,7 @@ bool Undo(std::string const & /*job*/, std::string const & /*step*/)
     return false;
 }
 
-// The members of the answer to a check; the engine instantiates them for the items that it answers.
+// The members of the answer to a check. The engine instantiates them for the items that it answers.
 template <class Item, class Info>
 void check_reply<Item, Info>::add(Item item, int level, Info info)
 {
@@ -99,7 +99,7 @@ template class check_reply<drill_check_item, check_info>;
 
 } // namespace KVCAM::API
 
-// With the save flag off, the other functions here are never called.
+// The save flag is off, so the other functions here are never called.
 namespace KVCAM::DB {
 
 bool get_SaveFlag()

@@ -1,4 +1,4 @@
-// Plug-in modules are libraries; a command goes to a function in them.
+// Plug-in modules are libraries. A command calls a function in one of them.
 
 #include <kvcam/PluginManager.h>
 
