@@ -5,11 +5,11 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// Whether something succeeded, and if not why.
+/// Whether something succeeded, and if not, why.
 struct Result
 {
     bool ok = true; ///< also when there was nothing to do
-    QString reason; ///< one sentence for people; empty when ok
+    QString reason; ///< one human-readable sentence; empty when ok
 
     explicit operator bool() const { return ok; }
 };

@@ -4,18 +4,18 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// What becomes of a call from another thread than the one the library belongs to.
+/// How a call from a thread other than the library's own is handled.
 enum class ThreadCheck : int
 {
-    Off,     ///< nothing; nobody looks
-    LogOnce, ///< the first one is logged at ERROR: "KVCAM UIAPI is called from a second thread"
-    Abort    ///< it is logged, and the process aborts
+    Off,     ///< no check
+    LogOnce, ///< the first such call is logged at ERROR: "KVCAM UIAPI is called from a second thread"
+    Abort    ///< the call is logged, and the process aborts
 };
 
-/// Makes the flat functions and the methods of the singletons compare threads; Off until this is called. The
-/// library belongs to the thread that calls this last, so call it in main(), before the first dialog. Setting
-/// it again allows for one more log line. The calls themselves run as ever: nothing is locked. Meant for
-/// debug builds of hosts.
+/// Makes the flat functions and the singletons' methods compare threads. Off until called. The library
+/// belongs to the thread of the most recent call, so call it in main(), before the first dialog. Each call
+/// allows one more log line. The checked calls still run, and nothing is locked. Meant for debug builds of
+/// hosts.
 UIAPICOMMON_EXPORT void setThreadCheck(ThreadCheck check);
 
 } // namespace KVCAM::UIAPI::Ext
