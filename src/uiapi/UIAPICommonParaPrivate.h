@@ -17,7 +17,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The components of UIAPICommonPara, by value: copying copies them all.
+/// The components of UIAPICommonPara, held by value: a copy copies them all.
 struct UIAPICommonPara::Private
 {
     ViewRegistry views;
@@ -34,17 +34,18 @@ struct UIAPICommonPara::Private
     CategoryDictionary categories;
     LayerBookkeeping layers;
     PluginCommandRelay pluginCommands;
-    QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
+    QPointer<ConnectEDA> edaLink; // shared by the copies, not owned
 };
 
-/// What each public method runs in. The methods are part of the library's boundary, like the flat functions.
+/// Every public method runs inside this. The methods are part of the library's boundary, like the flat
+/// functions.
 template <class Body>
 auto guardedPara(Body && body, int line = __builtin_LINE())
 {
     return guarded(Log::commonPara, std::forward<Body>(body), line);
 }
 
-/// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
+/// Gives the `Ext` functions, which are not methods of UIAPICommonPara, access to the components.
 struct CommonParaDoor
 {
     static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }
