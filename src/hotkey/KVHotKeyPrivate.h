@@ -13,10 +13,10 @@ struct KVHotKey::Private
     UIAPI::HotkeyNames names;
     UIAPI::HotkeyTables tables;
     UIAPI::KeyBuffer buffer;
-    UIAPI::Ext::Result lastLoad; ///< of the file
+    UIAPI::Ext::Result lastLoad; ///< result of the last load
 };
 
-/// Through which the tools look at the object's state.
+/// Gives the tools read access to the object's state.
 struct UIAPI::HotkeyDoor
 {
     static KVHotKey::Private const & read() { return *KVHotKey::getInstance()->d; }
