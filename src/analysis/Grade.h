@@ -9,56 +9,56 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// How bad a measured value is, ascending.
+/// How bad a measured value is, in ascending order.
 enum class Severity : int
 {
-    None, ///< beyond the green level, or nothing to compare with
+    None, ///< beyond the green level, or nothing to compare against
     Green,
     Yellow,
     Red
 };
-/// How many severities there are.
+/// Number of severities.
 inline constexpr int severityCount = 4;
 
-/// Which side of a level is the bad one.
+/// Which side of a level is bad.
 enum class Sense : int
 {
     SmallerIsWorse, ///< widths, rings, spacings: red <= yellow <= green
     LargerIsWorse   ///< lengths, counts: red >= yellow >= green
 };
 
-/// The unit that levels are written in. The files do not say.
+/// The unit of the levels. The files do not specify it.
 enum class LevelUnit : int
 {
     Mil,
     Micrometre
 };
 
-/// The severity of a value that has the unit of the levels. A value at a level has that level's severity, one
-/// between two levels that of the better one: with the levels 3, 4 and 5, smaller being worse, 3 is red, 3.5
-/// yellow, 5 green and 6 none. None where the value or a level is not finite, and where the levels do not
-/// stand in the order of the sense (levels may be equal): contradicting levels grade nothing.
+/// The severity of a value in the unit of the levels. A value at a level has that level's severity; a value
+/// between two levels has that of the better one. With levels 3, 4 and 5 and smaller being worse, 3 is red,
+/// 3.5 yellow, 5 green and 6 none. None if the value or a level is not finite, or if the levels are not in
+/// the order of the sense (levels may be equal): contradictory levels grade nothing.
 UIAPICOMMON_EXPORT Severity grade(Analysis_Ranges_Record const & record, double value, Sense sense);
 
-/// The sense in which the levels of a record stand: LargerIsWorse when the red level is above the green one,
-/// else SmallerIsWorse.
+/// The sense of a record's levels: LargerIsWorse if the red level is above the green one, else
+/// SmallerIsWorse.
 UIAPICOMMON_EXPORT Sense senseOf(Analysis_Ranges_Record const & record);
 
-/// grade() of a measurement in micrometres by levels in `unit`, in the levels' own sense. The engine measures
-/// in whole micrometres, and levels are compared at that resolution: a track of 4 mil, measured as 102, is at
-/// the level 4 (101.6), not beyond it.
+/// grade() of a measurement in micrometres against levels in `unit`, in the levels' own sense. The engine
+/// measures in whole micrometres, and levels are compared at that resolution: a 4 mil track, measured as 102,
+/// is at level 4 (101.6), not beyond it.
 UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record, double micrometres,
                                           LevelUnit unit = LevelUnit::Mil);
 
-/// How a severity is shown. The colours stay apart in red-green blindness and have a contrast of at least 3
-/// on white; letter and icon say the same without colour.
+/// How a severity is displayed. The colours are distinguishable with red-green blindness and have a contrast
+/// of at least 3 on white; letter and icon convey the same without colour.
 struct SeverityMark
 {
-    Severity severity = Severity::None; ///< which is shown
+    Severity severity = Severity::None; ///< the severity displayed
     unsigned rgb = 0;                   ///< 0xRRGGBB
     char letter = '-';                  ///< 'R', 'Y', 'G', '-'
     char const * icon = "";             ///< one character, UTF-8
-    char const * name = "";             ///< "red", "yellow", "green", "none", as reports write it
+    char const * name = "";             ///< "red", "yellow", "green", "none", as written in reports
 };
 
 /// By severity, ascending.
@@ -69,7 +69,7 @@ inline constexpr std::array<SeverityMark, severityCount> severityPalette = {{
     {Severity::Red, 0x8b0015, 'R', "✖", "red"},
 }};
 
-/// The mark of a severity; that of None for a number that is none.
+/// The mark of a severity; that of None for an invalid number.
 constexpr SeverityMark const & markOf(Severity severity)
 {
     auto const row = static_cast<std::size_t>(severity);
