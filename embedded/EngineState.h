@@ -56,7 +56,7 @@ public:
 
     /// Opens the database; its table of operations then mirrors the history of the open jobs.
     void openDatabase();
-    /// Writes the history of a step to the database anew.
+    /// Rewrites the history of a step in the database.
     void mirrorHistory(std::string const & job, std::string const & step);
 
 private:
@@ -65,10 +65,10 @@ private:
     long long m_sequence = 0;
 };
 
-/// Runs an action of the engine's own interface and keeps the text of what it throws as the last error;
-/// `neutral` is the result then.
+/// Runs an action of the engine's own interface. If it throws, stores the exception's text as the last error
+/// and returns `neutral`.
 template <class Result, class Action>
-Result answered(Result neutral, Action action)
+Result withLastError(Result neutral, Action action)
 {
     EngineState & state = EngineState::get();
     try {
