@@ -177,7 +177,7 @@ void AutoMatrixStore::getAutoMatrixUserTmpFromJson()
     }
     int const shippedEnd = m_templates.empty() ? 0 : m_templates.rbegin()->first + 1;
     int index = firstUserIndex; // one count over all files
-    // Hidden files too: a template may be called ".x".
+    // Hidden ones too: a template may be called ".x".
     QFileInfoList const files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Name);
     for (QFileInfo const & file : files) {
         if (file.suffix() != QLatin1String("json")) {

@@ -16,7 +16,7 @@ struct KVHotKey::Private
     UIAPI::Ext::Result lastLoad; ///< result of the last load
 };
 
-/// Gives the tools read access to the object's state.
+/// Through which the tools look at the object's state.
 struct UIAPI::HotkeyDoor
 {
     static KVHotKey::Private const & read() { return *KVHotKey::getInstance()->d; }

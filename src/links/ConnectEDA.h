@@ -67,9 +67,9 @@ public:
 
     // --- Additions ----------------------------------------------------------------------------------------
 
-    /// sendData() with a result.
+    /// sendData(), and says what became of it.
     Ext::EdaSendResult sendDataChecked(QJsonObject const & data);
-    /// Status of the link.
+    /// How the link fares.
     Ext::EdaLinkState state() const;
 
 public slots:

@@ -38,10 +38,11 @@ struct Message
 /// Shows a message and returns the answer.
 using MessagePresenter = std::function<MessageAnswer(Message const &)>;
 
-/// Sets the presenter of every box of the library and returns the previous one. An empty function restores
-/// the default: a modal QMessageBox or, without a QApplication or on another thread than its own, a WARNING
-/// line "title: text" and the neutral answer (No to a question). A parent may be deleted while its box is
-/// open; that also gives the neutral answer. GUI thread only.
+/// Replaces the one point through which every box of the library goes, and returns the presenter that was
+/// set before. An empty function restores the default: a modal QMessageBox, or, where there is no
+/// QApplication or the caller is not on its thread, a WARNING line "title: text" and the neutral answer (No
+/// to a question). A parent may be deleted while its box is open: that too is the
+/// neutral answer. GUI thread only.
 UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter presenter);
 
 /// Shows a message through the current presenter and returns the answer. If the presenter throws, the answer

@@ -336,9 +336,9 @@ public:
     QString getReceiveStr() const;
     /// The link, unowned and never destroyed; null if there is none.
     ConnectEDA * edaLink() const;
-    /// Status of the link.
+    /// How the link fares.
     Ext::EdaLinkState edaLinkState() const;
-    /// sendEdaData() with a result.
+    /// sendEdaData(), and says what became of it.
     Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
 
     /// Hands a command to the modules that have a route for it, see the flat function of this name.

@@ -45,7 +45,7 @@ auto guardedPara(Body && body, int line = __builtin_LINE())
     return guarded(Log::commonPara, std::forward<Body>(body), line);
 }
 
-/// Gives the `Ext` functions, which are not methods of UIAPICommonPara, access to the components.
+/// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
 struct CommonParaDoor
 {
     static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }

@@ -97,7 +97,7 @@ QString sizeText(QStringView text, int unit)
            QStringLiteral(")");
 }
 
-// A field in words; empty if its text does not fit its role.
+// A field in words; empty when its text cannot be what its role says.
 QString fieldText(FieldRole role, QStringView text, int unit)
 {
     char const * const phrase = roleTexts[static_cast<std::size_t>(role)].phrase;
@@ -131,7 +131,7 @@ QString fieldText(FieldRole role, QStringView text, int unit)
     }
 }
 
-// The family's shape and its fields in words; empty if a field does not fit.
+// The family's shape and its fields in words; empty when a field does not fit.
 QString standardText(Symbols::Family const & family, QStringView fields, int unit)
 {
     Symbols::SymbolParts const parts = Symbols::splitParts(fields);
@@ -146,7 +146,7 @@ QString standardText(Symbols::Family const & family, QStringView fields, int uni
         if (field.isEmpty()) {
             return {};
         }
-        // a single size needs no label
+        // an only size needs no name
         text += QStringLiteral(", ") + (family.fieldCount == 1 ? sizeText(part, unit) : field);
     }
     return text;

@@ -21,7 +21,7 @@ using Units::millimetresPerInch;
 constexpr QLatin1Char separator('x');
 constexpr std::size_t rewrittenFields = 6; // further fields of a thermal are dropped
 
-// Halves round away from zero.
+// Halves go away from zero.
 double thousandths(double value)
 {
     return std::round(value * 1000) / 1000;

@@ -23,7 +23,7 @@ UIAPICOMMON_EXPORT ValueVerdict checkValue(double value, double minimum, double 
 /// A plain number; nothing is converted.
 UIAPICOMMON_EXPORT ValueVerdict checkNumber(double value, double minimum, double maximum);
 /// Every number of a symbol name, counts and angles included, in the small unit against bounds in mil. The
-/// text describes the first illegal number.
+/// text is that of the first illegal one.
 UIAPICOMMON_EXPORT ValueVerdict checkSymbol(QString const & name, double minimum, double maximum, int unit);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -33,7 +33,7 @@ Ext::EdaLinkState Ext::edaLinkState()
 
 Ext::EdaSendResult Ext::sendEdaDataChecked(QJsonObject const & data)
 {
-    EdaSendResult result = EdaSendResult::SocketError; // if anything throws
+    EdaSendResult result = EdaSendResult::SocketError; // should anything be thrown
     onCommonPara([&](auto & para) { result = para.sendEdaDataChecked(data); });
     return result;
 }

@@ -45,7 +45,7 @@ std::vector<Ext::RangeSource> Ext::loadedRangeFiles()
 
 Ext::Result Ext::saveRanges(std::string const & rangeName)
 {
-    // A caught exception must not look like a successful save.
+    // Of what throws, too, nobody may believe that it was saved.
     Result result{false,
                   QObject::tr("The file \"%1\" cannot be written.").arg(QString::fromStdString(rangeName))};
     Flat::onCommonPara(
