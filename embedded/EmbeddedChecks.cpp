@@ -91,7 +91,7 @@ bool runChecks(std::string const & job, std::string const & step, CheckResults &
                CheckProgress const & progress)
 {
     out = {};
-    return answered(false, [&](EngineState & state) {
+    return withLastError(false, [&](EngineState & state) {
         CheckContext context(job, step, progress);
         out = run(context);
         state.lastError.clear(); // set by calls from `progress`

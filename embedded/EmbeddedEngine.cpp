@@ -44,7 +44,7 @@ std::string lastError()
 
 bool setSaveFlag(bool on)
 {
-    return answered(false, [on](EngineState & state) {
+    return withLastError(false, [on](EngineState & state) {
         if (!on) {
             state.database.close();
         } else if (!state.database.isOpen()) {
@@ -86,7 +86,7 @@ std::vector<std::string> openJobs()
 
 bool closeJob(std::string const & job)
 {
-    return answered(false, [&](EngineState & state) {
+    return withLastError(false, [&](EngineState & state) {
         Job const & closing = state.job(job);
         if (state.database.isOpen()) {
             state.database.removeOperations(lowerCase(closing.name()), {});
@@ -99,7 +99,7 @@ bool closeJob(std::string const & job)
 
 bool profileBox(std::string const & job, std::string const & step, Box & box)
 {
-    return answered(false, [&](EngineState & state) {
+    return withLastError(false, [&](EngineState & state) {
         Step const & found = state.job(job).step(lowerCase(step));
         if (found.profile) {
             box = found.profile->box;
@@ -111,7 +111,7 @@ bool profileBox(std::string const & job, std::string const & step, Box & box)
 std::vector<std::vector<API::point>> profileOutlines(std::string const & job, std::string const & step)
 {
     using Outlines = std::vector<std::vector<API::point>>;
-    return answered(Outlines(), [&](EngineState & state) {
+    return withLastError(Outlines(), [&](EngineState & state) {
         Step const & found = state.job(job).step(lowerCase(step));
         return found.profile ? found.profile->outlines : Outlines();
     });
@@ -120,7 +120,7 @@ std::vector<std::vector<API::point>> profileOutlines(std::string const & job, st
 std::vector<API::feature_info> features(std::string const & job, std::string const & step,
                                         std::string const & layer)
 {
-    return answered(std::vector<API::feature_info>(), [&](EngineState & state) {
+    return withLastError(std::vector<API::feature_info>(), [&](EngineState & state) {
         LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
         std::vector<API::feature_info> list;
         list.reserve(graphics.file.features.size());
@@ -139,7 +139,7 @@ std::vector<API::feature_info> features(std::string const & job, std::string con
 
 int featureCount(std::string const & job, std::string const & step, std::string const & layer)
 {
-    return answered(-1, [&](EngineState & state) {
+    return withLastError(-1, [&](EngineState & state) {
         LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
         return static_cast<int>(std::count(graphics.deleted.begin(), graphics.deleted.end(), false));
     });
@@ -148,7 +148,7 @@ int featureCount(std::string const & job, std::string const & step, std::string 
 std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string const & step,
                                             std::string const & layer)
 {
-    return answered(std::vector<FeatureDrawing>(), [&](EngineState & state) {
+    return withLastError(std::vector<FeatureDrawing>(), [&](EngineState & state) {
         LayerGraphics const & graphics = state.job(job).graphics(lowerCase(step), lowerCase(layer));
         std::size_t points = 0;
         std::vector<FeatureDrawing> list;
@@ -168,7 +168,7 @@ std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string
 
 bool isCutToTables(std::string const & job, std::string const & step, std::string const & layer)
 {
-    return answered(false, [&](EngineState & state) {
+    return withLastError(false, [&](EngineState & state) {
         return state.job(job).graphics(lowerCase(step), lowerCase(layer)).cutToTables;
     });
 }
@@ -176,7 +176,7 @@ bool isCutToTables(std::string const & job, std::string const & step, std::strin
 bool deleteFeatures(std::string const & job, std::string const & step, std::string const & layer,
                     std::vector<int> const & indices)
 {
-    return answered(false, [&](EngineState & state) {
+    return withLastError(false, [&](EngineState & state) {
         Job & owner = state.job(job);
         std::string const stepName = lowerCase(step);
         Deletion deletion = owner.checkedDeletion(stepName, lowerCase(layer), indices);
@@ -193,7 +193,7 @@ bool deleteFeatures(std::string const & job, std::string const & step, std::stri
 std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const & step,
                                     std::string const & layer)
 {
-    return answered(std::vector<SymbolUse>(), [&](EngineState & state) {
+    return withLastError(std::vector<SymbolUse>(), [&](EngineState & state) {
         std::vector<SymbolUse> uses;
         addSymbols(state.job(job).graphics(lowerCase(step), lowerCase(layer)), uses);
         return uses;
@@ -202,7 +202,7 @@ std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const &
 
 std::vector<SymbolUse> jobSymbols(std::string const & job)
 {
-    return answered(std::vector<SymbolUse>(), [&](EngineState & state) {
+    return withLastError(std::vector<SymbolUse>(), [&](EngineState & state) {
         Job & owner = state.job(job);
         std::vector<SymbolUse> uses;
         for (Step const & step : owner.steps()) {
@@ -223,7 +223,7 @@ std::vector<SymbolUse> jobSymbols(std::string const & job)
 
 std::vector<Tool> tools(std::string const & job, std::string const & step, std::string const & layer)
 {
-    return answered(std::vector<Tool>(), [&](EngineState & state) {
+    return withLastError(std::vector<Tool>(), [&](EngineState & state) {
         return state.job(job).tools(lowerCase(step), lowerCase(layer));
     });
 }

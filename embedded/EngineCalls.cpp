@@ -12,10 +12,10 @@
 
 namespace KVCAM::API {
 
-using Embedded::answered;
 using Embedded::EngineState;
 using Embedded::Job;
 using Embedded::lowerCase;
+using Embedded::withLastError;
 
 template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
 
@@ -61,7 +61,7 @@ std::string get_matrix(std::string const & job, std::vector<std::string> & steps
 {
     steps.clear();
     layers.clear();
-    bool const known = answered(false, [&](EngineState & state) {
+    bool const known = withLastError(false, [&](EngineState & state) {
         Embedded::Matrix const & matrix = state.job(job).matrix();
         steps = matrix.steps;
         layers = matrix.layers;
@@ -72,7 +72,7 @@ std::string get_matrix(std::string const & job, std::vector<std::string> & steps
 
 bool open_job(std::string const & path, std::string const & job)
 {
-    return answered(false, [&](EngineState & state) {
+    return withLastError(false, [&](EngineState & state) {
         auto opened = std::make_unique<Job>(path, job);
         std::string const name = lowerCase(opened->name());
         if (state.database.isOpen()) {
@@ -136,7 +136,7 @@ int op_size(std::string const & job, std::string const & step)
 
 bool Undo(std::string const & job, std::string const & step)
 {
-    return answered(false, [&](EngineState & state) { return state.job(job).undo(lowerCase(step)); });
+    return withLastError(false, [&](EngineState & state) { return state.job(job).undo(lowerCase(step)); });
 }
 
 } // namespace KVCAM::API

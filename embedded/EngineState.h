@@ -65,10 +65,10 @@ private:
     long long m_sequence = 0;
 };
 
-/// Runs an action of the engine's own interface. If it throws, stores the text as the last error and returns
-/// `neutral`.
+/// Runs an action of the engine's own interface. If it throws, stores the exception's text as the last error
+/// and returns `neutral`.
 template <class Result, class Action>
-Result answered(Result neutral, Action action)
+Result withLastError(Result neutral, Action action)
 {
     EngineState & state = EngineState::get();
     try {

@@ -17,8 +17,8 @@ using KVCAM::API::layer_info;
 using KVCAM::API::signal_check_result;
 using KVCAM::API::signal_layers_checks_items;
 
-/// One category of a range file with its three colour levels. They are kept exactly as read and have no unit
-/// of their own; non-finite levels are possible.
+/// One category of a range file with its three colour levels. The levels are kept exactly as read and have no
+/// unit of their own; they may be non-finite.
 struct Analysis_Ranges_Record
 {
     std::string name;    ///< UTF-8
@@ -27,8 +27,8 @@ struct Analysis_Ranges_Record
     double greenLv = 0;  ///< "GreenLv"
 };
 
-/// A check item under which results of several engine checks are gathered. Only the numbers that the library
-/// fills or reads have names; any other number may be stored and asked for.
+/// A check item that groups the results of several engine checks. Only the numbers that the library fills or
+/// reads are named; any other number may be stored and queried.
 enum unified_check_items : int
 {
     UNIFIED_LINES = 4,              ///< signal item 46
@@ -36,7 +36,7 @@ enum unified_check_items : int
     UNIFIED_PADS = 6,               ///< signal item 45
     UNIFIED_SMD_TO_SMD = 7,         ///< signal item 12
     UNIFIED_HOLE_SUMMARY = 9,       ///< drill items 2 and 1
-    UNIFIED_SLOTS = 10,             ///< handed in whole
+    UNIFIED_SLOTS = 10,             ///< set as a whole
     UNIFIED_ANNULAR_RINGS = 11,     ///< signal items 33, 31 and 36
     UNIFIED_HOLE_TO_HOLE = 12,      ///< signal items 14 and 15
     UNIFIED_HOLE_TO_LINE = 13,      ///< signal items 26 and 29

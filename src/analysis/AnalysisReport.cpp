@@ -50,7 +50,7 @@ std::string nameOf(std::string_view table, int number)
     return name.empty() ? "#" + std::to_string(number) : std::string(name);
 }
 
-// Drill before signal before the rest, as they are checked; other tables cannot be added.
+// In checking order: drill, then signal, then the rest. Other tables cannot be added.
 int rankOf(std::string_view table)
 {
     return table == Categories::drillRanges.name ? 0 : table == Categories::signalLayerRanges.name ? 1 : 2;
@@ -195,7 +195,7 @@ std::optional<Analysis_Ranges_Record> AnalysisReport::levelsOf(ReportCategory co
     return std::nullopt;
 }
 
-// An entry is counted where it is graded.
+// Entries are counted while being graded.
 void AnalysisReport::gradeEntry(ReportCategory & category, ReportEntry & entry) const
 {
     entry.severity = category.levels && entry.micrometres

@@ -14,16 +14,16 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-/// What the "result" of a row holds.
+/// The content of a row's "result".
 enum class Result
 {
-    Placeholder, ///< nothing of its own yet
+    Placeholder, ///< no content of its own yet
     JobName,
     StepName,
     LayerValues,   ///< the value of each layer of an item as text, "-1" for a layer without one
-    SmallestValue, ///< the smallest of these values as a number
+    SmallestValue, ///< the smallest of those values as a number
     SlotCounts,    ///< the number of entries in group 3 of each layer of an item, as text
-    EmptyText      ///< "" where every other row has an array
+    EmptyText      ///< "" instead of the array of all other rows
 };
 
 struct Row
@@ -38,7 +38,7 @@ struct Row
 constexpr char const * mil = "mil";
 constexpr char const * none = "";
 
-// Counts, areas and percentages are labelled "mil" too; readers of the document know them so.
+// Counts, areas and percentages are also labelled "mil"; readers of the document expect it.
 constexpr std::array<Row, 49> rows = {{
     {"jobname", "料号名", none, Result::JobName},
     {"stepname", "step名", none, Result::StepName},
@@ -106,7 +106,7 @@ Json::Value single(Json::Value value)
     return array;
 }
 
-// One entry per layer; null, and then no "result" at all, for an item without layers.
+// One entry per layer. Null for an item without layers, which then has no "result" at all.
 template <class ValueOf>
 Json::Value perLayer(UnifiedResultStore::Layers const * layers, ValueOf valueOf)
 {
@@ -125,7 +125,7 @@ std::string valueText(unified_check_result const & result)
     return value ? std::to_string(*value) : "-1";
 }
 
-// A layer without a value has no part in it. The largest int when no layer has one.
+// Layers without a value are ignored. The largest int if no layer has one.
 int smallestValue(UnifiedResultStore::Layers const * layers)
 {
     int smallest = std::numeric_limits<int>::max();
@@ -168,7 +168,7 @@ Json::Value resultOf(Row const & row, std::string const & job, std::string const
 #pragma warning(push)
 #pragma warning(disable : 4996)
 #endif
-// The layout is this writer's: toStyledString() indents by tabs in later versions of jsoncpp.
+// Formatted here because toStyledString() indents with tabs in later versions of jsoncpp.
 std::string styled(Json::Value const & document)
 {
     return Json::StyledWriter().write(document);

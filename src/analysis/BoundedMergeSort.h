@@ -6,7 +6,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// What boundedMergeSort() does to items[start] up to items[end]. The buffer holds half of them.
+/// boundedMergeSort() on the range items[start] up to items[end]. The buffer holds half of it.
 template <class Item, class Before>
 void mergeSortRange(std::vector<Item> & items, std::vector<Item> & buffer, std::size_t start, std::size_t end,
                     Before const & before)
@@ -29,9 +29,10 @@ void mergeSortRange(std::vector<Item> & items, std::vector<Item> & buffer, std::
     }
 }
 
-/// Sorts by merging, the right element first when before(right, left), else the left one. A strict weak order
-/// is thus kept stably. Whatever else `before` says, no element is lost and none outside the range is
-/// touched, which std::sort does not promise: the orders of the check results hold for equal elements too.
+/// Merge sort: takes the right element first if before(right, left), else the left one. Stable for a strict
+/// weak order. For any other `before`, no element is lost and nothing outside the range is accessed.
+/// std::sort does not guarantee that, and the comparisons of check results also return true for equal
+/// elements.
 template <class Item, class Before>
 void boundedMergeSort(std::vector<Item> & items, Before before)
 {
@@ -39,7 +40,7 @@ void boundedMergeSort(std::vector<Item> & items, Before before)
     mergeSortRange(items, buffer, 0, items.size(), before);
 }
 
-/// Puts the elements into the order of `indices`, which names each once, by moving them.
+/// Moves the elements into the order of `indices`, which lists each index once.
 template <class Item, class Index>
 void permute(std::vector<Item> & items, std::vector<Index> const & indices)
 {

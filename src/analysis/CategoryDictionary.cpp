@@ -9,7 +9,7 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-// Empty without a table, and for a number that it lacks.
+// Empty without a table, and for a number not in it.
 std::string_view nameIn(Categories::Table const * table, int number)
 {
     if (table == nullptr) {
@@ -53,7 +53,7 @@ int CategoryDictionary::getRangesEnum(std::string_view tableName, std::string_vi
     if (table == nullptr) {
         return -1;
     }
-    // A name may stand twice ("SM local spacing"); the smaller number answers, as the table ascends.
+    // A name may appear twice ("SM local spacing"). The table is ascending, so the smaller number is found.
     auto const found = std::find_if(table->begin(), table->end(), [&](Categories::Category const & category) {
         return category.name == categoryName;
     });

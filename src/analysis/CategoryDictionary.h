@@ -10,18 +10,17 @@ namespace Categories {
 struct Table;
 }
 
-/// The result categories by table and number: the built-in tables that were registered. They are looked up,
-/// not copied.
+/// The result categories by table and number, from the registered built-in tables. The tables are not copied.
 class CategoryDictionary
 {
 public:
     /// Runs the fourteen builders, in their order.
     void insertAll();
 
-    /// The smallest number of that name in the table, byte for byte; -1 when the table or the name is
+    /// The smallest number of that name in the table, compared byte for byte; -1 if the table or name is
     /// unknown.
     int getRangesEnum(std::string_view tableName, std::string_view categoryName) const;
-    /// Empty when the table or the number is unknown.
+    /// Empty if the table or number is unknown.
     std::string getRangesName(std::string_view tableName, int number) const;
 
     // Each registers one table.
@@ -45,10 +44,10 @@ private:
     /// Null for a table that was not registered.
     Categories::Table const * find(std::string_view tableName) const;
 
-    std::map<std::string_view, Categories::Table const *> m_tables; // by name, which the table holds
+    std::map<std::string_view, Categories::Table const *> m_tables; // by name; the table owns the string
 };
 
-/// The name of a category in the built-in tables; empty when the table or the number is unknown.
+/// The name of a category in the built-in tables; empty if the table or number is unknown.
 std::string_view builtInCategoryName(std::string_view table, int number);
 
 } // namespace KVCAM::UIAPI

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
-/// The result categories of the analysis actions: the engine's numbers and their names. The names are the
-/// program's vocabulary, odd spellings and blanks included. Every table ascends by number.
+/// The result categories of the analysis actions: the engine's numbers and their names. The names are fixed
+/// vocabulary, odd spellings and blanks included. Every table is in ascending order of number.
 namespace KVCAM::UIAPI::Categories {
 
 struct Category
@@ -14,7 +14,7 @@ struct Category
     std::string_view name;
 };
 
-/// One table under the name that the dictionary and, usually, a range file have for it.
+/// One table under its name in the dictionary, which is usually also the name of a range file.
 struct Table
 {
     template <std::size_t Count>
@@ -495,7 +495,7 @@ inline constexpr std::array<Category, 27> powerGroundOptRangesRows = {{
 }};
 inline constexpr Table powerGroundOptRanges{"PowerGroundOptRanges", powerGroundOptRangesRows};
 
-/// In the order of the dictionary's making.
+/// In the order in which the dictionary registers them.
 inline constexpr std::array<Table, 14> tables = {
     {drillRanges, boardDrillRanges, solderMaskRanges, signalLayerRanges, surfaceAnalyzerRanges,
      silkScreenRanges, prePareRanges, solderMaskOptRanges, signalLayerOptRanges, teardropsRanges, nfpRemoval,

@@ -7,34 +7,34 @@
 #include <limits>
 #include <optional>
 
-/// What the kinds of check results (check_info::type) mean: which of its points say what, in one table.
+/// The kinds of check results (check_info::type): one table with the meaning of their points.
 namespace KVCAM::UIAPI {
 
-/// In place of the number of a point where there is none.
+/// Stands for a missing point.
 inline constexpr std::size_t noPoint = std::numeric_limits<std::size_t>::max();
 
 /// One kind. Points are numbered from 0.
 struct CheckKind
 {
     int kind;
-    std::size_t count = noPoint;        ///< how many points a result has whose value can be read
+    std::size_t count = noPoint;        ///< how many points a result must have for its value to be read
     std::size_t measured = noPoint;     ///< the measured value is the smallest of the points from here ...
     std::size_t lastMeasured = noPoint; ///< ... to here; noPoint: the kind is not measured
-    std::size_t compared = noPoint;     ///< by which results are sorted; noPoint: the kind has no order
-    std::size_t places = 1;             ///< how many places, of two points each, a result begins with
+    std::size_t compared = noPoint;     ///< sort key; noPoint: the kind has no order
+    std::size_t places = 1;             ///< how many places, two points each, a result starts with
 };
 
-/// By kind, which is the row's index.
+/// Indexed by kind.
 inline constexpr std::array<CheckKind, 6> checkKinds = {{
     {0, noPoint, noPoint, noPoint, 2, 1},
     {1, 5, 4, 4, 4, 2},
     {2, 5, 4, 4, 4, 2},
     {3, 8, 6, 6, 6, 1},
     {4},
-    {5, 4, 2, 3, 2, 1}, // sorted by the third point, although the smaller of two is the measured value
+    {5, 4, 2, 3, 2, 1}, // sorted by the third point, although the measured value is the smaller of two
 }};
 
-/// The points by which kinds are compared, each once, ascending.
+/// The points used as sort keys, each once, ascending.
 inline constexpr std::array<std::size_t, 3> comparedPoints = {2, 4, 6};
 
 constexpr bool isKindTableSound()
@@ -55,7 +55,7 @@ constexpr bool isKindTableSound()
 }
 static_assert(isKindTableSound());
 
-/// Of every kind outside the table.
+/// The row for every kind outside the table.
 inline constexpr CheckKind unknownKind = {-1};
 
 /// The row of a kind; unknownKind outside the table.
@@ -66,10 +66,11 @@ constexpr CheckKind const & checkKind(int kind) noexcept
                : unknownKind;
 }
 
-/// The measured quantity of a check result, picked by its kind; nothing when kind and count do not agree.
+/// The measured quantity of a check result, selected by its kind; nothing if the number of points does not
+/// match the kind.
 std::optional<double> measuredValue(check_info const & info);
 
-/// Where a result lies, micrometres: the middle of its places. Nothing when it lacks one of them.
+/// The position of a result in micrometres: the middle of its places. Nothing if one of them is missing.
 std::optional<KVCAM::API::point> positionOf(check_info const & info);
 
 } // namespace KVCAM::UIAPI

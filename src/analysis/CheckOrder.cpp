@@ -14,11 +14,11 @@ namespace {
 
 constexpr std::size_t unordered = comparedPoints.size();
 
-// Of the radix sort. Below so many entries its tables cost more than merging.
+// Parameters of the radix sort. Below this many entries its tables cost more than merging.
 constexpr unsigned digitBits = 11;
 constexpr std::size_t fewest = 1000;
 
-// Which of the compared points counts for a kind.
+// Index of a kind's sort key in comparedPoints.
 std::size_t slotOf(int kind)
 {
     std::size_t const point = checkKind(kind).compared;
@@ -29,13 +29,13 @@ std::size_t slotOf(int kind)
     return slot;
 }
 
-// What the comparison reads of an entry, so that it is looked up once and not once per comparison.
+// The sort data of an entry, read once instead of once per comparison.
 struct Key
 {
     check_info const * entry = nullptr;
     std::array<int, comparedPoints.size()> points{};
     std::uint8_t slot = unordered;
-    std::uint8_t held = 0; // how many of the compared points there are
+    std::uint8_t held = 0; // how many of the compared points the entry has
 };
 
 Key keyOf(check_info const & entry)
@@ -58,7 +58,7 @@ bool isBefore(Key const & a, Key const & b)
     return a.slot < a.held && a.slot < b.held && a.points[a.slot] < b.points[a.slot];
 }
 
-// The usual case: all are compared by the same point, and all have it. Their order is that of plain numbers.
+// The usual case: all entries have the same sort-key point, so plain numbers are compared.
 bool areAlike(std::vector<Key> const & keys)
 {
     return std::all_of(keys.begin(), keys.end(), [&](Key const & key) {
@@ -72,7 +72,7 @@ struct Number
     std::uint32_t index = 0;
 };
 
-// One pass of a radix sort: stable by the bits of the values from `shift` on.
+// One pass of a radix sort: a stable sort by the bits from `shift` on.
 void sortByDigit(std::vector<Number> & numbers, std::vector<Number> & buffer, unsigned shift)
 {
     constexpr std::uint32_t digits = 1U << digitBits;
@@ -88,7 +88,7 @@ void sortByDigit(std::vector<Number> & numbers, std::vector<Number> & buffer, un
     numbers.swap(buffer);
 }
 
-// The same order as the merge sort's, in a time that grows with the number of entries alone.
+// Same order as the merge sort, in time linear in the number of entries.
 void sortAlike(std::vector<Key> & keys)
 {
     std::vector<Number> numbers;
@@ -96,7 +96,7 @@ void sortAlike(std::vector<Key> & keys)
     for (Key const & key : keys) {
         auto const value = static_cast<std::uint32_t>(key.points[key.slot]);
         numbers.push_back(
-            {value ^ 0x80000000U, static_cast<std::uint32_t>(numbers.size())}); // negative first
+            {value ^ 0x80000000U, static_cast<std::uint32_t>(numbers.size())}); // negative numbers first
     }
     std::vector<Number> buffer(numbers.size());
     for (unsigned shift = 0; shift < 32; shift += digitBits) {
@@ -135,8 +135,8 @@ std::vector<check_info> sortedByMeasure(std::vector<std::vector<check_info> cons
     } else {
         boundedMergeSort(keys, isBefore);
     }
-    // Copied in their final order, so that what is read one after the other stands so in memory too. The
-    // sources then lie anywhere; asking for them some steps ahead hides most of the waiting.
+    // Copy in final order, so that entries read in sequence are also in sequence in memory. The sources are
+    // scattered; prefetching some steps ahead hides most of the latency.
     constexpr std::size_t ahead = 8;
     std::vector<check_info> sorted;
     sorted.reserve(keys.size());

@@ -8,7 +8,7 @@ namespace KVCAM::UIAPI::Ext {
 
 Severity grade(Analysis_Ranges_Record const & record, double value, Sense sense)
 {
-    // With the sign turned a larger value is the smaller one.
+    // Negation turns larger-is-worse into smaller-is-worse.
     double const sign = sense == Sense::SmallerIsWorse ? 1.0 : -1.0;
     double const red = sign * record.redLv;
     double const yellow = sign * record.yellowLv;

@@ -9,25 +9,25 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// How bad a measured value is, ascending.
+/// How bad a measured value is, in ascending order.
 enum class Severity : int
 {
-    None, ///< beyond the green level, or nothing to compare with
+    None, ///< beyond the green level, or nothing to compare against
     Green,
     Yellow,
     Red
 };
-/// How many severities there are.
+/// Number of severities.
 inline constexpr int severityCount = 4;
 
-/// Which side of a level is the bad one.
+/// Which side of a level is bad.
 enum class Sense : int
 {
     SmallerIsWorse, ///< widths, rings, spacings: red <= yellow <= green
     LargerIsWorse   ///< lengths, counts: red >= yellow >= green
 };
 
-/// The unit that levels are written in. The files do not say.
+/// The unit of the levels. The files do not specify it.
 enum class LevelUnit : int
 {
     Mil,
@@ -52,15 +52,15 @@ enum class LevelUnit : int
 [[nodiscard]] UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record,
                                                         double micrometres, LevelUnit unit = LevelUnit::Mil);
 
-/// How a severity is shown. The colours stay apart in red-green blindness and have a contrast of at least 3
-/// on white; letter and icon say the same without colour.
+/// How a severity is displayed. The colours are distinguishable with red-green blindness and have a contrast
+/// of at least 3 on white; letter and icon convey the same without colour.
 struct SeverityMark
 {
-    Severity severity = Severity::None; ///< which is shown
+    Severity severity = Severity::None; ///< the severity displayed
     unsigned rgb = 0;                   ///< 0xRRGGBB
     char letter = '-';                  ///< 'R', 'Y', 'G', '-'
     char const * icon = "";             ///< one character, UTF-8
-    char const * name = "";             ///< "red", "yellow", "green", "none", as reports write it
+    char const * name = "";             ///< "red", "yellow", "green", "none", as written in reports
 };
 
 /// By severity, ascending.
@@ -71,7 +71,7 @@ inline constexpr std::array<SeverityMark, severityCount> severityPalette = {{
     {Severity::Red, 0x8b0015, 'R', "✖", "red"},
 }};
 
-/// The mark of a severity; that of None for a number that is none.
+/// The mark of a severity; that of None for an invalid number.
 constexpr SeverityMark const & markOf(Severity severity)
 {
     auto const row = static_cast<std::size_t>(severity);

@@ -11,7 +11,7 @@
 #include <vector>
 
 /// The content of a range file: {"rangesList": [{"name": "Lines", "RedLv": "3", "YellowLv": "4", "GreenLv":
-/// "5"}]}. Levels are texts that hold a number, on purpose: a JSON number reads as 0.
+/// "5"}]}. Levels are deliberately strings that hold a number: a JSON number reads as 0.
 namespace KVCAM::UIAPI::RangeFile {
 
 struct Level
@@ -28,21 +28,21 @@ inline constexpr std::array<Level, 3> levels = {{
 
 using Records = std::vector<Analysis_Ranges_Record>;
 
-/// One record per element, in order; an element that is no object gives an empty one. None for a document
+/// One record per element, in order; an element that is not an object gives an empty one. None for a document
 /// without the list.
 std::optional<Records> readRecords(QJsonDocument const & document);
 
-/// What became of writing levels into a document.
+/// Result of writing levels into a document.
 enum class Change
 {
     Nothing, ///< no level differs
     Changed, ///< the document was changed
-    Stale,   ///< the document does not hold the records that were read from it
+    Stale,   ///< the document no longer holds the records read from it
     NoRecord ///< a level differs for an element that cannot hold one
 };
 
-/// Writes the levels of `records` that differ from `loaded`, which was read from an earlier state of the
-/// document, into the document; the other levels keep what the document holds now.
+/// Writes those levels of `records` into the document that differ from `loaded`, which was read from an
+/// earlier state of the document. All other levels keep the document's current values.
 Change writeLevels(QJsonDocument & document, Records const & loaded, Records const & records);
 
 } // namespace KVCAM::UIAPI::RangeFile

@@ -6,10 +6,10 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// Where a range comes from.
+/// The source of a range.
 struct RangeSource
 {
-    std::string name; ///< of the range, UTF-8: what getRanges() takes
+    std::string name; ///< of the range, UTF-8; the argument of getRanges()
     QString path;     ///< the file, absolute
 };
 

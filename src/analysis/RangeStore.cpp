@@ -38,13 +38,13 @@ void RangeStore::readAll()
     QStringList const folders = QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (QString const & folder : folders) {
         QString const directory = base + QLatin1Char('/') + folder;
-        // The filter ignores case, the removal of ".json" does not: "B.JSON" is known as "B.JSON".
+        // The filter ignores case, the removal of ".json" does not: "B.JSON" keeps the name "B.JSON".
         QStringList const files =
             QDir(directory).entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Readable, QDir::Name);
         for (QString const & file : files) {
             scanMetaData(QString(file).remove(QStringLiteral(".json")), directory + QLatin1Char('/') + file);
         }
-        Log::info(Log::commonPara, "加载所有ranges成功"); // once per folder, for one without files too
+        Log::info(Log::commonPara, "加载所有ranges成功"); // once per folder, even without files
     }
 }
 
@@ -68,7 +68,7 @@ void RangeStore::readFile(QString const & fileName, QString const & filePath)
     case JsonFile::ReadStatus::Ok:
         break;
     }
-    // An empty list is stored too and keeps the name from a later file.
+    // An empty list is stored too and reserves the name against later files.
     if (std::optional<RangeFile::Records> records = RangeFile::readRecords(file.document)) {
         m_ranges.try_emplace(fileName.toStdString(),
                              Range{std::move(*records), {}, QDir().absoluteFilePath(filePath)});
@@ -102,7 +102,7 @@ void RangeStore::changeRangesValue(std::string const & rangeName, std::string co
     if (range == m_ranges.end()) {
         return;
     }
-    // The first record of the name is the only one, even when the level's name is unknown.
+    // Only the first record of the name counts, even if the level's name is unknown.
     RangeFile::Records & records = range->second.records;
     auto const record = std::find_if(records.begin(), records.end(),
                                      [&](auto const & entry) { return entry.name == categoryName; });
@@ -152,7 +152,7 @@ Ext::Result RangeStore::saveRanges(std::string const & rangeName)
 void listErfFiles(std::string const & folder, std::vector<std::string> & names)
 {
     QString const path = QString::fromStdString(folder);
-    // The folder comes from outside: without a component ".." it leads nowhere but below "ERFconfig".
+    // The folder is external input: without a component ".." it cannot leave "ERFconfig".
     if (path.split(QRegularExpression(QStringLiteral("[/\\\\]"))).contains(QStringLiteral(".."))) {
         return;
     }

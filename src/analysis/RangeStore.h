@@ -18,17 +18,17 @@ namespace KVCAM::UIAPI {
 class RangeStore
 {
 public:
-    /// Reads every "*.json" of every sub-directory; the INFO line of success comes once for each of these.
-    /// False after an INFO line when anything is thrown; what was read before stays.
+    /// Reads every "*.json" of every sub-directory; the INFO line of success is logged once per
+    /// sub-directory. False, after an INFO line, if anything throws; files already read are kept.
     bool loadAllRanges();
-    /// Reads one file under a name, which an earlier file may have already: then that one is kept.
+    /// Reads one file under a name. If an earlier file already has the name, the earlier one is kept.
     void scanMetaData(QString const & fileName, QString const & filePath);
 
-    /// Replaces `out`; by nothing for an unknown file.
+    /// Replaces `out`; empty for an unknown file.
     void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const;
-    /// What getRanges() knows, by name, ascending byte by byte.
+    /// The files known to getRanges(), by name, ascending byte by byte.
     std::vector<Ext::RangeSource> loadedFiles() const;
-    /// Sets one level of the first category of this name, in memory alone.
+    /// Sets one level of the first category of this name, in memory only.
     void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                            std::string const & levelName, double value);
     /// Writes the changed levels back into the file that the range came from.
@@ -38,7 +38,7 @@ private:
     struct Range
     {
         RangeFile::Records records;
-        std::optional<RangeFile::Records> loaded; ///< as the file holds them, once a level was changed
+        std::optional<RangeFile::Records> loaded; ///< the file's content, set once a level is changed
         QString path;                             ///< absolute
     };
 
@@ -49,8 +49,7 @@ private:
 };
 
 /// Appends the base names (up to the first ".") of the files, hidden ones included, of "./ERFconfig/" +
-/// folder. Nothing for a folder of which a component is ".."; names such as "x..y" are folders like any
-/// other.
+/// folder. Nothing for a folder with a component ".."; names such as "x..y" are ordinary folders.
 void listErfFiles(std::string const & folder, std::vector<std::string> & names);
 
 } // namespace KVCAM::UIAPI

@@ -1,5 +1,5 @@
-// The written forms of an analysis report. Both are put together as text: a board has a million entries, and
-// a document of that many objects would take gigabytes.
+// The output formats of an analysis report. Both are composed as text: a board has a million entries, and a
+// document with that many objects would take gigabytes.
 
 #include "analysis/AnalysisReport.h"
 #include "support/JsonFile.h"
@@ -19,10 +19,10 @@ constexpr int formatVersion = 1;
 
 QByteArray utf8(std::string const & text)
 {
-    return QString::fromStdString(text).toUtf8(); // bytes that are no UTF-8 become replacement characters
+    return QString::fromStdString(text).toUtf8(); // invalid UTF-8 becomes replacement characters
 }
 
-// The shortest text that reads back equal; empty for what is no finite number.
+// The shortest text that reads back equal; empty if not finite.
 QByteArray numberText(std::optional<double> value)
 {
     return value && std::isfinite(*value) ? QByteArray::number(*value, 'g', QLocale::FloatingPointShortest)
@@ -144,8 +144,7 @@ QByteArray jsonText(AnalysisReport const & report)
 
 // --- CSV ----------------------------------------------------------------------------------------------
 
-// A text that begins like a formula is one to a spreadsheet, and runs there. Those of East Asia take the
-// full-width signs for the plain ones.
+// A spreadsheet executes text that starts like a formula. East Asian versions also accept full-width signs.
 QByteArray csvText(std::string const & text)
 {
     QString const beginnings = QStringLiteral("=+-@＝＋－＠\t\r\n");

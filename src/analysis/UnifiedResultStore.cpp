@@ -13,7 +13,7 @@ namespace {
 
 constexpr int noItem = -1;
 
-// The engine's checks that one unified item gathers, in the order of gathering.
+// The engine checks grouped under one unified item, in order.
 struct Filing
 {
     unified_check_items item;
@@ -38,7 +38,7 @@ constexpr std::array<Filing, 9> signalFilings = {{
     {UNIFIED_LINE_TO_LINE, {4, noItem, noItem}},
 }};
 
-// One group of each check, as `listOf(check, group)` finds it: null where there is none.
+// One group of each check, as found by `listOf(check, group)`; null if there is none.
 template <class ListOf>
 unified_check_result gather(std::array<int, 3> const & checks, ListOf listOf)
 {
@@ -60,7 +60,7 @@ unified_check_result gather(std::array<int, 3> const & checks, ListOf listOf)
 
 void UnifiedResultStore::fileDrill(DrillReplies const & replies)
 {
-    constexpr std::size_t levels = 3; // a reply has no more; the fourth group stays empty
+    constexpr std::size_t levels = 3; // a reply has no more levels; the fourth group stays empty
     for (auto const & [layer, reply] : replies) {
         auto const listOf = [&reply = reply](int check, std::size_t level) {
             return level < levels ? &reply.list(static_cast<drill_check_item>(check), static_cast<int>(level))

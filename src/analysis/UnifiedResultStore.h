@@ -11,11 +11,11 @@ namespace KVCAM::UIAPI {
 
 using LayerEntries = std::pair<std::string, std::vector<check_info>>;
 
-/// Orders by the layers' rows; a layer that the list lacks has the row -1, one that stands in it twice the
-/// first. The comparison is "less than or equal", so equal rows change places.
+/// Sorts by the layers' rows. A layer not in the list has row -1; of duplicates the first counts. The
+/// comparison is "less than or equal", so equal rows swap places.
 void sortByRow(std::vector<LayerEntries> & entries, std::vector<layer_info> const & layers);
 
-/// The filed results by unified item and layer.
+/// The stored results by unified item and layer.
 class UnifiedResultStore
 {
 public:
@@ -28,9 +28,9 @@ public:
     void fileSignal(SignalReplies const & replies);
     void fileRest(Items const & results);
 
-    /// The layers of an item; null for one that was never filed.
+    /// The layers of an item; null for an item never filed.
     Layers const * find(unified_check_items item) const;
-    /// Appends a group of each layer of an item and sorts all of `out` by `layers`. Nothing for a group out
+    /// Appends a group of each layer of an item and sorts all of `out` by `layers`. No effect for a group out
     /// of range.
     void query(unified_check_items item, int group, std::vector<layer_info> const & layers,
                std::vector<LayerEntries> & out) const;

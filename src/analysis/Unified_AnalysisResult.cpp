@@ -19,14 +19,14 @@ struct Unified_AnalysisResult::Private
 
 namespace {
 
-// What each public method runs in.
+// Every public method runs inside this.
 template <class Body>
 auto guardedResult(Body && body, int line = __builtin_LINE())
 {
     return guarded(Log::analysisResult, std::forward<Body>(body), line);
 }
 
-// One list for the process, made at the first call and never destroyed.
+// One list per process, created on the first call and never destroyed.
 std::vector<layer_info> & layerList()
 {
     static auto * const list = new std::vector<layer_info>;

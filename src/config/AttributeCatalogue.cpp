@@ -19,7 +19,7 @@ constexpr char const * hasParamKey = "hasParam";
 constexpr char const * unitKey = "unit";
 constexpr char const * offeredKey = "ProAttribute";
 
-// Entries that are no texts become empty ones.
+// Entries that are not strings become empty.
 std::vector<std::string> textsOf(QJsonValue const & value, JsonPlace const & place,
                                  FileDiagnostics const & diagnostics)
 {
@@ -34,8 +34,8 @@ std::vector<std::string> textsOf(QJsonValue const & value, JsonPlace const & pla
     return out;
 }
 
-// The members are walked rather than looked up: that is faster where there are thousands of elements, and
-// what is unknown turns up by itself.
+// Iterate over the members instead of looking them up: faster with thousands of elements, and unknown keys
+// turn up as well.
 void readAttribute(QJsonObject const & object, JsonPlace const & place, FileDiagnostics const & diagnostics,
                    AttributeMap & out)
 {

@@ -9,7 +9,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// By name: whether the attribute takes a parameter, its unit, the values it offers. Carried as they are.
+/// By name: whether the attribute takes a parameter, its unit, the values it offers. Not interpreted.
 using AttributeMap = std::map<std::string, std::tuple<int, int, std::vector<std::string>>>;
 
 /// The attributes known to the host's dialogs, from "attributes.json" in the configuration directory. The
@@ -21,9 +21,9 @@ public:
     /// Appends the names in ascending order.
     void getParentAttribute(std::vector<std::string> & out) const;
 
-    /// Finds the file and reads it. Lets through what the host's path helpers throw.
+    /// Finds the file and reads it. Exceptions from the host's path helpers propagate.
     void getTotalAttributesFromJson();
-    /// Adds what the file holds; an element replaces an earlier one of its name. Failures are logged.
+    /// Adds the file's content; an element replaces an earlier one of the same name. Failures are logged.
     void readTotalAttributesFromJson(QString const & path);
 
 private:

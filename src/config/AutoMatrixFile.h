@@ -4,16 +4,16 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// Where a template of the user's stands: in the file "autoMatrix/" + name + ".json" below the current
-/// directory, `name` being what saveCurrentAutoMatrixTmp() and deleteAutoMatrix() take.
+/// Where a user template is stored: in the file "autoMatrix/" + name + ".json" below the current directory.
+/// `name` is the argument of saveCurrentAutoMatrixTmp() and deleteAutoMatrix().
 struct AutoMatrixFile
 {
     QString name; ///< without ".json"
-    /// The file holds no other template, so that saving or deleting it loses none. One that was left out
-    /// because its index was taken counts.
+    /// The file holds no other template, so saving or deleting it loses none. A template skipped because its
+    /// index was taken counts as another.
     bool isAlone = true;
-    /// The file holds the template as it is in memory: false after a save that failed, or once another
-    /// template was saved over the file or the file was deleted.
+    /// The file holds the template as it is in memory. False after a failed save, or once the file was
+    /// overwritten with another template or deleted.
     bool isStored = true;
 };
 

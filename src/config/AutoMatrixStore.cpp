@@ -25,7 +25,7 @@ constexpr char const * nameKey = "name";
 constexpr char const * prefixKey = "prefix";
 constexpr char const * suffixKey = "suffix";
 
-/// User templates count from here however many are shipped: indices 0 and 1 are the shipped file's own.
+/// User templates start here regardless of how many are shipped: indices 0 and 1 belong to the shipped file.
 constexpr int firstUserIndex = 2;
 
 QString userFolder()
@@ -57,7 +57,7 @@ void readRoles(QJsonObject const & object, RoleText side, AutoMatrixTmp & out, J
     }
 }
 
-// The prefix or suffix object of a template; undefined, after a report, where there is none.
+// The prefix or suffix object of a template. If missing: reported, and undefined.
 QJsonValue rolesObject(QJsonObject const & element, char const * key, JsonPlace const & place,
                        FileDiagnostics const & diagnostics)
 {
@@ -68,7 +68,7 @@ QJsonValue rolesObject(QJsonObject const & element, char const * key, JsonPlace 
     return diagnostics.checkType(value, QJsonValue::Object, place, key) ? value : QJsonValue::Undefined;
 }
 
-// False for an element that is no template.
+// False for an element that is not a template.
 bool readTemplate(QJsonValue const & element, int position, FileDiagnostics const & diagnostics,
                   AutoMatrixTmp & out)
 {
@@ -214,7 +214,7 @@ int AutoMatrixStore::readAutoMatrixFromJson(QString const & path, int & index)
                 QStringLiteral("\"%1\" stands in the file already; its index is not found by name.")
                     .arg(QString::fromStdString(tmpl.name)));
         }
-        // A template whose index is taken is left out and still uses it up.
+        // A template whose index is taken is skipped but still consumes the index.
         if (auto const [entry, isNew] = m_templates.try_emplace(index, std::move(tmpl)); !isNew) {
             diagnostics.report(Ext::DiagnosticKind::IndexTaken, JsonPlace{arrayKey, i}.key(),
                                QStringLiteral("The template was not added: index %1 belongs to \"%2\".")
@@ -229,7 +229,7 @@ bool AutoMatrixStore::saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp c
 {
     Ext::Result result{false, QStringLiteral("The name would leave the folder of the templates.")};
     if (isTemplateFileName(name)) {
-        QDir().mkpath(userFolder()); // where that fails, so does the file
+        QDir().mkpath(userFolder()); // if this fails, writing the file fails too
         result = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl));
     }
     if (!result) {

@@ -15,9 +15,9 @@ namespace KVCAM::UIAPI {
 
 class FileDiagnostics;
 
-/// The auto-matrix templates by index, and the one that is selected. The shipped ones come from
-/// "automatrix.json" in the configuration directory, which is only read; the user's ones stand one by one in
-/// the folder "autoMatrix" below the current directory.
+/// The auto-matrix templates by index, and the selected one. Shipped templates come from "automatrix.json" in
+/// the configuration directory, which is only read. User templates are stored one per file in the folder
+/// "autoMatrix" below the current directory.
 class AutoMatrixStore
 {
 public:
@@ -26,42 +26,42 @@ public:
     void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl) { m_current = tmpl; }
     /// The smallest index of a template with this name, compared byte for byte; -1 if there is none.
     int getAutomatrixMatrixIndex(QString const & name) const;
-    /// Nothing for a shipped template, an index without a template, and one that has no file yet.
+    /// Nothing for a shipped template, an index without a template, and a template without a file.
     std::optional<Ext::AutoMatrixFile> autoMatrixFile(int index) const;
     /// Stores the template under the index and writes its file.
     void saveCurrentAutoMatrixTmp(int index, QString const & name, AutoMatrixTmp const & tmpl);
-    /// Removes the entry and the file of this name, as far as there are such.
+    /// Removes the entry and the file of this name, if they exist.
     void deleteAutoMatrix(int index, QString const & name);
 
-    // Loading: the shipped set first, then the user's, then the selection.
+    // Loading: first the shipped set, then the user's, then the selection.
 
-    /// Lets through what the host's path helpers throw.
+    /// Exceptions from the host's path helpers propagate.
     void getAutoMatrixTmpMapFromJson();
     void getAutoMatrixUserTmpFromJson();
     /// Selects the template with the smallest index, if there is one.
     void selectFirst();
 
-    /// Adds the templates of one file from `index` on, which counts on. The result is how many of them there
-    /// are, those included whose index is taken. Failures are logged.
+    /// Adds the templates of one file, starting at `index`, which is advanced. Returns their number,
+    /// including those whose index is taken. Failures are logged.
     int readAutoMatrixFromJson(QString const & path, int & index);
-    /// Writes a template to the user's file of this name. A file that cannot be written, and a name that
-    /// would leave the folder, give a finding and the box "File open failed", and false.
+    /// Writes a template to the user's file of this name. If the file cannot be written or the name would
+    /// leave the folder, the result is a finding, the box "File open failed", and false.
     bool saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp const & tmpl);
 
 private:
-    // What the file of this name held is gone.
+    // Records that the content of the file of this name is gone.
     void forgetContent(QString const & name);
 
     std::map<int, AutoMatrixTmp> m_templates;
-    std::map<int, Ext::AutoMatrixFile> m_files; ///< of the user's templates
+    std::map<int, Ext::AutoMatrixFile> m_files; ///< of user templates
     AutoMatrixTmp m_current;
     QString m_templateDirectory;
 };
 
-/// The content of a file with this one template: all its 25 texts, indented.
+/// The content of a file with this single template: all 25 texts, indented.
 QByteArray writeAutoMatrix(AutoMatrixTmp const & tmpl);
 
-/// Whether name + ".json" is a file directly in its folder, on every platform: no "/", "\", ":" or control
+/// Whether name + ".json" is a file directly in its folder on every platform: no "/", "\", ":" or control
 /// character, and not "..".
 bool isTemplateFileName(QString const & name);
 

@@ -6,14 +6,14 @@
 
 namespace KVCAM::UIAPI {
 
-/// How the role of a layer is recognised from its name: for each of twelve roles the prefix and the suffix of
-/// the name. A plain aggregate of UTF-8 texts in this order: name, prefixes, suffixes. Not interpreted here.
+/// How a layer's role is recognised from its name: a name prefix and suffix for each of twelve roles. A plain
+/// aggregate of UTF-8 texts in this order: name, prefixes, suffixes. Not interpreted here.
 struct AutoMatrixTmp
 {
     std::string name; ///< of the template
 
     ///@{
-    /// What the name of a layer of this role begins with.
+    /// Name prefix of a layer of this role.
     std::string prefix_solder_paste_top;
     std::string prefix_silk_screen_top;
     std::string prefix_solder_mask_top;
@@ -29,7 +29,7 @@ struct AutoMatrixTmp
     ///@}
 
     ///@{
-    /// What the name of a layer of this role ends with.
+    /// Name suffix of a layer of this role.
     std::string suffix_solder_paste_top;
     std::string suffix_silk_screen_top;
     std::string suffix_solder_mask_top;

@@ -80,7 +80,7 @@ void BuiltInAttributes::initTotalAttributes()
 void BuiltInAttributes::getChildAttribute(std::string const & name, std::vector<std::string> & out) const
 {
     auto const row = std::find_if(begin(), end(), [&](Row const & each) { return each.name == name; });
-    out.clear(); // not before, since the name may stand in it
+    out.clear(); // not earlier: the name may be an element of it
     if (row != end()) {
         for (char const * const * value = row->offered; *value != nullptr; ++value) {
             out.emplace_back(*value);

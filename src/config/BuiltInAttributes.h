@@ -5,7 +5,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The values that the known system attributes offer. Nothing is known before initTotalAttributes().
+/// The values offered by the known system attributes. Empty before initTotalAttributes().
 class BuiltInAttributes
 {
 public:
@@ -17,11 +17,11 @@ public:
 
     /// Registers the list.
     void initTotalAttributes();
-    /// Assigns the offered values of an attribute; none for one that the list does not hold.
+    /// Assigns the offered values of an attribute; none for one not in the list.
     void getChildAttribute(std::string const & name, std::vector<std::string> & out) const;
 
     ///@{
-    /// The list, in the order of its making.
+    /// The list, in its original order.
     Row const * begin() const { return m_begin; }
     Row const * end() const { return m_end; }
     ///@}

@@ -14,11 +14,11 @@ class CamMateNodes
 public:
     std::vector<std::string> const & getCamMateNodes() const { return m_names; }
 
-    /// Finds the file and reads it. Lets through what the host's path helpers throw.
+    /// Finds the file and reads it. Exceptions from the host's path helpers propagate.
     void getCamMateNodesFromJson();
-    /// Adds the names of the file: a top array of objects each with a text "FlowName", or an object whose
-    /// "FlowName" is an array of texts. Whatever is shaped otherwise is skipped. A missing file is silent,
-    /// one that cannot be opened or parsed gives one ERROR line.
+    /// Adds the names of the file: a top-level array of objects, each with a string "FlowName", or an object
+    /// whose "FlowName" is an array of strings. Anything else is skipped. A missing file is silent; a file
+    /// that cannot be opened or parsed gives one ERROR line.
     void readCamMateNodesFromJson(QString const & path);
 
 private:

@@ -84,7 +84,8 @@ std::string textOf(QJsonValue const & value)
     if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x80; })) {
         return text.toStdString();
     }
-    // Nearly every text is ASCII; this saves the byte array in between, which shows in the time of a start.
+    // Fast path: nearly every text is ASCII. Skipping the intermediate byte array measurably shortens the
+    // start.
     std::string out(static_cast<std::size_t>(text.size()), '\0');
     std::transform(text.cbegin(), text.cend(), out.begin(), [](QChar c) { return c.toLatin1(); });
     return out;

@@ -9,10 +9,10 @@
 
 #include <string>
 
-/// What the loaders of the configuration files have in common: status of the file, log lines, findings.
+/// Shared by the loaders of the configuration files: file status, log lines, findings.
 namespace KVCAM::UIAPI::ConfigFiles {
 
-/// The beginnings of a loader's ERROR lines; null is silent. A parse error has one text for all files.
+/// How a loader's ERROR lines begin; null is silent. Parse errors have the same text for all files.
 struct LoadTexts
 {
     char const * missing;
@@ -24,12 +24,12 @@ extern char const * const parseFailed;
 
 enum class Steps
 {
-    FirstFailure, ///< the first step that fails is reported and ends the loading
+    FirstFailure, ///< the first failing step is reported and ends loading
     All           ///< every step runs: a missing file also fails to open and to parse
 };
 
 /// Reads a file and reports failures: ERROR lines under "UIAPIGlobalVar", each with `shown` at its end, and
-/// one finding. The line shown is the caller's.
+/// one finding. The logged line number is the caller's.
 JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown,
                           Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
                           int line = __builtin_LINE());
@@ -37,8 +37,9 @@ JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString
 /// Reports a file that could not be read as one finding, without a log line.
 void diagnose(QString const & path, JsonFile::ReadResult const & result);
 
-/// Loads a file whose top-level object has one member, the array `key`. Empty when the file cannot be read,
-/// which is reported as by load() with the path shown, and, without a log line, when it is shaped otherwise.
+/// Loads a file whose top-level object has one member, the array `key`. Empty if the file cannot be read,
+/// which is reported as in load() with the path shown. Also empty, without a log line, if the file has a
+/// different structure.
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra = {},
                      int line = __builtin_LINE());

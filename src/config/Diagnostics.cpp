@@ -15,7 +15,7 @@ struct State
     bool keepBackup = false;
 };
 
-// Never destroyed: loaders may run while the process ends.
+// Never destroyed: loaders may run while the process exits.
 State & state()
 {
     static auto * state = new State;
@@ -129,7 +129,7 @@ bool FileDiagnostics::checkInt(QJsonValue const & value, JsonPlace const & place
     if (!checkType(value, QJsonValue::Double, place, key)) {
         return false;
     }
-    if (value.isUndefined() || value.toInt(0) == value.toInt(1)) { // a default shows
+    if (value.isUndefined() || value.toInt(0) == value.toInt(1)) { // the default shows through
         return true;
     }
     QString const where = place.key(QLatin1String(key));

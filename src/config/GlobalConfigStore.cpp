@@ -22,7 +22,7 @@ struct State
     KeysTaken keys = KeysTaken::Read;
 };
 
-// Never destroyed: a setter may be called while the process ends.
+// Never destroyed: a setter may be called while the process exits.
 State & state()
 {
     static auto * state = new State;
@@ -43,7 +43,7 @@ void GlobalConfigStore::getGlobalConfig()
 
 void GlobalConfigStore::load()
 {
-    m_loadFailed = true; // until it is seen to be otherwise
+    m_loadFailed = true; // until proven otherwise
     QString const directory = HostPaths::configurationDirectory();
     m_directory = directory.toStdString();
     QString const path = filePath(directory);
@@ -69,10 +69,10 @@ void GlobalConfigStore::saveGlobalConfig()
 Ext::Result GlobalConfigStore::save()
 {
     QString const directory = QString::fromStdString(m_directory);
-    // Not QDir(directory).exists(): that takes an empty path for the current directory.
+    // Not QDir(directory).exists(): it treats an empty path as the current directory.
     bool const exists = !directory.isEmpty() && QDir().exists(directory);
     if (!exists) {
-        // The value just set is in memory only, until the next save.
+        // The new value is only in memory until the next save.
         Log::warning(Log::globalVar, "configpath不存在！路径：" + m_directory + ", Create!");
         bool const isCreated = !directory.isEmpty() && QDir().mkpath(directory);
         return {false, isCreated ? QStringLiteral("The directory was created and nothing written.")
@@ -91,7 +91,7 @@ void GlobalConfigStore::keepBackup(QString const & path)
     if (!m_loadFailed && old.status == JsonFile::ReadStatus::Ok && !holdsKeysThatASaveDrops(old.document)) {
         return;
     }
-    // Byte by byte as it is, so not in text mode.
+    // Not in text mode: keep every byte.
     JsonFile::Content const content = JsonFile::readBytes(path);
     if (content.status == JsonFile::ReadStatus::OpenFailed ||
         (content.status == JsonFile::ReadStatus::Ok &&

@@ -12,17 +12,17 @@ class GlobalConfigStore
 {
 public:
     ServerSettings const & settings() const { return m_settings; }
-    /// With a "/" at its end; empty while it could not be found out.
+    /// Ends in "/"; empty if it could not be determined.
     std::string const & configurationDirectory() const { return m_directory; }
 
-    /// Finds the directory and loads the file; what fails is logged with the directory. A missing or broken
-    /// file leaves everything empty, 0 or false. Only an exception, as from the host's path helpers, gives
-    /// the fallback defaults, without a word. Throws nothing.
+    /// Finds the directory and loads the file; failures are logged with the directory. A missing or broken
+    /// file leaves everything empty, 0 or false. Only an exception, for example from the host's path helpers,
+    /// gives the fallback defaults, silently. Never throws.
     void getGlobalConfig();
 
-    /// Rewrites the whole file; a file that cannot be written stays as it was, without a log line (a full
-    /// disk loses it only where it is written in place, see JsonFile::replace). A missing directory is only
-    /// warned about and created. Ext::lastSettingsSave() and a finding tell of both.
+    /// Rewrites the whole file. A file that cannot be written stays unchanged, without a log line (a full
+    /// disk destroys it only if it is written in place, see JsonFile::replace). A missing directory only
+    /// gives a warning and is created. Ext::lastSettingsSave() and a finding report both.
     void saveGlobalConfig();
 
     /// Assigns one setting and saves.

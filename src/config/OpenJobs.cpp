@@ -7,8 +7,8 @@ namespace KVCAM::UIAPI {
 
 void OpenJobs::delJob(std::string name)
 {
-    // The entry after a removed one is not looked at: it moves into the freed slot, which is passed over.
-    // Callers that open a job twice rely on it, so this is not std::remove().
+    // The entry after a removed one is skipped: it moves into the freed slot, which the loop passes. Callers
+    // that open a job twice rely on this, so it is not std::remove().
     std::size_t kept = 0;
     for (std::size_t i = 0; i < m_names.size(); ++i) {
         if (m_names[i] == name) {

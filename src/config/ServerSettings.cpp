@@ -144,7 +144,7 @@ void diagnoseServerSettings(QJsonDocument const & document, KeysTaken keys,
 
 QByteArray writeServerSettings(ServerSettings const & settings)
 {
-    QJsonObject object; // sorts its keys
+    QJsonObject object; // sorted by key
     for (SettingField const & field : settingFields) {
         std::visit([&](auto member) { object[QLatin1String(field.writtenKey)] = toJson(settings.*member); },
                    field.member);

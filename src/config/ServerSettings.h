@@ -11,7 +11,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The 17 persisted settings. Units and codes are their consumers' business; they are carried as they are.
+/// The 17 persisted settings. Their consumers define units and codes; the library does not interpret them.
 struct ServerSettings
 {
     std::string serverIp;
@@ -33,7 +33,7 @@ struct ServerSettings
     bool pythonHome = false;
 };
 
-/// One setting: the member, whose type is the JSON type too, and its key in "server.json".
+/// One setting: the member, whose type is also the JSON type, and its key in "server.json".
 struct SettingField
 {
     std::variant<std::string ServerSettings::*, int ServerSettings::*, bool ServerSettings::*,
@@ -66,29 +66,29 @@ inline constexpr std::array<SettingField, 17> settingFields = {{
     {&ServerSettings::pythonHome, "PythonHome", "PythonHome"},
 }};
 
-/// Under which keys settings are looked for.
+/// Under which keys settings are looked up.
 enum class KeysTaken
 {
-    Read,       ///< the read keys alone
-    WrittenToo, ///< the written key where the read one is absent
+    Read,       ///< only the read keys
+    WrittenToo, ///< the written key if the read key is absent
 };
 
-/// Reads all settings. A missing key, a value of another type, a fraction or a number beyond int where an
-/// integer is wanted give an empty text, 0, false or 0.0.
+/// Reads all settings. A missing key, a value of another type, and a fraction or a number beyond int for an
+/// integer give an empty text, 0, false or 0.0.
 ServerSettings readServerSettings(QJsonDocument const & document, KeysTaken keys);
 
-/// Reports what is missing, of another type, unknown or not read back in the file.
+/// Reports keys of the file that are missing, of another type, unknown or not read back.
 void diagnoseServerSettings(QJsonDocument const & document, KeysTaken keys,
                             FileDiagnostics const & diagnostics);
 
-/// The file's content: indented, members in ascending order of their keys.
+/// The file's content: indented, members in ascending key order.
 QByteArray writeServerSettings(ServerSettings const & settings);
 
-/// Whether the document holds keys that a save would not write, and so would lose.
+/// Whether the document holds keys that a save would drop.
 bool holdsKeysThatASaveDrops(QJsonDocument const & document);
 
-/// What the application runs with when loading itself fails. The suffix flag, the suffix and the layer copy
-/// suffix stay as they are.
+/// Sets the values used if loading itself fails. The suffix flag, the suffix and the layer copy suffix do not
+/// change.
 void setFallbackDefaults(ServerSettings & settings);
 
 } // namespace KVCAM::UIAPI

@@ -10,8 +10,8 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-// What each public method runs in, and each step of a load: neither the host's path helpers nor its engine
-// make a call fail.
+// Every public method and every step of a load runs inside this: neither the host's path helpers nor its
+// engine can make a call fail.
 template <class Body>
 auto guardedGlobal(Body && body, int line = __builtin_LINE())
 {
@@ -36,8 +36,8 @@ UIAPIGlobalVar * UIAPIGlobalVar::instance()
             guardedGlobal([&] { parts.templates.selectFirst(); });
             ServerSettings const & settings = parts.config.settings();
             guardedGlobal([&] { KVCAM::API::set_net_cal_thread(settings.threadCount); });
-            // Both fields, so that the record's default suffix never reaches the engine, not even for an
-            // empty one.
+            // Set both fields: the record's default suffix must never reach the engine, not even for an empty
+            // suffix.
             guardedGlobal([&] {
                 KVCAM::API::set_backup_layername_info({settings.useSpecifiedSuffix, settings.suffix});
             });

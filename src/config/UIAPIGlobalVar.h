@@ -17,24 +17,24 @@
 namespace KVCAM::UIAPI {
 
 /// The global settings of the process, the list of open jobs, the auto-matrix templates and the attribute
-/// catalogue: one object, created by the first call that needs it and alive until the process ends. Use it
-/// from the GUI thread only; nothing is locked.
+/// catalogue: one object, created by the first call that needs it and never destroyed. GUI thread only;
+/// nothing is locked.
 ///
 /// At creation it loads, from the host's configuration directory, "server.json", "automatrix.json" and the
 /// user's templates, "attributes.json" and "cammatenodes.json", and then pushes the thread count and the
-/// backup-layer suffix to the engine. What fails is logged at ERROR under the name "UIAPIGlobalVar"; nothing
+/// backup-layer suffix to the engine. Failures are logged at ERROR under the name "UIAPIGlobalVar"; nothing
 /// is reported to the caller. All text is UTF-8.
 ///
-/// No method throws: what is thrown is logged as the two lines of a caught exception, and the method returns
-/// 0, false or nothing. Only instance(), which has nothing else to give, lets std::bad_alloc through.
+/// No method throws: an exception is logged as the two lines of a caught exception, and the method returns 0,
+/// false or nothing. Only instance(), which has no neutral result, lets std::bad_alloc through.
 class UIAPICOMMON_EXPORT UIAPIGlobalVar
 {
 public:
     /// The object, created at the first call. Creating it asks the host for paths; a host that calls back
-    /// meanwhile is given the same object, in which what is not loaded yet is empty. What is set then is
-    /// replaced by what is loaded.
+    /// meanwhile gets the same object, whose parts not yet loaded are empty. Values set then are replaced by
+    /// the loaded ones.
     static UIAPIGlobalVar * instance();
-    /// Null until instance() was called for the first time. Not to be assigned to.
+    /// Null until the first call of instance(). Do not assign to it.
     static UIAPIGlobalVar * m_pUIAPIGlobalVarInstance;
 
     UIAPIGlobalVar(UIAPIGlobalVar const &) = delete;
@@ -43,7 +43,7 @@ public:
     // --- Settings -----------------------------------------------------------------------------------------
 
     ///@{
-    /// Empty, 0 or false where "server.json" says nothing. Codes and units are their consumers' business.
+    /// Empty, 0 or false if missing from "server.json". Their consumers define codes and units.
     std::string getServerIP() const;
     std::string getClientIP() const;
     int getServerPort() const;
@@ -78,14 +78,14 @@ public:
     void setTimeout(int timeout);
     void setSelectionOutsideHint(bool hint);
     ///@}
-    /// As the setters above, and pushes the count to the engine after saving, also when nothing could be
+    /// Like the setters above. Also pushes the count to the engine after saving, even if nothing could be
     /// written.
     void setThreadCount(int count);
 
     // --- In memory only -----------------------------------------------------------------------------------
 
     ///@{
-    /// A polygon in micrometres, handed out as it was handed in; empty at start.
+    /// A polygon in micrometres, returned as set; initially empty.
     std::vector<KVCAM::API::point> getRealBox() const;
     void setRealBox(std::vector<KVCAM::API::point> const & box);
     ///@}
@@ -109,17 +109,17 @@ public:
     /// In memory only.
     void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl);
     /// Stores the template under the index, replacing one that is there, and writes it to the file
-    /// "autoMatrix/" + name + ".json" below the current directory, creating the folder. A file that cannot be
-    /// written, for whatever reason, and a name that would leave the folder, give an information box "File
-    /// open failed"; Ext::diagnostics() says why. The selected template does not change.
+    /// "autoMatrix/" + name + ".json" below the current directory, creating the folder. If the file cannot be
+    /// written, for any reason, or the name would leave the folder, an information box "File open failed" is
+    /// shown; Ext::diagnostics() says why. The selected template does not change.
     void saveCurrentAutoMatrixTmp(int index, QString name, AutoMatrixTmp const & tmpl);
-    /// Removes the template of this index and the user's file of this name; silent where there is none. The
+    /// Removes the template of this index and the user's file of this name; silent if there is none. The
     /// selected template does not change.
     void deleteAutoMatrix(int index, QString name);
     /// The smallest index of a template of this name, compared byte for byte as UTF-8; -1 if there is none.
     int getAutomatrixMatrixIndex(QString name) const;
-    /// Which file of the user's a template stands in; nothing for a shipped template, an index without a
-    /// template, and one that was never saved.
+    /// The user's file that holds a template; nothing for a shipped template, an index without a template,
+    /// and a template that was never saved.
     std::optional<Ext::AutoMatrixFile> autoMatrixFile(int index) const;
 
     // --- Attributes and CAM-mate nodes --------------------------------------------------------------------

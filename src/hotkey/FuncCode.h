@@ -2,8 +2,8 @@
 
 namespace KVCAM {
 
-/// What a key press asks for. An enumerator is called as the function is in the hot-key file, odd spellings
-/// included.
+/// The function requested by a key press. Each enumerator has the function's name in the hot-key file, odd
+/// spellings included.
 enum FuncCode : int
 {
     KP_NoFunction = 0,
@@ -17,7 +17,7 @@ enum FuncCode : int
     KP_EditMoveSamelayer = 8,
     KP_EditBuferCopy = 9,
     KP_EditBuferPaste = 10,
-    KP_Unnamed11 = 11, ///< has no name, so that no file can bind it
+    KP_Unnamed11 = 11, ///< has no name, so no file can bind it
     KP_ToolMoveSnap = 12,
     KP_ToolMoveHome = 13,
     KP_ToolMoveUp = 14,

@@ -8,19 +8,19 @@
 #include <cstddef>
 #include <iterator>
 
-/// Every function code, its name in the hot-key file and the keys it has where no file says otherwise.
+/// Every function code, its name in the hot-key file and its default keys.
 namespace KVCAM::UIAPI {
 
-/// In place of a key where there is none.
+/// Stands for a missing key.
 constexpr int noKey = -1;
 
 struct HotkeyFunction
 {
-    char const * name; ///< null: cannot be named
+    char const * name; ///< null: has no name
     FuncCode code;
     Qt::KeyboardModifier modifier;
     int key;    ///< the key, or the first of a sequence
-    int second; ///< the second of a sequence, else noKey
+    int second; ///< the second key of a sequence, else noKey
 };
 
 namespace HotkeyFunctions {
@@ -29,7 +29,7 @@ constexpr auto none = Qt::NoModifier;
 constexpr auto ctrl = Qt::ControlModifier;
 constexpr auto shift = Qt::ShiftModifier;
 
-// The E of KP_SelectSameFeature never fires, since a plain key is only ever part of a sequence.
+// The E of KP_SelectSameFeature never fires: a plain key only works as part of a sequence.
 constexpr HotkeyFunction table[] = {
     {"KP_AllSelect", KP_AllSelect, ctrl, Qt::Key_A, noKey},
     {"KP_ReverseSelect", KP_ReverseSelect, shift, Qt::Key_R, noKey},

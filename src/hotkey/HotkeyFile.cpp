@@ -15,13 +15,13 @@ constexpr char const * keyMember = "key";
 constexpr char const * firstMember = "key1";
 constexpr char const * secondMember = "key2";
 
-/// An element as it is read, member by member; the first fault stays.
+/// An element, read member by member; the first fault is kept.
 class Reader
 {
 public:
     Reader(QJsonValue const & element, HotkeyElement & out) : m_object(element.toObject()), m_out(out) {}
 
-    /// A missing member and one that is no text are the empty text.
+    /// A missing member and a non-string member give the empty text.
     QString text(char const * member) const { return m_object.value(QLatin1String(member)).toString(); }
 
     template <class Value, class Target>
@@ -60,7 +60,7 @@ HotkeyElement readElement(QJsonValue const & element, HotkeyNames const & names)
     reader.look(functionMember, names.functions, HotkeyFindingKind::UnknownFunction, entry.code);
     bool const hasFirst = !reader.text(firstMember).isEmpty();
     bool const hasSecond = !reader.text(secondMember).isEmpty();
-    // Half a pair counts as none: the element is then one of a single key.
+    // Half a pair counts as none: the element is then a single key.
     if (!hasFirst || !hasSecond) {
         if (hasFirst != hasSecond && reader.text(keyMember).isEmpty()) {
             reader.fail(HotkeyFindingKind::UnknownKey, hasFirst ? secondMember : firstMember, {});

@@ -12,31 +12,31 @@
 
 namespace KVCAM::UIAPI {
 
-/// What an element of the hot-key file binds, or why it binds nothing.
+/// The binding of an element of the hot-key file, or why it binds nothing.
 struct HotkeyElement
 {
     HotkeyEntry entry;
-    std::optional<Ext::HotkeyFindingKind> fault; ///< without one the entry is to be added
-    char const * member = "";                    ///< the member that is at fault
-    QString word;                                ///< what it says
+    std::optional<Ext::HotkeyFindingKind> fault; ///< if empty, the entry is to be added
+    char const * member = "";                    ///< the faulty member
+    QString word;                                ///< its text
 };
 
 HotkeyElement readElement(QJsonValue const & element, HotkeyNames const & names);
 
-/// What an element needs to be to bind the entry; null when the file has no words for it.
+/// The element that binds the entry; null if the file format cannot express it.
 QJsonValue writeElement(HotkeyEntry const & entry);
 
-/// A file of hot keys as it was read.
+/// A hot-key file as read.
 struct HotkeyDocument
 {
     Ext::Result result; ///< why nothing was read
     bool isArray = false;
-    QJsonArray elements; ///< none when the top level is no array
+    QJsonArray elements; ///< empty if the top level is not an array
 };
 
 HotkeyDocument readHotkeyFile(QString const & path);
 
-/// The tables of a file. Elements that bind nothing are left out without a word.
+/// The tables of a file. Elements that bind nothing are silently skipped.
 HotkeyTables readTables(QJsonArray const & array, HotkeyNames const & names);
 
 } // namespace KVCAM::UIAPI

@@ -7,7 +7,7 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-/// A key or modifier that has spellings of its own; the first is the one to write.
+/// A key or modifier with special spellings; the first one is written.
 template <class Value>
 struct Spelled
 {

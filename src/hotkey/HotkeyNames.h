@@ -19,7 +19,7 @@ struct HotkeyNames
     void addFunctions();
 };
 
-// The way back, as the file is written. Null where there is no such word.
+// The reverse look-ups, used for writing the file. Null if there is no such word.
 
 QString nameOfKey(int key);
 QString nameOfModifiers(Qt::KeyboardModifiers modifiers);

@@ -13,15 +13,15 @@ namespace KVCAM::UIAPI {
 struct HotkeyEntry
 {
     FuncCode code = KP_NoFunction;
-    Qt::KeyboardModifiers modifiers; ///< of a single key
+    Qt::KeyboardModifiers modifiers; ///< for a single key
     int key = noKey;                 ///< the key, or the first of a sequence
-    int second = noKey;              ///< the second of a sequence, else noKey
+    int second = noKey;              ///< the second key of a sequence, else noKey
 
     bool isSequence() const { return second != noKey; }
 };
 
-/// The two tables of bindings. Entries keep the order in which they were added and may be equal; the first of
-/// equal ones answers.
+/// The two tables of bindings. Entries keep the order in which they were added. Duplicates are allowed; the
+/// first one answers.
 struct HotkeyTables
 {
     std::vector<HotkeyEntry> singles;

@@ -36,7 +36,7 @@ bool canFire(HotkeyEntry const & entry)
                               : entry.modifiers != Qt::NoModifier;
 }
 
-/// Goes through bindings in the order in which they are searched and keeps what is odd about them.
+/// Checks bindings in search order and collects the findings.
 class Judge
 {
 public:

@@ -16,7 +16,7 @@ using namespace UIAPI;
 
 namespace {
 
-// What each public method runs in, and each step of the load.
+// Every public method and every step of the load runs inside this.
 template <class Body>
 auto guardedKeys(Body && body, int line = __builtin_LINE())
 {
@@ -62,7 +62,7 @@ FuncCode KVHotKey::getFunctionCode(QKeyEvent * event)
 
 void KVHotKey::buffAddKey(Qt::Key key)
 {
-    int const code = key; // any number, not only those that have a name
+    int const code = key; // any number, not only named ones
     guardedKeys([&] { d->buffer.add(code); });
 }
 
@@ -76,7 +76,7 @@ bool KVHotKey::buffHasGroup()
     return guardedKeys([&] { return d->buffer.hasGroup(); });
 }
 
-// The sequences stay on purpose: a second call adds a second set of them.
+// Deliberately keeps the sequences: a second call adds a second set.
 void KVHotKey::initHotkeyTable()
 {
     guardedKeys([&] {

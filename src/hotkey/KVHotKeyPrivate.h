@@ -13,7 +13,7 @@ struct KVHotKey::Private
     UIAPI::HotkeyNames names;
     UIAPI::HotkeyTables tables;
     UIAPI::KeyBuffer buffer;
-    UIAPI::Ext::Result lastLoad; ///< of the file
+    UIAPI::Ext::Result lastLoad; ///< result of the last load
 };
 
 /// Through which the tools look at the object's state.

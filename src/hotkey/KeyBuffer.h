@@ -4,7 +4,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The last two plain keys that were pressed.
+/// The last two plain keys pressed.
 struct KeyBuffer
 {
     int previous = noKey;
@@ -24,10 +24,10 @@ struct KeyBuffer
     }
     void clear() { *this = {}; }
     bool hasGroup() const { return isGroup(previous, latest); }
-    /// The key that begins a sequence with the next one; noKey if there is none.
+    /// The key that can start a sequence with the next one; noKey if there is none.
     int pending() const { return latest != noKey ? latest : previous; }
 
-    /// Whether two keys can be a sequence. 12 to 15 are these very numbers, not the codes of the arrow keys:
+    /// Whether two keys can be a sequence. 12 to 15 are literal numbers, not the codes of the arrow keys:
     /// arrow keys never form a sequence.
     static constexpr bool isGroup(int first, int second)
     {

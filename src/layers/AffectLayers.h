@@ -11,8 +11,8 @@ struct AffectLayers
     std::vector<std::string> layers;
     std::string workLayer;
 
-    /// The layers, then the work layer unless it is one of them. Nothing chosen is a work layer of no name,
-    /// so at the start this is one empty name, not none.
+    /// The layers, then the work layer unless it is one of them. With nothing chosen, the work layer has an
+    /// empty name, so initially this is one empty name, not an empty list.
     std::vector<std::string> all() const;
 };
 

@@ -30,7 +30,7 @@ bool JobFiles::delDir(std::string const & path, bool removeSelf)
     if (!namesAnEntry(directory)) {
         return false;
     }
-    // From here on by handle: what was judged is what goes, whatever stands at the path by then.
+    // By handle from here on: remove what was checked, whatever the path refers to by then.
     Directory const holder = Directory::at(directory.parent_path());
     fs::path const name = directory.filename();
     DirectoryEntry const entry = holder.look(name);

@@ -21,7 +21,7 @@ public:
         m_jobs[job][step] = records;
     }
 
-    /// Empty when the job or the step is not in the table.
+    /// Empty if the job or the step is not in the table.
     Records get(std::string const & job, std::string const & step) const
     {
         auto const steps = m_jobs.find(job);
@@ -36,14 +36,14 @@ public:
     void reset(std::string const & job) { m_jobs.erase(job); }
 
 protected:
-    /// Null when the job is not in the table.
+    /// Null if the job is not in the table.
     Steps * findSteps(std::string const & job)
     {
         auto const found = m_jobs.find(job);
         return found == m_jobs.end() ? nullptr : &found->second;
     }
 
-    /// Null when the job or the step is not in the table.
+    /// Null if the job or the step is not in the table.
     Records * findRecords(std::string const & job, std::string const & step)
     {
         Steps * const steps = findSteps(job);

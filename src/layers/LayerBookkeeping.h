@@ -8,7 +8,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// What is kept about layers from one dialog to the next. Nothing of it is written to disk.
+/// Layer state kept from one dialog to the next. Never written to disk.
 struct LayerBookkeeping
 {
     ReferenceTable references;

@@ -36,7 +36,7 @@ constexpr std::array<PolarityWord, 2> polarityWords = {{{"positive", "POS"}, {"n
 
 using NameRange = std::pair<Names::const_iterator, Names::const_iterator>;
 
-/// A word of "side": the board signal layers, of which there is at least one, that are on that side.
+/// A word of "side": the board signal layers on that side. There is at least one board signal layer.
 struct SideWord
 {
     char const * word;
@@ -53,7 +53,7 @@ NameRange bottom(Names const & board)
     return {board.end() - 1, board.end()};
 }
 
-// Of three layers none is an inner one, not even the middle one.
+// With three layers none is an inner one, not even the middle one.
 NameRange inner(Names const & board)
 {
     return board.size() > 3 ? NameRange(board.begin() + 1, board.end() - 1)
@@ -159,7 +159,7 @@ Selector::Selector(Request const & request, Layers const & layers)
     Names const board = boardSignalLayers(layers);
     for (KeyFact const & fact : keyFacts) {
         Words words;
-        // A loop, since a map may hold a key more than once.
+        // A loop: a map may hold a key more than once.
         for (auto entry = request.cbegin(); entry != request.cend(); ++entry) {
             if (entry.key() == QLatin1String(fact.name)) {
                 appendWords(entry.value(), words);

@@ -12,8 +12,8 @@
 #include <unordered_set>
 #include <vector>
 
-/// Which layers of a matrix a request asks for. A request maps keys to words joined by "|"; a layer is
-/// selected when every key with words accepts it.
+/// Selects the layers of a matrix that a request asks for. A request maps keys to words joined by "|"; a
+/// layer is selected if every key with words accepts it.
 namespace KVCAM::UIAPI::LayerFilter {
 
 using Layer = KVCAM::API::layer_info;
@@ -22,7 +22,7 @@ using Request = QMap<QString, QString>;
 using Words = QVector<QString>;
 using Names = std::vector<std::string>;
 
-/// The keys in the order in which they are asked.
+/// The keys in the order in which they are checked.
 enum class Key : int
 {
     Type,
@@ -31,7 +31,7 @@ enum class Key : int
     Pos
 };
 
-/// A key: its name, and the field of a layer that its words decide on.
+/// A key: its name, and the layer field that its words are checked against.
 struct KeyFact
 {
     Key key;
@@ -51,7 +51,7 @@ constexpr KeyFact const & factOf(Key key)
     return keyFacts[static_cast<std::size_t>(key)];
 }
 
-/// Null for a key that is ignored.
+/// Null for an ignored key.
 KeyFact const * findKey(QString const & name);
 
 /// Appends the words of a value. An empty part is a word, and so is an empty value.
@@ -63,11 +63,11 @@ bool isInVocabulary(Key key, QString const & word);
 /// The names of the layers of context "board" and type "signal", in order.
 Names boardSignalLayers(Layers const & layers);
 
-/// What one word list accepts: with no word every layer.
+/// What one word list accepts; without words, every layer.
 class WordSet
 {
 public:
-    /// `board` is read for Key::Side alone: the board signal layers in order.
+    /// `board` is only read for Key::Side: the board signal layers in order.
     WordSet(Key key, Words const & words, Names const & board);
     WordSet() = default;
 
@@ -79,17 +79,17 @@ private:
     std::unordered_set<std::string> m_values;
 };
 
-/// One word list against one layer, without a WordSet: a look at the words and, for Key::Side, at `board`.
+/// One word list against one layer, without a WordSet: scans the words and, for Key::Side, `board`.
 bool accepts(Key key, Layer const & layer, Words const & words, Names const & board = {});
 
-/// A request against the layers of one matrix. The words are looked up once, so that a layer costs the same
-/// however many there are.
+/// A request against the layers of one matrix. The words are looked up once, so the cost per layer does not
+/// depend on their number.
 class Selector
 {
 public:
     Selector(Request const & request, Layers const & layers);
 
-    /// The first key that does not accept the layer; none when it is selected.
+    /// The first key that rejects the layer; none if it is selected.
     std::optional<Key> refusal(Layer const & layer) const;
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 using namespace LayerFilter;
 
-/// The values that the layers of a matrix have in one field.
+/// The values of one field across the layers of a matrix.
 std::unordered_set<std::string> valuesOf(Layers const & layers, KeyFact const & fact)
 {
     std::unordered_set<std::string> values;

@@ -5,10 +5,10 @@
 
 namespace KVCAM::UIAPI {
 
-/// Layers of one step of a job that serve another step as a reference.
+/// Layers of one step of a job, used by another step as a reference.
 struct ReferenceLayerInfo
 {
-    std::string job;                 ///< the job that is referred to
+    std::string job;                 ///< the referenced job
     std::string step;                ///< its step
     std::vector<std::string> layers; ///< names in the order of choice
 };

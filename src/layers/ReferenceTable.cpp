@@ -36,7 +36,7 @@ void removeRecords(Records * records, Condition const & condition)
 template <class Map>
 void renameKey(Map & map, std::string const & oldKey, std::string const & newKey)
 {
-    std::string key = newKey; // first, since it may throw
+    std::string key = newKey; // first: it may throw
     if (auto entry = map.extract(oldKey)) {
         entry.key() = std::move(key);
         map.erase(newKey);

@@ -7,9 +7,9 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// Lets delDir() remove only what lies below one of these directories, in place of those that were set
-/// before; a directory of the list itself stays. What delDir() refuses anyway it still refuses. An empty
-/// list, as at the start, lifts the restriction.
+/// Restricts delDir() to what is below one of these directories, which replace the previous ones. The listed
+/// directories themselves stay. What delDir() always rejects is still rejected. An empty list, the initial
+/// state, lifts the restriction.
 ///
 /// A path is made absolute here, its links resolved as far as it exists. Nothing lies below a directory that
 /// does not exist when delDir() asks, nor below a text that is no path: a list of nothing else forbids every

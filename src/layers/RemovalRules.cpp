@@ -14,7 +14,7 @@ using namespace FilePaths;
 
 namespace {
 
-// Never destroyed: a directory may still be removed while the process ends.
+// Never destroyed: a directory may still be removed while the process exits.
 std::vector<fs::path> & removalRoots()
 {
     static auto * roots = new std::vector<fs::path>;
@@ -33,7 +33,7 @@ void addKept(fs::path const & path, std::vector<FileId> & kept)
     }
     Lineage const target = Directory::at(path).lineage();
     kept.insert(kept.end(), target.begin(), target.end());
-    // A home may be reached by a link, which then must stay as well.
+    // A home may be reached through a link, which must stay as well.
     std::error_code error;
     for (fs::path place = withoutEndSeparator(fs::absolute(path, error)); place.has_relative_path();
          place = place.parent_path()) {
@@ -64,7 +64,7 @@ RemovalRules::Facts RemovalRules::factsOf(std::vector<fs::path> const & kept,
     }
     facts.isRestricted = !roots.empty();
     for (fs::path const & path : roots) {
-        // The path was resolved when it was told: a link that stands there since then is not meant.
+        // The path was resolved when it was set: a link placed there since is not meant.
         Directory const root = path.has_filename() ? Directory::at(path.parent_path()).enter(path.filename())
                                                    : Directory::at(path.root_path());
         if (!path.empty() && root.isOpen()) {

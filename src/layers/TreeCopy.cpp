@@ -12,7 +12,7 @@ namespace {
 
 using Kind = DirectoryEntry::Kind;
 
-/// A file gets its name when it is complete.
+/// A file gets its name once it is complete.
 bool copyEntry(Directory const & from, Directory const & to, Directory::Path const & name, bool overwrite)
 {
     Kind const kind = from.look(name).kind;
@@ -24,15 +24,14 @@ bool copyEntry(Directory const & from, Directory const & to, Directory::Path con
     quint64 const number = QRandomGenerator::global()->generate64();
     Directory::Path const part = ".uiapi-copy-" + std::to_string(number);
     bool const isCopied = kind == Kind::File ? from.copyFile(name, to, part) : from.copyLink(name, to, part);
-    if (isCopied && to.rename(part, name)) { // a link in its place is replaced, not followed
+    if (isCopied && to.rename(part, name)) { // replaces a link in its place, does not follow it
         return true;
     }
     to.removeFile(part);
     return false;
 }
 
-/// One run of copyTree(): a list of what is left to do instead of calls within calls, since a tree may be
-/// deeper than the stack.
+/// One run of copyTree(). Uses a work list instead of recursion: a tree may be deeper than the stack.
 class TreeCopy
 {
 public:
@@ -66,13 +65,13 @@ public:
     }
 
 private:
-    /// Enters a directory on both sides, or on none.
+    /// Enters a directory on both sides, or on neither.
     bool enter(Directory::Path const & name)
     {
-        m_to.here().makeDirectory(name); // it may be there already
+        m_to.here().makeDirectory(name); // may already exist
         Directory from = m_from.here().enter(name);
         Directory to = m_to.here().enter(name);
-        // The source may stand in its target: then a directory of its own name would be copied over it.
+        // The source may be inside its target: then a directory of the same name would be copied over it.
         if (!from.isOpen() || !to.isOpen() || to.id() == m_source) {
             return false;
         }
@@ -81,8 +80,8 @@ private:
         return true;
     }
 
-    /// Copies what is no directory, and lists the directories. The names are read before anything changes:
-    /// what a directory lists while it changes is anybody's guess.
+    /// Copies everything but directories, and collects the directories. The names are read before anything
+    /// changes: what a directory lists while it changes is unspecified.
     void copyFiles()
     {
         Directory::Names names;
@@ -102,11 +101,11 @@ private:
     DirectoryCursor m_to;
     FileId const m_source;
     bool const m_overwrite;
-    std::vector<Directory::Names> m_levels; ///< the directories to be copied yet, on each level down to here
+    std::vector<Directory::Names> m_levels; ///< the directories still to copy, per level down to here
     bool m_isComplete = true;
 };
 
-/// Opens the directory and creates what is missing of it; none when it would lie in `source`.
+/// Opens the directory and creates its missing parts; none if it would be inside `source`.
 Directory openTarget(Directory::Path const & path, FileId const & source)
 {
     Directory::Names missing;

@@ -4,12 +4,12 @@
 
 namespace KVCAM::UIAPI {
 
-/// Copies what is in a directory into the one at `target`, an absolute path without links as far as it
-/// exists, which is created with its parents. True when all of it was copied; otherwise the rest was. False
-/// with nothing created for a target that is the source or inside it.
+/// Copies the contents of a directory into the one at `target`, which is created with its parents. `target`
+/// is an absolute path without links as far as it exists. True if everything was copied; otherwise the rest
+/// was still copied. False, with nothing created, if the target is the source or inside it.
 ///
-/// Below the source nothing is read, and below the target nothing written, by way of a link, even where
-/// somebody puts links in the place of directories meanwhile.
+/// Never reads below the source or writes below the target through a link, even if someone replaces
+/// directories with links meanwhile.
 bool copyTree(Directory const & source, Directory::Path const & target, bool overwrite);
 
 } // namespace KVCAM::UIAPI

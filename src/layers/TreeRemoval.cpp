@@ -8,8 +8,7 @@ namespace {
 
 using Kind = DirectoryEntry::Kind;
 
-/// One run of removeTree(): a list of what is left to do instead of calls within calls, since a tree may be
-/// deeper than the stack.
+/// One run of removeTree(). Uses a work list instead of recursion: a tree may be deeper than the stack.
 class TreeRemoval
 {
 public:
@@ -44,14 +43,14 @@ public:
     }
 
 private:
-    /// A directory on the way to where the run is.
+    /// A directory on the path to the current position.
     struct Level
     {
         Directory::Path name;
-        Directory::Names directories; ///< to be removed yet
+        Directory::Names directories; ///< still to remove
     };
 
-    // The names are read before anything changes: what a directory lists while it changes is anybody's guess.
+    // The names are read before anything changes: what a directory lists while it changes is unspecified.
     void openLevel(Directory::Path const & name)
     {
         Level level{name, {}};

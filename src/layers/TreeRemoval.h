@@ -4,10 +4,10 @@
 
 namespace KVCAM::UIAPI {
 
-/// Removes what is in the directory `name` of `holder`, and with `removeSelf` the directory too. True when
-/// all of that is gone; what cannot be removed stays, with some of what stands beside it. False as well when
-/// another directory than `id` has the name. No link is followed, and nothing is removed outside even where
-/// somebody puts links in the place of directories meanwhile.
+/// Removes the contents of the directory `name` in `holder`, and with `removeSelf` the directory too. True if
+/// all of that is gone; what cannot be removed stays, along with some of its siblings. Also false if the name
+/// belongs to a directory other than `id`. Links are never followed, and nothing outside is removed, even if
+/// someone replaces directories with links meanwhile.
 bool removeTree(Directory const & holder, Directory::Path const & name, FileId const & id, bool removeSelf);
 
 } // namespace KVCAM::UIAPI

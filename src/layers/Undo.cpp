@@ -20,14 +20,14 @@ namespace {
 
 using Twin = void (*)(std::string const & job, std::string const & step);
 
-/// A step as the engine knows it.
+/// A step under the names the engine uses.
 struct Place
 {
     Place(QString const & jobName, QString const & stepName)
         : job(jobName.toLower().toStdString()), step(stepName.toLower().toStdString())
     {}
 
-    /// The database goes first. The flag is asked each time, since the engine may turn it in between.
+    /// The database is called first. The flag is read each time: the engine may change it in between.
     void save(Twin twin) const
     {
         if (KVCAM::DB::get_SaveFlag()) {
@@ -39,7 +39,7 @@ struct Place
     std::string step;
 };
 
-// An engine that never comes to an end shows in the log, and not so often as to fill it.
+// An engine that never finishes shows up in the log, but not often enough to fill it.
 void warnOfRounds(long long rounds)
 {
     constexpr long long first = 1000;
@@ -50,7 +50,7 @@ void warnOfRounds(long long rounds)
     }
 }
 
-// Without a bound on purpose: nothing may be undone in a history that is not correct.
+// Deliberately unbounded: nothing may be undone in an incorrect history.
 void correctHistory(Place const & place)
 {
     for (long long rounds = 1;; ++rounds) {
@@ -66,7 +66,7 @@ void correctHistory(Place const & place)
 
 void UndoCommand::run(QString const & job, QString const & step, QWidget * parent)
 {
-    // Copies, since the caller and its window may be gone when the engine or the user has answered.
+    // Copies: the caller and its window may be gone by the time the engine or the user answers.
     Place const place(job, step);
     QPointer<QWidget> const window(parent);
     correctHistory(place);
@@ -77,7 +77,7 @@ void UndoCommand::run(QString const & job, QString const & step, QWidget * paren
     }
     if (askQuestion(window, QObject::tr("Are you sure to cancel?"))) {
         place.save(KVCAM::DB::Undo_db_save);
-        KVCAM::API::Undo(place.job, place.step); // its result is nobody's business
+        KVCAM::API::Undo(place.job, place.step); // result ignored
     }
 }
 

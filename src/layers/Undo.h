@@ -6,8 +6,8 @@ class QWidget;
 
 namespace KVCAM::UIAPI::UndoCommand {
 
-/// Asks the user and takes the latest operation on a step back; see the flat function undo(). Lets through
-/// what the engine throws.
+/// Asks the user and undoes the latest operation on a step; see the flat function undo(). Engine exceptions
+/// propagate.
 void run(QString const & job, QString const & step, QWidget * parent);
 
 } // namespace KVCAM::UIAPI::UndoCommand

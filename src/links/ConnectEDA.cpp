@@ -17,8 +17,8 @@ namespace {
 constexpr quint16 receivePort = 2333;
 constexpr int firstSendPort = 22333;
 
-/// Destroys a socket. One that is in the middle of telling of a datagram still needs itself afterwards: it is
-/// closed and taken from its parent, and dies in the event loop.
+/// Destroys a socket. A socket that is still emitting a signal is needed afterwards: it is closed, detached
+/// from its parent and deleted by the event loop.
 void discard(QUdpSocket * socket, bool inUse)
 {
     if (socket == nullptr || !inUse) {
@@ -44,14 +44,14 @@ struct ConnectEDA::Private
     quint64 sent = 0;
     quint64 unsent = 0;
     quint64 count = 0;
-    int receiving = 0; // how many calls of receive() are running
+    int receiving = 0; // number of active calls of receive()
 
     bool isBound() const
     {
         return !receiver.isNull() && receiver->state() == QAbstractSocket::BoundState && !QtLife::isOver();
     }
 
-    /// Binds the receiver, anew when it is bound.
+    /// Binds the receiver; rebinds if already bound.
     void bind()
     {
         if (receiver.isNull()) {
@@ -64,7 +64,7 @@ struct ConnectEDA::Private
         }
     }
 
-    /// Takes one datagram from the receiver; false when there is none to be had.
+    /// Takes one datagram from the receiver; false if there is none.
     bool take(QByteArray & bytes)
     {
         if (!isBound() || !receiver->hasPendingDatagrams()) {
@@ -91,7 +91,7 @@ struct ConnectEDA::Private
             lastError = QLatin1String("the sending socket is gone");
             return Ext::EdaSendResult::NoLink;
         }
-        // Cast to a port, such a number would become another one.
+        // A cast to a port would change such a number.
         if (edaPort < 1 || edaPort > 65535) {
             lastError = QString::number(edaPort) + QLatin1String(" is no port");
             return Ext::EdaSendResult::NoPort;
@@ -115,9 +115,9 @@ ConnectEDA::ConnectEDA(QObject * parent) : QObject(parent), d(new Private)
     d->receiver = new QUdpSocket(parent);
     d->bind();
     connect(d->receiver, SIGNAL(readyRead()), this, SLOT(receive()));
-    // Only a link that has the port: one that is deaf stays so.
+    // Only a link that owns the port: one that could not bind stays unbound.
     auto const bindAgain = [alive = QPointer<ConnectEDA>(this)] {
-        alive->receive(); // what came until now
+        alive->receive(); // what has arrived so far
         if (alive && alive->d->isBound()) {
             alive->d->bind();
         }
@@ -143,10 +143,10 @@ void ConnectEDA::sendData(QJsonObject const & data)
 
 Ext::EdaSendResult ConnectEDA::sendDataChecked(QJsonObject const & data)
 {
-    Ext::EdaSendResult result = Ext::EdaSendResult::SocketError; // should anything be thrown
+    Ext::EdaSendResult result = Ext::EdaSendResult::SocketError; // if anything throws
     guarded(Log::commonPara, [&] { result = d->send(QJsonDocument(data).toJson(QJsonDocument::Compact)); });
     if (d->sent + d->unsent == 0) {
-        QtLife::watchEnd(); // what the first sending made is destroyed after that
+        QtLife::watchEnd(); // anything created by the first send is destroyed after that
     }
     ++(result == Ext::EdaSendResult::Sent ? d->sent : d->unsent);
     return result;
@@ -176,7 +176,7 @@ Ext::EdaLinkState ConnectEDA::state() const
     return state;
 }
 
-// A slot may delete the link, so nothing of it is touched after a signal without asking.
+// A slot may delete the link: check it after each signal before using any member.
 void ConnectEDA::receive()
 {
     QPointer<ConnectEDA> const alive(this);
@@ -184,7 +184,7 @@ void ConnectEDA::receive()
     QByteArray bytes;
     guarded(Log::commonPara, [&] {
         while (alive && d->take(bytes)) {
-            // Ends at a NUL, as Qt's conversion of bytes to text does.
+            // Ends at a NUL, like Qt's conversion of bytes to text.
             d->received = QString::fromUtf8(bytes);
             ++d->count;
             tell(bytes);
@@ -199,7 +199,7 @@ void ConnectEDA::tell(QByteArray const & bytes)
 {
     QPointer<ConnectEDA> const alive(this);
     guarded(Log::commonPara, [&] { emit datagramReceived(bytes); });
-    // Nobody's bytes are parsed unless somebody asked for it.
+    // Untrusted bytes are parsed only if something is connected.
     if (!alive || !(isSignalConnected(QMetaMethod::fromSignal(&ConnectEDA::jsonReceived)) ||
                     isSignalConnected(QMetaMethod::fromSignal(&ConnectEDA::invalidReceived)))) {
         return;

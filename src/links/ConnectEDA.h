@@ -37,32 +37,32 @@ struct EdaLinkState
 } // namespace Ext
 
 /// The link to an EDA tool on the same computer: JSON messages as UDP datagrams over the loopback interface,
-/// one whole document in each. The process has one, which UIAPICommonPara creates and nothing deletes.
+/// one complete document per datagram. One per process, created by UIAPICommonPara and never deleted.
 ///
-/// It receives on port 2333, in the event loop of the thread that created it, and sends to a port that can be
-/// set. Nothing is logged and no operation of the fixed interface reports a failure. One process at a time
-/// can have the port; the link of a second one is deaf. Once main() is left or exit() called, as in the
-/// destructor of a static object, nothing is sent or received any more.
+/// It receives on port 2333, in the event loop of the creating thread, and sends to a configurable port.
+/// Nothing is logged, and no operation of the fixed interface reports a failure. Only one process at a time
+/// can own the port; the link of a second one cannot receive. After main() returns or exit() is called, for
+/// example in the destructor of a static object, nothing is sent or received.
 class UIAPICOMMON_EXPORT ConnectEDA : public QObject
 {
     Q_OBJECT
 
 public:
     /// Creates both sockets as children of `parent` (not of the link) and binds the receiving one. A failed
-    /// bind shows in state() alone and is not tried again. A link made before a QCoreApplication, be it the
-    /// second one of the process, sends, receives by receive(), and binds again when that event loop starts,
-    /// which hears it from then on.
+    /// bind is only reported by state() and is not retried. A link created before a QCoreApplication, even
+    /// the second one of the process, sends, receives through receive(), and rebinds when that event loop
+    /// starts, which serves it from then on.
     explicit ConnectEDA(QObject * parent = nullptr);
-    /// Destroys the sockets that are still there. May be called by a slot of the link's own signals.
+    /// Destroys the remaining sockets. May be called from a slot of the link's own signals.
     ~ConnectEDA() override;
 
-    /// Sends an object as compact JSON. One that cannot be sent is dropped without a word.
+    /// Sends an object as compact JSON. If it cannot be sent, it is silently dropped.
     void sendData(QJsonObject const & data);
-    /// The text of the datagram read last, up to its first NUL, with what is not UTF-8 replaced; empty at
-    /// start and after an empty datagram. Reading does not clear it. Whoever can send to the port wrote it:
-    /// parse it with care.
+    /// The text of the last datagram read, up to its first NUL, with invalid UTF-8 replaced; empty initially
+    /// and after an empty datagram. Reading does not clear it. Untrusted input: any sender that can reach the
+    /// port may have written it.
     QString getReceiveStr() const;
-    /// The port that sendData() sends to from now on; 22333 at start. Outside 1 to 65535 nothing is sent.
+    /// Sets the port that sendData() sends to; initially 22333. Outside 1 to 65535 nothing is sent.
     void setEdaPort(int port);
 
     // --- Additions ----------------------------------------------------------------------------------------
@@ -73,18 +73,18 @@ public:
     Ext::EdaLinkState state() const;
 
 public slots:
-    /// Reads every datagram that is waiting; each replaces the text of the one before. Called by the socket.
+    /// Reads all pending datagrams; each replaces the text of the previous one. Called by the socket.
     void receive();
 
 signals:
-    // Once for each datagram, in the order of their arrival, when its text is stored. What a slot throws is
+    // Emitted once per datagram, in order of arrival, after its text is stored. An exception from a slot is
     // logged and changes nothing.
 
-    /// The bytes as they came.
+    /// The bytes as received.
     void datagramReceived(QByteArray bytes);
-    /// After datagramReceived(), when the bytes are one JSON object.
+    /// After datagramReceived(), if the bytes are one JSON object.
     void jsonReceived(QJsonObject object);
-    /// After datagramReceived(), when the bytes are anything else.
+    /// After datagramReceived(), if the bytes are anything else.
     void invalidReceived(QByteArray bytes);
 
 private:

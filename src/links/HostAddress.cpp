@@ -34,7 +34,7 @@ std::string getHostIP()
     return choose(interfaces).toString().toStdString();
 }
 
-// No serial numbers: what leaves the library says what a colleague at the next desk can see.
+// No serial numbers: only what a colleague at the next desk can see leaves the library.
 std::string getLocalInfo()
 {
     QJsonObject const info{{QStringLiteral("address"), QString::fromStdString(getHostIP())},

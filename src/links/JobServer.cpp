@@ -16,7 +16,7 @@ namespace KVCAM::UIAPI {
 namespace {
 
 constexpr std::size_t longestName = 255;
-constexpr int longestWait = 5000; // milliseconds: the user interface stands still meanwhile
+constexpr int longestWait = 5000; // milliseconds: the user interface is blocked meanwhile
 constexpr int longestAnswer = 64 * 1024;
 
 QHostAddress addressOf(std::string const & server)
@@ -41,7 +41,7 @@ bool send(QTcpSocket & socket, QByteArray const & line, QDeadlineTimer const & d
     return true;
 }
 
-/// One line, or what there is when the server closes; empty on failure.
+/// One line, or what has arrived when the server closes; empty on failure.
 QByteArray receiveLine(QTcpSocket & socket, QDeadlineTimer const & deadline)
 {
     while (!socket.canReadLine()) {
@@ -58,7 +58,7 @@ QByteArray receiveLine(QTcpSocket & socket, QDeadlineTimer const & deadline)
 
 QByteArray exchange(QHostAddress const & address, quint16 port, QByteArray const & line, int timeout)
 {
-    QDeadlineTimer const deadline(timeout); // for the whole of it
+    QDeadlineTimer const deadline(timeout); // for the whole exchange
     QTcpSocket socket;
     socket.setProxy(QNetworkProxy::NoProxy);
     socket.setReadBufferSize(longestAnswer + 1);

@@ -49,7 +49,7 @@ void PluginCommandRelay::setPluginCmd(int command, std::string const & key, void
         Log::operationError("setPluginCmd");
         return;
     }
-    // A copy, since a module may change the routes while it is told.
+    // A copy: a module may change the routes while it is called.
     std::vector<std::string> const modules = route->second;
     for (std::string const & module : modules) {
         guarded(Log::commonPara, [&] {

@@ -7,18 +7,19 @@
 
 namespace KVCAM::UIAPI {
 
-/// Which plug-in modules a command goes to, and the way to them through the host's plug-in manager. Modules
-/// are told in the order in which their routes were added.
+/// Routes commands to plug-in modules through the host's plug-in manager. Modules are called in the order in
+/// which their routes were added.
 class PluginCommandRelay
 {
 public:
-    /// False when the route is there already.
+    /// False if the route already exists.
     bool addRoute(int command, std::string const & key, std::string const & module);
-    /// False when there is no such route.
+    /// False if there is no such route.
     bool removeRoute(int command, std::string const & key, std::string const & module);
 
-    /// Hands a command to each of its modules. No route for command and key: an ERROR line. A plug-in manager
-    /// that throws is logged, and the next module still told; a missing one is logged once.
+    /// Passes a command to each of its modules. Without a route for command and key, logs an ERROR line. If
+    /// the plug-in manager throws, that is logged and the next module is still called. A missing manager is
+    /// logged once.
     void setPluginCmd(int command, std::string const & key, void * data) const;
 
 private:

@@ -29,7 +29,7 @@ bool QtLife::isOver() noexcept
     return over;
 }
 
-// What is registered last runs first.
+// Handlers run in reverse order of registration.
 void QtLife::watchEnd()
 {
     std::atexit([] { over = true; });

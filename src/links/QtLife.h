@@ -4,7 +4,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The times at which Qt's sockets can be used, and heard.
+/// Tells when Qt's sockets are usable, and when an event loop serves them.
 class QtLife : public QObject
 {
     Q_OBJECT
@@ -13,15 +13,16 @@ public:
     /// Never destroyed.
     static QtLife & get();
 
-    /// Whether the process is past main(), or exit() was called. Static objects are being destroyed then,
-    /// Qt's before those of a host, and a socket that needs one of them crashes.
+    /// Whether main() has returned or exit() was called. Static objects are then being destroyed, Qt's before
+    /// the host's, and a socket that needs one of them crashes.
     static bool isOver() noexcept;
-    /// From here on isOver() turns true before anything is destroyed that was made until now. Called for each
-    /// QCoreApplication by itself.
+    /// From now on isOver() becomes true before anything created so far is destroyed. Called automatically
+    /// for each QCoreApplication.
     static void watchEnd();
 
 signals:
-    /// In the constructor of each QCoreApplication. Its event loop knows no socket that was bound before.
+    /// Emitted in the constructor of each QCoreApplication. Its event loop does not serve sockets bound
+    /// earlier.
     void applicationStarted();
 
 private:

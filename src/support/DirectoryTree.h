@@ -5,13 +5,12 @@
 #include <memory>
 #include <vector>
 
-/// Directories by handle. A path is looked up again at every call, and whoever may write in a tree can put a
-/// link into it in between; a handle stays with the directory it was opened for. Names are single components,
-/// in whatever bytes the file system holds. Nothing here throws for what the file system answers, and nothing
-/// is logged.
+/// Directories by handle. A path is resolved on every call, and anyone with write access to the tree can
+/// insert a link between two calls; a handle stays with the directory it was opened for. Names are single
+/// components in the file system's own bytes. File system errors do not throw, and nothing is logged.
 namespace KVCAM::UIAPI {
 
-/// What tells a file from all others while it exists.
+/// Identifies a file uniquely while it exists.
 struct FileId
 {
     std::uint64_t volume = 0;
@@ -25,10 +24,10 @@ struct FileId
     friend bool operator!=(FileId const & a, FileId const & b) { return !(a == b); }
 };
 
-/// A directory and what holds it, up to its root; empty when that cannot be found out.
+/// A directory and its ancestors, up to the root; empty if they cannot be determined.
 using Lineage = std::vector<FileId>;
 
-/// What a name in a directory stands for, links not followed.
+/// What a name in a directory refers to. Links are not followed.
 struct DirectoryEntry
 {
     enum class Kind
@@ -36,14 +35,14 @@ struct DirectoryEntry
         Missing,
         Directory,
         File,
-        Link, ///< a junction too
-        Other ///< a pipe, a device, or what cannot be looked at
+        Link, ///< or a junction
+        Other ///< a pipe, a device, or not accessible
     };
     Kind kind = Kind::Missing;
-    FileId id; ///< meaningless for what is missing or cannot be looked at
+    FileId id; ///< meaningless if missing or not accessible
 };
 
-/// An open directory, or none: then every call fails.
+/// An open directory, or none; with none, every call fails.
 class Directory
 {
 public:
@@ -51,60 +50,62 @@ public:
     using Names = std::vector<Path>;
 
     Directory() = default;
-    /// Opens a directory to search it. Links are followed: a caller's path means what it says. An empty path
-    /// is the current directory.
+    /// Opens a directory for searching. Links are followed: the caller's path is taken literally. An empty
+    /// path is the current directory.
     static Directory at(Path const & path);
-    /// Opens a directory in this one; none for a link.
+    /// Opens a subdirectory; none for a link.
     Directory enter(Path const & name) const;
-    /// Opens the directory that holds this one now.
+    /// Opens the current parent of this directory.
     Directory parent() const;
 
     bool isOpen() const { return m_handle != nullptr; }
-    /// That of no file when the directory cannot be asked.
+    /// The id of no file if the directory cannot be queried.
     FileId id() const;
     Lineage lineage() const;
     DirectoryEntry look(Path const & name) const;
-    /// Appends the names of the entries, without "." and "..". On failure some may be there.
+    /// Appends the names of the entries, without "." and "..". On failure some may have been appended.
     bool list(Names & names) const;
 
-    /// Allows its owner what it takes to empty it, where the system asks for that.
+    /// Gives the owner the permissions needed to empty the directory, on systems that require them.
     void makeWritable() const;
-    /// Creates a directory; it must not be there yet.
+    /// Creates a directory, which must not exist.
     bool makeDirectory(Path const & name) const;
-    /// Removes what is no directory; a link or junction as such.
+    /// Removes anything but a directory. A link or junction is removed itself, not its target.
     bool removeFile(Path const & name) const;
     /// Removes an empty directory.
     bool removeDirectory(Path const & name) const;
-    /// Copies a file's content and permissions to a name that is not there yet. On failure part of it may be.
+    /// Copies a file's content and permissions to a name that must not exist. On failure a partial copy may
+    /// be left.
     bool copyFile(Path const & name, Directory const & target, Path const & copy) const;
-    /// Copies a link as it is to a name that is not there yet.
+    /// Copies a link as a link, to a name that must not exist.
     bool copyLink(Path const & name, Directory const & target, Path const & copy) const;
-    /// Renames a file or link of this directory, in place of a file or link that has the name.
+    /// Renames a file or link in this directory, replacing a file or link of the new name.
     bool rename(Path const & from, Path const & to) const;
 
 private:
-    struct Handle; ///< of the system
+    struct Handle; ///< the system's own
     explicit Directory(std::shared_ptr<Handle const> handle) : m_handle(std::move(handle)) {}
 
     std::shared_ptr<Handle const> m_handle;
 };
 
-/// A place in a tree that is walked down and up again. One directory is open at a time, so that a tree may be
-/// deeper than there are handles to be had; the way up is checked by what was seen on the way down.
+/// A position in a tree that is walked down and back up. Only one directory is open at a time, so the tree
+/// may be deeper than the number of available handles. The way up is checked against what was seen on the way
+/// down.
 class DirectoryCursor
 {
 public:
     explicit DirectoryCursor(Directory top);
 
     Directory const & here() const { return m_here; }
-    /// Goes to an open directory, which was found in here().
+    /// Moves to an open directory that was found in here().
     void enter(Directory below);
-    /// False when the directory has been moved to another place; the cursor is then of no use any more.
+    /// Moves to the parent. False if the directory was moved elsewhere; the cursor is then unusable.
     bool leave();
 
 private:
     Directory m_here;
-    std::vector<FileId> m_way; ///< of the directories above
+    std::vector<FileId> m_way; ///< ids of the directories above
 };
 
 } // namespace KVCAM::UIAPI

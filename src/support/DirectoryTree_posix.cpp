@@ -29,7 +29,7 @@ public:
     int get() const { return m_descriptor; }
     bool isOpen() const { return m_descriptor >= 0; }
     int release() { return std::exchange(m_descriptor, -1); }
-    /// False when what was written did not arrive.
+    /// False if the written data was not stored.
     bool close() { return m_descriptor < 0 || ::close(std::exchange(m_descriptor, -1)) == 0; }
 
 private:
@@ -101,7 +101,7 @@ struct Directory::Handle
     {
         return descriptor.isOpen() ? std::make_shared<Handle const>(std::move(descriptor)) : nullptr;
     }
-    /// What a call takes; -1, which every call refuses, for no directory.
+    /// The descriptor to pass to a call; -1, which every call rejects, for no directory.
     static int get(std::shared_ptr<Handle const> const & handle) { return handle ? handle->open.get() : -1; }
 
     Descriptor open;
@@ -136,7 +136,7 @@ Lineage Directory::lineage() const
     for (Directory place = *this; place.isOpen(); place = place.parent()) {
         FileId const id = place.id();
         if (!ids.empty() && ids.back() == id) {
-            return ids; // the root holds itself
+            return ids; // the root is its own parent
         }
         ids.push_back(id);
     }
@@ -154,7 +154,7 @@ DirectoryEntry Directory::look(Path const & name) const
 
 bool Directory::list(Names & names) const
 {
-    // The stream takes a descriptor of its own.
+    // The stream takes ownership of its descriptor, so it gets its own.
     Descriptor own(openat(Handle::get(m_handle), ".", O_RDONLY | directoryFlags));
     std::unique_ptr<DIR, int (*)(DIR *)> const stream(own.isOpen() ? fdopendir(own.get()) : nullptr,
                                                       closedir);
@@ -183,7 +183,7 @@ void Directory::makeWritable() const
         return;
     }
     mode_t const mode = (status.st_mode & 07777) | S_IRWXU;
-    // What fails here is seen where it matters. /proc names a directory that cannot be read by its handle.
+    // Failures show up later, where they matter. /proc reaches an unreadable directory by its handle.
     if (Descriptor const readable(openat(here, ".", O_RDONLY | directoryFlags)); readable.isOpen()) {
         (void)fchmod(readable.get(), mode);
     } else {
@@ -208,7 +208,7 @@ bool Directory::removeDirectory(Path const & name) const
 
 bool Directory::copyFile(Path const & name, Directory const & target, Path const & copy) const
 {
-    // Without blocking: a pipe may have taken the file's place.
+    // Non-blocking: a pipe may have replaced the file.
     constexpr int readFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     Descriptor const from(openat(Handle::get(m_handle), name.c_str(), readFlags));
     Status status{};
@@ -223,7 +223,7 @@ bool Directory::copyFile(Path const & name, Directory const & target, Path const
 
 bool Directory::copyLink(Path const & name, Directory const & target, Path const & copy) const
 {
-    std::array<char, 8192> text{}; // longer than any path may be
+    std::array<char, 8192> text{}; // longer than the longest possible path
     ssize_t const size = readlinkat(Handle::get(m_handle), name.c_str(), text.data(), text.size() - 1);
     return size > 0 && static_cast<std::size_t>(size) < text.size() - 1 &&
            symlinkat(text.data(), Handle::get(target.m_handle), copy.c_str()) == 0;

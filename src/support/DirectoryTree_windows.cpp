@@ -43,7 +43,7 @@ constexpr ULONG shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELET
 constexpr ACCESS_MASK searchAccess = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
 constexpr ACCESS_MASK removeAccess = DELETE | FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES | SYNCHRONIZE;
 
-// Not in every header.
+// Not every SDK header defines these.
 constexpr auto nameNotFound = static_cast<NTSTATUS>(0xc0000034);
 constexpr auto fileRenameInformation = static_cast<FILE_INFORMATION_CLASS>(10);
 constexpr auto fileDispositionInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21);
@@ -51,13 +51,13 @@ constexpr auto fileDispositionInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21
 template <class Call>
 Call * systemCall(char const * name)
 {
-    // By way of a pointer without a type, since any other change of type is warned of.
+    // Via void *: compilers warn about any other conversion.
     auto * const address = reinterpret_cast<void *>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name));
     return reinterpret_cast<Call *>(address);
 }
 
-/// Opens or creates a name relative to a directory, which only the native call can do. A link is opened as
-/// such.
+/// Opens or creates a name relative to a directory; only the native call can do that. A link itself is
+/// opened, not its target.
 File openIn(HANDLE directory, Directory::Path const & name, ACCESS_MASK access, ULONG disposition,
             ULONG options, NTSTATUS * why = nullptr)
 {
@@ -110,7 +110,7 @@ FileId idOf(HANDLE handle)
         std::memcpy(&id.high, wide.FileId.Identifier + sizeof id.low, sizeof id.high);
         return id;
     }
-    // Not every file system has the wide ones.
+    // Not every file system supports 128-bit ids.
     BY_HANDLE_FILE_INFORMATION info{};
     if (GetFileInformationByHandle(handle, &info) != 0) {
         return {info.dwVolumeSerialNumber, info.nFileIndexHigh, info.nFileIndexLow};
@@ -124,7 +124,7 @@ DirectoryEntry::Kind kindOf(HANDLE handle)
     if (!ask(handle, FileAttributeTagInfo, info)) {
         return DirectoryEntry::Kind::Other;
     }
-    // Other reparse points are files and directories that are kept elsewhere, not links.
+    // Other reparse points are files and directories stored elsewhere, not links.
     if ((info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
         IsReparseTagNameSurrogate(info.ReparseTag)) {
         return DirectoryEntry::Kind::Link;
@@ -139,7 +139,7 @@ void setReadOnly(HANDLE handle, bool isReadOnly)
     if (ask(handle, FileBasicInfo, info) &&
         ((info.FileAttributes & FILE_ATTRIBUTE_READONLY) != 0) != isReadOnly) {
         info.FileAttributes ^= FILE_ATTRIBUTE_READONLY;
-        // Without any attribute the system would take the call for none.
+        // With no attribute set, the system would ignore the call.
         info.FileAttributes |= info.FileAttributes == 0 ? FILE_ATTRIBUTE_NORMAL : 0;
         tell(handle, FileBasicInfo, info);
     }
@@ -150,7 +150,8 @@ bool removeByHandle(File const & file)
     if (!file.isOpen()) {
         return false;
     }
-    // The newer way leaves the attributes alone, which a file outside may share, and frees the name at once.
+    // The newer call frees the name at once and leaves the attributes alone; a file outside the tree may
+    // share them.
     FILE_DISPOSITION_INFO_EX const flags{FILE_DISPOSITION_FLAG_DELETE |
                                          FILE_DISPOSITION_FLAG_POSIX_SEMANTICS |
                                          FILE_DISPOSITION_FLAG_IGNORE_READONLY_ATTRIBUTE};
@@ -161,7 +162,7 @@ bool removeByHandle(File const & file)
     return tell(file.get(), FileDispositionInfo, FILE_DISPOSITION_INFO{TRUE});
 }
 
-/// The path of an open file as the system spells it ("\\?\C:\jobs"); empty when it has none.
+/// The path of an open file as the system spells it ("\\?\C:\jobs"); empty if it has none.
 std::wstring finalPath(HANDLE handle)
 {
     std::wstring path(0x8000, L'\0');
@@ -307,7 +308,7 @@ bool Directory::list(Names & names) const
     }
 }
 
-// The attribute of a directory does not keep anybody from emptying it, and removeByHandle() passes over it.
+// A directory's read-only attribute does not prevent emptying it, and removeByHandle() ignores it.
 void Directory::makeWritable() const {}
 
 bool Directory::makeDirectory(Path const & name) const
@@ -364,7 +365,7 @@ bool Directory::copyLink(Path const & name, Directory const & target, Path const
                                        &none, nullptr) != 0) {
         return true;
     }
-    removeByHandle(to); // an empty directory is no part that removeFile() would take
+    removeByHandle(to); // removeFile() would not remove an empty directory
     return false;
 }
 
@@ -374,7 +375,7 @@ bool Directory::rename(Path const & from, Path const & to) const
     HANDLE const here = Handle::get(m_handle);
     if (File const old = openIn(here, to, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, FILE_OPEN, 0);
         old.isOpen() && kindOf(old.get()) != DirectoryEntry::Kind::Directory) {
-        setReadOnly(old.get(), false); // it would not be replaced
+        setReadOnly(old.get(), false); // a read-only file would not be replaced
     }
     File const file = openIn(here, from, removeAccess, FILE_OPEN, 0);
     if (!file.isOpen() || set == nullptr) {

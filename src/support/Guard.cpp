@@ -9,7 +9,7 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-// Read by any thread, that is what they are for.
+// Atomic: any thread may read them.
 std::atomic<std::thread::id> owner;
 std::atomic<bool> aborts{false};
 std::atomic<bool> reported{false};
@@ -35,7 +35,7 @@ void Guard::logCurrentException(char const * source, int line) noexcept
 {
     try {
         guard([] { throw; }, [&](std::string const & what) { Log::caughtException(source, what, line); });
-    } catch (...) { // NOLINT(bugprone-empty-catch): nothing is left to report with
+    } catch (...) { // NOLINT(bugprone-empty-catch): no way left to report it
     }
 }
 

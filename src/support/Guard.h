@@ -6,10 +6,10 @@
 #include <type_traits>
 #include <utility>
 
-/// No exception leaves the library: whatever an engine, the allocator or a slot throws ends here.
+/// No exception leaves the library: anything thrown by an engine, the allocator or a slot is caught here.
 namespace KVCAM::UIAPI {
 
-/// Runs `body`; if anything at all is thrown, calls `onFailure` with the exception's text. True on success.
+/// Runs `body`. If anything is thrown, calls `onFailure` with the exception's text. True on success.
 template <class Body, class OnFailure>
 bool guard(Body && body, OnFailure && onFailure)
 {
@@ -24,24 +24,24 @@ bool guard(Body && body, OnFailure && onFailure)
     return false;
 }
 
-/// Parts of guarded() that are no templates.
+/// The non-template parts of guarded().
 namespace Guard {
 
-/// Whether Ext::setThreadCheck() wants threads compared.
+/// Whether Ext::setThreadCheck() enabled the thread comparison.
 extern std::atomic<bool> comparesThreads;
 
-/// Reports the caller, or ends the process, when it is not on the thread that the library belongs to.
+/// Reports the caller or aborts the process if it is not on the library's thread.
 void compareThreads(char const * source, int line);
 
-/// Logs the exception that is being handled as the two lines of a caught exception. Throws nothing: where
-/// there is no memory for the lines either, they are left out.
+/// Logs the exception being handled as the two lines of a caught exception. Never throws: without memory for
+/// the lines, they are dropped.
 void logCurrentException(char const * source, int line) noexcept;
 
 } // namespace Guard
 
-/// Runs `body` and returns its result; if anything is thrown, logs the two lines of a caught exception under
+/// Runs `body` and returns its result. If anything is thrown, logs the two lines of a caught exception under
 /// `source` and returns a value-initialised result (0, false, null, empty). This is the library's boundary:
-/// flat functions and public methods of singletons run in it. One inside another logs once, since nothing
+/// flat functions and public methods of singletons run inside it. Nested calls log once, because nothing
 /// leaves the inner one.
 template <class Body>
 auto guarded(char const * source, Body && body, int line = __builtin_LINE())

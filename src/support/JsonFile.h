@@ -7,18 +7,17 @@
 #include <QJsonDocument>
 #include <QString>
 
-/// Reading JSON files and replacing whole files. Nothing here logs: what a failure is called is the loader's
-/// business.
+/// Reading JSON files and replacing whole files. Nothing here logs; the loader words its own failures.
 namespace KVCAM::UIAPI::JsonFile {
 
-/// The largest file that is read. Real ones have some kilobytes; a larger one is a mistake or a trap.
+/// The largest file that is read. Real files have a few kilobytes; a larger one is a mistake or an attack.
 constexpr qint64 largestFile = 64 * 1024 * 1024;
 
 enum class ReadStatus
 {
     Ok,
     Missing,    ///< no such file
-    OpenFailed, ///< there, but it cannot be opened for reading, is no regular file, or is too large
+    OpenFailed, ///< exists, but cannot be opened for reading, is not a regular file, or is too large
     ParseError  ///< read, but not JSON
 };
 
@@ -26,26 +25,27 @@ struct ReadResult
 {
     ReadStatus status = ReadStatus::Ok;
     QJsonDocument document; ///< empty unless status is Ok
-    QString reason;         ///< one English sentence why it is not Ok; a parse error has its byte offset
+    QString reason;         ///< one English sentence on why it is not Ok; a parse error has its byte offset
 };
 
-/// Reads and parses a file, a regular one or a link to one, up to `largestFile`. It never waits. `extra` is
-/// added to ReadOnly (QIODevice::Text for a text-mode read).
+/// Reads and parses a regular file, or a link to one, of at most `largestFile` bytes. Never blocks. `extra`
+/// is added to ReadOnly (QIODevice::Text for a text-mode read).
 ReadResult read(QString const & path, QIODevice::OpenMode extra = {});
 
 struct Content
 {
     ReadStatus status = ReadStatus::Ok; ///< never ParseError
     QByteArray bytes;                   ///< empty unless status is Ok
-    QString reason;                     ///< one English sentence why it is not Ok
+    QString reason;                     ///< one English sentence on why it is not Ok
 };
 
-/// What read() parses.
+/// The bytes that read() parses.
 Content readBytes(QString const & path, QIODevice::OpenMode extra = {});
 
-/// Replaces a file by `bytes` so that a crash, a full disk or a killed process leaves the old file whole: a
-/// temporary file is written beside it and renamed over it. Where the directory takes no new file the old one
-/// is written in place. What is no regular file is not replaced. `extra` is added to WriteOnly.
+/// Replaces a file with `bytes`. A crash, a full disk or a killed process leaves the old file intact: a
+/// temporary file is written beside it and renamed over it. If the directory does not accept a new file, the
+/// old one is overwritten in place. Anything but a regular file is not replaced. `extra` is added to
+/// WriteOnly.
 [[nodiscard]] Ext::Result replace(QString const & path, QByteArray const & bytes,
                                   QIODevice::OpenMode extra = {});
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// Log lines. They go to glog under the base name of the class that reports, whatever file the code stands
-/// in: whoever reads the log looks for the class. The library never initialises glog; the host does.
+/// Log lines. They go to glog under the base name of the reporting class, whichever file the code is in: log
+/// readers look for the class. The library never initialises glog; the host does.
 namespace KVCAM::UIAPI::Log {
 
 /// The base names used.
@@ -12,7 +12,7 @@ inline constexpr char const * globalVar = "UIAPIGlobalVar";
 inline constexpr char const * hotKey = "KVHotKey";
 inline constexpr char const * analysisResult = "Unified_AnalysisResult";
 
-// The line shown is the caller's.
+// Each logs the caller's line number.
 void error(char const * source, std::string const & text, int line = __builtin_LINE());
 void warning(char const * source, std::string const & text, int line = __builtin_LINE());
 void info(char const * source, std::string const & text, int line = __builtin_LINE());

@@ -19,7 +19,7 @@ MessageAnswer neutralAnswer(MessageKind kind)
     return kind == MessageKind::Question ? MessageAnswer::No : MessageAnswer::Ok;
 }
 
-// A QMessageBox aborts the process where there is no QApplication, and widgets belong to its thread.
+// Without a QApplication a QMessageBox aborts the process, and widgets belong to its thread.
 bool canShowBoxes()
 {
     auto const * application = qobject_cast<QApplication *>(QCoreApplication::instance());
@@ -33,7 +33,8 @@ MessageAnswer showBox(Message const & message)
         return neutralAnswer(message.kind);
     }
     bool const isQuestion = message.kind == MessageKind::Question;
-    // Not on the stack: a parent that dies while the box is open destroys it, and exec() then returns 0.
+    // Not on the stack: a parent that is destroyed while the box is open destroys the box, and exec() returns
+    // 0.
     QPointer<QMessageBox> const box = new QMessageBox(
         isQuestion ? QMessageBox::Question : QMessageBox::Information, message.title, message.text,
         isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, message.parent);
@@ -46,7 +47,7 @@ MessageAnswer showBox(Message const & message)
     return box->exec() == QMessageBox::Yes ? MessageAnswer::Yes : neutralAnswer(message.kind);
 }
 
-// Never destroyed: a box may still be asked for while the process ends.
+// Never destroyed: a box may still be requested while the process exits.
 MessagePresenter & currentPresenter()
 {
     static auto * presenter = new MessagePresenter;
@@ -62,7 +63,7 @@ MessagePresenter setMessagePresenter(MessagePresenter presenter)
 
 MessageAnswer showMessage(Message const & message)
 {
-    // A copy, since the presenter may replace itself while it runs.
+    // A copy: the presenter may replace itself while it runs.
     MessagePresenter const presenter = currentPresenter();
     MessageAnswer answer = neutralAnswer(message.kind);
     guard([&] { answer = presenter ? presenter(message) : showBox(message); },

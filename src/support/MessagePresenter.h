@@ -11,28 +11,28 @@ class QWidget;
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// Which box is wanted.
+/// Which box to show.
 enum class MessageKind : int
 {
-    Information, ///< one OK button
+    Information, ///< an OK button
     Question     ///< the buttons Yes and No, application-modal
 };
 
 /// Which button was pressed.
 enum class MessageAnswer : int
 {
-    Ok,  ///< to an information
+    Ok,  ///< answer to an information box
     Yes, ///< to a question
     No   ///< to a question; also when the box was closed, or destroyed with its parent
 };
 
-/// One box that the library wants shown. The texts are translated already.
+/// A box that the library asks to be shown. Its texts are already translated.
 struct Message
 {
-    MessageKind kind = MessageKind::Information; ///< which box
-    QWidget * parent = nullptr; ///< not owned; null, or a widget that was alive when the box was asked for
-    QString title;              ///< of the window
-    QString text;               ///< shown as a QMessageBox shows it
+    MessageKind kind = MessageKind::Information; ///< which box to show
+    QWidget * parent = nullptr; ///< not owned; null, or a widget that was alive at the request
+    QString title;              ///< window title
+    QString text;               ///< rendered as in a QMessageBox
 };
 
 /// Shows a message and returns the answer.
@@ -46,8 +46,8 @@ using MessagePresenter = std::function<MessageAnswer(Message const &)>;
 /// \since 0.1
 UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter presenter);
 
-/// Shows a message through the presenter in force and returns the answer. A presenter that throws counts as
-/// one that gave the neutral answer; the exception is logged. Host dialogs may use it for boxes of their own.
+/// Shows a message through the current presenter and returns the answer. If the presenter throws, the answer
+/// is the neutral one and the exception is logged. Host dialogs may use this for their own boxes.
 UIAPICOMMON_EXPORT MessageAnswer showMessage(Message const & message);
 
 } // namespace KVCAM::UIAPI::Ext

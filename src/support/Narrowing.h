@@ -6,8 +6,8 @@
 
 namespace KVCAM::UIAPI {
 
-/// `value` truncated toward zero; saturates at the ends of int, and NaN gives 0. A plain cast of a value
-/// that does not fit is undefined.
+/// `value` truncated toward zero; saturates at the ends of int, and NaN gives 0. A plain cast of an
+/// out-of-range value is undefined behaviour.
 inline int saturatedInt(double value) noexcept
 {
     if (std::isnan(value)) {

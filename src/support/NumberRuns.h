@@ -9,7 +9,7 @@
 namespace KVCAM::UIAPI {
 
 /// One maximal run of number characters ('0' to '9' and '.') or of anything else. The view points into the
-/// text that was split and lives as long as that.
+/// split text and is valid as long as that text.
 struct TextRun
 {
     QStringView text;
@@ -28,7 +28,7 @@ inline bool isNumberCharacter(QChar c) noexcept
     return isAsciiDigit(c) || c == QLatin1Char('.');
 }
 
-/// Takes the first run off a text that is not empty.
+/// Removes the first run of a non-empty text and returns it.
 inline TextRun takeNumberRun(QStringView & rest) noexcept
 {
     bool const isNumber = isNumberCharacter(rest.front());

@@ -13,13 +13,13 @@ RegularFile openRegular(QFile & file, QIODevice::OpenMode extra)
 {
     QIODevice::OpenMode const mode = QIODevice::ReadOnly | extra;
     QFileInfo const info(file.fileName());
-    if (!info.isNativePath()) { // a resource of Qt's, which the system cannot open
+    if (!info.isNativePath()) { // a Qt resource, which the system cannot open
         return file.open(mode) ? RegularFile::Opened : RegularFile::NotOpened;
     }
-    if (info.filePath().contains(QChar(0))) { // would be opened under the name before it
+    if (info.filePath().contains(QChar(0))) { // the system would cut the name off at the NUL
         return RegularFile::NotOpened;
     }
-    // The kind is asked of what was opened: what bears the name may be another file by then.
+    // Check the open file, not the name: the name may refer to another file by now.
     int const handle =
         ::open(QFile::encodeName(info.filePath()).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (handle < 0) {

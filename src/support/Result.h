@@ -10,7 +10,7 @@ namespace KVCAM::UIAPI::Ext {
 struct Result
 {
     bool ok = true; ///< also when there was nothing to do
-    QString reason; ///< one sentence for people; empty when ok
+    QString reason; ///< one human-readable sentence; empty when ok
 
     explicit operator bool() const { return ok; } ///< the same as ok
 };

@@ -4,12 +4,12 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// What becomes of a call from another thread than the one the library belongs to.
+/// How a call from a thread other than the library's own is handled.
 enum class ThreadCheck : int
 {
-    Off,     ///< nothing; nobody looks
-    LogOnce, ///< the first one is logged at ERROR: "KVCAM UIAPI is called from a second thread"
-    Abort    ///< it is logged, and the process aborts
+    Off,     ///< no check
+    LogOnce, ///< the first such call is logged at ERROR: "KVCAM UIAPI is called from a second thread"
+    Abort    ///< the call is logged, and the process aborts
 };
 
 /// Makes the flat functions and the methods of the singletons compare threads; Off until this is called. The

@@ -4,8 +4,8 @@
 
 namespace KVCAM::UIAPI {
 
-/// The home directory that the system's user database has for the user who runs the process, whatever the
-/// environment says; empty when it has none.
+/// The home directory of the process's user according to the system's user database, regardless of the
+/// environment; empty if it has none.
 std::filesystem::path homeOfUser();
 
 } // namespace KVCAM::UIAPI

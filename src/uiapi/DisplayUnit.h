@@ -4,7 +4,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The unit of a view's show parameters; an unknown view is logged as "getShowPara" and counts as inch.
+/// The unit of a view's show parameters; an unknown view is logged as "getShowPara" and treated as inch.
 inline int displayUnit(UIAPICommonPara const & para, void const * view)
 {
     KVCAM::API::show_param parameters;

@@ -6,7 +6,7 @@ Q_DECLARE_METATYPE(void const *)
 
 namespace KVCAM::UIAPI::Ext {
 
-// Known by name, so that connections may be queued and signals be spied on.
+// Registered by name for queued connections and signal spies.
 Notifier::Notifier()
 {
     qRegisterMetaType<void const *>("void const*");
@@ -16,7 +16,7 @@ Notifier::Notifier()
 
 Notifier * Notifier::instance()
 {
-    // Deliberately not owned by anything: views may still change while the application is taken down.
+    // Deliberately unowned: views may still change during application shutdown.
     static auto * notifier = new Notifier;
     return notifier;
 }

@@ -11,9 +11,9 @@ namespace KVCAM::UIAPI::Ext {
 /// What changed in a view's record.
 enum class ViewAspect : int
 {
-    Unit = 1,           ///< the unit of the show parameters took another value
-    ShowParameters = 2, ///< the show parameters were stored, the same value included
-    Selection = 4       ///< the selection settings were stored, the same value included
+    Unit = 1,           ///< the unit of the show parameters changed
+    ShowParameters = 2, ///< the show parameters were stored, even if unchanged
+    Selection = 4       ///< the selection settings were stored, even if unchanged
 };
 Q_DECLARE_FLAGS(ViewAspects, ViewAspect)
 Q_DECLARE_OPERATORS_FOR_FLAGS(ViewAspects)
@@ -26,14 +26,14 @@ class UIAPICOMMON_EXPORT Notifier : public QObject
     Q_OBJECT
 
 public:
-    /// The object, created at the first call.
+    /// The object, created on the first call.
     static Notifier * instance();
 
 signals:
-    /// Emitted once for each store into a registered view, after the engine was told (also when the engine
-    /// threw: the record holds the new value; a slot must not throw, and what one throws is logged and
-    /// changes no result), and after the registration of a view with all three aspects. `view` is the handle;
-    /// read the state itself through the library.
+    /// Emitted once per store into a registered view, after the push to the engine, and after a view is
+    /// registered, with all three aspects. Also emitted if the engine threw: the record holds the new value.
+    /// A slot must not throw; if it does, the exception is logged and changes no result. `view` is the
+    /// handle; read the state itself through the library.
     void viewChanged(void const * view, KVCAM::UIAPI::Ext::ViewAspects aspects);
 
 private:

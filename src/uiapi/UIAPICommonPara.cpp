@@ -12,7 +12,7 @@ UIAPICommonPara * UIAPICommonPara::m_pUIAPICommonParaInstance = nullptr;
 
 UIAPICommonPara * UIAPICommonPara::instance()
 {
-    // The order is fixed, and the log shows it.
+    // The order is fixed and visible in the log.
     return Singleton::obtain(
         m_pUIAPICommonParaInstance, [] { return new UIAPICommonPara; },
         [](UIAPICommonPara & made) {

@@ -30,24 +30,23 @@ enum class EdaSendResult : int;
 } // namespace Ext
 
 /// The per-view and UI-wide state of the process, and the rules that need it: one object, created by the
-/// first call that needs it and alive until the process ends. Use it from the GUI thread only; nothing is
-/// locked.
+/// first call that needs it and never destroyed. GUI thread only; nothing is locked.
 ///
-/// A per-view method that does not know its view logs "KVCAM UIAPI <operation> error" at ERROR under the name
-/// "UIAPICommonPara" and returns the neutral value its comment names; output arguments stay untouched.
+/// For an unknown view, a per-view method logs "KVCAM UIAPI <operation> error" at ERROR under the name
+/// "UIAPICommonPara" and returns the neutral value given in its comment; output arguments are unchanged.
 ///
-/// No method throws: whatever an engine or the allocator throws is logged as the two lines of a caught
+/// No method throws: exceptions from an engine or the allocator are logged as the two lines of a caught
 /// exception, and the method returns 0, false, null or nothing. Only instance() and the copy constructor,
-/// which have nothing else to give, let std::bad_alloc through.
+/// which have no neutral result, let std::bad_alloc through.
 ///
 /// Copies are detached snapshots, never a second singleton. Objects cannot be destroyed.
 class UIAPICOMMON_EXPORT UIAPICommonPara
 {
 public:
     /// The object, created at the first call. Creating it asks the host for paths; a host that calls back
-    /// meanwhile is given the same object, in which what is not loaded yet is empty.
+    /// meanwhile gets the same object, whose parts not yet loaded are empty.
     static UIAPICommonPara * instance();
-    /// Null until instance() was called for the first time. Not to be assigned to.
+    /// Null until the first call of instance(). Do not assign to it.
     static UIAPICommonPara * m_pUIAPICommonParaInstance;
 
     ///@{
@@ -58,8 +57,8 @@ public:
 
     // --- View records -------------------------------------------------------------------------------------
 
-    /// Registers a view and pushes its record to the engine (show_param, Selection, select_info). False with
-    /// an ERROR line for a null handle, false without a word for a handle that is registered already.
+    /// Registers a view and pushes its record to the engine (show_param, Selection, select_info). False, with
+    /// an ERROR line, for a null handle; false, silently, for a handle already registered.
     bool insertStepConfig(Step_Config const & config);
     /// Copies the record out.
     void getStepConfig(void const * view, Step_Config & out) const;
@@ -75,21 +74,21 @@ public:
     void getSelection(void const * view, Selection & out) const;
     /// Stores and pushes.
     void setSelection(void const * view, Selection const & value);
-    /// Copies out what was selected.
+    /// Copies the select_info out.
     void getSelectInfo(void const * view, select_info & out) const;
     /// Stores and pushes. An unknown view is reported as "setSelection".
     void setSelectInfo(void const * view, select_info const & value);
 
     /// {127, 7, 5} for an unknown view.
     Snap_Control getSnapControl(void const * view) const;
-    /// Stores the first word and the mode; the size changes through setSnapSize() alone. Nothing is pushed.
+    /// Stores the first word and the mode; only setSnapSize() changes the size. Nothing is pushed.
     void setSnapControl(void const * view, Snap_Control const & value);
     /// 5 for an unknown view, after "KVCAM UIAPI getSnapControl error, use default snap size!".
     int getSnapSize(void const * view) const;
     /// Nothing is pushed. An unknown view is reported as "setSnapControl".
     void setSnapSize(void const * view, int size);
     /// The mode of the view's record without copying the record; 7 for an unknown view (reported as
-    /// "getStepConfig"). What the flat function of this name is made of.
+    /// "getStepConfig"). The flat function of this name forwards to this.
     SNAP_TYPE_MODE getSnapMode(void const * view) const;
 
     /// The view's edit buffer, owned by this object and valid until it is assigned to; null for an unknown
@@ -102,15 +101,16 @@ public:
     coordinate * getCoordinate(void const * view);
 
     /// Pushes show_param, Selection and select_info of a view to the engine, in this order. For an unknown
-    /// view an information box without a parent follows the ERROR line. For a view whose record an engine
-    /// that calls back takes away by assigning to this object, the ERROR line alone stands for the rest.
+    /// view the ERROR line is followed by an information box without a parent. If an engine that calls back
+    /// removes the record by assigning to this object, the remaining pushes are replaced by the ERROR line
+    /// alone.
     void setStepConfigToAPI(void const * view);
 
     // --- UI-wide state ------------------------------------------------------------------------------------
 
     /// Default 1, English.
     LANGUAGE_MODE getCurrentLanguageMode() const;
-    /// Leaves its argument as it is.
+    /// Does not change its argument.
     void setCurrentLanguageMode(LANGUAGE_MODE & mode);
     ///@{
     /// Default false.
@@ -123,7 +123,7 @@ public:
     void setCoordinateStatus(bool status);
     ///@}
     ///@{
-    /// Whether the application runs as a program of its own. Default true.
+    /// Whether the application runs as a stand-alone program. Default true.
     bool KvcamAsExe() const;
     void SetKvcamAsExe(bool value);
     ///@}
@@ -132,9 +132,10 @@ public:
     QPoint getCoordinatePos() const;
     void setCoordinatePos(QPoint pos);
     ///@}
-    /// The input widget, not owned, null until set; whoever sets it takes it back before it dies.
+    /// The input widget, not owned, null until set. The caller that sets it must reset it before the widget
+    /// is destroyed.
     QWidget * getInputPtr() const;
-    /// Logs "setInputPtr _input " and the pointer at INFO when none was set, else the old and then the new
+    /// Logs "setInputPtr _input " and the pointer at INFO if none was set; otherwise the old and then the new
     /// one at WARNING.
     void setInputPtr(QWidget * widget);
     ///@{
@@ -147,18 +148,18 @@ public:
 
     // --- Attributes ---------------------------------------------------------------------------------------
 
-    /// Assigns the values that a built-in system attribute (".drill") offers; none for any other name.
+    /// Assigns the values offered by a built-in system attribute such as ".drill"; none for any other name.
     void getChildAttribute(std::string name, std::vector<std::string> & out) const;
 
     // --- Units --------------------------------------------------------------------------------------------
-    // An unknown view counts as an inch view, after the ERROR line of getShowPara().
+    // An unknown view is treated as an inch view, after the ERROR line of getShowPara().
 
-    /// A value of the other unit in the view's: inch at 5 decimals, else millimetre at 3.
+    /// Converts from the other unit to the view's: inch at 5 decimals, else millimetre at 3.
     double getUnitData(void const * view, double value) const;
     /// Large unit to nanometres (kind 0) or micrometres (kind 1); 0.0 for another kind.
     double getUnitAPIData(void const * view, int kind, double value) const;
-    /// In a metric view micrometres to mil for the kinds 0 and 1, 0.0 for another kind; else the value
-    /// itself.
+    /// In a metric view, micrometres to mil for kinds 0 and 1, 0.0 for another kind. In other views, the
+    /// value itself.
     double getUnitMilData(void const * view, int kind, double value) const;
     /// Micrometres to the large unit.
     double getUnitPointData(void const * view, double value) const;
@@ -167,7 +168,8 @@ public:
     /// Mil to the small unit, unrounded.
     double getUnitJudgeDouble(void const * view, double value) const;
     /// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most
-    /// 1074; -128, QLocale::FloatingPointShortest: as many as the value needs; else negative: 6).
+    /// 1074; -128, QLocale::FloatingPointShortest, gives as many as the value needs, any other negative value
+    /// 6).
     QString getUnitJudgeString(void const * view, double value, int precision) const;
     /// Micrometres as text in the large unit, 3 decimals.
     QString getUnitJudgeStringMetric(void const * view, double value) const;
@@ -177,54 +179,57 @@ public:
     std::string getAreaUnitStringType(void const * view) const;
     /// Fixed notation with six decimals, without trailing zeros.
     std::string doubleToString(double value) const;
-    /// The measured quantity of a check result, by its kind; 0.0 when kind and number of points do not agree.
+    /// The measured quantity of a check result, by its kind; 0.0 if the number of points does not match the
+    /// kind.
     double getMeasureValue(check_info const & info) const;
 
     // --- Symbol names -------------------------------------------------------------------------------------
-    // Sizes in a name are mil or micrometres. An unknown view counts as not metric, after the ERROR line of
-    // getUnit().
+    // Sizes in a name are mil or micrometres. An unknown view is treated as not metric, after the ERROR line
+    // of getUnit().
 
-    /// The lengths of a standard symbol / 25.4 for unit 0, else * 25.4, in place.
+    /// Converts the lengths of a standard symbol in place: / 25.4 for unit 0, else * 25.4.
     void setSymbolUIData(QString & name, int unit) const;
-    /// When the engine knows the name: every number micrometres to mil at 3 decimals in a metric view.
+    /// If the engine knows the name: converts every number from micrometres to mil at 3 decimals in a metric
+    /// view.
     void setSymbolAPIData(void const * view, QString & name) const;
     /// Every number * 25.4 at 2 decimals in a metric view, else / 25.4 at 3 decimals.
     void setSymbolDataByUnit(void const * view, QString & name) const;
-    /// Every number mil to micrometres at 2 decimals (one hundredth beside a whole one becomes whole) in a
-    /// metric view, else at 3 decimals.
+    /// Every number, in mil: in a metric view to micrometres at 2 decimals (a result one hundredth off a
+    /// whole number becomes whole), else at 3 decimals.
     void setSymbolDataByMilUnit(void const * view, QString & name) const;
-    /// The lengths of a standard symbol, in mil, at 3 decimals for unit 0, else in micrometres as in
+    /// The lengths of a standard symbol are mil: at 3 decimals for unit 0, else in micrometres as in
     /// setSymbolDataByMilUnit().
     std::string getSymbolNameByUnit(std::string const & name, int unit) const;
-    /// Fills `names` with the symbols of the job "KVLIB", which is opened first when it is not open.
+    /// Fills `names` with the symbols of the job "KVLIB", which is opened first if it is not open.
     void getKvlibSpecialSymbol(std::vector<std::string> & names) const;
 
     // --- Typed values -------------------------------------------------------------------------------------
-    // A refused value is shown in an information box; a view handle that is a living widget is its parent.
+    // A rejected value is shown in an information box. If the view handle is a living widget, it is the
+    // parent.
 
     /// The value of an expression of numbers and "+", "-", "*", "/"; never fails.
     double caculateData(QString expression) const;
     /// False exactly when the earlier operator is "+" or "-" and the later one "*" or "/".
     bool judgeCaculate(QString & earlier, QString & later) const;
-    /// False for an empty text, and with an ERROR line and a box for two non-digits in a row.
+    /// False for an empty text; also false, with an ERROR line and a box, for two non-digits in a row.
     bool judgeCaculateIsStandard(QString expression) const;
-    /// Whether a value in the view's small unit lies between bounds in mil, which belong to the range.
+    /// Whether a value in the view's small unit lies between bounds in mil, inclusive.
     bool isValueLegal(double value, double minimum, double maximum, void const * view) const;
-    /// The same as isValueLegal().
+    /// Same as isValueLegal().
     bool isValueLegal1(double value, double minimum, double maximum, void const * view) const;
     /// Whether a plain number lies between its bounds.
     bool isNumValueLegal(double value, double minimum, double maximum, void const * view) const;
-    /// isValueLegal1() for every number of a symbol name up to the first refused one.
+    /// isValueLegal1() for every number of a symbol name up to the first rejected one.
     bool isSymbolValueLegal(QString name, double minimum, double maximum, void const * view) const;
-    /// Fills `result` with the items that match a wildcard pattern in any case; a pattern that is not allowed
-    /// is logged and leaves it empty.
+    /// Fills `result` with the items that match a wildcard pattern, case-insensitively; an illegal pattern is
+    /// logged and leaves it empty.
     void find_input_items(QList<QString> items, QString pattern, QList<QString> & result) const;
 
     // --- Forms --------------------------------------------------------------------------------------------
 
     /// Adds the values of the named controls to `json`, see the flat function of this name.
     void readListToJson(QList<QObject *> widgets, QJsonObject & json) const;
-    /// Puts the members of `json` back into the controls of their names.
+    /// Restores the members of `json` to the controls of the same names.
     void writeJsonToList(QJsonObject json, QList<QObject *> & widgets) const;
 
     // --- Ranges -------------------------------------------------------------------------------------------
@@ -241,10 +246,11 @@ public:
 
     // --- Layer filters ------------------------------------------------------------------------------------
     // A request maps the keys "type", "context", "side" and "pos" to words joined by "|"; other keys are
-    // ignored. Keys and words are case-sensitive, an empty word counts. No word: every layer is accepted.
+    // ignored. Keys and words are case-sensitive, and an empty word is a word. Without words every layer is
+    // accepted.
 
-    /// Appends the names of the layers of a job that every key accepts, in matrix order. What the engine
-    /// throws is logged, and nothing is appended.
+    /// Appends the names of a job's layers that all keys accept, in matrix order. If the engine throws, that
+    /// is logged and nothing is appended.
     void selectLayersByType(QString const & job, std::vector<std::string> & out,
                             QMap<QString, QString> filters) const;
     /// Appends the words of an entry whose key is `key`.
@@ -254,19 +260,19 @@ public:
     bool TypeLayersFilter(layer_info & layer, QVector<QString> & words) const;
     /// Whether the layer's context is one of the words.
     bool ContextLayersFilter(layer_info & layer, QVector<QString> & words) const;
-    /// Whether the layer's name is the first ("top"), the last ("bottom") or, of more than three, one between
-    /// ("inner") of the board signal layers.
+    /// Whether the layer's name is the first ("top"), the last ("bottom") or, if there are more than three,
+    /// one in between ("inner") of the board signal layers.
     bool SideLayersFilter(layer_info & layer, QVector<QString> & words,
                           std::vector<std::string> & boardSignalLayers) const;
-    /// Whether the layer's polarity is "POS" and a word "positive", or "NEG" and "negative".
+    /// Whether the polarity is "POS" with the word "positive" present, or "NEG" with "negative".
     bool PosLayersFilter(layer_info & layer, QVector<QString> & words) const;
 
-    /// Replaces `out` by the affected layers and then the work layer unless it is one of them; at the start
-    /// one empty name.
+    /// Replaces `out` with the affected layers, followed by the work layer unless it is one of them.
+    /// Initially one empty name.
     void getAffectLayers(std::vector<std::string> & out) const;
-    /// Replaces the affected layers, which getAffectLayers() gives.
+    /// Replaces the affected layers returned by getAffectLayers().
     void setAffectLayers(std::vector<std::string> const & layers);
-    /// Replaces the work layer, empty at the start.
+    /// Replaces the work layer; initially empty.
     void setWorkLayer(std::string const & layer);
 
     /// The board layers of a job that analysis and DFM checks read, see the flat function of this name.
@@ -302,8 +308,7 @@ public:
     void resetDrawingLayer(std::string const & job);
     ///@}
     ///@{
-    /// The text of the latest setJobJsonPara(), empty at the start. There is one for all jobs: the name is
-    /// not used.
+    /// The text of the latest setJobJsonPara(); initially empty. One text for all jobs: the name is not used.
     std::string getJobJsonPara(std::string job) const;
     void setJobJsonPara(std::string const & job, std::string const & text);
     ///@}
@@ -323,13 +328,13 @@ public:
     // --- EDA link and plug-in commands --------------------------------------------------------------------
     // Copies of this object share the one link. Without a link nothing happens.
 
-    /// The port that messages to the EDA tool go to; 22333 at start.
+    /// The port that messages to the EDA tool are sent to; initially 22333.
     void setEdaPort(int port);
-    /// Sends an object as compact JSON; nothing tells whether it went.
+    /// Sends an object as compact JSON. Success is not reported.
     void sendEdaData(QJsonObject const & data);
-    /// The text of the datagram received last, else empty.
+    /// The text of the last datagram received; empty if none.
     QString getReceiveStr() const;
-    /// The link, owned by nobody and alive until the process ends; null when there is none.
+    /// The link, unowned and never destroyed; null if there is none.
     ConnectEDA * edaLink() const;
     /// Status of the link; the type stands in ext/EdaLink.h.
     Ext::EdaLinkState edaLinkState() const;
@@ -338,10 +343,10 @@ public:
 
     /// Hands a command to the modules that have a route for it, see the flat function of this name.
     void setPluginCmd(int command, std::string const & key, void * data) const;
-    /// From now on setPluginCmd() hands this command with this key to a plug-in module too. The host adds
-    /// them, none are there at start; not persisted. False when the route is there already.
+    /// From now on setPluginCmd() also passes this command with this key to a plug-in module. Routes are
+    /// added by the host; initially there are none. Not persisted. False if the route already exists.
     bool addPluginRoute(int command, std::string const & key, std::string const & module);
-    /// Takes a route back, as when its module is unloaded. False when there is no such route.
+    /// Removes a route, for example when its module is unloaded. False if there is no such route.
     bool removePluginRoute(int command, std::string const & key, std::string const & module);
 
 private:

@@ -1,4 +1,4 @@
-// Typed values: log lines, boxes and look-ups of the view. The rules stand in units/.
+// Typed values: logging, boxes and view look-ups. The rules are in units/.
 
 #include "support/Boxes.h"
 #include "support/Log.h"
@@ -37,7 +37,7 @@ bool UIAPICommonPara::judgeCaculateIsStandard(QString expression) const
 bool UIAPICommonPara::isValueLegal(double value, double minimum, double maximum, void const * view) const
 {
     return guardedPara([&]() -> bool {
-        // Each bound is converted by a call of its own, so an unknown view is logged once for each.
+        // Each bound is converted by its own call, so an unknown view is logged once per bound.
         double const low = getUnitJudgeDouble(view, minimum);
         double const high = getUnitJudgeDouble(view, maximum);
         if (ValueLegality::isWithin(value, low, high)) {

@@ -1,4 +1,4 @@
-// Layers, references and files of jobs. The rules stand in layers/.
+// Layers, references and files of jobs. The rules are in layers/.
 
 #include "config/UIAPIGlobalVar.h"
 #include "layers/JobFiles.h"
@@ -78,7 +78,7 @@ void UIAPICommonPara::setWorkLayer(std::string const & layer)
     guardedPara([&] { d->layers.affect.workLayer = layer; });
 }
 
-// The layers of a matrix are those of every step.
+// All steps share the layers of the matrix.
 std::vector<std::string> UIAPICommonPara::getAnalyzeAndDFMLayers(QString const & job,
                                                                  QString const & /*step*/) const
 {
@@ -174,7 +174,7 @@ void UIAPICommonPara::resetDrawingLayer(std::string const & job)
     guardedPara([&] { d->layers.drawings.reset(job); });
 }
 
-// One text for all jobs; callers rely on finding it whatever job they name.
+// One text for all jobs; callers rely on getting it for any job name.
 std::string UIAPICommonPara::getJobJsonPara(std::string /*job*/) const
 {
     return guardedPara([&] { return d->layers.jobJson; });

@@ -17,7 +17,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// The components of UIAPICommonPara, by value: copying copies them all.
+/// The components of UIAPICommonPara, held by value: a copy copies them all.
 struct UIAPICommonPara::Private
 {
     ViewRegistry views;
@@ -34,10 +34,11 @@ struct UIAPICommonPara::Private
     CategoryDictionary categories;
     LayerBookkeeping layers;
     PluginCommandRelay pluginCommands;
-    QPointer<ConnectEDA> edaLink; // shared by the copies, owned by nobody
+    QPointer<ConnectEDA> edaLink; // shared by the copies, not owned
 };
 
-/// What each public method runs in. The methods are part of the library's boundary, like the flat functions.
+/// Every public method runs inside this. The methods are part of the library's boundary, like the flat
+/// functions.
 template <class Body>
 auto guardedPara(Body && body, int line = __builtin_LINE())
 {

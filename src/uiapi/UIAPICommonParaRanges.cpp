@@ -1,4 +1,4 @@
-// Range tables: the levels and names stand in analysis/.
+// Range tables. The levels and names are in analysis/.
 
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/UIAPICommonParaPrivate.h"

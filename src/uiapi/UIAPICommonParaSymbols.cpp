@@ -1,4 +1,4 @@
-// Symbol names by view: unit and engine are asked here, the rules stand in units/.
+// Symbol names by view: unit and engine are queried here, the rules are in units/.
 
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
@@ -31,7 +31,7 @@ void UIAPICommonPara::setSymbolDataByMilUnit(void const * view, QString & name) 
 void UIAPICommonPara::setSymbolAPIData(void const * view, QString & name) const
 {
     guardedPara([&] {
-        // The engine is asked first: a name that it does not know costs no look-up of the view.
+        // The engine is asked first: an unknown name then needs no view look-up.
         KVCAM::API::symboltype type{};
         int first = 0;
         int second = 0;

@@ -1,4 +1,4 @@
-// Unit conversion by view: the unit is looked up here, the rules stand in units/.
+// Unit conversion by view: the unit is looked up here, the rules are in units/.
 
 #include "analysis/CheckKinds.h"
 #include "uiapi/DisplayUnit.h"

@@ -22,13 +22,13 @@ void copyOut(ViewRegistry const & views, void const * view, Field Step_Config::*
     }
 }
 
-// Who listens changes no result: what a slot throws ends here.
+// Listeners never change a result: anything a slot throws is caught here.
 void notify(void const * view, Ext::ViewAspects aspects)
 {
     guardedPara([&] { emit Ext::Notifier::instance()->viewChanged(view, aspects); });
 }
 
-// The record is not touched after the push, during which it may be replaced.
+// The record is not used after the push: it may be replaced during it.
 void storeShowPara(Step_Config & record, show_param const & value)
 {
     void const * const view = record.view;
@@ -99,7 +99,7 @@ void UIAPICommonPara::getShowPara(void const * view, KVCAM::API::show_param & ou
     guardedPara([&] { copyOut(d->views, view, &Step_Config::show_param, out, "getShowPara"); });
 }
 
-// The setters of show_param and select_info report themselves as "setSelection"; log readers know them so.
+// The setters of show_param and select_info are logged as "setSelection"; log readers expect that.
 void UIAPICommonPara::setShowPara(void const * view, KVCAM::API::show_param const & value)
 {
     guardedPara([&] {
@@ -152,7 +152,7 @@ void UIAPICommonPara::setSelectInfo(void const * view, KVCAM::API::select_info c
 Snap_Control UIAPICommonPara::getSnapControl(void const * view) const
 {
     return guardedPara([&] {
-        Snap_Control snap; // its defaults are what an unknown view yields
+        Snap_Control snap; // its defaults are the result for an unknown view
         copyOut(d->views, view, &Step_Config::snap, snap, "getSnapControl");
         return snap;
     });
@@ -166,7 +166,7 @@ void UIAPICommonPara::setSnapControl(void const * view, Snap_Control const & val
             Log::operationError("setSnapControl");
             return;
         }
-        // The size is kept: it changes through setSnapSize() alone.
+        // The size is kept: only setSnapSize() changes it.
         record->snap.first = value.first;
         record->snap.mode = value.mode;
     });
@@ -198,7 +198,7 @@ void UIAPICommonPara::setSnapSize(void const * view, int size)
 SNAP_TYPE_MODE UIAPICommonPara::getSnapMode(void const * view) const
 {
     return guardedPara([&]() -> SNAP_TYPE_MODE {
-        // As if the whole record were copied out, but without copying the edit buffer.
+        // Same as copying out the whole record, but without copying the edit buffer.
         if (Step_Config const * record = d->views.find(view)) {
             return record->snap.mode;
         }
@@ -237,7 +237,7 @@ coordinate * UIAPICommonPara::getCoordinate(void const * view)
         if (Step_Config * record = d->views.find(view)) {
             return &record->coordinate;
         }
-        Log::operationError("getEditBuffer"); // the name under which this has always been reported
+        Log::operationError("getEditBuffer"); // always logged under this name
         return nullptr;
     });
 }
@@ -245,8 +245,8 @@ coordinate * UIAPICommonPara::getCoordinate(void const * view)
 void UIAPICommonPara::setStepConfigToAPI(void const * view)
 {
     guardedPara([&] {
-        // The record is looked up for each push: an engine that calls back during one may change the next
-        // part, or assign to this object, which replaces the record or leaves none.
+        // Look the record up for each push: an engine that calls back may change the next part, or assign to
+        // this object, which replaces or removes the record.
         auto const push = [&](auto field, auto send) {
             Step_Config const * const record = d->views.find(view);
             if (record == nullptr) {

@@ -31,7 +31,7 @@ bool ViewRegistry::append(Step_Config const & config)
     if (find(config.view) != nullptr) {
         return false;
     }
-    m_handles.reserve(m_handles.size() + 1); // so that the two cannot get out of step
+    m_handles.reserve(m_handles.size() + 1); // so that both grow or neither
     m_records.push_back(config);
     m_handles.push_back(config.view);
     return true;

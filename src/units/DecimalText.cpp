@@ -12,15 +12,15 @@ namespace {
 // All are exact doubles.
 constexpr std::array<double, 16> powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-constexpr int exactDigits = 15; // whole numbers of so many digits are exact doubles
+constexpr int exactDigits = 15; // whole numbers with this many digits are exact doubles
 
 } // namespace
 
 double decimalValue(QStringView text)
 {
-    // Nearly every text is digits with at most one point between them. Of up to 15 digits both the digits as
-    // a whole number and the power of ten are exact, so the one division gives the double nearest to the
-    // text, which is what the full conversion would find. Every other text takes the full conversion.
+    // Fast path: nearly every text is digits with at most one point between them. With up to 15 digits, both
+    // the digits as a whole number and the power of ten are exact, so a single division gives the double
+    // nearest to the text, the same as the full conversion. All other texts take the full conversion.
     qint64 whole = 0;
     int digits = 0;
     qsizetype point = -1;
@@ -44,7 +44,7 @@ double decimalValue(QStringView text)
 
 void appendSixDigits(QString & out, double value)
 {
-    // A whole number of up to six digits is its own general form; sizes often are.
+    // Fast path: a whole number of up to six digits is its own general form, and sizes often are such.
     constexpr double end = 1e6;
     if (!(value >= 0 && value < end) || value != std::trunc(value)) {
         out += QString::number(value, 'g', 6);

@@ -6,8 +6,8 @@
 /// Numbers in typed texts and symbol names, in Qt's C locale.
 namespace KVCAM::UIAPI {
 
-/// What QString::toDouble() gives without an error flag: 0 for a text that is no number, an infinity for one
-/// that is too large. "inf", "nan", exponents and blanks around the number are understood.
+/// The result of QString::toDouble() without an error flag: 0 for text that is not a number, an infinity for
+/// one that is too large. Accepts "inf", "nan", exponents and surrounding blanks.
 double decimalValue(QStringView text);
 
 /// Appends the general form with six significant digits: "10", "0.03937", "1234.57", "1e+06".

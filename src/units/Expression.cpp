@@ -28,8 +28,8 @@ bool takesOff(QChar waiting, QChar arriving)
     return !(isSum(waiting) && isProduct(arriving));
 }
 
-// Operands and operators as they wait. An operator that is taken off is applied at once, which is the order
-// in which a postfix form would be evaluated.
+// The stacks of operands and operators. A popped operator is applied immediately, in the order in which a
+// postfix form would be evaluated.
 class Evaluation
 {
 public:
@@ -38,7 +38,7 @@ public:
     void arriving(QChar symbol)
     {
         if (!m_operators.isEmpty() && takesOff(m_operators.back(), symbol)) {
-            applyLast(); // one only, never a run
+            applyLast(); // at most one, never a run
         }
         m_operators.append(symbol);
     }

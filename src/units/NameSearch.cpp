@@ -22,7 +22,7 @@ bool isAllowed(QChar c)
            std::any_of(marks.begin(), marks.end(), [c](char mark) { return c == QLatin1Char(mark); });
 }
 
-// "**" says no more than "*", but each star costs the matcher a state.
+// "**" is equivalent to "*", but each star costs the matcher a state.
 QString withoutStarRuns(QString pattern)
 {
     auto const bothStars = [](QChar a, QChar b) { return a == anyText && b == anyText; };

@@ -4,14 +4,14 @@
 #include <QString>
 #include <QStringView>
 
-/// Searching names by a pattern of '0' to '9', 'A' to 'Z' in either case, '_', '.', '/' and '*'.
+/// Searches names by a pattern of '0' to '9', 'A' to 'Z' in either case, '_', '.', '/' and '*'.
 namespace KVCAM::UIAPI::NameSearch {
 
-/// Whether a pattern has at least one character and none but the allowed ones.
+/// Whether a pattern is not empty and has only allowed characters.
 bool isPattern(QStringView pattern);
 
-/// The items that match a pattern from end to end, in their order. Case does not count; '*' stands for any
-/// text, and every other character for itself. The pattern must be one by isPattern().
+/// The items that match the whole pattern, in their order, case-insensitively. '*' matches any text, every
+/// other character itself. The pattern must satisfy isPattern().
 QList<QString> matches(QList<QString> const & items, QString const & pattern);
 
 } // namespace KVCAM::UIAPI::NameSearch

@@ -62,15 +62,15 @@ double hundredthsBesideWhole(double value, double whole)
     return std::round((value - whole) * 100) / 100;
 }
 
-// Two decimals; the fraction alone is rounded.
+// Two decimals; only the fraction is rounded.
 double hundredths(double value)
 {
     double const whole = saturatedInt(value);
     return whole + hundredthsBesideWhole(value, whole);
 }
 
-// As hundredths(), but one hundredth beside a whole number becomes whole. The comparison with the rounded
-// fraction is exact on purpose.
+// Like hundredths(), but a result one hundredth off a whole number becomes whole. The exact comparison with
+// the rounded fraction is deliberate.
 double snappedHundredths(double value)
 {
     double const whole = saturatedInt(value);
@@ -81,7 +81,7 @@ double snappedHundredths(double value)
     return fraction == 0.01 ? whole : whole + fraction;
 }
 
-// Qt's fixed text rounds the shortest decimal form (2.0005 gives 2.001), unlike the exact binary value.
+// Qt's fixed notation rounds the shortest decimal form (2.0005 gives 2.001), not the exact binary value.
 double throughFixedText(double value)
 {
     return QString::number(value, 'f', 3).toDouble();
@@ -149,8 +149,8 @@ QString rewriteRectangle(QString const & name, SymbolParts const & parts, qsizet
     return out;
 }
 
-// Thermals and moires. Angles and counts are copied. Everything else counts as a plain length, so a corner
-// "r5" in the sixth place, which is no number, becomes 0.
+// Thermals and moires. Angles and counts are copied. Everything else is a plain length, so a corner "r5" in
+// the sixth place, which is not a number, becomes 0.
 template <class Convert>
 QString rewriteFields(QString const & name, SymbolGrammar const & grammar, SymbolParts const & parts,
                       qsizetype prefixLength, Convert const & convert)
@@ -174,7 +174,7 @@ QString rewriteFields(QString const & name, SymbolGrammar const & grammar, Symbo
     return out;
 }
 
-// `checked` holds a rectangle back whose width is missing or whose corner has no length.
+// `checked` rejects a rectangle without a width or with a corner that has no length.
 template <class Convert>
 QString rewriteByFamily(QString const & name, bool checked, Convert const & convert)
 {
@@ -202,8 +202,8 @@ QString rewriteByFamily(QString const & name, bool checked, Convert const & conv
     }
 }
 
-// The reassembly starts with a number only when there are more number runs than text runs. Runs alternate, so
-// order changes exactly for a name that starts with a number and ends with a text: each pair is swapped.
+// The result starts with a number only if there are more number runs than text runs. Runs alternate, so the
+// order changes exactly if a name starts with a number and ends with a text: each pair is swapped.
 template <class AppendNumber>
 QString rewriteGeneric(QString const & name, AppendNumber const & appendNumber)
 {

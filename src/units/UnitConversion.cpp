@@ -12,7 +12,7 @@
 namespace KVCAM::UIAPI::Units {
 namespace {
 
-// No double has more. Qt aborts the process where a text would need more memory than an int can count.
+// No double has more. Qt aborts the process if a text would need more memory than an int can count.
 constexpr int mostDecimals = 1074;
 
 } // namespace
@@ -21,9 +21,9 @@ double toUnit(int unit, double value)
 {
     double const converted = unit == inch ? value / millimetresPerInch : value * millimetresPerInch;
     double const scale = unit == inch ? 100000.0 : 1000.0;
-    double const whole = std::trunc(converted) + 0.0; // which makes a -0.0 of it 0.0, as an int would
+    double const whole = std::trunc(converted) + 0.0; // turns -0.0 into 0.0, as int would
     if (!std::isfinite(whole)) {
-        return converted; // its fraction would be NaN
+        return converted; // the fraction would be NaN
     }
     return whole + std::round((converted - whole) * scale) / scale;
 }
@@ -93,8 +93,8 @@ std::string plainText(double value)
     while (end > 0 && text[end - 1] == '0') {
         --end;
     }
-    // The point goes only with the zeros behind it. There are always six decimals, so zeros of the integer
-    // part are never reached; "inf" and "nan" have nothing to drop.
+    // The point is dropped only with all the zeros after it. There are always six decimals, so zeros of the
+    // integer part are never reached; "inf" and "nan" have nothing to drop.
     if (end < text.size() && end > 0 && text[end - 1] == '.') {
         --end;
     }
@@ -110,10 +110,10 @@ std::string name(int unit)
 
 std::string nameByKind(int unit, int kind)
 {
-    // "my" for micrometre is what the dialogs display.
+    // The dialogs display micrometre as "my".
     static std::map<int, std::map<int, std::string>> names{{inch, {{0, "inch"}, {1, "mil"}}},
                                                            {millimetre, {{0, "mm"}, {1, "my"}}}};
-    // An inserting look-up: an unknown unit gets an empty row.
+    // The look-up inserts: an unknown unit gets an empty row.
     std::map<int, std::string> const & row = names[unit];
     auto const found = row.find(kind);
     return found == row.end() ? std::string() : found->second;

@@ -6,17 +6,17 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// What a check says: its verdict, and the text that the box would show (empty for a legal value).
+/// Result of a check: the verdict, and the text that the box would show (empty for a legal value).
 struct ValueVerdict
 {
     bool legal = true; ///< the verdict
     QString text;      ///< translated
 };
 
-// The checks of typed values without their box, for dialogs that show the text beside the field. Verdict and
-// text are those of isValueLegal(), isNumValueLegal() and isSymbolValueLegal(). The bounds belong to the
-// range, there is no tolerance, and NaN is legal. `unit` is the unit code of the view, 0 inch; every other
-// code is metric. Nothing is shown or logged, and no singleton is created.
+// The checks of typed values without the box, for dialogs that show the text beside the field. Verdict and
+// text match isValueLegal(), isNumValueLegal() and isSymbolValueLegal(). The bounds are inclusive, there is
+// no tolerance, and NaN is legal. `unit` is the unit code of the view: 0 is inch, any other code metric.
+// Nothing is shown or logged, and no singleton is created.
 
 /// A value in the small unit (mil or micrometres) against bounds in mil.
 /// \since 0.1

@@ -7,7 +7,7 @@
 namespace KVCAM::UIAPI::ValueLegality {
 namespace {
 
-// The composed text is what is looked up, numbers included; so has it always been.
+// The translation is looked up by the composed text, numbers included. It always has been.
 QString translated(QString const & composed)
 {
     return QObject::tr(composed.toUtf8().constData());

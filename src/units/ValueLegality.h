@@ -6,18 +6,18 @@
 #include <QString>
 #include <QStringView>
 
-/// Whether a value lies in its range, and what the user reads when it does not.
+/// Whether a value is in its range, and the message to the user if not.
 namespace KVCAM::UIAPI::ValueLegality {
 
-/// The bounds belong to the range and there is no tolerance: 3 mil is 76.199999999999989 micrometres, so 76.2
-/// lies above it. NaN lies in every range, and every value in one whose bounds are NaN.
+/// The bounds are inclusive and there is no tolerance: 3 mil is 76.199999999999989 micrometres, so 76.2 is
+/// above it. NaN is in every range, and every value is in a range whose bounds are NaN.
 constexpr bool isWithin(double value, double minimum, double maximum) noexcept
 {
     return !(minimum > value || value > maximum);
 }
 
-/// Whether `accept` takes the value of every number run of a name, asked in order up to the first it refuses.
-/// Counts and angles are numbers like lengths.
+/// Whether `accept` accepts the value of every number run of a name, in order, stopping at the first
+/// rejection. Counts and angles are numbers like lengths.
 template <class Accept>
 bool everyNumber(QStringView name, Accept const & accept)
 {
@@ -30,9 +30,9 @@ bool everyNumber(QStringView name, Accept const & accept)
     return true;
 }
 
-/// What is said of a value outside bounds that are given as texts, translated as a whole.
+/// The message for a value outside bounds given as texts, translated as a whole.
 QString lengthMessage(QString const & minimum, QString const & maximum);
-/// What is said of a plain number outside its bounds, translated as a whole.
+/// The message for a plain number outside its bounds, translated as a whole.
 QString numberMessage(double value, double minimum, double maximum);
 
 } // namespace KVCAM::UIAPI::ValueLegality

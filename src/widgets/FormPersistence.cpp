@@ -16,7 +16,7 @@
 namespace KVCAM::UIAPI::FormPersistence {
 namespace {
 
-// The class name was compared, so the object is what the row says.
+// Safe: the class name was compared, so the object has the row's type.
 template <class Widget>
 Widget & as(QObject & object)
 {
@@ -53,7 +53,7 @@ void setChecked(QObject & object, QJsonValue const & value)
     as<QCheckBox>(object).setChecked(value.toBool(false));
 }
 
-// Saved by id and restored by position: the two agree only while the ids are 0, 1, 2, ...
+// Saved by id, restored by position: these agree only if the ids are 0, 1, 2, ...
 QJsonValue checkedId(QObject & object)
 {
     return as<QButtonGroup>(object).checkedId();
@@ -81,7 +81,7 @@ constexpr Row rows[] = {
     {"QButtonGroup", checkedId, checkButtonAt},
 };
 
-// The exact name: a subclass with a name of its own has no row.
+// The exact name: a subclass with its own class name has no row.
 Row const * rowOf(QObject const * object)
 {
     if (object == nullptr) {

@@ -16,7 +16,7 @@ KVFileDialog::KVFileDialog(QWidget * parent) : QFileDialog(parent, QString(), QS
     // Qt may look for a child of this name to connect the slot to when it builds its widgets below.
     selectAll->setObjectName(QStringLiteral("m_ChooseAllPB"));
 
-    // Only Qt's own dialog has child widgets to be found.
+    // Only Qt's own dialog has child widgets.
     setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontUseCustomDirectoryIcons);
 
     auto * list = findChild<QListView *>(QStringLiteral("ListView"));
@@ -56,13 +56,13 @@ void KVFileDialog::setAsksBeforeReplacing(bool asks)
     m_asksBeforeReplacing = asks;
 }
 
-// False also when the dialog was deleted while it asked.
+// Also false if the dialog was deleted during the question.
 bool KVFileDialog::mayReplace()
 {
     if (!m_asksBeforeReplacing || acceptMode() != AcceptSave) {
         return true;
     }
-    constexpr int mostNames = 10; // or the box may not fit the screen
+    constexpr int mostNames = 10; // more might not fit on the screen
     QStringList names;
     for (QString const & path : selectedFiles()) {
         QFileInfo const file(path);
@@ -91,7 +91,7 @@ void KVFileDialog::accept()
     }
     QPointer<KVFileDialog> const alive(this);
     bool const wasUnconfirmed = testOption(DontConfirmOverwrite);
-    setOption(DontConfirmOverwrite); // nothing is asked twice
+    setOption(DontConfirmOverwrite); // avoids a second question
     QFileDialog::accept();
     if (alive) {
         setOption(DontConfirmOverwrite, wasUnconfirmed);

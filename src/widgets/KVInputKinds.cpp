@@ -29,11 +29,11 @@ constexpr std::array<InputKind, 11> inputKinds{{
      QT_TRANSLATE_NOOP(
          "KVCAM::UIAPI::KVLineEdit",
          "Type a symbol name such as r10 or rect20x30: lower-case letters, digits and _ . + -")},
-    // The blanks beside the bars are part of the pattern, so only names with such a blank are taken ("r1 ").
+    // The blanks around the bars are part of the pattern, so only names with such a blank match ("r1 ").
     {8, UnitTracking::Symbol, R"([r][1-9]{1,6} | [r][1-9][0-9]{0,5}[.][0-9]{1,6} | [r0.][0-9]{1,6})",
      QT_TRANSLATE_NOOP("KVCAM::UIAPI::KVLineEdit",
                        "Type a round symbol: r, up to six digits 1 to 9 and a blank.")},
-    // {1-6} is no repetition, so the pattern does not compile and everything typed is refused.
+    // {1-6} is not a valid repetition: the pattern does not compile, and all typed input is rejected.
     {9, UnitTracking::Symbol, R"([s0.][0-9]{0,2} | [s][1-9]{1-6} | [s][1-9][0-9]{0,5}[.][0-9]{1,2})",
      QT_TRANSLATE_NOOP("KVCAM::UIAPI::KVLineEdit", "Nothing can be typed here.")},
     {10, UnitTracking::None, R"(^[a-zA-Z0-9~`!@#$%&^()_+={}*,.;']{1,36}$)",

@@ -7,7 +7,7 @@
 
 namespace KVCAM::UIAPI {
 
-/// A label with three free texts of the dialog's own. They carry no behaviour: dialogs tag a label with them
+/// A label with three free texts for use by the dialog. They have no behaviour: dialogs tag a label with them
 /// and read them back, also as Qt properties.
 class UIAPICOMMON_EXPORT KVLabel : public QLabel
 {
@@ -18,7 +18,7 @@ class UIAPICOMMON_EXPORT KVLabel : public QLabel
 
 public:
     ///@{
-    /// As the base.
+    /// Same as the base.
     explicit KVLabel(QWidget * parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     explicit KVLabel(QString const & text, QWidget * parent = nullptr,
                      Qt::WindowFlags flags = Qt::WindowFlags());
@@ -26,7 +26,7 @@ public:
     ~KVLabel() override;
 
     ///@{
-    /// Empty until set. A setter leaves its argument as it is.
+    /// Empty until set. A setter does not change its argument.
     QString getAttribute1() const;
     QString getAttribute2() const;
     QString getAttribute3() const;

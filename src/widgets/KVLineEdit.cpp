@@ -15,8 +15,8 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-// setText() that emits at its end: a slot may then delete the field, which QLineEdit does not survive while
-// its own setText() runs.
+// setText() that emits at its end, so that a slot may delete the field. QLineEdit does not survive that
+// during its own setText().
 void showText(KVLineEdit & field, QString const & text)
 {
     QPointer<KVLineEdit> const alive(&field);
@@ -35,7 +35,7 @@ void showText(KVLineEdit & field, QString const & text)
     if (alive && wasSelected) {
         emit field.selectionChanged();
     }
-    // Not when a slot has moved the cursor, which was told already.
+    // Not if a slot moved the cursor: that was already signalled.
     if (alive && cursor != cursorBefore && field.cursorPosition() == cursor) {
         emit field.cursorPositionChanged(cursorBefore, cursor);
     }
@@ -55,13 +55,13 @@ KVLineEdit::KVLineEdit(KVERegExp kind, QWidget * parent) : KVLineEdit(parent)
     restrictTo(kind);
 }
 
-// The text comes last, so that it is recorded; a text that the kind would refuse is shown all the same.
+// The text is set last so that it is recorded; text that the kind would reject is shown anyway.
 KVLineEdit::KVLineEdit(QString const & text, KVERegExp kind, QWidget * parent) : KVLineEdit(kind, parent)
 {
     setText(text);
 }
 
-// The bases' destructors still emit (the focus leaves, destroyed()), and a slot may then change the view.
+// The base destructors still emit signals (focus loss, destroyed()), and a slot may then change the view.
 KVLineEdit::~KVLineEdit()
 {
     for (QMetaObject::Connection const * own : {&d->recording, &d->judging, &d->following, &d->refusals}) {
@@ -70,7 +70,7 @@ KVLineEdit::~KVLineEdit()
     delete d;
 }
 
-// A kind outside the table gets an empty pattern, which accepts nothing typed.
+// A kind outside the table gets an empty pattern, which accepts no typed input.
 void KVLineEdit::insertLimit()
 {
     InputKind const * const row = inputKind(d->kind);
@@ -131,7 +131,7 @@ void KVLineEdit::changeunit(int const & unit)
         QString & wanted = inch ? d->inchSymbol : d->metricSymbol;
         if (wanted.isEmpty()) {
             QString converted = inch ? d->metricSymbol : d->inchSymbol;
-            // Unit 0 in both directions, so the lengths are always divided.
+            // Unit 0 in both directions: the lengths are always divided.
             setSymbolUIData(converted, Units::inch);
             wanted = converted;
         }
@@ -142,7 +142,7 @@ void KVLineEdit::changeunit(int const & unit)
         break;
     }
     if (alive) {
-        judge(); // the words have the bounds in the unit shown, and the text need not have changed
+        judge(); // the message shows the bounds in the displayed unit, and the text may be unchanged
     }
 }
 

@@ -1,4 +1,4 @@
-// The additions of KVLineEdit: exact values, ranges, following a view, explaining refused keys.
+// The additions of KVLineEdit: exact values, ranges, following a view, explaining rejected keys.
 
 #include "support/Narrowing.h"
 #include "uiapi/Notifier.h"
@@ -26,7 +26,7 @@ constexpr double smallPerLarge = 1000.0; // mil in an inch, micrometres in a mil
 
 } // namespace
 
-// The tracked text that was typed, not computed.
+// The tracked text as typed, not the computed one.
 QString KVLineEdit::typedText() const
 {
     bool const inch = d->typedUnit == Units::inch;
@@ -36,8 +36,8 @@ QString KVLineEdit::typedText() const
     return inch ? d->inchNumber : d->metricNumber;
 }
 
-// The number that counts and the unit it is in. A tracked number was typed in one unit, whichever is shown;
-// an expression's text stays through a switch, so it means what the view's unit makes of it.
+// The effective number and its unit. A tracked number was typed in one unit, whichever is displayed. An
+// expression's text does not change on a switch, so it is in the view's unit.
 std::optional<KVLineEdit::Quantity> KVLineEdit::quantity() const
 {
     if (d->tracking() == UnitTracking::Number) {
@@ -100,7 +100,7 @@ void KVLineEdit::clearRange()
     judge();
 }
 
-// The words of an illegal value: the bounds in the unit shown, at the scale of the field.
+// The message for an illegal value: the bounds in the displayed unit, at the field's scale.
 QString KVLineEdit::rangeWords(int unit) const
 {
     bool const isLarge = d->scale == Large && d->tracking() != UnitTracking::Symbol;
@@ -110,7 +110,7 @@ QString KVLineEdit::rangeWords(int unit) const
                                         Units::milText(unit, d->range->maximum / scale, decimals));
 }
 
-// What was typed is judged in its own unit, so that rounding in the other one never turns a verdict.
+// Check the input in the unit it was typed in, so that rounding in the other unit never changes a verdict.
 Ext::ValueVerdict KVLineEdit::verdict() const
 {
     Ext::ValueVerdict verdict;
@@ -150,7 +150,7 @@ void KVLineEdit::judge()
     if (isPropertyStale) {
         setProperty(validProperty, isMarked ? QVariant(now.legal) : QVariant());
         if (alive) {
-            // A style sheet looks at a property only when the widget is polished.
+            // Style sheets read a property only when the widget is polished.
             style()->unpolish(this);
             style()->polish(this);
         }
@@ -183,7 +183,7 @@ void KVLineEdit::setFollowView(bool follow)
                                    changeunit(getUnit(d->owner));
                                }
                            });
-    // The view may have changed since the text was typed. A text without a unit needs no view to be asked.
+    // The view may have changed since the text was typed. Text without a unit needs no view look-up.
     if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
         changeunit(getUnit(d->owner));
     }

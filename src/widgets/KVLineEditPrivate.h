@@ -24,8 +24,8 @@ struct KVLineEdit::Private
     QString inchNumber;
     QString metricSymbol;
     QString inchSymbol;
-    bool isChanging = false;   // changeunit() is rewriting the text, which is not to be recorded
-    QWidget * owner = nullptr; // the view handle: compared, never followed
+    bool isChanging = false;   // changeunit() is rewriting the text; do not record it
+    QWidget * owner = nullptr; // the view handle: compared, never dereferenced
     KVERegExp kind = KVERegExp(0);
     QMetaObject::Connection recording;
 
@@ -35,11 +35,11 @@ struct KVLineEdit::Private
         double minimum;
         double maximum;
     };
-    int typedUnit = Units::inch;  // of what was typed last
-    std::optional<int> shownUnit; // unknown until a text is recorded or a unit is asked for
+    int typedUnit = Units::inch;  // of the last typed text
+    std::optional<int> shownUnit; // unknown until a text is recorded or a unit is requested
     LengthScale scale = Small;
     std::optional<Range> range;
-    Ext::ValueVerdict verdict; // as told last
+    Ext::ValueVerdict verdict; // as last reported
     bool isMarked = false;     // the dynamic property is set
     QMetaObject::Connection judging;
     QMetaObject::Connection following;

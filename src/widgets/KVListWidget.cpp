@@ -4,7 +4,7 @@ KVListWidget::KVListWidget(QWidget * parent) : QListWidget(parent) {}
 
 KVListWidget::~KVListWidget() = default;
 
-// Hiding is all that happens: the base's handling of a lost focus does not run.
+// Only hides: the base's focus-out handling does not run.
 void KVListWidget::focusOutEvent(QFocusEvent *)
 {
     hide();

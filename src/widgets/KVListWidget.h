@@ -4,13 +4,13 @@
 
 #include <QListWidget>
 
-/// A pop-up list: it hides itself as soon as the focus leaves it.
+/// A pop-up list that hides itself when it loses focus.
 class UIAPICOMMON_EXPORT KVListWidget : public QListWidget
 {
     Q_OBJECT
 
 public:
-    /// Empty, as its base.
+    /// Empty, like the base.
     explicit KVListWidget(QWidget * parent = nullptr);
     ~KVListWidget() override;
 

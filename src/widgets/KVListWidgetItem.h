@@ -6,25 +6,25 @@
 #include <QListWidgetItem>
 #include <QString>
 
-/// A list item that carries three icons, of which it shows the first, and one text of the dialog's own.
+/// A list item with three icons, of which it shows the first, and one text for use by the dialog.
 class UIAPICOMMON_EXPORT KVListWidgetItem : public QListWidgetItem
 {
 public:
-    /// Appends itself to `parent`, which then owns it; type 0. With null it stands alone.
+    /// Appends itself to `parent`, which then owns it; type 0. With null it belongs to no list.
     explicit KVListWidgetItem(QListWidget * parent = nullptr);
-    /// Copies icons and user data with what the base copies; the copy is in no list.
+    /// Copies the icons, the user data and what the base copies; the copy belongs to no list.
     KVListWidgetItem(KVListWidgetItem const & other);
-    /// The same; the item stays in its list.
+    /// Same; the item stays in its list.
     KVListWidgetItem & operator=(KVListWidgetItem const & other);
     ~KVListWidgetItem() override;
 
-    /// A copy made with new, as by the copy constructor; the caller's.
+    /// A heap-allocated copy, made by the copy constructor and owned by the caller.
     KVListWidgetItem * clone() const override;
 
     /// Keeps all three and shows the first.
     void setItemIcon(QIcon const & first, QIcon const & second, QIcon const & third);
     ///@{
-    /// A text of the dialog's own; empty until set.
+    /// A text for use by the dialog; empty until set.
     QString getItemUserData() const;
     void setItemUserData(QString const & data);
     ///@}

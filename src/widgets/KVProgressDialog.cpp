@@ -17,8 +17,8 @@ bool KVProgressDialog::isDialogStop() const
     return m_isStopped;
 }
 
-// The base cancels on Escape through a shortcut, which no key handler sees: accepting the override makes it
-// an ordinary key again.
+// The base cancels on Escape through a shortcut, which key handlers never see. Accepting the override makes
+// Escape an ordinary key.
 bool KVProgressDialog::event(QEvent * event)
 {
     if (event->type() == QEvent::ShortcutOverride &&
@@ -34,7 +34,7 @@ void KVProgressDialog::keyPressEvent(QKeyEvent * event)
     if (event->key() == Qt::Key_Escape) {
         return;
     }
-    // Past QDialog: no key is to press a button or close the dialog.
+    // Bypass QDialog: no key may press a button or close the dialog.
     QWidget::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 

@@ -5,16 +5,15 @@
 #include <QProgressDialog>
 #include <QString>
 
-/// A progress dialog that Escape does not cancel and F1 stops: the working loop polls isDialogStop().
+/// A progress dialog that is stopped by F1, not cancelled by Escape. The working loop polls isDialogStop().
 class UIAPICOMMON_EXPORT KVProgressDialog : public QProgressDialog
 {
     Q_OBJECT
 
 public:
-    /// Empty, as its base.
+    /// Empty, like the base.
     explicit KVProgressDialog(QWidget * parent = nullptr);
-    /// Uses the parent alone. Texts, range and flags are set afterwards through the setters of
-    /// QProgressDialog.
+    /// Uses only the parent. Set texts, range and flags afterwards through the setters of QProgressDialog.
     KVProgressDialog(QString const & labelText, QString const & cancelButtonText, int minimum, int maximum,
                      QWidget * parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~KVProgressDialog() override;
@@ -23,11 +22,11 @@ public:
     bool isDialogStop() const;
 
 protected:
-    /// As the base, keys aside.
+    /// Same as the base, except for keys.
     bool event(QEvent * event) override;
-    /// Swallows Escape; other keys do only what they do in a plain widget.
+    /// Swallows Escape; other keys act as in a plain widget.
     void keyPressEvent(QKeyEvent * event) override;
-    /// F1 stops.
+    /// Stops on F1.
     void keyReleaseEvent(QKeyEvent * event) override;
 
 private:

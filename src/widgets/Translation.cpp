@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-// The resource stands in a library, whose initialiser may have been left out. The macro cannot stand in a
-// namespace, an unnamed one included.
+// The resource is part of a library, and the linker may drop its initialiser. The macro must not be used
+// inside a namespace, not even an unnamed one.
 static void registerCatalogues()
 {
     Q_INIT_RESOURCE(uiapicommon_translations);
@@ -25,7 +25,7 @@ bool installTranslation(LANGUAGE_MODE language)
             return false;
         }
     }
-    QCoreApplication::removeTranslator(chinese); // or it would be installed twice
+    QCoreApplication::removeTranslator(chinese); // otherwise it would be installed twice
     return language != LANGUAGE_CHINESE || QCoreApplication::installTranslator(chinese);
 }
 

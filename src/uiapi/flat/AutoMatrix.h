@@ -10,19 +10,19 @@
 /// The auto-matrix templates: how the roles of layers are recognised from their names.
 namespace KVCAM::UIAPI {
 
-/// All templates by index. Shipped ones count from 0, the user's from 2; a user's template whose index is
-/// taken is left out.
+/// All templates by index. Shipped ones start at 0, the user's at 2; a user template whose index is taken is
+/// skipped.
 UIAPICOMMON_EXPORT std::map<int, AutoMatrixTmp> getAutoMatrixTmpMap();
 /// The selected template; at start a copy of the one with the smallest index, empty if there is none.
 UIAPICOMMON_EXPORT AutoMatrixTmp getCurrentAutoMatrixTmp();
 /// In memory only.
 UIAPICOMMON_EXPORT void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl);
 /// Stores the template under the index, replacing one that is there, and writes it to the file "autoMatrix/"
-/// + name + ".json" below the current directory. A file that cannot be opened, and a name that would leave
-/// the folder, give an information box "File open failed". The selected template does not change.
+/// + name + ".json" below the current directory. If the file cannot be opened or the name would leave the
+/// folder, an information box "File open failed" is shown. The selected template does not change.
 UIAPICOMMON_EXPORT void saveCurrentAutoMatrixTmp(int index, QString name, AutoMatrixTmp const & tmpl);
-/// Removes the template of this index and the user's file of this name; silent where there is none. The
-/// selected template does not change.
+/// Removes the template of this index and the user's file of this name; silent if there is none. The selected
+/// template does not change.
 UIAPICOMMON_EXPORT void deleteAutoMatrix(int index, QString name);
 /// The smallest index of a template of this name, compared byte for byte as UTF-8; -1 if there is none.
 UIAPICOMMON_EXPORT int getAutomatrixMatrixIndex(QString name);

@@ -5,8 +5,8 @@
 #include "support/Log.h"
 #include "uiapi/UIAPICommonPara.h"
 
-/// What the flat functions are made of. Each obtains its singleton, calls the like-named method and returns
-/// its result; an exception is logged and ends here.
+/// Building blocks of the flat functions. Each function gets its singleton, calls the method of the same name
+/// and returns its result. An exception is caught and logged here.
 namespace KVCAM::UIAPI::Flat {
 
 template <class Body>
@@ -23,7 +23,7 @@ auto onGlobalVar(Body && body, int line = __builtin_LINE())
         Log::globalVar, [&] { return body(*UIAPIGlobalVar::instance()); }, line);
 }
 
-/// One field of a record that a getter of UIAPICommonPara copies out. The record starts with its defaults, so
+/// One field of a record copied out by a getter of UIAPICommonPara. The record starts with its defaults, so
 /// an unknown view, which the getter logs, yields the field's default.
 template <class Record, class Value>
 Value readField(void const * view, void (UIAPICommonPara::*get)(void const *, Record &) const,

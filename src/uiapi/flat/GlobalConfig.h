@@ -7,25 +7,24 @@
 #include <string>
 #include <vector>
 
-/// The global settings of "server.json", the real box and the list of open jobs. A setting that the file does
-/// not hold is empty, 0 or false; what failed at the start is in the log only.
+/// The global settings of "server.json", the real box and the list of open jobs. A setting missing from the
+/// file is empty, 0 or false; failures at start are only logged.
 namespace KVCAM::UIAPI {
 
 ///@{
-/// A setting of "server.json"; empty, 0 or false where it holds none. Its unit or code is its consumers'
-/// business.
+/// A setting of "server.json"; empty, 0 or false if missing. Its consumers define its unit or code.
 UIAPICOMMON_EXPORT std::string getServerIP();
 UIAPICOMMON_EXPORT int getServerPort();
 UIAPICOMMON_EXPORT std::string getClientIP();
 UIAPICOMMON_EXPORT int getTimeout();
 UIAPICOMMON_EXPORT int getThreadCount();
 ///@}
-/// Saves the settings and then pushes the count to the engine. A file that cannot be written stays as it was,
-/// unless the disk is full and the directory takes no new file; a missing configuration directory is logged
-/// at WARNING and created, and nothing is written.
+/// Saves the settings and then pushes the count to the engine. A file that cannot be written stays unchanged,
+/// unless the disk is full and the directory does not accept a new file. A missing configuration directory is
+/// logged at WARNING and created, and nothing is written.
 UIAPICOMMON_EXPORT void setThreadCount(int count);
 ///@{
-/// Settings of "server.json", as those above.
+/// More settings of "server.json", as above.
 UIAPICOMMON_EXPORT std::string getDBPath();
 UIAPICOMMON_EXPORT std::string getSharePath();
 UIAPICOMMON_EXPORT int getOS();
@@ -39,7 +38,7 @@ UIAPICOMMON_EXPORT double getShiftConfict();
 UIAPICOMMON_EXPORT bool getPythonHome();
 
 ///@{
-/// The real box, a polygon in micrometres, as it was set; empty at start. Not persisted.
+/// The real box, a polygon in micrometres, as set; initially empty. Not persisted.
 UIAPICOMMON_EXPORT std::vector<KVCAM::API::point> getRealBox();
 UIAPICOMMON_EXPORT void setRealBox(std::vector<KVCAM::API::point> const & box);
 ///@}

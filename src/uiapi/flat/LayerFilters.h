@@ -10,9 +10,8 @@
 namespace KVCAM::UIAPI {
 
 /// The names of a job's layers that analysis and DFM checks read, in matrix order: context "board" and type
-/// signal, power_ground, mixed, solder_mask, silk_screen, solder_paste, drill or rout. They are those of
-/// every step. Empty for an empty job name, which is not asked for, and for one that the engine does not
-/// know.
+/// signal, power_ground, mixed, solder_mask, silk_screen, solder_paste, drill or rout. The same for every
+/// step. Empty for an unknown job and for an empty job name, for which the engine is not asked.
 UIAPICOMMON_EXPORT std::vector<std::string> getAnalyzeAndDFMLayers(QString const & job, QString const & step);
 
 } // namespace KVCAM::UIAPI

@@ -2,7 +2,7 @@
 
 #include "UIAPICommonExport.h"
 
-/// The keyboard modifiers that the application saw last, compared as whole masks. No singleton is created.
+/// The keyboard modifiers last seen by the application, compared as whole masks. No singleton is created.
 namespace KVCAM::UIAPI {
 
 /// Exactly Control, or exactly Control with Shift.

@@ -7,11 +7,11 @@
 /// Commands for the host's plug-in modules.
 namespace KVCAM::UIAPI {
 
-/// Hands a command to each module that has a route for exactly this command and key (see
-/// UIAPICommonPara::addPluginRoute()), in the order of adding, through the host's plug-in manager. `data`
-/// stays the caller's and is passed on as it is. Without a route logs "Route map don't find " and the
-/// command; a manager that throws is logged, and the next module still told; without a manager "KVCAM UIAPI
-/// setPluginCmd error" is logged.
+/// Passes a command to each module with a route for exactly this command and key (see
+/// UIAPICommonPara::addPluginRoute()), in the order added, through the host's plug-in manager. `data` stays
+/// owned by the caller and is passed on unchanged. Without a route, logs "Route map don't find " and the
+/// command. If the manager throws, that is logged and the next module is still called. Without a manager,
+/// logs "KVCAM UIAPI setPluginCmd error".
 UIAPICOMMON_EXPORT void setPluginCmd(int command, std::string const & key, void * data);
 
 } // namespace KVCAM::UIAPI

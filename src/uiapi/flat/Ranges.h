@@ -12,19 +12,19 @@
 /// independent.
 namespace KVCAM::UIAPI {
 
-/// Replaces `out` by the records of a range file (its name without ".json") in file order; none for a file
+/// Replaces `out` with the records of a range file (its name without ".json") in file order; none for a file
 /// that was not read.
 UIAPICOMMON_EXPORT void getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out);
-/// The smallest number of the category of this name; -1 when the table or the name is unknown.
+/// The smallest number of the category of this name; -1 if the table or name is unknown.
 UIAPICOMMON_EXPORT int getRangesEnum(std::string const & tableName, std::string const & categoryName);
-/// The category's name; empty when the table or the number is unknown.
+/// The category's name; empty if the table or number is unknown.
 UIAPICOMMON_EXPORT std::string getRangesName(std::string const & tableName, int number);
-/// Sets "RedLv", "YellowLv" or "GreenLv" of the first category of this name, in memory alone. Anything
-/// unknown changes nothing.
+/// Sets "RedLv", "YellowLv" or "GreenLv" of the first category of this name, in memory only. Unknown names
+/// change nothing.
 UIAPICOMMON_EXPORT void changeRangesValue(std::string const & rangeName, std::string const & categoryName,
                                           std::string const & levelName, double value);
 /// Appends the base names (up to the first ".") of the files in "./ERFconfig/" + folder, in no order. Nothing
-/// where there is no such directory, and for a folder of which a component is "..".
+/// if there is no such directory, or for a folder with a component "..".
 UIAPICOMMON_EXPORT void getERFList(std::string folder, std::vector<std::string> & names);
 
 } // namespace KVCAM::UIAPI

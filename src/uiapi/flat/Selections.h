@@ -4,7 +4,7 @@
 
 /// Single fields of a view's Selection and select_info. A setter reads the record, changes the field, stores
 /// the record and pushes it to the engine; for an unknown view the getter's ERROR line is followed by "KVCAM
-/// UIAPI setSelection error". The field getters yield the default for an unknown view.
+/// UIAPI setSelection error". The field getters return the default for an unknown view.
 namespace KVCAM::UIAPI {
 
 ///@{
@@ -18,11 +18,11 @@ UIAPICOMMON_EXPORT void setSelectionTouching(void const * view, bool value);
 UIAPICOMMON_EXPORT bool getSelectionTouching(void const * view);
 ///@}
 
-/// The setting of "server.json"; false where it holds none. No view is concerned.
+/// The setting of "server.json"; false if missing. Not per view.
 UIAPICOMMON_EXPORT bool getSelectionOutsideHint();
-/// Saves the settings. A file that cannot be written stays as it was, unless the disk is full
-/// and the directory takes no new file; a missing configuration directory is
-/// logged at WARNING and created, and nothing is written.
+/// Saves the settings. A file that cannot be written stays unchanged, unless the disk is full and the
+/// directory does not accept a new file. A missing configuration directory is logged at WARNING and created,
+/// and nothing is written.
 UIAPICOMMON_EXPORT void setSelectionOutsideHint(bool value);
 
 ///@{

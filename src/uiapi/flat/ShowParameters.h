@@ -2,10 +2,10 @@
 
 #include "UIAPICommonExport.h"
 
-/// Single fields of a view's show parameters. A getter yields the field's default for an unknown view; a
-/// setter reads the record, changes the field, stores the record and pushes it to the engine, also when the
-/// value is the same. For an unknown view a getter logs "KVCAM UIAPI getShowPara error", a setter that and
-/// then "KVCAM UIAPI setSelection error".
+/// Single fields of a view's show parameters. A getter returns the field's default for an unknown view. A
+/// setter reads the record, changes the field, stores the record and pushes it to the engine, even if the
+/// value is unchanged. For an unknown view a getter logs "KVCAM UIAPI getShowPara error"; a setter logs that
+/// and then "KVCAM UIAPI setSelection error".
 namespace KVCAM::UIAPI {
 
 ///@{

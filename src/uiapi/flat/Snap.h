@@ -10,7 +10,7 @@ namespace KVCAM::UIAPI {
 UIAPICOMMON_EXPORT SNAP_TYPE_MODE getSnapType(void const * view);
 /// An unknown view is logged twice, as "getSnapControl" and "setSnapControl".
 UIAPICOMMON_EXPORT void setSnapType(void const * view, SNAP_TYPE_MODE mode);
-/// The same operation as setSnapType().
+/// Same as setSnapType().
 UIAPICOMMON_EXPORT void setSnapMode(void const * view, SNAP_TYPE_MODE mode);
 /// 7 for an unknown view, which is logged as "getStepConfig".
 UIAPICOMMON_EXPORT SNAP_TYPE_MODE getSnapMode(void const * view);

@@ -70,7 +70,7 @@ void setCurrentLanguageMode(LANGUAGE_MODE & mode)
 
 namespace {
 
-// One value each for the process. The record holds strings, so it is made at first use.
+// One value each per process. The record holds strings, so it is created on first use.
 bool eqMode = false;
 bool eqVisible = false;
 bool edaGraphicVisible = false;

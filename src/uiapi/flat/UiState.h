@@ -11,7 +11,7 @@ class QWidget;
 namespace KVCAM::UIAPI {
 
 ///@{
-/// Kept in UIAPICommonPara; as its method of this name.
+/// Stored in UIAPICommonPara; see its method of this name.
 UIAPICOMMON_EXPORT QWidget * getInputPtr();
 UIAPICOMMON_EXPORT void setInputPtr(QWidget * widget);
 UIAPICOMMON_EXPORT QWidget * getSplitPtr();
@@ -27,8 +27,8 @@ UIAPICOMMON_EXPORT void setCurrentLanguageMode(LANGUAGE_MODE & mode);
 ///@}
 
 ///@{
-/// Kept in globals of the library, false, 0 or empty at load and for as long as the process; no singleton is
-/// created and nothing is logged. What the values mean is the business of the modules that share them.
+/// Stored in globals of the library for the life of the process; initially false, 0 or empty. No singleton is
+/// created and nothing is logged. The modules that share the values define their meaning.
 UIAPICOMMON_EXPORT bool getEQMode();
 UIAPICOMMON_EXPORT void setEQMode(bool value);
 UIAPICOMMON_EXPORT int getEQSelectionType();

@@ -6,7 +6,7 @@
 
 namespace KVCAM::UIAPI {
 
-// Needs no singleton and creates none.
+// Neither needs nor creates a singleton.
 void undo(QString const & job, QString const & step, QWidget * parent)
 {
     guarded(Log::commonPara, [&] { UndoCommand::run(job, step, parent); });

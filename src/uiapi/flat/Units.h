@@ -6,27 +6,28 @@
 
 #include <string>
 
-/// Values and their texts in the unit of a view. An unknown view logs "KVCAM UIAPI getShowPara error" and
-/// counts as an inch view. Values beyond the range of int, infinities and NaN stay defined.
+/// Values and their texts in the unit of a view. An unknown view logs "KVCAM UIAPI getShowPara error" and is
+/// treated as an inch view. Results are defined even for infinities, NaN and values beyond the range of int.
 namespace KVCAM::UIAPI {
 
-/// A value given in the other unit, in the view's: inch at 5 decimals (25.4 gives 1), else millimetre at 3.
+/// Converts from the other unit to the view's: inch at 5 decimals (25.4 gives 1), else millimetre at 3.
 UIAPICOMMON_EXPORT double getUnitData(void const * view, double value);
-/// A displayed value in the engine's nanometres (kind 0) or micrometres (kind 1); 0.0 for another kind.
+/// Converts a displayed value to the engine's nanometres (kind 0) or micrometres (kind 1); 0.0 for another
+/// kind.
 UIAPICOMMON_EXPORT double getUnitAPIData(void const * view, int kind, double value);
-/// In a metric view (unit 1) micrometres to mil for the kinds 0 and 1 and 0.0 for another kind; else the
-/// value.
+/// In a metric view (unit 1), micrometres to mil for kinds 0 and 1, 0.0 for another kind. In other views, the
+/// value itself.
 UIAPICOMMON_EXPORT double getUnitMilData(void const * view, int kind, double value);
-/// Micrometres in the view's large unit, unrounded.
+/// Micrometres to the view's large unit, unrounded.
 UIAPICOMMON_EXPORT double getUnitPointData(void const * view, double value);
-/// Mil in the view's small unit, truncated toward zero; saturates, NaN gives 0.
+/// Mil to the view's small unit, truncated toward zero; saturates, NaN gives 0.
 UIAPICOMMON_EXPORT int getUnitJudgeData(void const * view, double value);
 /// The view's small unit back to mil, truncated toward zero; saturates, NaN gives 0.
 UIAPICOMMON_EXPORT int getUnitJudgeData2(void const * view, double value);
-/// Mil in the view's small unit, unrounded.
+/// Mil to the view's small unit, unrounded.
 UIAPICOMMON_EXPORT double getUnitJudgeDouble(void const * view, double value);
-/// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most
-/// 1074; -128, QLocale::FloatingPointShortest: as many as the value needs; else negative: 6).
+/// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most 1074;
+/// -128, QLocale::FloatingPointShortest, gives as many as the value needs, any other negative value 6).
 UIAPICOMMON_EXPORT QString getUnitJudgeString(void const * view, double value, int precision);
 /// Micrometres as text in the large unit, 3 decimals.
 UIAPICOMMON_EXPORT QString getUnitJudgeStringMetric(void const * view, double value);

@@ -6,12 +6,12 @@
 #include <map>
 #include <string>
 
-/// Per-view record access and the push to the engine: each forwards to the like-named method of
-/// UIAPICommonPara, which documents messages and neutral results.
+/// Per-view record access and the push to the engine. Each function forwards to the method of the same name
+/// in UIAPICommonPara, which documents messages and neutral results.
 namespace KVCAM::UIAPI {
 
 ///@{
-/// As the method of this name.
+/// See the method of this name.
 UIAPICOMMON_EXPORT void getStepConfig(void const * view, Step_Config & out);
 UIAPICOMMON_EXPORT bool insertStepConfig(Step_Config const & config);
 UIAPICOMMON_EXPORT void getShowPara(void const * view, KVCAM::API::show_param & out);
@@ -38,7 +38,7 @@ UIAPICOMMON_EXPORT void setEditBufferFeatureInfo(void const * view,
                                                  std::map<std::string, FeatureList> const & features);
 /// Owned by the library.
 UIAPICOMMON_EXPORT LayerState * getLayerState();
-/// 0.0 when the kind and the number of points do not agree.
+/// 0.0 if the number of points does not match the kind.
 UIAPICOMMON_EXPORT double getMeasureValue(check_info const & info);
 
 /// Pushes show_param, Selection and select_info of a view; an unknown view is logged and shown in a box.
