@@ -57,7 +57,7 @@ protected:
     void const * view() const { return board().currentView()->handle(); }
     QString status() const { return find<QLabel>("hot keys").text(); }
     template <class Widget>
-    Widget & find(char const * name = "") const
+    Widget & find(char const * name = nullptr) const
     {
         return *window->findChild<Widget *>(name);
     }

@@ -1,13 +1,8 @@
 #include "SampleWindow.h"
-#include "board/BoardView.h"
+#include "checks/ResultsPage.h"
 #include "feature/FeatureDialog.h"
 #include "feature/PadGroup.h"
 #include "feature/RemarksGroup.h"
-#include "job/CommandLine.h"
-#include "job/Session.h"
-#include "ui/LogPane.h"
-#include "window/BoardPage.h"
-#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -120,12 +115,15 @@ TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)
 
 TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
 {
-    auto & width = field(openFeature(0), "width");
+    FeatureDialog & dialog = openFeature(0);
+    auto & width = field(dialog, "width");
     width.activateWindow();
     width.setFocus();
     QApplication::processEvents();
     type(width, "90000*2");
+    dialog.remarks().note().setFocus(); // which saves the form when it loses the focus
     window.reset();
+    EXPECT_FALSE(QFile::exists(formFile));
 }
 
 TEST_F(Windows, TypingASymbolCanBeUndone)
@@ -207,6 +205,7 @@ TEST_F(Windows, TheSymbolsPageFollowsTheLanguageAndTheShownStep)
     ASSERT_NE(steps, nullptr);
     steps->setCurrentIndex(1);
     EXPECT_TRUE(results->title().endsWith("MM")) << results->title().toStdString();
+    EXPECT_TRUE(window->results().findChild<QLabel *>("empty")->text().contains("step panel"));
 }
 
 } // namespace

@@ -1,10 +1,7 @@
-#include "TestFiles.h"
-#include "job/Session.h"
+#include "SampleWindow.h"
 #include "pages/EdaPage.h"
 #include "ui/JsonText.h"
 #include "ui/LanguageChange.h"
-#include "ui/LogPane.h"
-#include "window/MainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -279,32 +276,29 @@ TEST(EdaPages, TellsThatThereIsNoLinkWhereThePortIsTaken)
     EXPECT_TRUE(tool.waitForReadyRead(5000));
 }
 
-TEST(EdaPages, MnemonicsAreUniqueBesideThoseOfTheWindow)
+using EdaPagesOfAWindow = SampleWindow;
+
+TEST_F(EdaPagesOfAWindow, MnemonicsAreUniqueBesideThoseOfTheWindow)
 {
-    Session session;
-    ASSERT_EQ(session.open(sampleJob), "");
-    LogLines const log;
-    CommandLine commandLine;
-    commandLine.output = ".";
-    MainWindow window(session, log, commandLine);
-    ASSERT_TRUE(window.showPage("eda"));
+    open();
+    ASSERT_TRUE(window->showPage("eda"));
     for (LANGUAGE_MODE const language : {LANGUAGE_ENGLISH, LANGUAGE_CHINESE}) {
-        window.setLanguage(language);
+        window->setLanguage(language);
         QApplication::processEvents();
         QSet<QString> others;
-        auto const & pages = *qobject_cast<QTabWidget *>(window.centralWidget());
+        auto const & pages = *qobject_cast<QTabWidget *>(window->centralWidget());
         for (int i = 0; i < pages.count(); ++i) {
             others.insert(QKeySequence::mnemonic(pages.tabText(i)).toString());
         }
-        for (QAction const * action : window.menuBar()->actions()) {
+        for (QAction const * action : window->menuBar()->actions()) {
             others.insert(QKeySequence::mnemonic(action->text()).toString());
         }
-        for (auto const * button : window.findChildren<QToolButton *>()) {
+        for (auto const * button : window->findChildren<QToolButton *>()) {
             others.insert(QKeySequence::mnemonic(button->text()).toString());
         }
         others.remove(QString());
         QStringList own;
-        for (auto const * widget : window.findChild<EdaPage *>()->findChildren<QWidget *>()) {
+        for (auto const * widget : find<EdaPage>().findChildren<QWidget *>()) {
             bool const hasText = widget->inherits("QLabel") || widget->inherits("QPushButton");
             own.append(hasText ? QKeySequence::mnemonic(widget->property("text").toString()).toString()
                                : QString());
@@ -314,7 +308,7 @@ TEST(EdaPages, MnemonicsAreUniqueBesideThoseOfTheWindow)
         EXPECT_EQ(own.removeDuplicates(), 0);
         EXPECT_FALSE(QSet<QString>(own.begin(), own.end()).intersects(others)) << own.join(' ').toStdString();
     }
-    window.setLanguage(LANGUAGE_ENGLISH);
+    window->setLanguage(LANGUAGE_ENGLISH);
 }
 
 } // namespace

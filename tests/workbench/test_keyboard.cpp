@@ -1,8 +1,6 @@
 #include "SampleWindow.h"
-#include "TestFiles.h"
 #include "board/BoardView.h"
 #include "layers/LayerTable.h"
-#include "window/BoardPage.h"
 #include "window/CheatSheet.h"
 #include "window/HotkeyCommands.h"
 
@@ -11,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>

@@ -3,8 +3,6 @@
 #include "board/FeatureSelection.h"
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
-#include "layers/ReferencesPage.h"
-#include "window/BoardPage.h"
 
 #include <UIAPICommon.h>
 
@@ -125,7 +123,7 @@ TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn
     bar.ask({{"side", "inner"}});
     int ticks = 0;
     QObject::connect(&table, &LayerTable::ticksChanged, &table, [&ticks] { ++ticks; });
-    find<QCheckBox>().click();
+    bar.findChild<QCheckBox *>()->click();
     EXPECT_EQ(shownRows(table).count(' '), 24);
     EXPECT_EQ(greyRows(), 22);
     for (LANGUAGE_MODE const language : {LANGUAGE_CHINESE, LANGUAGE_ENGLISH}) {
@@ -137,7 +135,7 @@ TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn
     EXPECT_EQ(greyRows(), 0);
     EXPECT_EQ(ticks, 0);
 
-    find<QCheckBox>().click();
+    bar.findChild<QCheckBox *>()->click();
     table.setCurrentCell(0, 1);
     find<QPushButton>("for analysis").click();
     EXPECT_EQ(shownRows(table), "2 3 4 5 7 9 11 13 15 16 17 18 20 21 22 23");
@@ -274,6 +272,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     QPoint const middle = view.rect().center();
     QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);
     EXPECT_EQ(view.selected(), FeatureSelection::Set{feature});
+    EXPECT_EQ(status(), "selected features: 1");
     QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);
     EXPECT_TRUE(view.selected().empty()) << "the second click takes it out";
     QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, middle);

@@ -1,9 +1,7 @@
-#include "TestFiles.h"
+#include "SampleWindow.h"
 #include "board/BoardTexts.h"
-#include "board/BoardView.h"
 #include "board/FeatureShapes.h"
 #include "feature/PadSymbol.h"
-#include "job/Session.h"
 #include "pages/SettingsPage.h"
 #include "pages/TemplatesPage.h"
 
@@ -14,15 +12,12 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineF>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QSpinBox>
 
 #include <iterator>
-#include <memory>
 #include <utility>
 
 using namespace KVCAM::UIAPI;
@@ -98,36 +93,26 @@ TEST(PadSymbols, AreNotRestoredFromAnotherUnitOrSize)
     }
 }
 
-class Boards : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_EQ(session.open(sampleJob), "");
-        view = std::make_unique<BoardView>(session.job(), session.steps()[0].name, 0);
-        view->resize(800, 600);
-        auto const layer = static_cast<std::size_t>(session.firstCopperLayer(session.steps()[0].name));
-        view->showLayer(session.layers()[layer].info);
-    }
-
-    Session session;
-    std::unique_ptr<BoardView> view;
-};
+using Boards = SampleWindow;
 
 TEST_F(Boards, APlaceIsShownInTheUnitOfTheView)
 {
-    EXPECT_EQ(positionText(view->handle(), 25400, -12700), "x 1.000 y -0.500 inch");
-    setUnit(view->handle(), 1);
-    EXPECT_EQ(positionText(view->handle(), 25400, -12700), "x 25.400 y -12.700 mm");
+    open();
+    EXPECT_EQ(positionText(view(), 25400, -12700), "x 1.000 y -0.500 inch");
+    setUnit(view(), 1);
+    EXPECT_EQ(positionText(view(), 25400, -12700), "x 25.400 y -12.700 mm");
     EXPECT_EQ(KVCAM::Embedded::liveState().show.unit, 1);
 }
 
 TEST_F(Boards, TheLibraryHoldsThePointersPlace)
 {
+    open();
+    BoardView & shown = *board().currentView();
     auto const & box = *session.steps()[0].outline;
-    QMouseEvent move(QEvent::MouseMove, QPointF(400, 300), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(view.get(), &move); // the middle of the widget shows the middle of the board
-    coordinate const * place = getCoordinate(view->handle());
+    QMouseEvent move(QEvent::MouseMove, QRectF(shown.rect()).center(), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&shown, &move); // the middle of the widget shows the middle of the board
+    coordinate const * place = getCoordinate(view());
     ASSERT_NE(place, nullptr);
     EXPECT_NEAR(place->x, (box.left + box.right) / 2, 1e-6);
     EXPECT_NEAR(place->y, (box.bottom + box.top) / 2, 1e-6);

@@ -1,16 +1,9 @@
 #include "SampleWindow.h"
-#include "TestFiles.h"
-#include "board/BoardView.h"
 #include "checks/ResultFiles.h"
 #include "checks/ResultsPage.h"
 #include "feature/FeatureDialog.h"
-#include "job/CommandLine.h"
-#include "job/Session.h"
 #include "layers/LayerTable.h"
-#include "ui/LogPane.h"
-#include "window/BoardPage.h"
 #include "window/CheatSheet.h"
-#include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
 
@@ -163,6 +156,9 @@ TEST_F(MainWindows, ShortcutsAreFunctionKeysAndMnemonicsAreUnique)
 QStringList shownTexts(QWidget & window)
 {
     QStringList texts{window.windowTitle()};
+    for (auto const * action : window.findChildren<QAction *>()) {
+        texts.append(action->text());
+    }
     for (auto const * widget : window.findChildren<QWidget *>()) {
         for (char const * property : {"text", "title", "toolTip"}) {
             bool const isEdit = widget->inherits("QLineEdit") || widget->inherits("QComboBox");
@@ -208,6 +204,7 @@ TEST_F(MainWindows, ANegativePadStaysNegativeInTheOtherLanguage)
 {
     open();
     board().openFeature(0)->findChild<QComboBox *>("polarity")->setCurrentIndex(1);
+    board().closeFeature(); // saves the text of the polarity in English
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
     FeatureDialog const & again = *board().openFeature(0); // in place of the one before, which is saved
@@ -298,6 +295,7 @@ TEST_F(MainWindows, AreDeletedWhileTheyAskAndNothingIsDone)
              width.selectAll();
              QTest::keyClicks(&width, "90000*2");
              QTest::keyClick(&width, Qt::Key_Return);
+             EXPECT_NE(window, nullptr) << "the field is done with its key first";
              QApplication::processEvents();
          },
          1},

@@ -45,11 +45,10 @@ FeatureDialog::FeatureDialog(BoardView & view, int feature, std::string job, QSt
     m_opened = content();
 }
 
-// The base class hides the dialog again. A field that loses the focus then must have no effect.
+// The base class hides the dialog again. A note that loses the focus then must not save the form.
 FeatureDialog::~FeatureDialog()
 {
     m_remarks->note().disconnect(this);
-    m_pad->letGo();
 }
 
 QWidget * FeatureDialog::makeButtons()

@@ -141,16 +141,6 @@ void PadGroup::followView()
             });
 }
 
-void PadGroup::letGo()
-{
-    for (KVLineEdit * field : {m_name, m_offset}) {
-        field->disconnect(this);
-    }
-    for (SizeField * field : {m_width, m_height}) {
-        field->setModified(false);
-    }
-}
-
 // True while fields rewrite their texts for another unit, which is not an edit.
 bool PadGroup::isFollowing() const
 {

@@ -52,8 +52,6 @@ public:
     void showNames();
     /// Takes a legal size that is being typed, and drops an illegal one without a box.
     void settle();
-    /// Takes no more notice of the fields: the dialog is being destroyed.
-    void letGo();
 
     /// The fields that the library's form functions read and write.
     QList<QObject *> fields() const;
