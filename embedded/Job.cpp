@@ -38,7 +38,8 @@ std::vector<std::string> folderNames(QString const & folder)
 {
     std::vector<std::string> names;
     if (!folder.isEmpty()) {
-        for (QString const & name : entriesOf(folder, QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QStringList const names = entriesOf(folder, QDir::Dirs | QDir::NoDotAndDotDot);
+        for (QString const & name : names) {
             names.push_back(name.toStdString());
         }
     }

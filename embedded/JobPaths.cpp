@@ -13,7 +13,8 @@ QString find(QString const & folder, QString const & name, QDir::Filters filters
 {
     QDir const dir(folder);
     QString found;
-    for (QString const & entry : entriesOf(folder, filters | QDir::Hidden)) {
+    QStringList const entries = entriesOf(folder, filters | QDir::Hidden);
+    for (QString const & entry : entries) {
         if (entry == name) {
             return dir.filePath(entry);
         }

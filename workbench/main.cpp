@@ -120,7 +120,8 @@ int main(int argc, char ** argv)
         return fail(wrongConfiguration);
     }
     KVCAM::UIAPI::Ext::setKeepSettingsBackup(true);
-    KVCAM::UIAPI::Ext::setReadSavedSettingKeys(true); // what the settings page saves is there at the next start
+    KVCAM::UIAPI::Ext::setReadSavedSettingKeys(
+        true); // what the settings page saves is there at the next start
     KVCAM::UIAPI::Ext::setRemovalRoots({commandLine.output + "/workbench-session"});
     Workbench::readLayers(session);
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()

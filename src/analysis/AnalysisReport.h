@@ -39,8 +39,8 @@ struct ReportCategory
 {
     std::string table; ///< of the category dictionary, "DrillRanges"; `unifiedTable` for unified items
     int number = 0;    ///< of the category in the table, or of the unified item
-    std::string name;  ///< "Lines"; "#63" for a number that the table lacks
-    std::optional<Analysis_Ranges_Record> levels; ///< as setLevels() gave them
+    std::string name;  ///< "Lines"; "#63" for a number not in the table
+    std::optional<Analysis_Ranges_Record> levels; ///< as set by setLevels()
     SeverityCounts counts{};                      ///< of its entries
     std::vector<ReportEntry> entries;             ///< by layer, level and the engine's order
 };
@@ -50,16 +50,16 @@ struct NotChecked
 {
     std::string table;  ///< as in ReportCategory
     int number = 0;     ///< as in ReportCategory
-    std::string name;   ///< filled from the table when empty
+    std::string name;   ///< filled from the table if empty
     std::string reason; ///< one sentence, UTF-8
 };
 
-/// The table of what was filed by unified item, which the category dictionary does not have.
+/// The table of results filed by unified item. Not in the category dictionary.
 inline constexpr char const * unifiedTable = "UnifiedItems";
 
-/// What a run of the engine's checks found, by the exact category of each measurement and graded by the
-/// configured levels. It takes the raw replies, before they are filed in Unified_AnalysisResult, which
-/// gathers several categories under one item. A value: copies are independent, nothing is shared.
+/// The results of a run of the engine's checks, by the exact category of each measurement and graded by the
+/// configured levels. It takes the raw replies, before they are filed in Unified_AnalysisResult, which groups
+/// several categories under one item. A value type: copies are independent, nothing is shared.
 /// \since 0.1
 class AnalysisReport
 {
@@ -67,11 +67,11 @@ public:
     /// Names for the head of the written report, UTF-8.
     UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
 
-    // What is added goes to the categories that are there already. An item that was run and found nothing
-    // gives a category without entries.
+    // Additions go to existing categories. An item that was run and found nothing gives a category without
+    // entries.
 
-    /// Adds the items of "DrillRanges". The engine's reply cannot be walked, so other items are not seen, and
-    /// one without an entry gives no category.
+    /// Adds the items of "DrillRanges". The engine's reply cannot be iterated: other items are not seen, and
+    /// an item without an entry gives no category.
     UIAPICOMMON_EXPORT void
     addDrill(std::map<std::string, check_reply<drill_check_item, check_info>> const & replies);
     /// Adds the items of "SignalLayerRanges".
@@ -80,7 +80,7 @@ public:
     /// Adds unified items, under `unifiedTable`.
     UIAPICOMMON_EXPORT void
     addUnified(std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results);
-    /// Adds a check that was not run; a name that is left empty is filled from the table.
+    /// Adds a check that was not run; an empty name is filled from the table.
     UIAPICOMMON_EXPORT void addNotChecked(NotChecked check);
 
     /// Replaces the levels of a table and grades its entries again; what is added later is graded by them.
@@ -93,9 +93,9 @@ public:
     /// The unit of all levels.
     LevelUnit levelUnit() const { return m_unit; }
 
-    /// As setJobStep() gave it.
+    /// As set by setJobStep().
     std::string const & job() const { return m_job; }
-    /// As setJobStep() gave it.
+    /// As set by setJobStep().
     std::string const & step() const { return m_step; }
     /// In the order drill, signal, unified, within each by number. Valid until the report changes.
     std::vector<ReportCategory> const & categories() const { return m_categories; }
@@ -124,14 +124,14 @@ private:
     std::map<std::string, std::map<std::string, Analysis_Ranges_Record>> m_levels; // by table and name
 };
 
-/// The names of the category dictionary's tables, which are also the usual names of range files, in the
-/// order of the dictionary's making; `unifiedTable` is not among them.
+/// The names of the category dictionary's tables, usually also the names of range files, in the order of
+/// registration; `unifiedTable` is not among them.
 UIAPICOMMON_EXPORT std::vector<std::string> categoryTables();
 
 /// The level that gave an entry its severity, in the levels' unit; none for Severity::None.
 UIAPICOMMON_EXPORT std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry);
 
-/// How a report is written.
+/// The format of a written report.
 enum class ReportFormat : int
 {
     Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with

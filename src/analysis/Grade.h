@@ -34,21 +34,21 @@ enum class LevelUnit : int
     Micrometre
 };
 
-/// The severity of a value that has the unit of the levels. A value at a level has that level's severity, one
-/// between two levels that of the better one: with the levels 3, 4 and 5, smaller being worse, 3 is red, 3.5
-/// yellow, 5 green and 6 none. None where the value or a level is not finite, and where the levels do not
-/// stand in the order of the sense (levels may be equal): contradicting levels grade nothing.
+/// The severity of a value in the unit of the levels. A value at a level has that level's severity; a value
+/// between two levels has that of the better one. With levels 3, 4 and 5 and smaller being worse, 3 is red,
+/// 3.5 yellow, 5 green and 6 none. None if the value or a level is not finite, or if the levels are not in
+/// the order of the sense (levels may be equal): contradictory levels grade nothing.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT Severity grade(Analysis_Ranges_Record const & record, double value,
                                                 Sense sense);
 
-/// The sense in which the levels of a record stand: LargerIsWorse when the red level is above the green one,
-/// else SmallerIsWorse.
+/// The sense of a record's levels: LargerIsWorse if the red level is above the green one, else
+/// SmallerIsWorse.
 [[nodiscard]] UIAPICOMMON_EXPORT Sense senseOf(Analysis_Ranges_Record const & record);
 
-/// grade() of a measurement in micrometres by levels in `unit`, in the levels' own sense. The engine measures
-/// in whole micrometres, and levels are compared at that resolution: a track of 4 mil, measured as 102, is at
-/// the level 4 (101.6), not beyond it.
+/// grade() of a measurement in micrometres against levels in `unit`, in the levels' own sense. The engine
+/// measures in whole micrometres, and levels are compared at that resolution: a 4 mil track, measured as 102,
+/// is at level 4 (101.6), not beyond it.
 [[nodiscard]] UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record,
                                                         double micrometres, LevelUnit unit = LevelUnit::Mil);
 

@@ -157,7 +157,8 @@ void listErfFiles(std::string const & folder, std::vector<std::string> & names)
         return;
     }
     QDir const directory(QStringLiteral("./ERFconfig/") + path);
-    for (QString const & file : directory.entryList(QDir::Files | QDir::Hidden, QDir::Unsorted)) {
+    QStringList const files = directory.entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
+    for (QString const & file : files) {
         names.push_back(QFileInfo(file).baseName().toStdString());
     }
 }

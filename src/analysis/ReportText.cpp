@@ -44,7 +44,8 @@ char const * unitName(LevelUnit unit)
 QByteArray quoted(std::string const & text)
 {
     QByteArray out = "\"";
-    for (char const c : utf8(text)) {
+    QByteArray const bytes = utf8(text);
+    for (char const c : bytes) {
         if (c == '"' || c == '\\') {
             out += '\\';
             out += c;

@@ -12,8 +12,8 @@ namespace KVCAM::UIAPI {
 
 namespace Ext {
 
-/// Empties Unified_AnalysisResult between two jobs, as it was at the start: results, which kinds were filed,
-/// job and step, and the list of setLayerInfo(). GUI thread only.
+/// Resets Unified_AnalysisResult to its initial state between two jobs: results, which kinds were filed, job
+/// and step, and the list of setLayerInfo(). GUI thread only.
 /// \since 0.1
 UIAPICOMMON_EXPORT void clearUnifiedResults();
 

@@ -43,9 +43,9 @@ struct SettingField
     char const * writtenKey;
 };
 
-/// The settings in the order in which they are read. Four are written under another key than they are read
-/// from: what is saved there does not come back at the next start, and the files in the field count on it
-/// (unless Ext::setReadSavedSettingKeys() asks for more).
+/// The settings in the order in which they are read. Four are written under a key other than the one they are
+/// read from: a saved value does not come back at the next start, unless Ext::setReadSavedSettingKeys() is
+/// used. Files in the field rely on this.
 inline constexpr std::array<SettingField, 17> settingFields = {{
     {&ServerSettings::serverIp, "ServerIp", "ServerIp"},
     {&ServerSettings::clientIp, "ClientIp", "ClientIp"},

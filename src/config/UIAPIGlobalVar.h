@@ -63,11 +63,11 @@ public:
     bool getPythonHome() const;
 
     ///@{
-    /// Each assigns its setting and rewrites "server.json" whole. A file that cannot be written stays as it
-    /// was, without a log line; Ext::lastSettingsSave() tells. Where the configuration directory is missing,
-    /// a WARNING line is logged, the directory is created and nothing is written: the value reaches the file
-    /// with the next save. The layer copy suffix, the movement factor, the shift confict and the contour
-    /// accuracy are written under keys that are not read at the next start, unless
+    /// Each assigns its setting and rewrites "server.json" whole. A file that cannot be written stays
+    /// unchanged, without a log line; Ext::lastSettingsSave() reports it. If the configuration directory is
+    /// missing, a WARNING line is logged, the directory is created and nothing is written: the value reaches
+    /// the file with the next save. The layer copy suffix, the movement factor, the shift confict and the
+    /// contour accuracy are written under keys that are not read at the next start, unless
     /// Ext::setReadSavedSettingKeys() was called before it.
     void setServerIP(std::string const & ip);
     void setClientIP(std::string const & ip);

@@ -15,7 +15,7 @@ std::vector<Ext::RangeSource> Ext::loadedRangeFiles()
 
 Ext::Result Ext::saveRanges(std::string const & rangeName)
 {
-    // Of what throws, too, nobody may believe that it was saved.
+    // A caught exception must not look like a successful save.
     Result result{false,
                   QObject::tr("The file \"%1\" cannot be written.").arg(QString::fromStdString(rangeName))};
     Flat::onCommonPara(

@@ -32,18 +32,17 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// The ranges that were read, by name, ascending byte by byte. A name that is not among them was not read: no
-/// file has it, or its file is at fault (see diagnostics()) or holds no list. One that is there and of which
-/// getRanges() gives nothing has an empty list. Of two files of the same name the first that was read stands
-/// here.
+/// The ranges that were read, by name, ascending byte by byte. A missing name was not read: there is no such
+/// file, or the file is faulty (see diagnostics()) or holds no list. A listed name for which getRanges()
+/// gives nothing has an empty list. Of two files of the same name the first one read is listed.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT std::vector<RangeSource> loadedRangeFiles();
 
 /// Writes the levels that changeRangesValue() changed back into the file that the range was read from. Only
 /// these levels change, as texts in the shortest form that reads back equal; unknown keys and elements that
-/// are no records are kept. The file is replaced whole. Refused when the range was not read from a file, and
-/// when the file does not hold the categories that were read from it any more. Nothing to write counts as
-/// saved. The reason of a failure is translated. Nothing is logged.
+/// are not records are kept. The file is replaced as a whole. Rejected if the range was not read from a file,
+/// or if the file no longer holds the categories read from it. Nothing to write counts as saved. The reason
+/// of a failure is translated. Nothing is logged.
 [[nodiscard]] UIAPICOMMON_EXPORT Result saveRanges(std::string const & rangeName);
 
 } // namespace KVCAM::UIAPI::Ext

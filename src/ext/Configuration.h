@@ -23,8 +23,8 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// Which file of the user's a template stands in; nothing for a shipped template, an index without a
-/// template, and one that was never saved.
+/// The user's file that holds a template; nothing for a shipped template, an index without a template, and a
+/// template that was never saved.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT std::optional<AutoMatrixFile> autoMatrixFile(int index);
 

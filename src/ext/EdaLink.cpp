@@ -18,7 +18,7 @@ Ext::EdaLinkState Ext::edaLinkState()
 
 Ext::EdaSendResult Ext::sendEdaDataChecked(QJsonObject const & data)
 {
-    EdaSendResult result = EdaSendResult::SocketError; // should anything be thrown
+    EdaSendResult result = EdaSendResult::SocketError; // if anything throws
     onCommonPara([&](auto & para) { result = para.sendEdaDataChecked(data); });
     return result;
 }

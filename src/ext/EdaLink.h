@@ -18,12 +18,12 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// The process's link, to connect to its signals; not to be deleted. Null when there is none.
+/// The process's link, to connect to its signals; do not delete it. Null if there is none.
 /// \since 0.1
 UIAPICOMMON_EXPORT ConnectEDA * edaLink();
-/// Status of the link. The only place that tells of a port 2333 that another process has.
+/// Status of the link. The only place that shows that another process owns port 2333.
 [[nodiscard]] UIAPICOMMON_EXPORT EdaLinkState edaLinkState();
-/// sendEdaData(), and says what became of it.
+/// sendEdaData() with a result.
 [[nodiscard]] UIAPICOMMON_EXPORT EdaSendResult sendEdaDataChecked(QJsonObject const & data);
 
 } // namespace KVCAM::UIAPI::Ext

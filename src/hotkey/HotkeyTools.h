@@ -29,7 +29,7 @@ struct HotkeyBinding
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyBinding> hotkeyBindings();
 
-/// What can be odd about an element of the file or about the bindings.
+/// What can be wrong with an element of the file or with the bindings.
 enum class HotkeyFindingKind : int
 {
     Unreadable,      ///< the file cannot be read or is not JSON: loading it changes nothing
@@ -37,51 +37,51 @@ enum class HotkeyFindingKind : int
     UnknownFunction, ///< "func_name" names no function
     UnknownKey,      ///< "key", "key1" or "key2" names no key
     UnknownModifier, ///< "Modifier" names no modifier
-    KeyBesidePair,   ///< "key" stands beside "key1" and "key2"
+    KeyBesidePair,   ///< "key" appears together with "key1" and "key2"
     SameKeys,        ///< the keys are bound already; the first binding answers
     NeverFires,      ///< a plain key, or a sequence with keys that cannot form one
-    WithoutKey       ///< no keys give the function
+    WithoutKey       ///< no keys trigger the function
 };
 
-/// One odd thing. `where` is the place in the file, "[3].key1" or "[3]"; empty in hotkeyReport().
+/// One finding. `where` is the place in the file, "[3].key1" or "[3]"; empty in hotkeyReport().
 struct HotkeyFinding : Finding<HotkeyFindingKind>
 {
     int element = -1; ///< which element of the file, counting from 0; -1 for the whole
 };
 
-/// What is odd about the bindings that KVHotKey holds: keys bound twice, bindings that never fire, in the
-/// order of hotkeyBindings(), and then the functions without a key, by code.
+/// What is wrong with the bindings held by KVHotKey: keys bound twice, bindings that never fire, in the order
+/// of hotkeyBindings(), and then the functions without a key, by code.
 [[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyFinding> hotkeyReport();
 
 /// What loading a file would do.
 struct HotkeyFileCheck
 {
     bool loads = false;                  ///< whether it would replace the bindings
-    std::vector<HotkeyFinding> findings; ///< by element, then those of the whole
-    std::vector<HotkeyBinding> bindings; ///< that would be there, in the order of the file
+    std::vector<HotkeyFinding> findings; ///< by element, then those of the whole file
+    std::vector<HotkeyBinding> bindings; ///< that would result, in file order
 };
 
-/// Reads a file of hot keys as KVHotKey would and tells, without loading it, why each element that binds
-/// nothing does not, and what hotkeyReport() would say of the rest.
+/// Reads a hot-key file as KVHotKey would, without loading it. Reports why elements bind nothing, and what
+/// hotkeyReport() would report for the rest.
 [[nodiscard]] UIAPICOMMON_EXPORT HotkeyFileCheck checkHotkeyFile(QString const & path);
 
-/// What became of the latest KVHotKey::uploadHotkeyModel(), that of the object's making included: whether the
-/// file's bindings took the place of those before, and if not why. A missing file is such a reason, too.
+/// The result of the latest KVHotKey::uploadHotkeyModel(), including the one at creation: whether the file's
+/// bindings replaced the previous ones, and if not, why. A missing file is also such a reason.
 [[nodiscard]] UIAPICOMMON_EXPORT Result lastHotkeyLoad();
 
-/// What became of an export.
+/// The result of an export.
 struct HotkeyExport
 {
     Result result;                      ///< whether the file was written
-    std::vector<HotkeyBinding> leftOut; ///< what the file has no words for: the code without a name
+    std::vector<HotkeyBinding> leftOut; ///< what the file cannot express: the code without a name
 };
 
-/// Writes the bindings that KVHotKey holds as a file that it can load. An old file is replaced whole or stays
-/// as it was; the folder must be there.
+/// Writes the bindings held by KVHotKey as a file that it can load. An old file is replaced as a whole or
+/// left unchanged; the folder must exist.
 [[nodiscard]] UIAPICOMMON_EXPORT HotkeyExport exportHotkeys(QString const & path);
 
-/// The plain key that the next one can complete to a sequence, "S"; empty when there is none. Whether a
-/// sequence begins with it is what hotkeyContinuations() tells.
+/// The plain key that the next one can complete to a sequence, "S"; empty if there is none.
+/// hotkeyContinuations() tells whether a sequence starts with it.
 [[nodiscard]] UIAPICOMMON_EXPORT QString pendingHotkey();
 
 /// A key that completes a sequence.
@@ -92,7 +92,7 @@ struct HotkeyContinuation
     QString name;                  ///< the function's name in the file
 };
 
-/// The plain keys that give a code when pressed next, in the order of the bindings.
+/// The plain keys that give a code if pressed next, in binding order.
 [[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyContinuation> hotkeyContinuations();
 
 } // namespace KVCAM::UIAPI::Ext

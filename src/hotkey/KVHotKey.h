@@ -18,9 +18,9 @@ struct HotkeyAccess;
 /// other (S, G). One object, created by the first call that needs it and never destroyed. GUI thread only;
 /// nothing is locked.
 ///
-/// It starts from a default table, which the user's "./config/keyboard.json", relative to the current
-/// directory, replaces when it is there and parses. Nothing is logged but what is thrown, as when memory is
-/// short (the method then gives its neutral result); Ext::checkHotkeyFile() tells what is wrong with a file.
+/// It starts with a default table. The user's "./config/keyboard.json", relative to the current directory,
+/// replaces it if it exists and parses. Only exceptions are logged, for example out of memory (the method
+/// then returns its neutral result); Ext::checkHotkeyFile() reports what is wrong with a file.
 ///
 /// The file is a JSON array of objects with strings: "func_name" with "Modifier" ("", "Shift", "Ctrl") and
 /// "key", or "func_name" with "key1" and "key2". Keys are the characters "0" to "`", "a" to "z" for the same

@@ -16,7 +16,7 @@ struct KVHotKey::Private
     UIAPI::Ext::Result lastLoad; ///< result of the last load
 };
 
-/// Through which the tools look at the object's state.
+/// Gives the tools read access to the object's state.
 struct UIAPI::HotkeyAccess
 {
     static KVHotKey::Private const & read() { return *KVHotKey::getInstance()->d; }

@@ -23,27 +23,27 @@ enum class LayerWordFault : int
 /// A word of a request that selects nothing. `where` is its key: "type", "context", "side" or "pos".
 struct LayerFilterFinding : Finding<LayerWordFault>
 {
-    QString word; ///< as it stands in the request
+    QString word; ///< as in the request
 };
 
 /// Whether a layer is selected.
 struct LayerVerdict
 {
     std::string name;  ///< of the layer
-    QString refusedBy; ///< the first key that does not accept the layer; empty when it is selected
+    QString refusedBy; ///< the first key that rejects the layer; empty if selected
 };
 
-/// What a request makes of the layers of a job.
+/// The effect of a request on the layers of a job.
 struct LayerFilterReport
 {
-    std::string error;       ///< the engine's text when the matrix cannot be read, else empty
+    std::string error;       ///< the engine's text if the matrix cannot be read, else empty
     QStringList unknownKeys; ///< keys that are ignored, in ascending order
-    std::vector<LayerFilterFinding> unmatchedWords; ///< by key and then as they stand
+    std::vector<LayerFilterFinding> unmatchedWords; ///< by key, then in request order
     std::vector<LayerVerdict> layers;               ///< every layer in matrix order
 };
 
-/// What UIAPICommonPara::selectLayersByType() makes of a request, and why. The layers without a refusing key
-/// are those that it appends. What the engine throws is logged and gives an empty report. No singleton is
+/// The effect of UIAPICommonPara::selectLayersByType() on a request, and why. The layers without a rejecting
+/// key are those that it appends. An engine exception is logged and gives an empty report. No singleton is
 /// created.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT LayerFilterReport explainLayerFilter(QString const & job,

@@ -11,9 +11,9 @@ namespace KVCAM::UIAPI::Ext {
 /// directories themselves stay. What delDir() always rejects is still rejected. An empty list, the initial
 /// state, lifts the restriction.
 ///
-/// A path is made absolute here, its links resolved as far as it exists. Nothing lies below a directory that
-/// does not exist when delDir() asks, nor below a text that is no path: a list of nothing else forbids every
-/// removal. Nothing is logged, no singleton is created. GUI thread only.
+/// Each path is made absolute by this call, with links resolved as far as it exists. Nothing is below a
+/// directory that does not exist when delDir() checks, or below a text that is not a path: a list of only
+/// such entries forbids every removal. Nothing is logged, no singleton is created. GUI thread only.
 /// \since 0.1
 UIAPICOMMON_EXPORT void setRemovalRoots(QStringList const & directories);
 

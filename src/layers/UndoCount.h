@@ -7,9 +7,9 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// How many operations on a step the engine says it can undo, for a menu entry that shows or greys itself.
-/// The engine is only asked: its history is not corrected first, as undo() does, and nothing is written to
-/// its database. 0 when it says less or throws, which is logged. No singleton is created.
+/// The number of operations on a step that the engine reports as undoable, to enable or disable a menu entry.
+/// The engine is only queried: unlike undo(), this does not correct its history first, and nothing is written
+/// to its database. 0 if it reports less or throws, which is logged. No singleton is created.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT int undoCount(QString const & job, QString const & step);
 

@@ -11,27 +11,28 @@ namespace KVCAM::UIAPI {
 
 namespace Ext {
 
-/// What became of one message to the EDA tool: an enumeration and no Result, since a host acts on it.
+/// The result of sending one message to the EDA tool: an enumeration, not a Result, because a host acts on
+/// it.
 enum class EdaSendResult : int
 {
-    Sent,       ///< handed to the network; whether anybody listens cannot be known
+    Sent,       ///< passed to the network; whether anyone listens is unknown
     NoLink,     ///< there is no link, or its sending socket is gone, or the process is ending
     NoPort,     ///< the port set is outside 1 to 65535
     TooLarge,   ///< the message does not fit into one datagram (65507 bytes)
-    SocketError ///< anything else; EdaLinkState::lastError has the words
+    SocketError ///< anything else; see EdaLinkState::lastError
 };
 
 /// Status of a link to the EDA tool.
 struct EdaLinkState
 {
     bool exists = false;  ///< false: there is no link, and nothing below counts
-    bool bound = false;   ///< whether it has the port and can receive; a deaf link still sends
-    QString bindError;    ///< the socket's words on why its latest bind failed; empty when it did not
-    int port = 0;         ///< where messages are sent, as it was set
-    quint64 sent = 0;     ///< messages handed to the network
-    quint64 unsent = 0;   ///< messages that were not
+    bool bound = false;   ///< whether it owns the port and can receive; sending works anyway
+    QString bindError;    ///< the socket's error text of the latest bind; empty if it succeeded
+    int port = 0;         ///< where messages are sent, as set
+    quint64 sent = 0;     ///< messages passed to the network
+    quint64 unsent = 0;   ///< messages not passed to the network
     quint64 received = 0; ///< datagrams read
-    QString lastError;    ///< the words of the latest failure to send or read; empty when there was none
+    QString lastError;    ///< text of the latest failure to send or read; empty if none
 };
 
 } // namespace Ext
@@ -67,7 +68,7 @@ public:
 
     // --- Additions ----------------------------------------------------------------------------------------
 
-    /// sendData(), and says what became of it.
+    /// sendData() with a result.
     [[nodiscard]] Ext::EdaSendResult sendDataChecked(QJsonObject const & data);
     /// Status of the link.
     Ext::EdaLinkState state() const;

@@ -24,9 +24,11 @@ QHostAddress choose(QList<Candidate> const & interfaces)
 std::string getHostIP()
 {
     QList<Candidate> interfaces;
-    for (QNetworkInterface const & found : QNetworkInterface::allInterfaces()) {
+    QList<QNetworkInterface> const all = QNetworkInterface::allInterfaces();
+    for (QNetworkInterface const & found : all) {
         Candidate candidate{found.flags(), {}};
-        for (QNetworkAddressEntry const & entry : found.addressEntries()) {
+        QList<QNetworkAddressEntry> const entries = found.addressEntries();
+        for (QNetworkAddressEntry const & entry : entries) {
             candidate.addresses.append(entry.ip());
         }
         interfaces.append(candidate);

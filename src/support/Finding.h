@@ -4,14 +4,14 @@
 
 namespace KVCAM::UIAPI::Ext {
 
-/// One thing that a check found. What derives from it adds the facts of its kind of check.
+/// One finding of a check. Derived types add the facts of their kind of check.
 /// \since 0.1
 template <class Kind>
 struct Finding
 {
-    QString where; ///< the place in what was checked; empty for the whole
+    QString where; ///< the place in the checked object; empty for the whole
     Kind kind{};   ///< what it is
-    QString text;  ///< one English sentence for people
+    QString text;  ///< one human-readable English sentence
 };
 
 } // namespace KVCAM::UIAPI::Ext

@@ -38,11 +38,10 @@ struct Message
 /// Shows a message and returns the answer.
 using MessagePresenter = std::function<MessageAnswer(Message const &)>;
 
-/// Replaces the one point through which every box of the library goes, and returns the presenter that was
-/// set before. An empty function restores the default: a modal QMessageBox, or, where there is no
-/// QApplication or the caller is not on its thread, a WARNING line "title: text" and the neutral answer (No
-/// to a question). A parent may be deleted while its box is open: that too is the
-/// neutral answer. GUI thread only.
+/// Sets the presenter of every box of the library and returns the previous one. An empty function restores
+/// the default: a modal QMessageBox or, without a QApplication or on another thread than its own, a WARNING
+/// line "title: text" and the neutral answer (No to a question). A parent may be deleted while its box is
+/// open; that also gives the neutral answer. GUI thread only.
 /// \since 0.1
 UIAPICOMMON_EXPORT MessagePresenter setMessagePresenter(MessagePresenter presenter);
 

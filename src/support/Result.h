@@ -5,7 +5,7 @@
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
 
-/// Whether something succeeded, and if not why.
+/// Whether something succeeded, and if not, why.
 /// \since 0.1
 struct Result
 {

@@ -12,10 +12,10 @@ enum class ThreadCheck : int
     Abort    ///< the call is logged, and the process aborts
 };
 
-/// Makes the flat functions and the methods of the singletons compare threads; Off until this is called. The
-/// library belongs to the thread that calls this last, so call it in main(), before the first dialog. Setting
-/// it again allows for one more log line. The calls themselves run as ever: nothing is locked. Meant for
-/// debug builds of hosts.
+/// Makes the flat functions and the singletons' methods compare threads. Off until called. The library
+/// belongs to the thread of the most recent call, so call it in main(), before the first dialog. Each call
+/// allows one more log line. The checked calls still run, and nothing is locked. Meant for debug builds of
+/// hosts.
 /// \since 0.1
 UIAPICOMMON_EXPORT void setThreadCheck(ThreadCheck check);
 

@@ -18,8 +18,8 @@ enum class ViewAspect : int
 Q_DECLARE_FLAGS(ViewAspects, ViewAspect)
 Q_DECLARE_OPERATORS_FOR_FLAGS(ViewAspects)
 
-/// Tells who listens that a view's state changed. One object for the process; it is never destroyed, and
-/// asking for it creates no singleton of the library.
+/// Notifies listeners that a view's state changed. One object per process, never destroyed. Accessing it
+/// creates none of the library's singletons.
 /// \since 0.1
 class UIAPICOMMON_EXPORT Notifier : public QObject
 {

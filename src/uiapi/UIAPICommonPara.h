@@ -338,7 +338,7 @@ public:
     ConnectEDA * edaLink() const;
     /// Status of the link; the type stands in ext/EdaLink.h.
     Ext::EdaLinkState edaLinkState() const;
-    /// sendEdaData(), and says what became of it.
+    /// sendEdaData() with a result.
     [[nodiscard]] Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);
 
     /// Hands a command to the modules that have a route for it, see the flat function of this name.

@@ -45,7 +45,7 @@ auto guardedPara(Body && body, int line = __builtin_LINE())
     return guarded(Log::commonPara, std::forward<Body>(body), line);
 }
 
-/// The components as the functions of `Ext` reach them, which are no methods of UIAPICommonPara.
+/// Gives the `Ext` functions, which are not methods of UIAPICommonPara, access to the components.
 struct CommonParaAccess
 {
     static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }

@@ -172,7 +172,7 @@ QString fieldText(SymbolField field, QStringView text, int unit)
     }
 }
 
-// The family's shape and its fields in words; empty when a field does not fit.
+// The family's shape and its fields in words; empty if a field does not fit.
 QString standardText(SymbolGrammar const & grammar, QStringView fields, int unit)
 {
     Symbols::SymbolParts const parts = Symbols::splitParts(fields);
@@ -188,7 +188,7 @@ QString standardText(SymbolGrammar const & grammar, QStringView fields, int unit
         if (field.isEmpty()) {
             return {};
         }
-        // an only size needs no name
+        // a single size needs no label
         text += QStringLiteral(", ") + (layout.count == 1 ? sizeText(part, unit) : field);
     }
     return text;

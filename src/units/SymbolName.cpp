@@ -51,7 +51,7 @@ static_assert(families(SymbolRewrite::Thermal) == 5);
 static_assert(families(SymbolRewrite::Moire) == 1);
 static_assert(rewrittenFieldsExist());
 
-// Halves go away from zero.
+// Halves round away from zero.
 double thousandths(double value)
 {
     return std::round(value * 1000) / 1000;

@@ -25,7 +25,7 @@ struct ValueVerdict
 /// A plain number; nothing is converted.
 [[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkNumber(double value, double minimum, double maximum);
 /// Every number of a symbol name, counts and angles included, in the small unit against bounds in mil. The
-/// text is that of the first illegal one.
+/// text describes the first illegal number.
 [[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkSymbol(QString const & name, double minimum,
                                                           double maximum, int unit);
 

@@ -64,7 +64,8 @@ bool KVFileDialog::mayReplace()
     }
     constexpr int mostNames = 10; // more might not fit on the screen
     QStringList names;
-    for (QString const & path : selectedFiles()) {
+    QStringList const paths = selectedFiles();
+    for (QString const & path : paths) {
         QFileInfo const file(path);
         if (file.exists() && !file.isDir()) {
             names += names.size() < mostNames ? file.fileName() : QStringLiteral("...");
