@@ -38,8 +38,8 @@ std::vector<std::string> folderNames(QString const & folder)
 {
     std::vector<std::string> names;
     if (!folder.isEmpty()) {
-        QStringList const names = entriesOf(folder, QDir::Dirs | QDir::NoDotAndDotDot);
-        for (QString const & name : names) {
+        QStringList const folders = entriesOf(folder, QDir::Dirs | QDir::NoDotAndDotDot);
+        for (QString const & name : folders) {
             names.push_back(name.toStdString());
         }
     }
