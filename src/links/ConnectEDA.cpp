@@ -138,7 +138,7 @@ ConnectEDA::~ConnectEDA()
 
 void ConnectEDA::sendData(QJsonObject const & data)
 {
-    static_cast<void>(sendDataChecked(data)); // this one tells nobody
+    static_cast<void>(sendDataChecked(data)); // result ignored
 }
 
 Ext::EdaSendResult ConnectEDA::sendDataChecked(QJsonObject const & data)
