@@ -3,8 +3,8 @@
 #include "config/ConfigFiles.h"
 #include "support/Guard.h"
 #include "support/HostPaths.h"
-#include "support/JsonFile.h"
 #include "support/Log.h"
+#include "support/WholeFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -56,16 +56,16 @@ void RangeStore::scanMetaData(QString const & fileName, QString const & filePath
 
 void RangeStore::readFile(QString const & fileName, QString const & filePath)
 {
-    JsonFile::ReadResult const file = JsonFile::read(filePath, QIODevice::Text);
+    WholeFile::ReadResult const file = WholeFile::readJson(filePath, QIODevice::Text);
     ConfigFiles::diagnose(filePath, file);
     switch (file.status) {
-    case JsonFile::ReadStatus::Missing:
+    case WholeFile::ReadStatus::Missing:
         return Log::error(Log::commonPara, "Ranger json文件不存在！路径：" + filePath.toStdString());
-    case JsonFile::ReadStatus::OpenFailed:
+    case WholeFile::ReadStatus::OpenFailed:
         return Log::error(Log::commonPara, "Ranger json文件打开失败!路径：" + filePath.toStdString());
-    case JsonFile::ReadStatus::ParseError:
+    case WholeFile::ReadStatus::ParseError:
         return Log::error(Log::commonPara, "解析ranges json文件错误！路径：" + filePath.toStdString());
-    case JsonFile::ReadStatus::Ok:
+    case WholeFile::ReadStatus::Ok:
         break;
     }
     // An empty list is stored too and reserves the name against later files.
@@ -126,8 +126,8 @@ Ext::Result RangeStore::saveRanges(std::string const & rangeName)
     if (!range.loaded) {
         return {};
     }
-    JsonFile::ReadResult file = JsonFile::read(range.path, QIODevice::Text);
-    if (file.status != JsonFile::ReadStatus::Ok) {
+    WholeFile::ReadResult file = WholeFile::readJson(range.path, QIODevice::Text);
+    if (file.status != WholeFile::ReadStatus::Ok) {
         return refused(QObject::tr("The range file \"%1\" cannot be read.").arg(range.path));
     }
     switch (RangeFile::writeLevels(file.document, *range.loaded, range.records)) {
@@ -142,7 +142,7 @@ Ext::Result RangeStore::saveRanges(std::string const & rangeName)
     case RangeFile::Change::Changed:
         break;
     }
-    if (!JsonFile::replace(range.path, file.document.toJson(), QIODevice::Text)) {
+    if (!WholeFile::replace(range.path, file.document.toJson(), QIODevice::Text)) {
         return refused(QObject::tr("The file \"%1\" cannot be written.").arg(range.path));
     }
     range.loaded.reset();

@@ -2,7 +2,7 @@
 // document with that many objects would take gigabytes.
 
 #include "analysis/AnalysisReport.h"
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 #include "units/UnitConversion.h"
 
 #include <QLocale>
@@ -232,7 +232,7 @@ QByteArray reportText(AnalysisReport const & report, ReportFormat format)
 
 Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
 {
-    if (!JsonFile::replace(path, reportText(report, format))) {
+    if (!WholeFile::replace(path, reportText(report, format))) {
         return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
     }
     return {};

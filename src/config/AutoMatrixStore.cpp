@@ -230,7 +230,7 @@ bool AutoMatrixStore::saveAutoMatrixtoJson(QString const & name, AutoMatrixTmp c
     Ext::Result result{false, QStringLiteral("The name would leave the folder of the templates.")};
     if (isTemplateFileName(name)) {
         QDir().mkpath(userFolder()); // if this fails, writing the file fails too
-        result = JsonFile::replace(userFile(name), writeAutoMatrix(tmpl));
+        result = WholeFile::replace(userFile(name), writeAutoMatrix(tmpl));
     }
     if (!result) {
         FileDiagnostics(userFile(name)).report(Ext::DiagnosticKind::SaveFailed, {}, result.reason);

@@ -57,8 +57,8 @@ void CamMateNodes::getCamMateNodesFromJson()
 
 void CamMateNodes::readCamMateNodesFromJson(QString const & path)
 {
-    JsonFile::ReadResult const result = ConfigFiles::load(path, {nullptr, ConfigFiles::parseFailed}, path);
-    if (result.status != JsonFile::ReadStatus::Ok) {
+    WholeFile::ReadResult const result = ConfigFiles::load(path, {nullptr, ConfigFiles::parseFailed}, path);
+    if (result.status != WholeFile::ReadStatus::Ok) {
         return;
     }
     FileDiagnostics const diagnostics(path);

@@ -7,7 +7,7 @@
 namespace KVCAM::UIAPI::ConfigFiles {
 namespace {
 
-using JsonFile::ReadStatus;
+using WholeFile::ReadStatus;
 
 void log(ReadStatus status, LoadTexts const & texts, QString const & shown, bool allSteps, int line)
 {
@@ -45,16 +45,16 @@ Ext::DiagnosticKind kindOf(ReadStatus status)
 
 char const * const parseFailed = "解析config json文件错误！路径：";
 
-JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown, Steps steps,
-                          QIODevice::OpenMode extra, int line)
+WholeFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown, Steps steps,
+                           QIODevice::OpenMode extra, int line)
 {
-    JsonFile::ReadResult result = JsonFile::read(path, extra);
+    WholeFile::ReadResult result = WholeFile::readJson(path, extra);
     log(result.status, texts, shown, steps == Steps::All, line);
     diagnose(path, result);
     return result;
 }
 
-void diagnose(QString const & path, JsonFile::ReadResult const & result)
+void diagnose(QString const & path, WholeFile::ReadResult const & result)
 {
     if (result.status != ReadStatus::Ok) {
         FileDiagnostics(path).report(kindOf(result.status), {}, result.reason);
@@ -64,7 +64,7 @@ void diagnose(QString const & path, JsonFile::ReadResult const & result)
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra, int line)
 {
-    JsonFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra, line);
+    WholeFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra, line);
     if (result.status != ReadStatus::Ok || !diagnostics.checkTop(result.document.isObject(), "an object")) {
         return {};
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "config/DiagnosticCollector.h"
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 
 #include <QIODevice>
 #include <QJsonArray>
@@ -30,12 +30,12 @@ enum class Steps
 
 /// Reads a file and reports failures: ERROR lines under "UIAPIGlobalVar", each with `shown` at its end, and
 /// one finding. The logged line number is the caller's.
-JsonFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown,
-                          Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
-                          int line = __builtin_LINE());
+WholeFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown,
+                           Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
+                           int line = __builtin_LINE());
 
 /// Reports a file that could not be read as one finding, without a log line.
-void diagnose(QString const & path, JsonFile::ReadResult const & result);
+void diagnose(QString const & path, WholeFile::ReadResult const & result);
 
 /// Loads a file whose top-level object has one member, the array `key`. Empty if the file cannot be read,
 /// which is reported as in load() with the path shown. Also empty, without a log line, if the file has a

@@ -4,8 +4,8 @@
 #include "config/SettingsFile.h"
 #include "support/Guard.h"
 #include "support/HostPaths.h"
-#include "support/JsonFile.h"
 #include "support/Log.h"
+#include "support/WholeFile.h"
 
 #include <QDir>
 
@@ -47,9 +47,9 @@ void GlobalConfigStore::load()
     QString const directory = HostPaths::configurationDirectory();
     m_directory = directory.toStdString();
     QString const path = filePath(directory);
-    JsonFile::ReadResult const result =
+    WholeFile::ReadResult const result =
         ConfigFiles::load(path, texts, directory, ConfigFiles::Steps::All, QIODevice::Text);
-    m_loadFailed = result.status != JsonFile::ReadStatus::Ok;
+    m_loadFailed = result.status != WholeFile::ReadStatus::Ok;
     m_settings = readServerSettings(result.document, state().keys);
     if (!m_loadFailed) {
         diagnoseServerSettings(result.document, state().keys, FileDiagnostics(path));
@@ -82,20 +82,20 @@ Ext::Result GlobalConfigStore::save()
     if (!std::exchange(m_saved, true) && keepsBackup()) {
         keepBackup(path);
     }
-    return JsonFile::replace(path, writeServerSettings(m_settings), QIODevice::Text);
+    return WholeFile::replace(path, writeServerSettings(m_settings), QIODevice::Text);
 }
 
 void GlobalConfigStore::keepBackup(QString const & path)
 {
-    JsonFile::ReadResult const old = JsonFile::read(path, QIODevice::Text);
-    if (!m_loadFailed && old.status == JsonFile::ReadStatus::Ok && !holdsKeysThatASaveDrops(old.document)) {
+    WholeFile::ReadResult const old = WholeFile::readJson(path, QIODevice::Text);
+    if (!m_loadFailed && old.status == WholeFile::ReadStatus::Ok && !holdsKeysThatASaveDrops(old.document)) {
         return;
     }
     // Not in text mode: keep every byte.
-    JsonFile::Content const content = JsonFile::readBytes(path);
-    if (content.status == JsonFile::ReadStatus::OpenFailed ||
-        (content.status == JsonFile::ReadStatus::Ok &&
-         !JsonFile::replace(path + QStringLiteral(".bak"), content.bytes))) {
+    WholeFile::Content const content = WholeFile::read(path);
+    if (content.status == WholeFile::ReadStatus::OpenFailed ||
+        (content.status == WholeFile::ReadStatus::Ok &&
+         !WholeFile::replace(path + QStringLiteral(".bak"), content.bytes))) {
         FileDiagnostics(path).report(
             Ext::DiagnosticKind::BackupFailed, {},
             QStringLiteral("The file was replaced and no copy of it could be kept."));

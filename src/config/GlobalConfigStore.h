@@ -21,7 +21,7 @@ public:
     void getGlobalConfig();
 
     /// Rewrites the whole file. A file that cannot be written stays unchanged, without a log line (a full
-    /// disk destroys it only if it is written in place, see JsonFile::replace). A missing directory only
+    /// disk destroys it only if it is written in place, see WholeFile::replace). A missing directory only
     /// gives a warning and is created. Ext::lastSettingsSave() and a finding report both.
     void saveGlobalConfig();
 

@@ -1,6 +1,6 @@
 #include "hotkey/HotkeyFile.h"
 
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 
 #include <QJsonObject>
 
@@ -93,8 +93,8 @@ QJsonValue writeElement(HotkeyEntry const & entry)
 
 HotkeyDocument readHotkeyFile(QString const & path)
 {
-    JsonFile::ReadResult const file = JsonFile::read(path, QIODevice::Text);
-    return {{file.status == JsonFile::ReadStatus::Ok, file.reason},
+    WholeFile::ReadResult const file = WholeFile::readJson(path, QIODevice::Text);
+    return {{file.status == WholeFile::ReadStatus::Ok, file.reason},
             file.document.isArray(),
             file.document.array()};
 }

@@ -2,7 +2,7 @@
 
 #include "hotkey/HotkeyFile.h"
 #include "hotkey/KVHotKeyPrivate.h"
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 
 #include <QKeySequence>
 
@@ -175,7 +175,7 @@ HotkeyExport exportHotkeys(QString const & path)
             array.append(element);
         }
     }
-    result.result = JsonFile::replace(path, QJsonDocument(array).toJson());
+    result.result = WholeFile::replace(path, QJsonDocument(array).toJson());
     return result;
 }
 

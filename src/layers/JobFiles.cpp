@@ -4,7 +4,7 @@
 #include "layers/RemovalRules.h"
 #include "layers/TreeCopy.h"
 #include "layers/TreeRemoval.h"
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 
 #include <QFileInfo>
 
@@ -62,7 +62,7 @@ bool JobFiles::saveTextByIODevice(QString const & path, QString const & text)
     if (fromText(path).empty() || (file.exists() && !file.isFile())) {
         return false;
     }
-    return JsonFile::replace(path, text.toUtf8()).ok;
+    return WholeFile::replace(path, text.toUtf8()).ok;
 }
 
 QString JobFiles::formatTime(qint64 milliseconds)

@@ -62,21 +62,15 @@ enum class SymbolField : int
     Gap,
     AirGap,
     ///@}
-    Corner,    ///< one character for the kind of corner ("r" rounded, "c" chamfered), then its length
-    CornerCut, ///< the length of a corner alone
-               ///@{
-               /// A length.
-    TolerancePlus,
-    ToleranceMinus,
-    ///@}
-    CornerList, ///< the corners concerned: digits out of 1234
-                ///@{
-                /// A whole number.
-    RingCount,
-    SpokeCount,
-    ///@}
-    Angle,  ///< degrees
-    Plating ///< "p" plated, "n" not plated, "v" via
+    Corner,         ///< one character for the kind of corner ("r" rounded, "c" chamfered), then its length
+    CornerCut,      ///< the length of a corner alone
+    TolerancePlus,  ///< a length
+    ToleranceMinus, ///< a length
+    CornerList,     ///< the corners concerned: digits out of 1234
+    RingCount,      ///< a whole number
+    SpokeCount,     ///< a whole number
+    Angle,          ///< degrees
+    Plating         ///< "p" plated, "n" not plated, "v" via
 };
 
 /// How many kinds of fields there are.

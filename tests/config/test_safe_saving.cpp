@@ -2,7 +2,7 @@
 #include "Generation.h"
 
 #include "config/SettingsFile.h"
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -19,7 +19,7 @@ namespace {
 // What stands in the settings file: the number of its generation, -1 for a file that is not whole.
 int generationIn(QString const & path)
 {
-    JsonFile::ReadResult const result = JsonFile::read(path);
+    WholeFile::ReadResult const result = WholeFile::readJson(path);
     QJsonObject const object = result.document.object();
     std::string const text = object["ServerIp"].toString().toStdString();
     int const number = QString::fromStdString(text).section(':', 0, 0).toInt();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "harness/SharedFolder.h"
+
 #include <EmbeddedEngine.h>
 #include <KVCAM_API.h>
 
@@ -17,20 +19,6 @@
 namespace KVCAM::Testing {
 
 using Texts = std::vector<std::string>;
-
-/// An entry of the folder of material that stands beside the sources but does not belong to them: that of the
-/// environment variable UIAPI_SHARED_DIR, or one named "shared" next to them. "" when it is not there.
-inline QString sharedPath(QString const & entry)
-{
-    QString const source = UIAPI_SOURCE_DIR;
-    for (QString const & folder :
-         {qEnvironmentVariable("UIAPI_SHARED_DIR"), source + "/../shared", source + "/../../shared"}) {
-        if (QString const path = QDir(folder).filePath(entry); !folder.isEmpty() && QFileInfo::exists(path)) {
-            return path;
-        }
-    }
-    return {};
-}
 
 /// Builds small jobs below "jobs" in the working directory.
 class EmbeddedTest : public ::testing::Test

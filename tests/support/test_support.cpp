@@ -2,10 +2,10 @@
 
 #include "support/Boxes.h"
 #include "support/Guard.h"
-#include "support/JsonFile.h"
 #include "support/Log.h"
 #include "support/Narrowing.h"
 #include "support/NumberRuns.h"
+#include "support/WholeFile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -79,15 +79,16 @@ TEST_F(SupportTest, NumberRunsAlternateAndKeepEveryCharacter)
     }
 }
 
-TEST_F(SupportTest, JsonFileTellsWhyItCannotBeRead)
+TEST_F(SupportTest, AFileTellsWhyItCannotBeRead)
 {
-    using JsonFile::ReadStatus;
+    using WholeFile::ReadStatus;
     ASSERT_TRUE(QDir().mkdir("directory.json"));
-    ASSERT_TRUE(JsonFile::replace("broken.json", "{\"a\": }") && JsonFile::replace("whole.json", "[\r\n1]"));
+    ASSERT_TRUE(WholeFile::replace("broken.json", "{\"a\": }") &&
+                WholeFile::replace("whole.json", "[\r\n1]"));
     ASSERT_TRUE(QFile::link("whole.json", "link.json"));
     for (auto const & [name, more] : {std::pair("largest.json", 0), {"too large.json", 1}}) {
         QFile sparse(name);
-        ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(JsonFile::largestFile + more));
+        ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(WholeFile::largestFile + more));
     }
     for (auto const & [name, status, reason] :
          {std::tuple("absent.json", ReadStatus::Missing, "There is no such file."),
@@ -98,12 +99,12 @@ TEST_F(SupportTest, JsonFileTellsWhyItCannotBeRead)
           {"largest.json", ReadStatus::ParseError, "The file is not JSON: illegal value at byte offset 1."},
           {"too large.json", ReadStatus::OpenFailed, "The file is too large: more than 67108864 bytes."},
           {"link.json", ReadStatus::Ok, ""}}) {
-        JsonFile::ReadResult const result = JsonFile::read(name);
+        WholeFile::ReadResult const result = WholeFile::readJson(name);
         EXPECT_EQ(result.status, status) << name;
         EXPECT_EQ(result.reason.toStdString(), reason) << name;
         EXPECT_EQ(result.document.isArray(), status == ReadStatus::Ok) << name;
     }
-    EXPECT_EQ(JsonFile::readBytes("link.json", QIODevice::Text).bytes, "[\n1]");
+    EXPECT_EQ(WholeFile::read("link.json", QIODevice::Text).bytes, "[\n1]");
 }
 
 TEST_F(SupportTest, WhatIsNoRegularFileIsNotReplaced)
@@ -112,10 +113,10 @@ TEST_F(SupportTest, WhatIsNoRegularFileIsNotReplaced)
     ASSERT_EQ(QProcess::execute("mkfifo", {"pipe"}), 0);
     ASSERT_TRUE(QFile::link("pipe", "link"));
     for (char const * name : {"taken", "pipe", "link"}) {
-        EXPECT_EQ(JsonFile::replace(name, "x").reason, "It is not a regular file.");
+        EXPECT_EQ(WholeFile::replace(name, "x").reason, "It is not a regular file.");
         EXPECT_FALSE(QFileInfo(name).isFile()) << name;
     }
-    EXPECT_EQ(JsonFile::replace("no/such/folder/file", "x").reason,
+    EXPECT_EQ(WholeFile::replace("no/such/folder/file", "x").reason,
               "The file cannot be opened for writing: No such file or directory.");
 }
 

@@ -250,7 +250,7 @@ QStringList queried(QString const & statement)
 
 TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabase)
 {
-    ASSERT_TRUE([this] {
+    ASSERT_TRUE([] {
         KVCAM::Embedded::setDatabaseFile("./uiapi-engine.sqlite");
         return KVCAM::Embedded::setSaveFlag(true);
     }());

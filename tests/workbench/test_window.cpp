@@ -72,8 +72,8 @@ TEST_F(MainWindows, ADamagedStateChangesNothing)
     char const * const states[] = {
         "",
         "\x01\x02 no settings at all [[[",
-        "[window]\ngeometry=@ByteArray(nonsense)\npage=nowhere\nunit=7\nchinese=true\n"
-        "[splitters]\nsides=@ByteArray(more)\n",
+        ("[window]\ngeometry=@ByteArray(nonsense)\npage=nowhere\nunit=7\nchinese=true\n"
+         "[splitters]\nsides=@ByteArray(more)\n"),
         "[window]\ngeometry=@Variant(\\0\\0\\0\\x7f)\nunit=@Invalid()\npage=@Size(1 2)\n",
     };
     auto const fresh = makeWindow();

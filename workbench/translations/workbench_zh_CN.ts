@@ -1274,10 +1274,6 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>没有备份</translation>
     </message>
     <message>
-        <source>not saved</source>
-        <translation>未保存</translation>
-    </message>
-    <message>
         <source>Settings of server.json</source>
         <translation>server.json 的设置</translation>
     </message>

@@ -1,4 +1,4 @@
-#include "support/JsonFile.h"
+#include "support/WholeFile.h"
 
 #include "support/RegularFile.h"
 
@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace KVCAM::UIAPI::JsonFile {
+namespace KVCAM::UIAPI::WholeFile {
 namespace {
 
 constexpr char const * notRegular = "It is not a regular file.";
@@ -33,7 +33,7 @@ QByteArray readUpTo(QFile & file, qint64 limit)
 
 } // namespace
 
-Content readBytes(QString const & path, QIODevice::OpenMode extra)
+Content read(QString const & path, QIODevice::OpenMode extra)
 {
     QFile file(path);
     RegularFile const opened = openRegular(file, extra);
@@ -57,9 +57,9 @@ Content readBytes(QString const & path, QIODevice::OpenMode extra)
     return {ReadStatus::Ok, bytes, {}};
 }
 
-ReadResult read(QString const & path, QIODevice::OpenMode extra)
+ReadResult readJson(QString const & path, QIODevice::OpenMode extra)
 {
-    Content const content = readBytes(path, extra);
+    Content const content = read(path, extra);
     if (content.status != ReadStatus::Ok) {
         return {content.status, {}, content.reason};
     }
@@ -100,4 +100,4 @@ Ext::Result replace(QString const & path, QByteArray const & bytes, QIODevice::O
     return {false, QStringLiteral("The file cannot be written: %1.").arg(error)};
 }
 
-} // namespace KVCAM::UIAPI::JsonFile
+} // namespace KVCAM::UIAPI::WholeFile

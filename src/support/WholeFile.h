@@ -7,8 +7,8 @@
 #include <QJsonDocument>
 #include <QString>
 
-/// Reading JSON files and replacing whole files. Nothing here logs; the loader words its own failures.
-namespace KVCAM::UIAPI::JsonFile {
+/// Files read and replaced as a whole. Nothing here logs; the loader words its own failures.
+namespace KVCAM::UIAPI::WholeFile {
 
 /// The largest file that is read. Real files have a few kilobytes; a larger one is a mistake or an attack.
 constexpr qint64 largestFile = 64 * 1024 * 1024;
@@ -30,7 +30,7 @@ struct ReadResult
 
 /// Reads and parses a regular file, or a link to one, of at most `largestFile` bytes. Never blocks. `extra`
 /// is added to ReadOnly (QIODevice::Text for a text-mode read).
-ReadResult read(QString const & path, QIODevice::OpenMode extra = {});
+ReadResult readJson(QString const & path, QIODevice::OpenMode extra = {});
 
 struct Content
 {
@@ -39,8 +39,8 @@ struct Content
     QString reason;                     ///< one English sentence on why it is not Ok
 };
 
-/// The bytes that read() parses.
-Content readBytes(QString const & path, QIODevice::OpenMode extra = {});
+/// The bytes that readJson() parses.
+Content read(QString const & path, QIODevice::OpenMode extra = {});
 
 /// Replaces a file with `bytes`. A crash, a full disk or a killed process leaves the old file intact: a
 /// temporary file is written beside it and renamed over it. If the directory does not accept a new file, the
@@ -49,4 +49,4 @@ Content readBytes(QString const & path, QIODevice::OpenMode extra = {});
 [[nodiscard]] Ext::Result replace(QString const & path, QByteArray const & bytes,
                                   QIODevice::OpenMode extra = {});
 
-} // namespace KVCAM::UIAPI::JsonFile
+} // namespace KVCAM::UIAPI::WholeFile
