@@ -3,16 +3,17 @@
 
 add_library(uiapi_settings INTERFACE)
 if(MSVC)
-  target_compile_options(uiapi_settings INTERFACE /utf-8 /W4 /permissive- $<$<BOOL:${UIAPI_WERROR}>:/WX>)
+  target_compile_options(uiapi_settings INTERFACE /utf-8 /permissive- /Zc:__cplusplus /W4 $<$<BOOL:${UIAPI_WERROR}>:/WX>)
 else()
   target_compile_options(uiapi_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
-    -Wold-style-cast -Wnull-dereference -Wdouble-promotion -Wformat=2
+    -Wold-style-cast -Wdouble-promotion -Wformat=2
+    $<$<CONFIG:Debug>:-Wnull-dereference> # optimising, GCC suspects its own standard library
     $<$<BOOL:${UIAPI_WERROR}>:-Werror>)
 endif()
 target_compile_definitions(uiapi_settings INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS
-  $<$<CXX_COMPILER_ID:MSVC>:_USE_MATH_DEFINES NOMINMAX>)
+  $<$<BOOL:${WIN32}>:NOMINMAX>)
 
 # Hardens optimised builds like a distribution's packages. (CMAKE_POSITION_INDEPENDENT_CODE makes executables
 # position-independent; the linker must be checked for support first.)

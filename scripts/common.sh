@@ -46,11 +46,36 @@ build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev
 # The offscreen platform replaces a display. It needs fonts to draw text.
 run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)
-windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine xvfb xauth zip cmake ninja-build
+windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine xvfb xz-utils zip cmake ninja-build
   qttools5-dev qttools5-dev-tools)
 windows_prefix_packages=(g++ make perl python3 xz-utils bzip2 file tcl dpkg-dev)
 windows_host=x86_64-w64-mingw32
 windows_prefix=${UIAPI_WINDOWS_PREFIX:-${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/uiapi-windows}
+
+# What scripts/windows-prefix leaves in a folder that it has filled.
+windows_prefix_is_complete() {
+  [ -f "$windows_prefix/complete" ]
+}
+
+# unpack_windows_prefix ARCHIVE: makes an archive of such a folder the prefix, unpacked beside the usual one unless it
+# is there already. The folder may stand deeper in the archive.
+unpack_windows_prefix() {
+  local archive folder found
+  archive=$(realpath "$1")
+  folder=$windows_prefix-$(sha256sum "$archive" | cut -c 1-12)
+  if [ ! -d "$folder" ]; then
+    echo "Unpacking $archive" >&2
+    rm -rf "$folder.part"
+    mkdir -p "$folder.part"
+    tar xf "$archive" -C "$folder.part"
+    mv "$folder.part" "$folder"
+  fi
+  found=$(find "$folder" -path '*/lib/cmake/Qt5Core' -print -quit)
+  [ -n "$found" ] || { echo "$archive holds no Qt for Windows" >&2; return 1; }
+  windows_prefix=${found%/lib/cmake/Qt5Core}
+  touch "$windows_prefix/complete"
+}
+
 lint_packages=(clang-14 clang-format-14 clang-tidy-14 clazy codespell doxygen git shellcheck)
 
 # build PRESET [TARGET...]

@@ -1,6 +1,7 @@
 #include "checks/ResultFiles.h"
 #include "job/CommandLine.h"
 #include "job/ConfigDirectory.h"
+#include "job/Console.h"
 #include "job/JobLoading.h"
 #include "job/Session.h"
 #include "tour/Headless.h"
@@ -16,6 +17,8 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QMessageBox>
+#include <QStandardPaths>
 #include <QTemporaryFile>
 #include <QTimer>
 
@@ -35,6 +38,28 @@ int fail(QString const & text)
 {
     print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
     return exitWrongInput;
+}
+
+// With a window there may be no terminal to read from.
+int failWith(QString const & text, bool headless)
+{
+    if (!headless) {
+        QMessageBox::critical(nullptr, "uiapi-workbench", text);
+    }
+    return fail(text);
+}
+
+// Without arguments, as after a double click, the sample board is shown. Files then go to the user's
+// documents: the current directory is the program's, and often read-only.
+QStringList argumentsOf(QApplication const & application, bool headless)
+{
+    QStringList arguments = application.arguments();
+    if (arguments.size() == 1 && !headless && Workbench::defaultJob().isEmpty()) {
+        QString const documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        arguments << "--output" << documents + "/uiapi-workbench"
+                  << Workbench::samplesDirectory() + "/jobs/demo-board";
+    }
+    return arguments;
 }
 
 bool canWriteInto(QString const & directory)
@@ -61,7 +86,7 @@ void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QStrin
     }
     bool const isError = type == QtCriticalMsg || type == QtFatalMsg;
     google::LogMessage("Qt", 0, isError ? google::GLOG_ERROR : google::GLOG_INFO).stream()
-        << qPrintable(text);
+        << text.toUtf8().constData();
 }
 
 // For a run with a window, in which a box can be read.
@@ -79,6 +104,7 @@ void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const &
 
 int main(int argc, char ** argv)
 {
+    Workbench::useParentConsole();
     initialiseLog(argv[0]);
     Workbench::LogLines log;
     qInstallMessageHandler(logQtMessage);
@@ -94,30 +120,30 @@ int main(int argc, char ** argv)
         QApplication::setFont(font);
     }
 
-    auto const parsed = Workbench::parseArguments(QApplication::arguments());
+    auto const parsed = Workbench::parseArguments(argumentsOf(application, headless));
     if (parsed.outcome == Workbench::ParsedArguments::Outcome::Print) {
         print(stdout, parsed.text.toUtf8());
         return 0;
     }
     if (parsed.outcome == Workbench::ParsedArguments::Outcome::Error) {
-        return fail(parsed.text);
+        return failWith(parsed.text, headless);
     }
     Workbench::CommandLine const & commandLine = parsed.commandLine;
 
     Workbench::Session session;
     QString const error = session.open(commandLine.job);
     if (!error.isEmpty()) {
-        return fail(error);
+        return failWith(error, headless);
     }
     if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
-        return fail("the job has no step \"" + commandLine.step + '"');
+        return failWith("the job has no step \"" + commandLine.step + '"', headless);
     }
     if (!canWriteInto(commandLine.output)) {
-        return fail("cannot write to \"" + commandLine.output + '"');
+        return failWith("cannot write to \"" + commandLine.output + '"', headless);
     }
     QString const wrongConfiguration = Workbench::enterConfiguration(commandLine.config, commandLine.output);
     if (!wrongConfiguration.isEmpty()) {
-        return fail(wrongConfiguration);
+        return failWith(wrongConfiguration, headless);
     }
     KVCAM::UIAPI::Ext::setKeepSettingsBackup(true);
     KVCAM::UIAPI::Ext::setReadSavedSettingKeys(

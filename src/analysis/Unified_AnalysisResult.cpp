@@ -49,9 +49,15 @@ Unified_AnalysisResult * Unified_AnalysisResult::instance()
         object, [] { return new Unified_AnalysisResult; }, [](Unified_AnalysisResult &) {});
 }
 
+/// What Ext::clearUnifiedResults() sees of the object. A friend function cannot be exported from a DLL.
+struct UnifiedResultsAccess
+{
+    static void clear() { *Unified_AnalysisResult::instance()->d = {}; }
+};
+
 void Ext::clearUnifiedResults()
 {
-    *Unified_AnalysisResult::instance()->d = {};
+    UnifiedResultsAccess::clear();
     layerList().clear();
 }
 

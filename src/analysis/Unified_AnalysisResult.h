@@ -26,7 +26,7 @@ UIAPICOMMON_EXPORT void clearUnifiedResults();
 /// example out of memory; the method then returns false or nothing.
 class UIAPICOMMON_EXPORT Unified_AnalysisResult
 {
-    friend void Ext::clearUnifiedResults();
+    friend struct UnifiedResultsAccess;
 
 public:
     /// The object, created at the first call.

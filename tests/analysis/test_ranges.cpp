@@ -23,7 +23,10 @@ namespace {
 std::size_t largestAllocation = std::numeric_limits<std::size_t>::max();
 }
 
-// In place of the library's own, so that a case can run out of memory.
+// In place of the library's own, so that a case can run out of memory. Optimising, GCC inlines one of each pair.
+#if defined(__GNUC__)
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
+#endif
 void * operator new(std::size_t size)
 {
     void * const memory = size <= largestAllocation ? std::malloc(size) : nullptr;

@@ -18,6 +18,8 @@ namespace {
 using KVCAM::API::feature_info;
 
 constexpr double crossSize = 300; // micrometres; half the arm of the cross for a user-defined symbol
+constexpr double pi = 3.14159265358979323846;
+constexpr double halfDiagonal = 0.70710678118654752440; // of a square of side 1
 
 QPointF toPoint(KVCAM::API::point const & point)
 {
@@ -70,8 +72,8 @@ QPainterPath arcPath(QPointF start, QPointF end, QPointF centre, bool clockwise)
     QPointF const to = end - centre;
     double const radius = std::hypot(from.x(), from.y());
     // Qt counts angles counter-clockwise with a y axis that points down; the board's points up.
-    double const startAngle = std::atan2(-from.y(), from.x()) * 180 / M_PI;
-    double sweep = std::atan2(-to.y(), to.x()) * 180 / M_PI - startAngle;
+    double const startAngle = std::atan2(-from.y(), from.x()) * 180 / pi;
+    double sweep = std::atan2(-to.y(), to.x()) * 180 / pi - startAngle;
     if (clockwise) {
         sweep += sweep <= 0 ? 360 : 0;
     } else {
@@ -111,7 +113,7 @@ void strokeWith(FeatureShape & shape, Symbol const & symbol)
     shape.filled = false;
     shape.penWidth = symbol.width;
     shape.squareEnds = symbol.isSquare;
-    double const reach = symbol.width * (symbol.isSquare ? M_SQRT1_2 : 0.5);
+    double const reach = symbol.width * (symbol.isSquare ? halfDiagonal : 0.5);
     QRectF const box = shape.kind == FeatureShape::Kind::Line ? QRectF(shape.place, shape.end).normalized()
                                                               : shape.path.boundingRect();
     shape.box = box.adjusted(-reach, -reach, reach, reach);

@@ -14,7 +14,7 @@ namespace Workbench {
 
 namespace {
 
-constexpr char const * defaultJob = "UIAPI_WORKBENCH_JOB";
+constexpr char const * jobVariable = "UIAPI_WORKBENCH_JOB";
 
 QString absolute(QString const & path)
 {
@@ -28,11 +28,11 @@ ParsedArguments failure(QString const & text)
 
 bool hasDisplay()
 {
-#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         QString const platform = qEnvironmentVariable("QT_QPA_PLATFORM");
         return platform != "offscreen" && platform != "minimal";
     }
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 #else
     return true;
@@ -40,6 +40,11 @@ bool hasDisplay()
 }
 
 } // namespace
+
+QString defaultJob()
+{
+    return qEnvironmentVariable(jobVariable);
+}
 
 ParsedArguments parseArguments(QStringList const & arguments)
 {
@@ -63,7 +68,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     parser.addOptions({step, summary, report});
     parser.addPositionalArgument("JOB-DIRECTORY",
                                  "The folder of the job (default: the environment variable " +
-                                     QString(defaultJob) + ").",
+                                     QString(jobVariable) + ").",
                                  "[JOB-DIRECTORY]");
 
     if (!parser.parse(arguments)) {
@@ -79,7 +84,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     if (positional.size() > 1) {
         return failure("more than one job directory given");
     }
-    QString const job = positional.isEmpty() ? qEnvironmentVariable(defaultJob) : positional.first();
+    QString const job = positional.isEmpty() ? defaultJob() : positional.first();
     if (job.isEmpty()) {
         return failure("no job directory given, see --help");
     }

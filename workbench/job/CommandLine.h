@@ -37,8 +37,11 @@ struct ParsedArguments
     QString text; ///< for Print and Error
 };
 
-/// Parses the arguments, of which the first is the program's name. Without a job, the one named by the
-/// environment variable UIAPI_WORKBENCH_JOB is used. Touches no file.
+/// The job that the environment names for a start without one; may be empty.
+QString defaultJob();
+
+/// Parses the arguments, of which the first is the program's name. Without a job, defaultJob() is used.
+/// Touches no file.
 ParsedArguments parseArguments(QStringList const & arguments);
 
 /// Whether the program has to run without a window: by request, or because there is no display. Call it

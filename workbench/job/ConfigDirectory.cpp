@@ -3,6 +3,7 @@
 #include <EmbeddedEngine.h>
 #include <KVCAM_API.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -11,12 +12,11 @@ namespace Workbench {
 
 namespace {
 
-// WORKBENCH_SAMPLES is where the samples were at build time; without them the program starts without
-// settings.
+// Without samples the program starts without settings.
 void copySamples(QString const & name, QString const & directory)
 {
     QDir().mkpath(directory);
-    QDir const samples(QStringLiteral(WORKBENCH_SAMPLES "/") + name);
+    QDir const samples(samplesDirectory() + '/' + name);
     for (QString const & file : samples.entryList(QDir::Files)) {
         QString const copy = directory + '/' + file;
         QFile::copy(samples.filePath(file), copy);
@@ -29,6 +29,12 @@ void copySamples(QString const & name, QString const & directory)
 }
 
 } // namespace
+
+QString samplesDirectory()
+{
+    QString const packaged = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../samples");
+    return QFileInfo(packaged).isDir() ? packaged : QStringLiteral(WORKBENCH_SAMPLES);
+}
 
 QString enterConfiguration(QString const & directory, QString const & output)
 {

@@ -5,6 +5,10 @@
 
 namespace Workbench {
 
+/// The folder of the sample configuration, templates and jobs: "samples" beside the program's folder, as
+/// packaged, or else that of the sources the program was built from. Needs the application object.
+QString samplesDirectory();
+
 /// Makes the process use a configuration directory. Its parent becomes the current directory, where user
 /// templates are kept. Hot keys are read from the folder "config" there, so the directory should have this
 /// name. With an empty path a copy of the samples below `output` is used; it is made once and kept, so that

@@ -62,11 +62,12 @@ void LayerTable::show(Session const & session, std::size_t step)
     setRowCount(0);
     for (Session::Layer const & layer : session.layers()) {
         bool const isCounted = step < layer.features.size();
-        std::optional<int> const features = isCounted ? layer.features[step] : std::nullopt;
+        bool const hasFeatures = isCounted && layer.features[step].has_value();
         addRow(*this,
                {QString::number(layer.info.row), QString::fromStdString(layer.info.name),
                 QString::fromStdString(layer.info.context), QString::fromStdString(layer.info.type),
-                QString::fromStdString(layer.info.polarity), features ? QString::number(*features) : "?"},
+                QString::fromStdString(layer.info.polarity),
+                hasFeatures ? QString::number(*layer.features[step]) : "?"},
                {5});
         QTableWidgetItem & tick = *item(rowCount() - 1, 0);
         bool const isTicked =
@@ -78,7 +79,7 @@ void LayerTable::show(Session const & session, std::size_t step)
         if (!error.isEmpty()) {
             cell.setToolTip(error);
             cell.setForeground(QColor(faultColour));
-        } else if (!features) {
+        } else if (!hasFeatures) {
             cell.setToolTip(tr("the job holds only the tables of this layer"));
         }
     }

@@ -1,0 +1,3 @@
+#include "job/Console.h"
+
+void Workbench::useParentConsole() {} // inherited
