@@ -23,7 +23,8 @@ namespace {
 std::size_t largestAllocation = std::numeric_limits<std::size_t>::max();
 }
 
-// In place of the library's own, so that a case can run out of memory. Optimising, GCC inlines one of each pair.
+// In place of the library's own, so that a case can run out of memory. Optimising, GCC inlines one of each
+// pair.
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 #endif
@@ -167,7 +168,7 @@ TEST_F(RangesTest, FilesStandInSubDirectoriesAndTheFirstOfANameWins)
     writeFile(folder + "sub/c.json.json", two);
     writeFile(folder + "sub/d.json", "{}"); // does not
     writeFile(folder + "sub/d.json.json", two);
-    for (char const * broken : {"sub/z.json", "sub/y.json", "sub/Z.json", "sub/.y.json", ".hidden/H.json"}) {
+    for (char const * broken : {"sub/y.json", "sub/x.json", "sub/Z.json", "sub/.y.json", ".hidden/H.json"}) {
         writeFile(folder + broken, "{");
     }
     writeFile(folder + "sub/a.txt", one);
@@ -184,7 +185,7 @@ TEST_F(RangesTest, FilesStandInSubDirectoriesAndTheFirstOfANameWins)
     EXPECT_EQ(found, "B.JSON B.JSON (one 0 0 0); a.b a.json.b.json (one 0 0 0); c c.json; "
                      "d d.json.json (two 0 0 0); ");
     std::string const broken = paraError("解析ranges json文件错误！路径：" + directory + "sub/");
-    EXPECT_EQ(log.take(), (Lines{broken + "Z.json", broken + "y.json", broken + "z.json", loaded}))
+    EXPECT_EQ(log.take(), (Lines{broken + "Z.json", broken + "x.json", broken + "y.json", loaded}))
         << "upper case first, and nothing hidden";
 
     writeFile(folder + "other/a.b.json", two);
@@ -232,6 +233,9 @@ TEST_F(RangesTest, AHostThatThrowsCostsTheLevelsAlone)
 
 TEST_F(RangesTest, AFileThatIsTooMuchForTheMemoryCostsItsOwnLevelsAlone)
 {
+#if defined(Q_OS_WIN)
+    GTEST_SKIP() << "the standard library's DLL keeps its own operator new";
+#endif
     writeFile(folder + "sub/a.json", R"({"rangesList":[{"name":")" + QByteArray(2000000, 'a') + "\"}]}");
     writeFile(folder + "sub/b.json", R"({"rangesList":[{"name":"one"}]})");
     largestAllocation = 1000000;

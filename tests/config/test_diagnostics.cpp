@@ -163,7 +163,12 @@ TEST_F(DiagnosticsTest, WhatIsNoFileOrTooLargeIsToldAsAFileThatCannotBeOpened)
              {"cammatenodes.json", {broken}},
              {"range.json", {paraError("Ranger json文件打开失败!路径：")}},
              {"keyboard.json", {}}}) {
-        for (std::string const kind : {"pipe", "endless", "directory", "too large"}) {
+        for (std::string const kind : {
+#if defined(Q_OS_UNIX) // elsewhere these have no names in folders
+                 "pipe", "endless",
+#endif
+                     "directory", "too large"
+             }) {
             QDir(config).removeRecursively();
             QDir().mkdir(config);
             QFile file(config + QString::fromStdString(name));

@@ -177,7 +177,7 @@ TEST_F(GlobalConfigTest, EachPersistedSetterSavesAllMembersIndentedInAscendingOr
     global.setTimeout(std::numeric_limits<int>::min());
     global.setSelectionOutsideHint(true);
     global.setThreadCount(12);
-    EXPECT_EQ(readFile(config + "server.json"), R"({
+    EXPECT_EQ(readFile(config + "server.json").replace("\r\n", "\n"), R"({
     "ClientIp": "10.1.2.4",
     "ContourAccuracy": 0,
     "DBPath": "d:/db",

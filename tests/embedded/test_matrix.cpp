@@ -114,6 +114,9 @@ TEST_F(MatrixTest, MissingFilesAndFoldersRefuseTheJob)
 
 TEST_F(MatrixTest, WhatMayNotBeReadIsNotTakenForAbsent)
 {
+#if defined(Q_OS_WIN)
+    GTEST_SKIP() << "access lists decide, which Qt does not set";
+#endif
     makeBoard();
     ASSERT_TRUE(QDir().mkpath("jobs/board/steps/pcb/layers/top"));
     for (auto const & [path, error] :
