@@ -1,7 +1,7 @@
 # 64-bit Windows from Debian with mingw-w64 (posix threads). UIAPI_WINDOWS_PREFIX, a CMake or environment variable,
 # names the folder that scripts/windows-prefix fills.
 if(NOT DEFINED UIAPI_WINDOWS_PREFIX)
-  set(UIAPI_WINDOWS_PREFIX "$ENV{UIAPI_WINDOWS_PREFIX}")
+  set(UIAPI_WINDOWS_PREFIX "$ENV{UIAPI_WINDOWS_PREFIX}" CACHE PATH "Qt and the other libraries for Windows")
 endif()
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES UIAPI_WINDOWS_PREFIX)
 

@@ -46,8 +46,8 @@ build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev
 # The offscreen platform replaces a display. It needs fonts to draw text.
 run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)
-windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine xvfb xz-utils zip cmake ninja-build
-  qttools5-dev qttools5-dev-tools)
+windows_packages=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine xvfb fonts-dejavu-core xz-utils zip
+  cmake ninja-build qttools5-dev qttools5-dev-tools)
 windows_prefix_packages=(g++ make perl python3 xz-utils bzip2 file tcl dpkg-dev)
 windows_host=x86_64-w64-mingw32
 windows_prefix=${UIAPI_WINDOWS_PREFIX:-${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/uiapi-windows}

@@ -1,9 +1,9 @@
 #include "checks/ResultFiles.h"
 #include "job/CommandLine.h"
 #include "job/ConfigDirectory.h"
-#include "job/Console.h"
 #include "job/JobLoading.h"
 #include "job/Session.h"
+#include "job/SystemTwins.h"
 #include "tour/Headless.h"
 #include "ui/LogPane.h"
 #include "window/BoardPage.h"
@@ -111,6 +111,7 @@ int main(int argc, char ** argv)
     bool const headless = Workbench::runsHeadless(argc, argv);
     if (headless) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        Workbench::findFontsOffscreen();
     }
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");

@@ -1,6 +1,7 @@
 #include "analysis/AnalysisSummary.h"
 
 #include "analysis/CheckOrder.h"
+#include "support/Compiler.h"
 
 #include <json/value.h>
 #include <json/writer.h>
@@ -161,23 +162,13 @@ Json::Value resultOf(Row const & row, std::string const & job, std::string const
     return single("");
 }
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-#elif defined(_MSC_VER)
-#pragma warning(push)
-#pragma warning(disable : 4996)
-#endif
+UIAPI_DEPRECATED_USE_BEGIN
 // Formatted here because toStyledString() indents with tabs in later versions of jsoncpp.
 std::string styled(Json::Value const & document)
 {
     return Json::StyledWriter().write(document);
 }
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#elif defined(_MSC_VER)
-#pragma warning(pop)
-#endif
+UIAPI_DEPRECATED_USE_END
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "analysis/BoundedMergeSort.h"
 #include "analysis/CheckKinds.h"
+#include "support/Compiler.h"
 
 #include <algorithm>
 #include <array>
@@ -103,15 +104,6 @@ void sortAlike(std::vector<Key> & keys)
         sortByDigit(numbers, buffer, shift);
     }
     permute(keys, numbers);
-}
-
-void prefetch(void const * address)
-{
-#if defined(__GNUC__)
-    __builtin_prefetch(address);
-#else
-    static_cast<void>(address);
-#endif
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "analysis/AnalysisSummary.h"
 #include "analysis/UnifiedResultStore.h"
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "support/Singleton.h"
@@ -21,7 +22,7 @@ namespace {
 
 // Every public method runs inside this.
 template <class Body>
-auto guardedResult(Body && body, int line = __builtin_LINE())
+auto guardedResult(Body && body, int line = UIAPI_CALLER_LINE)
 {
     return guarded(Log::analysisResult, std::forward<Body>(body), line);
 }

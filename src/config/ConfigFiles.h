@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/DiagnosticCollector.h"
+#include "support/Compiler.h"
 #include "support/WholeFile.h"
 
 #include <QIODevice>
@@ -32,7 +33,7 @@ enum class Steps
 /// one finding. The logged line number is the caller's.
 WholeFile::ReadResult load(QString const & path, LoadTexts const & texts, QString const & shown,
                            Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
-                           int line = __builtin_LINE());
+                           int line = UIAPI_CALLER_LINE);
 
 /// Reports a file that could not be read as one finding, without a log line.
 void diagnose(QString const & path, WholeFile::ReadResult const & result);
@@ -42,7 +43,7 @@ void diagnose(QString const & path, WholeFile::ReadResult const & result);
 /// different structure.
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra = {},
-                     int line = __builtin_LINE());
+                     int line = UIAPI_CALLER_LINE);
 
 /// The text of a value as UTF-8; empty for a value of another type.
 std::string textOf(QJsonValue const & value);

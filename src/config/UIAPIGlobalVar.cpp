@@ -1,6 +1,7 @@
 #include "config/UIAPIGlobalVar.h"
 
 #include "config/UIAPIGlobalVarPrivate.h"
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "support/Singleton.h"
@@ -13,7 +14,7 @@ namespace {
 // Every public method and every step of a load runs inside this: neither the host's path helpers nor its
 // engine can make a call fail.
 template <class Body>
-auto guardedGlobal(Body && body, int line = __builtin_LINE())
+auto guardedGlobal(Body && body, int line = UIAPI_CALLER_LINE)
 {
     return guarded(Log::globalVar, std::forward<Body>(body), line);
 }

@@ -2,6 +2,7 @@
 
 #include "hotkey/HotkeyFile.h"
 #include "hotkey/KVHotKeyPrivate.h"
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "support/Singleton.h"
@@ -18,7 +19,7 @@ namespace {
 
 // Every public method and every step of the load runs inside this.
 template <class Body>
-auto guardedKeys(Body && body, int line = __builtin_LINE())
+auto guardedKeys(Body && body, int line = UIAPI_CALLER_LINE)
 {
     return guarded(Log::hotKey, std::forward<Body>(body), line);
 }

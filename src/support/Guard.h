@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Compiler.h"
+
 #include <atomic>
 #include <exception>
 #include <string>
@@ -44,7 +46,7 @@ void logCurrentException(char const * source, int line) noexcept;
 /// flat functions and public methods of singletons run inside it. Nested calls log once, because nothing
 /// leaves the inner one.
 template <class Body>
-auto guarded(char const * source, Body && body, int line = __builtin_LINE())
+auto guarded(char const * source, Body && body, int line = UIAPI_CALLER_LINE)
 {
     using Result = std::decay_t<decltype(body())>;
     try {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Compiler.h"
+
 #include <string>
 
 /// Log lines. They go to glog under the base name of the reporting class, whichever file the code is in: log
@@ -13,15 +15,15 @@ inline constexpr char const * hotKey = "KVHotKey";
 inline constexpr char const * analysisResult = "Unified_AnalysisResult";
 
 // Each logs the caller's line number.
-void error(char const * source, std::string const & text, int line = __builtin_LINE());
-void warning(char const * source, std::string const & text, int line = __builtin_LINE());
-void info(char const * source, std::string const & text, int line = __builtin_LINE());
+void error(char const * source, std::string const & text, int line = UIAPI_CALLER_LINE);
+void warning(char const * source, std::string const & text, int line = UIAPI_CALLER_LINE);
+void info(char const * source, std::string const & text, int line = UIAPI_CALLER_LINE);
 
 /// "KVCAM UIAPI " + operation + " error" at ERROR under "UIAPICommonPara": the usual text of a failed
 /// look-up or engine push. `detail` follows without a separator.
-void operationError(char const * operation, std::string const & detail = {}, int line = __builtin_LINE());
+void operationError(char const * operation, std::string const & detail = {}, int line = UIAPI_CALLER_LINE);
 
 /// The two ERROR lines of a caught exception: where, then what.
-void caughtException(char const * source, std::string const & what, int line = __builtin_LINE());
+void caughtException(char const * source, std::string const & what, int line = UIAPI_CALLER_LINE);
 
 } // namespace KVCAM::UIAPI::Log

@@ -1,5 +1,6 @@
 #include "uiapi/EngineBridge.h"
 
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 
@@ -12,7 +13,7 @@ namespace KVCAM::UIAPI {
 namespace {
 
 template <class Record, class Save, class Push>
-void send(char const * operation, Record const & record, Save save, Push push, int line = __builtin_LINE())
+void send(char const * operation, Record const & record, Save save, Push push, int line = UIAPI_CALLER_LINE)
 {
     guard(
         [&] {

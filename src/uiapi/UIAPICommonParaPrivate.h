@@ -6,6 +6,7 @@
 #include "layers/LayerBookkeeping.h"
 #include "links/ConnectEDA.h"
 #include "links/PluginCommandRelay.h"
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "uiapi/UIAPICommonPara.h"
@@ -40,7 +41,7 @@ struct UIAPICommonPara::Private
 /// Every public method runs inside this. The methods are part of the library's boundary, like the flat
 /// functions.
 template <class Body>
-auto guardedPara(Body && body, int line = __builtin_LINE())
+auto guardedPara(Body && body, int line = UIAPI_CALLER_LINE)
 {
     return guarded(Log::commonPara, std::forward<Body>(body), line);
 }

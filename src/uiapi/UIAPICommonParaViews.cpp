@@ -1,6 +1,7 @@
 // The per-view records of UIAPICommonPara.
 
 #include "support/Boxes.h"
+#include "support/Compiler.h"
 #include "support/Log.h"
 #include "uiapi/EngineBridge.h"
 #include "uiapi/Notifier.h"
@@ -13,7 +14,7 @@ namespace {
 // Copies one field of a view's record out; an unknown view is logged and leaves `out` untouched.
 template <class Field>
 void copyOut(ViewRegistry const & views, void const * view, Field Step_Config::*field, Field & out,
-             char const * operation, int line = __builtin_LINE())
+             char const * operation, int line = UIAPI_CALLER_LINE)
 {
     if (Step_Config const * record = views.find(view)) {
         out = record->*field;

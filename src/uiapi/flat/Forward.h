@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/UIAPIGlobalVar.h"
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "uiapi/UIAPICommonPara.h"
@@ -10,14 +11,14 @@
 namespace KVCAM::UIAPI::Flat {
 
 template <class Body>
-auto onCommonPara(Body && body, int line = __builtin_LINE())
+auto onCommonPara(Body && body, int line = UIAPI_CALLER_LINE)
 {
     return guarded(
         Log::commonPara, [&] { return body(*UIAPICommonPara::instance()); }, line);
 }
 
 template <class Body>
-auto onGlobalVar(Body && body, int line = __builtin_LINE())
+auto onGlobalVar(Body && body, int line = UIAPI_CALLER_LINE)
 {
     return guarded(
         Log::globalVar, [&] { return body(*UIAPIGlobalVar::instance()); }, line);
@@ -27,7 +28,7 @@ auto onGlobalVar(Body && body, int line = __builtin_LINE())
 /// an unknown view, which the getter logs, yields the field's default.
 template <class Record, class Value>
 Value readField(void const * view, void (UIAPICommonPara::*get)(void const *, Record &) const,
-                Value Record::*field, int line = __builtin_LINE())
+                Value Record::*field, int line = UIAPI_CALLER_LINE)
 {
     return onCommonPara(
         [&](UIAPICommonPara & para) {
@@ -43,7 +44,7 @@ Value readField(void const * view, void (UIAPICommonPara::*get)(void const *, Re
 template <class Record, class Value>
 void changeField(void const * view, void (UIAPICommonPara::*get)(void const *, Record &) const,
                  void (UIAPICommonPara::*set)(void const *, Record const &), Value Record::*field,
-                 Value value, int line = __builtin_LINE())
+                 Value value, int line = UIAPI_CALLER_LINE)
 {
     onCommonPara(
         [&](UIAPICommonPara & para) {

@@ -1,5 +1,6 @@
 #include "uiapi/flat/ModifierKeys.h"
 
+#include "support/Compiler.h"
 #include "support/Guard.h"
 #include "support/Log.h"
 
@@ -12,7 +13,7 @@ Qt::KeyboardModifiers const control = Qt::ControlModifier;
 Qt::KeyboardModifiers const shift = Qt::ShiftModifier;
 Qt::KeyboardModifiers const alt = Qt::AltModifier;
 
-Qt::KeyboardModifiers heldKeys(int line = __builtin_LINE())
+Qt::KeyboardModifiers heldKeys(int line = UIAPI_CALLER_LINE)
 {
     return guarded(
         Log::commonPara, [] { return QGuiApplication::keyboardModifiers(); }, line);

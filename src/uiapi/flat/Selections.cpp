@@ -1,11 +1,12 @@
 #include "uiapi/flat/Selections.h"
 
+#include "support/Compiler.h"
 #include "uiapi/flat/Forward.h"
 
 namespace KVCAM::UIAPI {
 namespace {
 
-void change(void const * view, bool Selection::*field, bool value, int line = __builtin_LINE())
+void change(void const * view, bool Selection::*field, bool value, int line = UIAPI_CALLER_LINE)
 {
     Flat::changeField(view, &UIAPICommonPara::getSelection, &UIAPICommonPara::setSelection, field, value,
                       line);

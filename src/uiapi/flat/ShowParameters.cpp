@@ -1,18 +1,19 @@
 #include "uiapi/flat/ShowParameters.h"
 
+#include "support/Compiler.h"
 #include "uiapi/flat/Forward.h"
 
 namespace KVCAM::UIAPI {
 namespace {
 
 template <class Value>
-Value read(void const * view, Value show_param::*field, int line = __builtin_LINE())
+Value read(void const * view, Value show_param::*field, int line = UIAPI_CALLER_LINE)
 {
     return Flat::readField(view, &UIAPICommonPara::getShowPara, field, line);
 }
 
 template <class Value>
-void change(void const * view, Value show_param::*field, Value value, int line = __builtin_LINE())
+void change(void const * view, Value show_param::*field, Value value, int line = UIAPI_CALLER_LINE)
 {
     Flat::changeField(view, &UIAPICommonPara::getShowPara, &UIAPICommonPara::setShowPara, field, value, line);
 }

@@ -1,4 +1,7 @@
-#include "job/Console.h"
+#include "job/SystemTwins.h"
+
+#include <QByteArray>
+#include <QtGlobal>
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,4 +28,12 @@ void Workbench::useParentConsole()
     static UINT const previous = GetConsoleOutputCP();
     SetConsoleOutputCP(CP_UTF8);
     std::atexit([] { SetConsoleOutputCP(previous); }); // the console stays in use
+}
+
+void Workbench::findFontsOffscreen()
+{
+    constexpr char const * folder = "QT_QPA_FONTDIR";
+    if (qEnvironmentVariableIsEmpty(folder)) {
+        qputenv(folder, qgetenv("WINDIR") + "\\Fonts");
+    }
 }

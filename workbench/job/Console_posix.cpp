@@ -1,3 +1,0 @@
-#include "job/Console.h"
-
-void Workbench::useParentConsole() {} // inherited
