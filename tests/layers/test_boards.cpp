@@ -63,7 +63,7 @@ TEST(Boards, LayersOfTheSampleJob)
     EXPECT_EQ(joined(selected("Demo-Board", {{"pos", "negative"}})), "l2_gnd");
     EXPECT_EQ(joined(selected("demo-board", {{"type", "drill|rout"}})),
               "drill_plated drill_non-plated slots outline");
-    EXPECT_NE(UIAPI::Ext::explainLayerFilter("none", {}).error, "");
+    EXPECT_FALSE(UIAPI::Ext::explainLayerFilter("none", {}).result);
 }
 
 TEST(Boards, LayersOfRealBoards)

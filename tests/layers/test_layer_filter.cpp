@@ -222,7 +222,8 @@ TEST_F(LayerFilterTest, TheExplanationNamesUnmatchedWordsAndTheFirstRefusingKey)
                                                                           {"pos", "positive|negative|x"},
                                                                           {"Side", "top"},
                                                                           {"layer", ""}});
-    EXPECT_EQ(report.error, "half read");
+    EXPECT_EQ(report.result.reason, "half read");
+    EXPECT_FALSE(report.result);
     EXPECT_EQ(report.unknownKeys, (QStringList{"Side", "layer"}));
     QStringList words;
     for (auto const & it : report.unmatchedWords) {
@@ -240,7 +241,7 @@ TEST_F(LayerFilterTest, TheExplanationNamesUnmatchedWordsAndTheFirstRefusingKey)
     EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, nullptr);
 
     engine.throwFrom("get_matrix");
-    EXPECT_TRUE(Ext::explainLayerFilter("job", {}).layers.empty());
+    EXPECT_EQ(Ext::explainLayerFilter("job", {}).result.reason, "The engine failed.");
     EXPECT_EQ(log.take().size(), 2U);
 }
 

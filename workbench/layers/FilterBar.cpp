@@ -254,8 +254,8 @@ QString FilterBar::explanation() const
     if (m_analysis->isChecked()) {
         return analysisText();
     }
-    if (!m_report.error.empty()) {
-        return QString::fromStdString(m_report.error);
+    if (!m_report.result) {
+        return m_report.result.reason;
     }
     if (request().isEmpty()) {
         return tr("All layers are shown.");
