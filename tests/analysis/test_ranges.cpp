@@ -23,7 +23,7 @@ namespace {
 std::size_t largestAllocation = std::numeric_limits<std::size_t>::max();
 }
 
-// In place of the library's own, so that a case can run out of memory.
+// Replaces the library's own, so that a case can run out of memory.
 void * operator new(std::size_t size)
 {
     void * const memory = size <= largestAllocation ? std::malloc(size) : nullptr;
@@ -68,7 +68,7 @@ protected:
     RangeStore store;
 };
 
-// The whole vocabulary and its numbers, taken down once: none of the names is ever to change.
+// The whole vocabulary and its numbers, recorded once: no name may ever change.
 TEST_F(RangesTest, EveryTableHasItsNumbers)
 {
     Names const tables{
@@ -81,7 +81,7 @@ TEST_F(RangesTest, EveryTableHasItsNumbers)
     for (std::string const & table : tables) {
         for (int number = -2; number < 120; ++number) {
             std::string const name = getRangesName(table, number);
-            // The duplicate below is the one name that leads to another number.
+            // Only the duplicate below gives another number.
             if (!name.empty() && number != 85) {
                 EXPECT_EQ(getRangesEnum(table, name), number);
             }
@@ -160,7 +160,7 @@ TEST_F(RangesTest, FilesStandInSubDirectoriesAndTheFirstOfANameWins)
     writeFile(folder + "sub/deeper/Deep.json", one);
     writeFile(folder + "sub/B.JSON", one);
     writeFile(folder + "sub/a.json.b.json", one);
-    writeFile(folder + "sub/c.json", R"({"rangesList":[]})"); // keeps the name from the next file
+    writeFile(folder + "sub/c.json", R"({"rangesList":[]})"); // blocks the name for the next file
     writeFile(folder + "sub/c.json.json", two);
     writeFile(folder + "sub/d.json", "{}"); // does not
     writeFile(folder + "sub/d.json.json", two);
