@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 
 namespace Workbench {
@@ -23,7 +24,7 @@ struct FilterBar::Field
 {
     char const * key;
     char const * title;
-    std::vector<char const *> words;
+    std::initializer_list<char const *> words;
 };
 
 FilterBar::Field const FilterBar::fields[] = {
