@@ -1,6 +1,18 @@
 #pragma once
 
-// Everything that UIAPICommon exports: the fixed interface and, by UIAPICommonExt.h, what was added to it.
+// Everything that UIAPICommon exports: the fixed interface and, in UIAPICommonExt.h, the additions to it.
+//
+// Unless a comment says otherwise:
+//   - Calls belong to the GUI thread; nothing is locked.
+//   - Nothing throws. An exception from the engine, a slot or the allocator is logged, and the function
+//   returns
+//     0, false, null, nothing or an empty result.
+//   - The library takes ownership of nothing that it is given.
+//   - A std::string is UTF-8.
+//   - A view handle is any address that identifies a view. It is compared, never dereferenced.
+//   - A unit code is 0 for inch and 1 for millimetre. The large unit is then inch or millimetre, the small
+//   one
+//     mil or micrometre ("my").
 
 #include "UIAPICommonExt.h"
 #include "UIAPICommonVersion.h"

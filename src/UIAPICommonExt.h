@@ -1,11 +1,11 @@
 #pragma once
 
-// Every addition to the fixed interface: the namespace KVCAM::UIAPI::Ext, and the members of other classes
-// that are off until asked for. Each header begins with a map of its section; docs/Extensions.md tells what
-// fixed behaviour each addition stands beside. Those of KVLineEdit stand in its own header.
+// Every addition to the fixed interface: the namespace KVCAM::UIAPI::Ext, and members of other classes that
+// are off until used. Each header begins with a map of its section; docs/Extensions.md sets each addition
+// beside the fixed behaviour that it supplements. Those of KVLineEdit are in its own header.
 //
 // A function that can fail returns an Ext::Result (ok, reason). A check lists what it found as Ext::Finding
-// (where, kind, text). EdaSendResult alone is an enumeration, since a host acts on it.
+// (where, kind, text). Only EdaSendResult is an enumeration, since a host acts on it.
 
 #include "ext/Analysis.h"
 #include "ext/Configuration.h"

@@ -17,12 +17,14 @@ KVCAM_API_EXPORT void set_select_param(select_info value);
 KVCAM_API_EXPORT std::string get_matrix(std::string const & job, std::vector<std::string> & steps,
                                         std::vector<layer_info> & layers);
 
-/// Opens a job. `path` is the folder that contains the job's folder, `job` the name of the job's folder.
+/// Opens a job; false on failure. `path` is the folder that contains the job's folder, `job` the name of the
+/// job's folder.
 KVCAM_API_EXPORT bool open_job(std::string const & path, std::string const & job);
 /// Whether a job is open.
 KVCAM_API_EXPORT bool is_job_opened(std::string job);
 
-/// True if `name` is a standard symbol or a symbol of an open job. Then sets type and the first two sizes.
+/// True if `name` is a standard symbol or a symbol of an open job. Then sets the type and the first two
+/// sizes, in the engine's units; the library uses only the answer and passes false for `flag`.
 KVCAM_API_EXPORT bool identify_symbol(std::string const & name, symboltype & type, int & first, int & second,
                                       bool flag);
 /// Replaces the contents of the vector with the names of a job's own symbols.

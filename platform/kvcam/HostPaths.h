@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Where the host is installed.
+/// Where the host is installed. The paths are UTF-8.
 namespace Common {
 
 /// The installation root; if empty, the current directory of the process.

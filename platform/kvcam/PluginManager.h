@@ -16,8 +16,8 @@ struct PluginMetaData
 class KVCAM_API_EXPORT QTpluginsManger4CAM
 {
 public:
-    /// The single object.
+    /// The single object; null if the host has none.
     static QTpluginsManger4CAM * instance();
-    /// Passes a command to its module; the caller keeps ownership of `data`.
+    /// Passes a command to its module; the caller keeps ownership of `data`. May throw.
     void recMegToPlugin(void * data, PluginMetaData meta);
 };

@@ -71,9 +71,10 @@ struct back_layer_name_info
 /// One violation or measurement of a check.
 struct check_info
 {
-    int type = 0;            ///< its kind
-    int value = 0;           ///< mil
-    std::vector<int> points; ///< micrometres; the count depends on the kind
+    int type = 0;  ///< its kind
+    int value = 0; ///< mil, rounded down
+    std::vector<int>
+        points; ///< micrometres: coordinates, then measured values; the count depends on the kind
 };
 
 /// One feature of a layer, as in an edit buffer.

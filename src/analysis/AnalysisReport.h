@@ -126,10 +126,11 @@ private:
 
 /// The names of the category dictionary's tables, usually also the names of range files, in the order of
 /// registration; `unifiedTable` is not among them.
-UIAPICOMMON_EXPORT std::vector<std::string> categoryTables();
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<std::string> categoryTables();
 
 /// The level that gave an entry its severity, in the levels' unit; none for Severity::None.
-UIAPICOMMON_EXPORT std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry);
+[[nodiscard]] UIAPICOMMON_EXPORT std::optional<double> limitOf(ReportCategory const & category,
+                                                               ReportEntry const & entry);
 
 /// The format of a written report.
 enum class ReportFormat : int
@@ -141,11 +142,12 @@ enum class ReportFormat : int
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
 /// has null and CSV an empty field. Numbers have the shortest form that reads back equal. The CSV starts with
-/// a byte-order mark, without which spreadsheets take it for the system's code page, and a text in it that a
-/// spreadsheet would take for a formula, full-width signs included, has a "'" before it.
-UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
+/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. A text that a
+/// spreadsheet would take for a formula, full-width signs included, is prefixed with "'".
+[[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
 
-/// Writes reportText() to a file, which is replaced whole. The reason of a failure is translated. Nothing is
+/// Writes reportText() to a file. An old file is replaced as a whole or left unchanged, and the folder must
+/// exist. The reason of a failure is translated. Nothing is
 /// logged.
 [[nodiscard]] UIAPICOMMON_EXPORT Result writeReport(AnalysisReport const & report, ReportFormat format,
                                                     QString const & path);

@@ -56,7 +56,7 @@ public:
     /// Replaces all layers of each given item; stored as given, unsorted.
     bool setRestResult(std::map<unified_check_items, std::map<std::string, unified_check_result>> & results);
 
-    // --- Asking -------------------------------------------------------------------------------------------
+    // --- Queries ------------------------------------------------------------------------------------------
 
     /// Appends the group (0 to 3) of each layer of an item, then sorts all of `out`, including its previous
     /// content, by the layers' rows. Layers not in the list of setLayerInfo() have row -1. The order of equal

@@ -43,7 +43,8 @@ public:
     // --- Settings -----------------------------------------------------------------------------------------
 
     ///@{
-    /// Empty, 0 or false if missing from "server.json". Their consumers define codes and units.
+    /// Empty, 0 or false if missing from "server.json". Their consumers define codes and units;
+    /// deletGeneJob() takes the timeout as milliseconds.
     std::string getServerIP() const;
     std::string getClientIP() const;
     int getServerPort() const;
@@ -102,11 +103,12 @@ public:
 
     // --- Auto-matrix templates ----------------------------------------------------------------------------
 
-    /// All templates by index. Shipped ones count from 0, the user's from 2.
+    /// A copy of all templates, by index. Shipped ones count from 0, the user's from 2; a user template whose
+    /// index is taken is skipped.
     std::map<int, AutoMatrixTmp> getAutoMatrixTmpMap() const;
     /// The selected template; at start a copy of the one with the smallest index, empty if there is none.
     AutoMatrixTmp getCurrentAutoMatrixTmp() const;
-    /// In memory only.
+    /// Replaces the selected template, in memory only.
     void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl);
     /// Stores the template under the index, replacing one that is there, and writes it to the file
     /// "autoMatrix/" + name + ".json" below the current directory, creating the folder. If the file cannot be

@@ -17,8 +17,8 @@
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
-// addUnified() and then, as ever, Unified_AnalysisResult; what was not run -> addNotChecked(); at the end
-// writeReport(). The report grades by gradeMeasured().
+// addUnified(), and to Unified_AnalysisResult as before; what was not run -> addNotChecked(); at the end
+// writeReport(). The report grades with gradeMeasured().
 
 #include "../analysis/AnalysisReport.h"
 #include "../analysis/Grade.h"

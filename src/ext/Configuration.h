@@ -1,6 +1,6 @@
 #pragma once
 
-// Configuration: what became of the files that the library loads and saves.
+// Configuration: how loading and saving the library's files went.
 //
 //   diagnostics()               what the loaders found wrong, and the saves that failed
 //   setKeepSettingsBackup()     keeps "server.json.bak" before a save of "server.json" would lose something
@@ -9,9 +9,9 @@
 //   autoMatrixRoles             the twelve roles of a template with their members, for loops
 //   autoMatrixFile()            which of the user's files holds a template
 //
-// The loaders run when the first flat function creates its singleton; switch on what concerns them before
-// that. The setters of settings and saveCurrentAutoMatrixTmp() save; a failure shows in diagnostics(), and
-// that of the settings in lastSettingsSave() too.
+// The loaders run when the first flat function creates its singleton, so call setReadSavedSettingKeys()
+// before that. The setters of settings and saveCurrentAutoMatrixTmp() save. Failures are in diagnostics(),
+// those of the settings also in lastSettingsSave().
 
 #include "../config/AutoMatrixFile.h"
 #include "../config/AutoMatrixTmp.h"

@@ -4,12 +4,11 @@
 //
 //   edaLink()              the link, for its signals
 //   edaLinkState()         bound or why not, counts, the latest error
-//   sendEdaDataChecked()   sendEdaData(), and says what became of it
+//   sendEdaDataChecked()   sendEdaData() with a result
 //
-// The signals stand in ConnectEDA: datagramReceived() for each datagram, then jsonReceived() or
-// invalidReceived(). The three functions are UIAPICommonPara's methods of the same names, which call
-// ConnectEDA::state() and sendDataChecked(). UIAPICommonPara::addPluginRoute() and removePluginRoute() are
-// the additions to setPluginCmd().
+// ConnectEDA has the signals: datagramReceived() for each datagram, then jsonReceived() or invalidReceived().
+// The three functions call UIAPICommonPara's methods of the same names, and so create it.
+// UIAPICommonPara::addPluginRoute() and removePluginRoute() are the additions to setPluginCmd().
 
 #include "../links/ConnectEDA.h"
 #include "UIAPICommonExport.h"

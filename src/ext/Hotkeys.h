@@ -2,18 +2,18 @@
 
 // Hot keys: what KVHotKey holds, and the user's file.
 //
-//   hotkeyFile              where KVHotKey reads the user's file
+//   hotkeyFile              the path of the user's file
 //   hotkeyBindings()        the bindings held, with the keys in words
 //   hotkeyReport()          what is odd about them
 //   checkHotkeyFile()       what loading a file would do, without loading it
-//   lastHotkeyLoad()        whether the last KVHotKey::uploadHotkeyModel() took the file
+//   lastHotkeyLoad()        whether the last KVHotKey::uploadHotkeyModel() loaded the file
 //   exportHotkeys()         writes the bindings held as such a file
 //   pendingHotkey()         the first key of a sequence that may follow
 //   hotkeyContinuations()   the keys that complete it
 //
 // A page of hot keys: hotkeyBindings() fills the table, checkHotkeyFile(hotkeyFile) its findings,
-// exportHotkeys() writes, KVHotKey::uploadHotkeyModel() loads again and lastHotkeyLoad() tells how it went.
-// pendingHotkey() and hotkeyContinuations() belong after each KVHotKey::getFunctionCode(), for a hint in the
-// status bar.
+// exportHotkeys() writes, KVHotKey::uploadHotkeyModel() loads again and lastHotkeyLoad() has the result. For
+// a hint in the status bar, call pendingHotkey() and hotkeyContinuations() after each
+// KVHotKey::getFunctionCode().
 
 #include "../hotkey/HotkeyTools.h"

@@ -25,15 +25,13 @@ public:
     QString text(char const * member) const { return m_object.value(QLatin1String(member)).toString(); }
 
     template <class Value, class Target>
-    void look(char const * member, QMap<QString, Value> const & names, HotkeyFindingKind kind,
-              Target & target)
+    void look(char const * member, HotkeyWords<Value> const & words, HotkeyFindingKind kind, Target & target)
     {
         QString const word = text(member);
-        auto const name = names.find(word);
-        if (name == names.end()) {
-            fail(kind, member, word);
+        if (Value const * const value = words.find(word)) {
+            target = *value;
         } else {
-            target = name.value();
+            fail(kind, member, word);
         }
     }
     void fail(HotkeyFindingKind kind, char const * member, QString const & word)

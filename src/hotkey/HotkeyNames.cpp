@@ -2,97 +2,100 @@
 
 #include "hotkey/FunctionTable.h"
 
-#include <algorithm>
+#include <array>
+#include <iterator>
 
 namespace KVCAM::UIAPI {
 namespace {
 
-/// A key or modifier with special spellings; the first one is written.
-template <class Value>
-struct Spelled
-{
-    Value value;
-    char const * names[3];
-};
-
-constexpr Spelled<Qt::Key> arrows[] = {
-    {Qt::Key_Up, {"Up", "UP", "up"}},
-    {Qt::Key_Left, {"Left", "LEFT", "left"}},
-    {Qt::Key_Right, {"Right", "RIGHT", "right"}},
-    {Qt::Key_Down, {"Down", "DOWN", "down"}},
-};
-constexpr Spelled<Qt::KeyboardModifier> modifierWords[] = {
-    {Qt::ShiftModifier, {"Shift", "SHIFT", "shift"}},
-    {Qt::ControlModifier, {"Ctrl", "CTRL", "ctrl"}},
-};
-
 // A character in this range is its own key code: digits, punctuation and the upper-case letters.
-constexpr int firstCharacter = '0';
-constexpr int lastCharacter = '`';
-constexpr int lowerToUpper = 'a' - 'A';
+constexpr char characters[] = "0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`";
+constexpr char smallLetters[] = "abcdefghijklmnopqrstuvwxyz";
+constexpr std::size_t characterCount = std::size(characters) - 1;
+constexpr std::size_t letterCount = std::size(smallLetters) - 1;
+static_assert(characterCount == '`' - '0' + 1 && letterCount == 26);
 
-template <class Value, class Table>
-void addSpelled(QMap<QString, Value> & map, Table const & table)
+constexpr HotkeyWord<int> arrows[] = {
+    {"Up", Qt::Key_Up},       {"UP", Qt::Key_Up},     {"up", Qt::Key_Up},       {"Left", Qt::Key_Left},
+    {"LEFT", Qt::Key_Left},   {"left", Qt::Key_Left}, {"Right", Qt::Key_Right}, {"RIGHT", Qt::Key_Right},
+    {"right", Qt::Key_Right}, {"Down", Qt::Key_Down}, {"DOWN", Qt::Key_Down},   {"down", Qt::Key_Down},
+};
+
+constexpr auto makeKeys()
 {
-    for (auto const & entry : table) {
-        for (char const * name : entry.names) {
-            map.insert(QLatin1String(name), entry.value);
-        }
+    std::array<HotkeyWord<int>, characterCount + letterCount + std::size(arrows)> rows{};
+    std::size_t row = 0;
+    for (std::size_t i = 0; i < characterCount; ++i) {
+        rows[row++] = {{characters + i, 1}, characters[i]};
     }
+    for (std::size_t i = 0; i < letterCount; ++i) {
+        rows[row++] = {{smallLetters + i, 1}, smallLetters[i] - 'a' + 'A'};
+    }
+    for (HotkeyWord<int> const & arrow : arrows) {
+        rows[row++] = arrow;
+    }
+    return rows;
 }
 
-template <class Table, class Value>
-QString firstSpelling(Table const & table, Value value)
+constexpr auto makeFunctions()
 {
-    auto const entry = std::find_if(std::begin(table), std::end(table),
-                                    [value](auto const & each) { return each.value == value; });
-    return entry == std::end(table) ? QString() : QString::fromLatin1(entry->names[0]);
+    std::array<HotkeyWord<FuncCode>, std::size(HotkeyFunctions::table) - 1> rows{};
+    std::size_t row = 0;
+    for (HotkeyFunction const & function : HotkeyFunctions::table) {
+        if (function.name != nullptr) {
+            rows[row++] = {function.name, function.code};
+        }
+    }
+    return rows;
+}
+
+constexpr auto keyWords = makeKeys();
+constexpr HotkeyWord<Qt::KeyboardModifier> modifierWords[] = {
+    {"", Qt::NoModifier},          {"Shift", Qt::ShiftModifier},  {"SHIFT", Qt::ShiftModifier},
+    {"shift", Qt::ShiftModifier},  {"Ctrl", Qt::ControlModifier}, {"CTRL", Qt::ControlModifier},
+    {"ctrl", Qt::ControlModifier},
+};
+constexpr auto functionWords = makeFunctions();
+
+template <class Table, class Value>
+QString firstWord(Table const & table, Value value)
+{
+    auto const row = std::find_if(std::begin(table), std::end(table),
+                                  [value](auto const & each) { return each.value == value; });
+    return row == std::end(table) ? QString()
+                                  : QString::fromLatin1(row->text.data(), static_cast<int>(row->text.size()));
 }
 
 } // namespace
 
 void HotkeyNames::addKeys()
 {
-    for (int character = firstCharacter; character <= lastCharacter; ++character) {
-        keys.insert(QChar(character), character);
-    }
-    for (int letter = 'a'; letter <= 'z'; ++letter) {
-        keys.insert(QChar(letter), letter - lowerToUpper);
-    }
-    addSpelled(keys, arrows);
+    keys = {keyWords.data(), keyWords.size()};
 }
 
 void HotkeyNames::addModifiers()
 {
-    modifiers.insert(QString(), Qt::NoModifier);
-    addSpelled(modifiers, modifierWords);
+    modifiers = {modifierWords, std::size(modifierWords)};
 }
 
 void HotkeyNames::addFunctions()
 {
-    for (HotkeyFunction const & row : HotkeyFunctions::table) {
-        if (row.name != nullptr) {
-            functions.insert(QLatin1String(row.name), row.code);
-        }
-    }
+    functions = {functionWords.data(), functionWords.size()};
 }
 
 QString nameOfKey(int key)
 {
-    bool const isCharacter = key >= firstCharacter && key <= lastCharacter;
-    return isCharacter ? QString(QChar(key)) : firstSpelling(arrows, key);
+    return firstWord(keyWords, key);
 }
 
 QString nameOfModifiers(Qt::KeyboardModifiers modifiers)
 {
-    return modifiers == Qt::NoModifier ? QString("") : firstSpelling(modifierWords, modifiers);
+    return firstWord(modifierWords, modifiers);
 }
 
 QString nameOfFunction(FuncCode code)
 {
-    auto const & table = HotkeyFunctions::table;
-    bool const isKnown = code >= table[0].code && code <= std::prev(std::end(table))->code;
-    return isKnown ? QString::fromLatin1(table[code - 1].name) : QString();
+    return firstWord(functionWords, code);
 }
 
 } // namespace KVCAM::UIAPI

@@ -9,14 +9,15 @@
 
 #include <vector>
 
-/// Additions to the hot keys. They read what KVHotKey holds, creating it at the first call, and change
-/// nothing of it. What a keyboard layout cannot type is not known here.
+/// Additions to the hot keys. They read the bindings of KVHotKey, creating it at the first call, and do not
+/// change them. Keyboard layouts are not considered: a key that a layout cannot type is not reported. GUI
+/// thread only.
 namespace KVCAM::UIAPI::Ext {
 
 /// The user's hot-key file, relative to the current directory.
 inline constexpr char const * hotkeyFile = "./config/keyboard.json";
 
-/// Keys and the function that they give.
+/// A binding: keys and the function that they request.
 struct HotkeyBinding
 {
     FuncCode code = KP_NoFunction; ///< the function
@@ -88,7 +89,7 @@ struct HotkeyExport
 struct HotkeyContinuation
 {
     QString key;                   ///< the key to press
-    FuncCode code = KP_NoFunction; ///< what the sequence gives
+    FuncCode code = KP_NoFunction; ///< the function that the sequence requests
     QString name;                  ///< the function's name in the file
 };
 

@@ -71,14 +71,17 @@ LayerFilterReport explain(Layers const & layers, Request const & request)
 
 LayerFilterReport explainLayerFilter(QString const & job, QMap<QString, QString> const & filters)
 {
-    return guarded(Log::commonPara, [&] {
+    LayerFilterReport report;
+    report.result = {false, QStringLiteral("The engine failed.")};
+    guarded(Log::commonPara, [&] {
         std::vector<std::string> steps;
         Layers layers;
-        std::string error = KVCAM::API::get_matrix(job.toStdString(), steps, layers);
-        LayerFilterReport report = explain(layers, filters);
-        report.error = std::move(error);
-        return report;
+        QString const error =
+            QString::fromStdString(KVCAM::API::get_matrix(job.toStdString(), steps, layers));
+        report = explain(layers, filters);
+        report.result = {error.isEmpty(), error};
     });
+    return report;
 }
 
 } // namespace KVCAM::UIAPI::Ext

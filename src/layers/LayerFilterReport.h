@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../support/Finding.h"
+#include "../support/Result.h"
 #include "UIAPICommonExport.h"
 
 #include <QMap>
@@ -36,16 +37,15 @@ struct LayerVerdict
 /// The effect of a request on the layers of a job.
 struct LayerFilterReport
 {
-    std::string error;       ///< the engine's text if the matrix cannot be read, else empty
+    Result result;           ///< whether the matrix was read; the reason is the engine's text
     QStringList unknownKeys; ///< keys that are ignored, in ascending order
     std::vector<LayerFilterFinding> unmatchedWords; ///< by key, then in request order
     std::vector<LayerVerdict> layers;               ///< every layer in matrix order
 };
 
 /// The effect of UIAPICommonPara::selectLayersByType() on a request, and why. The layers without a rejecting
-/// key are those that it appends. An engine exception is logged and gives an empty report. No singleton is
-/// created.
-/// \since 0.1
+/// key are those that it appends. An engine exception is logged and gives a report with only a failed result.
+/// No singleton is created. \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT LayerFilterReport explainLayerFilter(QString const & job,
                                                                       QMap<QString, QString> const & filters);
 

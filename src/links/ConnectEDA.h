@@ -16,7 +16,7 @@ namespace Ext {
 enum class EdaSendResult : int
 {
     Sent,       ///< passed to the network; whether anyone listens is unknown
-    NoLink,     ///< there is no link, or its sending socket is gone, or the process is ending
+    NoLink,     ///< there is no link, its sending socket was destroyed, or the process is ending
     NoPort,     ///< the port set is outside 1 to 65535
     TooLarge,   ///< the message does not fit into one datagram (65507 bytes)
     SocketError ///< anything else; see EdaLinkState::lastError
@@ -50,9 +50,9 @@ class UIAPICOMMON_EXPORT ConnectEDA : public QObject
 
 public:
     /// Creates both sockets as children of `parent` (not of the link) and binds the receiving one. A failed
-    /// bind is only reported by state() and is not retried. A link created before a QCoreApplication, even
-    /// the second one of the process, sends, receives through receive(), and rebinds when that event loop
-    /// starts, which serves it from then on.
+    /// bind is only reported by state() and is not retried. A link created while there is no
+    /// QCoreApplication, also between two of them, can send, and receive() reads what has arrived. It rebinds
+    /// when the next application's event loop starts and is served by it from then on.
     explicit ConnectEDA(QObject * parent = nullptr);
     /// Destroys the remaining sockets. May be called from a slot of the link's own signals.
     ~ConnectEDA() override;

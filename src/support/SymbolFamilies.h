@@ -44,7 +44,7 @@ enum class SymbolFamily : int
 /// How many families there are.
 inline constexpr std::size_t symbolFamilyCount = static_cast<std::size_t>(SymbolFamily::Moire) + 1;
 
-/// What a field of a symbol name says. Lengths are in mil or micrometres; the name does not tell which.
+/// What a field of a symbol name says. Lengths are in mil or micrometres; the name does not say which.
 enum class SymbolField : int
 {
     ///@{
@@ -101,9 +101,9 @@ enum class SymbolRewrite : int
 /// The fields of a name, in their order.
 struct SymbolLayout
 {
-    std::size_t required;              ///< how many of them a name has at least
+    std::size_t required;              ///< how many of them a name must have
     std::size_t count;                 ///< required and optional ones
-    std::array<SymbolField, 8> fields; ///< the first `count` say something
+    std::array<SymbolField, 8> fields; ///< only the first `count` are used
 
     /// Whether a Corner may follow the required ones.
     constexpr bool allowsCorner() const noexcept
@@ -118,7 +118,7 @@ struct SymbolLayout
 /// AirGap after the required fields is converted and described, but not well-formed.
 struct SymbolGrammar
 {
-    SymbolFamily family;         ///< whose names these are
+    SymbolFamily family;         ///< the family of these names
     std::string_view prefix;     ///< everything before the first digit; case matters
     SymbolRewrite rewrite;       ///< into another unit
     SymbolLayout layout;         ///< after the prefix
@@ -221,7 +221,7 @@ constexpr bool isBySymbolFamily(Rows const & rows)
 }
 static_assert(isBySymbolFamily(symbolGrammars));
 
-/// The family whose prefix this is exactly; null for any other text. Valid for ever.
+/// The family with exactly this prefix; null for any other text. Points to static data.
 constexpr SymbolGrammar const * findSymbolGrammar(std::string_view prefix) noexcept
 {
     for (SymbolGrammar const & grammar : symbolGrammars) {

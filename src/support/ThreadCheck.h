@@ -14,9 +14,8 @@ enum class ThreadCheck : int
 
 /// Makes the flat functions and the singletons' methods compare threads. Off until called. The library
 /// belongs to the thread of the most recent call, so call it in main(), before the first dialog. Each call
-/// allows one more log line. The checked calls still run, and nothing is locked. Meant for debug builds of
-/// hosts.
-/// \since 0.1
+/// of it allows one more log line. The checked calls still run, and nothing is locked. Meant for debug builds
+/// of hosts. \since 0.1
 UIAPICOMMON_EXPORT void setThreadCheck(ThreadCheck check);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -132,18 +132,18 @@ public:
     QPoint getCoordinatePos() const;
     void setCoordinatePos(QPoint pos);
     ///@}
-    /// The input widget, not owned, null until set. The caller that sets it must reset it before the widget
-    /// is destroyed.
+    /// The input widget, not owned, null until set. Whoever sets it must reset it before the widget is
+    /// destroyed.
     QWidget * getInputPtr() const;
     /// Logs "setInputPtr _input " and the pointer at INFO if none was set; otherwise the old and then the new
     /// one at WARNING.
     void setInputPtr(QWidget * widget);
     ///@{
-    /// The split widget, not owned, null until set.
+    /// The split widget, not owned, null until set. To be reset like the input widget.
     QWidget * getSplitPtr() const;
     void setSplitPtr(QWidget * widget);
     ///@}
-    /// Owned by this object.
+    /// The layers that the host marks; owned by this object and never null.
     LayerState * getLayerState();
 
     // --- Attributes ---------------------------------------------------------------------------------------
@@ -154,7 +154,7 @@ public:
     // --- Units --------------------------------------------------------------------------------------------
     // An unknown view is treated as an inch view, after the ERROR line of getShowPara().
 
-    /// Converts from the other unit to the view's: inch at 5 decimals, else millimetre at 3.
+    /// Converts from the other large unit to the view's: inch at 5 decimals, else millimetre at 3.
     double getUnitData(void const * view, double value) const;
     /// Large unit to nanometres (kind 0) or micrometres (kind 1); 0.0 for another kind.
     double getUnitAPIData(void const * view, int kind, double value) const;
@@ -179,8 +179,8 @@ public:
     std::string getAreaUnitStringType(void const * view) const;
     /// Fixed notation with six decimals, without trailing zeros.
     std::string doubleToString(double value) const;
-    /// The measured quantity of a check result, by its kind; 0.0 if the number of points does not match the
-    /// kind.
+    /// The measured quantity of a check result in micrometres, by its kind; 0.0 for a kind that measures
+    /// nothing and if the number of points does not match the kind.
     double getMeasureValue(check_info const & info) const;
 
     // --- Symbol names -------------------------------------------------------------------------------------
@@ -336,7 +336,7 @@ public:
     QString getReceiveStr() const;
     /// The link, unowned and never destroyed; null if there is none.
     ConnectEDA * edaLink() const;
-    /// Status of the link; the type stands in ext/EdaLink.h.
+    /// Status of the link; the type is declared in links/ConnectEDA.h.
     Ext::EdaLinkState edaLinkState() const;
     /// sendEdaData() with a result.
     [[nodiscard]] Ext::EdaSendResult sendEdaDataChecked(QJsonObject const & data);

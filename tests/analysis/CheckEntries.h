@@ -18,7 +18,7 @@ inline UIAPI::drill_check_item drillItem(int number)
     return static_cast<UIAPI::drill_check_item>(number);
 }
 
-/// What tells the entries of a case apart.
+/// Distinguishes the entries of a case.
 inline std::vector<int> valuesOf(Entries const & entries)
 {
     std::vector<int> values;

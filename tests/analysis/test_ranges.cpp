@@ -23,8 +23,8 @@ namespace {
 std::size_t largestAllocation = std::numeric_limits<std::size_t>::max();
 }
 
-// In place of the library's own, so that a case can run out of memory. Optimising, GCC inlines one of each
-// pair.
+// Replaces the library's own, so that a case can run out of memory. Optimising, GCC inlines one of each pair
+// and takes the two for a mismatch.
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 #endif
@@ -72,7 +72,7 @@ protected:
     RangeStore store;
 };
 
-// The whole vocabulary and its numbers, taken down once: none of the names is ever to change.
+// The whole vocabulary and its numbers, recorded once: no name may ever change.
 TEST_F(RangesTest, EveryTableHasItsNumbers)
 {
     Names const tables{
@@ -85,7 +85,7 @@ TEST_F(RangesTest, EveryTableHasItsNumbers)
     for (std::string const & table : tables) {
         for (int number = -2; number < 120; ++number) {
             std::string const name = getRangesName(table, number);
-            // The duplicate below is the one name that leads to another number.
+            // Only the duplicate below gives another number.
             if (!name.empty() && number != 85) {
                 EXPECT_EQ(getRangesEnum(table, name), number);
             }
@@ -164,7 +164,7 @@ TEST_F(RangesTest, FilesStandInSubDirectoriesAndTheFirstOfANameWins)
     writeFile(folder + "sub/deeper/Deep.json", one);
     writeFile(folder + "sub/B.JSON", one);
     writeFile(folder + "sub/a.json.b.json", one);
-    writeFile(folder + "sub/c.json", R"({"rangesList":[]})"); // keeps the name from the next file
+    writeFile(folder + "sub/c.json", R"({"rangesList":[]})"); // blocks the name for the next file
     writeFile(folder + "sub/c.json.json", two);
     writeFile(folder + "sub/d.json", "{}"); // does not
     writeFile(folder + "sub/d.json.json", two);

@@ -70,7 +70,7 @@ TEST(Grade, AValueAtALevelHasTheLevelsSeverity)
     EXPECT_EQ(markOf(static_cast<Severity>(-5)).severity, Severity::None);
 }
 
-// Who lacks the red or the green cones has lightness and blue to go by.
+// Without red or green cones, lightness and blue remain.
 TEST(Grade, ColoursStayApartInRedGreenBlindness)
 {
     auto const linear = [](unsigned rgb, unsigned shift) {
@@ -96,7 +96,7 @@ TEST(CheckKind, ValueAndPlaceNeedTheirPoints)
         int kind;
         std::vector<int> points;
         std::optional<double> value;
-        double x; ///< -1: no place
+        double x; ///< -1: no position
     };
     for (Row const & row :
          {Row{1, {1, 2, 4, 4, 5}, 5, 2.5}, Row{2, {1, 2, 4, 4, 5}, 5, 2.5}, Row{1, {1, 2, 3, 4}, {}, 2},
@@ -210,7 +210,7 @@ TEST_F(ReportTest, CsvHasEqualLinesAndNoFormulas)
         "\xEF\xBB\xBFrecord,table,number,category,layer,level,value_um,value_mil,limit_mil,"
         "severity,x_um,y_um,count,text\r";
     EXPECT_EQ(lines.takeFirst(), head);
-    // The job's name holds a line feed, so it takes two lines.
+    // The job's name contains a line feed, so it takes two lines.
     EXPECT_EQ(lines.takeFirst(), "job,,,,,,,,,,,,,\"job");
     EXPECT_EQ(lines.takeFirst(), "\"\"1\"\"\"\r");
     EXPECT_EQ(lines.takeFirst(), "step,,,,,,,,,,,,,\"pcb\"\r");

@@ -32,7 +32,7 @@ protected:
         return readObject("one.json")["rangesList"].toArray()[index].toObject();
     }
 
-    /// Why nothing was saved, with the path left out; "" when saved.
+    /// Why nothing was saved, without the path; "" if saved.
     std::string refusal(std::string const & rangeName = "one")
     {
         Ext::Result const result = store.saveRanges(rangeName);
@@ -100,8 +100,7 @@ TEST_F(SaveRangesTest, RefusalsSayWhyAndChangeNothing)
     EXPECT_EQ(log.take(), Lines{});
 }
 
-// Through the exported function, with two files of one name: the one that was read is the one that is
-// written.
+// Through the exported function: of two files of one name, the file that was read is written.
 TEST_F(SaveRangesTest, ARangeGoesBackToTheFileItCameFrom)
 {
     writeFile("config/ranges/x/Lines.json", content);

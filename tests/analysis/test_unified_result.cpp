@@ -46,7 +46,7 @@ protected:
         return {-1};
     }
 
-    /// Expects the checks of each item, as their number and group, in the first `groups` groups alone.
+    /// Expects the checks of each item, as number and group, in the first `groups` groups only.
     void expectFiled(std::string const & layer, std::map<int, std::vector<int>> const & checks, int groups)
     {
         for (int item = 0; item < 60; ++item) {
@@ -89,7 +89,7 @@ TEST_F(UnifiedResultTest, TheFirstsKindChoosesThePointOfBoth)
         check_info a, b;
         bool expected;
     };
-    // Less at the point in question alone, and more at every other one.
+    // Less only at the relevant point, more at every other.
     auto const less = [](std::size_t point, int value, int others) {
         std::vector<int> points(8, others);
         points[point] = value;
@@ -103,7 +103,7 @@ TEST_F(UnifiedResultTest, TheFirstsKindChoosesThePointOfBoth)
         rows.push_back({{kind, 0, high}, {kind, 0, low}, false});
         rows.push_back({{kind, 0, low}, {kind, 0, low}, false});
         rows.push_back({{kind, 0, {}}, {kind, 0, high}, false});
-        rows.push_back({{kind, 0, less(point, -1, 0)}, {kind, 0, {0, 0}}, false}); // none is not 0
+        rows.push_back({{kind, 0, less(point, -1, 0)}, {kind, 0, {0, 0}}, false}); // a missing point is not 0
     }
     std::vector<int> const low(8, 1);
     std::vector<int> const high(8, 2);
@@ -121,8 +121,8 @@ TEST_F(UnifiedResultTest, TheFirstsKindChoosesThePointOfBoth)
     }
 }
 
-// Whatever the kinds: what the sort makes of the comparison itself, and no entry lost or doubled. The first
-// run is of mixed kinds, the second of one kind of which some lack the point, the third of one kind alone.
+// Whatever the kinds: the same as sorting with the comparison itself, and no entry lost or doubled. The first
+// run mixes kinds, the second has one kind with points missing, the third one kind only.
 TEST_F(UnifiedResultTest, EntriesAreMergedByTheComparison)
 {
     std::mt19937 random(2);
@@ -149,7 +149,7 @@ TEST_F(UnifiedResultTest, EntriesAreMergedByTheComparison)
     }
 }
 
-// Whether it always holds, never does, or says something else each time it is asked.
+// A comparison that is always true, never true, or different each time.
 TEST_F(UnifiedResultTest, NoComparisonLosesAnElement)
 {
     std::mt19937 random(3);
@@ -189,7 +189,7 @@ TEST_F(UnifiedResultTest, EverySignalCheckHasItsItem)
                 {3, item * 10 + group, {0, 0, 0, 0, 0, 0, 7, 0}}};
         }
     }
-    replies["bare"]; // a layer without a check gets its empty entries
+    replies["bare"]; // a layer without checks gets empty entries
     ASSERT_TRUE(result.setSignalLayerCheckResult(replies));
     EXPECT_TRUE(replies["bare"].empty()) << "the reply is left as it is";
     std::map<int, std::vector<int>> const checks{{4, {46}},      {5, {3}},           {6, {45}},
@@ -242,9 +242,9 @@ TEST_F(UnifiedResultTest, AQueryIsOrderedByRow)
         }
         return names;
     };
-    // "Less than or equal": layers of equal rows, here of none, change places.
+    // "Less than or equal": layers with equal rows, here unlisted ones, swap.
     EXPECT_EQ(order(), "y x top l2 bot ");
-    result.setLayerInfo({{"board", "signal", "y", "POS", 1}}); // to be replaced
+    result.setLayerInfo({{"board", "signal", "y", "POS", 1}}); // will be replaced
     result.setLayerInfo({{"board", "signal", "top", "POS", 1},
                          {"board", "signal", "bot", "POS", 4},
                          {"board", "signal", "l2", "POS", 3},
@@ -262,7 +262,7 @@ TEST_F(UnifiedResultTest, AQueryIsOrderedByRow)
         EXPECT_EQ(answer.size(), 2U);
         EXPECT_EQ(answer[0].first, "top") << "untouched";
     }
-    Answer many; // far more than std::sort survives with such a comparison
+    Answer many; // far more than std::sort would survive with this comparison
     for (int i = 0; i < 1000; ++i) {
         many.emplace_back("unlisted", Entries{});
     }
@@ -300,7 +300,7 @@ TEST_F(UnifiedResultTest, TheSummaryTakesTheFirstEntryOfTheFirstGroupThatHasOne)
     EXPECT_FALSE(summary()[4]["allLayerMinTrackWidth"].isMember("result"));
 }
 
-// All keys, labels, units and escapes, and where the blanks stand: readers compare summaries as text.
+// All keys, labels, units, escapes and blanks: readers compare summaries as text.
 TEST_F(UnifiedResultTest, TheSummaryIsKnownToTheByte)
 {
     auto const digest = [&] {

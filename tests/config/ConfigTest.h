@@ -36,20 +36,20 @@ inline QJsonObject readObject(QString const & path)
     return QJsonDocument::fromJson(readFile(path)).object();
 }
 
-/// A configuration directory "config/" in the case's working directory, and processes that start on it.
+/// A configuration directory "config/" in the case's working directory, and processes started with it.
 class ConfigTest : public UiapiTest
 {
 protected:
     QString const config = QStringLiteral("config/");
     std::string const directory = QDir::currentPath().toStdString() + "/config/";
 
-    /// What a start logs for each file, and nothing for the optional ones.
+    /// The lines that a start logs for missing files; optional files give none.
     Lines const noTemplates = {
         globalError("auto matrix json文件不存在！路径：" + directory + "automatrix.json")};
     Lines const noAttributes = {
         globalError("total attributes json文件不存在！路径：" + directory + "attributes.json")};
 
-    /// The object as the next process finds it. The old one is kept, as it is never destroyed.
+    /// The object as in the next process. The old one is kept: it is never destroyed.
     UIAPI::UIAPIGlobalVar & restart()
     {
         static auto * former = new std::vector<UIAPI::UIAPIGlobalVar *>;
@@ -58,7 +58,7 @@ protected:
         return *UIAPI::UIAPIGlobalVar::instance();
     }
 
-    /// restart() with the log lines of the files that a case has not written left out.
+    /// restart() without the log lines of files that the case has not written.
     UIAPI::UIAPIGlobalVar & restartQuietly()
     {
         UIAPI::UIAPIGlobalVar & global = restart();

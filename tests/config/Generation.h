@@ -5,7 +5,7 @@
 
 namespace KVCAM::Testing {
 
-/// A text that shows whether it is whole: its number, and as many letters as the number demands.
+/// A text whose completeness can be checked: its number, then as many letters as the number demands.
 inline std::string generation(int number)
 {
     return std::to_string(number) + ":" +

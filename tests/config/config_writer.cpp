@@ -25,8 +25,8 @@
 
 // config_writer DIRECTORY loop FIRST: saves generation after generation until it is killed.
 // config_writer DIRECTORY once|template NUMBER [limit BYTES | user ID]: saves one, of the settings or of a
-// template, and prints what is said of it. No file may then grow beyond BYTES, as on a full disk, or the
-// process has no more rights than that user.
+// template, and prints the messages. With a limit no file can grow beyond BYTES, as on a full disk; with a
+// user the process has only that user's rights.
 
 using namespace KVCAM::UIAPI;
 
@@ -81,7 +81,7 @@ int main(int argc, char ** argv)
     google::InitGoogleLogging(argv[0]);
     GlobalConfigStore store;
     store.getGlobalConfig();
-    int number = std::atoi(argv[3]);
+    int number = static_cast<int>(std::strtol(argv[3], nullptr, 10));
     if (argc > 5 && !restrictProcess(argv[4], argv[5])) {
         return 3;
     }

@@ -34,7 +34,7 @@ protected:
         return tmpl;
     }
     void ship(QByteArray const & bytes) { writeFile(config + "automatrix.json", bytes); }
-    /// "0=a 2=b": what a start finds.
+    /// The templates after a start: "0=a 2=b".
     std::string indices()
     {
         restartQuietly();
@@ -60,9 +60,9 @@ TEST_F(AutoMatrixTest, ShippedTemplatesCountFromZeroAndUserTemplatesFromTwo)
              Row{fileOf({"a"}), {{"u.json", fileOf({"u"})}}, "0=a 2=u"},
              Row{fileOf({}), {{"u.json", fileOf({"u"})}}, "2=u"},
              Row{fileOf({"a", "b", "c"}), {{"u.json", fileOf({"u"})}}, "0=a 1=b 2=c"},
-             // A taken index is used up: the second user template gets the one after it.
+             // A taken index is used up: the second user template gets the next.
              Row{fileOf({"a", "b", "c"}), {{"u.json", fileOf({"u", "v"})}}, "0=a 1=b 2=c 3=v"},
-             // One count over all files, which are taken by name and only with the exact suffix.
+             // One count over all files, in the order of their names and only with the exact suffix.
              Row{fileOf({}),
                  {{"b.json", fileOf({"x", "y"})},
                   {"a.json", fileOf({"z"})},
@@ -73,7 +73,7 @@ TEST_F(AutoMatrixTest, ShippedTemplatesCountFromZeroAndUserTemplatesFromTwo)
                   {"e.f.json", fileOf({"last"})},
                   {"sub.json/in.json", fileOf({"no"})}},
                  "2=first 3=z 4=x 5=y 6=last"},
-             // What is no template is skipped and uses no index.
+             // Anything but a template is skipped and uses no index.
              Row{R"({"template":[1,{"prefix":{}},{"prefix":{},"suffix":[]},)" + element + "]}", {}, "0=s"},
              Row{R"({"template":{"a":1}})", {}, ""},
              Row{R"([1])", {}, ""},
@@ -107,13 +107,13 @@ TEST_F(AutoMatrixTest, ATemplateOfTheUsersKnowsItsFile)
     };
     EXPECT_EQ(files(), "3=a shared; 4=b; ");
     saveCurrentAutoMatrixTmp(5, "c", named("c"));
-    saveCurrentAutoMatrixTmp(0, "a", named("a")); // over the file of another one
+    saveCurrentAutoMatrixTmp(0, "a", named("a")); // overwrites another one's file
     EXPECT_EQ(files(), "0=a; 3=a shared not stored; 4=b; 5=c; ");
     deleteAutoMatrix(-1, "b");
     deleteAutoMatrix(5, "no such file");
     EXPECT_EQ(files(), "0=a; 3=a shared not stored; 4=b not stored; ");
     QDir().mkpath("autoMatrix/dir.json");
-    saveCurrentAutoMatrixTmp(0, "dir", named("a")); // what it was saved to last is not what it is now
+    saveCurrentAutoMatrixTmp(0, "dir", named("a")); // a save that fails
     EXPECT_EQ(boxes.take(), Lines{informationBox("File open failed")});
     EXPECT_EQ(files(), "0=a not stored; 3=a shared not stored; 4=b not stored; ");
 }

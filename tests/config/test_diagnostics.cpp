@@ -34,7 +34,7 @@ char const * kindName(DiagnosticKind kind)
 class DiagnosticsTest : public ConfigTest
 {
 protected:
-    /// What was found since the last call, as "file kind key"; the directory is left out.
+    /// The findings since the last call, as "file kind key" without the directory.
     Lines found()
     {
         auto const all = Ext::diagnostics();
@@ -130,7 +130,7 @@ TEST_F(DiagnosticsTest, EachLoaderTellsWhatItFinds)
         EXPECT_EQ(found(), expected) << row.content.toStdString();
     }
     log.take();
-    // Asked for, the keys of a save are read, checked and not reported.
+    // With the switch on, the keys of a save are read, checked and not reported.
     writeFile(config + "server.json", wholeSettings + ",\"LayerCopySuffix\":\"\",\"MovementFactor\":\"x\"," +
                                           "\"ShiftConfict\":1,\"Shift_confict\":1}");
     Ext::setReadSavedSettingKeys(true);
@@ -152,7 +152,7 @@ TEST_F(DiagnosticsTest, MissingFilesAndParseErrorsAreNamedOnce)
     EXPECT_TRUE(parse.text.contains("offset 21")) << parse.text.toStdString();
 }
 
-// Whatever stands in a file's place, nobody waits for it or reads without end.
+// Whatever is in a file's place, reading neither blocks nor goes on forever.
 TEST_F(DiagnosticsTest, WhatIsNoFileOrTooLargeIsToldAsAFileThatCannotBeOpened)
 {
     std::string const broken = globalError("解析config json文件错误！路径：");
@@ -259,7 +259,7 @@ TEST_F(DiagnosticsTest, TheFirstSaveKeepsABackupOfWhatItWouldLose)
     store.getGlobalConfig();
     QDir(config).removeRecursively();
     store.set(&ServerSettings::os, 4); // creates the directory
-    store.set(&ServerSettings::os, 5); // the first save that writes, with nothing to keep
+    store.set(&ServerSettings::os, 5); // the first save that writes; nothing to keep
     EXPECT_EQ(QDir(config).entryList(QDir::Files), QStringList{"server.json"});
 }
 

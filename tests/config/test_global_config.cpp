@@ -158,7 +158,7 @@ TEST_F(GlobalConfigTest, FallbackDefaultsApplyOnlyWhenLoadingThrows)
     EXPECT_EQ(QJsonDocument::fromJson(writeServerSettings(store.settings())),
               QJsonDocument::fromJson(expected));
 
-    // Nowhere to write to: an empty directory counts as missing, and the current one is left alone.
+    // Nowhere to write: an empty directory name counts as missing, and the current directory is left alone.
     store.set(&ServerSettings::os, 5);
     EXPECT_EQ(log.take(), Lines{"W UIAPIGlobalVar: configpath不存在！路径：, Create!"});
     EXPECT_TRUE(QDir().isEmpty());
@@ -240,7 +240,7 @@ TEST_F(GlobalConfigTest, SetThreadCountPushesAfterTheFileIsWritten)
     EXPECT_EQ(lines[1], globalError("异常描述：no threads"));
 }
 
-// Random lists, against the rule as it is told: an index that advances after a removal too.
+// Random lists, checked against the rule as written: the index advances after a removal too.
 TEST_F(GlobalConfigTest, DelJobPassesOverTheEntryAfterARemovedOne)
 {
     using Names = std::vector<std::string>;

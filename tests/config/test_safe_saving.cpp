@@ -16,7 +16,7 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-// What stands in the settings file: the number of its generation, -1 for a file that is not whole.
+// The generation in the settings file; -1 if the file is incomplete.
 int generationIn(QString const & path)
 {
     WholeFile::ReadResult const result = WholeFile::readJson(path);
@@ -39,7 +39,7 @@ protected:
         said = writer.readAllStandardOutput().toStdString();
         return ended ? writer.exitCode() : -1;
     }
-    std::string said; ///< by the latest writer
+    std::string said; ///< output of the latest writer
     static bool isUnix()
     {
 #ifdef Q_OS_UNIX
@@ -164,7 +164,7 @@ TEST_F(SafeSaving, AReadOnlyDirectoryKeepsAReadOnlyFileAndRewritesAWritableOneIn
 {
     ASSERT_TRUE(QDir().mkdir("config"));
     ASSERT_EQ(write({".", "once", "1"}), 0);
-    // An administrator may write everywhere, so the writer takes another user's rights.
+    // Root may write everywhere, so the writer takes another user's rights.
     bool const isAdministrator = QFileInfo("/").isWritable();
     QStringList const rights = isAdministrator ? QStringList{"user", "65534"} : QStringList{};
     QFile::Permissions const everyone =

@@ -80,7 +80,7 @@ TEST_F(SingletonStart, AnEngineThatCallsBackFindsTheFinishedObject)
     EXPECT_EQ(engine.take().size(), 2U);
 }
 
-// The directory is composed of the host's root; user templates stay below the current directory.
+// The directory is below the host's root; user templates are below the current directory.
 TEST_F(SingletonStart, TheHostsRootTakesThePlaceOfTheCurrentDirectory)
 {
     engine.root = QDir::currentPath().toStdString() + "/installation";

@@ -6,7 +6,7 @@
 
 namespace KVCAM::Testing {
 
-/// A job "board" with a step "pcb" and copper and drill layers, which each test fills.
+/// A job "board" with a step "pcb" and copper and drill layers, filled by each test.
 class CheckTest : public EmbeddedTest
 {
 protected:
@@ -35,7 +35,7 @@ protected:
         return results;
     }
 
-    /// The first list of a signal item; `list` for another one.
+    /// A list of a signal item, by default the first.
     static std::vector<API::check_info> signal(Embedded::CheckResults const & results,
                                                std::string const & layer, int item, std::size_t list = 0)
     {

@@ -4,8 +4,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-// Each case starts in a fresh working directory; the database needs an application object, and nothing here a
-// display.
+// Each case starts in a fresh working directory. The database needs an application object; no test here needs
+// a display.
 int main(int argc, char ** argv)
 {
     QTemporaryDir world;

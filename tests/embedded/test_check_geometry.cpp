@@ -16,7 +16,7 @@ protected:
     void SetUp() override
     {
         makeJob(row(1, "TOP", "SIGNAL") + row(2, "DRILL", "DRILL"));
-        // A symbol of the job's own: a bar to the right of its origin.
+        // One of the job's own symbols: a bar to the right of its origin.
         write("jobs/board/symbols/bar/features", "UNITS=MM\n$0 r200\nL 0.1 0 0.9 0 0 P 0\nS P 0\nOB 0 0 "
                                                  "I\nOS 1 0\nOS 1 0.1\nOE\nSE\nP 9 9 0 N 0 0\n");
     }
@@ -25,14 +25,14 @@ protected:
 struct Pads
 {
     char const * first;
-    char const * firstTurn; // what follows the polarity and code
+    char const * firstTurn; // the text after polarity and code
     char const * second;
-    char const * secondPlace; // millimetres; the first one stands at 0 0
+    char const * secondPlace; // millimetres; the first one is at 0 0
     char const * secondTurn;
     double expected; // micrometres
 };
 
-// By hand: what the outlines of two pads leave between them.
+// Calculated by hand: the distance between the outlines of two pads.
 constexpr std::array spacings{
     Pads{"r1000", "0", "r500", "3 0", "0", 3000 - 500 - 250},
     Pads{"r1000", "0", "r10 I", "0 -3", "0", 3000 - 500 - 127},
@@ -50,8 +50,8 @@ constexpr std::array spacings{
     Pads{"oval1000x2000", "0", "r200", "2 0", "0", 2000 - 500 - 100},
     Pads{"rect1000x1000xr200", "0", "r200", "2 2", "0", 2404.16 - 200 - 100},
     Pads{"rect1000x1000xr500", "0", "r200", "2 2", "0", 2828.43 - 500 - 100},
-    Pads{"rect1000x1000xr900", "0", "r200", "2 2", "0", 2828.43 - 500 - 100}, // no more than a circle
-    Pads{"rect1000x1000xr200x24", "0", "r200", "2 2", "0", 2121.32 - 100},    // as if no corner were round
+    Pads{"rect1000x1000xr900", "0", "r200", "2 2", "0", 2828.43 - 500 - 100}, // limited to a circle
+    Pads{"rect1000x1000xr200x24", "0", "r200", "2 2", "0", 2121.32 - 100},    // as if no corner were rounded
     Pads{"rect1000x1000xc200", "0", "r200", "2 2", "0", 2262.74 - 100},
     Pads{"oct1000x1000x200", "0", "r200", "2 2", "0", 2262.74 - 100},
     Pads{"di1000x2000", "0", "r200", "0 2", "0", 2000 - 1000 - 100},
@@ -64,7 +64,7 @@ constexpr std::array spacings{
     Pads{"oval_h2000x1000", "0", "r200", "3 0", "0", 3000 - 1000 - 100},
     Pads{"donut_rc2000x1000x100", "0", "donut_r1000x900", "3 0", "0", 3000 - 1000 - 500},
     Pads{"donut_s1000x800", "0", "thr1000x800x0x4x100", "3 0", "0", 3000 - 500 - 500},
-    Pads{"moire10x10x3x5x400x0", "0", "r200", "3 0", "0", 3000 - 200.02 - 100}, // the arms end in corners
+    Pads{"moire10x10x3x5x400x0", "0", "r200", "3 0", "0", 3000 - 200.02 - 100}, // the arms have square ends
     Pads{"bar", "0", "r200", "3 0", "0", 3000 - 1000 - 100},
     Pads{"bar", "4", "r200", "3 0", "0", 3000 - 100},           // mirrored: to the left
     Pads{"bar", "9 90", "r200", "0 3", "0", 3000 - 1000 - 100}, // then turned: upwards
@@ -79,7 +79,7 @@ constexpr std::array spacings{
 TEST_F(CheckGeometryTest, SpacingIsFromEdgeToEdge)
 {
     for (Pads const & pads : spacings) {
-        // The lone fiducial is no SMD pad and nobody's neighbour.
+        // The lone fiducial is not an SMD pad and no pad's neighbour.
         fill("top", QByteArray("UNITS=MM\n$0 ") + pads.first + "\n$1 " + pads.second +
                         "\n@0 .smd\nP 0 0 0 P 0 " + pads.firstTurn + " ;0\nP " + pads.secondPlace +
                         " 1 P 0 " + pads.secondTurn + " ;0\nP 0 0.01 1 P 0 0\n");
@@ -100,7 +100,7 @@ struct Ring
     char const * pad;
     char const * padPlace; // and turn
     char const * hole;
-    int kind;        // 0 plated, 1 non-plated, 2 via; the hole stands at 0 0
+    int kind;        // 0 plated, 1 non-plated, 2 via; the hole is at 0 0
     double expected; // micrometres; negative: none is reported
 };
 
@@ -111,7 +111,7 @@ constexpr std::array rings{
     Ring{"r600", "0.4 0 0 P 0 0", "r300", 2, -1}, // beside the pad
     Ring{"r300", "0 0 0 P 0 0", "r300", 0, 0},
     Ring{"r300", "0 0 0 P 0 0", "r300", 1, -1},   // drilled away
-    Ring{"r152.4", "0 0 0 P 0 0", "r6 I", 1, -1}, // in the other unit, where 6 mil come out a little less
+    Ring{"r152.4", "0 0 0 P 0 0", "r6 I", 1, -1}, // in the other unit: 6 mil become slightly less
     Ring{"r300", "0.01 0 0 P 0 0", "r300", 1, 0},
     Ring{"r400", "0 0 0 P 0 0", "r300", 1, 50},
     Ring{"s1000", "0.2 0 0 P 0 0", "r300", 0, 500 - 200 - 150},
@@ -125,7 +125,7 @@ constexpr std::array rings{
     Ring{"el1000x1000", "0 0 0 P 0 0", "r300", 0, 500 * 0.995185 - 150},           // from inside
     Ring{"oval_h2000x1000", "0.8 0 0 P 0 0", "r100", 0, 500 - 300 - 50},
     Ring{"donut_r1000x200", "0 0 0 P 0 0", "r300", 0, 350},
-    Ring{"donut_r1000x200", "0.06 0 0 P 0 0", "r300", 0, -1}, // the opening shows beside the hole
+    Ring{"donut_r1000x200", "0.06 0 0 P 0 0", "r300", 0, -1}, // the opening extends beyond the hole
     Ring{"donut_r1000x200\n$1 r1000", "0 0 0 P 0 0\nP 0 0 1 P 0 0", "r100", 0, 450}, // a solid pad fills it
     Ring{"thr1000x800x0x4x100", "0 0 0 P 0 0", "r300", 0, -1},
     Ring{"bar", "-0.5 0 0 P 0 0", "r100", 0, -1},
@@ -152,15 +152,15 @@ TEST_F(CheckGeometryTest, RingIsTheLeastDistanceFromTheHoleToTheEdgeOfThePad)
     }
 }
 
-// Round pads, whose distances need no geometry: every one's nearest neighbour is found and no pair twice,
-// however the pads are spread.
+// Round pads, whose distances need no geometry: each nearest neighbour is found, and no pair twice,
+// however the pads are distributed.
 TEST_F(CheckGeometryTest, FindsTheNearestNeighboursThatABruteForceFinds)
 {
     struct Spread
     {
         char const * name;
-        double crowd; // millimetres that most pads keep to
-        double far;   // that every seventh one keeps to
+        double crowd; // most pads are within so many millimetres
+        double far;   // every seventh within so many
         bool line;
         int largest; // micrometres
     };
@@ -188,7 +188,7 @@ TEST_F(CheckGeometryTest, FindsTheNearestNeighboursThatABruteForceFinds)
                     QByteArray::number(discs.back().y / 1000, 'f', 3) + ' ' + QByteArray::number(i) +
                     " P 0 0 ;0\n";
         }
-        std::vector<long> expected; // of each pad, its nearest neighbour's distance
+        std::vector<long> expected; // of each pad to its nearest neighbour
         for (std::size_t i = 0; i < discs.size(); ++i) {
             double least = 1e300;
             for (std::size_t j = 0; j < discs.size(); ++j) {

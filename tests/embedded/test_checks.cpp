@@ -28,11 +28,11 @@ TEST_F(ChecksTest, TracksAndPadsAreTheDrawnCopperOfTheBoard)
                 "@0 .nomenclature\n@1 .String\n@2 .other\n&0 text\n"
                 "L 1 1 5 1 0 P 0 ;2=0\n"              // 0
                 "A 5 5 7 5 6 5 2 P 0 Y\n"             // 1: an arc
-                "L 1 2 2 3 2 P 0\n"                   // 2: a square pen, aslant
+                "L 1 2 2 3 2 P 0\n"                   // 2: a square pen, slanted
                 "L 1 4 2 4 3 P 0;;ID=7\n"             // 3: a rectangular one, across
                 "L 9 9 9 9 5 P 0\n"                   // 4: a dot
                 "L 0 45 0 40 0 P 0\n"                 // 5: along the edge
-                "L 0.09 45 0.09 40 0 P 0\n"           // 6: within half its width
+                "L 0.09 45 0.09 40 0 P 0\n"           // 6: closer than half its width
                 "L 0.2 45 0.2 40 0 P 0\n"             // 7: beside it
                 "L 30 21 30 29 0 P 0\n"               // 8: along the opening
                 "L 40 40 60 40 0 P 0\n"               // 9: leaves the board
@@ -44,7 +44,7 @@ TEST_F(ChecksTest, TracksAndPadsAreTheDrawnCopperOfTheBoard)
                 "L 1 6 2 6 1 P 0\n"                   // 15: without width
                 "L 1 7 2 7 2 P 0\n"                   // 16: to be deleted
                 "A 35 48.5 34 49.5 35 49.5 0 P 0 Y\n" // 17: a quarter circle
-                "A 25 48.5 24 49.5 25 49.5 0 P 0 N\n" // 18: the other three, out of the board
+                "A 25 48.5 24 49.5 25 49.5 0 P 0 N\n" // 18: the other three, leaving the board
                 "P 3 3 0 P 0 0\nP 25 25 0 P 0 0\nP 3 4 3 P 0 8 30\nP 50 50 5 P 0 4\nP 50.1 50 0 P 0 0\n"
                 "P 4 4 0 N 0 0\nP 4 4 0 P 0 0 ;0\nP 4 4 4 P 0 0\nP 3 3 0 P 0 0\n");
     ASSERT_TRUE(open()) << Embedded::lastError();
@@ -146,7 +146,7 @@ TEST_F(ChecksTest, HolesHaveKindsAndRowsAndRings)
               (Texts{"3 9: 4000 0 500 4000 0 1000 250 0", "3 13: 0 0 300 0 0 1000 350 0"}));
 }
 
-// Two kinds of ring that a micrometre does not tell apart: whichever is sorted first has the lower value.
+// Two kinds of ring less than a micrometre apart: the one sorted first has the lower value.
 TEST_F(ChecksTest, RingsOfOneMicrometreHaveTheLowestValueOfThem)
 {
     makeJob(row(1, "TOP", "SIGNAL") + row(2, "DRILL", "DRILL"));
@@ -261,7 +261,7 @@ TEST_F(ChecksTest, ProgressRisesToItsEndAndCanCancel)
     std::vector<int> told;
     EXPECT_TRUE(Embedded::runChecks("board", "pcb", results, [&told](int done, int total) {
         EXPECT_EQ(total, 2000);
-        Embedded::closeJob("another"); // leaves an error behind, but not in the end
+        Embedded::closeJob("another"); // leaves an error, which the next success clears
         told.push_back(done);
         return true;
     }));

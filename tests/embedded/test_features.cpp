@@ -136,7 +136,7 @@ TEST_F(FeaturesTest, AFileOverTheLimitIsRefusedUnread)
 {
     writeFeatures("");
     QFile file("jobs/board/steps/pcb/layers/top/features");
-    ASSERT_TRUE(file.resize(64LL * 1024 * 1024 + 1)); // sparse: takes no room
+    ASSERT_TRUE(file.resize(64LL * 1024 * 1024 + 1)); // sparse: uses no space
     EXPECT_EQ(read(), Texts());
     EXPECT_EQ(Embedded::lastError(),
               "jobs/board/steps/pcb/layers/top/features: the file is larger than 64 MiB");
@@ -159,7 +159,7 @@ TEST_F(FeaturesTest, SymbolsAreCountedByNameAndUnit)
     EXPECT_EQ(shown(Embedded::layerSymbols("board", "pcb", "top")),
               (Texts{"r10 0 2", "rect4x5 1 1", "r3 0 0"}));
     EXPECT_EQ(shown(Embedded::jobSymbols("board")), (Texts{"r10 0 2", "r10 1 0", "r3 0 0", "rect4x5 1 1"}));
-    // A layer that cannot be read takes no other with it.
+    // An unreadable layer does not affect the others.
     write("jobs/board/steps/pcb/layers/bottom/features", "$0 r1\nX\n");
     ASSERT_TRUE(open());
     EXPECT_EQ(shown(Embedded::jobSymbols("board")), (Texts{"r10 0 2", "r3 0 0", "rect4x5 1 1"}));
@@ -213,7 +213,7 @@ TEST_F(FeaturesTest, ToolsAreInMicrometres)
     struct Row
     {
         QByteArray text;
-        double size; // of the one tool; 0: none is read
+        double size; // of the only tool; 0: none
         char const * error;
     };
     std::string const path = "jobs/board/steps/pcb/layers/top/tools";
@@ -250,7 +250,7 @@ TEST_F(FeaturesTest, TheProfilesExtentTakesInItsArcs)
              Row{"OB -1 0 I\nOC 1 0 0 0 Y\nOS -1 0\nOE\n", {-1, 0, 1, 1}},
              Row{"OB -1 0 I\nOC 1 0 0 0 N\nOS -1 0\nOE\n", {-1, -1, 1, 0}},
              Row{"OB 2 1 I\nOC 2 1 1 1 Y\nOE\n", {0, 0, 2, 2}},
-             // A rounded corner across the direction of 180 degrees stays inside its ends' extent.
+             // A rounded corner across 180 degrees stays within the extent of its ends.
              Row{"OB 0.6 0.8 I\nOC 0.8 0.6 0 0 Y\nOE\n", {0.6, 0.6, 0.8, 0.8}},
              Row{"OB 0.8 0.6 I\nOC 0.6 0.8 0 0 Y\nOE\n", {-1, -1, 1, 1}},
          }) {

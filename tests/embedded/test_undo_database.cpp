@@ -13,7 +13,7 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-// Seven pads, with a database file that only this connection and the engine know.
+// Seven pads, and a database file used only by this connection and the engine.
 class UndoTest : public EmbeddedTest
 {
 protected:
@@ -131,7 +131,7 @@ TEST_F(UndoTest, TheDatabaseMirrorsTheHistory)
     EXPECT_EQ(operations(), Texts()) << "turning the flag on brings the file up to date";
 
     ASSERT_TRUE(remove({4}));
-    ASSERT_TRUE(open()); // read anew: nothing is deleted, nothing to undo
+    ASSERT_TRUE(open()); // read again: nothing deleted, nothing to undo
     EXPECT_EQ(operations(), Texts());
     EXPECT_EQ(API::op_size("board", "pcb"), 0);
     EXPECT_EQ(indices().size(), 7U);
@@ -169,13 +169,13 @@ TEST_F(UndoTest, TwinsWriteOnlyWhileTheFlagIsOnAndBeforeTheLiveCall)
     EXPECT_EQ(rows("SELECT * FROM select_param", "state.sqlite"), Texts{std::to_string(live + 2) + " 12"});
     EXPECT_EQ(Embedded::liveState().show.width, 3);
 
-    // Another process may have written in between: numbers go on above the file's.
+    // Another process may have written in between: the numbers continue above those in the file.
     ASSERT_TRUE(Embedded::setSaveFlag(false));
     rows("INSERT INTO select_param VALUES (5000, 1)", "state.sqlite");
     ASSERT_TRUE(Embedded::setSaveFlag(true));
     DB::set_select_param_db_save({13});
     EXPECT_EQ(rows("SELECT * FROM select_param WHERE sequence > 5000", "state.sqlite"), Texts{"5001 13"});
-    // And so it may while the flag is on.
+    // The same while the flag is on.
     rows("INSERT INTO select_param VALUES (5002, 1), (5003, 1)", "state.sqlite");
     DB::set_select_param_db_save({14});
     EXPECT_EQ(rows("SELECT * FROM select_param WHERE sequence > 5003", "state.sqlite"), Texts{"5004 14"});
@@ -242,7 +242,7 @@ TEST_F(UndoTest, AFailedWriteThrowsAndADeletionThatCannotBeRecordedIsNotDone)
     EXPECT_FALSE(remove({0}));
     EXPECT_NE(Embedded::lastError(), "");
     EXPECT_EQ(indices().size(), 7U);
-    DB::set_select_param_db_save({1}); // the failed transaction is over
+    DB::set_select_param_db_save({1}); // the failed transaction has ended
     EXPECT_EQ(rows("SELECT selected_para FROM select_param"), Texts{"1"});
 }
 

@@ -19,7 +19,7 @@ public:
     LogCapture(LogCapture const &) = delete;
     LogCapture & operator=(LogCapture const &) = delete;
 
-    /// What was logged since the last take(), in order.
+    /// The lines logged since the last take(), in order.
     Lines take();
 
     using google::LogSink::send;
@@ -30,7 +30,7 @@ private:
     Lines m_lines;
 };
 
-/// An ERROR line of the library's chief class, as LogCapture shows it.
+/// An ERROR line of UIAPICommonPara, as recorded by LogCapture.
 inline std::string paraError(std::string const & text)
 {
     return "E UIAPICommonPara: " + text;

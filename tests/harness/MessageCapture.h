@@ -16,7 +16,7 @@ public:
     MessageCapture & operator=(MessageCapture const &) = delete;
 
     Lines take();
-    /// The answer to the questions that follow; No until set.
+    /// The answer to subsequent questions; No until set.
     void answer(UIAPI::Ext::MessageAnswer answer) { m_answer = answer; }
     /// The parent of the latest box.
     QWidget * lastParent() const { return m_lastParent; }
@@ -28,7 +28,7 @@ private:
     UIAPI::Ext::MessagePresenter m_previous;
 };
 
-/// An information box with the usual title, as MessageCapture shows it.
+/// An information box with the usual title, as recorded by MessageCapture.
 inline std::string informationBox(std::string const & text)
 {
     return "information|Information|" + text;

@@ -94,7 +94,7 @@ void RecordingEngine::consult(std::string const & name)
         throw std::runtime_error(name);
     }
     if (m_throwsAlwaysNonStandard || m_nonStandardThrows.count(name) != 0) {
-        throw 42; // anything may be thrown by a host
+        throw 42; // a host may throw anything
     }
 }
 

@@ -11,36 +11,34 @@
 
 namespace KVCAM::Testing {
 
-/// The engine of the tests: it answers what a test tells it to and records every engine call in order, as
+/// The engine of the tests: it answers as told by the test and records every engine call in order, as
 /// "API::set_show_para(1 0 false true true)". The host's path helpers are counted, not recorded, since
-/// loaders ask them at will.
+/// loaders may call them any number of times.
 class RecordingEngine
 {
 public:
     static RecordingEngine & get();
 
-    /// What was called since the last take(), in order.
+    /// The calls since the last take(), in order.
     std::vector<std::string> take();
 
-    /// From now on the call of this name ("set_show_para") throws std::runtime_error(text) after it was
-    /// recorded.
+    /// From now on the call of this name ("set_show_para") is recorded and throws a std::runtime_error.
     void throwFrom(std::string const & name, std::string const & text = "engine failure");
-    /// As throwFrom(), but what is thrown is no std::exception.
+    /// As throwFrom(), but throws something other than a std::exception.
     void throwNonStandardFrom(std::string const & name);
     /// From now on every call throws, the path helpers included: a std::exception or something else.
     void throwFromEveryCall(bool standard);
-    /// From now on the call of this name runs `action` after it was recorded, once; the action may call the
-    /// library.
+    /// The next call of this name is recorded and then runs `action`, which may call the library.
     void onNextCall(std::string const & name, std::function<void()> action);
-    /// Back to the state at start.
+    /// Restores the initial state.
     void reset();
 
-    /// The recording side: notes a call, then runs or throws what was asked for.
+    /// Records a call, then runs the action or throws, as requested.
     void called(std::string const & space, std::string const & name, std::string const & arguments = {});
-    /// The same for calls that are not recorded.
+    /// The same without recording.
     void consult(std::string const & name);
 
-    // What the engine answers.
+    // The engine's answers.
     bool saveFlag = false;
     bool identifies = true;
     std::set<std::string> openJobs;
@@ -49,7 +47,7 @@ public:
     std::vector<std::string> steps;
     std::vector<API::layer_info> layers;
     std::string matrixError;
-    int correctUndoFailures = 0; ///< so many times CorrectUndo answers false first
+    int correctUndoFailures = 0; ///< how often CorrectUndo first answers false
     int operations = 0;
     std::string root;
     std::string configFolder = "config";
@@ -57,8 +55,8 @@ public:
     int threadCount = 0;
     API::back_layer_name_info backup;
     bool hasPluginManager = true;
-    std::vector<void *> pluginData;       ///< what each command to a plug-in module came with
-    std::map<std::string, int> consulted; ///< how often each path helper was asked
+    std::vector<void *> pluginData;       ///< data of each plug-in command
+    std::map<std::string, int> consulted; ///< number of calls of each path helper
 
 private:
     std::vector<std::string> m_calls;

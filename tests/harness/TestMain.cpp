@@ -6,9 +6,9 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
-// Leaks of the platform, not ours. Compiled in rather than handed over in the environment, since the build
-// runs the executables too, to list their cases. Nobody calls it where there is no LeakSanitizer.
-// Visible, or the sanitizer's own library would not find it.
+// Leaks of the platform, not ours. Compiled in rather than passed in the environment, since the build
+// also runs the executables, to list their cases. Without a LeakSanitizer nothing calls it.
+// Visible, so that the sanitizer's own library finds it.
 #if defined(__GNUC__)
 #define UIAPI_VISIBLE __attribute__((visibility("default")))
 #else
@@ -22,8 +22,8 @@ char const * __lsan_default_suppressions()                           // NOLINT(b
            "leak:libQt5DBus\n";
 }
 
-// Each case makes its own world: the working directory, which several files are read relative to, is a fresh
-// temporary one before the first call into the library, and nothing finds the real home directory.
+// Each case is isolated: the working directory, relative to which several files are read, is a fresh
+// temporary one before the first call into the library, and the real home directory is hidden.
 int main(int argc, char ** argv)
 {
     QTemporaryDir world;

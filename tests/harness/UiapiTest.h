@@ -9,8 +9,8 @@
 
 namespace KVCAM::Testing {
 
-/// The world of one case: captured log, captured boxes, a fresh recording engine. A case that leaves an ERROR
-/// line or a box behind untaken fails.
+/// The fixture of a case: captured log, captured boxes, a fresh recording engine. A case that leaves an ERROR
+/// line or a box untaken fails.
 class UiapiTest : public ::testing::Test
 {
 protected:

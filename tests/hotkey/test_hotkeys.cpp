@@ -57,7 +57,7 @@ QStringList shown(std::vector<Ext::HotkeyBinding> const & bindings)
     return result;
 }
 
-// "[2].key1 UnknownKey": place, kind and what the text quotes or names first; without the functions that
+// "[2].key1 UnknownKey": place, kind, and the first word quoted or named; without the functions that
 // have no key.
 QStringList shown(std::vector<Ext::HotkeyFinding> const & findings)
 {
@@ -103,7 +103,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         ASSERT_EQ(file.write(bytes), bytes.size());
     }
-    /// The object as the next process finds it.
+    /// The object as in the next process.
     static KVHotKey & restart()
     {
         delete KVHotKey::m_pKVHotKeyInstance;
@@ -113,7 +113,7 @@ protected:
         EXPECT_EQ(keys, KVHotKey::m_pKVHotKeyInstance);
         return *keys;
     }
-    /// Presses keys that blanks part, "S G Ctrl+C"; the codes in the same form.
+    /// Presses keys separated by blanks, "S G Ctrl+C"; returns the codes in the same form.
     static QString press(QString const & keys)
     {
         QStringList codes;
@@ -144,8 +144,8 @@ TEST_F(HotkeyTest, EachDefaultAnswersToItsKeysAndAPlainKeyToNone)
 
 TEST_F(HotkeyTest, TheBufferHoldsTheLastTwoPlainKeys)
 {
-    // A match does not clear the buffer; any key with a modifier does, bound or not, that of the keypad too,
-    // and its whole mask counts. An arrow takes a place, but is part of no sequence.
+    // A match does not clear the buffer; any key with a modifier does, bound or not, the keypad's too,
+    // and its whole mask counts. An arrow takes a place but belongs to no sequence.
     struct Row
     {
         char const *keys, *codes;
@@ -173,7 +173,7 @@ TEST_F(HotkeyTest, TheBufferHoldsTheLastTwoPlainKeys)
 TEST_F(HotkeyTest, TwoKeysFormAGroupWithinEitherRange)
 {
     KVHotKey & keys = restart();
-    // 12 to 15 are the numbers as such, not the arrow keys.
+    // 12 to 15 are plain numbers, not the codes of the arrow keys.
     struct Row
     {
         int first, second;
@@ -191,13 +191,13 @@ TEST_F(HotkeyTest, TwoKeysFormAGroupWithinEitherRange)
     }
 }
 
-// Each alone, in a file of its own, with the code that it stands for.
+// Each word alone in a file, with its code.
 TEST_F(HotkeyTest, EverySpellingOfTheFileIsKnown)
 {
     struct Spelling
     {
         QString function, modifier, key;
-        int code, number; ///< the code of the key that is pressed
+        int code, number; ///< the code of the pressed key
         Qt::KeyboardModifiers pressed;
     };
     std::vector<Spelling> spellings;
@@ -277,7 +277,7 @@ TEST_F(HotkeyTest, AFileReplacesBothTablesAndItsDryRunTellsWhatIsLeftOut)
              Row{bound(R"("key":"A","Modifier":"Alt")"), {}, {"[0].Modifier UnknownModifier"}},
              Row{bound(R"("key":"A","Modifier":"Ctrl+Shift")"), {}, {"[0].Modifier UnknownModifier"}},
              Row{bound(R"("Modifier":"Ctrl")"), {}, {"[0].key UnknownKey"}},
-             // In the order of the file; of equal ones the first answers.
+             // In file order; of equal ones the first answers.
              Row{R"([{"func_name":"KK_SnapOff","key1":"q","key2":"q"},
                      {"func_name":"KP_Measure","Modifier":"Ctrl","key":"B"},
                      {"func_name":"no"},

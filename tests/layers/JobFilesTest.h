@@ -17,7 +17,7 @@ namespace KVCAM::Testing {
 
 namespace fs = std::filesystem;
 
-/// Builds file trees in the working directory and tells what is in them.
+/// Builds and lists file trees in the working directory.
 inline void putFile(fs::path const & path, std::string const & text)
 {
     if (path.has_parent_path()) {
@@ -62,7 +62,7 @@ inline QString text(std::string const & bytes)
     return QString::fromStdString(bytes);
 }
 
-// Names as a file system may hold them: the last is no text in any encoding that a locale has.
+// Names as found in file systems: the last is invalid in every locale's encoding.
 inline std::vector<std::string> const oddNames
 {
     "a\nb", " ", ".hidden", "-rf", "*", "back\\slash", "Größe 测试",
@@ -92,7 +92,7 @@ protected:
         fs::create_symlink("nowhere", "tree/dangling");
         fs::create_directory_symlink(".", "tree/loop");
         fs::create_hard_link("outside/keep", "tree/hard");
-        fs::permissions("outside/keep", fs::perms::owner_read); // a change by way of "hard" would show
+        fs::permissions("outside/keep", fs::perms::owner_read); // a change through "hard" would show
         m_outside = treeOf("outside");
         m_permissions = fs::status("outside/keep").permissions();
         m_tree = treeOf("tree");
@@ -103,7 +103,7 @@ protected:
         EXPECT_EQ(treeOf("outside"), m_outside);
         EXPECT_EQ(fs::status("outside/keep").permissions(), m_permissions);
         EXPECT_EQ(log.take(), Lines{});
-        // The test's own directory goes through Qt, which overlooks the oddest name.
+        // Qt removes the test's own directory and overlooks the oddest name.
         for (fs::directory_entry const & entry : fs::directory_iterator(".")) {
             fs::remove_all(entry);
         }
@@ -115,8 +115,8 @@ protected:
     fs::perms m_permissions{};
 };
 
-/// Runs this case again: with an ordinary user's rights, since an administrator may write everywhere, or with
-/// less of something.
+/// Runs this case again: with an ordinary user's rights, since root may write everywhere, or with some
+/// resource limited.
 inline bool runAgain(QString const & with, QStringList arguments, char const * name)
 {
     arguments << QCoreApplication::applicationFilePath() << QString("--gtest_filter=") + name;

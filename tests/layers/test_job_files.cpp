@@ -64,7 +64,7 @@ TEST_F(JobFilesTest, WhatIsThereIsReplacedOnlyWhenAskedFor)
     fs::create_symlink(fs::absolute("outside/keep"), "to/here");
     fs::create_directory_symlink(fs::absolute("outside"), "to/through");
     std::string const link = fs::absolute("outside").generic_string();
-    // Neither way leads through a link that is there, and the kind of what is there does not change.
+    // Neither follows an existing link or changes the kind of an existing entry.
     EXPECT_FALSE(copyDirectoryFile("from", "to", false));
     EXPECT_EQ(treeOf("to"), (std::vector<std::string>{"fresh=new", "here>" + link + "/keep", "kind/",
                                                       "kind/is/", "kind/is/other/", "mark=old", "sub/",
@@ -95,7 +95,7 @@ TEST_F(JobFilesTest, ACopyIntoItselfIsRefused)
     EXPECT_FALSE(fs::exists("new"));
     EXPECT_EQ(treeOf("tree"), m_tree);
 
-    // Out of a part of it: a directory of the source's own name would land on the source.
+    // From a part of itself: a directory with the source's own name would land on the source.
     putFile("whole/part/part/a", "inner");
     putFile("whole/part/a", "outer");
     EXPECT_FALSE(copyDirectoryFile("whole/part", "whole", true));

@@ -124,7 +124,7 @@ TEST_F(LayerFilterTest, SidesArePositionsAmongTheBoardSignalLayers)
         char const * inner;
         char const * bottom;
     };
-    // Of three layers none is an inner one, and a single one is top and bottom.
+    // Of three layers none is inner; a single one is both top and bottom.
     for (Row const & row : {Row{0, "", "", ""}, Row{1, "s0", "", "s0"}, Row{2, "s0", "", "s1"},
                             Row{3, "s0", "", "s2"}, Row{4, "s0", "s1 s2", "s3"}}) {
         makeSignals(row.layers);
@@ -135,7 +135,7 @@ TEST_F(LayerFilterTest, SidesArePositionsAmongTheBoardSignalLayers)
     engine.layers = {{"misc", "signal", "a", "POS"}, {"board", "drill", "b", "POS"}};
     EXPECT_EQ(selected(one("side", "top|inner|bottom")), "");
     EXPECT_EQ(selected(one("type", "signal")), "a");
-    // By name: a layer of another kind that bears the name is on the side, too.
+    // By name: a layer of another kind with that name is on the side too.
     engine.layers.push_back({"board", "signal", "a", "POS"});
     EXPECT_EQ(selected(one("side", "top")), "a a");
     makeSignals(4);
@@ -222,7 +222,7 @@ TEST_F(LayerFilterTest, TheExplanationNamesUnmatchedWordsAndTheFirstRefusingKey)
                                                                           {"pos", "positive|negative|x"},
                                                                           {"Side", "top"},
                                                                           {"layer", ""}});
-    EXPECT_EQ(report.error, "half read");
+    EXPECT_EQ(report.result.reason, "half read");
     EXPECT_EQ(report.unknownKeys, (QStringList{"Side", "layer"}));
     QStringList words;
     for (auto const & it : report.unmatchedWords) {
@@ -240,7 +240,7 @@ TEST_F(LayerFilterTest, TheExplanationNamesUnmatchedWordsAndTheFirstRefusingKey)
     EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, nullptr);
 
     engine.throwFrom("get_matrix");
-    EXPECT_TRUE(Ext::explainLayerFilter("job", {}).layers.empty());
+    EXPECT_EQ(Ext::explainLayerFilter("job", {}).result.reason, "The engine failed.");
     EXPECT_EQ(log.take().size(), 2U);
 }
 

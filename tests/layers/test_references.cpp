@@ -49,7 +49,7 @@ TEST_F(References, ASetReplacesAndAReadAddsNoKey)
     setReferenceLayerInfo("own", "a", {{"z", "s", {"l"}}});
     EXPECT_EQ(at("own", "a"), "z/s:l");
     EXPECT_EQ(at("own", "A") + at("OWN", "a") + at("none", "a"), "");
-    renameCompareJob("none", "x"); // had the read added a key, this would replace x
+    renameCompareJob("none", "x"); // if reading had added a key, this would replace x
     EXPECT_EQ(at("x", "s"), "own/a:l1");
     resetReferenceLayerInfo("own");
     resetReferenceLayerInfo("none");
@@ -64,7 +64,7 @@ TEST_F(References, EachChangeReachesTheRecordsItNames)
         void (*change)();
         char const * a;
         char const * b;
-        char const * x = "own/a:l1"; // the owner x, whose name stands in the records of "own", too
+        char const * x = "own/a:l1"; // the owner x, whose name also occurs in the records of "own"
     };
     char const * const a = "x/s:l1,l2,l1 y/s:l1 x/t:";
     char const * const b = "x/s:l1";
@@ -84,7 +84,7 @@ TEST_F(References, EachChangeReachesTheRecordsItNames)
              Row{[] { deleteReferenceStep("none", "a", "x", "s"); }, a, b},
              Row{[] { deleteReferenceLayer("own", "a", "x", "s", "l1"); }, "x/s:l2 y/s:l1 x/t:", b},
              Row{[] { deleteReferenceLayer("own", "a", "y", "s", "l1"); }, "x/s:l1,l2,l1 x/t:", b},
-             // Its list was empty before: it does not become so.
+             // Its list was already empty and so did not become empty.
              Row{[] { deleteReferenceLayer("own", "a", "x", "t", "l1"); }, a, b},
              Row{[] { renameCompareStep("own", "a", "b"); }, "", a},
              Row{[] { renameCompareStep("own", "a", "a"); }, a, b},

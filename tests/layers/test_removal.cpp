@@ -39,7 +39,7 @@ TEST_F(JobFilesTest, ALinkAsThePathIsRemovedAsALink)
         EXPECT_TRUE(delDir(std::string("link") + end, true));
         EXPECT_FALSE(fs::is_symlink("link"));
     }
-    // A link on the way is followed: that is what the path says.
+    // A link inside the path itself is followed: the path names it.
     fs::create_directory_symlink("tree", "way");
     EXPECT_TRUE(delDir("way/sub", true));
     EXPECT_FALSE(fs::exists("tree/sub"));
@@ -69,8 +69,8 @@ TEST_F(JobFilesTest, WhatMustStayIsRefused)
     fs::current_path("../..");
 }
 
-// What must stay anywhere is judged by numbers alone: no test may try. The root is "1" and stands last; 5 is
-// kept; without roots ("-") there is no restriction.
+// The rules for protected directories are tested with numbers only, since no test may try. The root is "1"
+// and comes last; 5 is protected; without roots ("-") there is no restriction.
 TEST(RemovalRules, RootsTheirChildrenAndWhatIsKeptStay)
 {
     auto const ids = [](std::string const & digits) {
@@ -111,7 +111,7 @@ TEST_F(JobFilesTest, WhatIsKeptIsKnownByItsIdentity)
     EXPECT_TRUE(keeps(facts, Directory::at("").look("home").id)) << "the link that leads there";
     EXPECT_FALSE(keeps(facts, idOf("tree/empty")) || keeps(facts, idOf("outside")));
 
-    // The user's home is known whatever the environment says.
+    // The user's home is recognised whatever the environment says.
     QProcess process;
     process.start("sh", {"-c", "getent passwd $(id -u) | cut -d: -f6"});
     process.waitForFinished();
@@ -154,7 +154,7 @@ TEST_F(JobFilesTest, RemovalCanBeRestrictedToFoldersOfTheHost)
     EXPECT_TRUE(removes({}, "moved/sub"));
 }
 
-/// Swaps a directory for a link to "outside" and back, for as long as it lives.
+/// While it lives, swaps a directory for a link to "outside" and back.
 class Swapper
 {
 public:
@@ -233,7 +233,7 @@ TEST_F(JobFilesTest, ReadOnlyPartsGo)
     EXPECT_FALSE(fs::exists("tree"));
     EXPECT_EQ(fs::status("outside/sub").permissions(), noWrite);
 
-    // What cannot be removed: a directory in a place that takes no change.
+    // Not removable: a directory inside one that cannot be changed.
     fs::create_directories("closed/sub");
     fs::permissions("closed", noWrite);
     EXPECT_FALSE(delDir("closed/sub", true));
@@ -241,7 +241,7 @@ TEST_F(JobFilesTest, ReadOnlyPartsGo)
     EXPECT_TRUE(delDir("closed", true));
     fs::permissions("outside/sub", fs::perms::owner_all);
 
-    // What cannot be read is left out of a copy, and the rest is not.
+    // A copy leaves out what cannot be read and copies the rest.
     putFile("from/a", "1");
     putFile("from/b", "2");
     putFile("from/shut/c", "3");

@@ -156,7 +156,7 @@ TEST_F(UndoTest, EscapeMeansNo)
                 EXPECT_EQ(box->parentWidget(), &parent);
                 EXPECT_EQ(box->windowModality(), Qt::ApplicationModal);
                 EXPECT_EQ(box->icon(), QMessageBox::Question);
-                // Not by a shortcut: it needs the window to be active, which takes its time.
+                // Not by a shortcut: that would need an active window, which takes time.
                 undoes ? box->button(QMessageBox::Yes)->click() : QTest::keyClick(box, Qt::Key_Escape);
             }
         });

@@ -1,6 +1,6 @@
 // The EDA tool's end of the link: sends every datagram back to the library's port, and counts. Its first line
-// of output is the port it listens on. An empty datagram ends it; the last line is the number of datagrams it
-// had, and the number of those that were not the successor {"n":<number>} of the one before.
+// of output is its port. An empty datagram ends it; the last line is the number of datagrams
+// received, and the number of those that are not the successor {"n":<number>} of the previous one.
 
 #include <QCoreApplication>
 #include <QHostAddress>

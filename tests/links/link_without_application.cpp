@@ -1,6 +1,6 @@
-// A program that uses the link before, between and after its application objects. Both ways work, each event
-// loop hears it, and Qt has nothing to complain about. With the argument "taken" another socket has the port
-// at first: the link is deaf for good. With "late" the first call comes when the process ends.
+// A program that uses the link before, between and after its application objects. Sending and receiving work,
+// each event loop hears it, and Qt has nothing to complain about. With the argument "taken" another socket
+// has the port at first: the link never receives. With "late" the first call comes when the process ends.
 
 #include "ext/EdaLink.h"
 #include "uiapi/flat/EdaLink.h"
@@ -41,7 +41,7 @@ bool hears(QUdpSocket & peer, char const * text)
     return getReceiveStr() == QLatin1String(text);
 }
 
-/// Destroyed when Qt's own objects are gone.
+/// Destroyed after Qt's own objects.
 struct LastWords
 {
     ~LastWords()
@@ -82,7 +82,7 @@ int main(int argc, char ** argv)
     Ext::edaLink()->receive();
     good = good && getReceiveStr() == QLatin1String(taken ? "" : "back");
     for (int i = 0; i < 2; ++i) {
-        delete new QCoreApplication(argc, argv); // one whose events nobody waits for
+        delete new QCoreApplication(argc, argv); // its event loop never runs
         QCoreApplication const application(argc, argv);
         QCoreApplication::processEvents();
         good = good && (taken || (hears(peer, i == 0 ? "0" : "1") && hears(peer, "again"))) &&

@@ -47,7 +47,7 @@ protected:
         return bytes;
     }
 
-    /// One of the two sockets that a link gave its parent.
+    /// One of the two sockets, children of the link's parent.
     static QUdpSocket * socketOf(QObject const & parent, bool receiving)
     {
         for (auto * socket : parent.findChildren<QUdpSocket *>()) {
@@ -63,7 +63,7 @@ protected:
 
 TEST_F(EdaLinkTest, ExistsFromTheFirstCallOn)
 {
-    bool freeWhileLoading = false; // the link comes last
+    bool freeWhileLoading = false; // the link is created last
     engine.onNextCall("getPath_rangesconfig",
                       [&] { freeWhileLoading = QUdpSocket().bind(here, receivePort); });
     getCurrentLanguageMode();
@@ -164,7 +164,7 @@ TEST_F(EdaLinkTest, CopiesShareTheLinkAndDoWithoutIt)
     toLibrary("x");
     para->edaLink()->receive();
     EXPECT_EQ(copy->getReceiveStr(), "x");
-    delete para->edaLink(); // nobody may, but what follows is no more than silence
+    delete para->edaLink(); // forbidden, but then calls just do nothing
     for (UIAPICommonPara * each : {para, copy}) {
         each->setEdaPort(1);
         each->sendEdaData({});
@@ -252,7 +252,7 @@ TEST_F(EdaLinkTest, TellsOfASocketThatCannotSend)
     auto * const link = new ConnectEDA(&parent);
     quint16 const port = tool.localPort();
     tool.close();
-    // A connected socket hears that nobody listens, with the datagram after.
+    // A connected socket learns with the next datagram that nobody listens.
     socketOf(parent, false)->connectToHost(here, port);
     link->setEdaPort(port);
     EXPECT_EQ(link->sendDataChecked({}), EdaSendResult::Sent);
@@ -262,7 +262,7 @@ TEST_F(EdaLinkTest, TellsOfASocketThatCannotSend)
     EXPECT_EQ(link->state().lastError, socketOf(parent, false)->errorString());
 }
 
-// The socket is on the stack below a slot that deletes the link.
+// A slot deletes the link while the socket is still on the stack.
 TEST_F(EdaLinkTest, AReceiverInTheMiddleOfItsSignalDiesAfterIt)
 {
     QObject parent;
@@ -281,7 +281,7 @@ TEST_F(EdaLinkTest, AReceiverInTheMiddleOfItsSignalDiesAfterIt)
     EXPECT_TRUE(parent.children().isEmpty());
 }
 
-// The sockets belong to the constructor's parent, which may die before the link, with it or after it.
+// The sockets belong to the constructor's parent, which may be destroyed before, with or after the link.
 TEST_F(EdaLinkTest, OutlivesItsSocketsAndIsOutlivedByTheirParent)
 {
     {
@@ -309,7 +309,7 @@ TEST_F(EdaLinkTest, OutlivesItsSocketsAndIsOutlivedByTheirParent)
 TEST_F(EdaLinkTest, TenThousandDatagramsOutAndInBetweenTwoProcesses)
 {
     constexpr int total = 10000;
-    constexpr int batch = 50; // so few wait at a time that no buffer of the kernel's overflows
+    constexpr int batch = 50; // few enough pending not to overflow the kernel's buffer
     ASSERT_TRUE(Ext::edaLinkState().bound);
     QProcess peer;
     peer.start(EDA_PEER, {}, QIODevice::ReadOnly);

@@ -15,7 +15,7 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-/// A server in a thread of its own that serves one client: reads a line, unless told not to, and has `answer`
+/// A server in its own thread for one client: reads a line, unless told not to, and lets `answer`
 /// do the rest.
 class Server
 {
@@ -51,7 +51,7 @@ public:
     Server(Server const &) = delete;
     Server & operator=(Server const &) = delete;
 
-    /// The line that came, once the server is done.
+    /// The received line, once the server has finished.
     std::string received()
     {
         m_thread.join();
@@ -120,7 +120,7 @@ TEST_F(JobServerTest, ARequestIsOneLineAndTrueIsAnAnswerOfOk)
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
         say("{\"ok\":true}\n")(client);
     });
-    configure(server.port, 0, "localhost"); // no timeout is not one of nothing
+    configure(server.port, 0, "localhost"); // no timeout does not mean zero
     EXPECT_TRUE(deletes("a"));
 }
 
@@ -176,7 +176,7 @@ TEST_F(JobServerTest, WhatCannotBeAskedIsAnError)
     }
     EXPECT_LT(clock.elapsed(), 4000);
 
-    // Refused before anything is sent: nobody is there who would be waited for.
+    // Rejected before anything is sent: there is no server to wait for.
     QTcpServer listening;
     ASSERT_TRUE(listening.listen(QHostAddress::LocalHost));
     configure(listening.serverPort());

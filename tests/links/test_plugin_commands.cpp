@@ -71,7 +71,7 @@ TEST_F(PluginCommands, OneFailingModuleDoesNotKeepTheNextFromHearing)
 {
     para.addPluginRoute(1, "", "a");
     para.addPluginRoute(1, "", "b");
-    // What a module does to the routes counts from the next command on.
+    // Routes changed by a module take effect with the next command.
     engine.onNextCall("recMegToPlugin", [&] { para.removePluginRoute(1, "", "a"); });
     engine.throwFrom("recMegToPlugin", "module");
     setPluginCmd(1, "", nullptr);

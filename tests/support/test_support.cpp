@@ -120,7 +120,7 @@ TEST_F(SupportTest, WhatIsNoRegularFileIsNotReplaced)
               "The file cannot be opened for writing: No such file or directory.");
 }
 
-// The real box, driven as a user would: the timer runs inside its event loop.
+// The real box, operated like a user would: the timer fires in its event loop.
 class BoxTest : public SupportTest
 {
 protected:
@@ -134,7 +134,7 @@ protected:
         Ext::setMessagePresenter(m_capture);
         SupportTest::TearDown();
     }
-    // Presses a button of the box that is about to open, or closes it, and notes how the box looked.
+    // Presses a button of the box about to open, or closes it, and notes what the box looked like.
     void press(QMessageBox::StandardButton button)
     {
         QTimer::singleShot(0, [this, button] {

@@ -1,5 +1,5 @@
-// The whole face at once: every exported flat function and every public method of the singletons, called with
-// next to nothing while the engine throws from every call. A new one gets a name in the tables.
+// The whole interface at once: every exported flat function and every public method of the singletons, called
+// with minimal arguments while the engine throws from every call. A new function needs a row in the tables.
 
 #include "harness/UiapiTest.h"
 
@@ -23,13 +23,13 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-// The objects' classes, by names that leave room for a table.
+// The objects' classes under short names, for the table.
 using Para = UIAPICommonPara;
 using Global = UIAPIGlobalVar;
 using Result = Unified_AnalysisResult;
 using Keys = KVCAM::KVHotKey;
 
-/// Something that reaches an engine: the view, "x" for a QString (an empty job is not looked up) and 0, null
+/// Arguments that reach the engine: the view, "x" for a QString (an empty job is not looked up) and 0, null
 /// or empty for everything else.
 template <class Argument>
 std::decay_t<Argument> plainArgument(void const * view)
@@ -90,7 +90,7 @@ struct Row
     void (*call)(void const * view);
 };
 
-/// `names` are the functions as they are written, "&Para::getUnit, &Para::setUnit".
+/// `names` are the functions as written, "&Para::getUnit, &Para::setUnit".
 template <auto... functions>
 std::vector<Row> makeRows(QString const & names)
 {
@@ -202,8 +202,8 @@ void forEachRow(Action action)
 
 using Face = UiapiTest;
 
-/// Whether the view is known, and whether what is thrown is a std::exception. With an unknown view the
-/// singletons' first call meets the throwing engine, too.
+/// Whether the view is known, and whether a std::exception is thrown. With an unknown view the
+/// singletons' first call meets the throwing engine too.
 class FaceThrows : public Face, public ::testing::WithParamInterface<std::tuple<bool, bool>>
 {};
 
@@ -222,7 +222,7 @@ TEST_P(FaceThrows, LetsNothingEscape)
     }
     engine.throwFromEveryCall(standard);
     forEachRow([&](Row const & row) { EXPECT_NO_THROW(row.call(view)) << row.name; });
-    // It did throw, and who has the log knows, once for each call: of a flat function, of its method.
+    // It did throw, and the log shows it once for each call: of a flat function, of its method.
     Lines const lines = log.take();
     auto const logged = [&](char const * what) {
         return std::count(lines.begin(), lines.end(), paraError("异常描述：" + std::string(what)));
@@ -230,14 +230,14 @@ TEST_P(FaceThrows, LetsNothingEscape)
     if (standard) {
         EXPECT_EQ(logged("is_job_opened"), 2);
         EXPECT_EQ(logged("identify_symbol"), 2);
-        EXPECT_EQ(logged("get_matrix"), 3); // selectLayersByType() asks, too
+        EXPECT_EQ(logged("get_matrix"), 3); // selectLayersByType() asks too
     } else {
         EXPECT_NE(logged("unknown exception"), 0);
     }
     boxes.take();
 }
 
-// Each asking calls back, and the objects make each other.
+// Each request calls back, and the objects create each other.
 TEST_F(Face, AHostThatCallsBackWhileAnObjectIsMadeIsGivenThatObject)
 {
     engine.root = UIAPI_SOURCE_DIR "/samples";
@@ -291,7 +291,7 @@ QByteArray contents(QString const & path)
     return file.readAll();
 }
 
-/// The names of the exported functions that stand directly in a namespace, "KVCAM::UIAPI::".
+/// The names of the exported functions directly in a namespace, "KVCAM::UIAPI::".
 std::set<std::string> exportedFunctions(std::string const & space)
 {
     std::set<std::string> names;

@@ -46,7 +46,7 @@ TEST_F(NotifierTest, TellsOfEachStoreAfterThePush)
     setUnit(view, 1);
     UIAPICommonPara::instance()->setUnit(view, 0);
     setSelectionClear(view, true);
-    setSelectedPara(view, 1); // no aspect of its own
+    setSelectedPara(view, 1); // has no aspect
     setSnapSize(view, 1);
     using Heard = std::vector<std::pair<void const *, int>>;
     EXPECT_EQ(heard, (Heard{{view, 7}, {view, 3}, {view, 2}, {view, 3}, {view, 4}}));

@@ -69,7 +69,7 @@ TEST_F(UiState, InputWidgetLeavesItsTrace)
     QWidget second;
     setInputPtr(&first);
     setInputPtr(&second);
-    setInputPtr(nullptr); // counts as none set for the next call
+    setInputPtr(nullptr); // for the next call, none is set
     setInputPtr(&first);
     EXPECT_EQ(getInputPtr(), &first);
     EXPECT_EQ(log.take(), (Lines{"I UIAPICommonPara: setInputPtr _input " + shown(&first),
@@ -96,7 +96,7 @@ TEST_F(UiState, ModifiersAreComparedAsWholeMasks)
           Row{Qt::AltModifier | Qt::ControlModifier, false, false, false},
           Row{Qt::ControlModifier | Qt::KeypadModifier, false, false, false}}) {
         SCOPED_TRACE(int(row.held));
-        // A key event with modifiers is what the application learns its keyboard state from.
+        // The application learns its keyboard state from a key event with modifiers.
         QTest::keyPress(&widget, Qt::Key_F5, row.held);
         EXPECT_EQ(getCtrlEnpress(), row.control);
         EXPECT_EQ(getShiftEnpress(), row.shift);

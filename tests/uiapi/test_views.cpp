@@ -65,8 +65,8 @@ TEST_F(Views, RegistrationIsRefusedForNullAndSilentlyForAKnownView)
     EXPECT_EQ(log.take(), Lines{});
 }
 
-// One row for each way a view's state is stored: what it logs for an unknown view, what it pushes for a known
-// one (the save flag aside).
+// One row for each way to store a view's state: what it logs for an unknown view and pushes for a known one
+// (the save flag aside).
 struct StoreRow
 {
     char const * name;
@@ -227,13 +227,12 @@ TEST_F(Views, SnapControlKeepsTheSize)
     EXPECT_EQ(std::make_tuple(snap.first, snap.mode, snap.size), std::make_tuple(1, SNAP_EDGE, 9));
     setSnapMode(view, SNAP_GRID);
     EXPECT_EQ(getSnapType(view), SNAP_GRID);
-    setSnapType(view, static_cast<SNAP_TYPE_MODE>(1000)); // any number is carried
+    setSnapType(view, static_cast<SNAP_TYPE_MODE>(1000)); // any number is kept
     EXPECT_EQ(int(getSnapMode(view)), 1000);
     EXPECT_EQ(getSnapControl(view).first, 1);
 }
 
-// Not even a view that could be one, unlike the boxes of refused values. The title is translated, the body is
-// fixed.
+// Not even a view that is a widget, unlike for rejected values. The title is translated, the body is fixed.
 TEST_F(Views, UnknownViewIsShownInOneBoxWithoutAParentAfterItsLine)
 {
     struct Marker : QTranslator
@@ -302,7 +301,7 @@ TEST_F(Views, AnEngineThatCallsBackFindsTheRegistryConsistent)
     EXPECT_TRUE(insertStepConfig(config));
     EXPECT_EQ(engine.take(),
               (Calls{"DB::get_SaveFlag()", "API::set_show_para(1 0 false true true)",
-                     // from within: a registration and a store
+                     // from inside the callback: a registration and a store
                      "DB::get_SaveFlag()", "API::set_show_para(0 0 false true true)", "DB::get_SaveFlag()",
                      "API::set_selection(false false false false false false)", "DB::get_SaveFlag()",
                      "API::set_select_param(0)", "DB::get_SaveFlag()",
@@ -327,7 +326,7 @@ TEST_F(Views, AnEngineThatAssignsToTheObjectIsGivenTheNewRecordsAndNoneThatIsGon
               (Calls{"DB::get_SaveFlag()", "API::set_show_para(0 0 false true true)", "DB::get_SaveFlag()",
                      "API::set_selection(true true false false false false)"}));
     EXPECT_EQ(log.take(), Lines{operationError("setStepConfigToAPI")});
-    // The database twin cannot change what the engine is told.
+    // The database twin cannot change what is pushed to the engine.
     registerView(view);
     engine.saveFlag = true;
     engine.onNextCall("set_show_para_db_save", [&] { para.setUnit(view, 0); });
@@ -349,7 +348,7 @@ TEST_F(Views, CopiesAreDetached)
     para.setSplitPtr(&split);
     para.getLayerState()->layers["top"] = 2;
     para.addPluginRoute(1, "", "a");
-    // Objects cannot be destroyed, so the copy is kept where it stays reachable.
+    // Objects cannot be destroyed, so the copy is kept reachable.
     static auto * const copy = new UIAPICommonPara(para);
     EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, &para);
     EXPECT_FALSE(copy->KvcamAsExe());

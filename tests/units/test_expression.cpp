@@ -29,7 +29,7 @@ void expectValues(std::initializer_list<Row> rows)
 
 TEST(Expression, Values)
 {
-    // nothing is rounded, and there is no sign within a number: "1e" is none
+    // nothing is rounded; a number contains no sign, and "1e" is not a number
     expectValues({Row{"10+2*3", 16}, Row{"8-2-1", 5}, Row{"8/2*4", 16}, Row{"2+3*4*5", 62}, Row{"7", 7},
                   Row{".5+5.", 5.5}, Row{"0.1+0.2", 0.1 + 0.2},
                   Row{"12345678901234567890+0", 12345678901234567890.0}, Row{"1e3*2", 2000}, Row{"1e-3", -3},

@@ -1,5 +1,5 @@
-// A seeded random run over everything that reads typed text. What has a result is checked against a second,
-// plainer way to it. UIAPI_FUZZ_COUNT sets the number of inputs of each case, UIAPI_FUZZ_SEED the seed.
+// A seeded random run over everything that reads typed text. Results are checked against a second, plainer
+// implementation. UIAPI_FUZZ_COUNT sets the number of inputs of each case, UIAPI_FUZZ_SEED the seed.
 #include "harness/UiapiTest.h"
 
 #include "support/Narrowing.h"
@@ -22,7 +22,7 @@ namespace {
 class Fuzz : public ::testing::Test
 {
 protected:
-    /// Calls `check` with so many random texts made of the pieces.
+    /// Calls `check` with `count` random texts made of the pieces.
     template <class Check>
     void run(QStringList const & pieces, int maximumPieces, Check const & check)
     {
@@ -64,7 +64,7 @@ bool sameDouble(double a, double b)
     return a == b || (std::isnan(a) && std::isnan(b));
 }
 
-// The regular expressions of the second ways do not take halves of a surrogate pair.
+// The second implementations' regular expressions do not accept half a surrogate pair.
 bool isPlain(QString const & text)
 {
     return std::none_of(text.begin(), text.end(), [](QChar c) { return c.isSurrogate(); });
@@ -92,7 +92,7 @@ double thousandths(double value)
     return std::round(value * 1000) / 1000;
 }
 
-// The family-aware rewrites to the letter, one family after the other.
+// The family-aware rewrites done literally, family by family.
 template <class Convert>
 QString byParts(QString const & name, bool isChecked, Convert const & convert)
 {
@@ -128,7 +128,7 @@ QString byParts(QString const & name, bool isChecked, Convert const & convert)
     return prefix + (isThermal ? parts.mid(0, 6) : parts).join('x');
 }
 
-// The generic rewrites to the letter: two lists, put together again.
+// The generic rewrites done literally: two lists, joined again.
 template <class Convert>
 QString byRuns(QString const & name, Convert const & convert)
 {
@@ -177,7 +177,7 @@ void compareRewrites(QString const & name)
     }
 }
 
-// Evaluation to the letter: a postfix list, then a stack.
+// Evaluation done literally: a postfix list, then a stack.
 double evaluateByLists(QString expression)
 {
     QString const operators = "+-*/";
@@ -218,7 +218,7 @@ double evaluateByLists(QString expression)
 TEST_F(Fuzz, SymbolNames)
 {
     run(symbolPieces, 6, [&](QString const & text) {
-        // most are a family's prefix and fields, with the random text for some of these
+        // mostly a family's prefix and fields, some replaced by the random text
         QString name = text;
         if (number(0, 9) > 0) {
             name = symbolPieces[number(0, 10)];

@@ -45,7 +45,7 @@ TEST_F(NameSearch, OtherCharactersAndTheEmptyPatternAreLogged)
     }
 }
 
-// Linear in pattern and name for practical purposes; a backtracking matcher would not come back.
+// Practically linear in pattern and name; a backtracking matcher would never finish.
 TEST_F(NameSearch, HostilePatternsEnd)
 {
     QElapsedTimer timer;

@@ -41,7 +41,7 @@ TEST(SymbolName, ToOtherUnitConvertsTheLengthsOfAFamily)
          Row{"thr40x30x45x4x5x1", "thr1.5748x1.1811x45x4x0.19685x0.0393701", "thr1016x762x45x4x127x25.4"},
          Row{"sr_ths254x127x45x4x25.4x2.54", "sr_ths10x5x45x4x1x0.1",
              "sr_ths6451.6x3225.8x45x4x645.16x64.516"},
-         // a corner in the sixth place is no number, and what follows is dropped
+         // a corner in the sixth place is not a number; the rest is dropped
          Row{"s_ths254x254x45x4x254xr5x13", "s_ths10x10x45x4x10x0", "s_ths6451.6x6451.6x45x4x6451.6x0"},
          Row{"moire10x5x3x2x20x45", "moire0.393701x0.19685x3x0.0787402x0.787402x45",
              "moire254x127x3x50.8x508x45"}});
@@ -49,7 +49,7 @@ TEST(SymbolName, ToOtherUnitConvertsTheLengthsOfAFamily)
 
 TEST(SymbolName, OnlyToOtherUnitHoldsARectangleBackWhoseWidthOrCornerIsEmpty)
 {
-    // one trailing "x" is forgiven in a rectangle's prefix: the width before it counts as 0
+    // one trailing "x" in a rectangle's prefix is accepted: the width before it counts as 0
     for (Row const & row : {Row{"rectx5", "rect0x5", "rect0x127"}, Row{"rectx", "rect0x0", "rect0x0"},
                             Row{"rectx5xr1", "rect0x5xr1", "rect0x127xr25.4"},
                             Row{"rect10x20xr", "rect10x20xr0", "rect254x508xr0"}}) {
@@ -79,10 +79,10 @@ TEST(SymbolName, FromMilKeepsThreeDecimalsOrSnapsToWholeMicrometres)
                {Row{"r0.039", "r0.039", "r1"},       // 0.9906: one hundredth short
                 Row{"r3.937", "r3.937", "r100"},     // 99.9998
                 Row{"r0.0398", "r0.04", "r1.02"},    // rounded to 3 decimals first
-                Row{"r3.9375", "r3.938", "r100.03"}, // halves go away from zero
-                Row{"r2.0005", "r2.001", "r50.83"},  // the text of Qt rounds the decimal form up
+                Row{"r3.9375", "r3.938", "r100.03"}, // halves round away from zero
+                Row{"r2.0005", "r2.001", "r50.83"},  // Qt's text rounds the decimal form up
                 Row{"r0.433", "r0.433", "r11"},      // 10.9982
-                Row{"r0.158", "r0.158", "r4"},       // 4.0132: one hundredth beyond
+                Row{"r0.158", "r0.158", "r4"},       // 4.0132: one hundredth too much
                 Row{"ths40x30x45x4x5x1", "ths40x30x45x4x5x1", "ths1016x762x45x4x127x25.4"},
                 Row{"r1000000", "r1e+06", "r2.54e+07"}, Row{"r99999999999", "r1e+11", "r2.54e+12"}});
     EXPECT_EQ(Symbols::fromMil("r10", 2), "r254");
@@ -131,7 +131,7 @@ protected:
 
 TEST_F(SymbolViews, FlatFunctionsFollowTheView)
 {
-    // views 0 and 1 by their unit; 2 has a unit that is not metric
+    // views 0 and 1 have these units; 2 has another, which is not metric
     EXPECT_EQ(rewritten(setSymbolDataByUnit, 0, "r254"), "r10");
     EXPECT_EQ(rewritten(setSymbolDataByUnit, 1, "r10"), "r254");
     EXPECT_EQ(rewritten(setSymbolDataByUnit, 2, "r254"), "r10");

@@ -31,7 +31,7 @@ TEST(UnitConversion, ToUnitRoundsTheFractionAwayFromZero)
     for (Conversion const & row :
          {Conversion{25.4, 1.0, 645.16}, Conversion{1.0, 0.03937, 25.4}, Conversion{0, 0, 0},
           Conversion{-1.0, -0.03937, -25.4}, Conversion{254.1234, 10.00486, 6454.734},
-          // the fraction alone is rounded, so a large integer part does not eat the decimals
+          // only the fraction is rounded, so a large integer part does not cost decimals
           Conversion{1e9, 39370078.74016, 25.4e9}, Conversion{infinity, infinity, infinity}}) {
         EXPECT_EQ(Units::toUnit(0, row.value), row.inch) << row.value;
         EXPECT_EQ(Units::toUnit(1, row.value), row.metric) << row.value;
@@ -106,7 +106,7 @@ TEST(UnitConversion, JudgeValuesTruncateAndSaturate)
     }
 }
 
-// The rule as a regular expression, which is what plainText() stands for.
+// The rule of plainText() as a regular expression.
 TEST(UnitConversion, PlainTextIsTheFixedTextWithoutItsTrailingZeros)
 {
     std::mt19937 random(1);
@@ -127,7 +127,7 @@ TEST(UnitConversion, PlainTextIsTheFixedTextWithoutItsTrailingZeros)
 TEST(UnitConversion, SixDigitTextsTurnToExponents)
 {
     EXPECT_EQ(Units::milText(0, 1234567.0, 2), "1.23457e+06");
-    EXPECT_EQ(Units::milText(0, 0.1234567, 9), "0.123457"); // precision is not used for inch
+    EXPECT_EQ(Units::milText(0, 0.1234567, 9), "0.123457"); // the precision is ignored for inch
     EXPECT_EQ(Units::milText(1, 1.0, -127), "25.400000");
     EXPECT_EQ(Units::milText(1, 1e-9, -128), "0.0000000254"); // as many decimals as it needs
     EXPECT_EQ(Units::milText(1, 1.0, std::numeric_limits<int>::max()).size(), 3 + 1074);
@@ -136,7 +136,7 @@ TEST(UnitConversion, SixDigitTextsTurnToExponents)
 class UnitViews : public UiapiTest
 {};
 
-// Each flat function reads the unit of the view it is given, and of no other; an unknown view is an inch view
+// Each flat function reads the unit of its view and of no other; an unknown view counts as inch
 // after one line.
 TEST_F(UnitViews, FlatFunctionsFollowTheView)
 {
@@ -172,7 +172,7 @@ TEST_F(UnitViews, FlatFunctionsFollowTheView)
     }
     EXPECT_EQ(doubleToString(10.0), "10");
     EXPECT_EQ(getMeasureValue({5, 0, {0, 0, 8, 9}}), 8.0);
-    EXPECT_EQ(getMeasureValue({3, 0, {1, 2, 3, 4, 5, 6, 7}}), 0.0); // not understood
+    EXPECT_EQ(getMeasureValue({3, 0, {1, 2, 3, 4, 5, 6, 7}}), 0.0); // unsupported
 }
 
 } // namespace

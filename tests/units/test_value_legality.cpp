@@ -26,7 +26,7 @@ protected:
         registerView(viewHandle(1), 1);
     }
 
-    // The box, if there was one, has the text of the verdict that shows none.
+    // The text of the box, if any, is that of the verdict without a box.
     void expectShown(Ext::ValueVerdict const & verdict, bool legal, std::string const & text)
     {
         EXPECT_EQ(verdict.legal, legal);
@@ -78,7 +78,7 @@ TEST_F(ValueLegality, AnUnknownViewIsLoggedOnceForEachBoundAndEachText)
     EXPECT_FALSE(isValueLegal(254, 1, 10, viewHandle(9)));
     EXPECT_EQ(log.take(), (Lines{line, line, line, line}));
     EXPECT_EQ(boxes.take(), Lines{informationBox(lengthText("(1, 10)"))});
-    // no look-up at all
+    // no look-up
     EXPECT_TRUE(isNumValueLegal(10, 1, 10, viewHandle(9)));
     EXPECT_EQ(log.take(), Lines{});
 }
@@ -139,7 +139,7 @@ TEST_F(ValueLegality, TheFirstIllegalNumberOfASymbolEndsTheCheck)
     }
 }
 
-// The message is composed, then looked up as a whole, as what was composed in UTF-8.
+// The message is composed first and then looked up as a whole, in UTF-8.
 TEST_F(ValueLegality, TheComposedMessageIsTranslated)
 {
     struct Upper : QTranslator

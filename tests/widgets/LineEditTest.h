@@ -18,7 +18,7 @@ protected:
         registerView(&view, 0);
     }
     UIAPI::KVLineEdit & field(int kind) { return *new UIAPI::KVLineEdit(UIAPI::KVERegExp(kind), &view); }
-    /// One key per character, also of those for which QTest knows no key.
+    /// One key per character, including those without a QTest key.
     void type(UIAPI::KVLineEdit & edit, char const * text)
     {
         for (QChar const c : QString::fromUtf8(text)) {

@@ -32,7 +32,7 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-// A shown, active window with the widget, which has the focus, and another one.
+// A shown, active window with the widget, which has the focus, and another widget.
 template <class Widget>
 struct Form
 {
@@ -99,13 +99,13 @@ TEST(Companions, TextEditReportsItsPlainTextAtEachLossOfFocus)
     EXPECT_EQ(form.widget->focusPolicy(), Qt::StrongFocus);
     form.widget->setHtml(QStringLiteral("<b>bold</b>"));
     QSignalSpy const lost(form.widget, &KVTextEdit::LostFocus);
-    for (int i = 1; i <= 2; ++i) { // the second time the text did not change
+    for (int i = 1; i <= 2; ++i) { // the second time with unchanged text
         form.widget->setFocus();
         form.other->setFocus();
         ASSERT_EQ(lost.count(), i);
         EXPECT_EQ(lost.last().first().toString(), "bold");
     }
-    // The base has repainted its cursor by the time that the signal is emitted.
+    // By the time the signal is emitted the base has repainted its cursor.
     form.widget->setFocus();
     auto const children = form.widget->findChildren<QObject *>();
     auto const control = std::find_if(children.begin(), children.end(),
@@ -143,7 +143,7 @@ TEST(Companions, ProgressDialogUsesItsParentAloneAndIgnoresEscapeAndStopsByF1)
             EXPECT_FALSE(dialog.isDialogStop());
             QKeyEvent event(type, key, Qt::NoModifier);
             QApplication::sendEvent(&dialog, &event);
-            // nobody else gets Escape; a plain widget leaves the others to its parent
+            // nothing else gets Escape; like a plain widget, it passes other keys to its parent
             EXPECT_EQ(event.isAccepted(), key == Qt::Key_Escape && type == QEvent::KeyPress);
         }
     }
@@ -167,7 +167,7 @@ protected:
         dialog.show();
         ASSERT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->rootIndex()) == 3; }));
     }
-    QDir directory = folders(); // made first: the dialog would notice them late
+    QDir directory = folders(); // created first: the dialog would notice them late
     QWidget owner;
     KVFileDialog & dialog = *new KVFileDialog(&owner);
     QTreeView * tree = dialog.findChild<QTreeView *>();
@@ -206,7 +206,7 @@ TEST_F(FileDialog, ExistingFilesAreReplacedUnaskedUnlessAskedFor)
         bool yes;
         char const * happens; // asked, accepted, emitted
     };
-    // without the question Qt has a box of its own for "old" and Return
+    // without the question, Qt shows its own box for "old" and Return
     for (Row const & row :
          {Row{false, false, "old", false, ".a."}, Row{false, true, "new", false, ".ae"},
           Row{true, false, "new", false, ".a."}, Row{true, false, "a", false, ".a."}, // a folder

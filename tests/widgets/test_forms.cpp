@@ -15,13 +15,13 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-// A class with a name of its own has no row, whatever it derives from.
+// A class with another name has no row, whatever its base.
 class DerivedCheckBox : public QCheckBox
 {
     Q_OBJECT
 };
 
-// One of each kind of control; three buttons with the given ids.
+// One control of each kind; three buttons with the given ids.
 struct SampleForm
 {
     QLineEdit line;
@@ -83,7 +83,7 @@ TEST_F(Forms, ButtonGroupIsSavedByIdAndRestoredByPosition)
     struct Row
     {
         std::initializer_list<int> ids;
-        int checked, saved, restored; // restored in a form where the first is checked
+        int checked, saved, restored; // restored in a form with the first one checked
     };
     for (Row const & row : {Row{{2, 1, 0}, 0, 2, 2}, Row{{10, 11, 12}, 1, 11, 0}, Row{{-1, -1, -1}, 2, -4, 0},
                             Row{{0, 1, 2}, -1, -1, 0}}) {
@@ -108,7 +108,7 @@ TEST_F(Forms, ValuesOfAnotherTypeReadAsTheirNeutralValue)
     form.combo.setEditable(true);
     writeJsonToList({{"1", 5}, {"3", "gone"}, {"4", "true"}, {"5", "2"}}, form.all);
     EXPECT_EQ(form.line.text(), "");
-    EXPECT_EQ(form.combo.currentText(), "gone"); // by text, though no item has it
+    EXPECT_EQ(form.combo.currentText(), "gone"); // by text, although no item has it
     EXPECT_FALSE(form.check.isChecked());
     EXPECT_EQ(form.checkedPosition(), 0);
 }

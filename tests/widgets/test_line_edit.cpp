@@ -39,15 +39,15 @@ TEST_F(LineEdit, EachKindTakesWhatItsPatternTakes)
              Row{RegName, many.c_str(), many.substr(0, 64)},
              Row{RegNoCjk, "a\u4e00b\u9fa5c\u4dff\u9fa6", "abc\u4dff\u9fa6"},
              Row{RegSymbolName, "Rect10x5.5 _+-", "ect10x5.5_+-"},
-             Row{RegRound, "r12", "r12", false}, // a name with a blank is all it takes
+             Row{RegRound, "r12", "r12", false}, // accepts only names with a blank
              Row{RegRound, "r12 ", "r12 "},
-             Row{RegSquare, " s1.5 0", "", false}, // takes nothing
+             Row{RegSquare, " s1.5 0", "", false}, // accepts nothing
              Row{RegFreeText, "~`!@#$%&^()_+={}*,.;'azAZ09", "~`!@#$%&^()_+={}*,.;'azAZ09"},
              Row{RegFreeText, "-/:<>?[]\\|\" ", "", false},
              Row{RegFreeText, many.c_str(), many.substr(0, 36)},
              Row{RegDigits, "1.5 -2a", "1.5 -2"},
              Row{0, "a1", ""},
-             Row{12, "a1", ""}, // a kind without a row
+             Row{12, "a1", ""}, // an unknown kind
          }) {
         KVLineEdit & edit = field(row.kind);
         type(edit, row.typed);
@@ -60,7 +60,7 @@ TEST_F(LineEdit, EachKindTakesWhatItsPatternTakes)
     EXPECT_EQ(plain.text(), QStringLiteral("1any \u4e00"));
 }
 
-// What each text becomes in the other unit, and that a hundred switches lose nothing.
+// Each text in the other unit; a hundred switches lose nothing.
 TEST_F(LineEdit, HundredSwitchesKeepBothTexts)
 {
     struct Row
@@ -71,9 +71,9 @@ TEST_F(LineEdit, HundredSwitchesKeepBothTexts)
     for (Row const & row : {
              Row{RegNumber, 0, "1", "25.4"},
              Row{RegNumber, 1, "254.1234", "10.0049"},
-             Row{RegNumber, 2, "-12.7", "-0.5"},         // every unit but 0 is metric
+             Row{RegNumber, 2, "-12.7", "-0.5"},         // any unit but 0 is metric
              Row{RegNumber, 0, "123456", "3.13578e+06"}, // six significant digits
-             Row{RegNumber, 1, "0254", "10"},            // a text given is not validated
+             Row{RegNumber, 1, "0254", "10"},            // a given text is not validated
              Row{RegPositive, 0, "+10", "254"},          //
              Row{RegSymbolName, 1, "rect254x508", "rect10x20"},
              Row{RegSymbolName, 0, "r254", "r10"}, // divided in both directions
@@ -164,7 +164,7 @@ TEST_F(LineEdit, EditsMadeWhileTheUnitChangesAreNotRecorded)
     QObject::disconnect(connection);
     show(edit, 0);
     EXPECT_EQ(edit.text(), "1");
-    retype(edit, "2"); // recording goes on afterwards
+    retype(edit, "2"); // recording continues
     show(edit, 1);
     EXPECT_EQ(edit.text(), "50.8");
 }

@@ -20,7 +20,7 @@ namespace {
 class LineEditExtras : public LineEditTest
 {};
 
-// With and without the additions the same keys and switches give the same texts.
+// The same keys and switches give the same texts with and without the additions.
 TEST_F(LineEditExtras, AdditionsAreOffByDefaultAndChangeNoText)
 {
     for (int kind = 0; kind <= 12; ++kind) {
@@ -62,7 +62,7 @@ TEST_F(LineEditExtras, AFieldFollowsItsViewAndNoOther)
     edit.setFollowView(false);
     setUnit(&view, 0);
     EXPECT_EQ(edit.text(), "25.4");
-    edit.setFollowView(true); // begins with the unit that the view has now
+    edit.setFollowView(true); // starts with the view's current unit
     EXPECT_EQ(edit.text(), "1");
 }
 
@@ -73,11 +73,11 @@ TEST_F(LineEditExtras, AnUnregisteredParentIsAnInchViewAndFollowedOnceItIsRegist
     KVLineEdit name(RegName, &late);
     edit.setFollowView(true);
     type(name, "1");
-    EXPECT_EQ(log.take(), Lines{}); // neither an empty field nor a name asks for a unit
+    EXPECT_EQ(log.take(), Lines{}); // neither an empty field nor a name needs the unit
     type(edit, "1");
     EXPECT_EQ(log.take(), Lines{operationError("getShowPara")});
     registerView(&late, 1);
-    EXPECT_EQ(edit.text(), "25.4"); // what was typed was inch
+    EXPECT_EQ(edit.text(), "25.4"); // inches were typed
 }
 
 TEST_F(LineEditExtras, ExactValueIsWhatWasTypedInItsOwnUnit)
@@ -170,7 +170,7 @@ TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
         edit.setRange(1, 10);
         ASSERT_EQ(spy.count(), row.words.empty() ? 0 : 1);
         EXPECT_EQ(spy.value(0).value(1).toString().toStdString(), row.words);
-        edit.changeunit(1 - row.unit); // what was typed counts, whatever the text shown
+        edit.changeunit(1 - row.unit); // the typed text counts, not the shown one
         EXPECT_EQ(edit.property("uiapiValid"), QVariant(row.words.empty()));
     }
 }
@@ -185,18 +185,18 @@ TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
     edit.setRange(1, 3);
     QSignalSpy spy(&edit, &KVLineEdit::validityChanged);
     setUnit(&view, 1);
-    EXPECT_EQ(edit.text(), "76.2"); // which would be refused if it had been typed
+    EXPECT_EQ(edit.text(), "76.2"); // would be rejected if typed
     setUnit(&view, 0);
     EXPECT_EQ(spy.count(), 0);
     type(edit, "0000");
-    setUnit(&view, 1); // the words change with the unit
+    setUnit(&view, 1); // the text changes with the unit
     ASSERT_EQ(spy.count(), 2);
     EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1, 3"));
     EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.40, 76.20"));
     EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
-// Deletes what gets a dynamic property.
+// Deletes any object that gets a dynamic property.
 struct DeletingFilter : QObject
 {
     bool eventFilter(QObject * object, QEvent * event) override
@@ -241,7 +241,7 @@ TEST_F(LineEditExtras, ASlotMayDeleteTheFieldThatEmits)
     EXPECT_EQ(deleted, "xx...|xx...|xx...|xxxxx|...x.|");
 }
 
-// The bases' destructors still emit while the private part is gone.
+// The bases' destructors still emit when the private part is gone.
 TEST_F(LineEditExtras, ADyingFieldHearsNoMore)
 {
     auto * const edit = new KVLineEdit("1", RegNumber, &view);
@@ -271,7 +271,7 @@ TEST_F(LineEditExtras, RefusedKeyIsExplainedInTheLanguage)
             ASSERT_EQ(refused.count(), 1) << kind;
             distinct.insert(refused[0][0].toString());
         }
-        EXPECT_EQ(distinct.size(), 12); // each kind has words of its own
+        EXPECT_EQ(distinct.size(), 12); // each kind has its own text
         for (QString const & text : distinct) {
             EXPECT_EQ(text.contains(QRegExp("[\u4e00-\u9fa5]")), chinese) << text.toStdString();
         }

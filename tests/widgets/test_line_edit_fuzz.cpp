@@ -55,7 +55,7 @@ TEST_F(Fuzz, FieldsOfEveryKindStayConsistent)
                 edit.insert(text());
             }
         }
-        // There and back shows the same text, whatever was typed.
+        // Switching there and back shows the same text, whatever was typed.
         int const unit = getUnit(&view);
         edit.changeunit(unit);
         QString const shown = edit.text();

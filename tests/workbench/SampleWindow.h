@@ -21,7 +21,7 @@
 
 namespace Workbench {
 
-/// A window on the sample job. Boxes are collected, not shown; a case takes those that it expects.
+/// A window on the sample job. Boxes are collected, not shown; a case takes the expected ones.
 class SampleWindow : public ::testing::Test
 {
 protected:
@@ -53,7 +53,7 @@ protected:
     void open() { window = makeWindow(); }
 
     BoardPage & board() const { return window->board(); }
-    /// The handle of the view in front.
+    /// The handle of the current view.
     void const * view() const { return board().currentView()->handle(); }
     QString status() const { return find<QLabel>("hot keys").text(); }
     template <class Widget>

@@ -19,7 +19,7 @@ namespace Workbench {
 
 constexpr char const * sampleJob = UIAPI_SOURCE_DIR "/samples/jobs/demo-board";
 
-/// Writes a file and the folders it stands in.
+/// Writes a file and creates its folders.
 inline void writeFile(QString const & path, QByteArray const & content)
 {
     QDir().mkpath(QFileInfo(path).path());
@@ -41,7 +41,7 @@ inline void writeJob(QString const & job, std::vector<std::pair<char const *, ch
     writeFile(job + "/steps/pcb/stephdr", "UNITS=MM\n");
 }
 
-/// What a file holds, "no file" where there is none.
+/// A file's content, or "no file".
 inline QByteArray readFile(QString const & path)
 {
     QFile file(path);
@@ -53,7 +53,7 @@ inline QJsonObject readObject(QString const & path)
     return QJsonDocument::fromJson(readFile(path)).object();
 }
 
-/// The button of a widget with a text.
+/// The widget's button with this text.
 inline QPushButton & buttonOf(QWidget const & widget, QString const & text)
 {
     for (auto * each : widget.findChildren<QPushButton *>()) {

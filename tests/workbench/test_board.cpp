@@ -38,7 +38,7 @@ TEST(ViewPorts, KeepThePlaceBelowThePointerAtEveryZoom)
         QSizeF size;
     } const boards[] = {
         {{0, 0, 100000, 50000}, {800, 600}},
-        {{-3e13, -2e13, 5e13, 2e13}, {800, 600}}, // as large as a file can make it
+        {{-3e13, -2e13, 5e13, 2e13}, {800, 600}}, // the largest that a file can give
         {{5, 5, 0.01, 0}, {400, 300}},
     };
     for (auto const & board : boards) {
@@ -135,7 +135,7 @@ TEST(SymbolPaths, AreTheShapesThatTheNamesTell)
     EXPECT_LE(symbolPath(endless, 0)->boundingRect().width(), 2.6e10);
 }
 
-// 10 mm x 10 mm with what a picture can get wrong on the first layer, and a plane below.
+// 10 mm x 10 mm: on the first layer what is easily painted wrong, below it a plane.
 class Pictures : public ::testing::Test
 {
 protected:
@@ -150,7 +150,7 @@ protected:
         writeFile("tiny/steps/pcb/profile", "UNITS=MM\n" + square + "SE\n");
         writeFile("tiny/steps/pcb/layers/top/features",
                   "UNITS=MM\n$0 r2000\n$1 r1000\n$2 tri1000x2000\n$3 r20\n$4 s500\n$5 r500\n"
-                  "P 2 2 0 P 0 0\nP 2 2 1 N 0 0\n"     // a pad, opened by a negative one
+                  "P 2 2 0 P 0 0\nP 2 2 1 N 0 0\n"     // a pad with a negative one in it
                   "P 5 2 2 P 0 1\nP 8 2 2 P 0 8 180\n" // a triangle that points right, one that points down
                   "L 1 5 4 5 3 P 0\nP 5 5 3 P 0 0\n"   // a track and a pad thinner than a pixel
                   "L 7 5 9 5 4 P 0\nL 7 6 9 6 5 P 0\n" // square ends, round ends
@@ -172,7 +172,7 @@ protected:
         view->finishPicture();
         return view->grab().toImage();
     }
-    // Whether something is drawn at a place in millimetres.
+    // Whether something is drawn at a position in millimetres.
     bool isDrawn(QImage const & image, double x, double y) const
     {
         QPointF const pixel = view->pixelOf(x * 1000, y * 1000);
@@ -201,7 +201,7 @@ TEST_F(Pictures, ShowEachShapeWhereItIsAtEveryZoom)
     for (double const zoom : {1.0, 3.0, 40.0}) {
         for (auto const & place : places) {
             view->zoomHome();
-            if (zoom > 1) { // each place in the middle, and the rest beyond the edge
+            if (zoom > 1) { // each place in the centre, the rest outside
                 QWheelEvent event(view->pixelOf(place.x * 1000, place.y * 1000), {}, {},
                                   {0, static_cast<int>(120 * std::log(zoom) / std::log(1.25))}, Qt::NoButton,
                                   Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -213,7 +213,7 @@ TEST_F(Pictures, ShowEachShapeWhereItIsAtEveryZoom)
     }
     view->zoomHome();
     for (int i = 0; i < 6; ++i) {
-        view->zoomOut(); // to an eighth, where a track is far thinner than a pixel
+        view->zoomOut(); // to an eighth: tracks are far thinner than a pixel
     }
     EXPECT_NEAR(view->zoom(), 0.125, 1e-9);
     EXPECT_TRUE(isDrawn(grab(), 2.5, 5));
@@ -238,7 +238,7 @@ TEST_F(Pictures, SlicesOfTimeMakeTheSamePictureAsOneGo)
 {
     ASSERT_EQ(session.open(sampleJob), "");
     auto const top = std::make_shared<LayerShapes const>("demo-board", "pcb", layer(4));
-    ASSERT_GT(top->shapes().size(), 150U); // the clock is looked at now and then
+    ASSERT_GT(top->shapes().size(), 150U); // the clock is read only now and then
     QRectF const extent = top->extent();
     QImage images[2];
     for (int sliced = 0; sliced < 2; ++sliced) {
@@ -268,7 +268,7 @@ TEST_F(Pictures, MarksAreShownPickedAndBroughtIntoTheMiddle)
         QTest::mouseClick(view.get(), Qt::LeftButton, {}, view->pixelOf(x, y).toPoint());
     };
     click(2000, 2000);
-    EXPECT_EQ(marks, std::vector<int>{1}); // the upper one, and not the pad below
+    EXPECT_EQ(marks, std::vector<int>{1}); // the upper one, not the pad below
     click(1150, 2000);
     EXPECT_EQ(pads, std::vector<int>{0});
     click(9900, 200);
@@ -282,7 +282,7 @@ TEST_F(Pictures, MarksAreShownPickedAndBroughtIntoTheMiddle)
     view->zoomIn();
     view->centreOn(std::nan(""), 0);
     view->centreOn(2000, 2000);
-    EXPECT_NEAR(view->zoom(), 6, 1e-9); // what is near already stays
+    EXPECT_NEAR(view->zoom(), 6, 1e-9); // already near: unchanged
     setUnit(view->handle(), 0);
     view->showLayer(layer(1));
     EXPECT_NEAR(view->zoom(), 6, 1e-9);
@@ -310,7 +310,7 @@ TEST_F(Pictures, ADragMovesTheBoardAndPicksNothing)
     struct
     {
         int key;
-        QPointF shown; ///< where the place in the middle has gone, in tenths of the view
+        QPointF shown; ///< new position of the former centre, in tenths of the view
     } const keys[] = {
         {Qt::Key_Right, {-1, 0}}, {Qt::Key_Up, {0, 1}}, {Qt::Key_Left, {1, 0}}, {Qt::Key_Down, {0, -1}}};
     for (auto const & row : keys) {

@@ -58,12 +58,12 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
     struct
     {
         char const * typed;
-        char const * below; ///< what stands below the field before it is finished
-        char const * shown; ///< what stands in it afterwards
+        char const * below; ///< the text below the field before it is finished
+        char const * shown; ///< its text afterwards
         char const * box;
     } const rows[] = {
         {"10+2.5", "= 12.5 mil", "12.5", nullptr},
-        {"7x+0.1+0.2", "= 7.3 mil", "7.3", nullptr}, // a letter is refused
+        {"7x+0.1+0.2", "= 7.3 mil", "7.3", nullptr}, // a letter is rejected
         {"90000*2", outOfRange, "7.3", outOfRange},
         {"10+5..5", "CaculateData ERROR", "7.3", "CaculateData ERROR"},
         {"0/0", "", "7.3", outOfRange},
@@ -74,7 +74,7 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
         type(width, row.typed);
         EXPECT_EQ(dialog.pad().verdict(), row.below) << row.typed;
         QTest::keyClick(&width, Qt::Key_Return);
-        QApplication::processEvents(); // the field is done with its key
+        QApplication::processEvents(); // the field has handled its key
         EXPECT_EQ(takeBoxes(), row.box != nullptr ? QStringList(row.box) : QStringList()) << row.typed;
         EXPECT_EQ(getUnit(view()), 0) << "Return pressed a button";
         QString const symbol = dialog.pad().symbol();
@@ -121,7 +121,7 @@ TEST_F(Windows, AWindowThatGoesAwayFinishesNothing)
     width.setFocus();
     QApplication::processEvents();
     type(width, "90000*2");
-    dialog.remarks().note().setFocus(); // which saves the form when it loses the focus
+    dialog.remarks().note().setFocus(); // losing the focus saves the form
     window.reset();
     EXPECT_FALSE(QFile::exists(formFile));
 }
@@ -144,7 +144,7 @@ TEST_F(Windows, TypingASymbolCanBeUndone)
 TEST_F(Windows, ADialogComesBackAsItWasLeft)
 {
     openFeature(1).close();
-    EXPECT_FALSE(QFile::exists(formFile)); // a mere look leaves nothing behind
+    EXPECT_FALSE(QFile::exists(formFile)); // just looking saves nothing
 
     FeatureDialog & dialog = openFeature(0);
     setUnit(view(), 1);
@@ -152,7 +152,7 @@ TEST_F(Windows, ADialogComesBackAsItWasLeft)
     setUnit(view(), 0);
     type(field(dialog, "width"), "10+2.5");
     dialog.remarks().fill("me", "a note", "a file");
-    FeatureDialog & other = openFeature(1); // in place of the first one, which is saved
+    FeatureDialog & other = openFeature(1); // replaces the first, which is saved
     EXPECT_FALSE(other.isRestored());
     type(field(other, "height"), "90000*2");
     other.remarks().fill("you", "", "");

@@ -27,7 +27,7 @@ namespace {
 
 QHostAddress const here(QHostAddress::LocalHost);
 
-/// A page as a user sees and uses it.
+/// A page as seen and used by a user.
 class Page
 {
 public:
@@ -70,7 +70,7 @@ void arrive(QByteArrayList const & datagrams)
     for (QByteArray const & bytes : datagrams) {
         emit Ext::edaLink()->datagramReceived(bytes);
     }
-    QApplication::processEvents(); // which lists them
+    QApplication::processEvents(); // lists them
 }
 
 TEST(JsonTexts, AnObjectIsOneAndTheRestIsToldWithItsPlace)
@@ -121,7 +121,7 @@ TEST(EdaPages, TypingIsJudgedAndOnlyAnObjectIsSent)
     page.type("{\"b\" : 1,\n \"a\" : \"层\"}");
     EXPECT_EQ(page.label("verdict"), "A JSON object; 17 bytes are sent.");
 
-    // A number that is half typed counts at the latest when something is sent.
+    // A half-typed port number counts at the latest on sending.
     page.port().setFocus();
     page.port().selectAll();
     QTest::keyClicks(&page.port(), QString::number(tool.localPort()));
@@ -143,7 +143,7 @@ TEST(EdaPages, TypingIsJudgedAndOnlyAnObjectIsSent)
         page.label("counts").startsWith("Sent: 1     Not sent: 1     Received: 0     Latest error: "));
     EXPECT_FALSE(tool.hasPendingDatagrams());
 
-    // Another module's port is shown when the page comes to the front, and one that is none is left alone.
+    // A port set by another module is shown when the page is opened; an invalid one is left alone.
     page.page.hide();
     setEdaPort(5000);
     page.page.show();
@@ -215,7 +215,7 @@ TEST(EdaPages, TheLatestAreKeptAndASelectedOneStaysInView)
     EXPECT_EQ(at(EdaPage::kept - 1), "{\"n\":501}");
     EXPECT_EQ(page.messages().currentRow(), 0);
     EXPECT_EQ(page.content(), "{\n    \"n\": 2\n}");
-    arriveAll(EdaPage::kept + 2, EdaPage::kept + 3); // the selected one is dropped
+    arriveAll(EdaPage::kept + 2, EdaPage::kept + 3); // drops the selected one
     EXPECT_EQ(page.content(), "{\n    \"n\": 3\n}");
     EXPECT_EQ(page.messages().selectedItems().size(), 4);
     arriveAll(1000, 1000 + 3 * EdaPage::kept); // at once
@@ -229,10 +229,10 @@ TEST(EdaPages, TheLatestAreKeptAndASelectedOneStaysInView)
     EXPECT_EQ(page.rows(), "");
 }
 
-// What another process answers comes back through the sockets.
+// Another process's answers arrive through the sockets.
 TEST(EdaPages, SendsToASecondProcessAndShowsItsAnswer)
 {
-    QProcess tool; // sends everything back and counts {"n":0}, {"n":1} and so on
+    QProcess tool; // echoes everything and counts {"n":0}, {"n":1} and so on
     tool.start(EDA_PEER, {}, QIODevice::ReadOnly);
     ASSERT_TRUE(tool.waitForReadyRead(20000));
     int const port = tool.readLine().trimmed().toInt();
@@ -261,7 +261,7 @@ TEST(EdaPages, SendsToASecondProcessAndShowsItsAnswer)
 TEST(EdaPages, TellsThatThereIsNoLinkWhereThePortIsTaken)
 {
     QUdpSocket other;
-    other.bind(here, EdaPage::receivePort); // or somebody else has it
+    other.bind(here, EdaPage::receivePort); // unless another process has it
     QUdpSocket tool;
     ASSERT_TRUE(tool.bind(here));
     Page const page;

@@ -24,11 +24,11 @@ using namespace Workbench;
 
 namespace {
 
-// A window on the sample job, and keys that reach it as those of a keyboard do.
+// A window on the sample job; key presses reach it as from a keyboard.
 class Keyboard : public SampleWindow
 {
 protected:
-    /// Presses keys that blanks part, "S G Shift+U"; the status in the end is the result.
+    /// Presses keys separated by blanks, "S G Shift+U"; returns the final status.
     QString press(QString const & keys)
     {
         for (QString const & key : keys.split(' ')) {
@@ -39,7 +39,7 @@ protected:
         }
         return status();
     }
-    /// What the keys of the view can change.
+    /// Everything that the view's keys can change.
     std::string state() const
     {
         return "unit " + std::to_string(getUnit(view())) + " width " + std::to_string(getWidth(view())) +
@@ -166,10 +166,10 @@ TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
     layers->setFocus();
     int const row = layers->currentRow();
     layers->setCurrentCell(row, 1); // the names
-    EXPECT_EQ(press("S"), snaps);   // no search for a layer that begins with an s
+    EXPECT_EQ(press("S"), snaps);   // does not search for a layer starting with s
     EXPECT_EQ(press("G"), "Snap: grid");
     EXPECT_EQ(layers->currentRow(), row);
-    press("Down"); // what is no hot key is the table's
+    press("Down"); // other keys go to the table
     EXPECT_EQ(layers->currentRow(), row + 1);
 
     std::string const after = state();

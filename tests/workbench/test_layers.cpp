@@ -127,7 +127,7 @@ TEST_F(LayersOfAWindow, OthersAreGreyedOnRequestAndAnalysisHasALayerListOfItsOwn
     EXPECT_EQ(shownRows(table).count(' '), 24);
     EXPECT_EQ(greyRows(), 22);
     for (LANGUAGE_MODE const language : {LANGUAGE_CHINESE, LANGUAGE_ENGLISH}) {
-        window->setLanguage(language); // which fills the table anew
+        window->setLanguage(language); // refills the table
         QApplication::processEvents();
         EXPECT_EQ(greyRows(), 22);
     }
@@ -185,7 +185,7 @@ TEST_F(LayersOfAWindow, ThePageOfReferencesShowsAndChangesWhatTheLibraryKeeps)
     }
     click("add");
     EXPECT_EQ(layersOf("pcb"), (std::vector<std::string>{"top", "bottom"}));
-    layers.item(0)->setCheckState(Qt::Unchecked); // the chosen ones stand first
+    layers.item(0)->setCheckState(Qt::Unchecked); // the chosen ones come first
     find<QComboBox>("reference job").setEditText("other board");
     click("change");
     EXPECT_EQ(layersOf("pcb"), std::vector<std::string>{"bottom"});
@@ -218,7 +218,7 @@ TEST_F(LayersOfAWindow, ThePageOfReferencesShowsAndChangesWhatTheLibraryKeeps)
         "Tell the library that \"other board\" is deleted? All references to it go as well.";
     EXPECT_EQ(takeBoxes(), (QStringList{question, question}));
 
-    for (int i = 0; i < 2; ++i) { // two records, whose jobs stand side by side
+    for (int i = 0; i < 2; ++i) { // two records with their jobs side by side
         layers.item(0)->setCheckState(Qt::Checked);
         find<QComboBox>("reference job").setEditText(QString("job %1").arg(i));
         click("add");
@@ -256,7 +256,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     }());
     BoardView & view = *board().currentView();
     auto const & table = find<LayerTable>();
-    auto const state = [&] { // drawn, counted, to undo
+    auto const state = [&] { // drawn, counted, undoable
         return QString("%1 %2 %3")
             .arg(view.features().size())
             .arg(table.item(table.currentRow(), 5)->text())
@@ -322,7 +322,7 @@ TEST(Selections, TakeTheUppermostFeatureAtAPlaceAndItsLikes)
     ring.path.addEllipse(QPointF(50, 50), 40, 40);
     ring.path.addEllipse(QPointF(50, 50), 20, 20);
     ring.box = {10, 10, 80, 80};
-    ring.penWidth = 40; // of no stroke
+    ring.penWidth = 40; // matches no stroke
     FeatureShape arc = ring;
     arc.feature = 6;
     arc.filled = false;

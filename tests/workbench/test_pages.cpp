@@ -26,7 +26,7 @@ using namespace Workbench;
 
 namespace {
 
-// A file of templates; the prefix of the drill layer tells them apart.
+// A template file; the drill prefix distinguishes the templates.
 QByteArray templates(QStringList const & names)
 {
     QJsonArray list;
@@ -37,7 +37,7 @@ QByteArray templates(QStringList const & names)
     return QJsonDocument(QJsonObject{{"template", list}}).toJson();
 }
 
-// "file: name, name" of each of the user's files.
+// "file: name, name" for each of the user's files.
 QStringList userFiles()
 {
     QStringList result;
@@ -61,7 +61,7 @@ QStringList loaded()
     return result;
 }
 
-// Does on the page what a user does; the boxes that came up are the result.
+// Acts on the page like a user; returns the boxes shown.
 QStringList use(TemplatesPage & page, int row, QString const & name, QString const & button)
 {
     QStringList boxes;
@@ -103,7 +103,7 @@ TEST(TemplateFiles, OnlyTheFileOfATemplateIsEverWrittenOrDeleted)
         char const * button;
         QStringList boxes;
         QStringList loaded;
-        QStringList added; ///< to the three files that nothing may touch
+        QStringList added; ///< to the three files that must not change
     } const steps[] = {
         {4, "mine too", "Save", {}, {"4 mine too", "5 mine"}, {"mine too.json: mine too", "one.json: mine"}},
         {4, "a", "Save", taken("a"), {"4 mine too", "5 mine"}, {"mine too.json: mine too", "one.json: mine"}},
@@ -136,7 +136,7 @@ TEST(TemplateFiles, OnlyTheFileOfATemplateIsEverWrittenOrDeleted)
         EXPECT_EQ(userFiles(), others + step.added + QStringList{"z.JSON: not read"})
             << step.button << step.name;
     }
-    // A shipped template and one of several in a file go from memory alone, whatever files are there.
+    // A shipped template and one of several in a file are removed from memory only, whatever files exist.
     writeFile("autoMatrix/one.json", templates({"new here"}));
     use(page, 3, "", "Delete");
     use(page, 0, "", "Delete");
@@ -149,7 +149,7 @@ TEST(TemplateFiles, AFailedRenameKeepsTheOldFile)
 {
     writeFile("config/automatrix.json", templates({"one"}));
     writeFile("autoMatrix/mine.json", templates({"mine"}));
-    QString const longName(300, 'x'); // no file system takes such a name
+    QString const longName(300, 'x'); // too long for any file system
     TemplatesPage page;
     use(page, 1, longName, "Save");
     EXPECT_TRUE(page.findChild<QLabel *>("hint")->text().contains("was not saved"));
@@ -161,7 +161,7 @@ TEST(TemplateFiles, AFailedRenameKeepsTheOldFile)
 TEST(TemplateFiles, TheHintTellsWhatSaveAndDeleteDo)
 {
     writeFile("config/automatrix.json", templates({"one", "two", "three"}));
-    writeFile("autoMatrix/a.json", templates({"three"})); // left out: the shipped one has its index
+    writeFile("autoMatrix/a.json", templates({"three"})); // skipped: a shipped one has its index
     writeFile("autoMatrix/mine.json", templates({"mine"}));
     writeFile("autoMatrix/two.json", templates({"a", "b"}));
     TemplatesPage page;
@@ -180,7 +180,7 @@ TEST(TemplateFiles, TheHintTellsWhatSaveAndDeleteDo)
 
 TEST(Settings, WhatTheFileDoesNotHoldIsNotCalledSaved)
 {
-    QDir().mkpath("config/server.json"); // in the place of the file
+    QDir().mkpath("config/server.json"); // instead of the file
     SettingsPage page;
     auto const enter = [&page](char const * title, int value) {
         auto * box = page.findChild<QSpinBox *>(title);
@@ -191,12 +191,12 @@ TEST(Settings, WhatTheFileDoesNotHoldIsNotCalledSaved)
     EXPECT_EQ(enter("Timeout", 7), "not saved");
     QDir().rmdir("config/server.json");
     EXPECT_EQ(enter("Server port", 8), "saved at once");
-    EXPECT_EQ(page.findChild<QLabel *>("Timeout state")->text(), "saved at once"); // every save writes all
+    EXPECT_EQ(page.findChild<QLabel *>("Timeout state")->text(), "saved at once"); // each save writes all
     QFile::remove("config/server.json");
     QDir().mkpath("config/server.json");
     EXPECT_EQ(enter("Server port", 9), "not saved");
     QDir().rmdir("config/server.json");
-    EXPECT_EQ(enter("Server port", 9), "saved at once"); // entered once more
+    EXPECT_EQ(enter("Server port", 9), "saved at once"); // entered again
 }
 
 TEST(DamagedLayers, AreToldAndNotCountedAsEmpty)
@@ -216,7 +216,7 @@ TEST(DamagedLayers, AreToldAndNotCountedAsEmpty)
     ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
     LayerTable table;
     table.show(session, 0);
-    EXPECT_EQ(table.item(0, 5)->text(), "?"); // as when reading was stopped
+    EXPECT_EQ(table.item(0, 5)->text(), "?"); // as if reading had been stopped
     ASSERT_TRUE(readLayers(session));
     table.show(session, 0);
     struct
@@ -239,7 +239,7 @@ TEST(TheJob, IsTheVariablesWhenTheArgumentsNameNone)
     {
         char const * variable;
         QStringList arguments;
-        char const * job; ///< null: refused
+        char const * job; ///< null: rejected
     } const rows[] = {
         {"", {"--headless"}, nullptr},
         {"sample", {"--headless"}, "sample"},

@@ -33,7 +33,7 @@ TEST(PadSymbols, AreConvertedFromWhatWasTyped)
         int unit;
         char const * mil;
         char const * micrometre;
-        char const * sizes; ///< as they can be set, "-" where the family has none
+        char const * sizes; ///< as they can be set, "-" if the family has none
     } const rows[] = {
         {"r10", 0, "r10", "r254", "10 -"},
         {"rect500x500", 1, "rect19.685x19.685", "rect500x500", "500 500"},
@@ -45,7 +45,7 @@ TEST(PadSymbols, AreConvertedFromWhatWasTyped)
         {"hole10xpx1x2", 0, "hole10xpx1x2", "hole254xpx25.4x50.8", "10 -"},
         {"ths100x50x45x4x10", 0, "ths100x50x45x4x10", "ths2540x1270x45x4x254", "100 50"},
         {"moire5x5x3x4x120x45", 0, "moire5x5x3x4x120x45", "moire127x127x3x101.6x3048x45", "5 5"},
-        {"donut_rc30x20x5", 0, "donut_rc30x20x5", "donut_rc30x20x5", "- -"}, // which the library leaves alone
+        {"donut_rc30x20x5", 0, "donut_rc30x20x5", "donut_rc30x20x5", "- -"}, // not rewritten
         {"r10x20", 0, "r10x20", "r10x20", "- -"},
         {"rect10x20_135", 0, "rect10x20_135", "rect10x20_135", "- -"},
         {"logo_mark", 1, "logo_mark", "logo_mark", "- -"},
@@ -137,11 +137,11 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
     auto const shapes = featureShapes(KVCAM::Embedded::features("tiny", "pcb", "top"),
                                       KVCAM::Embedded::featureDrawings("tiny", "pcb", "top"));
     QRectF const boxes[] = {
-        {-1000, -500, 2000, 1000},                            // as it stands
+        {-1000, -500, 2000, 1000},                            // unrotated
         {-500, -1000, 1000, 2000},                            // a quarter turn
         {-500, -1000, 1000, 2000},                            // by angle
         {0, 0, 1000, 1000},                                   // counter-clockwise from 3 to 12 o'clock
-        {-1000, -1000, 2000, 2000},                           // clockwise the long way round
+        {-1000, -1000, 2000, 2000},                           // clockwise, the long way
         {-1000, -1000, 2000, 2000},                           // a full circle
         {0, 0, 9000, 9000},         {-500, -500, 1000, 1000}, // a thermal by its outer size
         {-1000, -1000, 2000, 2000},                           // a moire by its lines
@@ -182,7 +182,7 @@ TEST(ConfigurationPages, ATemplateIsSavedAsAFileOfItsOwnAndDeleted)
     buttonOf(page, "Save as new").click();
     EXPECT_EQ(getAutoMatrixTmpMap().at(2).prefix_drill, "dr");
     EXPECT_EQ(getAutoMatrixTmpMap().at(2).name, "a: b 2");
-    EXPECT_TRUE(QFile::exists("autoMatrix/a_ b 2.json")); // a file name holds no colon
+    EXPECT_TRUE(QFile::exists("autoMatrix/a_ b 2.json")); // no colon in a file name
     buttonOf(page, "Use as current").click();
     EXPECT_EQ(getCurrentAutoMatrixTmp().name, "a: b 2");
     buttonOf(page, "Delete").click();

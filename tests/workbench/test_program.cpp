@@ -26,7 +26,7 @@ struct Result
     QJsonObject facts; ///< of a headless run
 };
 
-// What the platform leaks is no fault of the program, should it be built with a LeakSanitizer.
+// With a LeakSanitizer in the program, ignores the platform's leaks.
 QProcessEnvironment environment()
 {
     QFile suppressions("leaks.txt");
@@ -61,7 +61,7 @@ Result runSample(QStringList const & options = {})
     return result;
 }
 
-// Every picture that the facts name is there and no other one is; `folders` have the name of one.
+// Exactly the pictures named in the facts exist; `folders` of them are folders.
 void expectPictures(QJsonArray const & pictures, int folders)
 {
     QDir const out("out");
@@ -93,7 +93,7 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         {{sampleJob, "--headless", "--step", "attic"}, "no step \"attic\""},
         {{sampleJob, "--headless", "--report", "report.txt"}, "report.txt"},
         {{sampleJob, "--headless", "--output", "file"}, "cannot write to \""},
-#ifdef Q_OS_LINUX // a directory that takes no files from anybody
+#ifdef Q_OS_LINUX // a directory in which nobody can create files
         {{sampleJob, "--headless", "--output", "/proc"}, "cannot write to \""},
 #endif
     };
@@ -121,7 +121,7 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     EXPECT_TRUE(errors[1].toObject()["text"].toString().contains("features:1: "));
     QJsonArray const counts = result.facts["layers"].toArray()[0].toObject()["features"].toArray();
     EXPECT_EQ(counts, QJsonArray{QJsonValue()});
-    expectPictures(result.facts["screenshots"].toArray(), 1); // a folder is in the place of one
+    expectPictures(result.facts["screenshots"].toArray(), 1); // a folder has the name of one
     EXPECT_TRUE(errors[2].toObject()["text"].toString().startsWith("the checks failed: "));
     EXPECT_EQ(result.err.count("uiapi-workbench: the checks failed: "), 1);
     EXPECT_FALSE(QFile::exists("sum.json"));
@@ -157,14 +157,14 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(undo["deleted"].toObject(), (QJsonObject{{"drawn", 148}, {"counted", 148}, {"operations", 1}}));
     EXPECT_EQ(undo["undone"], undo["before"]);
     EXPECT_EQ(facts["references"].toObject()["left"].toInt(-1), 0);
-    QJsonObject const eda = facts["EDA link"].toObject(); // deaf where another process has the port
+    QJsonObject const eda = facts["EDA link"].toObject(); // cannot receive if another process has the port
     EXPECT_EQ(eda["sent"].toInt(-1), eda["bound"].toBool() ? 1 : 0);
     EXPECT_GE(eda["received"].toInt(-1), eda["sent"].toInt());
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
 }
 
 // Compared with the sizes of the symbols in the sample job's files: tracks of 150, 200 and 250 micrometres,
-// pads of surface-mounted parts 300 and 800 apart, rings of 150 about the vias.
+// SMD pads 300 and 800 apart, rings of 150 around the vias.
 TEST(Workbench, TheSummaryOfTheSampleJobHasTheFiguresOfItsFiles)
 {
     QJsonObject const analysis =

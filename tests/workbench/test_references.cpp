@@ -9,7 +9,7 @@ using namespace Workbench;
 
 namespace {
 
-// "a/s: b/t[x, y], c/t[z]" for each step with references that the book knows.
+// "a/s: b/t[x, y], c/t[z]" for each step with references in the book.
 QStringList dump(ReferenceBook const & book)
 {
     QStringList lines;

@@ -97,7 +97,7 @@ protected:
         }
         return cells.join('|');
     }
-    /// The check of the tracks as the tree shows it.
+    /// The track check as shown in the tree.
     QStringList tracks() const
     {
         QModelIndex const lines = model()->find(signalTable, linesNumber);
@@ -145,7 +145,7 @@ TEST_F(Results, AreFiledAndSummarised)
     EXPECT_EQ(rows["minDrillRing"], byLayer({{"bot", "-1"}, {"top", "-1"}}));
     EXPECT_TRUE(readFile("report.json").contains("\"um\": 100, "));
     EXPECT_TRUE(readFile("report.csv").contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"top\""));
-    EXPECT_GE(page().findChild<QTableWidget *>()->rowCount(), 11); // what needs a net list
+    EXPECT_GE(page().findChild<QTableWidget *>()->rowCount(), 11); // checks that need a net list
 }
 
 TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
@@ -172,7 +172,7 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(0), "top: 100 my (red)");
     EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(1), "bot: no tracks");
 
-    // A level typed in micrometres is the round number of mil that it stands for.
+    // A level typed in micrometres becomes the round number of mil that it means.
     field("YellowLv").setText("76.2");
     QTest::keyClick(&field("YellowLv"), Qt::Key_Return);
     EXPECT_EQ(tracks()[2], "1|–|100||5.000, 0.000");

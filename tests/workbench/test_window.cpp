@@ -63,7 +63,7 @@ TEST_F(MainWindows, AWindowComesBackAsItWasClosed)
     EXPECT_EQ(pages(*window).currentWidget()->objectName(), "templates");
     EXPECT_EQ(getUnit(view()), 1);
     EXPECT_EQ(find<QComboBox>().currentData().toInt(), LANGUAGE_CHINESE);
-    auto const other = makeWindow(); // started with a unit of its own
+    auto const other = makeWindow(); // starts with its own unit
     other->useStateFile("./state.ini", true);
     EXPECT_EQ(getUnit(other->board().currentView()->handle()), 0);
 }
@@ -139,7 +139,7 @@ TEST_F(MainWindows, ShortcutsAreFunctionKeysAndMnemonicsAreUnique)
     for (LANGUAGE_MODE const language : {LANGUAGE_ENGLISH, LANGUAGE_CHINESE}) {
         window->setLanguage(language);
         QApplication::processEvents();
-        QStringList letters; // of the menus and the pages, which Alt reaches at any time
+        QStringList letters; // of menus and pages: Alt always reaches them
         for (int i = 0; i < pages(*window).count(); ++i) {
             letters.append(QKeySequence::mnemonic(pages(*window).tabText(i)).toString());
         }
@@ -153,7 +153,7 @@ TEST_F(MainWindows, ShortcutsAreFunctionKeysAndMnemonicsAreUnique)
     window->setLanguage(LANGUAGE_ENGLISH);
 }
 
-// What the window shows: the texts of its labels, buttons, groups, pages, menus and headers.
+// The texts that the window shows: those of its labels, buttons, groups, pages, menus and headers.
 QStringList shownTexts(QWidget & window)
 {
     QStringList texts{window.windowTitle()};
@@ -188,7 +188,7 @@ TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
     QStringList const chinese = shownTexts(*window) + shownTexts(dialog);
     ASSERT_EQ(chinese.size(), english.size());
     static QRegularExpression const han("[\\x{4e00}-\\x{9fff}]");
-    // What stays is no text of the program: names, paths, roles, units, what stands on the library's fields.
+    // The rest is not the program's text: names, paths, roles, units, the texts of the library's fields.
     static QRegularExpression const sentence("^[&A-Z][a-z&]+( [a-z&]+)*$");
     for (int i = 0; i < english.size(); ++i) {
         if (sentence.match(english[i]).hasMatch()) {
@@ -208,7 +208,7 @@ TEST_F(MainWindows, ANegativePadStaysNegativeInTheOtherLanguage)
     board().closeFeature(); // saves the text of the polarity in English
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
-    FeatureDialog const & again = *board().openFeature(0); // in place of the one before, which is saved
+    FeatureDialog const & again = *board().openFeature(0); // replaces the previous one, which is saved
     EXPECT_EQ(again.findChild<QComboBox *>("polarity")->currentIndex(), 1);
     window->setLanguage(LANGUAGE_ENGLISH);
     QApplication::processEvents();
@@ -232,13 +232,13 @@ TEST_F(MainWindows, TickedLayersAreDrawnInEveryStep)
     QTest::keyClick(&layers, Qt::Key_Space);
     EXPECT_EQ(layers.tickedLayers(), std::vector<std::size_t>{6});
     layers.setRowHidden(0, true);
-    layers.tickAll(true); // those that are listed
+    layers.tickAll(true); // the listed ones
     EXPECT_EQ(layers.tickedLayers().size(), session.layers().size() - 1);
     layers.tickAll(false);
     EXPECT_TRUE(layers.tickedLayers().empty());
 }
 
-// Shows progress at once, and calls a function when its window handles events.
+// Shows progress immediately and calls a function when its window handles events.
 class AtProgress : public QObject
 {
 public:

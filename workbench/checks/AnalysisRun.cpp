@@ -1,5 +1,6 @@
 #include "checks/AnalysisRun.h"
 
+#include "checks/Levels.h"
 #include "job/ReportFormat.h"
 #include "ui/Units.h"
 
@@ -43,8 +44,9 @@ bool isSame(double a, double b)
 
 bool isSame(Analysis_Ranges_Record const & a, Analysis_Ranges_Record const & b)
 {
-    return a.name == b.name && isSame(a.redLv, b.redLv) && isSame(a.yellowLv, b.yellowLv) &&
-           isSame(a.greenLv, b.greenLv);
+    return a.name == b.name && std::all_of(allLevels.begin(), allLevels.end(), [&](Level const & level) {
+               return isSame(a.*level.value, b.*level.value);
+           });
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "checks/LevelsEditor.h"
 
+#include "checks/Levels.h"
 #include "checks/MeasureTexts.h"
 #include "ui/LanguageChange.h"
 
@@ -14,23 +15,6 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-struct Level
-{
-    char const * name;
-    char const * title; ///< with the mnemonic of its field
-    Ext::Severity severity;
-    double Analysis_Ranges_Record::*value;
-};
-
-constexpr std::array<Level, 3> levels = {{
-    {"RedLv", QT_TRANSLATE_NOOP("Workbench::LevelsEditor", "Re&d"), Ext::Severity::Red,
-     &Analysis_Ranges_Record::redLv},
-    {"YellowLv", QT_TRANSLATE_NOOP("Workbench::LevelsEditor", "Yell&ow"), Ext::Severity::Yellow,
-     &Analysis_Ranges_Record::yellowLv},
-    {"GreenLv", QT_TRANSLATE_NOOP("Workbench::LevelsEditor", "&Green"), Ext::Severity::Green,
-     &Analysis_Ranges_Record::greenLv},
-}};
-
 // Drops the noise digits of a conversion: 76.2 micrometres are 3 mil.
 double withoutNoise(double mil)
 {
@@ -43,16 +27,16 @@ LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent), 
 {
     auto * layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    for (std::size_t i = 0; i < levels.size(); ++i) {
+    for (std::size_t i = 0; i < allLevels.size(); ++i) {
         Field & field = m_fields[i];
         field.title = new QLabel(this);
         QPalette colours = field.title->palette();
-        colours.setColor(QPalette::WindowText, colourOf(levels[i].severity));
+        colours.setColor(QPalette::WindowText, colourOf(allLevels[i].severity));
         field.title->setPalette(colours);
         // The view is the parent on construction, which decides the unit. The layout sets another parent
         // later.
         field.edit = new KVLineEdit(RegNumber, &view);
-        field.edit->setObjectName(levels[i].name);
+        field.edit->setObjectName(allLevels[i].name);
         field.edit->setFollowView(true);
         field.title->setBuddy(field.edit);
         int const column = static_cast<int>(i);
@@ -66,17 +50,17 @@ LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent), 
 
 void LevelsEditor::setTexts()
 {
-    for (std::size_t i = 0; i < levels.size(); ++i) {
-        m_fields[i].title->setText(signOf(levels[i].severity) + "  " + tr(levels[i].title));
+    for (std::size_t i = 0; i < allLevels.size(); ++i) {
+        m_fields[i].title->setText(signOf(allLevels[i].severity) + "  " + tr(allLevels[i].title));
     }
 }
 
 void LevelsEditor::show(std::optional<Analysis_Ranges_Record> const & record)
 {
-    for (std::size_t i = 0; i < levels.size(); ++i) {
+    for (std::size_t i = 0; i < allLevels.size(); ++i) {
         Field & field = m_fields[i];
         field.edit->setEnabled(record.has_value());
-        field.shown = record ? (*record).*levels[i].value : 0;
+        field.shown = record ? (*record).*allLevels[i].value : 0;
         if (record) {
             showLevel(field);
         } else {
@@ -103,7 +87,7 @@ void LevelsEditor::takeLevel(std::size_t number)
         return;
     }
     field.shown = typed;
-    emit levelEdited(levels[number].name, typed);
+    emit levelEdited(allLevels[number].name, typed);
 }
 
 bool isGrading(Analysis_Ranges_Record const & record)

@@ -194,10 +194,10 @@ QModelIndex ResultsModel::index(int row, int column, QModelIndex const & parent)
     }
     auto const place = static_cast<std::size_t>(parent.row());
     if (isCategory(parent)) {
-        return createIndex(row, column, static_cast<quintptr>(place + 1));
+        return createIndex(row, column, quintptr{place + 1});
     }
     std::size_t const shown = m_firsts.at(parent.internalId() - 1) + place;
-    return createIndex(row, column, static_cast<quintptr>(m_firsts.size() + shown));
+    return createIndex(row, column, quintptr{m_firsts.size() + shown});
 }
 
 QModelIndex ResultsModel::parent(QModelIndex const & child) const
@@ -210,8 +210,7 @@ QModelIndex ResultsModel::parent(QModelIndex const & child) const
     }
     std::size_t const owner = child.internalId() - m_firsts.size();
     std::size_t const category = m_groups.at(owner).category;
-    return createIndex(static_cast<int>(owner - m_firsts.at(category)), 0,
-                       static_cast<quintptr>(category + 1));
+    return createIndex(static_cast<int>(owner - m_firsts.at(category)), 0, quintptr{category + 1});
 }
 
 int ResultsModel::rowCount(QModelIndex const & parent) const

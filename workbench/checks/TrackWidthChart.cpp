@@ -1,5 +1,6 @@
 #include "checks/TrackWidthChart.h"
 
+#include "checks/Levels.h"
 #include "checks/MeasureTexts.h"
 #include "ui/Units.h"
 
@@ -122,15 +123,14 @@ QRectF TrackWidthChart::plot() const
             static_cast<double>(m_widths.size()) * rowHeight()};
 }
 
-std::vector<TrackWidthChart::Level> TrackWidthChart::levels() const
+std::vector<TrackWidthChart::Line> TrackWidthChart::lines() const
 {
-    std::vector<Level> shown;
+    std::vector<Line> shown;
     if (m_levels) {
-        for (Level const & level :
-             {Level{Ext::Severity::Red, m_levels->redLv}, Level{Ext::Severity::Yellow, m_levels->yellowLv},
-              Level{Ext::Severity::Green, m_levels->greenLv}}) {
-            if (std::isfinite(level.mil) && level.mil >= 0) {
-                shown.push_back(level);
+        for (Level const & level : allLevels) {
+            double const mil = (*m_levels).*level.value;
+            if (std::isfinite(mil) && mil >= 0) {
+                shown.push_back({level.severity, mil});
             }
         }
     }
@@ -145,7 +145,7 @@ double TrackWidthChart::longest() const
         bars = std::max(bars, width.micrometres.value_or(0) / micrometresPerMil);
     }
     double end = bars;
-    for (Level const & level : levels()) {
+    for (Line const & level : lines()) {
         if (bars == 0 || level.mil <= 4 * bars) {
             end = std::max(end, level.mil);
         }
@@ -194,7 +194,7 @@ void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
 void TrackWidthChart::paintLevels(QPainter & painter, QRectF const & plot) const
 {
     double free = 0; // where the next letter fits
-    for (Level const & level : levels()) {
+    for (Line const & level : lines()) {
         double const x = place(plot, level.mil);
         if (x > plot.right()) {
             continue;

@@ -31,13 +31,13 @@ protected:
     void paintEvent(QPaintEvent * event) override;
 
 private:
-    struct Level
+    struct Line // of a level
     {
         KVCAM::UIAPI::Ext::Severity severity;
         double mil;
     };
 
-    std::vector<Level> levels() const;
+    std::vector<Line> lines() const;
     QRectF plot() const;
     int rowHeight() const;
     double longest() const;

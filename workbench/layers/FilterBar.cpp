@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 
 namespace Workbench {
@@ -23,7 +24,7 @@ struct FilterBar::Field
 {
     char const * key;
     char const * title;
-    std::vector<char const *> words;
+    std::initializer_list<char const *> words;
 };
 
 FilterBar::Field const FilterBar::fields[] = {
@@ -254,8 +255,8 @@ QString FilterBar::explanation() const
     if (m_analysis->isChecked()) {
         return analysisText();
     }
-    if (!m_report.error.empty()) {
-        return QString::fromStdString(m_report.error);
+    if (!m_report.result) {
+        return m_report.result.reason;
     }
     if (request().isEmpty()) {
         return tr("All layers are shown.");

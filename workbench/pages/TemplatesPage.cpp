@@ -218,7 +218,7 @@ void TemplatesPage::save()
         return;
     }
     AutoMatrixTmp const tmpl = edited();
-    QString const old = *own; // may differ from the template's name
+    QString const & old = *own; // may differ from the template's name
     bool const isRenamed = getAutoMatrixTmpMap()[index].name != tmpl.name;
     QString const file = isRenamed && !isSameFile(fileName(tmpl), old) ? fileName(tmpl) : old;
     if (file != old && refuseUsedFile(file)) {

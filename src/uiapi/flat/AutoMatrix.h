@@ -10,16 +10,17 @@
 /// The auto-matrix templates: how the roles of layers are recognised from their names.
 namespace KVCAM::UIAPI {
 
-/// All templates by index. Shipped ones start at 0, the user's at 2; a user template whose index is taken is
-/// skipped.
+/// A copy of all templates, by index. Shipped ones count from 0, the user's from 2; a user template whose
+/// index is taken is skipped.
 UIAPICOMMON_EXPORT std::map<int, AutoMatrixTmp> getAutoMatrixTmpMap();
 /// The selected template; at start a copy of the one with the smallest index, empty if there is none.
 UIAPICOMMON_EXPORT AutoMatrixTmp getCurrentAutoMatrixTmp();
-/// In memory only.
+/// Replaces the selected template, in memory only.
 UIAPICOMMON_EXPORT void setCurrentAutoMatrixTmp(AutoMatrixTmp const & tmpl);
 /// Stores the template under the index, replacing one that is there, and writes it to the file "autoMatrix/"
-/// + name + ".json" below the current directory. If the file cannot be opened or the name would leave the
-/// folder, an information box "File open failed" is shown. The selected template does not change.
+/// + name + ".json" below the current directory, creating the folder. If the file cannot be written, for any
+/// reason, or the name would leave the folder, an information box "File open failed" is shown;
+/// Ext::diagnostics() says why. The selected template does not change.
 UIAPICOMMON_EXPORT void saveCurrentAutoMatrixTmp(int index, QString name, AutoMatrixTmp const & tmpl);
 /// Removes the template of this index and the user's file of this name; silent if there is none. The selected
 /// template does not change.

@@ -12,16 +12,18 @@
 namespace KVCAM::UIAPI {
 
 ///@{
-/// A setting of "server.json"; empty, 0 or false if missing. Its consumers define its unit or code.
+/// A setting of "server.json"; empty, 0 or false if missing. Its consumers define its unit or code;
+/// deletGeneJob() takes the timeout as milliseconds.
 UIAPICOMMON_EXPORT std::string getServerIP();
 UIAPICOMMON_EXPORT int getServerPort();
 UIAPICOMMON_EXPORT std::string getClientIP();
 UIAPICOMMON_EXPORT int getTimeout();
 UIAPICOMMON_EXPORT int getThreadCount();
 ///@}
-/// Saves the settings and then pushes the count to the engine. A file that cannot be written stays unchanged,
-/// unless the disk is full and the directory does not accept a new file. A missing configuration directory is
-/// logged at WARNING and created, and nothing is written.
+/// Saves the settings and then pushes the count to the engine, even if nothing could be written. A file that
+/// cannot be written stays unchanged, unless the disk is full and the directory does not accept a new file;
+/// Ext::lastSettingsSave() reports it. A missing configuration directory is logged at WARNING and created,
+/// and nothing is written.
 UIAPICOMMON_EXPORT void setThreadCount(int count);
 ///@{
 /// More settings of "server.json", as above.

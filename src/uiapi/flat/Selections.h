@@ -21,8 +21,8 @@ UIAPICOMMON_EXPORT bool getSelectionTouching(void const * view);
 /// The setting of "server.json"; false if missing. Not per view.
 UIAPICOMMON_EXPORT bool getSelectionOutsideHint();
 /// Saves the settings. A file that cannot be written stays unchanged, unless the disk is full and the
-/// directory does not accept a new file. A missing configuration directory is logged at WARNING and created,
-/// and nothing is written.
+/// directory does not accept a new file; Ext::lastSettingsSave() reports it. A missing configuration
+/// directory is logged at WARNING and created, and nothing is written.
 UIAPICOMMON_EXPORT void setSelectionOutsideHint(bool value);
 
 ///@{

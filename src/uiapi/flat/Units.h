@@ -6,14 +6,14 @@
 
 #include <string>
 
-/// Values and their texts in the unit of a view. An unknown view logs "KVCAM UIAPI getShowPara error" and is
-/// treated as an inch view. Results are defined even for infinities, NaN and values beyond the range of int.
+/// Values and their texts in the unit of a view. The large unit is inch or millimetre, the small unit mil or
+/// micrometre. An unknown view logs "KVCAM UIAPI getShowPara error" and is treated as an inch view. Results
+/// are defined even for infinities, NaN and values beyond the range of int.
 namespace KVCAM::UIAPI {
 
-/// Converts from the other unit to the view's: inch at 5 decimals (25.4 gives 1), else millimetre at 3.
+/// Converts from the other large unit to the view's: inch at 5 decimals (25.4 gives 1), else millimetre at 3.
 UIAPICOMMON_EXPORT double getUnitData(void const * view, double value);
-/// Converts a displayed value to the engine's nanometres (kind 0) or micrometres (kind 1); 0.0 for another
-/// kind.
+/// The view's large unit to the engine's nanometres (kind 0) or micrometres (kind 1); 0.0 for another kind.
 UIAPICOMMON_EXPORT double getUnitAPIData(void const * view, int kind, double value);
 /// In a metric view (unit 1), micrometres to mil for kinds 0 and 1, 0.0 for another kind. In other views, the
 /// value itself.
@@ -26,10 +26,10 @@ UIAPICOMMON_EXPORT int getUnitJudgeData(void const * view, double value);
 UIAPICOMMON_EXPORT int getUnitJudgeData2(void const * view, double value);
 /// Mil to the view's small unit, unrounded.
 UIAPICOMMON_EXPORT double getUnitJudgeDouble(void const * view, double value);
-/// Mil as text in the small unit: six significant digits for inch, else `precision` decimals (at most 1074;
-/// -128, QLocale::FloatingPointShortest, gives as many as the value needs, any other negative value 6).
+/// Mil as text in the view's small unit: six significant digits for inch, else `precision` decimals (at most
+/// 1074; -128, QLocale::FloatingPointShortest, gives as many as the value needs, any other negative value 6).
 UIAPICOMMON_EXPORT QString getUnitJudgeString(void const * view, double value, int precision);
-/// Micrometres as text in the large unit, 3 decimals.
+/// Micrometres as text in the view's large unit, 3 decimals.
 UIAPICOMMON_EXPORT QString getUnitJudgeStringMetric(void const * view, double value);
 /// "Inch" or "MM"; empty for another unit code.
 UIAPICOMMON_EXPORT std::string getUnitString(void const * view);

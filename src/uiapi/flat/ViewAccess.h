@@ -23,22 +23,23 @@ UIAPICOMMON_EXPORT void setSelectInfo(void const * view, KVCAM::API::select_info
 ///@}
 /// {127, 7, 5} for an unknown view.
 UIAPICOMMON_EXPORT Snap_Control getSnapControl(void const * view);
-/// Keeps the snap size.
+/// Stores all but the snap size, which it keeps.
 UIAPICOMMON_EXPORT void setSnapControl(void const * view, Snap_Control const & value);
 /// 5 for an unknown view, after "KVCAM UIAPI getSnapControl error, use default snap size!".
 UIAPICOMMON_EXPORT int getSnapSize(void const * view);
 /// Nothing is pushed to the engine.
 UIAPICOMMON_EXPORT void setSnapSize(void const * view, int size);
-/// Owned by the registry; null for an unknown view.
+/// Owned by the library and valid until the singleton is assigned to; null for an unknown view.
 UIAPICOMMON_EXPORT coordinate * getCoordinate(void const * view);
-/// Owned by the registry; null for an unknown view.
+/// Owned by the library and valid until the singleton is assigned to; null for an unknown view.
 UIAPICOMMON_EXPORT Edit_Buffer * getEditBuffer(void const * view);
 /// Replaces the feature lists of the edit buffer.
 UIAPICOMMON_EXPORT void setEditBufferFeatureInfo(void const * view,
                                                  std::map<std::string, FeatureList> const & features);
-/// Owned by the library.
+/// The layers that the host marks; owned by the library and never null.
 UIAPICOMMON_EXPORT LayerState * getLayerState();
-/// 0.0 if the number of points does not match the kind.
+/// The measured quantity in micrometres; 0.0 for a kind that measures nothing and if the number of points
+/// does not match the kind.
 UIAPICOMMON_EXPORT double getMeasureValue(check_info const & info);
 
 /// Pushes show_param, Selection and select_info of a view; an unknown view is logged and shown in a box.

@@ -1,5 +1,5 @@
-// What a plug-in does first: register its view, switch its unit, show a value. Exits with 0 when the engine
-// behind the library was told.
+// What a plug-in does first: register its view, switch its unit, show a value. Exits with 0 if the engine
+// behind the library was called.
 
 #include <KVCAM_API/EmbeddedEngine.h>
 #include <UIAPICommon.h>
@@ -26,7 +26,7 @@ int main(int argc, char ** argv)
         }
     };
 
-    int const view = 0; // any address names a view
+    int const view = 0; // any address identifies a view
     UIAPI::Step_Config config;
     config.view = &view;
     check(UIAPI::insertStepConfig(config), "a view is registered");

@@ -1,4 +1,4 @@
-// The signatures that consumers were compiled against. One that changes no longer converts here; one that is
+// The signatures that consumers were compiled against. A changed one no longer converts here; one that is
 // not exported no longer links.
 
 #include <UIAPICommon.h>
@@ -12,7 +12,7 @@ void const * keep(Signature * function)
     return reinterpret_cast<void const *>(function);
 }
 
-// Data, so that the linker has to find every one of them.
+// Data, so that the linker must find all of them.
 void const * const functions[] = {
     keep<void(void const *, Step_Config &)>(&getStepConfig),
     keep<bool(Step_Config const &)>(&insertStepConfig),
