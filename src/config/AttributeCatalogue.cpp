@@ -2,10 +2,15 @@
 
 #include "config/ConfigFiles.h"
 #include "support/HostPaths.h"
+#include "support/PlainJson.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace KVCAM::UIAPI {
@@ -76,6 +81,53 @@ void readAttribute(QJsonObject const & object, JsonPlace const & place, FileDiag
     }
 }
 
+// False for anything that would be a finding too: an unknown or repeated key, a name that is missing or
+// taken.
+bool readPlainAttribute(PlainJson & json, AttributeMap & out)
+{
+    std::string_view name;
+    int hasParam = 0;
+    int unit = 0;
+    std::vector<std::string> offered;
+    unsigned seen = 0;
+    bool const isPlain = json.object([&](std::string_view key) {
+        unsigned const before = seen;
+        if (key == nameKey) {
+            seen |= 1U;
+            return seen != before && json.text(name);
+        }
+        if (key == hasParamKey) {
+            seen |= 2U;
+            return seen != before && json.number(hasParam);
+        }
+        if (key == unitKey) {
+            seen |= 4U;
+            return seen != before && json.number(unit);
+        }
+        seen |= 8U;
+        return key == offeredKey && seen != before && json.array([&] {
+            std::string_view text;
+            return json.text(text) && (offered.emplace_back(text), true);
+        });
+    });
+    std::size_t const count = out.size();
+    out.emplace_hint(out.end(), name, std::make_tuple(hasParam, unit, std::move(offered)));
+    return isPlain && (seen & 1U) != 0 && out.size() > count;
+}
+
+// The catalogue, if there is nothing to report about the file.
+std::optional<AttributeMap> readPlain(QByteArray const & bytes)
+{
+    PlainJson json(bytes);
+    AttributeMap out;
+    int lists = 0;
+    bool const isPlain = json.object([&](std::string_view key) {
+        ++lists;
+        return key == arrayKey && json.array([&] { return readPlainAttribute(json, out); });
+    });
+    return isPlain && lists == 1 && json.isAtEnd() ? std::optional(std::move(out)) : std::nullopt;
+}
+
 } // namespace
 
 void AttributeCatalogue::getParentAttribute(std::vector<std::string> & out) const
@@ -93,8 +145,14 @@ void AttributeCatalogue::getTotalAttributesFromJson()
 
 void AttributeCatalogue::readTotalAttributesFromJson(QString const & path)
 {
+    WholeFile::Content const content = WholeFile::read(path);
+    if (std::optional<AttributeMap> plain = m_attributes.empty() ? readPlain(content.bytes) : std::nullopt) {
+        m_attributes = std::move(*plain);
+        return;
+    }
     FileDiagnostics const diagnostics(path);
-    QJsonArray const array = ConfigFiles::loadArray(path, texts, arrayKey, diagnostics);
+    QJsonArray const array =
+        ConfigFiles::arrayOf(WholeFile::parse(content), path, texts, arrayKey, diagnostics);
     for (int i = 0; i < array.size(); ++i) {
         QJsonValue const element = array.at(i);
         JsonPlace const place{arrayKey, i};

@@ -2,6 +2,7 @@
 
 #include "analysis/AnalysisReport.h"
 #include "analysis/CategoryDictionary.h"
+#include "analysis/RangeFile.h"
 #include "analysis/RangeStore.h"
 #include "support/HostPaths.h"
 #include "uiapi/UIAPICommonPara.h"
@@ -137,6 +138,33 @@ TEST_F(RangesTest, LevelsAreReadFromTextsAlone)
         EXPECT_EQ(shown(fresh, "one"), row.expected) << row.content;
     }
     EXPECT_EQ(log.take(), Lines{});
+}
+
+// Damaged in every place and way, a plain file is either left to the document or means the same.
+TEST_F(RangesTest, ThePlainWayReadsNothingThatTheDocumentReadsOtherwise)
+{
+    QByteArray const whole = R"( {"rangesList":[{"name":"a","RedLv":"-1.5","x":""}, {},{"GreenLv":"2"}]}
+)";
+    ASSERT_TRUE(RangeFile::readPlainRecords(whole));
+    int plain = 0;
+    for (int at = 0; at < whole.size(); ++at) {
+        for (char const with : QByteArray("\0 \"\\,:[]{}e.0\t\x80\x7f\r", 17)) {
+            for (int cut : {0, 1}) {
+                QByteArray const bytes = QByteArray(whole).replace(at, cut, QByteArray(1, with));
+                if (auto const records = RangeFile::readPlainRecords(bytes)) {
+                    ++plain;
+                    auto const expected = RangeFile::readRecords(QJsonDocument::fromJson(bytes));
+                    ASSERT_TRUE(expected && records->size() == expected->size()) << bytes.toStdString();
+                    for (std::size_t i = 0; i < records->size(); ++i) {
+                        EXPECT_EQ((*records)[i].name, (*expected)[i].name);
+                        EXPECT_EQ((*records)[i].redLv, (*expected)[i].redLv) << bytes.toStdString();
+                        EXPECT_EQ((*records)[i].greenLv, (*expected)[i].greenLv);
+                    }
+                }
+            }
+        }
+    }
+    EXPECT_GT(plain, 100);
 }
 
 TEST_F(RangesTest, FilesThatCannotBeReadAreLogged)

@@ -3,6 +3,7 @@
 #include "config/AttributeCatalogue.h"
 #include "config/BuiltInAttributes.h"
 #include "config/CamMateNodes.h"
+#include "config/Diagnostics.h"
 #include "uiapi/flat/Attributes.h"
 
 #include <set>
@@ -15,7 +16,10 @@ namespace {
 using Texts = std::vector<std::string>;
 
 class AttributesTest : public ConfigTest
-{};
+{
+protected:
+    std::size_t m_found = 0; // findings before the file in hand
+};
 
 TEST_F(AttributesTest, ElementsAreAssignedByNameAndTheLastWins)
 {
@@ -49,6 +53,35 @@ TEST_F(AttributesTest, ElementsAreAssignedByNameAndTheLastWins)
         EXPECT_TRUE(catalogue.getTotalAttributes().empty()) << content;
     }
     EXPECT_EQ(log.take(), Lines{});
+}
+
+// Damaged in every place and way: a first file may be read the plain way, a second one goes through a
+// document.
+TEST_F(AttributesTest, ThePlainWayReadsNothingThatTheDocumentReadsOtherwise)
+{
+    QByteArray const whole =
+        R"({"TotalAttributes":[{"Attribute":".a","hasParam":-10,"ProAttribute":["x"]},{"Attribute":".b"}]})";
+    writeFile("other.json", R"({"TotalAttributes":[{"Attribute":"other"}]})");
+    for (int at = 0; at < whole.size(); ++at) {
+        for (char const with : QByteArray("\0 \"\\,:[]{}e.0\t\x80" "ab", 17)) {
+            for (int cut : {0, 1}) {
+                writeFile("attributes.json", QByteArray(whole).replace(at, cut, QByteArray(1, with)));
+                AttributeCatalogue first;
+                first.readTotalAttributesFromJson("attributes.json");
+                std::pair const seen(log.take(), Ext::diagnostics().size());
+                AttributeCatalogue second;
+                second.readTotalAttributesFromJson("other.json");
+                std::size_t const before = Ext::diagnostics().size();
+                second.readTotalAttributesFromJson("attributes.json");
+                AttributeMap expected = second.getTotalAttributes();
+                expected.erase("other");
+                EXPECT_EQ(first.getTotalAttributes(), expected) << at << with;
+                EXPECT_EQ(log.take(), seen.first);
+                EXPECT_EQ(Ext::diagnostics().size() - before, seen.second - m_found);
+                m_found = Ext::diagnostics().size();
+            }
+        }
+    }
 }
 
 TEST_F(AttributesTest, FailuresToLoadAreLoggedWithTheFilesPath)
