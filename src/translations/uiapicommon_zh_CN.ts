@@ -111,6 +111,25 @@
     </message>
 </context>
 <context>
+    <name>Units</name>
+    <message>
+        <source>inch</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>mil</source>
+        <translation>密耳</translation>
+    </message>
+    <message>
+        <source>millimetre</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>micrometre</source>
+        <translation>微米</translation>
+    </message>
+</context>
+<context>
     <name>Symbols</name>
     <message>
         <source>diameter %1</source>
