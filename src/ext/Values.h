@@ -6,6 +6,7 @@
 //                      isUnitCode(), nanometresPer(), unitSuffix(), unitName()
 //   unitOf()           the unit of a view
 //   Length             a length in whole nanometres: from and to every unit, arithmetic, text, literals
+//   evaluate()         the value of a typed text: units, parentheses, ordinary precedence, where a fault is
 //   checkValue()       isValueLegal() as verdict and text
 //   checkNumber()      isNumValueLegal() as verdict and text
 //   checkSymbol()      isSymbolValueLegal() as verdict and text
@@ -18,6 +19,7 @@
 
 #include "../support/SymbolFamilies.h"
 #include "../uiapi/ViewUnit.h"
+#include "../units/Evaluate.h"
 #include "../units/Length.h"
 #include "../units/SymbolDescription.h"
 #include "../units/Unit.h"
