@@ -43,7 +43,7 @@ bool readPlainRecord(PlainJson & json, Analysis_Ranges_Record & record)
         auto const level = std::find_if(levels.begin(), levels.end(),
                                         [key](Level const & entry) { return key == entry.key; });
         if (level != levels.end()) {
-            record.*level->value = decimalValue(latin(text));
+            record.*level->value = latinDecimalValue(latin(text));
         } else if (key == nameKey) {
             record.name = text;
         } else {

@@ -58,7 +58,7 @@ double decimalValue(QStringView text)
     return valueOf(text);
 }
 
-double decimalValue(QLatin1String text)
+double latinDecimalValue(QLatin1String text)
 {
     return valueOf(text);
 }

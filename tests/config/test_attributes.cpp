@@ -16,10 +16,7 @@ namespace {
 using Texts = std::vector<std::string>;
 
 class AttributesTest : public ConfigTest
-{
-protected:
-    std::size_t m_found = 0; // findings before the file in hand
-};
+{};
 
 TEST_F(AttributesTest, ElementsAreAssignedByNameAndTheLastWins)
 {
@@ -63,23 +60,20 @@ TEST_F(AttributesTest, ThePlainWayReadsNothingThatTheDocumentReadsOtherwise)
         R"({"TotalAttributes":[{"Attribute":".a","hasParam":-10,"ProAttribute":["x"]},{"Attribute":".b"}]})";
     writeFile("other.json", R"({"TotalAttributes":[{"Attribute":"other"}]})");
     for (int at = 0; at < whole.size(); ++at) {
-        for (char const with : QByteArray("\0 \"\\,:[]{}e.0\t\x80" "ab", 17)) {
-            for (int cut : {0, 1}) {
-                writeFile("attributes.json", QByteArray(whole).replace(at, cut, QByteArray(1, with)));
-                AttributeCatalogue first;
-                first.readTotalAttributesFromJson("attributes.json");
-                std::pair const seen(log.take(), Ext::diagnostics().size());
-                AttributeCatalogue second;
-                second.readTotalAttributesFromJson("other.json");
-                std::size_t const before = Ext::diagnostics().size();
-                second.readTotalAttributesFromJson("attributes.json");
-                AttributeMap expected = second.getTotalAttributes();
-                expected.erase("other");
-                EXPECT_EQ(first.getTotalAttributes(), expected) << at << with;
-                EXPECT_EQ(log.take(), seen.first);
-                EXPECT_EQ(Ext::diagnostics().size() - before, seen.second - m_found);
-                m_found = Ext::diagnostics().size();
-            }
+        for (char const with : QByteArray(" \",}.0\x80")) {
+            writeFile("attributes.json", QByteArray(whole).replace(at, 1, QByteArray(1, with)));
+            std::size_t const before = Ext::diagnostics().size();
+            AttributeCatalogue first;
+            first.readTotalAttributesFromJson("attributes.json");
+            std::pair const seen(log.take(), Ext::diagnostics().size());
+            AttributeCatalogue second;
+            second.readTotalAttributesFromJson("other.json");
+            second.readTotalAttributesFromJson("attributes.json");
+            AttributeMap expected = second.getTotalAttributes();
+            expected.erase("other");
+            EXPECT_EQ(first.getTotalAttributes(), expected) << at << with;
+            EXPECT_EQ(log.take(), seen.first);
+            EXPECT_EQ(Ext::diagnostics().size() - seen.second, seen.second - before);
         }
     }
 }

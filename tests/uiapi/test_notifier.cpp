@@ -64,6 +64,43 @@ TEST_F(NotifierTest, ASlotThatThrowsChangesNoResult)
     EXPECT_EQ(lines[1], paraError("异常描述：slot"));
 }
 
+// Watches hear of their own view, before the listeners of all, whatever a slot of another one does.
+TEST_F(NotifierTest, AWatchHearsOfItsViewAlone)
+{
+    QObject context;
+    std::string heard;
+    auto const watch = [&](void const * of, char name, auto slot) {
+        auto * const made = new Ext::ViewWatch(of, &context);
+        QObject::connect(made, &Ext::ViewWatch::changed, &context, [&heard, name, slot](auto aspects) {
+            heard += name + std::to_string(int(aspects)) + ' ';
+            slot();
+        });
+        return made;
+    };
+    auto const nothing = [] {};
+    auto * const doomed = watch(view, 'd', nothing);
+    watch(viewHandle(1), 'o', nothing);
+    watch(nullptr, 'n', nothing);
+    auto * const first = watch(view, 'a', [] { throw std::runtime_error("slot"); });
+    Ext::ViewWatch * late = watch(view, 'l', nothing);
+    delete doomed;
+    QObject::connect(first, &Ext::ViewWatch::changed, &context,
+                     [&late] { delete std::exchange(late, nullptr); });
+    watch(view, 'z', [&] { watch(view, 'w', nothing); }); // too late for this change
+    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
+                     [&] { heard += "all "; });
+    EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, nullptr);
+    registerView();
+    EXPECT_EQ(heard, "a7 l7 z7 all ");
+    EXPECT_EQ(log.take().size(), 2U);
+    heard.clear();
+    delete late;
+    first->disconnect();
+    setSelectionClear(view, true);
+    EXPECT_EQ(heard, "z4 w4 all ");
+    EXPECT_EQ(first->view(), view);
+}
+
 TEST_F(NotifierTest, CanBeSpiedOnAndQueued)
 {
     QObject context;
