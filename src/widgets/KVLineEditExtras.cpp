@@ -1,7 +1,6 @@
-// The additions of KVLineEdit: exact values, ranges, following a view, explaining rejected keys.
+// The additions of KVLineEdit: exact values, ranges, its view, its kind, explaining rejected keys.
 
 #include "support/Narrowing.h"
-#include "uiapi/Notifier.h"
 #include "uiapi/flat/Arithmetic.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "units/Expression.h"
@@ -14,9 +13,11 @@
 #include <QPointer>
 #include <QStyle>
 #include <QToolTip>
+#include <QValidator>
 
 #include <cmath>
 #include <limits>
+#include <memory>
 
 namespace KVCAM::UIAPI {
 namespace {
@@ -165,7 +166,7 @@ void KVLineEdit::judge()
 
 bool KVLineEdit::followView() const
 {
-    return bool(d->following);
+    return d->following != nullptr;
 }
 
 void KVLineEdit::setFollowView(bool follow)
@@ -174,18 +175,122 @@ void KVLineEdit::setFollowView(bool follow)
         return;
     }
     if (!follow) {
-        disconnect(d->following);
+        d->following.reset();
         return;
     }
-    d->following = connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
-                           [this](void const * view, Ext::ViewAspects aspects) {
-                               if (view == d->owner && aspects.testFlag(Ext::ViewAspect::Unit)) {
-                                   changeunit(getUnit(d->owner));
-                               }
-                           });
+    watchView();
     // The view may have changed since the text was typed. Text without a unit needs no view look-up.
     if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
         changeunit(getUnit(d->owner));
+    }
+}
+
+void KVLineEdit::watchView()
+{
+    d->following = std::make_unique<Ext::ViewWatch>(d->owner);
+    connect(d->following.get(), &Ext::ViewWatch::changed, this, [this](Ext::ViewAspects aspects) {
+        if (aspects.testFlag(Ext::ViewAspect::Unit)) {
+            changeunit(getUnit(d->owner));
+        }
+    });
+}
+
+void const * KVLineEdit::view() const
+{
+    return d->owner;
+}
+
+void KVLineEdit::setView(void const * view)
+{
+    if (view == d->owner) {
+        return;
+    }
+    d->owner = view;
+    auto const unit = d->viewUnit();
+    if (followView()) {
+        watchView();
+        if (unit) {
+            changeunit(*unit); // judges too
+            return;
+        }
+    }
+    if (unit) {
+        judge(); // an expression is read in the view's unit
+    }
+}
+
+void KVLineEdit::setTyped(QString const & text, Ext::Unit unit)
+{
+    if (d->tracking() == UnitTracking::None) {
+        setText(text);
+        return;
+    }
+    int const typed = Ext::unitCode(unit);
+    int const shown = d->shownUnit ? *d->shownUnit : d->viewUnit().value_or(typed);
+    // An empty text would become 0 in the other unit.
+    record(text.left(maxLength()), text.isEmpty() ? shown : typed);
+    changeunit(shown);
+}
+
+QString KVLineEdit::typed() const
+{
+    return d->tracking() == UnitTracking::None ? text() : typedText();
+}
+
+Ext::Unit KVLineEdit::typedUnit() const
+{
+    return Ext::unitOfCode(d->typedUnit);
+}
+
+KVLineEdit::Kind KVLineEdit::kind() const
+{
+    return static_cast<Kind>(d->kind);
+}
+
+void KVLineEdit::setKind(Kind kind)
+{
+    bool const isUnrestricted = !d->recording; // as is a field without a kind, but none of kind 0
+    if (kind == this->kind() && isUnrestricted == (kind == AnyText)) {
+        return;
+    }
+    disconnect(d->recording);
+    for (QString * text : {&d->metricNumber, &d->inchNumber, &d->metricSymbol, &d->inchSymbol}) {
+        text->clear();
+    }
+    d->shownUnit.reset();
+    d->typedUnit = Units::inch;
+    QValidator const * const former = validator();
+    if (kind == AnyText) {
+        d->kind = KVERegExp(0);
+        setValidator(nullptr);
+    } else {
+        restrictTo(KVERegExp(kind));
+    }
+    if (former != nullptr && former->parent() == this) {
+        delete former;
+    }
+    if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
+        record(text(), d->viewUnit().value_or(Units::inch));
+    }
+    judge();
+}
+
+KVLineEdit::SymbolConversion KVLineEdit::symbolConversion() const
+{
+    return d->symbolConversion;
+}
+
+void KVLineEdit::setSymbolConversion(SymbolConversion conversion)
+{
+    if (conversion == d->symbolConversion) {
+        return;
+    }
+    d->symbolConversion = conversion;
+    bool const typedInInch = d->typedUnit == Units::inch;
+    (typedInInch ? d->metricSymbol : d->inchSymbol).clear(); // converted by the former rule, if at all
+    bool const showsOther = d->shownUnit && (*d->shownUnit == Units::inch) != typedInInch;
+    if (showsOther && d->tracking() == UnitTracking::Symbol) {
+        changeunit(*d->shownUnit);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QSet>
 #include <QSignalSpy>
+#include <QValidator>
 
 #include <cmath>
 #include <functional>
@@ -64,6 +65,128 @@ TEST_F(LineEditExtras, AFieldFollowsItsViewAndNoOther)
     EXPECT_EQ(edit.text(), "25.4");
     edit.setFollowView(true); // begins with the unit that the view has now
     EXPECT_EQ(edit.text(), "1");
+}
+
+TEST_F(LineEditExtras, AFieldCanBeGivenItsViewLater)
+{
+    QWidget form;
+    QWidget unknown;
+    QWidget metric;
+    registerView(&metric, 1);
+    KVLineEdit follower(RegNumber, &form);
+    KVLineEdit sum(RegExpression, &form);
+    follower.setFollowView(true);
+    for (KVLineEdit * edit : {&follower, &sum}) {
+        EXPECT_EQ(edit->view(), &form);
+        edit->setView(&view);
+        type(*edit, "10");
+        edit->setRange(1, 20);
+        edit->setView(&metric);
+    }
+    EXPECT_EQ(follower.text(), "254");
+    EXPECT_EQ(follower.property("uiapiValid"), true);
+    EXPECT_EQ(sum.property("uiapiValid"), false); // 10 micrometres
+    setUnit(&view, 1);
+    setUnit(&view, 0); // neither is this field's any more
+    setUnit(&metric, 0);
+    EXPECT_EQ(follower.text(), "10");
+    sum.setView(&unknown);
+    follower.setView(nullptr);
+    setUnit(&metric, 1);
+    EXPECT_EQ(follower.text(), "10");
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(LineEditExtras, AFieldIsFilledInAUnitWithoutTouchingItsView)
+{
+    struct Row
+    {
+        int kind, viewUnit;
+        Ext::Unit unit;
+        char const *text, *shown, *other; // in the view's unit and in the other one
+    };
+    auto const inch = Ext::Unit::Inch;
+    auto const metric = Ext::Unit::Millimetre;
+    for (Row const & row :
+         {Row{RegNumber, 1, inch, "10", "254", "10"}, Row{RegNumber, 0, inch, "10", "10", "254"},
+          Row{RegPositive, 0, metric, "254.1234", "10.0049", "254.1234"},
+          Row{RegSymbolName, 0, metric, "r254", "r10", "r254"},
+          Row{RegExpression, 1, inch, "1+1", "1+1", "1+1"}}) {
+        setUnit(&view, row.viewUnit);
+        engine.take();
+        KVLineEdit & edit = field(row.kind);
+        QSignalSpy const spy(&edit, &QLineEdit::textChanged);
+        edit.setTyped(row.text, row.unit);
+        EXPECT_EQ(edit.text(), row.shown);
+        EXPECT_EQ(spy.count(), 1);
+        edit.changeunit(1 - row.viewUnit);
+        EXPECT_EQ(edit.text(), row.other);
+        EXPECT_EQ(edit.typed(), row.text);
+        EXPECT_EQ(edit.typedUnit(), row.kind == RegExpression ? inch : row.unit);
+        edit.setTyped("", inch);
+        EXPECT_EQ(edit.text() + edit.typed(), "");
+        EXPECT_TRUE(engine.take().empty());
+        EXPECT_EQ(getUnit(&view), row.viewUnit);
+    }
+    QWidget unknown;
+    KVLineEdit stranger(RegNumber, &unknown);
+    stranger.setTyped("10", metric);
+    EXPECT_EQ(stranger.text(), "10");
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+// As Qt Designer sets it: by name, after the text and without a registered parent.
+TEST_F(LineEditExtras, TheKindCanBeSetLater)
+{
+    QWidget unknown;
+    KVLineEdit edit("254", &unknown);
+    EXPECT_TRUE(edit.setProperty("kind", "Positive"));
+    edit.setView(&view);
+    show(edit, 1);
+    EXPECT_EQ(edit.text(), "6451.6"); // what was there counts as inch
+    retype(edit, "-2x");
+    EXPECT_EQ(edit.text(), "2");
+    edit.setKind(RegPositive); // the kind that it has
+    EXPECT_EQ(edit.exactValue(1), 2);
+    edit.setKind(RegName);
+    type(edit, "X a");
+    show(edit, 0);
+    EXPECT_EQ(edit.text(), "2a");
+    edit.setKind(KVLineEdit::AnyText);
+    type(edit, "?");
+    EXPECT_EQ(edit.text(), "2a?");
+    EXPECT_EQ(edit.findChild<QValidator *>(), nullptr);
+    edit.setKind(KVERegExp(12));
+    type(edit, "3");
+    EXPECT_EQ(edit.text(), "2a?");
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(LineEditExtras, SymbolsCanBeConvertedToTheUnitShown)
+{
+    struct Row
+    {
+        int unit;
+        char const *typed, *described, *target;
+    };
+    for (Row const & row : {Row{0, "rect20x10", "rect0.787402x0.393701", "rect508x254"},
+                            Row{1, "rect508x254", "rect20x10", "rect20x10"},
+                            Row{0, "donut_r10x5", "donut_r0.393701x0.19685", "donut_r254x127"},
+                            Row{0, "mine10", "mine10", "mine10"}}) {
+        setUnit(&view, row.unit);
+        KVLineEdit & edit = field(RegSymbolName);
+        type(edit, row.typed);
+        show(edit, 1 - row.unit);
+        EXPECT_EQ(edit.text(), row.described);
+        edit.setSymbolConversion(KVLineEdit::TargetUnit);
+        EXPECT_EQ(edit.text(), row.target);
+        show(edit, row.unit);
+        EXPECT_EQ(edit.text(), row.typed);
+        edit.setProperty("symbolConversion", "AsDescribed");
+        EXPECT_EQ(edit.text(), row.typed);
+        show(edit, 1 - row.unit);
+        EXPECT_EQ(edit.text(), row.described);
+    }
 }
 
 TEST_F(LineEditExtras, AnUnregisteredParentIsAnInchViewAndFollowedOnceItIsRegistered)
