@@ -43,6 +43,14 @@
         <source>The file &quot;%1&quot; cannot be written.</source>
         <translation>无法写入文件“%1”。</translation>
     </message>
+    <message>
+        <source>A view needs a handle that is not null.</source>
+        <translation>视图的句柄不能为空。</translation>
+    </message>
+    <message>
+        <source>The view cannot be stored.</source>
+        <translation>无法保存该视图。</translation>
+    </message>
 </context>
 <context>
     <name>KVFileDialog</name>
@@ -417,6 +425,29 @@
     <message>
         <source>oval thermal</source>
         <translation>长圆形热焊盘</translation>
+    </message>
+</context>
+<context>
+    <name>KVCAM::UIAPI::Ext::FormState</name>
+    <message>
+        <source>This is not a saved form.</source>
+        <translation>这不是已保存的表单。</translation>
+    </message>
+    <message>
+        <source>The form was saved in another version than %1.</source>
+        <translation>该表单的保存版本不是 %1。</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; is of a wrong type.</source>
+        <translation>“%1”的值类型不正确。</translation>
+    </message>
+    <message>
+        <source>The form cannot be saved in &quot;%1&quot;: %2</source>
+        <translation>无法将表单保存到“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The form cannot be read from &quot;%1&quot;: %2</source>
+        <translation>无法从“%1”读取表单：%2</translation>
     </message>
 </context>
 </TS>
