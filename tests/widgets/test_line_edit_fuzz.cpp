@@ -39,7 +39,7 @@ TEST_F(Fuzz, FieldsOfEveryKindStayConsistent)
         KVLineEdit edit(KVERegExp(number(0, 12)), &view);
         if (number(0, 1) == 1) {
             edit.setFollowView(true);
-            edit.setRange(number(-10, 10), number(0, 1000));
+            edit.setRange(Ext::Length::fromMil(number(-10, 10)), Ext::Length::fromMil(number(0, 1000)));
         }
         for (int step = number(1, 12); step > 0; --step) {
             int const unit = number(0, 1);
@@ -59,13 +59,12 @@ TEST_F(Fuzz, FieldsOfEveryKindStayConsistent)
         int const unit = getUnit(&view);
         edit.changeunit(unit);
         QString const shown = edit.text();
-        double const exact = edit.exactValue(unit);
+        double const exact = edit.exactValue(Ext::unitOfCode(unit));
         edit.changeunit(1 - unit);
         edit.changeunit(unit);
         EXPECT_EQ(edit.text(), shown);
-        double const again = edit.exactValue(unit);
+        double const again = edit.exactValue(Ext::unitOfCode(unit));
         EXPECT_TRUE(again == exact || (std::isnan(again) && std::isnan(exact)));
-        edit.exactLengthNm();
         engine.take();
     }
     EXPECT_EQ(log.take(), Lines{});
