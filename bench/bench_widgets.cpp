@@ -86,7 +86,7 @@ BENCHMARK(symbolField);
 void numberFieldWithEveryAddition(benchmark::State & state)
 {
     KVLineEdit edit(RegNumber, registeredView());
-    edit.setRange(0, 1000);
+    edit.setRange(KVCAM::UIAPI::Ext::Length(), KVCAM::UIAPI::Ext::Length::fromMil(1000));
     edit.setFollowView(true);
     edit.setRefusalHints(true);
     typeAndErase(state, edit, "12.3");

@@ -114,6 +114,10 @@
         <translation>此处最多 %1 个字符。</translation>
     </message>
     <message>
+        <source>This calculation cannot be read.</source>
+        <translation>无法识别此算式。</translation>
+    </message>
+    <message>
         <source>This cannot be typed here.</source>
         <translation>此处不能输入该字符。</translation>
     </message>
@@ -191,6 +195,25 @@
     <message>
         <source>This value is too large.</source>
         <translation>数值过大。</translation>
+    </message>
+</context>
+<context>
+    <name>Legality</name>
+    <message>
+        <source>Allowed: %1 or more.</source>
+        <translation>允许范围：不小于 %1。</translation>
+    </message>
+    <message>
+        <source>Allowed: %1 or less.</source>
+        <translation>允许范围：不大于 %1。</translation>
+    </message>
+    <message>
+        <source>Allowed: %1 to %2, both included.</source>
+        <translation>允许范围：%1 至 %2（含两端）。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is out of range. %2</source>
+        <translation>“%1”超出范围。%2</translation>
     </message>
 </context>
 <context>

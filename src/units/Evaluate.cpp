@@ -102,10 +102,12 @@ void compareWithClassic(Evaluation & evaluation, ExactNumber value, QStringView 
     if (!isOrderedDifferently(text)) {
         return;
     }
-    auto const classic = Expression::evaluateSinglePop<ExactNumber>(text, ExactNumber::fromDecimal);
-    if (!areSame(classic, value)) {
+    // Equal doubles need no closer look; others may differ by rounding only.
+    double const classic = Expression::evaluate(text);
+    if (classic != value.toDouble() &&
+        !areSame(Expression::evaluateSinglePop<ExactNumber>(text, ExactNumber::fromDecimal), value)) {
         evaluation.differs = true;
-        evaluation.classicValue = Expression::evaluate(text);
+        evaluation.classicValue = classic;
     }
 }
 

@@ -12,6 +12,8 @@ namespace {
 
 using Dimension = EvaluateDimension;
 
+constexpr int shortNumber = 18; // characters, whose digits always fit 64 bits
+
 // Up to four lower-case letters as one number.
 constexpr std::uint32_t packed(std::string_view letters)
 {
@@ -186,20 +188,29 @@ bool EvaluateParser::number(EvaluateTerm & term)
 {
     int const begin = m_at;
     int signs = 0;
+    std::int64_t digits = 0;
+    int decimals = 0;
     for (;; ++m_at) {
         QChar const c = next();
-        if (isDecimalSign(c)) {
+        if (isAsciiDigit(c)) {
+            if (m_at - begin < shortNumber) {
+                digits = digits * 10 + (c.unicode() - '0');
+            }
+            decimals += signs;
+        } else if (isDecimalSign(c)) {
             if (++signs > 1) {
                 return fail(EvaluateFault::SecondDecimalSign, m_at, m_at + 1);
             }
-        } else if (!isAsciiDigit(c)) {
+        } else {
             break;
         }
     }
-    if (m_at - begin == signs) {
+    int const size = m_at - begin;
+    if (size == signs) {
         return fail(EvaluateFault::NumberMissing, begin, m_at);
     }
-    term.value = ExactNumber::fromDecimal(m_text.mid(begin, m_at - begin));
+    term.value = size <= shortNumber ? ExactNumber::fromDigits(digits, decimals)
+                                     : ExactNumber::fromDecimal(m_text.mid(begin, size));
     if (!term.value.isFinite()) {
         return fail(EvaluateFault::TooLarge, begin, m_at);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../units/Length.h"
 #include "../units/Unit.h"
 #include "UIAPICommonExport.h"
 
@@ -79,11 +80,11 @@ public:
     };
     Q_ENUM(SymbolConversion)
 
-    /// Which unit of the pair the number in the field uses.
+    /// Which unit of the pair the number in the field uses: Ext::LengthScale, as Qt Designer can offer it.
     enum LengthScale : int
     {
-        Small, ///< mil or micrometre
-        Large  ///< inch or millimetre
+        Small = int(Ext::LengthScale::Small), ///< mil or micrometre
+        Large = int(Ext::LengthScale::Large)  ///< inch or millimetre
     };
     Q_ENUM(LengthScale)
 
@@ -138,28 +139,27 @@ public:
     void setSymbolConversion(SymbolConversion conversion);
     ///@}
 
-    /// The last typed number in `unit` (0 inch, any other metric), converted from the unit it was typed in by
-    /// exactly 25.4 and not rounded: 254.1234 typed in a metric view is still 254.1234 after any number of
-    /// switches. An expression (RegExpression), whose text does not change on a switch, is evaluated and read
-    /// in the view's current unit. Text that is not a number counts as 0; a field of another kind gives NaN.
-    double exactValue(int unit) const;
-    /// The same number as a length, to the nearest nanometre, according to lengthScale(). Saturates at the
-    /// limits of qint64; exact below 9e15. 0 for a field without a number.
-    qint64 exactLengthNm() const;
+    /// The last typed number in `unit`, converted from the unit it was typed in by exactly 25.4 and not
+    /// rounded: 254.1234 typed in a metric view is still 254.1234 after any number of switches. An expression
+    /// (RegExpression), whose text does not change on a switch, is evaluated and read in the view's current
+    /// unit. Text that is not a number counts as 0; a field of another kind gives NaN.
+    double exactValue(Ext::Unit unit) const;
+    /// The same number as a length, according to lengthScale(). 0 for a field without a number.
+    Ext::Length exactLength() const;
     ///@{
     /// Default Small.
     LengthScale lengthScale() const;
     void setLengthScale(LengthScale scale);
     ///@}
 
-    /// From now on input is checked on every edit, like isValueLegal() but without a box: bounds in mil, only
-    /// the numbers count, and text that is not a number is 0. With lengthScale() Large, values are inches and
-    /// millimetres. A symbol name (kinds 7 to 9) is checked as in isSymbolValueLegal(). An expression is
-    /// evaluated (an empty one is 0); with two non-digits in a row it is illegal. Any other kind is always
-    /// legal. A number or name keeps its verdict on a unit switch; an expression, whose text does not change,
-    /// is checked again. The verdict is reported by validityChanged() and the dynamic property "uiapiValid"
+    /// From now on input is checked on every edit by Ext::checkValue(), without a box: only the numbers
+    /// count, and text that is not a number is 0. With lengthScale() Large, values are inches and
+    /// millimetres. A symbol name (kinds 7 to 9) is checked by Ext::checkSymbol(). An expression is evaluated
+    /// (an empty one is 0); with two non-digits in a row it is illegal. Any other kind is always legal. A
+    /// number or name keeps its verdict on a unit switch; an expression, whose text does not change, is
+    /// checked again. The verdict is reported by validityChanged() and the dynamic property "uiapiValid"
     /// (bool), which style sheets can select: [uiapiValid="false"].
-    void setRange(double minimum, double maximum);
+    void setRange(Ext::Length minimum, Ext::Length maximum);
     /// Ends the checks and removes the property.
     void clearRange();
 
@@ -177,8 +177,8 @@ public:
     ///@}
 
 signals:
-    /// The verdict of a field with a range changed, or the text of an illegal one. `text` says why the value
-    /// is illegal, with the bounds in the displayed unit; empty if legal.
+    /// The verdict of a field with a range changed, or the text of an illegal one. `text` is the translated
+    /// sentence of the verdict, with the bounds in the displayed unit; empty if legal.
     void validityChanged(bool legal, QString text);
     /// A key was rejected while refusal hints are on. `text` says in plain words what can be typed.
     void inputRefused(QString text);
@@ -195,7 +195,6 @@ private:
     void record(QString const & text, int unit);
     QString typedText() const;
     std::optional<Quantity> quantity() const;
-    QString rangeWords(int unit) const;
     Ext::ValueVerdict verdict() const;
     void judge();
     void explainRefusal();

@@ -19,7 +19,7 @@ namespace KVCAM::UIAPI {
 struct KVLineEdit::Quantity
 {
     double value;
-    int unit;
+    Ext::Unit unit;
 };
 
 struct KVLineEdit::Private
@@ -36,8 +36,8 @@ struct KVLineEdit::Private
     // Additions
     struct Range
     {
-        double minimum;
-        double maximum;
+        Ext::Length minimum;
+        Ext::Length maximum;
     };
     int typedUnit = Units::inch;  // of the last typed text
     std::optional<int> shownUnit; // unknown until a text is recorded or a unit is requested

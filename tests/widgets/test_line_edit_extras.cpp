@@ -15,6 +15,7 @@
 
 using namespace KVCAM::Testing;
 using namespace KVCAM::UIAPI;
+using namespace KVCAM::UIAPI::Ext::LengthLiterals;
 
 namespace {
 
@@ -30,7 +31,7 @@ TEST_F(LineEditExtras, AdditionsAreOffByDefaultAndChangeNoText)
         QSignalSpy const validity(&plain, &KVLineEdit::validityChanged);
         QSignalSpy const refused(&plain, &KVLineEdit::inputRefused);
         KVLineEdit & extended = field(kind);
-        extended.setRange(1, 2);
+        extended.setRange(1_mil, 2_mil);
         extended.setFollowView(true);
         extended.setRefusalHints(true);
         extended.setLengthScale(KVLineEdit::Large);
@@ -80,7 +81,7 @@ TEST_F(LineEditExtras, AFieldCanBeGivenItsViewLater)
         EXPECT_EQ(edit->view(), &form);
         edit->setView(&view);
         type(*edit, "10");
-        edit->setRange(1, 20);
+        edit->setRange(1_mil, 20_mil);
         edit->setView(&metric);
     }
     EXPECT_EQ(follower.text(), "254");
@@ -147,7 +148,7 @@ TEST_F(LineEditExtras, TheKindCanBeSetLater)
     retype(edit, "-2x");
     EXPECT_EQ(edit.text(), "2");
     edit.setKind(RegPositive); // the kind that it has
-    EXPECT_EQ(edit.exactValue(1), 2);
+    EXPECT_EQ(edit.exactValue(Ext::Unit::Millimetre), 2);
     edit.setKind(RegName);
     type(edit, "X a");
     show(edit, 0);
@@ -226,30 +227,30 @@ TEST_F(LineEditExtras, ExactValueIsWhatWasTypedInItsOwnUnit)
         type(edit, row.typed);
         for (int i = 0; i < 101; ++i) {
             show(edit, i % 2 == 0 ? 1 - row.unit : row.unit);
-            ASSERT_EQ(edit.exactValue(0), row.inch);
-            ASSERT_EQ(edit.exactValue(1), row.metric);
+            ASSERT_EQ(edit.exactValue(Ext::Unit::Inch), row.inch);
+            ASSERT_EQ(edit.exactValue(Ext::Unit::Millimetre), row.metric);
         }
-        EXPECT_EQ(edit.exactLengthNm(), row.small);
+        EXPECT_EQ(edit.exactLength().nanometres(), row.small);
         edit.setLengthScale(KVLineEdit::Large);
-        EXPECT_EQ(edit.exactLengthNm(), row.large);
+        EXPECT_EQ(edit.exactLength().nanometres(), row.large);
     }
-    EXPECT_TRUE(std::isnan(field(RegSymbolName).exactValue(0)));
+    EXPECT_TRUE(std::isnan(field(RegSymbolName).exactValue(Ext::Unit::Inch)));
 }
 
 TEST_F(LineEditExtras, ExpressionIsReadInTheUnitShown)
 {
     KVLineEdit & edit = field(RegExpression);
     type(edit, "10+2.5");
-    EXPECT_EQ(edit.exactValue(1), 317.5);
-    EXPECT_EQ(edit.exactLengthNm(), 317500);
+    EXPECT_EQ(edit.exactValue(Ext::Unit::Millimetre), 317.5);
+    EXPECT_EQ(edit.exactLength().nanometres(), 317500);
     show(edit, 1);
-    EXPECT_EQ(edit.exactValue(1), 12.5);
-    EXPECT_EQ(edit.exactLengthNm(), 12500);
+    EXPECT_EQ(edit.exactValue(Ext::Unit::Millimetre), 12.5);
+    EXPECT_EQ(edit.exactLength().nanometres(), 12500);
 }
 
 std::string outside(char const * bounds)
 {
-    return std::string("Illegal float value\nfloating value for field is out of range: (") + bounds + ")";
+    return std::string("Allowed: ") + bounds + ", both included.";
 }
 
 TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
@@ -262,35 +263,36 @@ TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
         char const * typed;
         std::string words; // empty for a legal text
     };
-    std::string const inch = outside("1, 10");
-    std::string const metric = outside("25.40, 254.00");
+    std::string const inch = outside("1 mil to 10 mil");
+    std::string const metric = outside("25.4 my to 254 my");
     auto const small = KVLineEdit::Small;
     auto const large = KVLineEdit::Large;
     for (Row const & row : {
              Row{RegNumber, small, 0, "10", ""},
-             Row{RegNumber, small, 0, "10.00001", inch},
+             Row{RegNumber, small, 0, "10.0001", inch},
              Row{RegPositive, small, 1, "254.1", metric},
              Row{RegNumber, small, 1, "", metric},
              Row{RegNumber, large, 0, "0.01", ""},
-             Row{RegNumber, large, 1, "0.2541", outside("0.02540, 0.25400")},
+             Row{RegNumber, large, 1, "0.2541", outside("0.0254 mm to 0.254 mm")},
              Row{RegExpression, small, 0, "2*4+", ""}, // one trailing operator is dropped
              Row{RegExpression, small, 0, "10+2.5", inch},
-             Row{RegExpression, small, 0, "2*-3", "CaculateData ERROR"},
+             Row{RegExpression, small, 0, "2*-3", "This calculation cannot be read."},
              Row{RegSymbolName, small, 0, "rect5x10", ""},
-             Row{RegSymbolName, large, 1, "r300", metric}, // sizes in a name are always small units
+             Row{RegSymbolName, large, 1, "r300",
+                 "\"300\" is out of range. " + metric}, // sizes in a name are always small units
              Row{RegName, small, 0, "100", ""},
          }) {
         SCOPED_TRACE(row.typed);
         setUnit(&view, row.unit);
         KVLineEdit & edit = field(row.kind);
         edit.setLengthScale(row.scale);
-        edit.setRange(1, 10);
+        edit.setRange(1_mil, 10_mil);
         retype(edit, row.typed);
         EXPECT_EQ(edit.property("uiapiValid"), QVariant(row.words.empty()));
         edit.clearRange();
         EXPECT_FALSE(edit.property("uiapiValid").isValid());
         QSignalSpy const spy(&edit, &KVLineEdit::validityChanged);
-        edit.setRange(1, 10);
+        edit.setRange(1_mil, 10_mil);
         ASSERT_EQ(spy.count(), row.words.empty() ? 0 : 1);
         EXPECT_EQ(spy.value(0).value(1).toString().toStdString(), row.words);
         edit.changeunit(1 - row.unit); // what was typed counts, whatever the text shown
@@ -305,17 +307,17 @@ TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
     view.show();
     edit.setFollowView(true);
     type(edit, "3");
-    edit.setRange(1, 3);
+    edit.setRange(1_mil, 3_mil);
     QSignalSpy spy(&edit, &KVLineEdit::validityChanged);
     setUnit(&view, 1);
-    EXPECT_EQ(edit.text(), "76.2"); // which would be refused if it had been typed
+    EXPECT_EQ(edit.text(), "76.2");
     setUnit(&view, 0);
     EXPECT_EQ(spy.count(), 0);
     type(edit, "0000");
     setUnit(&view, 1); // the words change with the unit
     ASSERT_EQ(spy.count(), 2);
-    EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1, 3"));
-    EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.40, 76.20"));
+    EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1 mil to 3 mil"));
+    EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.4 my to 76.2 my"));
     EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
@@ -343,15 +345,15 @@ TEST_F(LineEditExtras, ASlotMayDeleteTheFieldThatEmits)
         [&] { QObject::connect(edit, &QLineEdit::cursorPositionChanged, erase); },
         [&] { QObject::connect(edit, &KVLineEdit::validityChanged, erase); },
         [&] { edit->installEventFilter(&filter); }};
-    std::function<void()> const acts[] = {[&] { edit->changeunit(1); }, [&] { setUnit(&view, 1); },
-                                          [&] { edit->setRange(20, 30); }, [&] { edit->clearRange(); },
-                                          [&] { edit->setLengthScale(KVLineEdit::Large); }};
+    std::function<void()> const acts[] = {
+        [&] { edit->changeunit(1); }, [&] { setUnit(&view, 1); }, [&] { edit->setRange(20_mil, 30_mil); },
+        [&] { edit->clearRange(); }, [&] { edit->setLengthScale(KVLineEdit::Large); }};
     std::string deleted;
     for (auto const & arrange : ways) {
         for (auto const & act : acts) {
             setUnit(&view, 0);
             edit = new KVLineEdit("1", RegNumber, &view);
-            edit->setRange(2, 3);
+            edit->setRange(2_mil, 3_mil);
             edit->setFollowView(true);
             edit->selectAll();
             arrange();
@@ -369,7 +371,7 @@ TEST_F(LineEditExtras, ADyingFieldHearsNoMore)
 {
     auto * const edit = new KVLineEdit("1", RegNumber, &view);
     edit->setFollowView(true);
-    edit->setRange(2, 3);
+    edit->setRange(2_mil, 3_mil);
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     edit->setFocus();

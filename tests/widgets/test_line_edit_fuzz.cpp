@@ -76,7 +76,7 @@ TEST_F(Fuzz, FieldsOfEveryKindShowWhatTheRulesSay)
         KVLineEdit edit(KVERegExp(model.kind), &view);
         if (number(0, 1) == 1) {
             edit.setFollowView(true);
-            edit.setRange(number(-10, 10), number(0, 1000));
+            edit.setRange(Ext::Length::fromMil(number(-10, 10)), Ext::Length::fromMil(number(0, 1000)));
             edit.setView(&view);
             edit.setKind(edit.kind());
         }
@@ -103,8 +103,9 @@ TEST_F(Fuzz, FieldsOfEveryKindShowWhatTheRulesSay)
                 edit.insert(text());
             }
             ASSERT_EQ(edit.text(), model.shown) << model.kind;
-            EXPECT_TRUE(std::isnan(edit.exactValue(unit)) != model.isNumber() || model.kind == 2);
-            edit.exactLengthNm();
+            EXPECT_TRUE(std::isnan(edit.exactValue(Ext::unitOfCode(unit))) != model.isNumber() ||
+                        model.kind == 2);
+            edit.exactLength();
         }
         engine.take();
     }
