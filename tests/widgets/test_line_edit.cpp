@@ -95,25 +95,6 @@ TEST_F(LineEdit, HundredSwitchesKeepBothTexts)
     }
 }
 
-TEST_F(LineEdit, EditAfterASwitchDiscardsTheOtherUnitsText)
-{
-    KVLineEdit & number = field(RegNumber);
-    KVLineEdit & symbol = field(RegSymbolName);
-    type(number, "1");
-    type(symbol, "r254");
-    show(number, 1);
-    show(symbol, 1);
-    type(number, "1"); // 25.4 becomes 25.41
-    type(symbol, "0"); // r10 becomes r100
-    show(number, 0);
-    show(symbol, 0);
-    EXPECT_EQ(number.text(), "1.00039");
-    EXPECT_EQ(symbol.text(), "r3.93701");
-    retype(number, ""); // counts as 0
-    show(number, 1);
-    EXPECT_EQ(number.text(), "0");
-}
-
 TEST_F(LineEdit, TheUnitIsThatOfTheFirstParentWhereverTheFieldGoes)
 {
     QWidget later;
