@@ -3,7 +3,6 @@
 #include "config/AttributeCatalogue.h"
 #include "config/BuiltInAttributes.h"
 #include "config/CamMateNodes.h"
-#include "config/Diagnostics.h"
 #include "uiapi/flat/Attributes.h"
 
 #include <set>
@@ -33,6 +32,7 @@ TEST_F(AttributesTest, ElementsAreAssignedByNameAndTheLastWins)
              Row{R"({"Attribute":".a","hasParam":1,"ProAttribute":["x"]},{"Attribute":".a","unit":3})",
                  {{".a", {0, 3, {}}}}},
              Row{R"(".a",7,null,[],{"Attribute":".b"})", {{".b", {0, 0, {}}}}},
+             Row{R"({"Attribute":".a","unit":1,"unit":-10})", {{".a", {0, -10, {}}}}},
              Row{R"({})", {{"", {0, 0, {}}}}},
              Row{R"({"Attribute":5,"hasParam":"1","unit":1.5,"ProAttribute":["x",5,null]})",
                  {{"", {0, 0, {"x", "", ""}}}}},
@@ -50,32 +50,6 @@ TEST_F(AttributesTest, ElementsAreAssignedByNameAndTheLastWins)
         EXPECT_TRUE(catalogue.getTotalAttributes().empty()) << content;
     }
     EXPECT_EQ(log.take(), Lines{});
-}
-
-// Damaged in every place and way: a first file may be read the plain way, a second one goes through a
-// document.
-TEST_F(AttributesTest, ThePlainWayReadsNothingThatTheDocumentReadsOtherwise)
-{
-    QByteArray const whole =
-        R"({"TotalAttributes":[{"Attribute":".a","hasParam":-10,"ProAttribute":["x"]},{"Attribute":".b"}]})";
-    writeFile("other.json", R"({"TotalAttributes":[{"Attribute":"other"}]})");
-    for (int at = 0; at < whole.size(); ++at) {
-        for (char const with : QByteArray(" \",}.0\x80")) {
-            writeFile("attributes.json", QByteArray(whole).replace(at, 1, QByteArray(1, with)));
-            std::size_t const before = Ext::diagnostics().size();
-            AttributeCatalogue first;
-            first.readTotalAttributesFromJson("attributes.json");
-            std::pair const seen(log.take(), Ext::diagnostics().size());
-            AttributeCatalogue second;
-            second.readTotalAttributesFromJson("other.json");
-            second.readTotalAttributesFromJson("attributes.json");
-            AttributeMap expected = second.getTotalAttributes();
-            expected.erase("other");
-            EXPECT_EQ(first.getTotalAttributes(), expected) << at << with;
-            EXPECT_EQ(log.take(), seen.first);
-            EXPECT_EQ(Ext::diagnostics().size() - seen.second, seen.second - before);
-        }
-    }
 }
 
 TEST_F(AttributesTest, FailuresToLoadAreLoggedWithTheFilesPath)
