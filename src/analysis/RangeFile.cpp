@@ -10,7 +10,6 @@
 #include <QString>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <string_view>
@@ -32,24 +31,20 @@ bool isSame(double a, double b)
     return a == b || (std::isnan(a) && std::isnan(b));
 }
 
+// Of equal keys the last counts, as in a document.
 bool readPlainRecord(PlainJson & json, Analysis_Ranges_Record & record)
 {
-    std::array<bool, levels.size() + 1> seen{};
     return json.object([&](std::string_view key) {
         std::string_view text;
-        if (!json.text(text)) {
-            return false;
-        }
+        bool const isText = json.text(text);
         auto const level = std::find_if(levels.begin(), levels.end(),
                                         [key](Level const & entry) { return key == entry.key; });
         if (level != levels.end()) {
             record.*level->value = latinDecimalValue(latin(text));
         } else if (key == nameKey) {
             record.name = text;
-        } else {
-            return true; // not read
         }
-        return !std::exchange(seen[static_cast<std::size_t>(level - levels.begin())], true);
+        return isText;
     });
 }
 

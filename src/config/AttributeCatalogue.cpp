@@ -81,38 +81,32 @@ void readAttribute(QJsonObject const & object, JsonPlace const & place, FileDiag
     }
 }
 
-// False for anything that would be a finding too: an unknown or repeated key, a name that is missing or
-// taken.
+// False for anything that would be a finding too: an unknown key, a name that is missing or taken. Of equal
+// keys the last counts, as in a document.
 bool readPlainAttribute(PlainJson & json, AttributeMap & out)
 {
     std::string_view name;
     int hasParam = 0;
     int unit = 0;
     std::vector<std::string> offered;
-    unsigned seen = 0;
+    bool isNamed = false;
     bool const isPlain = json.object([&](std::string_view key) {
-        unsigned const before = seen;
         if (key == nameKey) {
-            seen |= 1U;
-            return seen != before && json.text(name);
+            isNamed = true;
+            return json.text(name);
         }
-        if (key == hasParamKey) {
-            seen |= 2U;
-            return seen != before && json.number(hasParam);
+        if (key == hasParamKey || key == unitKey) {
+            return json.number(key == unitKey ? unit : hasParam);
         }
-        if (key == unitKey) {
-            seen |= 4U;
-            return seen != before && json.number(unit);
-        }
-        seen |= 8U;
-        return key == offeredKey && seen != before && json.array([&] {
+        offered.clear();
+        return key == offeredKey && json.array([&] {
             std::string_view text;
             return json.text(text) && (offered.emplace_back(text), true);
         });
     });
     std::size_t const count = out.size();
     out.emplace_hint(out.end(), name, std::make_tuple(hasParam, unit, std::move(offered)));
-    return isPlain && (seen & 1U) != 0 && out.size() > count;
+    return isPlain && isNamed && out.size() > count;
 }
 
 // The catalogue, if there is nothing to report about the file.
