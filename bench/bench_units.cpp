@@ -1,5 +1,6 @@
 // Symbol names and typed expressions beside the straightforward way to the same result. Both sides run in one
 // process, so the ratio does not depend on the machine.
+#include "ext/Values.h"
 #include "uiapi/flat/Arithmetic.h"
 #include "uiapi/flat/SymbolNames.h"
 
@@ -119,6 +120,63 @@ void expressionLibrary(benchmark::State & state)
     }
 }
 
+void evaluateText(benchmark::State & state, char const * typed,
+                  KVCAM::UIAPI::Ext::EvaluateOptions const & options)
+{
+    QString const text = typed;
+    if (!KVCAM::UIAPI::Ext::evaluate(text, options)) {
+        state.SkipWithError("no value");
+        return;
+    }
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(KVCAM::UIAPI::Ext::evaluate(text, options));
+    }
+    state.SetLabel(typed);
+}
+
+// The text of the other rows, to compare with expressionLibrary and expressionMuParser.
+void evaluateNumbers(benchmark::State & state)
+{
+    evaluateText(state, expression, {});
+}
+
+void evaluateLengths(benchmark::State & state)
+{
+    evaluateText(state, "10mm + 5mil*2 - (0.1in/3)", {});
+}
+
+constexpr std::array typedMil{10.0, 12.5, 3.937, 0.00004, 1234.56789};
+
+void lengthText(benchmark::State & state)
+{
+    using namespace KVCAM::UIAPI::Ext;
+    for (auto _ : state) {
+        for (double const mil : typedMil) {
+            benchmark::DoNotOptimize(Length::fromMil(mil).text(Unit::Inch, LengthScale::Small));
+        }
+    }
+}
+
+void lengthTextDecimals(benchmark::State & state)
+{
+    using namespace KVCAM::UIAPI::Ext;
+    for (auto _ : state) {
+        for (double const mil : typedMil) {
+            benchmark::DoNotOptimize(Length::fromMil(mil).text(Unit::Inch, LengthScale::Small, 5));
+        }
+    }
+}
+
+// The minimum for the two above.
+void numberText(benchmark::State & state)
+{
+    for (auto _ : state) {
+        for (double const mil : typedMil) {
+            benchmark::DoNotOptimize(QString::number(mil));
+        }
+    }
+}
+
 // The minimum for any evaluator of this text.
 void expressionOperandsOnly(benchmark::State & state)
 {
@@ -150,7 +208,12 @@ void expressionMuParser(benchmark::State & state)
 BENCHMARK(symbolLibrary)->DenseRange(0, names.size() - 1);
 BENCHMARK(symbolRegularExpression)->DenseRange(0, names.size() - 1);
 BENCHMARK(expressionLibrary);
+BENCHMARK(evaluateNumbers);
+BENCHMARK(evaluateLengths);
 BENCHMARK(expressionOperandsOnly);
+BENCHMARK(lengthText);
+BENCHMARK(lengthTextDecimals);
+BENCHMARK(numberText);
 #ifdef UIAPI_BENCH_MUPARSER
 BENCHMARK(expressionMuParser);
 #endif

@@ -3,6 +3,7 @@
 
 #include <uiapi/flat/ShowParameters.h>
 #include <uiapi/flat/ViewAccess.h>
+#include <widgets/FormState.h>
 #include <widgets/KVLineEdit.h>
 
 #include <QApplication>
@@ -10,6 +11,8 @@
 #include <QRegExpValidator>
 
 #include <benchmark/benchmark.h>
+
+#include <vector>
 
 using namespace KVCAM::UIAPI;
 
@@ -86,21 +89,23 @@ BENCHMARK(symbolField);
 void numberFieldWithEveryAddition(benchmark::State & state)
 {
     KVLineEdit edit(RegNumber, registeredView());
-    edit.setRange(0, 1000);
+    edit.setRange(KVCAM::UIAPI::Ext::Length(), KVCAM::UIAPI::Ext::Length::fromMil(1000));
     edit.setFollowView(true);
     edit.setRefusalHints(true);
     typeAndErase(state, edit, "12.3");
 }
 BENCHMARK(numberFieldWithEveryAddition);
 
-// A unit switch followed by a hundred fields.
-void switchOfAHundredFields(benchmark::State & state)
+// A unit switch that `own` fields follow, while `others` follow another view. Against a bare setText() of as
+// many fields.
+void switchOfFollowingFields(benchmark::State & state)
 {
     QWidget * const view = registeredView();
+    QWidget other;
     QWidget form;
-    for (int i = 0; i < 100; ++i) {
-        auto * const edit = new KVLineEdit(RegNumber, view);
-        edit->setText(QStringLiteral("12.3"));
+    for (int i = 0; i < state.range(0) + state.range(1); ++i) {
+        auto * const edit = new KVLineEdit(RegNumber, i < state.range(0) ? view : &other);
+        edit->setTyped(QStringLiteral("12.3"), Ext::Unit::Inch);
         edit->setFollowView(true);
         edit->setParent(&form);
     }
@@ -111,6 +116,50 @@ void switchOfAHundredFields(benchmark::State & state)
     }
     setUnit(view, 0);
 }
-BENCHMARK(switchOfAHundredFields);
+BENCHMARK(switchOfFollowingFields)
+    ->Args({100, 0})
+    ->Args({1000, 0})
+    ->Args({0, 0})
+    ->Args({0, 1000})
+    ->Unit(benchmark::kMicrosecond);
+
+void bareTextsOfFields(benchmark::State & state)
+{
+    QWidget form;
+    std::vector<QLineEdit *> fields;
+    for (int i = 0; i < state.range(0); ++i) {
+        fields.push_back(new QLineEdit(&form));
+    }
+    int unit = 0;
+    for (auto _ : state) {
+        unit = 1 - unit;
+        for (QLineEdit * field : fields) {
+            field->setText(unit == 0 ? QStringLiteral("12.3") : QStringLiteral("312.42"));
+        }
+    }
+}
+BENCHMARK(bareTextsOfFields)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+// The same form with a FormState, whose fields also tell of changes.
+void switchOfAFormWithState(benchmark::State & state)
+{
+    QWidget * const view = registeredView();
+    QWidget form;
+    for (int i = 0; i < state.range(0); ++i) {
+        auto * const edit = new KVLineEdit(RegNumber, view);
+        edit->setTyped(QStringLiteral("12.3"), Ext::Unit::Inch);
+        edit->setFollowView(true);
+        edit->setParent(&form);
+        edit->setObjectName(QString::number(i));
+    }
+    Ext::FormState const kept(&form);
+    int unit = 0;
+    for (auto _ : state) {
+        unit = 1 - unit;
+        setUnit(view, unit);
+    }
+    setUnit(view, 0);
+}
+BENCHMARK(switchOfAFormWithState)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
 } // namespace

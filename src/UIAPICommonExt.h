@@ -10,6 +10,7 @@
 #include "ext/Analysis.h"
 #include "ext/Configuration.h"
 #include "ext/EdaLink.h"
+#include "ext/Forms.h"
 #include "ext/Hotkeys.h"
 #include "ext/Layers.h"
 #include "ext/Messages.h"

@@ -10,8 +10,8 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-constexpr double smallestMil = 4;
-constexpr double largestMil = 40;
+constexpr Ext::Length smallest = Ext::Length::fromMil(4);
+constexpr Ext::Length largest = Ext::Length::fromMil(40);
 
 } // namespace
 
@@ -57,7 +57,7 @@ KVLineEdit * SizeDialog::addField(KVERegExp kind, char const * name)
         }
         ok->setEnabled(every);
     });
-    field->setRange(smallestMil, largestMil);
+    field->setRange(smallest, largest);
     field->setFollowView(true);
     field->setRefusalHints(true);
     return field;

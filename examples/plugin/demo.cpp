@@ -23,7 +23,7 @@ void show(char const * what, SizeDialog const & dialog)
 {
     QString const result = QStringLiteral("width \"%1\", %2 nm; clearance \"%3\", %4 %5; OK %6")
                                .arg(dialog.width->text())
-                               .arg(dialog.width->exactLengthNm())
+                               .arg(dialog.width->exactLength().nanometres())
                                .arg(dialog.clearance->text())
                                .arg(caculateData(dialog.clearance->text()))
                                .arg(dialog.unit->currentText())

@@ -1,31 +1,70 @@
 #include "analysis/RangeFile.h"
 
+#include "support/PlainJson.h"
 #include "units/DecimalText.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QLatin1String>
 #include <QLocale>
 #include <QString>
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <string_view>
+#include <utility>
 
 namespace KVCAM::UIAPI::RangeFile {
 namespace {
 
-constexpr char const * listKey = "rangesList";
-constexpr char const * nameKey = "name";
+constexpr std::string_view listKey = "rangesList";
+constexpr std::string_view nameKey = "name";
+
+QLatin1String latin(std::string_view text)
+{
+    return QLatin1String(text.data(), static_cast<int>(text.size()));
+}
 
 bool isSame(double a, double b)
 {
     return a == b || (std::isnan(a) && std::isnan(b));
 }
 
+// Of equal keys the last counts, as in a document.
+bool readPlainRecord(PlainJson & json, Analysis_Ranges_Record & record)
+{
+    return json.object([&](std::string_view key) {
+        std::string_view text;
+        bool const isText = json.text(text);
+        auto const level = std::find_if(levels.begin(), levels.end(),
+                                        [key](Level const & entry) { return key == entry.key; });
+        if (level != levels.end()) {
+            record.*level->value = latinDecimalValue(latin(text));
+        } else if (key == nameKey) {
+            record.name = text;
+        }
+        return isText;
+    });
+}
+
 } // namespace
+
+std::optional<Records> readPlainRecords(QByteArray const & bytes)
+{
+    PlainJson json(bytes);
+    Records records;
+    int lists = 0;
+    bool const isPlain = json.object([&](std::string_view key) {
+        ++lists;
+        return key == listKey && json.array([&] { return readPlainRecord(json, records.emplace_back()); });
+    });
+    return isPlain && lists == 1 && json.isAtEnd() ? std::optional(std::move(records)) : std::nullopt;
+}
 
 std::optional<Records> readRecords(QJsonDocument const & document)
 {
-    QJsonValue const list = document.object().value(QLatin1String(listKey));
+    QJsonValue const list = document.object().value(latin(listKey));
     if (!list.isArray()) {
         return std::nullopt;
     }
@@ -35,7 +74,7 @@ std::optional<Records> readRecords(QJsonDocument const & document)
     for (QJsonValue const element : array) {
         QJsonObject const object = element.toObject();
         Analysis_Ranges_Record & record = records.emplace_back();
-        record.name = object.value(QLatin1String(nameKey)).toString().toStdString();
+        record.name = object.value(latin(nameKey)).toString().toStdString();
         for (Level const & level : levels) {
             record.*level.value = decimalValue(object.value(QLatin1String(level.key)).toString());
         }
@@ -51,7 +90,7 @@ Change writeLevels(QJsonDocument & document, Records const & loaded, Records con
         return Change::Stale;
     }
     QJsonObject top = document.object();
-    QJsonArray array = top.value(QLatin1String(listKey)).toArray();
+    QJsonArray array = top.value(latin(listKey)).toArray();
     Change change = Change::Nothing;
     for (std::size_t i = 0; i < records.size(); ++i) {
         for (Level const & level : levels) {
@@ -69,7 +108,7 @@ Change writeLevels(QJsonDocument & document, Records const & loaded, Records con
             change = Change::Changed;
         }
     }
-    top[QLatin1String(listKey)] = array;
+    top[latin(listKey)] = array;
     document.setObject(top);
     return change;
 }

@@ -24,6 +24,12 @@ Ext::Result refused(QString const & reason)
     return {false, reason};
 }
 
+// The usual path is absolute already and needs no directory.
+QString absolutePath(QString const & path)
+{
+    return QDir::isAbsolutePath(path) ? path : QDir().absoluteFilePath(path);
+}
+
 } // namespace
 
 bool RangeStore::loadAllRanges()
@@ -38,11 +44,14 @@ void RangeStore::readAll()
     QStringList const folders = QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (QString const & folder : folders) {
         QString const directory = base + QLatin1Char('/') + folder;
-        // The filter ignores case, the removal of ".json" does not: "B.JSON" keeps the name "B.JSON".
-        QStringList const files =
-            QDir(directory).entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Readable, QDir::Name);
+        QStringList const files = QDir(directory).entryList(QDir::Files, QDir::Name);
         for (QString const & file : files) {
-            scanMetaData(QString(file).remove(QStringLiteral(".json")), directory + QLatin1Char('/') + file);
+            // The ending ignores case, the removal of ".json" does not: "B.JSON" keeps the name "B.JSON".
+            if (!file.endsWith(QLatin1String(".json"), Qt::CaseInsensitive)) {
+                continue;
+            }
+            scan(QString(file).remove(QStringLiteral(".json")), directory + QLatin1Char('/') + file,
+                 Unreadable::Skipped);
         }
         Log::info(Log::commonPara, "加载所有ranges成功"); // once per folder, even without files
     }
@@ -50,13 +59,27 @@ void RangeStore::readAll()
 
 void RangeStore::scanMetaData(QString const & fileName, QString const & filePath)
 {
-    guard([&] { readFile(fileName, filePath); },
+    scan(fileName, filePath, Unreadable::Reported);
+}
+
+void RangeStore::scan(QString const & fileName, QString const & filePath, Unreadable unreadable)
+{
+    guard([&] { readFile(fileName, filePath, unreadable); },
           [](std::string const &) { Log::info(Log::commonPara, "Ranges scanMetaData失败"); });
 }
 
-void RangeStore::readFile(QString const & fileName, QString const & filePath)
+void RangeStore::readFile(QString const & fileName, QString const & filePath, Unreadable unreadable)
 {
-    WholeFile::ReadResult const file = WholeFile::readJson(filePath, QIODevice::Text);
+    WholeFile::Content const content = WholeFile::read(filePath, QIODevice::Text);
+    if (std::optional<RangeFile::Records> records = RangeFile::readPlainRecords(content.bytes)) {
+        return keep(fileName, filePath, std::move(*records));
+    }
+    WholeFile::ReadResult const file = WholeFile::parse(content);
+    // Asked only now: asking for each listed file slows the start down.
+    if (unreadable == Unreadable::Skipped && file.status == WholeFile::ReadStatus::OpenFailed &&
+        !QFileInfo(filePath).isReadable()) {
+        return;
+    }
     ConfigFiles::diagnose(filePath, file);
     switch (file.status) {
     case WholeFile::ReadStatus::Missing:
@@ -68,11 +91,15 @@ void RangeStore::readFile(QString const & fileName, QString const & filePath)
     case WholeFile::ReadStatus::Ok:
         break;
     }
-    // An empty list is stored too and reserves the name against later files.
     if (std::optional<RangeFile::Records> records = RangeFile::readRecords(file.document)) {
-        m_ranges.try_emplace(fileName.toStdString(),
-                             Range{std::move(*records), {}, QDir().absoluteFilePath(filePath)});
+        keep(fileName, filePath, std::move(*records));
     }
+}
+
+// An empty list is stored too and reserves the name against later files.
+void RangeStore::keep(QString const & fileName, QString const & filePath, RangeFile::Records records)
+{
+    m_ranges.try_emplace(fileName.toStdString(), Range{std::move(records), {}, absolutePath(filePath)});
 }
 
 void RangeStore::getRanges(std::string const & rangeName, std::vector<Analysis_Ranges_Record> & out) const

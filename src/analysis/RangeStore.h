@@ -18,7 +18,7 @@ namespace KVCAM::UIAPI {
 class RangeStore
 {
 public:
-    /// Reads every "*.json" of every sub-directory; the INFO line of success is logged once per
+    /// Reads every readable "*.json" of every sub-directory; the INFO line of success is logged once per
     /// sub-directory. False, after an INFO line, if anything throws; files already read are kept.
     bool loadAllRanges();
     /// Reads one file under a name. If an earlier file already has the name, the earlier one is kept.
@@ -42,8 +42,17 @@ private:
         QString path;                             ///< absolute
     };
 
+    /// What becomes of a file that the user may not read.
+    enum class Unreadable
+    {
+        Reported,
+        Skipped ///< as if a listing had left it out
+    };
+
     void readAll();
-    void readFile(QString const & fileName, QString const & filePath);
+    void scan(QString const & fileName, QString const & filePath, Unreadable unreadable);
+    void readFile(QString const & fileName, QString const & filePath, Unreadable unreadable);
+    void keep(QString const & fileName, QString const & filePath, RangeFile::Records records);
 
     std::map<std::string, Range> m_ranges;
 };

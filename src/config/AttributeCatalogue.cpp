@@ -2,10 +2,15 @@
 
 #include "config/ConfigFiles.h"
 #include "support/HostPaths.h"
+#include "support/PlainJson.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace KVCAM::UIAPI {
@@ -76,6 +81,47 @@ void readAttribute(QJsonObject const & object, JsonPlace const & place, FileDiag
     }
 }
 
+// False for anything that would be a finding too: an unknown key, a name that is missing or taken. Of equal
+// keys the last counts, as in a document.
+bool readPlainAttribute(PlainJson & json, AttributeMap & out)
+{
+    std::string_view name;
+    int hasParam = 0;
+    int unit = 0;
+    std::vector<std::string> offered;
+    bool isNamed = false;
+    bool const isPlain = json.object([&](std::string_view key) {
+        if (key == nameKey) {
+            isNamed = true;
+            return json.text(name);
+        }
+        if (key == hasParamKey || key == unitKey) {
+            return json.number(key == unitKey ? unit : hasParam);
+        }
+        offered.clear();
+        return key == offeredKey && json.array([&] {
+            std::string_view text;
+            return json.text(text) && (offered.emplace_back(text), true);
+        });
+    });
+    std::size_t const count = out.size();
+    out.emplace_hint(out.end(), name, std::make_tuple(hasParam, unit, std::move(offered)));
+    return isPlain && isNamed && out.size() > count;
+}
+
+// The catalogue, if there is nothing to report about the file.
+std::optional<AttributeMap> readPlain(QByteArray const & bytes)
+{
+    PlainJson json(bytes);
+    AttributeMap out;
+    int lists = 0;
+    bool const isPlain = json.object([&](std::string_view key) {
+        ++lists;
+        return key == arrayKey && json.array([&] { return readPlainAttribute(json, out); });
+    });
+    return isPlain && lists == 1 && json.isAtEnd() ? std::optional(std::move(out)) : std::nullopt;
+}
+
 } // namespace
 
 void AttributeCatalogue::getParentAttribute(std::vector<std::string> & out) const
@@ -93,8 +139,14 @@ void AttributeCatalogue::getTotalAttributesFromJson()
 
 void AttributeCatalogue::readTotalAttributesFromJson(QString const & path)
 {
+    WholeFile::Content const content = WholeFile::read(path);
+    if (std::optional<AttributeMap> plain = m_attributes.empty() ? readPlain(content.bytes) : std::nullopt) {
+        m_attributes = std::move(*plain);
+        return;
+    }
     FileDiagnostics const diagnostics(path);
-    QJsonArray const array = ConfigFiles::loadArray(path, texts, arrayKey, diagnostics);
+    QJsonArray const array =
+        ConfigFiles::arrayOf(WholeFile::parse(content), path, texts, arrayKey, diagnostics);
     for (int i = 0; i < array.size(); ++i) {
         QJsonValue const element = array.at(i);
         JsonPlace const place{arrayKey, i};

@@ -49,9 +49,15 @@ WholeFile::ReadResult load(QString const & path, LoadTexts const & texts, QStrin
                            QIODevice::OpenMode extra, int line)
 {
     WholeFile::ReadResult result = WholeFile::readJson(path, extra);
+    report(result, path, texts, shown, steps, line);
+    return result;
+}
+
+void report(WholeFile::ReadResult const & result, QString const & path, LoadTexts const & texts,
+            QString const & shown, Steps steps, int line)
+{
     log(result.status, texts, shown, steps == Steps::All, line);
     diagnose(path, result);
-    return result;
 }
 
 void diagnose(QString const & path, WholeFile::ReadResult const & result)
@@ -64,7 +70,13 @@ void diagnose(QString const & path, WholeFile::ReadResult const & result)
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra, int line)
 {
-    WholeFile::ReadResult const result = load(path, texts, path, Steps::FirstFailure, extra, line);
+    return arrayOf(WholeFile::readJson(path, extra), path, texts, key, diagnostics, line);
+}
+
+QJsonArray arrayOf(WholeFile::ReadResult const & result, QString const & path, LoadTexts const & texts,
+                   char const * key, FileDiagnostics const & diagnostics, int line)
+{
+    report(result, path, texts, path, Steps::FirstFailure, line);
     if (result.status != ReadStatus::Ok || !diagnostics.checkTop(result.document.isObject(), "an object")) {
         return {};
     }

@@ -35,6 +35,10 @@ WholeFile::ReadResult load(QString const & path, LoadTexts const & texts, QStrin
                            Steps steps = Steps::FirstFailure, QIODevice::OpenMode extra = {},
                            int line = UIAPI_CALLER_LINE);
 
+/// Reports the failure of a file that was read already, as load() does.
+void report(WholeFile::ReadResult const & result, QString const & path, LoadTexts const & texts,
+            QString const & shown, Steps steps, int line);
+
 /// Reports a file that could not be read as one finding, without a log line.
 void diagnose(QString const & path, WholeFile::ReadResult const & result);
 
@@ -44,6 +48,10 @@ void diagnose(QString const & path, WholeFile::ReadResult const & result);
 QJsonArray loadArray(QString const & path, LoadTexts const & texts, char const * key,
                      FileDiagnostics const & diagnostics, QIODevice::OpenMode extra = {},
                      int line = UIAPI_CALLER_LINE);
+
+/// The same of a file that was read already.
+QJsonArray arrayOf(WholeFile::ReadResult const & result, QString const & path, LoadTexts const & texts,
+                   char const * key, FileDiagnostics const & diagnostics, int line = __builtin_LINE());
 
 /// The text of a value as UTF-8; empty for a value of another type.
 std::string textOf(QJsonValue const & value);

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QIODevice>
-
-class QFile;
+#include <QByteArray>
+#include <QString>
 
 namespace KVCAM::UIAPI {
 
 enum class RegularFile
 {
-    Opened,
+    Read,
     NotOpened,
-    NotRegular ///< a directory, a device, a pipe: `file` stays closed
+    NotRegular, ///< a directory, a device, a pipe
+    TooLarge    ///< more than `largest` bytes
 };
 
-/// Opens the file named by `file` for reading, without blocking, if it is a regular file or a link to one: a
-/// pipe would wait for a writer, and a device may never end. `extra` is added to ReadOnly.
-RegularFile openRegular(QFile & file, QIODevice::OpenMode extra);
+/// Reads a regular file or a link to one into `bytes`, without blocking: a pipe would wait for a writer, and
+/// a device may never end. What was read before an error counts as the whole.
+RegularFile readRegular(QString const & path, qint64 largest, QByteArray & bytes);
 
 } // namespace KVCAM::UIAPI

@@ -9,22 +9,22 @@
 namespace KVCAM::UIAPI {
 
 // Opening never blocks here, so Qt, which supports long names, can do it.
-RegularFile openRegular(QFile & file, QIODevice::OpenMode extra)
+RegularFile readRegular(QString const & path, qint64 largest, QByteArray & bytes)
 {
-    QFileInfo const info(file.fileName());
-    if (!file.open(QIODevice::ReadOnly | extra)) {
+    QFile file(path);
+    QFileInfo const info(path);
+    if (!file.open(QIODevice::ReadOnly)) {
         return info.isDir() ? RegularFile::NotRegular : RegularFile::NotOpened;
     }
-    if (!info.isNativePath()) { // a Qt resource, which has no handle
-        return RegularFile::Opened;
+    // Consoles and pipes have file names too: "CON", "\\.\pipe\...". A Qt resource has no handle.
+    if (info.isNativePath()) {
+        auto const handle = reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
+        if (handle == INVALID_HANDLE_VALUE || GetFileType(handle) != FILE_TYPE_DISK) {
+            return RegularFile::NotRegular;
+        }
     }
-    // Consoles and pipes have file names too: "CON", "\\.\pipe\...".
-    auto const handle = reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
-    if (handle == INVALID_HANDLE_VALUE || GetFileType(handle) != FILE_TYPE_DISK) {
-        file.close();
-        return RegularFile::NotRegular;
-    }
-    return RegularFile::Opened;
+    bytes = file.read(largest + 1);
+    return bytes.size() > largest ? RegularFile::TooLarge : RegularFile::Read;
 }
 
 } // namespace KVCAM::UIAPI

@@ -8,58 +8,44 @@
 #include <QLatin1String>
 #include <QSaveFile>
 
-#include <algorithm>
-
 namespace KVCAM::UIAPI::WholeFile {
 namespace {
 
 constexpr char const * notRegular = "It is not a regular file.";
 
-// By the piece: a file may grow while it is read, and some claim to be empty and never end.
-QByteArray readUpTo(QFile & file, qint64 limit)
-{
-    constexpr qint64 piece = 64 * 1024;
-    QByteArray bytes;
-    bytes.reserve(static_cast<int>(std::min(file.size() + 1, limit)));
-    while (bytes.size() < limit) {
-        QByteArray const read = file.read(std::min(piece, limit - bytes.size()));
-        if (read.isEmpty()) {
-            break;
-        }
-        bytes += read;
-    }
-    return bytes;
-}
-
 } // namespace
 
 Content read(QString const & path, QIODevice::OpenMode extra)
 {
-    QFile file(path);
-    RegularFile const opened = openRegular(file, extra);
-    if (opened == RegularFile::NotRegular) {
+    QByteArray bytes;
+    switch (readRegular(path, largestFile, bytes)) {
+    case RegularFile::NotRegular:
         return {ReadStatus::OpenFailed, {}, QLatin1String(notRegular)};
-    }
-    if (opened == RegularFile::NotOpened && !file.exists()) {
-        return {ReadStatus::Missing, {}, QStringLiteral("There is no such file.")};
-    }
-    if (opened == RegularFile::NotOpened) {
+    case RegularFile::NotOpened:
+        if (!QFile::exists(path)) {
+            return {ReadStatus::Missing, {}, QStringLiteral("There is no such file.")};
+        }
         return {ReadStatus::OpenFailed, {}, QStringLiteral("The file cannot be opened for reading.")};
-    }
-    bool isTooLarge = file.size() > largestFile;
-    QByteArray const bytes = isTooLarge ? QByteArray() : readUpTo(file, largestFile + 1);
-    isTooLarge = isTooLarge || bytes.size() > largestFile;
-    if (isTooLarge) {
+    case RegularFile::TooLarge:
         return {ReadStatus::OpenFailed,
                 {},
                 QStringLiteral("The file is too large: more than %1 bytes.").arg(largestFile)};
+    case RegularFile::Read:
+        break;
+    }
+    if (extra.testFlag(QIODevice::Text) && bytes.contains('\r')) {
+        bytes.replace('\r', QByteArray()); // as a file opened in text mode
     }
     return {ReadStatus::Ok, bytes, {}};
 }
 
 ReadResult readJson(QString const & path, QIODevice::OpenMode extra)
 {
-    Content const content = read(path, extra);
+    return parse(read(path, extra));
+}
+
+ReadResult parse(Content const & content)
+{
     if (content.status != ReadStatus::Ok) {
         return {content.status, {}, content.reason};
     }

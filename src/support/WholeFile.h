@@ -28,10 +28,6 @@ struct ReadResult
     QString reason;         ///< one English sentence on why it is not Ok; a parse error has its byte offset
 };
 
-/// Reads and parses a regular file, or a link to one, of at most `largestFile` bytes. Never blocks. `extra`
-/// is added to ReadOnly (QIODevice::Text for a text-mode read).
-ReadResult readJson(QString const & path, QIODevice::OpenMode extra = {});
-
 struct Content
 {
     ReadStatus status = ReadStatus::Ok; ///< never ParseError
@@ -39,8 +35,15 @@ struct Content
     QString reason;                     ///< one English sentence on why it is not Ok
 };
 
-/// The bytes that readJson() parses.
+/// Reads a regular file, or a link to one, of at most `largestFile` bytes. Never blocks. `extra` is added to
+/// ReadOnly (QIODevice::Text for a text-mode read).
 Content read(QString const & path, QIODevice::OpenMode extra = {});
+
+/// Reads and parses such a file.
+ReadResult readJson(QString const & path, QIODevice::OpenMode extra = {});
+
+/// What the bytes hold as JSON; a failed read keeps its status and reason.
+ReadResult parse(Content const & content);
 
 /// Replaces a file with `bytes`. A crash, a full disk or a killed process leaves the old file intact: a
 /// temporary file is written beside it and renamed over it. If the directory does not accept a new file, the

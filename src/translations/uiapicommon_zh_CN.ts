@@ -43,6 +43,14 @@
         <source>The file &quot;%1&quot; cannot be written.</source>
         <translation>无法写入文件“%1”。</translation>
     </message>
+    <message>
+        <source>A view needs a handle that is not null.</source>
+        <translation>视图的句柄不能为空。</translation>
+    </message>
+    <message>
+        <source>The view cannot be stored.</source>
+        <translation>无法保存该视图。</translation>
+    </message>
 </context>
 <context>
     <name>KVFileDialog</name>
@@ -106,8 +114,125 @@
         <translation>此处最多 %1 个字符。</translation>
     </message>
     <message>
+        <source>This calculation cannot be read.</source>
+        <translation>无法识别此算式。</translation>
+    </message>
+    <message>
         <source>This cannot be typed here.</source>
         <translation>此处不能输入该字符。</translation>
+    </message>
+</context>
+<context>
+    <name>Evaluate</name>
+    <message>
+        <source>Type a value.</source>
+        <translation>请输入数值。</translation>
+    </message>
+    <message>
+        <source>A number is missing at &quot;%1&quot;.</source>
+        <translation>“%1”处缺少数字。</translation>
+    </message>
+    <message>
+        <source>One of + - * / is missing before &quot;%1&quot;.</source>
+        <translation>“%1”之前缺少 + - * / 之一。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no meaning here.</source>
+        <translation>此处不能使用“%1”。</translation>
+    </message>
+    <message>
+        <source>A comma has no meaning here; the decimal sign is a point.</source>
+        <translation>此处不能使用逗号；小数点为“.”。</translation>
+    </message>
+    <message>
+        <source>A number has only one decimal sign, and nothing between thousands.</source>
+        <translation>一个数字只能有一个小数点，且不能使用千位分隔符。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a unit; use mm, um, my, cm, mil or inch.</source>
+        <translation>“%1”不是单位；请使用 mm、um、my、cm、mil 或 inch。</translation>
+    </message>
+    <message>
+        <source>This parenthesis is not closed.</source>
+        <translation>此括号没有闭合。</translation>
+    </message>
+    <message>
+        <source>This parenthesis was not opened.</source>
+        <translation>此括号没有对应的左括号。</translation>
+    </message>
+    <message>
+        <source>The parentheses are nested too deeply.</source>
+        <translation>括号嵌套过深。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is zero: nothing can be divided by it.</source>
+        <translation>“%1”为零，不能作除数。</translation>
+    </message>
+    <message>
+        <source>A length cannot be multiplied by a length.</source>
+        <translation>长度不能与长度相乘。</translation>
+    </message>
+    <message>
+        <source>A number cannot be divided by a length.</source>
+        <translation>数字不能除以长度。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a unit.</source>
+        <translation>“%1”需要单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a ratio, which cannot be added to a length or subtracted from it.</source>
+        <translation>“%1”是比值，不能与长度相加减。</translation>
+    </message>
+    <message>
+        <source>This is the ratio of two lengths, not a length.</source>
+        <translation>这是两个长度的比值，不是长度。</translation>
+    </message>
+    <message>
+        <source>This is a length, but a number without a unit is needed.</source>
+        <translation>这是长度，但此处需要不带单位的数字。</translation>
+    </message>
+    <message>
+        <source>This value is too large.</source>
+        <translation>数值过大。</translation>
+    </message>
+</context>
+<context>
+    <name>Legality</name>
+    <message>
+        <source>Allowed: %1 or more.</source>
+        <translation>允许范围：不小于 %1。</translation>
+    </message>
+    <message>
+        <source>Allowed: %1 or less.</source>
+        <translation>允许范围：不大于 %1。</translation>
+    </message>
+    <message>
+        <source>Allowed: %1 to %2, both included.</source>
+        <translation>允许范围：%1 至 %2（含两端）。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is out of range. %2</source>
+        <translation>“%1”超出范围。%2</translation>
+    </message>
+</context>
+<context>
+    <name>Units</name>
+    <message>
+        <source>inch</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>mil</source>
+        <translation>密耳</translation>
+    </message>
+    <message>
+        <source>millimetre</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>micrometre</source>
+        <translation>微米</translation>
     </message>
 </context>
 <context>
@@ -323,6 +448,29 @@
     <message>
         <source>oval thermal</source>
         <translation>长圆形热焊盘</translation>
+    </message>
+</context>
+<context>
+    <name>KVCAM::UIAPI::Ext::FormState</name>
+    <message>
+        <source>This is not a saved form.</source>
+        <translation>这不是已保存的表单。</translation>
+    </message>
+    <message>
+        <source>The form was saved in another version than %1.</source>
+        <translation>该表单的保存版本不是 %1。</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; is of a wrong type.</source>
+        <translation>“%1”的值类型不正确。</translation>
+    </message>
+    <message>
+        <source>The form cannot be saved in &quot;%1&quot;: %2</source>
+        <translation>无法将表单保存到“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The form cannot be read from &quot;%1&quot;: %2</source>
+        <translation>无法从“%1”读取表单：%2</translation>
     </message>
 </context>
 </TS>

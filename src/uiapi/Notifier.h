@@ -40,6 +40,29 @@ private:
     Notifier();
 };
 
+/// Notifies of the changes of one view. However many watches there are, a change costs only those of its own
+/// view, where a slot at Notifier::viewChanged() is called for every view. GUI thread only.
+/// \since 0.1
+class UIAPICOMMON_EXPORT ViewWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Watches a handle, registered or not; null is never told of. Creates none of the library's singletons.
+    explicit ViewWatch(void const * view, QObject * parent = nullptr);
+    ~ViewWatch() override;
+
+    /// The handle given to the constructor.
+    void const * view() const { return m_view; }
+
+signals:
+    /// Like Notifier::viewChanged() of this view, and just before it. A slot may delete any watch.
+    void changed(KVCAM::UIAPI::Ext::ViewAspects aspects);
+
+private:
+    void const * m_view;
+};
+
 } // namespace KVCAM::UIAPI::Ext
 
 Q_DECLARE_METATYPE(KVCAM::UIAPI::Ext::ViewAspects)

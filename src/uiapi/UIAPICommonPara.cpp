@@ -1,5 +1,6 @@
 #include "uiapi/UIAPICommonPara.h"
 
+#include "support/Boxes.h"
 #include "support/Log.h"
 #include "support/Singleton.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
@@ -110,6 +111,7 @@ std::string pointerTrace(char const * text, void const * pointer)
 void UIAPICommonPara::setInputPtr(QWidget * widget)
 {
     guardedPara([&] {
+        d->livingInput = aliveWidget(widget); // the pointer itself may point to anything
         if (d->input == nullptr) {
             d->input = widget;
             Log::info(Log::commonPara, pointerTrace("setInputPtr _input ", widget));

@@ -13,6 +13,7 @@
 #include "uiapi/ViewRegistry.h"
 
 #include <QPointer>
+#include <QWidget>
 
 #include <utility>
 
@@ -27,8 +28,9 @@ struct UIAPICommonPara::Private
     bool coordinateStatus = false;
     bool kvcamAsExe = true;
     QPoint coordinatePos;
-    QWidget * input = nullptr; // not owned
-    QWidget * split = nullptr; // not owned
+    QWidget * input = nullptr;     // not owned, may be destroyed
+    QPointer<QWidget> livingInput; // the same, null once it is destroyed
+    QWidget * split = nullptr;     // not owned
     LayerState layerState;
     BuiltInAttributes builtInAttributes;
     RangeStore ranges;
@@ -49,6 +51,8 @@ auto guardedPara(Body && body, int line = UIAPI_CALLER_LINE)
 /// Gives the `Ext` functions, which are not methods of UIAPICommonPara, access to the components.
 struct CommonParaAccess
 {
+    using Parts = UIAPICommonPara::Private;
+    static Parts & parts(UIAPICommonPara & para) { return *para.d; }
     static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }
 };
 

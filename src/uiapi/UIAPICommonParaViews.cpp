@@ -4,9 +4,9 @@
 #include "support/Compiler.h"
 #include "support/Log.h"
 #include "uiapi/EngineBridge.h"
-#include "uiapi/Notifier.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
+#include "uiapi/ViewNotification.h"
 
 namespace KVCAM::UIAPI {
 namespace {
@@ -23,12 +23,6 @@ void copyOut(ViewRegistry const & views, void const * view, Field Step_Config::*
     }
 }
 
-// Listeners never change a result: anything a slot throws is caught here.
-void notify(void const * view, Ext::ViewAspects aspects)
-{
-    guardedPara([&] { emit Ext::Notifier::instance()->viewChanged(view, aspects); });
-}
-
 // The record is not used after the push: it may be replaced during it.
 void storeShowPara(Step_Config & record, show_param const & value)
 {
@@ -36,8 +30,8 @@ void storeShowPara(Step_Config & record, show_param const & value)
     bool const unitChanges = record.show_param.unit != value.unit;
     record.show_param = value;
     EngineBridge::sendShowParaToAPI(record.show_param);
-    notify(view, unitChanges ? Ext::ViewAspect::Unit | Ext::ViewAspect::ShowParameters
-                             : Ext::ViewAspects(Ext::ViewAspect::ShowParameters));
+    notifyOfView(view, unitChanges ? Ext::ViewAspect::Unit | Ext::ViewAspect::ShowParameters
+                                   : Ext::ViewAspects(Ext::ViewAspect::ShowParameters));
 }
 
 } // namespace
@@ -54,7 +48,8 @@ bool UIAPICommonPara::insertStepConfig(Step_Config const & config)
             return false;
         }
         setStepConfigToAPI(view);
-        notify(view, Ext::ViewAspect::Unit | Ext::ViewAspect::ShowParameters | Ext::ViewAspect::Selection);
+        notifyOfView(view,
+                     Ext::ViewAspect::Unit | Ext::ViewAspect::ShowParameters | Ext::ViewAspect::Selection);
         return true;
     });
 }
@@ -128,7 +123,7 @@ void UIAPICommonPara::setSelection(void const * view, Selection const & value)
         }
         record->selection = value;
         EngineBridge::sendSelectionToAPI(record->selection);
-        notify(view, Ext::ViewAspect::Selection);
+        notifyOfView(view, Ext::ViewAspect::Selection);
     });
 }
 

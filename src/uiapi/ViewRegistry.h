@@ -22,6 +22,9 @@ public:
     Step_Config * find(void const * view) noexcept;
     Step_Config const * find(void const * view) const noexcept;
 
+    /// In the order of registration.
+    std::vector<void const *> const & handles() const noexcept { return m_handles; }
+
     /// Appends a copy; false and no change if the view is already registered. The handle must not be null.
     bool append(Step_Config const & config);
 

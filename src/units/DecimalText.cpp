@@ -14,9 +14,18 @@ constexpr std::array<double, 16> powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1
                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 constexpr int exactDigits = 15; // whole numbers with this many digits are exact doubles
 
-} // namespace
+QString toText(QStringView text)
+{
+    return text.toString();
+}
 
-double decimalValue(QStringView text)
+QString toText(QLatin1String text)
+{
+    return text;
+}
+
+template <class Text>
+double valueOf(Text text)
 {
     // Fast path: nearly every text is digits with at most one point between them. With up to 15 digits, both
     // the digits as a whole number and the power of ten are exact, so a single division gives the double
@@ -26,7 +35,7 @@ double decimalValue(QStringView text)
     qsizetype point = -1;
     bool plain = text.size() <= exactDigits + 1;
     for (qsizetype i = 0; plain && i < text.size(); ++i) {
-        QChar const c = text[i];
+        QChar const c = text[static_cast<int>(i)];
         if (isAsciiDigit(c)) {
             whole = whole * 10 + (c.unicode() - '0');
             ++digits;
@@ -36,10 +45,22 @@ double decimalValue(QStringView text)
         }
     }
     if (!plain || digits == 0 || digits > exactDigits) {
-        return text.toString().toDouble();
+        return toText(text).toDouble();
     }
     qsizetype const decimals = point < 0 ? 0 : text.size() - point - 1;
     return static_cast<double>(whole) / powersOfTen[static_cast<std::size_t>(decimals)];
+}
+
+} // namespace
+
+double decimalValue(QStringView text)
+{
+    return valueOf(text);
+}
+
+double latinDecimalValue(QLatin1String text)
+{
+    return valueOf(text);
 }
 
 void appendSixDigits(QString & out, double value)

@@ -125,21 +125,20 @@ bool isSize(QStringView text)
            std::count(text.begin(), text.end(), QLatin1Char('.')) <= 1;
 }
 
-QString sizeText(QStringView text, int unit)
+QString sizeText(QStringView text, Unit unit)
 {
     double const size = decimalValue(text);
-    bool const isMil = unit == Units::inch;
-    double const other = isMil ? size * Units::millimetresPerInch : size / Units::millimetresPerInch;
-    auto const inUnit = [](double value, int code) {
-        return QString::fromStdString(Units::plainText(value) + " " + Units::nameByKind(code, 1));
+    double const other =
+        unit == Unit::Inch ? size * Units::millimetresPerInch : size / Units::millimetresPerInch;
+    auto const inUnit = [](double value, Unit shown) {
+        return QString::fromStdString(Units::plainText(value)) + QLatin1Char(' ') +
+               unitSuffix(shown, LengthScale::Small);
     };
-    int const own = isMil ? Units::inch : Units::millimetre;
-    return inUnit(size, own) + QStringLiteral(" (") + inUnit(other, isMil ? Units::millimetre : Units::inch) +
-           QStringLiteral(")");
+    return inUnit(size, unit) + QStringLiteral(" (") + inUnit(other, otherUnit(unit)) + QStringLiteral(")");
 }
 
 // A field in words; empty when its text cannot be what its field says.
-QString fieldText(SymbolField field, QStringView text, int unit)
+QString fieldText(SymbolField field, QStringView text, Unit unit)
 {
     char const * const phrase = fieldTexts[static_cast<std::size_t>(field)].phrase;
     switch (field) {
@@ -173,7 +172,7 @@ QString fieldText(SymbolField field, QStringView text, int unit)
 }
 
 // The family's shape and its fields in words; empty if a field does not fit.
-QString standardText(SymbolGrammar const & grammar, QStringView fields, int unit)
+QString standardText(SymbolGrammar const & grammar, QStringView fields, Unit unit)
 {
     Symbols::SymbolParts const parts = Symbols::splitParts(fields);
     auto const count = static_cast<std::size_t>(parts.size());
@@ -196,7 +195,7 @@ QString standardText(SymbolGrammar const & grammar, QStringView fields, int unit
 
 } // namespace
 
-QString describeSymbol(QString const & name, int unit)
+QString describeSymbol(QString const & name, Unit unit)
 {
     if (name.isEmpty()) {
         return {};

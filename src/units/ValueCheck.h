@@ -1,32 +1,67 @@
 #pragma once
 
+#include "../support/Result.h"
+#include "Length.h"
 #include "UIAPICommonExport.h"
+#include "Unit.h"
 
 #include <QString>
 
+#include <optional>
+
 namespace KVCAM::UIAPI::Ext {
 
-/// Result of a check: the verdict, and the text that the box would show (empty for a legal value).
-struct ValueVerdict
+/// Why a value is refused.
+/// \since 0.1
+enum class ValueFault : int
 {
-    bool legal = true; ///< the verdict
-    QString text;      ///< translated
+    None,       ///< it is not
+    TooSmall,   ///< below the minimum
+    TooLarge,   ///< above the maximum
+    NotReadable ///< a calculation that KVLineEdit cannot evaluate
 };
 
-// The checks of typed values without the box, for dialogs that show the text beside the field. Verdict and
-// text match isValueLegal(), isNumValueLegal() and isSymbolValueLegal(). The bounds are inclusive, there is
-// no tolerance, and NaN is legal. `unit` is the unit code of the view: 0 is inch, any other code metric.
-// Nothing is shown or logged, and no singleton is created.
-
-/// A value in the small unit (mil or micrometres) against bounds in mil.
+/// The verdict on a length: whether it is legal, and if not a translated sentence that says what is allowed:
+/// "Allowed: 1 mil to 10 mil, both included."
 /// \since 0.1
-[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkValue(double value, double minimum, double maximum,
-                                                         int unit);
-/// A plain number; nothing is converted.
-[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkNumber(double value, double minimum, double maximum);
-/// Every number of a symbol name, counts and angles included, in the small unit against bounds in mil. The
-/// text describes the first illegal number.
-[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkSymbol(QString const & name, double minimum,
-                                                          double maximum, int unit);
+struct ValueVerdict : Result
+{
+    ValueFault fault = ValueFault::None; ///< None exactly if ok
+    Length minimum = Length::lowest();   ///< the smallest legal value
+    Length maximum = Length::highest();  ///< the largest legal value
+    int position = 0;                    ///< where the refused number stands in a symbol name
+    int size = 0;                        ///< its length; 0 in any other verdict
+};
+
+/// The same on a plain number.
+/// \since 0.1
+struct NumberVerdict : Result
+{
+    ValueFault fault = ValueFault::None; ///< None exactly if ok
+    double minimum = 0;                  ///< the smallest legal value
+    double maximum = 0;                  ///< the largest legal value
+};
+
+// The checks of typed values without a box, for dialogs that show the sentence beside the field. Nothing is
+// shown or logged, and no singleton is created. Bounds are inclusive. A bound at an end of Length's range is
+// none, and the sentence leaves it out.
+//
+// Lengths are compared by the nanometre: 76.2 micrometres are 3 mil. isValueLegal() and isSymbolValueLegal()
+// compare doubles, where 3 mil is 76.199999999999989; otherwise they agree.
+
+/// A length against bounds; the sentence shows them in `unit` and `scale`.
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkValue(Length value, Length minimum, Length maximum,
+                                                         Unit unit, LengthScale scale = LengthScale::Small);
+/// A plain number, as isNumValueLegal() compares it: NaN is legal.
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT NumberVerdict checkNumber(double value, double minimum, double maximum);
+/// Every number of a symbol name, counts and angles included, as a length in the small unit of `sizes`. The
+/// verdict is that on the first illegal number; the sentence quotes it and shows the bounds in `shown`, by
+/// default in `sizes`.
+/// \since 0.1
+[[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkSymbol(QString const & name, Length minimum,
+                                                          Length maximum, Unit sizes,
+                                                          std::optional<Unit> shown = std::nullopt);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -64,7 +64,7 @@ KVLineEdit::KVLineEdit(QString const & text, KVERegExp kind, QWidget * parent) :
 // The base destructors still emit signals (focus loss, destroyed()), and a slot may then change the view.
 KVLineEdit::~KVLineEdit()
 {
-    for (QMetaObject::Connection const * own : {&d->recording, &d->judging, &d->following, &d->refusals}) {
+    for (QMetaObject::Connection const * own : {&d->recording, &d->judging, &d->refusals}) {
         disconnect(*own);
     }
     delete d;
@@ -90,14 +90,17 @@ void KVLineEdit::on_textchanged(QString const & text)
     if (d->isChanging) {
         return;
     }
-    UnitTracking const tracking = d->tracking();
-    if (tracking == UnitTracking::None) {
-        return;
+    if (d->tracking() != UnitTracking::None) {
+        record(text, getUnit(d->owner));
     }
-    d->typedUnit = getUnit(d->owner);
-    d->shownUnit = d->typedUnit;
-    bool const inch = d->typedUnit == Units::inch;
-    if (tracking == UnitTracking::Number) {
+}
+
+void KVLineEdit::record(QString const & text, int unit)
+{
+    d->typedUnit = unit;
+    d->shownUnit = unit;
+    bool const inch = unit == Units::inch;
+    if (d->tracking() == UnitTracking::Number) {
         double const value = text.toDouble();
         if (inch) {
             d->inchNumber = text;
@@ -131,8 +134,8 @@ void KVLineEdit::changeunit(int const & unit)
         QString & wanted = inch ? d->inchSymbol : d->metricSymbol;
         if (wanted.isEmpty()) {
             QString converted = inch ? d->metricSymbol : d->inchSymbol;
-            // Unit 0 in both directions: the lengths are always divided.
-            setSymbolUIData(converted, Units::inch);
+            // By default unit 0 in both directions: the lengths are always divided.
+            setSymbolUIData(converted, d->symbolConversion == AsDescribed ? Units::inch : unit);
             wanted = converted;
         }
         showText(*this, wanted);

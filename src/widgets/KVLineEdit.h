@@ -1,5 +1,7 @@
 #pragma once
 
+#include "../units/Length.h"
+#include "../units/Unit.h"
 #include "UIAPICommonExport.h"
 
 #include <QLineEdit>
@@ -33,8 +35,9 @@ enum KVERegExp : int
 /// switching the unit back and forth never changes a typed digit.
 ///
 /// The parent given to the constructor is also the view handle whose unit applies while the user types. It is
-/// compared, never dereferenced, and does not change when the field is reparented. An unregistered parent is
-/// treated as an inch view and logged on each edit. setText() is recorded like typing and is not validated.
+/// compared, never dereferenced, and does not change when the field is reparented; setView() sets another. An
+/// unregistered view is treated as an inch view and logged on each edit. setText() is recorded like typing
+/// and is not validated.
 ///
 /// A slot may delete the field immediately if a member of this class or its view emitted the signal. If
 /// setText() or a key press did, the slot must use deleteLater(), as with any QLineEdit.
@@ -46,13 +49,42 @@ class UIAPICOMMON_EXPORT KVLineEdit : public QLineEdit
     Q_PROPERTY(bool followView READ followView WRITE setFollowView)
     Q_PROPERTY(bool refusalHints READ refusalHints WRITE setRefusalHints)
     Q_PROPERTY(KVCAM::UIAPI::KVLineEdit::LengthScale lengthScale READ lengthScale WRITE setLengthScale)
+    Q_PROPERTY(KVCAM::UIAPI::KVLineEdit::Kind kind READ kind WRITE setKind)
+    Q_PROPERTY(KVCAM::UIAPI::KVLineEdit::SymbolConversion symbolConversion READ symbolConversion WRITE
+                   setSymbolConversion)
 
 public:
-    /// Which unit of the pair the number in the field uses.
+    /// The kinds of KVERegExp under the names that Qt Designer shows.
+    enum Kind : int
+    {
+        AnyText = 0, ///< no kind: any text, no validator, no unit
+        Number = RegNumber,
+        Expression = RegExpression,
+        Positive = RegPositive,
+        NameList = RegNameList,
+        Name = RegName,
+        NoCjk = RegNoCjk,
+        SymbolName = RegSymbolName,
+        Round = RegRound,
+        Square = RegSquare,
+        FreeText = RegFreeText,
+        Digits = RegDigits
+    };
+    Q_ENUM(Kind)
+
+    /// How a symbol name is converted when the other unit is shown.
+    enum SymbolConversion : int
+    {
+        AsDescribed, ///< as changeunit() says: the lengths are divided by 25.4 in both directions
+        TargetUnit   ///< divided for inch, multiplied for metric: "rect20x10" becomes "rect508x254"
+    };
+    Q_ENUM(SymbolConversion)
+
+    /// Which unit of the pair the number in the field uses: Ext::LengthScale, as Qt Designer can offer it.
     enum LengthScale : int
     {
-        Small, ///< mil or micrometre
-        Large  ///< inch or millimetre
+        Small = int(Ext::LengthScale::Small), ///< mil or micrometre
+        Large = int(Ext::LengthScale::Large)  ///< inch or millimetre
     };
     Q_ENUM(LengthScale)
 
@@ -75,28 +107,59 @@ public:
 
     // --- Additions ----------------------------------------------------------------------------------------
 
-    /// The last typed number in `unit` (0 inch, any other metric), converted from the unit it was typed in by
-    /// exactly 25.4 and not rounded: 254.1234 typed in a metric view is still 254.1234 after any number of
-    /// switches. An expression (RegExpression), whose text does not change on a switch, is evaluated and read
-    /// in the view's current unit. Text that is not a number counts as 0; a field of another kind gives NaN.
-    double exactValue(int unit) const;
-    /// The same number as a length, to the nearest nanometre, according to lengthScale(). Saturates at the
-    /// limits of qint64; exact below 9e15. 0 for a field without a number.
-    qint64 exactLengthNm() const;
+    ///@{
+    /// The view whose unit applies, at first the parent given to the constructor. A field that follows its
+    /// view switches to the unit of the new one, if that is registered; any other keeps its text.
+    void const * view() const;
+    void setView(void const * view);
+    ///@}
+
+    /// Fills the field as if the text had been typed in `unit`, and shows it in the unit that the field shows
+    /// (before any text, that of its view; an unregistered view is not asked). The view and the engine are
+    /// not touched. Without a unit-tracked kind the same as setText(); like it, not validated.
+    void setTyped(QString const & text, Ext::Unit unit);
+    /// The text last typed or set, in typedUnit(), whatever unit is shown; text() without a unit-tracked
+    /// kind.
+    QString typed() const;
+    /// The unit of typed(); inch before any text.
+    Ext::Unit typedUnit() const;
+
+    ///@{
+    /// The kind, for forms that create their fields without one (Qt Designer). Setting it installs the
+    /// validator and records a text that is there as typed in the view's unit; AnyText removes the validator.
+    /// As in the constructor, any other number than those of Kind accepts no typed input.
+    Kind kind() const;
+    void setKind(Kind kind);
+    void setKind(KVERegExp kind) { setKind(static_cast<Kind>(kind)); }
+    ///@}
+
+    ///@{
+    /// Default AsDescribed. Setting it converts a shown name again if it was not typed in the unit shown.
+    SymbolConversion symbolConversion() const;
+    void setSymbolConversion(SymbolConversion conversion);
+    ///@}
+
+    /// The last typed number in `unit`, converted from the unit it was typed in by exactly 25.4 and not
+    /// rounded: 254.1234 typed in a metric view is still 254.1234 after any number of switches. An expression
+    /// (RegExpression), whose text does not change on a switch, is evaluated and read in the view's current
+    /// unit. Text that is not a number counts as 0; a field of another kind gives NaN.
+    double exactValue(Ext::Unit unit) const;
+    /// The same number as a length, according to lengthScale(). 0 for a field without a number.
+    Ext::Length exactLength() const;
     ///@{
     /// Default Small.
     LengthScale lengthScale() const;
     void setLengthScale(LengthScale scale);
     ///@}
 
-    /// From now on input is checked on every edit, like isValueLegal() but without a box: bounds in mil, only
-    /// the numbers count, and text that is not a number is 0. With lengthScale() Large, values are inches and
-    /// millimetres. A symbol name (kinds 7 to 9) is checked as in isSymbolValueLegal(). An expression is
-    /// evaluated (an empty one is 0); with two non-digits in a row it is illegal. Any other kind is always
-    /// legal. A number or name keeps its verdict on a unit switch; an expression, whose text does not change,
-    /// is checked again. The verdict is reported by validityChanged() and the dynamic property "uiapiValid"
+    /// From now on input is checked on every edit by Ext::checkValue(), without a box: only the numbers
+    /// count, and text that is not a number is 0. With lengthScale() Large, values are inches and
+    /// millimetres. A symbol name (kinds 7 to 9) is checked by Ext::checkSymbol(). An expression is evaluated
+    /// (an empty one is 0); with two non-digits in a row it is illegal. Any other kind is always legal. A
+    /// number or name keeps its verdict on a unit switch; an expression, whose text does not change, is
+    /// checked again. The verdict is reported by validityChanged() and the dynamic property "uiapiValid"
     /// (bool), which style sheets can select: [uiapiValid="false"].
-    void setRange(double minimum, double maximum);
+    void setRange(Ext::Length minimum, Ext::Length maximum);
     /// Ends the checks and removes the property.
     void clearRange();
 
@@ -114,8 +177,8 @@ public:
     ///@}
 
 signals:
-    /// The verdict of a field with a range changed, or the text of an illegal one. `text` says why the value
-    /// is illegal, with the bounds in the displayed unit; empty if legal.
+    /// The verdict of a field with a range changed, or the text of an illegal one. `text` is the translated
+    /// sentence of the verdict, with the bounds in the displayed unit; empty if legal.
     void validityChanged(bool legal, QString text);
     /// A key was rejected while refusal hints are on. `text` says in plain words what can be typed.
     void inputRefused(QString text);
@@ -129,12 +192,13 @@ private:
 
     void insertLimit();
     void restrictTo(KVERegExp kind);
+    void record(QString const & text, int unit);
     QString typedText() const;
     std::optional<Quantity> quantity() const;
-    QString rangeWords(int unit) const;
     Ext::ValueVerdict verdict() const;
     void judge();
     void explainRefusal();
+    void watchView();
 
     Private * d; // owned
 };

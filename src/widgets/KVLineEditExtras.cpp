@@ -1,12 +1,10 @@
-// The additions of KVLineEdit: exact values, ranges, following a view, explaining rejected keys.
+// The additions of KVLineEdit: exact values, ranges, its view, its kind, explaining rejected keys.
 
-#include "support/Narrowing.h"
-#include "uiapi/Notifier.h"
+#include "uiapi/ViewUnit.h"
 #include "uiapi/flat/Arithmetic.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "units/Expression.h"
 #include "units/ValueCheck.h"
-#include "units/ValueLegality.h"
 #include "widgets/KVLineEdit.h"
 #include "widgets/KVLineEditPrivate.h"
 
@@ -14,15 +12,16 @@
 #include <QPointer>
 #include <QStyle>
 #include <QToolTip>
+#include <QValidator>
 
 #include <cmath>
 #include <limits>
+#include <memory>
 
 namespace KVCAM::UIAPI {
 namespace {
 
 constexpr char const * validProperty = "uiapiValid";
-constexpr double smallPerLarge = 1000.0; // mil in an inch, micrometres in a millimetre
 
 } // namespace
 
@@ -41,36 +40,31 @@ QString KVLineEdit::typedText() const
 std::optional<KVLineEdit::Quantity> KVLineEdit::quantity() const
 {
     if (d->tracking() == UnitTracking::Number) {
-        return Quantity{typedText().toDouble(), d->typedUnit};
+        return Quantity{typedText().toDouble(), Ext::unitOfCode(d->typedUnit)};
     }
     if (d->kind == RegExpression) {
-        return Quantity{caculateData(text()), getUnit(d->owner)};
+        return Quantity{caculateData(text()), Ext::unitOf(d->owner)};
     }
     return std::nullopt;
 }
 
-double KVLineEdit::exactValue(int unit) const
+double KVLineEdit::exactValue(Ext::Unit unit) const
 {
     auto const held = quantity();
     if (!held) {
         return std::numeric_limits<double>::quiet_NaN();
     }
-    bool const wantsInch = unit == Units::inch;
-    if (wantsInch == (held->unit == Units::inch)) {
+    if (unit == held->unit) {
         return held->value;
     }
-    return wantsInch ? held->value / Units::millimetresPerInch : held->value * Units::millimetresPerInch;
+    return unit == Ext::Unit::Inch ? held->value / Units::millimetresPerInch
+                                   : held->value * Units::millimetresPerInch;
 }
 
-qint64 KVLineEdit::exactLengthNm() const
+Ext::Length KVLineEdit::exactLength() const
 {
     auto const held = quantity();
-    if (!held) {
-        return 0;
-    }
-    double const large =
-        held->unit == Units::inch ? Units::nanometresPerInch : Units::nanometresPerMillimetre;
-    return nearestInt64(held->value * (d->scale == Large ? large : large / smallPerLarge));
+    return held ? Ext::Length::from(held->value, held->unit, Ext::LengthScale(d->scale)) : Ext::Length();
 }
 
 KVLineEdit::LengthScale KVLineEdit::lengthScale() const
@@ -84,7 +78,7 @@ void KVLineEdit::setLengthScale(LengthScale scale)
     judge();
 }
 
-void KVLineEdit::setRange(double minimum, double maximum)
+void KVLineEdit::setRange(Ext::Length minimum, Ext::Length maximum)
 {
     d->range = Private::Range{minimum, maximum};
     if (!d->judging) {
@@ -100,38 +94,37 @@ void KVLineEdit::clearRange()
     judge();
 }
 
-// The message for an illegal value: the bounds in the displayed unit, at the field's scale.
-QString KVLineEdit::rangeWords(int unit) const
-{
-    bool const isLarge = d->scale == Large && d->tracking() != UnitTracking::Symbol;
-    double const scale = isLarge ? smallPerLarge : 1.0;
-    int const decimals = isLarge ? 5 : 2;
-    return ValueLegality::lengthMessage(Units::milText(unit, d->range->minimum / scale, decimals),
-                                        Units::milText(unit, d->range->maximum / scale, decimals));
-}
-
 // Check the input in the unit it was typed in, so that rounding in the other unit never changes a verdict.
+// The sentence shows the bounds in the displayed unit.
 Ext::ValueVerdict KVLineEdit::verdict() const
 {
-    Ext::ValueVerdict verdict;
     if (!d->range) {
-        return verdict;
+        return {};
+    }
+    bool const isSymbol = d->tracking() == UnitTracking::Symbol;
+    auto const held = isSymbol ? std::nullopt : quantity();
+    if (!isSymbol && !held) {
+        return {};
+    }
+    if (d->kind == RegExpression && Expression::formOf(text()) == Expression::Form::NonDigitPair) {
+        Ext::ValueVerdict unreadable;
+        unreadable.ok = false;
+        unreadable.fault = Ext::ValueFault::NotReadable;
+        unreadable.reason = tr("This calculation cannot be read.");
+        return unreadable;
     }
     auto const [minimum, maximum] = *d->range;
-    if (d->tracking() == UnitTracking::Symbol) {
-        verdict = Ext::checkSymbol(typedText(), minimum, maximum, d->typedUnit);
-    } else if (auto const held = quantity()) {
-        if (d->kind == RegExpression && Expression::formOf(text()) == Expression::Form::NonDigitPair) {
-            return {false, QObject::tr("CaculateData ERROR")};
-        }
-        double const value = d->scale == Large ? held->value * smallPerLarge : held->value;
-        verdict = Ext::checkValue(value, minimum, maximum, held->unit);
+    auto const scale = static_cast<Ext::LengthScale>(d->scale);
+    auto const check = [&, low = minimum, high = maximum](Ext::Unit shown) {
+        return isSymbol ? Ext::checkSymbol(typedText(), low, high, Ext::unitOfCode(d->typedUnit), shown)
+                        : Ext::checkValue(Ext::Length::from(held->value, held->unit, scale), low, high, shown,
+                                          scale);
+    };
+    if (d->kind == RegExpression) {
+        return check(held->unit);
     }
-    if (!verdict.legal) {
-        bool const isShownUnitKnown = d->kind != RegExpression && d->shownUnit;
-        verdict.text = rangeWords(isShownUnitKnown ? *d->shownUnit : getUnit(d->owner));
-    }
-    return verdict;
+    auto const verdict = check(Ext::unitOfCode(d->shownUnit.value_or(Units::inch)));
+    return verdict || d->shownUnit ? verdict : check(Ext::unitOf(d->owner)); // only a refusal looks it up
 }
 
 void KVLineEdit::judge()
@@ -140,15 +133,15 @@ void KVLineEdit::judge()
         return;
     }
     Ext::ValueVerdict const now = verdict();
-    bool const isOther = now.legal != d->verdict.legal;
-    bool const isNews = isOther || now.text != d->verdict.text;
+    bool const isOther = now.ok != d->verdict.ok;
+    bool const isNews = isOther || now.reason != d->verdict.reason;
     bool const isMarked = d->range.has_value();
     bool const isPropertyStale = isOther || isMarked != d->isMarked;
     d->verdict = now;
     d->isMarked = isMarked;
     QPointer<KVLineEdit> const alive(this); // event filters and slots may delete the field
     if (isPropertyStale) {
-        setProperty(validProperty, isMarked ? QVariant(now.legal) : QVariant());
+        setProperty(validProperty, isMarked ? QVariant(now.ok) : QVariant());
         if (alive) {
             // Style sheets read a property only when the widget is polished.
             style()->unpolish(this);
@@ -159,13 +152,13 @@ void KVLineEdit::judge()
         }
     }
     if (alive && isNews) {
-        emit validityChanged(now.legal, now.text);
+        emit validityChanged(now.ok, now.reason);
     }
 }
 
 bool KVLineEdit::followView() const
 {
-    return bool(d->following);
+    return d->following != nullptr;
 }
 
 void KVLineEdit::setFollowView(bool follow)
@@ -174,18 +167,122 @@ void KVLineEdit::setFollowView(bool follow)
         return;
     }
     if (!follow) {
-        disconnect(d->following);
+        d->following.reset();
         return;
     }
-    d->following = connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
-                           [this](void const * view, Ext::ViewAspects aspects) {
-                               if (view == d->owner && aspects.testFlag(Ext::ViewAspect::Unit)) {
-                                   changeunit(getUnit(d->owner));
-                               }
-                           });
+    watchView();
     // The view may have changed since the text was typed. Text without a unit needs no view look-up.
     if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
         changeunit(getUnit(d->owner));
+    }
+}
+
+void KVLineEdit::watchView()
+{
+    d->following = std::make_unique<Ext::ViewWatch>(d->owner);
+    connect(d->following.get(), &Ext::ViewWatch::changed, this, [this](Ext::ViewAspects aspects) {
+        if (aspects.testFlag(Ext::ViewAspect::Unit)) {
+            changeunit(getUnit(d->owner));
+        }
+    });
+}
+
+void const * KVLineEdit::view() const
+{
+    return d->owner;
+}
+
+void KVLineEdit::setView(void const * view)
+{
+    if (view == d->owner) {
+        return;
+    }
+    d->owner = view;
+    auto const unit = d->viewUnit();
+    if (followView()) {
+        watchView();
+        if (unit) {
+            changeunit(*unit); // judges too
+            return;
+        }
+    }
+    if (unit) {
+        judge(); // an expression is read in the view's unit
+    }
+}
+
+void KVLineEdit::setTyped(QString const & text, Ext::Unit unit)
+{
+    if (d->tracking() == UnitTracking::None) {
+        setText(text);
+        return;
+    }
+    int const typed = Ext::unitCode(unit);
+    int const shown = d->shownUnit ? *d->shownUnit : d->viewUnit().value_or(typed);
+    // An empty text would become 0 in the other unit.
+    record(text.left(maxLength()), text.isEmpty() ? shown : typed);
+    changeunit(shown);
+}
+
+QString KVLineEdit::typed() const
+{
+    return d->tracking() == UnitTracking::None ? text() : typedText();
+}
+
+Ext::Unit KVLineEdit::typedUnit() const
+{
+    return Ext::unitOfCode(d->typedUnit);
+}
+
+KVLineEdit::Kind KVLineEdit::kind() const
+{
+    return static_cast<Kind>(d->kind);
+}
+
+void KVLineEdit::setKind(Kind kind)
+{
+    bool const isUnrestricted = !d->recording; // as is a field without a kind, but none of kind 0
+    if (kind == this->kind() && isUnrestricted == (kind == AnyText)) {
+        return;
+    }
+    disconnect(d->recording);
+    for (QString * text : {&d->metricNumber, &d->inchNumber, &d->metricSymbol, &d->inchSymbol}) {
+        text->clear();
+    }
+    d->shownUnit.reset();
+    d->typedUnit = Units::inch;
+    QValidator const * const former = validator();
+    if (kind == AnyText) {
+        d->kind = KVERegExp(0);
+        setValidator(nullptr);
+    } else {
+        restrictTo(KVERegExp(kind));
+    }
+    if (former != nullptr && former->parent() == this) {
+        delete former;
+    }
+    if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
+        record(text(), d->viewUnit().value_or(Units::inch));
+    }
+    judge();
+}
+
+KVLineEdit::SymbolConversion KVLineEdit::symbolConversion() const
+{
+    return d->symbolConversion;
+}
+
+void KVLineEdit::setSymbolConversion(SymbolConversion conversion)
+{
+    if (conversion == d->symbolConversion) {
+        return;
+    }
+    d->symbolConversion = conversion;
+    bool const typedInInch = d->typedUnit == Units::inch;
+    (typedInInch ? d->metricSymbol : d->inchSymbol).clear(); // converted by the former rule, if at all
+    bool const showsOther = d->shownUnit && (*d->shownUnit == Units::inch) != typedInInch;
+    if (showsOther && d->tracking() == UnitTracking::Symbol) {
+        changeunit(*d->shownUnit);
     }
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "uiapi/Notifier.h"
+#include "uiapi/RegisteredViews.h"
+#include "uiapi/flat/ShowParameters.h"
 #include "units/UnitConversion.h"
 #include "units/ValueCheck.h"
 #include "widgets/KVInputKinds.h"
@@ -7,6 +10,7 @@
 
 #include <QMetaObject>
 
+#include <memory>
 #include <optional>
 
 namespace KVCAM::UIAPI {
@@ -15,7 +19,7 @@ namespace KVCAM::UIAPI {
 struct KVLineEdit::Quantity
 {
     double value;
-    int unit;
+    Ext::Unit unit;
 };
 
 struct KVLineEdit::Private
@@ -24,26 +28,33 @@ struct KVLineEdit::Private
     QString inchNumber;
     QString metricSymbol;
     QString inchSymbol;
-    bool isChanging = false;   // changeunit() is rewriting the text; do not record it
-    QWidget * owner = nullptr; // the view handle: compared, never dereferenced
+    bool isChanging = false;      // changeunit() is rewriting the text; do not record it
+    void const * owner = nullptr; // the view handle: compared, never dereferenced
     KVERegExp kind = KVERegExp(0);
     QMetaObject::Connection recording;
 
     // Additions
     struct Range
     {
-        double minimum;
-        double maximum;
+        Ext::Length minimum;
+        Ext::Length maximum;
     };
     int typedUnit = Units::inch;  // of the last typed text
     std::optional<int> shownUnit; // unknown until a text is recorded or a unit is requested
     LengthScale scale = Small;
+    SymbolConversion symbolConversion = AsDescribed;
     std::optional<Range> range;
     Ext::ValueVerdict verdict; // as last reported
     bool isMarked = false;     // the dynamic property is set
     QMetaObject::Connection judging;
-    QMetaObject::Connection following;
+    std::unique_ptr<Ext::ViewWatch> following; // of the view, while it is followed
     QMetaObject::Connection refusals;
+
+    // The view's unit; an unregistered view is not asked, since that is logged.
+    std::optional<int> viewUnit() const
+    {
+        return Ext::isRegistered(owner) ? std::optional(getUnit(owner)) : std::nullopt;
+    }
 
     UnitTracking tracking() const
     {

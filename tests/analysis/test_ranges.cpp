@@ -2,6 +2,7 @@
 
 #include "analysis/AnalysisReport.h"
 #include "analysis/CategoryDictionary.h"
+#include "analysis/RangeFile.h"
 #include "analysis/RangeStore.h"
 #include "support/HostPaths.h"
 #include "uiapi/UIAPICommonPara.h"
@@ -141,6 +142,30 @@ TEST_F(RangesTest, LevelsAreReadFromTextsAlone)
         EXPECT_EQ(shown(fresh, "one"), row.expected) << row.content;
     }
     EXPECT_EQ(log.take(), Lines{});
+}
+
+// Damaged in every place and way, a plain file is either left to the document or means the same.
+TEST_F(RangesTest, ThePlainWayReadsNothingThatTheDocumentReadsOtherwise)
+{
+    QByteArray const whole = R"( {"rangesList":[{"name":"a","RedLv":"-1.5","x":""}, {},{"GreenLv":"2"}]}
+)";
+    int plain = 0;
+    for (int at = 0; at < 2 * whole.size(); ++at) {
+        for (char const with : QByteArray("\0 \"\\,:[]{}e.0\t\x80\x7f\r", 17)) {
+            QByteArray const bytes = QByteArray(whole).replace(at / 2, at % 2, QByteArray(1, with));
+            if (auto const records = RangeFile::readPlainRecords(bytes)) {
+                ++plain;
+                auto const expected = RangeFile::readRecords(QJsonDocument::fromJson(bytes));
+                auto const isSame = [](auto const & a, auto const & b) {
+                    return a.name == b.name && a.redLv == b.redLv && a.greenLv == b.greenLv;
+                };
+                EXPECT_TRUE(expected && std::equal(records->begin(), records->end(), expected->begin(),
+                                                   expected->end(), isSame))
+                    << bytes.toStdString();
+            }
+        }
+    }
+    EXPECT_GT(plain, 100);
 }
 
 TEST_F(RangesTest, FilesThatCannotBeReadAreLogged)

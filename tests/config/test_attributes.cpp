@@ -32,6 +32,8 @@ TEST_F(AttributesTest, ElementsAreAssignedByNameAndTheLastWins)
              Row{R"({"Attribute":".a","hasParam":1,"ProAttribute":["x"]},{"Attribute":".a","unit":3})",
                  {{".a", {0, 3, {}}}}},
              Row{R"(".a",7,null,[],{"Attribute":".b"})", {{".b", {0, 0, {}}}}},
+             Row{R"({"Attribute":".a","ProAttribute":["x"],"unit":1,"unit":-10,"ProAttribute":[]})",
+                 {{".a", {0, -10, {}}}}},
              Row{R"({})", {{"", {0, 0, {}}}}},
              Row{R"({"Attribute":5,"hasParam":"1","unit":1.5,"ProAttribute":["x",5,null]})",
                  {{"", {0, 0, {"x", "", ""}}}}},

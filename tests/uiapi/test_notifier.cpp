@@ -10,7 +10,9 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
+#include <functional>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 using namespace KVCAM::UIAPI;
@@ -62,6 +64,36 @@ TEST_F(NotifierTest, ASlotThatThrowsChangesNoResult)
     Lines const lines = log.take();
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[1], paraError("异常描述：slot"));
+}
+
+// Watches hear of their own view, before the listeners of all, whatever a slot of another one does.
+TEST_F(NotifierTest, AWatchHearsOfItsViewAlone)
+{
+    QObject context;
+    std::string heard;
+    auto const watch = [&](void const * of, char name, std::function<void()> const & slot) {
+        auto * const made = new Ext::ViewWatch(of, &context);
+        QObject::connect(made, &Ext::ViewWatch::changed, [&heard, name, slot](auto aspects) {
+            heard += name + std::to_string(int(aspects)) + ' ';
+            slot();
+        });
+        return made;
+    };
+    auto const nothing = [] {};
+    Ext::ViewWatch * late = nullptr;
+    watch(viewHandle(1), 'o', nothing);
+    watch(nullptr, 'n', nothing);
+    delete watch(view, 'd', nothing);
+    watch(view, 'a', [&] { delete std::exchange(late, nullptr), throw std::runtime_error("slot"); });
+    late = watch(view, 'l', nothing);
+    watch(view, 'z', [&] { watch(view, 'w', nothing); }); // too late for this change
+    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
+                     [&] { heard += "all "; });
+    EXPECT_EQ(UIAPICommonPara::m_pUIAPICommonParaInstance, nullptr);
+    registerView();
+    setSelectionClear(view, true);
+    EXPECT_EQ(heard, "a7 z7 all a4 z4 w4 all ");
+    EXPECT_EQ(log.take().size(), 4U);
 }
 
 TEST_F(NotifierTest, CanBeSpiedOnAndQueued)

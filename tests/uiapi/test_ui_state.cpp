@@ -1,5 +1,6 @@
 #include "harness/UiapiTest.h"
 
+#include "uiapi/RegisteredViews.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/ModifierKeys.h"
 #include "uiapi/flat/UiState.h"
@@ -78,6 +79,18 @@ TEST_F(UiState, InputWidgetLeavesItsTrace)
                                  "W UIAPICommonPara: setInputPtr old m_input " + shown(&second),
                                  "W UIAPICommonPara: setInputPtr new m_input 0",
                                  "I UIAPICommonPara: setInputPtr _input " + shown(&first)}));
+}
+
+TEST_F(UiState, InputWidgetIsNullOnceItIsDestroyed)
+{
+    auto * const widget = new QWidget;
+    setInputPtr(widget);
+    EXPECT_EQ(Ext::inputWidget(), widget);
+    delete widget;
+    EXPECT_EQ(Ext::inputWidget(), nullptr);
+    EXPECT_EQ(getInputPtr(), widget);
+    setInputPtr(getInputPtr()); // an address alone is never looked into
+    EXPECT_EQ(Ext::inputWidget(), nullptr);
 }
 
 TEST_F(UiState, ModifiersAreComparedAsWholeMasks)

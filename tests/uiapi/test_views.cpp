@@ -1,5 +1,7 @@
 #include "harness/UiapiTest.h"
 
+#include "uiapi/Notifier.h"
+#include "uiapi/RegisteredViews.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/Selections.h"
 #include "uiapi/flat/ShowParameters.h"
@@ -65,8 +67,43 @@ TEST_F(Views, RegistrationIsRefusedForNullAndSilentlyForAKnownView)
     EXPECT_EQ(log.take(), Lines{});
 }
 
-// One row for each way to store a view's state: what it logs for an unknown view and pushes for a known one
-// (the save flag aside).
+// A record is never removed, so a new view at an old address has to replace all of it.
+TEST_F(Views, RegisteringAgainReplacesEveryPartInPlaceAndPushesLikeARegistration)
+{
+    EXPECT_TRUE(Ext::views().empty() && !Ext::isRegistered(view) && !Ext::registerView({}));
+    Step_Config former{view, {8}, {1, SNAP_GRID, 2}, {1, 9, true, false, false}, {}, {}, {3, 4}};
+    former.edit_buffer.features["top"].resize(2);
+    EXPECT_TRUE(Ext::registerView(former));
+    registerView(unknown, 1);
+    Edit_Buffer * const buffer = getEditBuffer(view);
+    coordinate * const position = getCoordinate(view);
+    int told = 0;
+    QObject context;
+    QObject::connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, &context,
+                     [&](void const * changed, Ext::ViewAspects aspects) {
+                         told += changed == view && int(aspects) == 7 && getUnit(view) == 0 ? 1 : 100;
+                     });
+    engine.saveFlag = true;
+    engine.throwFrom("set_selection", "!");
+    engine.onNextCall("set_show_para", [&] { EXPECT_EQ(getSnapSize(view), 5); }); // replaced before any push
+    Step_Config fresh;
+    fresh.view = view;
+    EXPECT_TRUE(Ext::registerView(fresh));
+    EXPECT_EQ(engine.take(),
+              (Calls{"DB::get_SaveFlag()", "DB::set_show_para_db_save(0 0 false true true)",
+                     "API::set_show_para(0 0 false true true)", "DB::get_SaveFlag()",
+                     "DB::set_selection_db_save(false false false false false false)",
+                     "API::set_selection(false false false false false false)", "DB::get_SaveFlag()",
+                     "DB::set_select_param_db_save(0)", "API::set_select_param(0)"}));
+    EXPECT_EQ(log.take(), Lines{paraError("KVCAM UIAPI sendSelectionToAPI error!")});
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(Ext::views(), (std::vector<void const *>{view, unknown}));
+    EXPECT_EQ(int(getSnapMode(view)) + getSnapControl(view).first, 7 + 127);
+    EXPECT_TRUE(buffer == getEditBuffer(view) && buffer->features.empty() && position->x == 0);
+}
+
+// One row for each way a view's state is stored: what it logs for an unknown view, what it pushes for a known
+// one (the save flag aside).
 struct StoreRow
 {
     char const * name;

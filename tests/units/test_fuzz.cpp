@@ -4,6 +4,7 @@
 
 #include "support/Narrowing.h"
 #include "units/DecimalText.h"
+#include "units/Evaluate.h"
 #include "units/Expression.h"
 #include "units/SymbolDescription.h"
 #include "units/SymbolName.h"
@@ -228,7 +229,7 @@ TEST_F(Fuzz, SymbolNames)
             }
         }
         SCOPED_TRACE(name.toStdString());
-        EXPECT_EQ(Ext::describeSymbol(name, number(-1, 2)).isEmpty(), name.isEmpty());
+        EXPECT_EQ(Ext::describeSymbol(name, Ext::unitOfCode(number(0, 1))).isEmpty(), name.isEmpty());
         if (isPlain(name)) {
             compareRewrites(name);
         }
@@ -248,6 +249,43 @@ TEST_F(Fuzz, Expressions)
                 EXPECT_EQ(form == Expression::Form::Standard, !expression.contains(bad));
             }
         });
+}
+
+TEST_F(Fuzz, EvaluatedTexts)
+{
+    QStringList const pieces =
+        QString(u8"+|-|-|*|/|(|)|(1+2)|1|2|0.5|10.25|0|.|,|e|mm|mil|um|\u00b5m|\"|in|cm| |x|007|"
+                u8"123456789012345678901|3mm|4mil|0.001|1e9")
+            .split('|');
+    run(pieces, 24, [&](QString const & text) {
+        Ext::EvaluateOptions options;
+        if (number(0, 2) > 0) {
+            options.defaultUnit = Ext::unitOfCode(number(0, 1));
+        }
+        options.as = Ext::EvaluateAs(number(0, 2));
+        options.decimalComma = number(0, 1) == 0;
+        Ext::Evaluation const result = Ext::evaluate(text, options);
+        EXPECT_EQ(result.ok, result.fault == Ext::EvaluateFault::None && result.reason.isEmpty());
+        if (!result.ok) {
+            EXPECT_TRUE(result.position >= 0 && result.position + result.size <= text.size());
+            EXPECT_EQ(result.size == 0, text.isEmpty());
+            // What stands before the fault does not depend on what follows it.
+            if (result.fault == Ext::EvaluateFault::UnknownCharacter) {
+                EXPECT_EQ(Ext::evaluate(text + "+1", options).position, result.position);
+            }
+            return;
+        }
+        Ext::Evaluation const negative = Ext::evaluate("-(" + text + ")", options);
+        EXPECT_TRUE(negative.ok && negative.isLength == result.isLength);
+        EXPECT_EQ(negative.length, -result.length);
+        EXPECT_EQ(negative.number, -result.number);
+        if (!result.isLength && !text.contains(QLatin1Char(',')) &&
+            Expression::formOf(text) == Expression::Form::Standard) {
+            double const classic = Expression::evaluate(text);
+            EXPECT_TRUE(result.differs ? result.classicValue == classic
+                                       : std::abs(classic - result.number) <= 1e-9 * (1 + std::abs(classic)));
+        }
+    });
 }
 
 TEST_F(Fuzz, Numbers)

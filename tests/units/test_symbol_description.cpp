@@ -34,7 +34,7 @@ TEST(SymbolDescription, SentencesGiveBothUnitsTheNamesOwnFirst)
               "moire, ring width 10 mil (254 my), ring gap 5 mil (127 my), rings 3, line width 2 mil (50.8 "
               "my), "
               "line length 20 mil (508 my), turned by 45 degrees"}}) {
-        EXPECT_EQ(Ext::describeSymbol(row.name, row.unit).toStdString(), row.text);
+        EXPECT_EQ(Ext::describeSymbol(row.name, Ext::unitOfCode(row.unit)).toStdString(), row.text);
     }
 }
 
@@ -45,9 +45,9 @@ TEST(SymbolDescription, WhatFitsNoFamilyIsAUsersOwn)
         "rect10x20xr|rect10x20xr5x15|rect399.9992x1599.99934_135|hole50x1x0x0|moire1x2x3x4x5|"
         "rect11x102 I|r10%1";
     for (QString const & name : names.split('|')) {
-        EXPECT_EQ(Ext::describeSymbol(name, 0), "user symbol " + name);
+        EXPECT_EQ(Ext::describeSymbol(name, Ext::Unit::Inch), "user symbol " + name);
     }
-    EXPECT_EQ(Ext::describeSymbol("", 0), QString());
+    EXPECT_EQ(Ext::describeSymbol("", Ext::Unit::Inch), QString());
 }
 
 TEST(SymbolDescription, EveryFamilyIsDescribedWithAllItsFields)
@@ -58,7 +58,7 @@ TEST(SymbolDescription, EveryFamilyIsDescribedWithAllItsFields)
                           "rc_ths10x7x90x4x2x1xr2x1|s_tho40x30x90x4x4xr4|rc_tho10x7x90x4x2x1|"
                           "o_ths5x3x90x4x1x0.5|donut_rc10x7x1xr2x3|donut_o5x3x0.5";
     for (QString const & name : names.split('|')) {
-        QString const text = Ext::describeSymbol(name, 0);
+        QString const text = Ext::describeSymbol(name, Ext::Unit::Inch);
         EXPECT_FALSE(text.startsWith("user symbol")) << name.toStdString();
         EXPECT_EQ(text.count(','), name.count(QRegularExpression("\\dx")) + 1) << name.toStdString();
     }

@@ -1,5 +1,6 @@
 #include "harness/UiapiTest.h"
 
+#include "uiapi/ViewUnit.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "uiapi/flat/Units.h"
 #include "units/UnitConversion.h"
@@ -160,6 +161,8 @@ TEST_F(UnitViews, FlatFunctionsFollowTheView)
              Row{[](auto view) { return getUnitJudgeStringMetric(view, 25400).toStdString(); }, "1.000",
                  "25.400"},
              Row{[](auto view) { return getUnitString(view); }, "Inch", "MM"},
+             Row{[](auto view) { return Ext::unitName(Ext::unitOf(view)).toStdString(); }, "inch",
+                 "millimetre"},
              Row{[](auto view) { return getUnitStringType(view, 1); }, "mil", "my"},
              Row{[](auto view) { return getAreaUnitStringType(view); }, "sq/in", "sq/mm"},
              Row{[](auto view) { return getAreaUnitJudgeString(view, 1).toStdString(); }, "1", "645.1600"},

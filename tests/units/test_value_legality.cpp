@@ -3,6 +3,7 @@
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/flat/Arithmetic.h"
 #include "units/ValueCheck.h"
+#include "widgets/Translation.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -10,8 +11,10 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 using namespace KVCAM::UIAPI;
+using namespace KVCAM::UIAPI::Ext::LengthLiterals;
 using namespace KVCAM::Testing;
 
 namespace {
@@ -26,12 +29,9 @@ protected:
         registerView(viewHandle(1), 1);
     }
 
-    // The text of the box, if any, is that of the verdict without a box.
-    void expectShown(Ext::ValueVerdict const & verdict, bool legal, std::string const & text)
+    void expectShown(std::string const & text)
     {
-        EXPECT_EQ(verdict.legal, legal);
-        EXPECT_EQ(verdict.text.toStdString(), text);
-        EXPECT_EQ(boxes.take(), legal ? Lines{} : Lines{informationBox(text)});
+        EXPECT_EQ(boxes.take(), text.empty() ? Lines{} : Lines{informationBox(text)});
     }
 
     static std::string lengthText(std::string const & bounds)
@@ -61,11 +61,10 @@ TEST_F(ValueLegality, BoundsInMilAreConvertedAndBelongToTheRange)
         SCOPED_TRACE(row.value);
         std::string const text = lengthText(row.bounds);
         void const * const view = viewHandle(row.unit);
-        Ext::ValueVerdict const verdict = Ext::checkValue(row.value, row.minimum, row.maximum, row.unit);
         EXPECT_EQ(isValueLegal(row.value, row.minimum, row.maximum, view), text.empty());
-        expectShown(verdict, text.empty(), text);
+        expectShown(text);
         UIAPICommonPara::instance()->isValueLegal1(row.value, row.minimum, row.maximum, view);
-        expectShown(verdict, text.empty(), text);
+        expectShown(text);
     }
     EXPECT_EQ(log.take(), Lines{});
 }
@@ -110,7 +109,8 @@ TEST_F(ValueLegality, PlainNumbersAreNotConverted)
         std::string const text =
             *row.text == '\0' ? "" : std::string("floating value for field is out of range: ") + row.text;
         EXPECT_EQ(isNumValueLegal(row.value, row.minimum, row.maximum, viewHandle(1)), text.empty());
-        expectShown(Ext::checkNumber(row.value, row.minimum, row.maximum), text.empty(), text);
+        expectShown(text);
+        EXPECT_EQ(Ext::checkNumber(row.value, row.minimum, row.maximum).ok, text.empty());
     }
 }
 
@@ -129,8 +129,8 @@ TEST_F(ValueLegality, TheFirstIllegalNumberOfASymbolEndsTheCheck)
                             Row{"r1..2", 0, false, 4}, Row{"ths5x5x45x4x5", 0, false, 8}}) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(isSymbolValueLegal(row.name, 1, 10, viewHandle(row.unit)), row.legal);
-        expectShown(Ext::checkSymbol(row.name, 1, 10, row.unit), row.legal,
-                    row.legal ? "" : lengthText(row.unit == 0 ? "(1, 10)" : "(25.40, 254.00)"));
+        expectShown(row.legal ? "" : lengthText(row.unit == 0 ? "(1, 10)" : "(25.40, 254.00)"));
+        EXPECT_EQ(Ext::checkSymbol(row.name, 1_mil, 10_mil, Ext::unitOfCode(row.unit)).ok, row.legal);
         if (row.unit == 0) {
             isSymbolValueLegal(row.name, 1, 10, viewHandle(9));
             EXPECT_EQ(log.take(), Lines(row.lookUps, operationError("getShowPara")));
@@ -160,6 +160,57 @@ TEST_F(ValueLegality, TheComposedMessageIsTranslated)
     EXPECT_EQ(boxes.take(), Lines{"information|INFORMATION|CACULATEDATA ERROR"});
     log.take();
     QCoreApplication::removeTranslator(&upper);
+}
+
+// Kind, bounds and sentence; the bounds are included, to the nanometre.
+TEST_F(ValueLegality, VerdictsSayWhatIsAllowedInTheUnitAndTheLanguage)
+{
+    struct Row
+    {
+        Ext::ValueVerdict verdict;
+        Ext::ValueFault fault;
+        char const * sentence;
+        char const * chinese;
+    };
+    auto const none = Ext::Length::highest();
+    auto const inch = Ext::Unit::Inch;
+    auto const metric = Ext::Unit::Millimetre;
+    auto const check = [](Ext::Length value, Ext::Length minimum, Ext::Length maximum, Ext::Unit unit,
+                          Ext::LengthScale scale = Ext::LengthScale::Small) {
+        return Ext::checkValue(value, minimum, maximum, unit, scale);
+    };
+    auto const rows = [&] {
+        return std::vector<Row>{
+            {check(76.2_um, 1_mil, 3_mil, metric), Ext::ValueFault::None, "", ""},
+            {check(1_mil, 25.4_um, 3_mil, metric), Ext::ValueFault::None, "", ""},
+            {check(76201_nm, 1_mil, 3_mil, inch), Ext::ValueFault::TooLarge,
+             "Allowed: 1 mil to 3 mil, both included.", "允许范围：1 mil 至 3 mil（含两端）。"},
+            {check(0_nm, 1_nm, 3_mil, metric, Ext::LengthScale::Large), Ext::ValueFault::TooSmall,
+             "Allowed: 0.000001 mm to 0.0762 mm, both included.",
+             "允许范围：0.000001 mm 至 0.0762 mm（含两端）。"},
+            {check(0_nm, 1_um, none, metric), Ext::ValueFault::TooSmall, "Allowed: 1 my or more.",
+             "允许范围：不小于 1 my。"},
+            {check(0_nm, -none, -1_um, metric), Ext::ValueFault::TooLarge, "Allowed: -1 my or less.",
+             "允许范围：不大于 -1 my。"},
+            {Ext::checkSymbol("rect25.4x300", 1_mil, 10_mil, metric, inch), Ext::ValueFault::TooLarge,
+             "\"300\" is out of range. Allowed: 1 mil to 10 mil, both included.",
+             "“300”超出范围。允许范围：1 mil 至 10 mil（含两端）。"}};
+    };
+    for (Row const & row : rows()) {
+        EXPECT_EQ(row.verdict.ok, row.fault == Ext::ValueFault::None);
+        EXPECT_EQ(row.verdict.fault, row.fault) << row.sentence;
+        EXPECT_EQ(row.verdict.reason.toStdString(), row.sentence);
+    }
+    Ext::ValueVerdict const symbol = rows().back().verdict;
+    EXPECT_TRUE(symbol.minimum == 1_mil && symbol.maximum == 10_mil && symbol.position == 9 &&
+                symbol.size == 3);
+    Ext::NumberVerdict const number = Ext::checkNumber(5, 0.1234567, 4);
+    EXPECT_TRUE(number.fault == Ext::ValueFault::TooLarge && number.maximum == 4);
+    EXPECT_EQ(number.reason, "Allowed: 0.1234567 to 4, both included.");
+    ASSERT_TRUE(Ext::installTranslation(LANGUAGE_MODE(0)));
+    for (Row const & row : rows()) {
+        EXPECT_EQ(row.verdict.reason.toStdString(), row.chinese);
+    }
 }
 
 } // namespace

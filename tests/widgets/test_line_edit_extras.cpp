@@ -6,64 +6,131 @@
 #include <QPointer>
 #include <QSet>
 #include <QSignalSpy>
+#include <QValidator>
 
+#include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
 #include <string>
+#include <tuple>
+#include <utility>
 
 using namespace KVCAM::Testing;
 using namespace KVCAM::UIAPI;
+using namespace KVCAM::UIAPI::Ext::LengthLiterals;
 
 namespace {
 
 class LineEditExtras : public LineEditTest
 {};
 
-// The same keys and switches give the same texts with and without the additions.
-TEST_F(LineEditExtras, AdditionsAreOffByDefaultAndChangeNoText)
+TEST_F(LineEditExtras, AFieldFollowsItsViewAndNoOtherAndCanBeGivenAnother)
 {
-    for (int kind = 0; kind <= 12; ++kind) {
-        setUnit(&view, 0);
-        KVLineEdit & plain = field(kind);
-        QSignalSpy const validity(&plain, &KVLineEdit::validityChanged);
-        QSignalSpy const refused(&plain, &KVLineEdit::inputRefused);
-        KVLineEdit & extended = field(kind);
-        extended.setRange(1, 2);
-        extended.setFollowView(true);
-        extended.setRefusalHints(true);
-        extended.setLengthScale(KVLineEdit::Large);
-        for (char const * keys : {"12.5", "r10x", "-+*/.5", "1..2 A", ""}) {
-            for (int unit : {0, 1, 0, 1, 1}) {
-                retype(plain, keys);
-                retype(extended, keys);
-                show(plain, unit);
-                EXPECT_EQ(extended.text(), plain.text()) << kind << keys;
-            }
-        }
-        EXPECT_EQ(validity.count() + refused.count(), 0);
-        EXPECT_TRUE(plain.dynamicPropertyNames().isEmpty());
+    QWidget metric;
+    registerView(&metric, 1);
+    KVLineEdit edit("10", RegNumber, &view);
+    KVLineEdit sum("10", RegExpression, &view);
+    edit.setFollowView(true);
+    for (KVLineEdit * each : {&edit, &sum}) {
+        each->setRange(1_mil, 20_mil);
+        each->setView(&metric);
+        EXPECT_EQ(each->view(), &metric);
+    }
+    EXPECT_EQ(sum.property("uiapiValid"), false); // 10 micrometres
+    for (auto const & [handle, unit, text] :
+         {std::tuple(&view, 1, "254"), {&view, 0, "254"}, {&metric, 0, "10"}, {&metric, 1, "254"}}) {
+        setUnit(handle, unit);
+        EXPECT_EQ(edit.text(), text);
+    }
+    edit.setFollowView(false);
+    setUnit(&metric, 0);
+    EXPECT_EQ(edit.text(), "254");
+    edit.setFollowView(true); // begins with the unit that the view has now
+    EXPECT_EQ(edit.text(), "10");
+    QWidget const unknown;
+    edit.setView(&unknown); // is not asked
+    setUnit(&metric, 1);
+    EXPECT_EQ(edit.text(), "10");
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+TEST_F(LineEditExtras, AFieldIsFilledInAUnitWithoutTouchingItsView)
+{
+    struct Row
+    {
+        int kind, viewUnit;
+        Ext::Unit unit;
+        char const *text, *shown, *other; // in the view's unit and in the other one
+    };
+    auto const inch = Ext::Unit::Inch;
+    auto const metric = Ext::Unit::Millimetre;
+    for (Row const & row :
+         {Row{RegNumber, 1, inch, "10", "254", "10"}, Row{RegNumber, 0, inch, "10", "10", "254"},
+          Row{RegPositive, 0, metric, "254.1234", "10.0049", "254.1234"},
+          Row{RegSymbolName, 0, metric, "r254", "r10", "r254"},
+          Row{RegExpression, 1, inch, "1+1", "1+1", "1+1"}}) {
+        setUnit(&view, row.viewUnit);
+        engine.take();
+        KVLineEdit & edit = field(row.kind);
+        QSignalSpy const spy(&edit, &QLineEdit::textChanged);
+        edit.setTyped(row.text, row.unit);
+        EXPECT_EQ(edit.text() + QString::number(spy.count()), row.shown + QString("1"));
+        edit.changeunit(1 - row.viewUnit);
+        EXPECT_EQ(edit.text(), row.other);
+        EXPECT_EQ(std::pair(edit.typed(), edit.typedUnit()), std::pair(QString(row.text), row.unit));
+        edit.setTyped("", inch);
+        EXPECT_EQ(edit.text() + edit.typed(), "");
+        EXPECT_TRUE(engine.take().empty() && getUnit(&view) == row.viewUnit);
+    }
+    QWidget unknown;
+    KVLineEdit stranger(RegNumber, &unknown);
+    stranger.setTyped("10", metric);
+    EXPECT_EQ(stranger.text(), "10");
+    EXPECT_EQ(log.take(), Lines{});
+}
+
+// As Qt Designer sets it: by name, after the text and without a registered parent.
+TEST_F(LineEditExtras, TheKindCanBeSetLater)
+{
+    QWidget unknown;
+    KVLineEdit edit("254", &unknown);
+    EXPECT_TRUE(edit.setProperty("kind", "Positive"));
+    edit.setView(&view);
+    show(edit, 1);
+    EXPECT_EQ(edit.text(), "6451.6"); // what was there counts as inch
+    retype(edit, "-2x");
+    edit.setKind(RegPositive); // the kind that it has
+    EXPECT_EQ(edit.exactValue(Ext::Unit::Millimetre), 2);
+    for (auto const & [kind, keys, text] :
+         {std::tuple(RegName, "X a", "2a"), {KVERegExp(0), "?", "2a?"}, {KVERegExp(12), "3", "2a?"}}) {
+        edit.setKind(kind);
+        type(edit, keys);
+        show(edit, 0);
+        EXPECT_EQ(edit.text(), text);
+        EXPECT_EQ(edit.findChildren<QValidator *>().size(), kind == 0 ? 0 : 1);
     }
 }
 
-TEST_F(LineEditExtras, AFieldFollowsItsViewAndNoOther)
+TEST_F(LineEditExtras, SymbolsCanBeConvertedToTheUnitShown)
 {
-    QWidget other;
-    registerView(&other, 0);
-    KVLineEdit edit("1", RegNumber, &view);
-    KVLineEdit stranger("1", RegNumber, &other);
-    edit.setFollowView(true);
-    stranger.setFollowView(true);
-    for (int unit : {1, 0, 1}) {
+    using Names = std::array<char const *, 3>; // as typed, as described, for the target unit
+    for (auto const & [unit, names] :
+         {std::pair(0, Names{"rect20x10", "rect0.787402x0.393701", "rect508x254"}),
+          {1, Names{"rect508x254", "rect20x10", "rect20x10"}},
+          {0, Names{"mine10", "mine10", "mine10"}}}) {
         setUnit(&view, unit);
-        EXPECT_EQ(edit.text(), unit == 0 ? "1" : "25.4");
-        EXPECT_EQ(stranger.text(), "1");
+        KVLineEdit & edit = field(RegSymbolName);
+        type(edit, names[0]);
+        for (auto const conversion :
+             {KVLineEdit::AsDescribed, KVLineEdit::TargetUnit, KVLineEdit::AsDescribed}) {
+            show(edit, 1 - unit);
+            edit.setSymbolConversion(conversion);
+            EXPECT_EQ(edit.text(), names[conversion + 1]);
+            show(edit, unit);
+            EXPECT_EQ(edit.text(), names[0]);
+        }
     }
-    edit.setFollowView(false);
-    setUnit(&view, 0);
-    EXPECT_EQ(edit.text(), "25.4");
-    edit.setFollowView(true); // starts with the view's current unit
-    EXPECT_EQ(edit.text(), "1");
 }
 
 TEST_F(LineEditExtras, AnUnregisteredParentIsAnInchViewAndFollowedOnceItIsRegistered)
@@ -103,30 +170,30 @@ TEST_F(LineEditExtras, ExactValueIsWhatWasTypedInItsOwnUnit)
         type(edit, row.typed);
         for (int i = 0; i < 101; ++i) {
             show(edit, i % 2 == 0 ? 1 - row.unit : row.unit);
-            ASSERT_EQ(edit.exactValue(0), row.inch);
-            ASSERT_EQ(edit.exactValue(1), row.metric);
+            ASSERT_EQ(edit.exactValue(Ext::Unit::Inch), row.inch);
+            ASSERT_EQ(edit.exactValue(Ext::Unit::Millimetre), row.metric);
         }
-        EXPECT_EQ(edit.exactLengthNm(), row.small);
+        EXPECT_EQ(edit.exactLength().nanometres(), row.small);
         edit.setLengthScale(KVLineEdit::Large);
-        EXPECT_EQ(edit.exactLengthNm(), row.large);
+        EXPECT_EQ(edit.exactLength().nanometres(), row.large);
     }
-    EXPECT_TRUE(std::isnan(field(RegSymbolName).exactValue(0)));
+    EXPECT_TRUE(std::isnan(field(RegSymbolName).exactValue(Ext::Unit::Inch)));
 }
 
 TEST_F(LineEditExtras, ExpressionIsReadInTheUnitShown)
 {
     KVLineEdit & edit = field(RegExpression);
     type(edit, "10+2.5");
-    EXPECT_EQ(edit.exactValue(1), 317.5);
-    EXPECT_EQ(edit.exactLengthNm(), 317500);
+    EXPECT_EQ(edit.exactValue(Ext::Unit::Millimetre), 317.5);
+    EXPECT_EQ(edit.exactLength().nanometres(), 317500);
     show(edit, 1);
-    EXPECT_EQ(edit.exactValue(1), 12.5);
-    EXPECT_EQ(edit.exactLengthNm(), 12500);
+    EXPECT_EQ(edit.exactValue(Ext::Unit::Millimetre), 12.5);
+    EXPECT_EQ(edit.exactLength().nanometres(), 12500);
 }
 
 std::string outside(char const * bounds)
 {
-    return std::string("Illegal float value\nfloating value for field is out of range: (") + bounds + ")";
+    return std::string("Allowed: ") + bounds + ", both included.";
 }
 
 TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
@@ -139,35 +206,36 @@ TEST_F(LineEditExtras, RangeJudgesEachKindWithoutABox)
         char const * typed;
         std::string words; // empty for a legal text
     };
-    std::string const inch = outside("1, 10");
-    std::string const metric = outside("25.40, 254.00");
+    std::string const inch = outside("1 mil to 10 mil");
+    std::string const metric = outside("25.4 my to 254 my");
     auto const small = KVLineEdit::Small;
     auto const large = KVLineEdit::Large;
     for (Row const & row : {
              Row{RegNumber, small, 0, "10", ""},
-             Row{RegNumber, small, 0, "10.00001", inch},
+             Row{RegNumber, small, 0, "10.0001", inch},
              Row{RegPositive, small, 1, "254.1", metric},
              Row{RegNumber, small, 1, "", metric},
              Row{RegNumber, large, 0, "0.01", ""},
-             Row{RegNumber, large, 1, "0.2541", outside("0.02540, 0.25400")},
+             Row{RegNumber, large, 1, "0.2541", outside("0.0254 mm to 0.254 mm")},
              Row{RegExpression, small, 0, "2*4+", ""}, // one trailing operator is dropped
              Row{RegExpression, small, 0, "10+2.5", inch},
-             Row{RegExpression, small, 0, "2*-3", "CaculateData ERROR"},
+             Row{RegExpression, small, 0, "2*-3", "This calculation cannot be read."},
              Row{RegSymbolName, small, 0, "rect5x10", ""},
-             Row{RegSymbolName, large, 1, "r300", metric}, // sizes in a name are always small units
+             Row{RegSymbolName, large, 1, "r300",
+                 "\"300\" is out of range. " + metric}, // sizes in a name are always small units
              Row{RegName, small, 0, "100", ""},
          }) {
         SCOPED_TRACE(row.typed);
         setUnit(&view, row.unit);
         KVLineEdit & edit = field(row.kind);
         edit.setLengthScale(row.scale);
-        edit.setRange(1, 10);
+        edit.setRange(1_mil, 10_mil);
         retype(edit, row.typed);
         EXPECT_EQ(edit.property("uiapiValid"), QVariant(row.words.empty()));
         edit.clearRange();
         EXPECT_FALSE(edit.property("uiapiValid").isValid());
         QSignalSpy const spy(&edit, &KVLineEdit::validityChanged);
-        edit.setRange(1, 10);
+        edit.setRange(1_mil, 10_mil);
         ASSERT_EQ(spy.count(), row.words.empty() ? 0 : 1);
         EXPECT_EQ(spy.value(0).value(1).toString().toStdString(), row.words);
         edit.changeunit(1 - row.unit); // the typed text counts, not the shown one
@@ -182,17 +250,17 @@ TEST_F(LineEditExtras, VerdictIsToldOncePerChangeAndKeepsThroughASwitch)
     view.show();
     edit.setFollowView(true);
     type(edit, "3");
-    edit.setRange(1, 3);
+    edit.setRange(1_mil, 3_mil);
     QSignalSpy spy(&edit, &KVLineEdit::validityChanged);
     setUnit(&view, 1);
-    EXPECT_EQ(edit.text(), "76.2"); // would be rejected if typed
+    EXPECT_EQ(edit.text(), "76.2");
     setUnit(&view, 0);
     EXPECT_EQ(spy.count(), 0);
     type(edit, "0000");
     setUnit(&view, 1); // the text changes with the unit
     ASSERT_EQ(spy.count(), 2);
-    EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1, 3"));
-    EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.40, 76.20"));
+    EXPECT_EQ(spy[0][1].toString().toStdString(), outside("1 mil to 3 mil"));
+    EXPECT_EQ(spy[1][1].toString().toStdString(), outside("25.4 my to 76.2 my"));
     EXPECT_EQ(edit.palette().color(QPalette::Text), QColor(255, 0, 0));
 }
 
@@ -220,15 +288,15 @@ TEST_F(LineEditExtras, ASlotMayDeleteTheFieldThatEmits)
         [&] { QObject::connect(edit, &QLineEdit::cursorPositionChanged, erase); },
         [&] { QObject::connect(edit, &KVLineEdit::validityChanged, erase); },
         [&] { edit->installEventFilter(&filter); }};
-    std::function<void()> const acts[] = {[&] { edit->changeunit(1); }, [&] { setUnit(&view, 1); },
-                                          [&] { edit->setRange(20, 30); }, [&] { edit->clearRange(); },
-                                          [&] { edit->setLengthScale(KVLineEdit::Large); }};
+    std::function<void()> const acts[] = {
+        [&] { edit->changeunit(1); }, [&] { setUnit(&view, 1); }, [&] { edit->setRange(20_mil, 30_mil); },
+        [&] { edit->clearRange(); }, [&] { edit->setLengthScale(KVLineEdit::Large); }};
     std::string deleted;
     for (auto const & arrange : ways) {
         for (auto const & act : acts) {
             setUnit(&view, 0);
             edit = new KVLineEdit("1", RegNumber, &view);
-            edit->setRange(2, 3);
+            edit->setRange(2_mil, 3_mil);
             edit->setFollowView(true);
             edit->selectAll();
             arrange();
@@ -246,7 +314,7 @@ TEST_F(LineEditExtras, ADyingFieldHearsNoMore)
 {
     auto * const edit = new KVLineEdit("1", RegNumber, &view);
     edit->setFollowView(true);
-    edit->setRange(2, 3);
+    edit->setRange(2_mil, 3_mil);
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     edit->setFocus();

@@ -117,7 +117,7 @@ TEST(SymbolPaths, AreTheShapesThatTheNamesTell)
         {"moire10x10x2x5x100x0", {{15, 0}, {0, 35}, {48, 2}}, {{5, 5}, {48, 5}, {30, 30}}},
     };
     for (auto const & row : rows) {
-        auto const path = symbolPath(row.name, 1);
+        auto const path = symbolPath(row.name, Unit::Millimetre);
         ASSERT_TRUE(path) << row.name;
         for (QPointF const & place : row.inside) {
             EXPECT_TRUE(path->contains(place)) << row.name << ' ' << place.x() << ' ' << place.y();
@@ -126,13 +126,13 @@ TEST(SymbolPaths, AreTheShapesThatTheNamesTell)
             EXPECT_FALSE(path->contains(place)) << row.name << ' ' << place.x() << ' ' << place.y();
         }
     }
-    EXPECT_TRUE(symbolPath("r10", 0)->contains({126, 0})); // mil
-    EXPECT_TRUE(symbolPath("r0", 1)->isEmpty());
+    EXPECT_TRUE(symbolPath("r10", Unit::Inch)->contains({126, 0})); // mil
+    EXPECT_TRUE(symbolPath("r0", Unit::Millimetre)->isEmpty());
     for (char const * own : {"logo_mark", "rect10", "thr100x50", "", "rect10x20_135"}) {
-        EXPECT_FALSE(symbolPath(own, 0)) << own;
+        EXPECT_FALSE(symbolPath(own, Unit::Inch)) << own;
     }
     std::string const endless = 'r' + std::string(120, '9');
-    EXPECT_LE(symbolPath(endless, 0)->boundingRect().width(), 2.6e10);
+    EXPECT_LE(symbolPath(endless, Unit::Inch)->boundingRect().width(), 2.6e10);
 }
 
 // 10 mm x 10 mm: on the first layer what is easily painted wrong, below it a plane.
@@ -161,7 +161,7 @@ protected:
         writeFile("tiny/steps/pcb/layers/broken/features", "P nonsense\n");
         writeFile("tiny/steps/pcb/layers/tables/features.tables", "$0 r10\n");
         ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
-        view = std::make_unique<BoardView>("tiny", "pcb", 1);
+        view = std::make_unique<BoardView>("tiny", "pcb", Unit::Millimetre);
         view->resize(456, 456); // 40 pixels for a millimetre
         view->showLayer(layer(0));
     }
@@ -355,7 +355,7 @@ TEST_F(Pictures, SayWhyNothingIsDrawn)
         view->showLayer(layer(i));
         EXPECT_EQ(view->emptyText(), texts[i]);
     }
-    EXPECT_EQ(BoardView("tiny", "pcb", 0).emptyText(), "No layer is shown");
+    EXPECT_EQ(BoardView("tiny", "pcb", Unit::Inch).emptyText(), "No layer is shown");
     ASSERT_TRUE(KVCAM::Embedded::deleteFeatures("tiny", "pcb", "plane", {0}));
     view->showLayer(layer(1));
     view->reload();

@@ -50,6 +50,7 @@ protected:
 
 constexpr char const * outOfRange =
     "Illegal float value\nfloating value for field is out of range: (0.5, 1000)";
+constexpr char const * allowed = "Allowed: 0.5 mil to 1000 mil, both included.";
 
 TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
 {
@@ -63,11 +64,11 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
         char const * box;
     } const rows[] = {
         {"10+2.5", "= 12.5 mil", "12.5", nullptr},
-        {"7x+0.1+0.2", "= 7.3 mil", "7.3", nullptr}, // a letter is rejected
-        {"90000*2", outOfRange, "7.3", outOfRange},
-        {"10+5..5", "CaculateData ERROR", "7.3", "CaculateData ERROR"},
-        {"0/0", "", "7.3", outOfRange},
-        {"0.4", outOfRange, "7.3", outOfRange},
+        {"7x+0.1+0.2", "= 7.3 mil", "7.3", nullptr}, // a letter is refused
+        {"90000*2", allowed, "7.3", outOfRange},
+        {"10+5..5", "This calculation cannot be read.", "7.3", "CaculateData ERROR"},
+        {"0/0", allowed, "7.3", outOfRange},
+        {"0.4", allowed, "7.3", outOfRange},
         {"254.1234", "", "254.1234", nullptr},
     };
     for (auto const & row : rows) {
@@ -87,7 +88,7 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
         EXPECT_EQ(dialog.pad().symbol(), symbol) << row.typed;
         EXPECT_EQ(dialog.pad().verdict(), "") << row.typed;
     }
-    EXPECT_EQ(dialog.pad().exactWidth(), 6454734); // 254.1234 mil
+    EXPECT_EQ(dialog.pad().exactWidth().nanometres(), 6454734); // 254.1234 mil
 }
 
 TEST_F(Windows, WhatIsBeingTypedCountsInTheUnitItWasTypedIn)

@@ -52,36 +52,36 @@ TEST(PadSymbols, AreConvertedFromWhatWasTyped)
         {"", 0, "", "", "- -"},
     };
     for (auto const & row : rows) {
-        PadSymbol const symbol(row.name, row.unit);
-        EXPECT_EQ(symbol.in(0), row.mil) << row.name;
-        EXPECT_EQ(symbol.in(1), row.micrometre) << row.name;
+        PadSymbol const symbol(row.name, Ext::unitOfCode(row.unit));
+        EXPECT_EQ(symbol.in(Unit::Inch), row.mil) << row.name;
+        EXPECT_EQ(symbol.in(Unit::Millimetre), row.micrometre) << row.name;
         EXPECT_EQ((symbol.hasWidth() ? symbol.width().text : "-") + ' ' +
                       (symbol.hasHeight() ? symbol.height().text : "-"),
                   row.sizes)
             << row.name;
         auto const restored = PadSymbol::fromJson(symbol.toJson());
         ASSERT_TRUE(restored) << row.name;
-        EXPECT_EQ(restored->in(0), row.mil) << row.name;
+        EXPECT_EQ(restored->in(Unit::Inch), row.mil) << row.name;
     }
 }
 
 TEST(PadSymbols, ASizeTypedInTheOtherUnitLeavesTheRestAlone)
 {
-    PadSymbol symbol("rect500x700xr50", 1);
-    symbol.setWidth({"12.5", 0});
-    EXPECT_EQ(symbol.in(0), "rect12.5x27.5591xr1.9685");
-    EXPECT_EQ(symbol.in(1), "rect317.5x700xr50");
-    EXPECT_EQ(symbol.width().nanometres(), 317500);
-    EXPECT_EQ(PadSymbol("r99999999999999999999999999", 0).width().nanometres(), 9223372036854774784);
+    PadSymbol symbol("rect500x700xr50", Unit::Millimetre);
+    symbol.setWidth({"12.5", Unit::Inch});
+    EXPECT_EQ(symbol.in(Unit::Inch), "rect12.5x27.5591xr1.9685");
+    EXPECT_EQ(symbol.in(Unit::Millimetre), "rect317.5x700xr50");
+    EXPECT_EQ(symbol.width().length().nanometres(), 317500);
+    EXPECT_EQ(PadSymbol("r99999999999999999999999999", Unit::Inch).width().length(), Ext::Length::highest());
 
-    PadSymbol unfinished("rect10x", 0);
-    unfinished.setHeight({"20", 0});
+    PadSymbol unfinished("rect10x", Unit::Inch);
+    unfinished.setHeight({"20", Unit::Inch});
     EXPECT_EQ(unfinished.name(), "rect10x20");
 }
 
 TEST(PadSymbols, AreNotRestoredFromAnotherUnitOrSize)
 {
-    QJsonObject const good = PadSymbol("rect10x20", 0).toJson();
+    QJsonObject const good = PadSymbol("rect10x20", Unit::Inch).toJson();
     std::pair<char const *, QJsonValue> const changes[] = {
         {"unit", 7},      {"width unit", 0.5}, {"height unit", -1}, {"unit", "1"}, {"unit", QJsonValue()},
         {"width", "abc"}, {"height", "1x2"},

@@ -32,7 +32,7 @@ constexpr int slice = 25;          // milliseconds of drawing between two turns 
 
 } // namespace
 
-BoardView::BoardView(std::string job, std::string step, int unit, QWidget * parent)
+BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * parent)
     : QWidget(parent)
     , m_job(std::move(job))
     , m_step(std::move(step))
@@ -57,7 +57,7 @@ BoardView::BoardView(std::string job, std::string step, int unit, QWidget * pare
     }
     Step_Config config;
     config.view = handle();
-    config.show_param.unit = unit;
+    config.show_param.unit = unitCode(unit);
     insertStepConfig(config);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, [this](void const * view) {
         if (view == handle()) {

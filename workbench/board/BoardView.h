@@ -5,6 +5,7 @@
 #include "board/FeatureSelection.h"
 #include "board/LayerShapes.h"
 #include "board/ViewPort.h"
+#include "ui/Units.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -28,7 +29,7 @@ class BoardView : public QWidget
     Q_OBJECT
 
 public:
-    BoardView(std::string job, std::string step, int unit, QWidget * parent = nullptr);
+    BoardView(std::string job, std::string step, Unit unit, QWidget * parent = nullptr);
 
     std::string const & job() const { return m_job; }
     std::string const & step() const { return m_step; }

@@ -37,7 +37,7 @@ struct Symbol
 class Symbols
 {
 public:
-    Symbol const & find(std::string const & name, int unit)
+    Symbol const & find(std::string const & name, Unit unit)
     {
         auto const [place, added] = m_symbols.emplace(std::pair(name, unit), Symbol());
         if (added) {
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    std::map<std::pair<std::string, int>, Symbol> m_symbols;
+    std::map<std::pair<std::string, Unit>, Symbol> m_symbols;
 };
 
 QPainterPath const & cross()
@@ -125,14 +125,14 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     auto const & points = feature.points;
     FeatureShape shape;
     shape.feature = feature.index;
-    shape.unit = drawing.unit;
+    shape.unit = KVCAM::UIAPI::Ext::unitOfCode(drawing.unit);
     shape.positive = feature.positive;
     if (feature.kind == 'S') {
         shape.path = surfacePath(drawing.outlines);
         shape.box = shape.path.boundingRect();
         return shape;
     }
-    Symbol const & symbol = symbols.find(feature.symbol, drawing.unit);
+    Symbol const & symbol = symbols.find(feature.symbol, KVCAM::UIAPI::Ext::unitOfCode(drawing.unit));
     shape.place = toPoint(points.at(0));
     switch (feature.kind) {
     case 'P':

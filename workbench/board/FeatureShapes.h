@@ -29,7 +29,7 @@ struct FeatureShape
     bool squareEnds = false; ///< of a stroke; otherwise round
     bool mirrored = false;   ///< of a pad: about its vertical axis, before it is turned
     int feature = 0;         ///< index in its layer
-    int unit = inchUnit;     ///< of the sizes in the feature's symbol name
+    Unit unit = Unit::Inch;  ///< of the sizes in the feature's symbol name
     double penWidth = 0;     ///< of a stroke; 0: a hairline at every zoom
     double angle = 0;        ///< degrees clockwise
     QPointF place;

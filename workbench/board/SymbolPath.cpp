@@ -43,7 +43,7 @@ double sizeOf(QString const & text)
     return std::min(text.toDouble(), mostSize);
 }
 
-Sizes sizesOf(PadName const & name, int unit)
+Sizes sizesOf(PadName const & name, Unit unit)
 {
     Sizes sizes;
     sizes.scale = micrometresPer(unit);
@@ -295,7 +295,7 @@ bool hasSpokes(Ext::SymbolLayout const & layout)
 
 } // namespace
 
-std::optional<QPainterPath> symbolPath(std::string const & name, int unit)
+std::optional<QPainterPath> symbolPath(std::string const & name, Unit unit)
 {
     auto const parts = parsePadName(QString::fromStdString(name));
     if (!parts) {

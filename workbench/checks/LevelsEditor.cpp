@@ -72,7 +72,8 @@ void LevelsEditor::show(std::optional<Analysis_Ranges_Record> const & record)
 // A text with the same value stays as typed.
 void LevelsEditor::showLevel(Field & field)
 {
-    if (field.edit->text().isEmpty() || withoutNoise(field.edit->exactValue(0)) != field.shown) {
+    if (field.edit->text().isEmpty() ||
+        withoutNoise(field.edit->exactValue(Ext::Unit::Inch)) != field.shown) {
         field.edit->setText(smallUnitText(&m_view, field.shown));
     }
 }
@@ -80,7 +81,7 @@ void LevelsEditor::showLevel(Field & field)
 void LevelsEditor::takeLevel(std::size_t number)
 {
     Field & field = m_fields[number];
-    double const typed = withoutNoise(field.edit->exactValue(0));
+    double const typed = withoutNoise(field.edit->exactValue(Ext::Unit::Inch));
     // Five decimals are shown. A level with more must not change by being looked at.
     bool const isShown = field.edit->text() == smallUnitText(&m_view, field.shown);
     if (!field.edit->isEnabled() || isShown || typed == field.shown) {

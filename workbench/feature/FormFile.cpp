@@ -18,7 +18,7 @@ QJsonObject readForms(QString const & path)
 
 bool isUnit(QJsonValue const & value)
 {
-    return value == QJsonValue(inchUnit) || value == QJsonValue(metricUnit);
+    return value.isDouble() && KVCAM::UIAPI::Ext::isUnitCode(value.toInt(-1));
 }
 
 bool readForm(QString const & path, QString const & pad, SavedForm & form)
@@ -27,14 +27,15 @@ bool readForm(QString const & path, QString const & pad, SavedForm & form)
     if (!isUnit(json["unit"]) || !json["fields"].isObject()) {
         return false;
     }
-    form = {json["unit"].toInt(), json["fields"].toObject(), json["extra"].toObject()};
+    form = {KVCAM::UIAPI::Ext::unitOfCode(json["unit"].toInt()), json["fields"].toObject(),
+            json["extra"].toObject()};
     return true;
 }
 
 bool writeForm(QString const & path, QString const & pad, SavedForm const & form)
 {
     QJsonObject forms = readForms(path);
-    forms[pad] = QJsonObject{{"unit", form.unit}, {"fields", form.fields}, {"extra", form.extra}};
+    forms[pad] = QJsonObject{{"unit", unitCode(form.unit)}, {"fields", form.fields}, {"extra", form.extra}};
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(forms).toJson()) > 0 && file.commit();
 }

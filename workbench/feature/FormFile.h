@@ -11,7 +11,7 @@ namespace Workbench {
 /// holds what the library's form functions do not handle, such as a note.
 struct SavedForm
 {
-    int unit = inchUnit;
+    Unit unit = Unit::Inch;
     QJsonObject fields;
     QJsonObject extra;
 };

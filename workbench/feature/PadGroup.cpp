@@ -50,7 +50,7 @@ QLabel * wrappedLabel()
 } // namespace
 
 PadGroup::PadGroup(BoardView & view, int feature, std::string job)
-    : m_view(view), m_feature(feature), m_job(std::move(job)), m_shownUnit(getUnit(view.handle()))
+    : m_view(view), m_feature(feature), m_job(std::move(job)), m_shownUnit(Ext::unitOf(view.handle()))
 {
     makeFields();
     makeLayout();
@@ -144,7 +144,7 @@ void PadGroup::followView()
 // True while fields rewrite their texts for another unit, which is not an edit.
 bool PadGroup::isFollowing() const
 {
-    return m_isFilling || getUnit(m_view.handle()) != m_shownUnit;
+    return m_isFilling || Ext::unitOf(m_view.handle()) != m_shownUnit;
 }
 
 void PadGroup::fillFromPad()
@@ -158,7 +158,7 @@ void PadGroup::fillFromPad()
     // A layer may use the same name in both units, so the feature itself decides.
     auto const position = static_cast<std::size_t>(pad - features.begin());
     auto const & shapes = m_view.shapes();
-    int const unit = position < shapes.size() ? shapes[position].unit : 0;
+    Unit const unit = position < shapes.size() ? shapes[position].unit : Unit::Inch;
     m_symbol = {QString::fromStdString(pad->symbol), unit};
     m_polarity->setCurrentIndex(pad->positive ? 0 : 1);
 }
@@ -222,7 +222,7 @@ void PadGroup::settleSizes()
 void PadGroup::refreshUnit()
 {
     settleSizes(); // in the unit shown so far
-    m_shownUnit = getUnit(m_view.handle());
+    m_shownUnit = Ext::unitOf(m_view.handle());
     showSymbol();
     showTitles();
 }
@@ -240,7 +240,9 @@ void PadGroup::showTitles()
 void PadGroup::showFacts()
 {
     m_description->setText(Ext::describeSymbol(m_symbol.name(), m_symbol.unit()));
-    m_exact->setText(tr("Width %1 nm, offset %2 nm").arg(exactWidth()).arg(m_offset->exactLengthNm()));
+    m_exact->setText(tr("Width %1 nm, offset %2 nm")
+                         .arg(exactWidth().nanometres())
+                         .arg(m_offset->exactLength().nanometres()));
     showVerdict();
 }
 
@@ -305,7 +307,7 @@ QList<QObject *> PadGroup::fieldsWithoutUnit() const
 QJsonObject PadGroup::extras() const
 {
     return {{"symbol", m_symbol.toJson()},
-            {"offset", QJsonObject{{"text", m_typedOffset.text}, {"unit", m_typedOffset.unit}}},
+            {"offset", QJsonObject{{"text", m_typedOffset.text}, {"unit", unitCode(m_typedOffset.unit)}}},
             {"negative", m_polarity->currentIndex() == 1}}; // its text depends on the language
 }
 
@@ -316,16 +318,16 @@ bool PadGroup::restore(SavedForm const & form)
     if (!symbol || !isUnit(offset["unit"])) {
         return false;
     }
-    setUnit(m_view.handle(), form.unit); // first: the texts are in that unit
-    m_isFilling = true;                  // the saved texts are consistent
+    giveUnit(m_view.handle(), form.unit); // first: the texts are in that unit
+    m_isFilling = true;                   // the saved texts are consistent
     QList<QObject *> restored = fields();
     writeJsonToList(form.fields, restored);
     m_isFilling = false;
     m_symbol = *symbol;
     // The field keeps its text in the unit of typing, so it is entered in that unit again.
-    setUnit(m_view.handle(), offset["unit"].toInt());
+    giveUnit(m_view.handle(), Ext::unitOfCode(offset["unit"].toInt()));
     m_offset->setText(offset["text"].toString());
-    setUnit(m_view.handle(), form.unit);
+    giveUnit(m_view.handle(), form.unit);
     if (form.extra["negative"].isBool()) { // earlier versions saved the text only
         m_polarity->setCurrentIndex(form.extra["negative"].toBool() ? 1 : 0);
     }
@@ -354,9 +356,9 @@ QString PadGroup::description() const
     return m_description->text();
 }
 
-qint64 PadGroup::exactWidth() const
+Ext::Length PadGroup::exactWidth() const
 {
-    return m_symbol.width().nanometres();
+    return m_symbol.width().length();
 }
 
 } // namespace Workbench

@@ -39,14 +39,14 @@ public:
     /// Shows a pad of the layer that `view` shows. The view is not owned and outlives the group.
     PadGroup(BoardView & view, int feature, std::string job);
 
-    int shownUnit() const { return m_shownUnit; }
+    Unit shownUnit() const { return m_shownUnit; }
     QString symbol() const;
     QString width() const;
     QString description() const;
     /// What stands below the sizes: what is wrong with them, else the value of a calculation.
     QString verdict() const;
     /// The width in nanometres, as typed or stored.
-    qint64 exactWidth() const;
+    KVCAM::UIAPI::Ext::Length exactWidth() const;
 
     /// Lists the layer's symbol names below the symbol field until the focus leaves the list.
     void showNames();
@@ -84,8 +84,8 @@ private:
     int m_feature;
     std::string m_job;
     PadSymbol m_symbol;
-    PadSize m_typedOffset{"0", inchUnit};
-    int m_shownUnit;
+    PadSize m_typedOffset{"0", Unit::Inch};
+    Unit m_shownUnit;
     bool m_isFilling = false; ///< the group changes its fields itself
 
     KVCAM::UIAPI::KVLineEdit * m_name = nullptr;

@@ -5,11 +5,11 @@
 
 #include <UIAPICommon.h>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace Workbench {
+
+using namespace KVCAM::UIAPI;
 
 namespace {
 
@@ -17,34 +17,32 @@ namespace {
 std::optional<PadName> sizedName(QString const & name)
 {
     auto parts = parsePadName(name);
-    bool const isConverted = parts && parts->grammar->rewrite != KVCAM::UIAPI::Ext::SymbolRewrite::Unchanged;
+    bool const isConverted = parts && parts->grammar->rewrite != Ext::SymbolRewrite::Unchanged;
     return isConverted ? parts : std::nullopt;
 }
 
 // The library converts names only; a length is converted as the size of a round.
-QString converted(QString name, int from, int to)
+QString converted(QString name, Unit from, Unit to)
 {
     if (from != to) {
-        KVCAM::UIAPI::setSymbolUIData(name, to);
+        setSymbolUIData(name, Ext::unitCode(to));
     }
     return name;
 }
 
 } // namespace
 
-QString PadSize::in(int otherUnit) const
+QString PadSize::in(Unit shown) const
 {
-    return text.isEmpty() ? QString() : converted('r' + text, unit, otherUnit).mid(1);
+    return text.isEmpty() ? QString() : converted('r' + text, unit, shown).mid(1);
 }
 
-qint64 PadSize::nanometres() const
+Ext::Length PadSize::length() const
 {
-    // Rounding a value that does not fit is undefined; this is the last double below 2^63.
-    constexpr double most = 9223372036854774784.0;
-    return std::llround(std::min(text.toDouble() * nanometresPer(unit), most));
+    return Ext::Length::from(text.toDouble(), unit, Ext::LengthScale::Small);
 }
 
-PadSymbol::PadSymbol(QString name, int unit) : m_name(std::move(name)), m_unit(unit)
+PadSymbol::PadSymbol(QString name, Unit unit) : m_name(std::move(name)), m_unit(unit)
 {
     if (auto const parts = sizedName(m_name)) {
         m_width = {parts->first, unit};
@@ -63,10 +61,10 @@ bool PadSymbol::hasHeight() const
     return parts && hasSecondSize(*parts->grammar);
 }
 
-QString PadSymbol::in(int otherUnit) const
+QString PadSymbol::in(Unit shown) const
 {
     // A user-defined name may only look as if it had sizes.
-    return hasWidth() ? withSizes(converted(m_name, m_unit, otherUnit), otherUnit) : m_name;
+    return hasWidth() ? withSizes(converted(m_name, m_unit, shown), shown) : m_name;
 }
 
 void PadSymbol::setWidth(PadSize const & size)
@@ -81,7 +79,7 @@ void PadSymbol::setHeight(PadSize const & size)
     m_name = withSizes(m_name, m_unit);
 }
 
-QString PadSymbol::withSizes(QString const & name, int unit) const
+QString PadSymbol::withSizes(QString const & name, Unit unit) const
 {
     auto const parts = sizedName(name);
     if (!parts || m_width.text.isEmpty()) {
@@ -97,9 +95,9 @@ QString PadSymbol::withSizes(QString const & name, int unit) const
 
 QJsonObject PadSymbol::toJson() const
 {
-    return {{"name", m_name},          {"unit", m_unit},
-            {"width", m_width.text},   {"width unit", m_width.unit},
-            {"height", m_height.text}, {"height unit", m_height.unit}};
+    return {{"name", m_name},          {"unit", unitCode(m_unit)},
+            {"width", m_width.text},   {"width unit", unitCode(m_width.unit)},
+            {"height", m_height.text}, {"height unit", unitCode(m_height.unit)}};
 }
 
 std::optional<PadSymbol> PadSymbol::fromJson(QJsonObject const & json)
@@ -109,9 +107,9 @@ std::optional<PadSymbol> PadSymbol::fromJson(QJsonObject const & json)
             return std::nullopt;
         }
     }
-    PadSymbol symbol(json["name"].toString(), json["unit"].toInt());
-    PadSize const width{json["width"].toString(), json["width unit"].toInt()};
-    PadSize const height{json["height"].toString(), json["height unit"].toInt()};
+    PadSymbol symbol(json["name"].toString(), Ext::unitOfCode(json["unit"].toInt()));
+    PadSize const width{json["width"].toString(), Ext::unitOfCode(json["width unit"].toInt())};
+    PadSize const height{json["height"].toString(), Ext::unitOfCode(json["height unit"].toInt())};
     for (auto const & [target, size] :
          {std::pair(&symbol.m_width, width), std::pair(&symbol.m_height, height)}) {
         if (!size.text.isEmpty() && !isSizeText(size.text)) {

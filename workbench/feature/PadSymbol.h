@@ -13,12 +13,12 @@ namespace Workbench {
 struct PadSize
 {
     QString text;
-    int unit = inchUnit;
+    Unit unit = Unit::Inch;
 
     /// The text in a unit; six significant digits if converted.
-    QString in(int otherUnit) const;
+    QString in(Unit shown) const;
     /// Rounded to nearest, saturating at the ends of qint64.
-    qint64 nanometres() const;
+    KVCAM::UIAPI::Ext::Length length() const;
 };
 
 /// A pad's symbol: its name as typed or stored, and its first two sizes, each with the unit it was typed in.
@@ -27,10 +27,10 @@ class PadSymbol
 {
 public:
     PadSymbol() = default;
-    PadSymbol(QString name, int unit);
+    PadSymbol(QString name, Unit unit);
 
     QString const & name() const { return m_name; }
-    int unit() const { return m_unit; }
+    Unit unit() const { return m_unit; }
     /// Whether the name belongs to a standard family whose sizes the library converts.
     bool hasWidth() const;
     /// False for a family with one size as well.
@@ -39,7 +39,7 @@ public:
     PadSize const & width() const { return m_width; }
     /// Empty when the name has none, or not yet.
     PadSize const & height() const { return m_height; }
-    QString in(int otherUnit) const;
+    QString in(Unit shown) const;
 
     void setWidth(PadSize const & size);
     void setHeight(PadSize const & size);
@@ -49,10 +49,10 @@ public:
     static std::optional<PadSymbol> fromJson(QJsonObject const & json);
 
 private:
-    QString withSizes(QString const & name, int unit) const;
+    QString withSizes(QString const & name, Unit unit) const;
 
     QString m_name;
-    int m_unit = inchUnit;
+    Unit m_unit = Unit::Inch;
     PadSize m_width;
     PadSize m_height;
 };

@@ -13,9 +13,9 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-// The legal sizes of a pad, in mil.
-constexpr double smallestMil = 0.5;
-constexpr double largestMil = 1000;
+// The legal sizes of a pad.
+constexpr Ext::Length smallest = Ext::Length::fromMil(0.5);
+constexpr Ext::Length largest = Ext::Length::fromMil(1000);
 
 // 0/0 would lie in every range; like any text that is not a number it counts as 0.
 double sizeValue(QString const & calculation)
@@ -59,7 +59,7 @@ void SizeField::showSize(QString const & size, bool isEnabled)
     }
     setModified(false);
     if (isEnabled) {
-        setRange(smallestMil, largestMil);
+        setRange(smallest, largest);
     } else {
         clearRange();
     }
@@ -68,7 +68,7 @@ void SizeField::showSize(QString const & size, bool isEnabled)
 void SizeField::judgeAgain()
 {
     if (isEnabled()) {
-        setRange(smallestMil, largestMil);
+        setRange(smallest, largest);
     }
 }
 
@@ -80,17 +80,19 @@ void SizeField::finish()
     setModified(false); // the box takes the focus, which must not finish the field again
     QString const typed = text();
     QPointer<SizeField> const alive(this);
-    bool const isLegal =
-        judgeCaculateIsStandard(typed) && isValueLegal(sizeValue(typed), smallestMil, largestMil, &m_view);
+    bool const isLegal = judgeCaculateIsStandard(typed) &&
+                         isValueLegal(sizeValue(typed), smallest.toMil(), largest.toMil(), &m_view);
     if (alive) {
         m_finished(isLegal ? std::optional(plainText(sizeValue(typed))) : std::nullopt);
     }
 }
 
-std::optional<QString> SizeField::typedSize(int unit) const
+std::optional<QString> SizeField::typedSize(Unit unit) const
 {
     double const value = sizeValue(text());
-    bool const isLegal = m_fault.isEmpty() && Ext::checkValue(value, smallestMil, largestMil, unit).legal;
+    bool const isLegal =
+        m_fault.isEmpty() &&
+        Ext::checkValue(Ext::Length::from(value, unit, Ext::LengthScale::Small), smallest, largest, unit).ok;
     return isModified() && isLegal ? std::optional(plainText(value)) : std::nullopt;
 }
 

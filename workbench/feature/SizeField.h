@@ -1,6 +1,6 @@
 #pragma once
 
-#include <UIAPICommon.h>
+#include "ui/Units.h"
 
 #include <QString>
 
@@ -28,7 +28,7 @@ public:
     /// "= 12.5" for a calculation that is being typed, else empty.
     QString valueText() const;
     /// The size that is being typed if it is legal in a unit; no box comes up.
-    std::optional<QString> typedSize(int unit) const;
+    std::optional<QString> typedSize(Unit unit) const;
 
 protected:
     void focusOutEvent(QFocusEvent * event) override;

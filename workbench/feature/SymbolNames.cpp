@@ -44,18 +44,18 @@ bool isStandardSymbol(std::string const & name, std::vector<std::string> const &
 } // namespace
 
 void listSymbols(KVListWidget & list, std::string const & job, std::string const & step,
-                 std::string const & layer, int unit)
+                 std::string const & layer, Unit unit)
 {
     std::vector<std::string> ownSymbols;
     KVCAM::API::get_special_symbol_names(job, ownSymbols);
     QIcon const standard = dot("#b5582a");
     QIcon const own = dot("#3f51b5");
     for (auto const & use : KVCAM::Embedded::layerSymbols(job, step, layer)) {
-        PadSymbol const symbol(QString::fromStdString(use.name), use.unit);
+        PadSymbol const symbol(QString::fromStdString(use.name), Ext::unitOfCode(use.unit));
         auto * item = new KVListWidgetItem(&list);
         item->setText(symbol.in(unit));
         item->setItemUserData(symbol.name());
-        item->setData(Qt::UserRole, symbol.unit());
+        item->setData(Qt::UserRole, unitCode(symbol.unit()));
         item->setItemIcon(isStandardSymbol(use.name, ownSymbols) ? standard : own, standard, own);
         item->setToolTip(Ext::describeSymbol(symbol.name(), symbol.unit()));
     }
@@ -64,7 +64,7 @@ void listSymbols(KVListWidget & list, std::string const & job, std::string const
 PadSymbol listedSymbol(QListWidgetItem const & item)
 {
     auto const & chosen = static_cast<KVListWidgetItem const &>(item);
-    return {chosen.getItemUserData(), chosen.data(Qt::UserRole).toInt()};
+    return {chosen.getItemUserData(), Ext::unitOfCode(chosen.data(Qt::UserRole).toInt())};
 }
 
 } // namespace Workbench

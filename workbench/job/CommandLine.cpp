@@ -92,7 +92,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     commandLine.job = absolute(job);
     commandLine.config = absolute(parser.value(config));
     commandLine.output = absolute(parser.value(output));
-    commandLine.unit = parser.value(unit) == "mm" ? metricUnit : inchUnit;
+    commandLine.unit = parser.value(unit) == "mm" ? Unit::Millimetre : Unit::Inch;
     commandLine.isUnitGiven = parser.isSet(unit);
     commandLine.headless = parser.isSet(headless);
     commandLine.saveFlag = parser.isSet(saveFlag);

@@ -13,7 +13,7 @@ struct CommandLine
     QString job;    ///< folder of the job
     QString config; ///< configuration folder; empty: a copy of the samples
     QString output; ///< for screenshots, the database and the saved form
-    int unit = inchUnit;
+    Unit unit = Unit::Inch;
     bool isUnitGiven = false; ///< otherwise the unit of the latest run applies
     bool headless = false;
     bool saveFlag = false;

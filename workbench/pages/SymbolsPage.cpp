@@ -24,23 +24,25 @@ SymbolRow symbolRow(KVCAM::Embedded::SymbolUse const & use)
 {
     SymbolRow row;
     row.stored = QString::fromStdString(use.name);
-    row.unit = use.unit;
+    row.unit = Ext::unitOfCode(use.unit);
     row.features = use.features;
+    int const inch = Ext::unitCode(Unit::Inch);
     QString mil = row.stored;
-    if (use.unit != inchUnit) {
-        setSymbolUIData(mil, inchUnit);
+    if (row.unit != Unit::Inch) {
+        setSymbolUIData(mil, inch);
     }
-    row.inch = QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), inchUnit));
-    row.metric = use.unit != inchUnit
+    row.inch = QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), inch));
+    int const metric = Ext::unitCode(Unit::Millimetre);
+    row.metric = row.unit != Unit::Inch
                      ? row.stored
-                     : QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), metricUnit));
-    row.description = Ext::describeSymbol(row.stored, use.unit);
+                     : QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), metric));
+    row.description = Ext::describeSymbol(row.stored, row.unit);
     return row;
 }
 
 char const * sizeUnitOf(SymbolRow const & row)
 {
-    return row.unit == inchUnit ? "mil" : "my";
+    return row.unit == Unit::Inch ? "mil" : "my";
 }
 
 } // namespace

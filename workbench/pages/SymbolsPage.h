@@ -14,7 +14,7 @@ namespace Workbench {
 struct SymbolRow
 {
     QString stored;
-    int unit = inchUnit; ///< of the stored sizes
+    Unit unit = Unit::Inch; ///< of the stored sizes
     QString inch;
     QString metric;
     QString description;

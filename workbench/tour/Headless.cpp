@@ -121,15 +121,15 @@ QJsonArray errorsOf(Session const & session, Camera const & camera)
 
 QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embedded::Box> const & outline)
 {
-    int const unit = getUnit(view.handle());
+    Unit const unit = Ext::unitOf(view.handle());
     setStepConfigToAPI(view.handle());
     QJsonObject facts{{"name", QString::fromStdString(view.step())},
                       {"unit", QString::fromStdString(getUnitString(view.handle()))},
                       {"engine before", toJson(KVCAM::Embedded::liveState())}};
     QJsonArray sizes;
-    for (int const shown : {unit, otherUnit(unit)}) {
+    for (Unit const shown : {unit, otherUnit(unit)}) {
         if (shown != unit) {
-            setUnit(view.handle(), shown);
+            giveUnit(view.handle(), shown);
             facts["engine after"] = toJson(KVCAM::Embedded::liveState());
         }
         if (outline) {
@@ -137,7 +137,7 @@ QJsonObject switchThereAndBack(BoardView const & view, std::optional<KVCAM::Embe
                 sizeText(view.handle(), outline->right - outline->left, outline->top - outline->bottom));
         }
     }
-    setUnit(view.handle(), unit);
+    giveUnit(view.handle(), unit);
     facts["outline"] = sizes;
     return facts;
 }
@@ -179,13 +179,13 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     }
     FeatureDialog & dialog = *window.board().openFeature(pad);
     void const * const view = window.board().currentView()->handle();
-    int const unit = getUnit(view);
+    Unit const unit = Ext::unitOf(view);
     QJsonObject facts{{"layer", QString::fromStdString(window.board().currentView()->layer())},
                       {"pad", pad},
                       {"restored", dialog.isRestored()}};
     if (!dialog.isRestored()) {
         auto & width = *dialog.findChild<KVLineEdit *>("width");
-        QString const calculation = unit == inchUnit ? "10+2.5" : "254+63.5";
+        QString const calculation = unit == Unit::Inch ? "10+2.5" : "254+63.5";
         width.setFocus();
         type(width, "90000*2");
         facts["refused"] = dialog.pad().verdict();
@@ -205,12 +205,12 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     }
     facts["width"] = before;
     facts["width after 100 switches"] = dialog.pad().width();
-    facts["width in nm"] = static_cast<double>(dialog.pad().exactWidth());
+    facts["width in nm"] = static_cast<double>(dialog.pad().exactWidth().nanometres());
     facts["description"] = dialog.pad().description();
-    for (int const shown : {inchUnit, metricUnit}) {
-        setUnit(view, shown);
-        facts[shown == inchUnit ? "symbol in mil" : "symbol in my"] = dialog.pad().symbol();
-        camera.take(dialog, shown == inchUnit ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
+    for (Unit const shown : {Unit::Inch, Unit::Millimetre}) {
+        giveUnit(view, shown);
+        facts[shown == Unit::Inch ? "symbol in mil" : "symbol in my"] = dialog.pad().symbol();
+        camera.take(dialog, shown == Unit::Inch ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
     }
     dialog.pad().showNames();
     camera.take(dialog, "feature-dialog-names.png");
@@ -219,7 +219,7 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
     camera.take(dialog, "feature-dialog-chinese.png"); // also delivers the language change to the dialog
     facts["description in Chinese"] = dialog.pad().description();
     window.setLanguage(LANGUAGE_ENGLISH);
-    setUnit(view, unit);
+    giveUnit(view, unit);
     facts["saved"] = dialog.saveForm();
     dialog.close();
     return facts;
@@ -300,14 +300,14 @@ QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
     facts["summary"] = written.files.contains(files.summary) ? QJsonValue(files.summary) : QJsonValue();
     facts["files"] = QJsonArray::fromStringList(written.files);
     facts["errors"] = QJsonArray::fromStringList(written.errors);
-    int const unit = getUnit(view.handle());
+    Unit const unit = Ext::unitOf(view.handle());
     window.showPage("results");
     bool const hasTracks = window.results().showCheck(signalTable, linesNumber);
-    for (int const shown : {inchUnit, metricUnit}) {
-        setUnit(view.handle(), shown);
-        camera.take(window, shown == inchUnit ? "results-inch.png" : "results-mm.png");
+    for (Unit const shown : {Unit::Inch, Unit::Millimetre}) {
+        giveUnit(view.handle(), shown);
+        camera.take(window, shown == Unit::Inch ? "results-inch.png" : "results-mm.png");
     }
-    setUnit(view.handle(), unit);
+    giveUnit(view.handle(), unit);
     window.showPage("board");
     if (hasTracks && !view.marks().empty()) {
         camera.take(window, "results-on-board.png");

@@ -1,41 +1,30 @@
 #pragma once
 
 #include <UIAPICommon.h>
+#include <UIAPICommonExt.h>
 
 namespace Workbench {
 
-/// The library's codes of a view's unit: inch and mil, or millimetre and micrometre. The sizes in a symbol
-/// name have one of the small units under the same code.
-inline constexpr int inchUnit = 0;
-inline constexpr int metricUnit = 1;
+using KVCAM::UIAPI::Ext::Unit;
 
-constexpr bool isUnit(int code)
+/// Gives a view a unit.
+inline void giveUnit(void const * view, Unit unit)
 {
-    return code == inchUnit || code == metricUnit;
-}
-
-constexpr int otherUnit(int unit)
-{
-    return unit == inchUnit ? metricUnit : inchUnit;
+    KVCAM::UIAPI::setUnit(view, KVCAM::UIAPI::Ext::unitCode(unit));
 }
 
 /// Gives a view its other unit.
 inline void switchUnit(void const * view)
 {
-    KVCAM::UIAPI::setUnit(view, otherUnit(KVCAM::UIAPI::getUnit(view)));
+    giveUnit(view, otherUnit(KVCAM::UIAPI::Ext::unitOf(view)));
 }
 
 /// The length of a small unit.
-constexpr double nanometresPer(int unit)
+constexpr double micrometresPer(Unit unit)
 {
-    return unit == inchUnit ? 25400 : 1000;
+    return nanometresPer(unit, KVCAM::UIAPI::Ext::LengthScale::Small) / 1000.0;
 }
 
-constexpr double micrometresPer(int unit)
-{
-    return nanometresPer(unit) / 1000;
-}
-
-inline constexpr double micrometresPerMil = micrometresPer(inchUnit);
+inline constexpr double micrometresPerMil = micrometresPer(Unit::Inch);
 
 } // namespace Workbench

@@ -44,7 +44,7 @@ QGroupBox * titled(char const * title, QWidget * content)
 
 } // namespace
 
-BoardPage::BoardPage(Session & session, LogLines const & log, int unit, QString formFile)
+BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile)
     : QSplitter(Qt::Vertical)
     , m_session(session)
     , m_formFile(std::move(formFile))
@@ -69,7 +69,7 @@ BoardPage::BoardPage(Session & session, LogLines const & log, int unit, QString 
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
-void BoardPage::makeViews(int unit)
+void BoardPage::makeViews(Unit unit)
 {
     for (Session::Step const & step : m_session.steps()) {
         auto * view = new BoardView(m_session.job(), step.name, unit, this);
@@ -238,7 +238,7 @@ void BoardPage::closeFeature()
 int BoardPage::firstPad() const
 {
     for (auto const & feature : currentView()->features()) {
-        PadSymbol const symbol(QString::fromStdString(feature.symbol), inchUnit);
+        PadSymbol const symbol(QString::fromStdString(feature.symbol), Unit::Inch);
         if (feature.kind == 'P' && symbol.hasWidth()) {
             return feature.index;
         }

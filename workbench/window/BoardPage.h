@@ -2,6 +2,7 @@
 
 #include "board/BoardSigns.h"
 #include "job/Session.h"
+#include "ui/Units.h"
 
 #include <QPointer>
 #include <QSplitter>
@@ -31,7 +32,7 @@ class BoardPage : public QSplitter
 public:
     /// Registers the views, which start in `unit`. Session and log are not owned and outlive the page; the
     /// session's counts follow deletions. `formFile` keeps the forms of the feature dialogs.
-    BoardPage(Session & session, LogLines const & log, int unit, QString formFile);
+    BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile);
 
     std::vector<BoardView *> const & views() const { return m_views; }
     BoardView * currentView() const;
@@ -77,7 +78,7 @@ signals:
     void status(QString const & text);
 
 private:
-    void makeViews(int unit);
+    void makeViews(Unit unit);
     void makeLayout(LogLines const & log);
     QWidget * makeLayerPane();
     std::size_t stepIndex() const;

@@ -276,8 +276,8 @@ void MainWindow::useStateFile(QString const & file, bool keepsUnit)
     }
     showPage(choices->page);
     for (BoardView const * view : m_board->views()) {
-        if (!keepsUnit && getUnit(view->handle()) != choices->unit) {
-            setUnit(view->handle(), choices->unit);
+        if (!keepsUnit && Ext::unitOf(view->handle()) != choices->unit) {
+            giveUnit(view->handle(), choices->unit);
         }
     }
     setLanguage(choices->chinese ? LANGUAGE_CHINESE : LANGUAGE_ENGLISH);
@@ -288,7 +288,7 @@ void MainWindow::closeEvent(QCloseEvent * event)
     m_board->closeFeature();
     if (!m_stateFile.isEmpty()) {
         bool const chinese = m_language->currentData().toInt() == LANGUAGE_CHINESE;
-        int const unit = getUnit(m_board->currentView()->handle());
+        Unit const unit = Ext::unitOf(m_board->currentView()->handle());
         keepWindow(*this, {m_pages->currentWidget()->objectName(), unit, chinese}, m_stateFile);
     }
     QMainWindow::closeEvent(event);

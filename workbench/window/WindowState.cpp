@@ -36,10 +36,11 @@ std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const &
     }
     WindowChoices choices;
     bool isNumber = false;
-    choices.unit = settings.value(unitKey).toString().toInt(&isNumber);
-    if (!isNumber || !isUnit(choices.unit)) {
+    int const unit = settings.value(unitKey).toString().toInt(&isNumber);
+    if (!isNumber || !KVCAM::UIAPI::Ext::isUnitCode(unit)) {
         return std::nullopt;
     }
+    choices.unit = KVCAM::UIAPI::Ext::unitOfCode(unit);
     choices.page = settings.value(pageKey).toString();
     choices.chinese = settings.value(languageKey).toString() == "true";
     return choices;
@@ -53,7 +54,7 @@ bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QStri
         settings.setValue(splitterKey(*splitter), splitter->saveState());
     }
     settings.setValue(pageKey, choices.page);
-    settings.setValue(unitKey, choices.unit);
+    settings.setValue(unitKey, unitCode(choices.unit));
     settings.setValue(languageKey, choices.chinese);
     settings.sync();
     if (settings.status() != QSettings::NoError) {

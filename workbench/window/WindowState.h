@@ -14,7 +14,7 @@ namespace Workbench {
 struct WindowChoices
 {
     QString page; ///< object name
-    int unit = inchUnit;
+    Unit unit = Unit::Inch;
     bool chinese = false;
 };
 
