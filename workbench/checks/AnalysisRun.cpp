@@ -1,7 +1,6 @@
 #include "checks/AnalysisRun.h"
 
 #include "job/ReportFormat.h"
-#include "ui/Units.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -138,8 +137,8 @@ std::vector<LayerWidth> AnalysisRun::trackWidths() const
     if (Ext::ReportCategory const * lines = m_report.find(signalTable, linesNumber)) {
         for (Ext::ReportEntry const & entry : lines->entries) {
             LayerWidth & width = narrowest[entry.layer];
-            if (entry.micrometres && (!width.micrometres || *entry.micrometres < *width.micrometres)) {
-                width = {entry.layer, entry.micrometres, entry.severity};
+            if (entry.measured && (!width.measured || *entry.measured < *width.measured)) {
+                width = {entry.layer, entry.measured, entry.severity};
             }
         }
     }
@@ -238,9 +237,9 @@ QJsonObject toJson(AnalysisRun const & run)
                           {"um", QJsonValue()},
                           {"mil", QJsonValue()},
                           {"severity", Ext::markOf(width.severity).name}};
-        if (width.micrometres) {
-            entry["um"] = *width.micrometres;
-            entry["mil"] = *width.micrometres / micrometresPerMil;
+        if (width.measured) {
+            entry["um"] = width.measured->toMicrometres();
+            entry["mil"] = width.measured->toMil();
         }
         widths.append(entry);
     }
