@@ -122,7 +122,7 @@ void AnalysisReport::setLevels(std::string const & table, std::vector<Analysis_R
     }
 }
 
-void AnalysisReport::setLevelUnit(LevelUnit unit)
+void AnalysisReport::setLevelUnit(Unit unit)
 {
     m_unit = unit;
     for (ReportCategory & entry : m_categories) {
@@ -179,8 +179,10 @@ void AnalysisReport::append(ReportCategory & category, std::string const & layer
                             std::vector<check_info> const & list) const
 {
     for (check_info const & info : list) {
-        category.entries.push_back(
-            {layer, level, info.value, measuredValue(info), positionOf(info), Severity::None});
+        auto const micrometres = measuredValue(info);
+        auto const measured =
+            micrometres ? std::optional(Length::fromMicrometres(*micrometres)) : std::nullopt;
+        category.entries.push_back({layer, level, info.value, measured, positionOf(info), Severity::None});
         gradeEntry(category, category.entries.back());
     }
 }
@@ -198,8 +200,8 @@ std::optional<Analysis_Ranges_Record> AnalysisReport::levelsOf(ReportCategory co
 // Entries are counted while being graded.
 void AnalysisReport::gradeEntry(ReportCategory & category, ReportEntry & entry) const
 {
-    entry.severity = category.levels && entry.micrometres
-                         ? gradeMeasured(*category.levels, *entry.micrometres, m_unit)
+    entry.severity = category.levels && entry.measured
+                         ? gradeMeasured(*category.levels, *entry.measured, m_unit)
                          : Severity::None;
     ++category.counts[static_cast<std::size_t>(entry.severity)];
 }

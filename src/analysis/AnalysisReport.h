@@ -1,6 +1,8 @@
 #pragma once
 
 #include "../support/Result.h"
+#include "../units/Length.h"
+#include "../units/Unit.h"
 #include "AnalysisRecords.h"
 #include "Grade.h"
 #include "UIAPICommonExport.h"
@@ -25,11 +27,11 @@ using SeverityCounts = std::array<std::size_t, severityCount>;
 /// One measurement of a check.
 struct ReportEntry
 {
-    std::string layer;                 ///< name, UTF-8
-    int level = 0;                     ///< the engine's level, or the number of the list or group
-    int value = 0;                     ///< the engine's own value, in mil rounded down
-    std::optional<double> micrometres; ///< the measured value, see getMeasureValue(); none where kind and
-                                       ///< number of points do not agree
+    std::string layer;              ///< name, UTF-8
+    int level = 0;                  ///< the engine's level, or the number of the list or group
+    int value = 0;                  ///< the engine's own value, in mil rounded down
+    std::optional<Length> measured; ///< whole micrometres, see getMeasureValue(); none where kind and
+                                    ///< number of points do not agree
     std::optional<KVCAM::API::point> position; ///< micrometres; the middle where two places were measured
     Severity severity = Severity::None;        ///< by the levels of its category
 };
@@ -88,10 +90,10 @@ public:
     /// are looked up by the category's name.
     UIAPICOMMON_EXPORT void setLevels(std::string const & table,
                                       std::vector<Analysis_Ranges_Record> const & records);
-    /// The unit of all levels, mil until set; grades everything again.
-    UIAPICOMMON_EXPORT void setLevelUnit(LevelUnit unit);
+    /// The unit whose small one all levels have, Inch (mil) until set; grades everything again.
+    UIAPICOMMON_EXPORT void setLevelUnit(Unit unit);
     /// The unit of all levels.
-    LevelUnit levelUnit() const { return m_unit; }
+    Unit levelUnit() const { return m_unit; }
 
     /// As set by setJobStep().
     std::string const & job() const { return m_job; }
@@ -118,7 +120,7 @@ private:
 
     std::string m_job;
     std::string m_step;
-    LevelUnit m_unit = LevelUnit::Mil;
+    Unit m_unit = Unit::Inch;
     std::vector<ReportCategory> m_categories;
     std::vector<NotChecked> m_notChecked;
     std::map<std::string, std::map<std::string, Analysis_Ranges_Record>> m_levels; // by table and name

@@ -30,14 +30,14 @@ Sense senseOf(Analysis_Ranges_Record const & record)
     return record.redLv > record.greenLv ? Sense::LargerIsWorse : Sense::SmallerIsWorse;
 }
 
-Severity gradeMeasured(Analysis_Ranges_Record const & record, double micrometres, LevelUnit unit)
+Severity gradeMeasured(Analysis_Ranges_Record const & record, Length measured, Unit levels)
 {
-    auto const inMicrometres = [unit](double level) {
-        return std::round(unit == LevelUnit::Mil ? level * Units::millimetresPerInch : level);
+    auto const inMicrometres = [levels](double level) {
+        return std::round(levels == Unit::Inch ? level * Units::millimetresPerInch : level);
     };
     Analysis_Ranges_Record const converted{
         {}, inMicrometres(record.redLv), inMicrometres(record.yellowLv), inMicrometres(record.greenLv)};
-    return grade(converted, micrometres, senseOf(record));
+    return grade(converted, measured.toMicrometres(), senseOf(record));
 }
 
 } // namespace KVCAM::UIAPI::Ext

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "../units/Length.h"
+#include "../units/Unit.h"
 #include "AnalysisRecords.h"
 #include "UIAPICommonExport.h"
 
@@ -27,13 +29,6 @@ enum class Sense : int
     LargerIsWorse   ///< lengths, counts: red >= yellow >= green
 };
 
-/// The unit of the levels. The files do not specify it.
-enum class LevelUnit : int
-{
-    Mil,
-    Micrometre
-};
-
 /// The severity of a value in the unit of the levels. A value at a level has that level's severity; a value
 /// between two levels has that of the better one. With levels 3, 4 and 5 and smaller being worse, 3 is red,
 /// 3.5 yellow, 5 green and 6 none. None if the value or a level is not finite, or if the levels are not in
@@ -46,11 +41,11 @@ enum class LevelUnit : int
 /// SmallerIsWorse.
 [[nodiscard]] UIAPICOMMON_EXPORT Sense senseOf(Analysis_Ranges_Record const & record);
 
-/// grade() of a measurement in micrometres against levels in `unit`, in the levels' own sense. The engine
-/// measures in whole micrometres, and levels are compared at that resolution: a 4 mil track, measured as 102,
-/// is at level 4 (101.6), not beyond it.
+/// grade() of a measurement against levels in the small unit of `levels`, which the files do not specify, in
+/// the levels' own sense. The engine measures in whole micrometres, and levels are compared at that
+/// resolution: a 4 mil track, measured as 102 micrometres, is at level 4 (101.6), not beyond it.
 [[nodiscard]] UIAPICOMMON_EXPORT Severity gradeMeasured(Analysis_Ranges_Record const & record,
-                                                        double micrometres, LevelUnit unit = LevelUnit::Mil);
+                                                        Length measured, Unit levels = Unit::Inch);
 
 /// How a severity is displayed. The colours are distinguishable with red-green blindness and have a contrast
 /// of at least 3 on white; letter and icon convey the same without colour.

@@ -3,7 +3,6 @@
 
 #include "analysis/AnalysisReport.h"
 #include "support/WholeFile.h"
-#include "units/UnitConversion.h"
 
 #include <QLocale>
 #include <QObject>
@@ -29,14 +28,15 @@ QByteArray numberText(std::optional<double> value)
                                           : QByteArray();
 }
 
-std::optional<double> inMil(std::optional<double> micrometres)
+std::optional<double> inUnit(std::optional<Length> measured, Unit unit)
 {
-    return micrometres ? std::optional<double>(*micrometres / Units::millimetresPerInch) : std::nullopt;
+    return measured ? std::optional<double>(measured->to(unit, LengthScale::Small)) : std::nullopt;
 }
 
-char const * unitName(LevelUnit unit)
+// As reports write it; dialogs say "my".
+char const * smallUnitName(Unit unit)
 {
-    return unit == LevelUnit::Mil ? "mil" : "um";
+    return unit == Unit::Inch ? "mil" : "um";
 }
 
 // --- JSON ---------------------------------------------------------------------------------------------
@@ -109,8 +109,8 @@ QByteArray jsonEntry(ReportCategory const & category, ReportEntry const & entry)
         y = entry.position->y;
     }
     return "{\"layer\": " + quoted(entry.layer) + ", \"level\": " + QByteArray::number(entry.level) +
-           ", \"um\": " + jsonNumber(entry.micrometres) +
-           ", \"mil\": " + jsonNumber(inMil(entry.micrometres)) +
+           ", \"um\": " + jsonNumber(inUnit(entry.measured, Unit::Millimetre)) +
+           ", \"mil\": " + jsonNumber(inUnit(entry.measured, Unit::Inch)) +
            ", \"limit\": " + jsonNumber(limitOf(category, entry)) + ", \"severity\": \"" +
            markOf(entry.severity).name + "\", \"x_um\": " + jsonNumber(x) + ", \"y_um\": " + jsonNumber(y) +
            "}";
@@ -131,7 +131,7 @@ QByteArray jsonText(AnalysisReport const & report)
     QByteArray out =
         "{\n  \"format\": \"analysis-report\",\n  \"version\": " + QByteArray::number(formatVersion) +
         ",\n  \"job\": " + quoted(report.job()) + ",\n  \"step\": " + quoted(report.step()) +
-        ",\n  \"levelUnit\": \"" + unitName(report.levelUnit()) +
+        ",\n  \"levelUnit\": \"" + smallUnitName(report.levelUnit()) +
         "\",\n  \"counts\": " + jsonCounts(report.counts()) + ",\n  \"categories\": ";
     appendJsonArray(out, "  ", report.categories(),
                     [&](ReportCategory const & category) { appendJsonCategory(out, category); });
@@ -174,8 +174,8 @@ void appendCsvEntry(QByteArray & out, ReportCategory const & category, ReportEnt
                         csvText(category.name),
                         csvText(entry.layer),
                         QByteArray::number(entry.level),
-                        numberText(entry.micrometres),
-                        numberText(inMil(entry.micrometres)),
+                        numberText(inUnit(entry.measured, Unit::Millimetre)),
+                        numberText(inUnit(entry.measured, Unit::Inch)),
                         numberText(limitOf(category, entry)),
                         markOf(entry.severity).name,
                         entry.position ? numberText(entry.position->x) : QByteArray(),
@@ -188,7 +188,7 @@ QByteArray csvReport(AnalysisReport const & report)
 {
     QByteArray out = "\xEF\xBB\xBF";
     appendCsvLine(out, {"record", "table", "number", "category", "layer", "level", "value_um", "value_mil",
-                        QByteArray("limit_") + unitName(report.levelUnit()), "severity", "x_um", "y_um",
+                        QByteArray("limit_") + smallUnitName(report.levelUnit()), "severity", "x_um", "y_um",
                         "count", "text"});
     for (auto const & [record, text] : {std::pair("job", &report.job()), {"step", &report.step()}}) {
         appendCsvLine(out, {record, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, csvText(*text)});

@@ -6,7 +6,7 @@
 //   saveRanges()            writes what changeRangesValue() changed back into the file
 //   categoryTables()        the names of the category tables
 //   grade()                 the severity of a value by the three levels of a category
-//   gradeMeasured()         the same for a measurement in micrometres
+//   gradeMeasured()         the same for a measured length
 //   senseOf()               which side of the levels is the bad one
 //   severityPalette         how a severity is shown: colour, letter, icon, name
 //   markOf()                its row for a severity

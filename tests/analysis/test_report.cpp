@@ -63,10 +63,10 @@ TEST(Grade, AValueAtALevelHasTheLevelsSeverity)
     }
     EXPECT_EQ(senseOf(rising), Sense::SmallerIsWorse);
     EXPECT_EQ(senseOf(falling), Sense::LargerIsWorse);
-    EXPECT_EQ(gradeMeasured(rising, 102), Severity::Yellow) << "a track of 4 mil, 101.6";
-    EXPECT_EQ(gradeMeasured(rising, 103), Severity::Green);
-    EXPECT_EQ(gradeMeasured(falling, 102), Severity::Yellow);
-    EXPECT_EQ(gradeMeasured({"", 100, 120, 150}, 120, LevelUnit::Micrometre), Severity::Yellow);
+    EXPECT_EQ(gradeMeasured(rising, 102_um), Severity::Yellow) << "a track of 4 mil, 101.6";
+    EXPECT_EQ(gradeMeasured(rising, 103_um), Severity::Green);
+    EXPECT_EQ(gradeMeasured(falling, 102_um), Severity::Yellow);
+    EXPECT_EQ(gradeMeasured({"", 100, 120, 150}, 120_um, Unit::Millimetre), Severity::Yellow);
     EXPECT_EQ(markOf(static_cast<Severity>(-5)).severity, Severity::None);
 }
 
@@ -153,16 +153,16 @@ TEST_F(ReportTest, EachMeasurementKeepsItsCategory)
     EXPECT_EQ(report.find("DrillRanges", 46), nullptr);
     ReportEntry const & far = lines->entries[0];
     EXPECT_EQ(far.position->y, 0.5) << "the middle";
-    EXPECT_FALSE(lines->entries[1].micrometres.has_value()) << "a kind that is not measured";
+    EXPECT_FALSE(lines->entries[1].measured.has_value()) << "a kind that is not measured";
     EXPECT_EQ(lines->entries[1].position->y, 9);
     EXPECT_EQ(lines->entries[2].severity, Severity::Red) << "76 is 3 mil";
     EXPECT_EQ(limitOf(*lines, lines->entries[2]), 3.0);
     EXPECT_EQ(limitOf(*lines, lines->entries[3]), 4.0);
     EXPECT_EQ(limitOf(*lines, far), std::nullopt);
     EXPECT_FALSE(report.find("SignalLayerRanges", 63)->entries[0].position.has_value());
-    EXPECT_EQ(report.find("DrillRanges", 2)->entries[0].micrometres, 200.0);
+    EXPECT_EQ(report.find("DrillRanges", 2)->entries[0].measured, 200_um);
 
-    report.setLevelUnit(LevelUnit::Micrometre);
+    report.setLevelUnit(Unit::Millimetre);
     EXPECT_EQ(lines->counts, (SeverityCounts{4, 0, 0, 0}));
     EXPECT_EQ(report.find("UnifiedItems", 10)->counts, (SeverityCounts{0, 0, 0, 1})) << "larger is worse";
     report.setLevels("SignalLayerRanges", {});

@@ -2,7 +2,6 @@
 
 #include "checks/Levels.h"
 #include "job/ReportFormat.h"
-#include "ui/Units.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -140,8 +139,8 @@ std::vector<LayerWidth> AnalysisRun::trackWidths() const
     if (Ext::ReportCategory const * lines = m_report.find(signalTable, linesNumber)) {
         for (Ext::ReportEntry const & entry : lines->entries) {
             LayerWidth & width = narrowest[entry.layer];
-            if (entry.micrometres && (!width.micrometres || *entry.micrometres < *width.micrometres)) {
-                width = {entry.layer, entry.micrometres, entry.severity};
+            if (entry.measured && (!width.measured || *entry.measured < *width.measured)) {
+                width = {entry.layer, entry.measured, entry.severity};
             }
         }
     }
@@ -240,9 +239,9 @@ QJsonObject toJson(AnalysisRun const & run)
                           {"um", QJsonValue()},
                           {"mil", QJsonValue()},
                           {"severity", Ext::markOf(width.severity).name}};
-        if (width.micrometres) {
-            entry["um"] = *width.micrometres;
-            entry["mil"] = *width.micrometres / micrometresPerMil;
+        if (width.measured) {
+            entry["um"] = width.measured->toMicrometres();
+            entry["mil"] = width.measured->toMil();
         }
         widths.append(entry);
     }

@@ -24,7 +24,7 @@ inline constexpr int linesNumber = 46;
 struct LayerWidth
 {
     std::string layer;
-    std::optional<double> micrometres; ///< none for a layer without tracks
+    std::optional<KVCAM::UIAPI::Ext::Length> measured; ///< none for a layer without tracks
     KVCAM::UIAPI::Ext::Severity severity = KVCAM::UIAPI::Ext::Severity::None;
 };
 

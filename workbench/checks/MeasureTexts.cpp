@@ -21,9 +21,9 @@ QString smallUnitText(void const * view, double mil, int decimals)
     return QString::fromStdString(doubleToString(std::isfinite(rounded) ? rounded : shown));
 }
 
-QString measuredText(void const * view, double micrometres)
+QString measuredText(void const * view, KVCAM::UIAPI::Ext::Length measured)
 {
-    return smallUnitText(view, micrometres / micrometresPerMil, 2);
+    return smallUnitText(view, measured.toMil(), 2);
 }
 
 QString smallUnitName(void const * view)

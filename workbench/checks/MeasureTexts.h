@@ -9,8 +9,8 @@ namespace Workbench {
 
 /// A length in mil as text in a view's small unit, without trailing zeros; "–" if not finite.
 QString smallUnitText(void const * view, double mil, int decimals = 5);
-/// A measured value in micrometres as text in a view's small unit, rounded to two decimals.
-QString measuredText(void const * view, double micrometres);
+/// A measured value as text in a view's small unit, rounded to two decimals.
+QString measuredText(void const * view, KVCAM::UIAPI::Ext::Length measured);
 /// "mil" or "my".
 QString smallUnitName(void const * view);
 

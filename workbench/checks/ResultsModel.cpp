@@ -49,7 +49,7 @@ Ext::Severity severityOf(int column)
     }
 }
 
-std::optional<double> smaller(std::optional<double> a, std::optional<double> b)
+std::optional<Ext::Length> smaller(std::optional<Ext::Length> a, std::optional<Ext::Length> b)
 {
     return !a || (b && *b < *a) ? b : a;
 }
@@ -89,7 +89,7 @@ void ResultsModel::addGroups(std::size_t category)
             m_groups.push_back({category, entries[i].layer, i, i, {}, {}});
         }
         m_groups.back().end = i + 1;
-        m_groups.back().smallest = smaller(m_groups.back().smallest, entries[i].micrometres);
+        m_groups.back().smallest = smaller(m_groups.back().smallest, entries[i].measured);
     }
     std::stable_sort(
         m_groups.begin() + static_cast<std::ptrdiff_t>(first), m_groups.end(),
@@ -281,9 +281,9 @@ QVariant ResultsModel::data(QModelIndex const & index, int role) const
     return {};
 }
 
-std::optional<double> ResultsModel::smallestOf(std::size_t category) const
+std::optional<Ext::Length> ResultsModel::smallestOf(std::size_t category) const
 {
-    std::optional<double> smallest;
+    std::optional<Ext::Length> smallest;
     for (std::size_t i = m_firsts.at(category); i < m_firsts.at(category + 1); ++i) {
         smallest = smaller(smallest, m_groups[i].smallest);
     }
@@ -312,7 +312,7 @@ QString ResultsModel::measurementText(int column, Row const & row, int number) c
     case Severity:
         return signOf(row.entry->severity);
     case Measured:
-        return row.entry->micrometres ? measuredText(m_view, *row.entry->micrometres) : tr("not known");
+        return row.entry->measured ? measuredText(m_view, *row.entry->measured) : tr("not known");
     case Limit: {
         auto const limit = Ext::limitOf(*row.category, *row.entry);
         return limit ? smallUnitText(m_view, *limit) : QString();
@@ -328,7 +328,7 @@ QString ResultsModel::measurementText(int column, Row const & row, int number) c
 }
 
 QString ResultsModel::sumText(int column, Row const & row, Ext::SeverityCounts const & counts,
-                              std::optional<double> smallest) const
+                              std::optional<Ext::Length> smallest) const
 {
     std::size_t const count = total(counts);
     switch (column) {

@@ -70,7 +70,7 @@ private:
         std::size_t begin = 0;
         std::size_t end = 0;
         KVCAM::UIAPI::Ext::SeverityCounts counts{};
-        std::optional<double> smallest; // micrometres
+        std::optional<KVCAM::UIAPI::Ext::Length> smallest;
     };
 
     void addGroups(std::size_t category);
@@ -81,8 +81,8 @@ private:
     QString text(QModelIndex const & index) const;
     QString measurementText(int column, Row const & row, int number) const;
     QString sumText(int column, Row const & row, KVCAM::UIAPI::Ext::SeverityCounts const & counts,
-                    std::optional<double> smallest) const;
-    std::optional<double> smallestOf(std::size_t category) const;
+                    std::optional<KVCAM::UIAPI::Ext::Length> smallest) const;
+    std::optional<KVCAM::UIAPI::Ext::Length> smallestOf(std::size_t category) const;
     KVCAM::UIAPI::Ext::SeverityCounts countsAt(QModelIndex const & index) const;
 
     AnalysisRun const & m_run;

@@ -220,8 +220,8 @@ bool ResultsPage::showCheck(std::string const & table, int number)
         // The engine sorts the measurements of a layer, so the first is the smallest.
         QModelIndex const first = m_model->index(0, 0, m_model->index(layer, 0, category));
         Ext::ReportEntry const * found = m_model->at(worst).entry;
-        auto const measured = m_model->at(first).entry->micrometres;
-        if (found == nullptr || (measured && (!found->micrometres || *measured < *found->micrometres))) {
+        auto const measured = m_model->at(first).entry->measured;
+        if (found == nullptr || (measured && (!found->measured || *measured < *found->measured))) {
             worst = first;
         }
     }
@@ -315,8 +315,8 @@ void ResultsPage::showSelected()
     }
     QString const unit = smallUnitName(m_view->handle());
     QString text = QString::fromStdString(row.category->name);
-    if (row.entry->micrometres) {
-        text += ": " + measuredText(m_view->handle(), *row.entry->micrometres) + ' ' + unit;
+    if (row.entry->measured) {
+        text += ": " + measuredText(m_view->handle(), *row.entry->measured) + ' ' + unit;
     }
     Ext::SeverityMark const & mark = Ext::markOf(row.entry->severity);
     emit measurementSelected(QString::fromStdString(m_run->report().step()),

@@ -64,10 +64,10 @@ void TrackWidthChart::setView(void const * view)
 
 QString TrackWidthChart::valueText(LayerWidth const & width) const
 {
-    if (!width.micrometres) {
+    if (!width.measured) {
         return tr("no tracks");
     }
-    QString const value = measuredText(m_view, *width.micrometres);
+    QString const value = measuredText(m_view, *width.measured);
     return width.severity == Ext::Severity::None ? value : value + "  " + signOf(width.severity);
 }
 
@@ -78,11 +78,11 @@ QString TrackWidthChart::barText(std::size_t bar) const
     }
     LayerWidth const & width = m_widths[bar];
     QString const layer = QString::fromStdString(width.layer);
-    if (!width.micrometres) {
+    if (!width.measured) {
         return layer + ": " + tr("no tracks");
     }
     return QString("%1: %2 %3 (%4)")
-        .arg(layer, measuredText(m_view, *width.micrometres), smallUnitName(m_view), wordOf(width.severity));
+        .arg(layer, measuredText(m_view, *width.measured), smallUnitName(m_view), wordOf(width.severity));
 }
 
 QSize TrackWidthChart::sizeHint() const
@@ -142,7 +142,7 @@ double TrackWidthChart::longest() const
 {
     double bars = 0;
     for (LayerWidth const & width : m_widths) {
-        bars = std::max(bars, width.micrometres.value_or(0) / micrometresPerMil);
+        bars = std::max(bars, width.measured.value_or(Ext::Length()).toMil());
     }
     double end = bars;
     for (Line const & level : lines()) {
@@ -220,7 +220,7 @@ void TrackWidthChart::paintBars(QPainter & painter, QRectF const & plot) const
         painter.drawText(name, Qt::AlignRight | Qt::AlignVCenter,
                          fontMetrics().elidedText(QString::fromStdString(width.layer), Qt::ElideMiddle,
                                                   static_cast<int>(name.width())));
-        double const end = place(plot, width.micrometres.value_or(0) / micrometresPerMil);
+        double const end = place(plot, width.measured.value_or(Ext::Length()).toMil());
         painter.fillRect(QRectF(row.left(), row.top() + 3, end - row.left(), row.height() - 6),
                          colourOf(width.severity));
         painter.setPen(width.severity == Ext::Severity::None ? palette().color(QPalette::Text)

@@ -25,6 +25,4 @@ constexpr double micrometresPer(Unit unit)
     return nanometresPer(unit, KVCAM::UIAPI::Ext::LengthScale::Small) / 1000.0;
 }
 
-inline constexpr double micrometresPerMil = micrometresPer(Unit::Inch);
-
 } // namespace Workbench
