@@ -9,6 +9,8 @@
 #include <QRandomGenerator>
 #include <QThread>
 
+#include <gmock/gmock.h>
+
 #include <iostream>
 
 using namespace KVCAM::UIAPI;
@@ -36,7 +38,7 @@ protected:
         QProcess writer;
         writer.start(CONFIG_WRITER, arguments);
         bool const ended = writer.waitForFinished() && writer.exitStatus() == QProcess::NormalExit;
-        said = writer.readAllStandardOutput().toStdString();
+        said = writer.readAllStandardOutput().replace("\r\n", "\n").toStdString();
         return ended ? writer.exitCode() : -1;
     }
     std::string said; ///< by the latest writer
@@ -183,6 +185,58 @@ TEST_F(SafeSaving, AReadOnlyDirectoryKeepsAReadOnlyFileAndRewritesAWritableOneIn
     EXPECT_EQ(write(QStringList{".", "once", "3"} + rights), 0);
     EXPECT_EQ(generationIn(file), 3) << "in place, at the risk of a crash";
     EXPECT_TRUE(QFile::setPermissions(config, everyone | QFile::WriteOwner));
+}
+
+TEST_F(SafeSaving, AFileThatAnotherProcessHoldsOrThatIsReadOnlyStaysWhole)
+{
+    if (isUnix()) {
+        GTEST_SKIP() << "neither prevents a file's replacement here";
+    }
+    ASSERT_TRUE(QDir().mkdir("config"));
+    ASSERT_EQ(write({".", "once", "1"}), 0);
+    ASSERT_EQ(write({".", "template", "1"}), 0);
+    QString const tmpl = "autoMatrix/mine.json";
+    QByteArray const old = readFile(tmpl);
+    auto const staysWhole = [&](std::string const & reason) {
+        EXPECT_EQ(write({".", "once", "2"}), 0);
+        EXPECT_THAT(said, ::testing::MatchesRegex("last: " + reason + "\nserver.json: " + reason + "\n"));
+        EXPECT_EQ(generationIn(file), 1);
+        EXPECT_EQ(QDir(config).entryList(QDir::Files), QStringList{"server.json"});
+        EXPECT_EQ(write({".", "template", "2"}), 0);
+        EXPECT_THAT(said, ::testing::MatchesRegex("box: File open failed\nmine.json: " + reason + "\n"));
+        EXPECT_EQ(readFile(tmpl), old);
+        EXPECT_EQ(QDir("autoMatrix").entryList(QDir::Files), QStringList{"mine.json"});
+    };
+    {
+        QFile settings(file);
+        QFile matrix(tmpl);
+        ASSERT_TRUE(settings.open(QIODevice::ReadOnly) &&
+                    matrix.open(QIODevice::ReadOnly)); // shared for all but deletion
+        staysWhole("The file cannot be written: .+");
+    }
+    auto const permit = [&](QFile::Permissions what) {
+        ASSERT_TRUE(QFile::setPermissions(file, what) && QFile::setPermissions(tmpl, what));
+    };
+    permit(QFile::ReadOwner);
+    staysWhole("The file cannot be opened for writing: .+");
+    permit(QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_EQ(write({".", "once", "2"}), 0);
+    EXPECT_EQ(generationIn(file), 2);
+}
+
+TEST_F(SafeSaving, FileNamesAreUtf8OnDiskAndInTheLog)
+{
+    std::string const name = "测试 Größe";
+    QString const folder = QString::fromStdString(name);
+    ASSERT_TRUE(QDir().mkdir(folder) && QDir::setCurrent(folder));
+    writeFile(file, R"({"OS":1})");
+    UIAPIGlobalVar & global = restart();
+    std::string const place = directory.substr(0, directory.size() - 7) + name + "/config/";
+    EXPECT_THAT(log.take(), ::testing::Contains(globalError("auto matrix json文件不存在！路径：" + place +
+                                                            "automatrix.json")));
+    global.setOS(2);
+    ASSERT_TRUE(QDir::setCurrent(".."));
+    EXPECT_EQ(readObject(folder + "/config/server.json")["OS"].toInt(), 2);
 }
 
 } // namespace
