@@ -197,29 +197,27 @@ TEST_F(SafeSaving, AFileThatAnotherProcessHoldsOrThatIsReadOnlyStaysWhole)
     ASSERT_EQ(write({".", "template", "1"}), 0);
     QString const tmpl = "autoMatrix/mine.json";
     QByteArray const old = readFile(tmpl);
-    auto const staysWhole = [&](std::string const & reason) {
+    auto const permit = [&](QFile::Permissions what) {
+        return QFile::setPermissions(file, what) && QFile::setPermissions(tmpl, what);
+    };
+    QFile settings(file);
+    QFile matrix(tmpl);
+    for (std::string const reason :
+         {"The file cannot be written: .+", "The file cannot be opened for writing: .+"}) {
+        bool const isHeld = settings.open(QIODevice::ReadOnly) && matrix.open(QIODevice::ReadOnly);
+        EXPECT_TRUE(isHeld);
         EXPECT_EQ(write({".", "once", "2"}), 0);
-        EXPECT_THAT(said, ::testing::MatchesRegex("last: " + reason + "\nserver.json: " + reason + "\n"));
+        EXPECT_THAT(said, ::testing::MatchesRegex("last: " + reason + "\\nserver.json: " + reason + "\\n"));
         EXPECT_EQ(generationIn(file), 1);
         EXPECT_EQ(QDir(config).entryList(QDir::Files), QStringList{"server.json"});
         EXPECT_EQ(write({".", "template", "2"}), 0);
-        EXPECT_THAT(said, ::testing::MatchesRegex("box: File open failed\nmine.json: " + reason + "\n"));
+        EXPECT_THAT(said, ::testing::MatchesRegex("box: File open failed\\nmine.json: " + reason + "\\n"));
         EXPECT_EQ(readFile(tmpl), old);
-        EXPECT_EQ(QDir("autoMatrix").entryList(QDir::Files), QStringList{"mine.json"});
-    };
-    {
-        QFile settings(file);
-        QFile matrix(tmpl);
-        ASSERT_TRUE(settings.open(QIODevice::ReadOnly) &&
-                    matrix.open(QIODevice::ReadOnly)); // shared for all but deletion
-        staysWhole("The file cannot be written: .+");
+        settings.close();
+        matrix.close();
+        EXPECT_TRUE(permit(QFile::ReadOwner));
     }
-    auto const permit = [&](QFile::Permissions what) {
-        ASSERT_TRUE(QFile::setPermissions(file, what) && QFile::setPermissions(tmpl, what));
-    };
-    permit(QFile::ReadOwner);
-    staysWhole("The file cannot be opened for writing: .+");
-    permit(QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_TRUE(permit(QFile::ReadOwner | QFile::WriteOwner));
     EXPECT_EQ(write({".", "once", "2"}), 0);
     EXPECT_EQ(generationIn(file), 2);
 }

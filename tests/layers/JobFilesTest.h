@@ -19,11 +19,7 @@ namespace fs = std::filesystem;
 
 // Whether there are links for everyone, pipes, permissions of directories and names of any bytes. What
 // Windows has instead is in test_windows_paths.cpp.
-#if defined(Q_OS_WIN)
-constexpr bool isPosix = false;
-#else
-constexpr bool isPosix = true;
-#endif
+constexpr bool isPosix = fs::path::preferred_separator == '/';
 
 /// Builds file trees in the working directory and tells what is in them.
 inline void putFile(fs::path const & path, std::string const & text)

@@ -104,7 +104,7 @@ TEST(RemovalRules, RootsTheirChildrenAndWhatIsKeptStay)
 
 TEST_F(JobFilesTest, WhatIsKeptIsKnownByItsIdentity)
 {
-    auto const idOf = [](fs::path const & path) { return Directory::at(path).id(); };
+    auto const idOf = [](char const * path) { return Directory::at(path).id(); };
     auto const keeps = [](RemovalRules::Facts const & facts, FileId const & id) {
         return std::find(facts.kept.begin(), facts.kept.end(), id) != facts.kept.end();
     };
@@ -113,8 +113,7 @@ TEST_F(JobFilesTest, WhatIsKeptIsKnownByItsIdentity)
         fs::create_directory_symlink("tree/sub", home);
     }
     RemovalRules::Facts const facts = RemovalRules::factsOf({fs::path(home) / "deep", "none", ""}, {});
-    for (fs::path const & path : {fs::path("tree/sub/deep"), fs::path("tree/sub"), fs::path("tree"),
-                                  fs::path("."), fs::path(".."), fs::current_path().root_path()}) {
+    for (char const * path : {"tree/sub/deep", "tree/sub", "tree", ".", "..", isPosix ? "/" : "\\"}) {
         EXPECT_TRUE(keeps(facts, idOf(path))) << path;
     }
     EXPECT_TRUE(!isPosix || keeps(facts, Directory::at("").look(home).id)) << "the link that leads there";

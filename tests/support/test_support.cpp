@@ -18,6 +18,7 @@
 #include <QWidget>
 
 #include <cmath>
+#include <filesystem>
 #include <limits>
 #include <stdexcept>
 #include <thread>
@@ -28,11 +29,7 @@ using namespace KVCAM::Testing;
 
 namespace {
 
-#if defined(Q_OS_WIN)
-constexpr bool onWindows = true;
-#else
-constexpr bool onWindows = false;
-#endif
+constexpr bool onWindows = std::filesystem::path::preferred_separator != '/';
 
 class SupportTest : public UiapiTest
 {};
