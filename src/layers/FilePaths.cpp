@@ -1,8 +1,5 @@
 #include "layers/FilePaths.h"
 
-#include <system_error>
-#include <utility>
-
 namespace KVCAM::UIAPI::FilePaths {
 
 fs::path fromText(QString const & text)
@@ -33,14 +30,6 @@ fs::path withoutEndSeparator(fs::path path)
 bool namesAnEntry(fs::path const & path)
 {
     return path.has_filename() && path.filename() != "." && path.filename() != "..";
-}
-
-fs::path resolved(fs::path const & path)
-{
-    std::error_code error;
-    fs::path const absolute = path.empty() ? fs::path() : fs::absolute(path, error);
-    fs::path canonical = error || absolute.empty() ? fs::path() : fs::weakly_canonical(absolute, error);
-    return error ? fs::path() : withoutEndSeparator(std::move(canonical));
 }
 
 } // namespace KVCAM::UIAPI::FilePaths

@@ -21,7 +21,4 @@ fs::path withoutEndSeparator(fs::path path);
 /// Whether the last part is a name: false for roots, ".", ".." and an empty path.
 bool namesAnEntry(fs::path const & path);
 
-/// The absolute path without links, "." and ".." as far as it exists; empty on failure.
-fs::path resolved(fs::path const & path);
-
 } // namespace KVCAM::UIAPI::FilePaths

@@ -4,6 +4,7 @@
 #include "layers/RemovalRules.h"
 #include "layers/TreeCopy.h"
 #include "layers/TreeRemoval.h"
+#include "support/NativePath.h"
 #include "support/WholeFile.h"
 
 #include <QFileInfo>
@@ -17,17 +18,15 @@ using namespace FilePaths;
 bool JobFiles::checkDir(QString const & path)
 {
     fs::path const directory = fromText(path);
-    std::error_code error;
-    if (!directory.empty()) {
-        fs::create_directories(directory, error);
-    }
-    return !directory.empty() && fs::is_directory(directory, error);
+    return !directory.empty() && NativePath::makeDirectories(directory);
 }
 
 bool JobFiles::delDir(std::string const & path, bool removeSelf)
 {
-    fs::path const directory = withoutEndSeparator(fromText(path));
-    if (!namesAnEntry(directory)) {
+    fs::path const given = withoutEndSeparator(fromText(path));
+    fs::path const directory = NativePath::literal(given);
+    // Both count: the literal form may be free of a "..", and a share looks like a directory without it.
+    if (!namesAnEntry(given) || !namesAnEntry(directory)) {
         return false;
     }
     // By handle from here on: remove what was checked, whatever the path refers to by then.
@@ -42,17 +41,16 @@ bool JobFiles::delDir(std::string const & path, bool removeSelf)
     if (!RemovalRules::mayRemove(place, RemovalRules::currentFacts())) {
         return false;
     }
-    std::error_code error;
     if (entry.kind == DirectoryEntry::Kind::Link) {
-        return removeSelf && fs::is_directory(directory, error) && holder.removeFile(name);
+        return removeSelf && Directory::at(directory).isOpen() && holder.removeFile(name);
     }
     return entry.kind == DirectoryEntry::Kind::Directory && removeTree(holder, name, entry.id, removeSelf);
 }
 
 bool JobFiles::copyDirectoryFile(QString const & from, QString const & to, bool overwrite)
 {
-    fs::path const source = resolved(fromText(from));
-    fs::path const target = resolved(fromText(to));
+    fs::path const source = NativePath::resolved(fromText(from));
+    fs::path const target = NativePath::resolved(fromText(to));
     return !source.empty() && !target.empty() && copyTree(Directory::at(source), target, overwrite);
 }
 

@@ -2,6 +2,7 @@
 
 #include "layers/FilePaths.h"
 #include "layers/RemovalRoots.h"
+#include "support/NativePath.h"
 #include "support/UserHome.h"
 
 #include <QDir>
@@ -34,13 +35,13 @@ void addKept(fs::path const & path, std::vector<FileId> & kept)
     Lineage const target = Directory::at(path).lineage();
     kept.insert(kept.end(), target.begin(), target.end());
     // A home may be reached through a link, which must stay as well.
-    std::error_code error;
-    for (fs::path place = withoutEndSeparator(fs::absolute(path, error)); place.has_relative_path();
-         place = place.parent_path()) {
-        DirectoryEntry const entry = Directory::at(place.parent_path()).look(place.filename());
+    fs::path place = NativePath::absolute(path);
+    for (fs::path above = NativePath::above(place); !above.empty(); above = NativePath::above(place)) {
+        DirectoryEntry const entry = Directory::at(above).look(place.filename());
         if (entry.kind == DirectoryEntry::Kind::Link) {
             kept.push_back(entry.id);
         }
+        place = above;
     }
 }
 
@@ -66,7 +67,7 @@ RemovalRules::Facts RemovalRules::factsOf(std::vector<fs::path> const & kept,
     for (fs::path const & path : roots) {
         // The path was resolved when it was set: a link placed there since is not meant.
         Directory const root = path.has_filename() ? Directory::at(path.parent_path()).enter(path.filename())
-                                                   : Directory::at(path.root_path());
+                                                   : Directory::at(path);
         if (!path.empty() && root.isOpen()) {
             facts.roots.push_back(root.id());
         }
@@ -84,7 +85,7 @@ void Ext::setRemovalRoots(QStringList const & directories)
 {
     std::vector<fs::path> roots;
     for (QString const & directory : directories) {
-        roots.push_back(resolved(fromText(directory)));
+        roots.push_back(NativePath::resolved(fromText(directory)));
     }
     removalRoots() = std::move(roots);
 }

@@ -1,5 +1,7 @@
 #include "layers/TreeCopy.h"
 
+#include "support/NativePath.h"
+
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -111,9 +113,10 @@ Directory openTarget(Directory::Path const & path, FileId const & source)
     Directory::Names missing;
     Directory::Path there = path;
     Directory directory = Directory::at(there);
-    while (!directory.isOpen() && there.has_relative_path()) {
+    for (Directory::Path above = NativePath::above(there); !directory.isOpen() && !above.empty();
+         above = NativePath::above(there)) {
         missing.push_back(there.filename());
-        there = there.parent_path();
+        there = above;
         directory = Directory::at(there);
     }
     Lineage const place = directory.lineage();

@@ -1,6 +1,7 @@
 #include "support/DirectoryTree.h"
 
-#include <algorithm>
+#include "support/VerbatimPath_windows.h"
+
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -133,16 +134,18 @@ DirectoryEntry::Kind kindOf(HANDLE handle)
                                                                  : DirectoryEntry::Kind::File;
 }
 
-void setReadOnly(HANDLE handle, bool isReadOnly)
+/// True if that changed the file.
+bool setReadOnly(HANDLE handle, bool isReadOnly)
 {
     FILE_BASIC_INFO info{};
-    if (ask(handle, FileBasicInfo, info) &&
-        ((info.FileAttributes & FILE_ATTRIBUTE_READONLY) != 0) != isReadOnly) {
-        info.FileAttributes ^= FILE_ATTRIBUTE_READONLY;
-        // With no attribute set, the system would ignore the call.
-        info.FileAttributes |= info.FileAttributes == 0 ? FILE_ATTRIBUTE_NORMAL : 0;
-        tell(handle, FileBasicInfo, info);
+    if (!ask(handle, FileBasicInfo, info) ||
+        ((info.FileAttributes & FILE_ATTRIBUTE_READONLY) != 0) == isReadOnly) {
+        return false;
     }
+    info.FileAttributes ^= FILE_ATTRIBUTE_READONLY;
+    // With no attribute set, the system would ignore the call.
+    info.FileAttributes |= info.FileAttributes == 0 ? FILE_ATTRIBUTE_NORMAL : 0;
+    return tell(handle, FileBasicInfo, info);
 }
 
 bool removeByHandle(File const & file)
@@ -158,37 +161,12 @@ bool removeByHandle(File const & file)
     if (tell(file.get(), fileDispositionInfoEx, flags)) {
         return true;
     }
-    setReadOnly(file.get(), false);
-    return tell(file.get(), FileDispositionInfo, FILE_DISPOSITION_INFO{TRUE});
-}
-
-/// The path of an open file as the system spells it ("\\?\C:\jobs"); empty if it has none.
-std::wstring finalPath(HANDLE handle)
-{
-    std::wstring path(0x8000, L'\0');
-    DWORD const size =
-        GetFinalPathNameByHandleW(handle, path.data(), static_cast<DWORD>(path.size()), FILE_NAME_NORMALIZED);
-    path.resize(size < path.size() ? size : 0);
-    return path;
-}
-
-/// The length of the root in such a path: "\\?\C:\" or "\\?\UNC\server\share\".
-std::size_t rootLength(std::wstring const & path)
-{
-    std::wstring const share = LR"(\\?\UNC\)";
-    std::size_t end = path.compare(0, share.size(), share) == 0 ? path.find(L'\\', share.size()) : 3;
-    end = end == std::wstring::npos ? end : path.find(L'\\', end + 1);
-    return end == std::wstring::npos ? path.size() : end + 1;
-}
-
-/// The path without its last component; empty for a root.
-std::wstring parentPath(std::wstring const & path)
-{
-    std::size_t const root = rootLength(path);
-    if (path.size() <= root) {
-        return {};
+    bool const wasReadOnly = setReadOnly(file.get(), false);
+    bool const isRemoved = tell(file.get(), FileDispositionInfo, FILE_DISPOSITION_INFO{TRUE});
+    if (wasReadOnly) { // for the file's other names, or for a file that stays
+        setReadOnly(file.get(), true);
     }
-    return path.substr(0, std::max(root, path.rfind(L'\\')));
+    return isRemoved;
 }
 
 File openDirectory(std::wstring const & path)
@@ -237,7 +215,9 @@ struct Directory::Handle
 
 Directory Directory::at(Path const & path)
 {
-    return Directory(Handle::of(openDirectory(path.empty() ? L"." : path.native())));
+    std::wstring const text = path.empty() ? L"." : path.native();
+    bool const isBareDrive = text.size() == 6 && text.back() == L':'; // "\\?\C:" is the device
+    return Directory(Handle::of(openDirectory(isBareDrive ? text + L'\\' : text)));
 }
 
 Directory Directory::enter(Path const & name) const
@@ -249,7 +229,7 @@ Directory Directory::enter(Path const & name) const
 
 Directory Directory::parent() const
 {
-    std::wstring const path = parentPath(finalPath(Handle::get(m_handle)));
+    std::wstring const path = VerbatimPath::parent(VerbatimPath::ofHandle(Handle::get(m_handle)));
     return path.empty() ? Directory() : Directory(Handle::of(openDirectory(path)));
 }
 
@@ -261,11 +241,11 @@ FileId Directory::id() const
 Lineage Directory::lineage() const
 {
     Lineage ids;
-    std::wstring path = finalPath(Handle::get(m_handle));
+    std::wstring path = VerbatimPath::ofHandle(Handle::get(m_handle));
     if (!path.empty()) {
         ids.push_back(id());
     }
-    for (path = parentPath(path); !path.empty(); path = parentPath(path)) {
+    for (path = VerbatimPath::parent(path); !path.empty(); path = VerbatimPath::parent(path)) {
         File const place(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shareAll, nullptr, OPEN_EXISTING,
                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr));
         if (!place.isOpen()) {
@@ -373,13 +353,14 @@ bool Directory::rename(Path const & from, Path const & to) const
 {
     static auto * const set = systemCall<decltype(NtSetInformationFile)>("NtSetInformationFile");
     HANDLE const here = Handle::get(m_handle);
-    if (File const old = openIn(here, to, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, FILE_OPEN, 0);
-        old.isOpen() && kindOf(old.get()) != DirectoryEntry::Kind::Directory) {
-        setReadOnly(old.get(), false); // a read-only file would not be replaced
-    }
     File const file = openIn(here, from, removeAccess, FILE_OPEN, 0);
     if (!file.isOpen() || set == nullptr) {
         return false;
+    }
+    bool wasReadOnly = false;
+    if (File const old = openIn(here, to, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, FILE_OPEN, 0);
+        old.isOpen() && kindOf(old.get()) != DirectoryEntry::Kind::Directory) {
+        wasReadOnly = setReadOnly(old.get(), false); // a read-only file would not be replaced
     }
     std::wstring const name = to.native();
     std::vector<std::uint64_t> buffer((sizeof(FILE_RENAME_INFO) + name.size() * sizeof(wchar_t)) / 8 + 1);
@@ -389,7 +370,13 @@ bool Directory::rename(Path const & from, Path const & to) const
     info->FileNameLength = static_cast<DWORD>(name.size() * sizeof(wchar_t));
     std::memcpy(info->FileName, name.data(), info->FileNameLength);
     IO_STATUS_BLOCK status{};
-    return set(file.get(), &status, info, static_cast<ULONG>(buffer.size() * 8), fileRenameInformation) >= 0;
+    bool const isRenamed =
+        set(file.get(), &status, info, static_cast<ULONG>(buffer.size() * 8), fileRenameInformation) >= 0;
+    if (wasReadOnly && !isRenamed) {
+        File const old = openIn(here, to, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, FILE_OPEN, 0);
+        setReadOnly(old.get(), true);
+    }
+    return isRenamed;
 }
 
 } // namespace KVCAM::UIAPI

@@ -1,5 +1,6 @@
 #include "support/WholeFile.h"
 
+#include "support/NativePath.h"
 #include "support/RegularFile.h"
 
 #include <QFile>
@@ -62,6 +63,9 @@ ReadResult parse(Content const & content)
 
 Ext::Result replace(QString const & path, QByteArray const & bytes, QIODevice::OpenMode extra)
 {
+    if (!NativePath::isLiteral(path)) {
+        return {false, QStringLiteral("The system would take the file's name for another.")};
+    }
     // A device or a pipe, which a link may lead to, would be lost to a file of that name.
     if (QFileInfo const old(path); old.exists() && !old.isFile()) {
         return {false, QLatin1String(notRegular)};

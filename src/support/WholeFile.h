@@ -47,8 +47,8 @@ ReadResult parse(Content const & content);
 
 /// Replaces a file with `bytes`. A crash, a full disk or a killed process leaves the old file intact: a
 /// temporary file is written beside it and renamed over it. If the directory does not accept a new file, the
-/// old one is overwritten in place. Anything but a regular file is not replaced. `extra` is added to
-/// WriteOnly.
+/// old one is overwritten in place. Anything but a regular file is not replaced, nor is a file
+/// written whose name the system would take for another. `extra` is added to WriteOnly.
 [[nodiscard]] Ext::Result replace(QString const & path, QByteArray const & bytes,
                                   QIODevice::OpenMode extra = {});
 

@@ -9,6 +9,9 @@
 #include <QRandomGenerator>
 #include <QThread>
 
+#include <gmock/gmock.h>
+
+#include <filesystem>
 #include <iostream>
 
 using namespace KVCAM::UIAPI;
@@ -36,18 +39,11 @@ protected:
         QProcess writer;
         writer.start(CONFIG_WRITER, arguments);
         bool const ended = writer.waitForFinished() && writer.exitStatus() == QProcess::NormalExit;
-        said = writer.readAllStandardOutput().toStdString();
+        said = writer.readAllStandardOutput().replace("\r\n", "\n").toStdString();
         return ended ? writer.exitCode() : -1;
     }
-    std::string said; ///< output of the latest writer
-    static bool isUnix()
-    {
-#ifdef Q_OS_UNIX
-        return true;
-#else
-        return false;
-#endif
-    }
+    std::string said; ///< by the latest writer
+    static constexpr bool isUnix = std::filesystem::path::preferred_separator == '/';
 };
 
 // UIAPI_KILL_RUNS sets the number of runs. Fifteen seconds end them whatever the number.
@@ -118,7 +114,7 @@ TEST_F(SafeSaving, AWriteThatFailsLeavesTheOldFileWhole)
 TEST_F(SafeSaving, AFullDiskLeavesTheOldFileWhole)
 {
     ASSERT_TRUE(QDir().mkdir("disk"));
-    if (!isUnix() || QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", "disk"}) != 0) {
+    if (!isUnix || QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=64k", "tmpfs", "disk"}) != 0) {
         GTEST_SKIP() << "no small file system can be mounted here";
     }
     EXPECT_TRUE(QDir().mkdir("disk/config"));
@@ -183,6 +179,43 @@ TEST_F(SafeSaving, AReadOnlyDirectoryKeepsAReadOnlyFileAndRewritesAWritableOneIn
     EXPECT_EQ(write(QStringList{".", "once", "3"} + rights), 0);
     EXPECT_EQ(generationIn(file), 3) << "in place, at the risk of a crash";
     EXPECT_TRUE(QFile::setPermissions(config, everyone | QFile::WriteOwner));
+}
+
+TEST_F(SafeSaving, AFileThatAnotherProcessHoldsOrThatIsReadOnlyStaysWhole)
+{
+    if (isUnix) {
+        GTEST_SKIP() << "neither prevents a file's replacement here";
+    }
+    ASSERT_TRUE(QDir().mkdir("config"));
+    ASSERT_EQ(write({".", "once", "1"}), 0);
+    QFile settings(file);
+    for (std::string const reason : {"cannot be written: .+", "cannot be opened for writing: .+"}) {
+        EXPECT_TRUE(settings.open(QIODevice::ReadOnly)); // others may write to it, not replace it
+        EXPECT_EQ(write({".", "once", "2"}), 0);
+        EXPECT_THAT(said, ::testing::MatchesRegex("last: The file " + reason + "\\nserver.json: The file " +
+                                                  reason + "\\n"));
+        EXPECT_EQ(generationIn(file), 1);
+        EXPECT_EQ(QDir(config).entryList(QDir::Files), QStringList{"server.json"});
+        settings.close();
+        EXPECT_TRUE(settings.setPermissions(QFile::ReadOwner));
+    }
+    EXPECT_TRUE(settings.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    EXPECT_EQ(write({".", "once", "2"}), 0);
+    EXPECT_EQ(generationIn(file), 2);
+}
+
+TEST_F(SafeSaving, FileNamesAreUtf8OnDiskAndInTheLog)
+{
+    std::string const name = "测试 Größe";
+    QString const folder = QString::fromStdString(name);
+    ASSERT_TRUE(QDir().mkdir(folder) && QDir::setCurrent(folder));
+    writeFile(file, R"({"OS":1})");
+    UIAPIGlobalVar & global = restart();
+    std::string const missing = noTemplates[0];
+    EXPECT_EQ(log.take()[0],
+              missing.substr(0, missing.rfind("/config")) + "/" + name + "/config/automatrix.json");
+    global.setOS(2);
+    EXPECT_EQ(readObject("../" + folder + "/config/server.json")["OS"].toInt(), 2);
 }
 
 } // namespace

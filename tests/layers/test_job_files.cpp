@@ -11,6 +11,9 @@ namespace {
 
 TEST_F(JobFilesTest, ADeepTreeNeedsFewHandles)
 {
+    if (!isPosix) {
+        GTEST_SKIP() << "handles are not limited here; for the length see WindowsPaths";
+    }
     if (!qEnvironmentVariableIsSet("UIAPI_FEW_HANDLES")) {
         qputenv("UIAPI_FEW_HANDLES", "1");
         EXPECT_TRUE(runAgain("prlimit", {"--nofile=64"}, "JobFilesTest.ADeepTreeNeedsFewHandles"));
@@ -46,7 +49,7 @@ TEST_F(JobFilesTest, ACopyHasTheLinksAndOddNamesOfItsSource)
     EXPECT_TRUE(copyDirectoryFile("tree", "new/parents/copy/", false));
     EXPECT_EQ(treeOf("new/parents/copy"), m_tree);
     EXPECT_EQ(treeOf("tree"), m_tree);
-    EXPECT_EQ(fs::hard_link_count("outside/keep"), 2U) << "a file of its own";
+    EXPECT_FALSE(fs::equivalent("outside/keep", "new/parents/copy/hard")) << "a file of its own";
 }
 
 TEST_F(JobFilesTest, WhatIsThereIsReplacedOnlyWhenAskedFor)
@@ -55,26 +58,32 @@ TEST_F(JobFilesTest, WhatIsThereIsReplacedOnlyWhenAskedFor)
     putFile("from/kind", "file");
     putFile("from/sub/file", "new");
     putFile("from/fresh", "new");
-    putFile("from/here", "new");
-    putFile("from/through/file", "new");
-    fs::create_symlink("fresh", "from/mark");
     putFile("to/sub/file", "old");
     putFile("to/sub/other", "old");
-    putFile("to/mark", "old");
-    fs::create_symlink(fs::absolute("outside/keep"), "to/here");
-    fs::create_directory_symlink(fs::absolute("outside"), "to/through");
     std::string const link = fs::absolute("outside").generic_string();
-    // Neither follows an existing link or changes the kind of an existing entry.
+    if (isPosix) {
+        putFile("from/l/here", "new");
+        putFile("from/l/through/file", "new");
+        fs::create_symlink("fresh", "from/l/mark");
+        putFile("to/l/mark", "old");
+        fs::create_symlink(fs::absolute("outside/keep"), "to/l/here");
+        fs::create_directory_symlink(fs::absolute("outside"), "to/l/through");
+    }
+    auto const there = [&](char const * sub, char const * here, char const * mark) {
+        std::vector<std::string> lines{"fresh=new", "kind/", "kind/is/", "kind/is/other/"};
+        if (isPosix) {
+            lines.insert(lines.end(), {"l/", here, mark, "l/through>" + link});
+        }
+        lines.insert(lines.end(), {"sub/", sub, "sub/other=old"});
+        return lines;
+    };
+    // Neither way leads through a link that is there, and the kind of what is there does not change.
     EXPECT_FALSE(copyDirectoryFile("from", "to", false));
-    EXPECT_EQ(treeOf("to"), (std::vector<std::string>{"fresh=new", "here>" + link + "/keep", "kind/",
-                                                      "kind/is/", "kind/is/other/", "mark=old", "sub/",
-                                                      "sub/file=old", "sub/other=old", "through>" + link}));
+    EXPECT_EQ(treeOf("to"), there("sub/file=old", ("l/here>" + link + "/keep").c_str(), "l/mark=old"));
     EXPECT_FALSE(copyDirectoryFile("from", "to", true));
-    EXPECT_EQ(treeOf("to"), (std::vector<std::string>{"fresh=new", "here=new", "kind/", "kind/is/",
-                                                      "kind/is/other/", "mark>fresh", "sub/", "sub/file=new",
-                                                      "sub/other=old", "through>" + link}));
+    EXPECT_EQ(treeOf("to"), there("sub/file=new", "l/here=new", "l/mark>fresh"));
     fs::remove_all("to/kind");
-    fs::remove("to/through");
+    fs::remove("to/l/through");
     EXPECT_TRUE(copyDirectoryFile("from", "to", true));
     EXPECT_TRUE(delDir("to", false));
     EXPECT_TRUE(copyDirectoryFile("from", "to", false));
@@ -83,12 +92,15 @@ TEST_F(JobFilesTest, WhatIsThereIsReplacedOnlyWhenAskedFor)
 
 TEST_F(JobFilesTest, ACopyIntoItselfIsRefused)
 {
-    fs::create_directory_symlink("tree", "alias");
+    QString const alias = isPosix ? "alias" : "TREE";
+    if (isPosix) {
+        fs::create_directory_symlink("tree", "alias");
+    }
     for (char const * row : {"tree|tree", "tree|tree/", "tree|tree/sub", "tree|tree/new/deep", "tree|alias",
                              "tree|alias/new", "alias|tree", "alias|tree/new", "tree|tree/loop/new",
                              "tree|none/../tree/new", "tree|outside/../tree", ".|new", "tree|", "|new",
                              "none|new", "tree/file|new", "tree|tree/file/new", "outside|tree/file"}) {
-        QStringList const names = QString(row).split('|');
+        QStringList const names = QString(row).replace("alias", alias).split('|');
         EXPECT_FALSE(copyDirectoryFile(names[0], names[1], true)) << row;
     }
     EXPECT_FALSE(copyDirectoryFile("tree", text(std::string("new\0x", 5)), true));
@@ -105,11 +117,13 @@ TEST_F(JobFilesTest, ACopyIntoItselfIsRefused)
 
 TEST_F(JobFilesTest, ADirectoryIsThereAfterwards)
 {
-    for (char const * path : {"a/b/c", "a/b/c/", "a/b", ".", "tree/link", "neu/Größe", "line\nbreak/x"}) {
+    for (char const * path : {"a/b/c", "a/b/c/", "a/b", ".", "neu/Größe", isPosix ? "tree/link" : "a\\b",
+                              isPosix ? "line\nbreak/x" : "A/B/new"}) {
         EXPECT_TRUE(checkDir(path)) << path;
-        EXPECT_TRUE(fs::is_directory(path)) << path;
+        EXPECT_TRUE(fs::is_directory(fs::u8path(path))) << path;
     }
-    for (char const * path : {"", "tree/file", "tree/file/sub", "tree/dangling", "tree/filelink"}) {
+    for (char const * path : {"", "tree/file", "tree/file/sub", isPosix ? "tree/dangling" : "tree/file/",
+                              isPosix ? "tree/filelink" : "tree/sub/../file"}) {
         EXPECT_FALSE(checkDir(path)) << path;
     }
     EXPECT_FALSE(checkDir(text(std::string("b\0c", 3))));

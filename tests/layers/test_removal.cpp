@@ -32,6 +32,9 @@ TEST_F(JobFilesTest, ATreeGoesWithItsLinksAndNothingElse)
 
 TEST_F(JobFilesTest, ALinkAsThePathIsRemovedAsALink)
 {
+    if (!isPosix) {
+        GTEST_SKIP() << "links take a privilege here; for junctions see WindowsPaths";
+    }
     for (char const * end : {"", "/", "//"}) {
         fs::create_directory_symlink("outside", "link");
         EXPECT_FALSE(delDir(std::string("link") + end, false));
@@ -47,7 +50,7 @@ TEST_F(JobFilesTest, ALinkAsThePathIsRemovedAsALink)
 
 TEST_F(JobFilesTest, WhatMustStayIsRefused)
 {
-    fs::create_directories("home/user");
+    fs::create_directories("home/user"); // which is one on Linux only: elsewhere no variable tells it
     qputenv("HOME", fs::absolute("home/user").string().c_str());
     fs::create_directories("work/here/below");
     fs::current_path("work/here");
@@ -55,8 +58,10 @@ TEST_F(JobFilesTest, WhatMustStayIsRefused)
     std::string const here = fs::current_path().string();
     std::string const world = fs::current_path().parent_path().parent_path().filename().string();
     std::string paths =
-        ". .. ./ ../ below/. below/.. ../here ../../work ../../home/user ../../home ../../none "
-        "../../tree/file ../../tree/filelink ../../tree/dangling ";
+        ". .. ./ ../ below/. below/.. ../here ../../work ../../none ../../tree/file ../../tree/filelink "
+        "../../tree/dangling ";
+    paths +=
+        isPosix ? "../../home/user ../../home " : "../HERE ..\\Here ../../WORK/. below\\.. below/../../here ";
     std::istringstream stream(paths + here + ' ' + here + "/ ../../../" + world);
     std::vector<std::string> refused(std::istream_iterator<std::string>(stream), {});
     refused.insert(refused.end(), {"", std::string("below\0x", 7), std::string("below\0", 6)});
@@ -103,21 +108,24 @@ TEST_F(JobFilesTest, WhatIsKeptIsKnownByItsIdentity)
     auto const keeps = [](RemovalRules::Facts const & facts, FileId const & id) {
         return std::find(facts.kept.begin(), facts.kept.end(), id) != facts.kept.end();
     };
-    fs::create_directory_symlink("tree/sub", "home");
-    RemovalRules::Facts const facts = RemovalRules::factsOf({"home/deep", "none", ""}, {});
-    for (char const * path : {"tree/sub/deep", "tree/sub", "tree", ".", "..", "/"}) {
+    char const * const home = isPosix ? "home" : "tree/SUB"; // to Windows the same directory
+    if (isPosix) {
+        fs::create_directory_symlink("tree/sub", home);
+    }
+    RemovalRules::Facts const facts = RemovalRules::factsOf({fs::path(home) / "deep", "none", ""}, {});
+    for (char const * path : {"tree/sub/deep", "tree/sub", "tree", ".", "..", isPosix ? "/" : "\\"}) {
         EXPECT_TRUE(keeps(facts, idOf(path))) << path;
     }
-    EXPECT_TRUE(keeps(facts, Directory::at("").look("home").id)) << "the link that leads there";
+    EXPECT_TRUE(!isPosix || keeps(facts, Directory::at("").look(home).id)) << "the link that leads there";
     EXPECT_FALSE(keeps(facts, idOf("tree/empty")) || keeps(facts, idOf("outside")));
 
     // The user's home is recognised whatever the environment says.
     QProcess process;
     process.start("sh", {"-c", "getent passwd $(id -u) | cut -d: -f6"});
-    process.waitForFinished();
-    QByteArray const home = process.readAll().trimmed();
-    qputenv("HOME", "tree/empty");
-    for (char const * path : {home.constData(), "tree/empty", "."}) {
+    QByteArray const told = process.waitForFinished() ? process.readAll().trimmed() : qgetenv("USERPROFILE");
+    qputenv(isPosix ? "HOME" : "USERPROFILE", "tree/empty");
+    for (char const * path : {told.constData(), isPosix ? "tree/empty" : "TREE/..", "."}) {
+        ASSERT_NE(idOf(path), FileId()) << path;
         EXPECT_TRUE(keeps(RemovalRules::currentFacts(), idOf(path))) << path;
     }
 }
@@ -129,12 +137,12 @@ TEST_F(JobFilesTest, AHandleStaysWithWhatWasJudged)
     DirectoryCursor cursor(Directory::at("tree"));
     cursor.enter(cursor.here().enter("sub"));
     fs::rename("tree/sub", "moved");
-    EXPECT_FALSE(cursor.leave()) << "the way up would lead elsewhere";
+    // The way up would lead elsewhere, unless the system still tells the former one.
+    EXPECT_FALSE(cursor.leave() && cursor.here().id() != Directory::at("tree").id());
 }
 
 TEST_F(JobFilesTest, RemovalCanBeRestrictedToFoldersOfTheHost)
 {
-    fs::create_directory_symlink("outside", "way");
     putFile("jobs/tree/job/file", "");
     auto const removes = [](QStringList const & roots, char const * path) {
         Ext::setRemovalRoots(roots);
@@ -143,14 +151,18 @@ TEST_F(JobFilesTest, RemovalCanBeRestrictedToFoldersOfTheHost)
     EXPECT_FALSE(removes({"tree/sub", "none"}, "tree/empty"));
     EXPECT_FALSE(removes({"tree/sub"}, "tree/sub"));
     EXPECT_FALSE(removes({""}, "tree/sub"));
-    EXPECT_FALSE(removes({"tree"}, "tree/link/sub")) << "leads out";
-    EXPECT_FALSE(removes({"way"}, "tree/sub"));
-    EXPECT_FALSE(removes({"tree"}, "way")) << "a link, too";
     EXPECT_TRUE(removes({"none", "tree/"}, "tree/sub/deep"));
     Ext::setRemovalRoots({"tree"});
     fs::rename("tree", "moved");
-    fs::create_directory_symlink("jobs/tree", "tree");
-    EXPECT_FALSE(delDir("tree/job", true)) << "what stands there since then";
+    if (isPosix) {
+        fs::create_directory_symlink("outside", "way");
+        EXPECT_FALSE(removes({"moved"}, "moved/link/sub")) << "leads out";
+        EXPECT_FALSE(removes({"way"}, "moved/sub"));
+        EXPECT_FALSE(removes({"moved"}, "way")) << "a link, too";
+        Ext::setRemovalRoots({"tree"});
+        fs::create_directory_symlink("jobs/tree", "tree");
+        EXPECT_FALSE(delDir("tree/job", true)) << "what stands there since then";
+    }
     EXPECT_TRUE(removes({}, "moved/sub"));
 }
 
@@ -185,6 +197,9 @@ private:
 
 TEST_F(JobFilesTest, NothingOutsideIsTouchedWhileDirectoriesTurnIntoLinks)
 {
+    if (!isPosix) {
+        GTEST_SKIP() << "links take a privilege here";
+    }
     std::vector<std::string> const names{"0", "1", "2", "3", "4", "5", "6", "7"};
     for (std::string const & name : names) {
         putFile("outside/" + name, "secret");
@@ -213,6 +228,9 @@ TEST_F(JobFilesTest, NothingOutsideIsTouchedWhileDirectoriesTurnIntoLinks)
 
 TEST_F(JobFilesTest, ReadOnlyPartsGo)
 {
+    if (!isPosix) {
+        GTEST_SKIP() << "directories have no such permissions here; for files see WindowsPaths";
+    }
     if (QFileInfo("/").isWritable()) {
         if (QProcess::execute("setpriv",
                               asUser + QStringList{"test", "-x", QCoreApplication::applicationFilePath()}) !=
