@@ -18,10 +18,10 @@ namespace KVCAM::Testing {
 namespace fs = std::filesystem;
 
 // Whether there are links for everyone, pipes, permissions of directories and names of any bytes. What
-// Windows has instead is in test_windows_paths.cpp.
+// Windows has instead is in test_paths_windows.cpp.
 constexpr bool isPosix = fs::path::preferred_separator == '/';
 
-/// Builds file trees in the working directory and tells what is in them.
+/// Builds and lists file trees in the working directory.
 inline void putFile(fs::path const & path, std::string const & text)
 {
     if (path.has_parent_path()) {
