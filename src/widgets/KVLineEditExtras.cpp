@@ -102,10 +102,11 @@ Ext::ValueVerdict KVLineEdit::verdict() const
         return {};
     }
     bool const isSymbol = d->tracking() == UnitTracking::Symbol;
-    auto const held = isSymbol ? std::nullopt : quantity();
+    auto const held = quantity();
     if (!isSymbol && !held) {
         return {};
     }
+    Quantity const typed = held.value_or(Quantity{});
     if (d->kind == RegExpression && Expression::formOf(text()) == Expression::Form::NonDigitPair) {
         Ext::ValueVerdict unreadable;
         unreadable.ok = false;
@@ -117,11 +118,11 @@ Ext::ValueVerdict KVLineEdit::verdict() const
     auto const scale = static_cast<Ext::LengthScale>(d->scale);
     auto const check = [&, low = minimum, high = maximum](Ext::Unit shown) {
         return isSymbol ? Ext::checkSymbol(typedText(), low, high, Ext::unitOfCode(d->typedUnit), shown)
-                        : Ext::checkValue(Ext::Length::from(held->value, held->unit, scale), low, high, shown,
+                        : Ext::checkValue(Ext::Length::from(typed.value, typed.unit, scale), low, high, shown,
                                           scale);
     };
     if (d->kind == RegExpression) {
-        return check(held->unit);
+        return check(typed.unit);
     }
     auto const verdict = check(Ext::unitOfCode(d->shownUnit.value_or(Units::inch)));
     return verdict || d->shownUnit ? verdict : check(Ext::unitOf(d->owner)); // only a refusal looks it up
