@@ -8,7 +8,8 @@
 #include <string>
 
 /// File names, and the files and directories of jobs. Paths are absolute or relative to the current
-/// directory; byte strings are UTF-8. An empty path and a path with a NUL are rejected. Failure returns false
+/// directory; byte strings are UTF-8. An empty path and a path with a NUL are rejected, on Windows also one
+/// that the system would take for another: "nul", "aux.json", "dir.", "x.json:y", "c:x". Failure returns false
 /// and is not logged, unless stated otherwise.
 namespace KVCAM::UIAPI {
 
