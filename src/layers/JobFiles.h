@@ -5,7 +5,7 @@
 #include <string>
 
 /// Files and directories of jobs. Names are interpreted by the file system, whatever their bytes. An empty
-/// path and a path with a NUL are rejected. Nothing is logged.
+/// path, a path with a NUL and one that NativePath::literal() rejects are rejected. Nothing is logged.
 namespace KVCAM::UIAPI::JobFiles {
 
 /// Creates a directory and its parents. True if it exists afterwards.

@@ -130,8 +130,7 @@ TEST_F(WindowsPaths, ReservedNamesInATreeAreCopiedAndRemoved)
     }
     EXPECT_TRUE(copyDirectoryFile("from", "to", false));
     EXPECT_TRUE(isThere("to/nul") && isThere("to/aux.json") && isThere("to/con/prn"));
-    EXPECT_TRUE(delDir(exact("to/con").u8string(), true)) << "the literal path means that name";
-    EXPECT_FALSE(isThere("to/con"));
+    EXPECT_TRUE(delDir(exact("to/con").u8string(), true) && !isThere("to/con"));
     EXPECT_TRUE(delDir("to", true) && delDir("from", true));
 }
 
@@ -174,8 +173,7 @@ TEST_F(WindowsPaths, AJunctionIsNeverFollowed)
     Ext::setRemovalRoots({"tree"});
     EXPECT_FALSE(delDir("tree/junction/sub", true)) << "leads out";
     Ext::setRemovalRoots({});
-    EXPECT_TRUE(delDir("tree/junction/", true));
-    EXPECT_FALSE(isThere("tree/junction"));
+    EXPECT_TRUE(delDir("tree/junction/", true) && !isThere("tree/junction"));
     EXPECT_TRUE(delDir("copy", true));
 }
 

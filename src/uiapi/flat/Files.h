@@ -8,8 +8,9 @@
 #include <string>
 
 /// File names, and the files and directories of jobs. Paths are absolute or relative to the current
-/// directory; byte strings are UTF-8. An empty path and a path with a NUL are rejected. Failure returns false
-/// and is not logged, unless stated otherwise.
+/// directory; byte strings are UTF-8. An empty path and a path with a NUL are rejected, on Windows also one
+/// that the system would take for another: "nul", "aux.json", "dir.", "x.json:y", "c:x". Failure returns
+/// false and is not logged, unless stated otherwise.
 namespace KVCAM::UIAPI {
 
 /// Fills `result` with the items that match the whole pattern, in their order, case-insensitively. '*'
