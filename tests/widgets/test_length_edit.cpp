@@ -204,7 +204,7 @@ TEST_F(LengthEdit, SeveralValuesAreNoneUntilOneIsTypedAndAFormSavesThem)
     QApplication::processEvents();
     EXPECT_EQ(field->placeholderText(), "多个值");
     field->setText("x");
-    EXPECT_EQ(field->fault(), "此处不能使用“x”。");
+    EXPECT_EQ(field->fault(), "“x”处缺少数字。");
     focus(*field, false);
     EXPECT_FALSE(field->hasValue());
     EXPECT_TRUE(state.fromJson(full));

@@ -8,7 +8,6 @@
 #include <QList>
 #include <QPointer>
 
-#include <optional>
 #include <string>
 
 class KVListWidget;
