@@ -4,6 +4,7 @@
 #include <uiapi/flat/ShowParameters.h>
 #include <uiapi/flat/ViewAccess.h>
 #include <widgets/FormState.h>
+#include <widgets/KVLengthEdit.h>
 #include <widgets/KVLineEdit.h>
 
 #include <QApplication>
@@ -95,6 +96,17 @@ void numberFieldWithEveryAddition(benchmark::State & state)
     typeAndErase(state, edit, "12.3");
 }
 BENCHMARK(numberFieldWithEveryAddition);
+
+// A key reads the text, judges it and writes the preview in both units.
+void lengthField(benchmark::State & state)
+{
+    KVLengthEdit edit(registeredView());
+    edit.setView(registeredView());
+    edit.setRange(KVCAM::UIAPI::Ext::Length(), KVCAM::UIAPI::Ext::Length::fromMil(1000));
+    edit.setValue(KVCAM::UIAPI::Ext::Length::fromMil(10));
+    typeAndErase(state, edit, "(12.3mm+4*5mil)/2+0.");
+}
+BENCHMARK(lengthField);
 
 // A unit switch that `own` fields follow, while `others` follow another view. Against a bare setText() of as
 // many fields.

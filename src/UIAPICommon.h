@@ -50,6 +50,7 @@
 #include "uiapi/flat/ViewAccess.h"
 #include "widgets/KVFileDialog.h"
 #include "widgets/KVLabel.h"
+#include "widgets/KVLengthEdit.h"
 #include "widgets/KVLineEdit.h"
 #include "widgets/KVListWidget.h"
 #include "widgets/KVListWidgetItem.h"

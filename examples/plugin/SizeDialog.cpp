@@ -1,10 +1,7 @@
 #include "SizeDialog.h"
 
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QFormLayout>
-#include <QJsonDocument>
-#include <QSaveFile>
 
 using namespace KVCAM::UIAPI;
 
@@ -26,8 +23,8 @@ SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
     words = new QLabel;
     auto * const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     ok = buttons->button(QDialogButtonBox::Ok);
-    width = addField(RegPositive, "width");
-    clearance = addField(RegExpression, "clearance");
+    width = addField("width");
+    clearance = addField("clearance");
 
     auto * const layout = new QFormLayout(this); // makes the controls children of this dialog
     layout->addRow(QStringLiteral("&Unit"), unit);
@@ -41,45 +38,43 @@ SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
     // The library notifies the engine and every field that follows the view.
     connect(unit, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [this](int index) { setUnit(m_view, index); });
-    restore();
+    m_form = new Ext::FormState(this, this);
+    m_form->load(m_formFile); // there may be none yet
+    judge();
 }
 
-// A field's first parent is the view whose unit it shows. Reparenting it to the dialog does not change that.
-KVLineEdit * SizeDialog::addField(KVERegExp kind, char const * name)
+KVLengthEdit * SizeDialog::addField(char const * name)
 {
-    auto * const field = new KVLineEdit(kind, m_view);
+    auto * const field = new KVLengthEdit;
     field->setObjectName(QString::fromLatin1(name));
-    connect(field, &KVLineEdit::validityChanged, this, [this](bool legal, QString const & text) {
-        words->setText(text);
-        bool every = legal;
-        for (KVLineEdit const * each : {width, clearance}) {
-            every = every && (each == nullptr || each->property("uiapiValid").toBool());
-        }
-        ok->setEnabled(every);
-    });
     field->setRange(smallest, largest);
-    field->setFollowView(true);
-    field->setRefusalHints(true);
+    field->setView(m_view);
+    connect(field, &KVLengthEdit::previewChanged, this, &SizeDialog::judge);
+    connect(field, &KVLengthEdit::validityChanged, this, &SizeDialog::judge);
+    connect(field, &KVLengthEdit::valueChanged, this, &SizeDialog::judge);
     return field;
 }
 
-void SizeDialog::restore()
+void SizeDialog::judge()
 {
-    QFile file(m_formFile);
-    if (file.open(QIODevice::ReadOnly)) {
-        QList<QObject *> controls = fields(); // the unit first, since the texts are in that unit
-        writeJsonToList(QJsonDocument::fromJson(file.readAll()).object(), controls);
+    QString fault;
+    QString preview;
+    bool complete = true;
+    for (KVLengthEdit const * field : {width, clearance}) {
+        if (field != nullptr) {
+            fault += fault.isEmpty() ? field->fault() : QString();
+            preview += preview.isEmpty() ? field->preview() : QString();
+            complete = complete && !field->everyUnit().isEmpty(); // what is being typed counts
+        }
     }
+    words->setText(!fault.isEmpty() ? fault : !complete ? QStringLiteral("Both sizes are needed.") : preview);
+    ok->setEnabled(complete && fault.isEmpty());
 }
 
 void SizeDialog::accept()
 {
-    QJsonObject form;
-    readListToJson(fields(), form);
-    QSaveFile file(m_formFile);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(QJsonDocument(form).toJson());
-        file.commit(); // failing to save the form is no reason to refuse the sizes
+    if (width->commit() && clearance->commit()) { // a shortcut may have come before the focus left
+        m_form->save(m_formFile);                 // failing to save the form is no reason to refuse the sizes
+        QDialog::accept();
     }
-    QDialog::accept();
 }

@@ -18,16 +18,16 @@ public:
 
     // The controls, children of this dialog.
     QComboBox * unit = nullptr;
-    KVCAM::UIAPI::KVLineEdit * width = nullptr;     ///< a number
-    KVCAM::UIAPI::KVLineEdit * clearance = nullptr; ///< an expression
-    QLabel * words = nullptr;                       ///< why OK is disabled
+    KVCAM::UIAPI::KVLengthEdit * width = nullptr;
+    KVCAM::UIAPI::KVLengthEdit * clearance = nullptr;
+    QLabel * words = nullptr; ///< why OK is disabled, else what was typed amounts to
     QPushButton * ok = nullptr;
 
 private:
-    QList<QObject *> fields() const { return {unit, width, clearance}; }
-    KVCAM::UIAPI::KVLineEdit * addField(KVCAM::UIAPI::KVERegExp kind, char const * name);
-    void restore();
+    KVCAM::UIAPI::KVLengthEdit * addField(char const * name);
+    void judge();
 
     QWidget * m_view;
     QString m_formFile;
+    KVCAM::UIAPI::Ext::FormState * m_form = nullptr; // finds the fields by itself
 };

@@ -13,23 +13,23 @@ namespace {
 char const * const formFile = "example-plugin-form.json";
 char const * const demoForm = "example-plugin-demo.json";
 
-void type(KVLineEdit * field, char const * text)
+// As a user would: the text is read at every key and taken when it is finished.
+void type(KVLengthEdit * field, char const * text)
 {
-    field->clear();
-    field->insert(QString::fromLatin1(text)); // refuses what the field refuses from the keyboard
+    field->setText(QString::fromLatin1(text));
+    field->commit();
 }
 
 void show(char const * what, SizeDialog const & dialog)
 {
-    QString const result = QStringLiteral("width \"%1\", %2 nm; clearance \"%3\", %4 %5; OK %6")
+    QString const result = QStringLiteral("width \"%1\", %2 nm; clearance \"%3\", %4 nm; OK %5")
                                .arg(dialog.width->text())
-                               .arg(dialog.width->exactLength().nanometres())
+                               .arg(dialog.width->value().nanometres())
                                .arg(dialog.clearance->text())
-                               .arg(caculateData(dialog.clearance->text()))
-                               .arg(dialog.unit->currentText())
+                               .arg(dialog.clearance->value().nanometres())
                                .arg(dialog.ok->isEnabled() ? "enabled" : "disabled");
     std::printf("plug-in: %s: %s\n", what, qUtf8Printable(result));
-    if (!dialog.ok->isEnabled()) {
+    if (!dialog.words->text().isEmpty()) {
         std::printf("plug-in: it says \"%s\"\n", qUtf8Printable(dialog.words->text()));
     }
 }
@@ -50,16 +50,19 @@ void runDemo(QWidget * view)
     QFile::remove(form); // from an earlier demo
     {
         SizeDialog dialog(view, form);
+        type(dialog.width, "90+"); // stays as it is, and is never 90
+        show("not finished", dialog);
         type(dialog.width, "10");
-        type(dialog.width, "-10"); // not a positive number: the field stays empty
-        show("refused a key", dialog);
-        type(dialog.width, "10");
+        dialog.clearance->setText(QStringLiteral("10+2.5"));
+        show("being typed", dialog);
         type(dialog.clearance, "10+2.5");
         show("typed in mil", dialog);
         dialog.unit->setCurrentIndex(1);
         show("the view is metric", dialog);
         type(dialog.clearance, "100+2*27");
         show("typed in micrometres", dialog);
+        type(dialog.clearance, "0.1mm+1mil");
+        show("typed in both", dialog);
         dialog.accept();
     }
     setUnit(view, 0);

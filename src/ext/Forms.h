@@ -1,7 +1,8 @@
 #pragma once
 
-// Forms: what a user has entered, saved and restored.
+// Forms: a field for lengths, and what a user has entered, saved and restored.
 //
+//   KVLengthEdit       a field that holds a Length: any unit, calculations, a range, a view that it follows
 //   FormState          saves, restores and resets the fields of a form, and tells of changes
 //   FormState::audit() lists the widgets that would be missed
 //
@@ -9,3 +10,4 @@
 // fields itself.
 
 #include "../widgets/FormState.h"
+#include "../widgets/KVLengthEdit.h"

@@ -473,4 +473,19 @@
         <translation>无法从“%1”读取表单：%2</translation>
     </message>
 </context>
+<context>
+    <name>KVCAM::UIAPI::KVLengthEdit</name>
+    <message>
+        <source>several values</source>
+        <translation>多个值</translation>
+    </message>
+    <message>
+        <source>Copy as</source>
+        <translation>复制为</translation>
+    </message>
+    <message>
+        <source>Select what is wrong</source>
+        <translation>选中错误之处</translation>
+    </message>
+</context>
 </TS>

@@ -43,7 +43,8 @@ QString numberText(double value)
 
 } // namespace
 
-ValueVerdict checkValue(Length value, Length minimum, Length maximum, Unit unit, LengthScale scale)
+ValueVerdict checkValue(Length value, Length minimum, Length maximum, Unit unit, LengthScale scale,
+                        MicrometreSign sign)
 {
     ValueVerdict verdict;
     verdict.minimum = minimum;
@@ -52,7 +53,7 @@ ValueVerdict checkValue(Length value, Length minimum, Length maximum, Unit unit,
     verdict.ok = verdict.fault == ValueFault::None;
     if (!verdict.ok) {
         auto const text = [&](Length bound, Length none) {
-            return bound == none ? QString() : bound.textWithUnit(unit, scale);
+            return bound == none ? QString() : bound.textWithUnit(unit, scale, sign);
         };
         verdict.reason = rangeSentence(text(minimum, Length::lowest()), text(maximum, Length::highest()));
     }

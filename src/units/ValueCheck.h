@@ -49,10 +49,11 @@ struct NumberVerdict : Result
 // Lengths are compared by the nanometre: 76.2 micrometres are 3 mil. isValueLegal() and isSymbolValueLegal()
 // compare doubles, where 3 mil is 76.199999999999989; otherwise they agree.
 
-/// A length against bounds; the sentence shows them in `unit` and `scale`.
+/// A length against bounds; the sentence shows them in `unit` and `scale`, a micrometre with `sign`.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT ValueVerdict checkValue(Length value, Length minimum, Length maximum,
-                                                         Unit unit, LengthScale scale = LengthScale::Small);
+                                                         Unit unit, LengthScale scale = LengthScale::Small,
+                                                         MicrometreSign sign = MicrometreSign::My);
 /// A plain number, as isNumValueLegal() compares it: NaN is legal.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT NumberVerdict checkNumber(double value, double minimum, double maximum);

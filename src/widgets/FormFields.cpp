@@ -2,6 +2,7 @@
 
 #include "widgets/FormValues.h"
 #include "widgets/KVInputKinds.h"
+#include "widgets/KVLengthEdit.h"
 #include "widgets/KVLineEdit.h"
 
 #include <QAbstractButton>
@@ -195,9 +196,33 @@ std::vector<QMetaMethod> propertySignals(QObject const & object)
     return {userProperty(object).notifySignal()};
 }
 
+// --- Fields for lengths -------------------------------------------------------------------------------
+
+// A field without a value must not come back as 0.
+QJsonValue readLength(QObject const & object, LengthUnit wanted)
+{
+    return static_cast<KVLengthEdit const &>(object).hasValue() ? readProperty(object, wanted) : QJsonValue();
+}
+
+bool isLengthOrNone(QObject const & object, QJsonValue const & value)
+{
+    return value.isNull() || isOfPropertysType(object, value);
+}
+
+void writeLength(QObject & object, QJsonValue const & value)
+{
+    auto & field = static_cast<KVLengthEdit &>(object);
+    if (!value.isNull()) {
+        writeProperty(object, value);
+    } else if (field.hasValue()) {
+        field.clearValue();
+    }
+}
+
 constexpr Access groupAccess{readGroup, isId, checkId, groupSignals};
 constexpr Access trackedAccess{readTracked, isTracked, writeTracked, textSignals};
 constexpr Access comboAccess{readCombo, isChoice, choose, choiceSignals};
+constexpr Access lengthAccess{readLength, isLengthOrNone, writeLength, propertySignals};
 constexpr Access propertyAccess{readProperty, isOfPropertysType, writeProperty, propertySignals};
 
 // --- Walking through a form ---------------------------------------------------------------------------
@@ -227,6 +252,9 @@ Access const * accessOf(QWidget const & widget)
     InputKind const * const kind = field == nullptr ? nullptr : inputKind(field->kind());
     if (kind != nullptr && kind->tracking != UnitTracking::None) {
         return &trackedAccess;
+    }
+    if (qobject_cast<KVLengthEdit const *>(&widget) != nullptr) {
+        return &lengthAccess;
     }
     if (qobject_cast<QComboBox const *>(&widget) != nullptr) {
         return &comboAccess;

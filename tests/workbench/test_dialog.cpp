@@ -35,9 +35,9 @@ protected:
         SampleWindow::SetUp();
         open();
     }
-    static KVLineEdit & field(FeatureDialog & dialog, char const * name)
+    static QLineEdit & field(FeatureDialog & dialog, char const * name)
     {
-        return *dialog.findChild<KVLineEdit *>(name);
+        return *dialog.findChild<QLineEdit *>(name);
     }
     static void type(QLineEdit & field, QString const & text)
     {
@@ -48,8 +48,6 @@ protected:
     FeatureDialog & openFeature(int feature) const { return *board().openFeature(feature); }
 };
 
-constexpr char const * outOfRange =
-    "Illegal float value\nfloating value for field is out of range: (0.5, 1000)";
 constexpr char const * allowed = "Allowed: 0.5 mil to 1000 mil, both included.";
 
 TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
@@ -59,24 +57,22 @@ TEST_F(Windows, ASizeFieldCalculatesAndRefuses)
     struct
     {
         char const * typed;
-        char const * below; ///< the text below the field before it is finished
-        char const * shown; ///< its text afterwards
-        char const * box;
+        char const * below; ///< what stands below the field before it is finished
+        char const * shown; ///< the size afterwards
     } const rows[] = {
-        {"10+2.5", "= 12.5 mil", "12.5", nullptr},
-        {"7x+0.1+0.2", "= 7.3 mil", "7.3", nullptr}, // a letter is refused
-        {"90000*2", allowed, "7.3", outOfRange},
-        {"10+5..5", "This calculation cannot be read.", "7.3", "CaculateData ERROR"},
-        {"0/0", allowed, "7.3", outOfRange},
-        {"0.4", allowed, "7.3", outOfRange},
-        {"254.1234", "", "254.1234", nullptr},
+        {"10+2.5", "= 12.5 mil = 317.5 my", "12.5"},
+        {"100-2*3+4", "= 98 mil = 2489.2 my", "98"},
+        {"0.1mm+0.0854mm", "= 7.2992 mil = 185.4 my", "7.2992"},
+        {"90000*2", allowed, "7.2992"},
+        {"0/0", "\"0\" is zero: nothing can be divided by it.", "7.2992"},
+        {"0.4", allowed, "7.2992"},
+        {"254.1234", "", "254.1234"},
     };
     for (auto const & row : rows) {
         type(width, row.typed);
         EXPECT_EQ(dialog.pad().verdict(), row.below) << row.typed;
         QTest::keyClick(&width, Qt::Key_Return);
-        QApplication::processEvents(); // the field has handled its key
-        EXPECT_EQ(takeBoxes(), row.box != nullptr ? QStringList(row.box) : QStringList()) << row.typed;
+        QApplication::processEvents(); // the field is done with its key
         EXPECT_EQ(getUnit(view()), 0) << "Return pressed a button";
         QString const symbol = dialog.pad().symbol();
         EXPECT_TRUE(symbol.startsWith(QString("rect") + row.shown + 'x')) << symbol.toStdString();

@@ -83,7 +83,7 @@ protected:
     }
     QString text(char const * label) const { return page().findChild<QLabel *>(label)->text(); }
     QPushButton & button(char const * name) const { return *page().findChild<QPushButton *>(name); }
-    KVLineEdit & field(char const * level) const { return *page().findChild<KVLineEdit *>(level); }
+    KVLengthEdit & field(char const * level) const { return *page().findChild<KVLengthEdit *>(level); }
     QString header(int column) const
     {
         return model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
@@ -158,7 +158,10 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     EXPECT_EQ(tracks(),
               (QStringList{"Lines|✖ R|3.94|4 / 5 / 6|", "top|✖ R|3.94||", "1|✖ R|3.94|4|0.197, 0.000",
                            "2|▲ Y|5|5|0.197, 0.039", "3|–|7.87||0.197, 0.079"}));
-    field("GreenLv").setText("8");
+    field("GreenLv").setText("9+");
+    QTest::keyClick(&field("GreenLv"), Qt::Key_Return); // never 9
+    EXPECT_EQ(tracks()[4], "3|–|7.87||0.197, 0.079");
+    field("GreenLv").setText("3+5");
     QTest::keyClick(&field("GreenLv"), Qt::Key_Return);
     EXPECT_EQ(tracks()[4], "3|● G|7.87|8|0.197, 0.079");
     EXPECT_TRUE(text("levels hint").startsWith("Not saved")) << text("levels hint").toStdString();

@@ -290,16 +290,6 @@ TEST_F(MainWindows, AreDeletedWhileTheyAskAndNothingIsDone)
              buttonOf(page, "Delete").click();
          },
          1},
-        {"an illegal size",
-         [this] {
-             auto & width = *board().openFeature(0)->findChild<KVLineEdit *>("width");
-             width.selectAll();
-             QTest::keyClicks(&width, "90000*2");
-             QTest::keyClick(&width, Qt::Key_Return);
-             EXPECT_NE(window, nullptr) << "the field is done with its key first";
-             QApplication::processEvents();
-         },
-         1},
         {"files to attach", [this] { buttonOf(*board().openFeature(0), "Attach files").click(); }, 0},
         {"a file for the keys", [this] { buttonOf(*window->showKeys(), "Export...").click(); }, 0},
         {"a file for the report",

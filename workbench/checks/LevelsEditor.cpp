@@ -13,17 +13,7 @@ namespace Workbench {
 
 using namespace KVCAM::UIAPI;
 
-namespace {
-
-// Drops the noise digits of a conversion: 76.2 micrometres are 3 mil.
-double withoutNoise(double mil)
-{
-    return QString::number(mil, 'g', 12).toDouble();
-}
-
-} // namespace
-
-LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent), m_view(view)
+LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent)
 {
     auto * layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -33,16 +23,19 @@ LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent), 
         QPalette colours = field.title->palette();
         colours.setColor(QPalette::WindowText, colourOf(allLevels[i].severity));
         field.title->setPalette(colours);
-        // The view is the parent on construction, which decides the unit. The layout sets another parent
-        // later.
-        field.edit = new KVLineEdit(RegNumber, &view);
+        field.edit = new KVLengthEdit;
         field.edit->setObjectName(allLevels[i].name);
-        field.edit->setFollowView(true);
+        field.edit->setUnitShown(false); // the title of the box names it
+        field.edit->setView(&view);
         field.title->setBuddy(field.edit);
         int const column = static_cast<int>(i);
         layout->addWidget(field.title, 0, column);
         layout->addWidget(field.edit, 1, column);
-        connect(field.edit, &KVLineEdit::editingFinished, this, [this, i] { takeLevel(i); });
+        // The text of the length: 10.123 mil, not the double nearest to its nanometres.
+        connect(field.edit, &KVLengthEdit::valueEdited, this, [this, i](Ext::Length level) {
+            emit levelEdited(allLevels[i].name,
+                             level.text(Ext::Unit::Inch, Ext::LengthScale::Small).toDouble());
+        });
     }
     setTextsNowAndLater(*this, [this] { setTexts(); });
     show({});
@@ -55,40 +48,20 @@ void LevelsEditor::setTexts()
     }
 }
 
+// A field that shows the level already keeps what the user is typing.
 void LevelsEditor::show(std::optional<Analysis_Ranges_Record> const & record)
 {
     for (std::size_t i = 0; i < allLevels.size(); ++i) {
-        Field & field = m_fields[i];
-        field.edit->setEnabled(record.has_value());
-        field.shown = record ? (*record).*allLevels[i].value : 0;
-        if (record) {
-            showLevel(field);
-        } else {
-            field.edit->setText({});
+        KVLengthEdit & edit = *m_fields[i].edit;
+        double const level = record ? (*record).*allLevels[i].value : 0;
+        auto const length = Ext::Length::fromMil(level);
+        edit.setEnabled(record.has_value());
+        if (!record || !std::isfinite(level)) {
+            edit.clearValue();
+        } else if (!edit.hasValue() || edit.value() != length) {
+            edit.setValue(length);
         }
     }
-}
-
-// A text with the same value stays as typed.
-void LevelsEditor::showLevel(Field & field)
-{
-    if (field.edit->text().isEmpty() ||
-        withoutNoise(field.edit->exactValue(Ext::Unit::Inch)) != field.shown) {
-        field.edit->setText(smallUnitText(&m_view, field.shown));
-    }
-}
-
-void LevelsEditor::takeLevel(std::size_t number)
-{
-    Field & field = m_fields[number];
-    double const typed = withoutNoise(field.edit->exactValue(Ext::Unit::Inch));
-    // Five decimals are shown. A level with more must not change by being looked at.
-    bool const isShown = field.edit->text() == smallUnitText(&m_view, field.shown);
-    if (!field.edit->isEnabled() || isShown || typed == field.shown) {
-        return;
-    }
-    field.shown = typed;
-    emit levelEdited(allLevels[number].name, typed);
 }
 
 bool isGrading(Analysis_Ranges_Record const & record)

@@ -11,8 +11,8 @@ class QLabel;
 
 namespace Workbench {
 
-/// Edits the three levels of a category in the unit of a view. What is typed in one unit keeps its digits
-/// when the view changes to the other and back.
+/// Edits the three levels of a category in the unit of a view, as lengths: numbers or calculations, in any
+/// unit. A level changes only if the user edits it.
 class LevelsEditor : public QWidget
 {
     Q_OBJECT
@@ -33,15 +33,11 @@ private:
     struct Field
     {
         QLabel * title = nullptr;
-        KVCAM::UIAPI::KVLineEdit * edit = nullptr;
-        double shown = 0; ///< mil
+        KVCAM::UIAPI::KVLengthEdit * edit = nullptr;
     };
 
-    void showLevel(Field & field);
-    void takeLevel(std::size_t number);
     void setTexts();
 
-    QWidget & m_view;
     std::array<Field, 3> m_fields;
 };
 

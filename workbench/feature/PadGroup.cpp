@@ -89,7 +89,7 @@ void PadGroup::makeLayout()
     auto * names = new QPushButton;
     connect(names, &QPushButton::clicked, this, [this] { showNames(); });
     names->setAutoDefault(false);
-    setStyleSheet("KVCAM--UIAPI--KVLineEdit[uiapiValid=\"false\"] { background: #fde0e0 }");
+    setStyleSheet("KVCAM--UIAPI--KVLengthEdit[uiapiValid=\"false\"] { background: #fde0e0 }");
     auto * form = new QFormLayout(this);
     addRow(*form, QT_TR_NOOP("Symbol"), "small", beside(m_name, names));
     form->addRow(QString(), m_description);
@@ -105,7 +105,7 @@ void PadGroup::makeLayout()
         setTitle(tr("Pad"));
         names->setText(tr("Names"));
         for (SizeField * field : {m_width, m_height}) {
-            field->setToolTip(tr("A number or a calculation such as 10+2.5"));
+            field->setToolTip(tr("A number or a calculation such as 10+2.5 or 0.3mm-2mil"));
         }
         polarity->setText(tr("Polarity"));
         m_polarity->setItemText(0, tr("Positive"));
@@ -198,12 +198,9 @@ void PadGroup::offsetEdited()
     showFacts();
 }
 
-// Without a legal size the last one comes back.
-void PadGroup::finishSize(std::optional<QString> const & size, void (PadSymbol::*take)(PadSize const &))
+void PadGroup::finishSize(QString const & size, void (PadSymbol::*take)(PadSize const &))
 {
-    if (size) {
-        (m_symbol.*take)({*size, m_shownUnit});
-    }
+    (m_symbol.*take)({size, m_shownUnit});
     showSymbol();
 }
 
@@ -211,10 +208,10 @@ void PadGroup::finishSize(std::optional<QString> const & size, void (PadSymbol::
 // in the unit that was shown.
 void PadGroup::settleSizes()
 {
-    if (auto const width = m_width->typedSize(m_shownUnit)) {
+    if (auto const width = m_width->typedSize()) {
         m_symbol.setWidth({*width, m_shownUnit});
     }
-    if (auto const height = m_height->typedSize(m_shownUnit)) {
+    if (auto const height = m_height->typedSize()) {
         m_symbol.setHeight({*height, m_shownUnit});
     }
 }
@@ -248,22 +245,19 @@ void PadGroup::showFacts()
 
 void PadGroup::setTexts()
 {
-    m_width->judgeAgain();
-    m_height->judgeAgain();
     showFacts();
     showTitles();
 }
 
 void PadGroup::showVerdict()
 {
-    QString const unit = QString::fromStdString(getUnitStringType(m_view.handle(), 1));
     QStringList words;
     QStringList values;
     for (SizeField const * field : {m_width, m_height}) {
         if (!field->fault().isEmpty()) {
             words.append(field->fault());
-        } else if (!field->valueText().isEmpty()) {
-            values.append(field->valueText() + ' ' + unit);
+        } else if (!field->preview().isEmpty()) {
+            values.append(field->preview());
         }
     }
     words.removeDuplicates();

@@ -8,7 +8,6 @@
 #include <QList>
 #include <QPointer>
 
-#include <optional>
 #include <string>
 
 class KVListWidget;
@@ -29,8 +28,7 @@ struct SavedForm;
 
 /// A pad's symbol, sizes, offset and polarity in the unit of its view, which they follow. A size field takes
 /// a calculation: while it is typed, the value or what is wrong stands below. When it is finished (Return, or
-/// the focus leaves), a legal value becomes the size; otherwise a box says why not and the last legal size
-/// comes back.
+/// the focus leaves), a legal value becomes the size; any other text stays and changes nothing.
 class PadGroup : public QGroupBox
 {
     Q_DECLARE_TR_FUNCTIONS(Workbench::FeatureDialog)
@@ -50,7 +48,7 @@ public:
 
     /// Lists the layer's symbol names below the symbol field until the focus leaves the list.
     void showNames();
-    /// Takes a legal size that is being typed, and drops an illegal one without a box.
+    /// Takes a legal size that is being typed; an illegal one does not count.
     void settle();
 
     /// The fields that the library's form functions read and write.
@@ -72,7 +70,7 @@ private:
     void showFacts();
     void symbolEdited();
     void offsetEdited();
-    void finishSize(std::optional<QString> const & size, void (PadSymbol::*take)(PadSize const &));
+    void finishSize(QString const & size, void (PadSymbol::*take)(PadSize const &));
     void settleSizes();
     void showVerdict();
     void refreshUnit();

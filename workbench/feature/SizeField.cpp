@@ -1,10 +1,5 @@
 #include "feature/SizeField.h"
 
-#include "board/PadName.h"
-
-#include <QPointer>
-
-#include <cmath>
 #include <utility>
 
 namespace Workbench {
@@ -17,99 +12,56 @@ namespace {
 constexpr Ext::Length smallest = Ext::Length::fromMil(0.5);
 constexpr Ext::Length largest = Ext::Length::fromMil(1000);
 
-// 0/0 would lie in every range; like any text that is not a number it counts as 0.
-double sizeValue(QString const & calculation)
-{
-    double const value = caculateData(calculation);
-    return std::isnan(value) ? 0 : value;
-}
-
-// Plain digits as in a symbol name, far finer than a nanometre.
-QString plainText(double value)
-{
-    QString text = QString::number(value, 'f', 6);
-    while (text.endsWith('0')) {
-        text.chop(1);
-    }
-    return text.endsWith('.') ? text.chopped(1) : text;
-}
-
 } // namespace
 
 SizeField::SizeField(QWidget & view, std::function<void()> judged,
-                     std::function<void(std::optional<QString> const &)> finished)
-    : KVLineEdit(RegExpression, &view), m_view(view), m_finished(std::move(finished))
+                     std::function<void(QString const &)> finished)
+    : m_view(view), m_finished(std::move(finished))
 {
-    setRefusalHints(true);
-    connect(this, &QLineEdit::textChanged, this, judged);
-    // Queued: the box opens when the field is done with its event, so that both may be deleted meanwhile.
+    setUnitShown(false); // the title of the row names it
+    connect(this, &KVLengthEdit::previewChanged, this, judged);
+    connect(this, &KVLengthEdit::validityChanged, this, judged);
+    connect(this, &KVLengthEdit::valueEdited, this, [this] { m_isUntaken = true; });
+    // Queued: a field that loses the focus because its window goes away passes nothing on.
     connect(
-        this, &QLineEdit::editingFinished, this, [this] { finish(); }, Qt::QueuedConnection);
-    connect(this, &KVLineEdit::validityChanged, this, [this, judged](bool /*legal*/, QString words) {
-        m_fault = words;
-        judged();
-    });
+        this, &KVLengthEdit::valueEdited, this, [this] { finish(); }, Qt::QueuedConnection);
 }
 
+// The dialog tells of a switch only after it has taken what was being typed, so the field does not follow the
+// view by itself.
 void SizeField::showSize(QString const & size, bool isEnabled)
 {
-    setEnabled(isEnabled);
-    if (text() != size) { // a text that is set again would lose its undo history
-        setText(size);
+    if (m_isUntaken) {
+        return; // it will be passed on
     }
-    setModified(false);
-    if (isEnabled) {
-        setRange(smallest, largest);
-    } else {
-        clearRange();
+    Unit const shown = Ext::unitOf(&m_view);
+    setUnit(shown);
+    setEnabled(isEnabled);
+    setRange(isEnabled ? smallest : Ext::Length::lowest(), isEnabled ? largest : Ext::Length::highest());
+    auto const length = Ext::Length::from(size.toDouble(), shown, Ext::LengthScale::Small);
+    if (size.isEmpty()) {
+        clearValue();
+    } else if (!hasValue() || value() != length) {
+        setValue(length);
     }
 }
 
-void SizeField::judgeAgain()
+QString SizeField::sizeText() const
 {
-    if (isEnabled()) {
-        setRange(smallest, largest);
-    }
+    return value().text(unit(), Ext::LengthScale::Small);
 }
 
 void SizeField::finish()
 {
-    if (!isModified()) {
-        return;
-    }
-    setModified(false); // the box takes the focus, which must not finish the field again
-    QString const typed = text();
-    QPointer<SizeField> const alive(this);
-    bool const isLegal = judgeCaculateIsStandard(typed) &&
-                         isValueLegal(sizeValue(typed), smallest.toMil(), largest.toMil(), &m_view);
-    if (alive) {
-        m_finished(isLegal ? std::optional(plainText(sizeValue(typed))) : std::nullopt);
+    if (std::exchange(m_isUntaken, false)) {
+        m_finished(sizeText());
     }
 }
 
-std::optional<QString> SizeField::typedSize(Unit unit) const
+std::optional<QString> SizeField::typedSize()
 {
-    double const value = sizeValue(text());
-    bool const isLegal =
-        m_fault.isEmpty() &&
-        Ext::checkValue(Ext::Length::from(value, unit, Ext::LengthScale::Small), smallest, largest, unit).ok;
-    return isModified() && isLegal ? std::optional(plainText(value)) : std::nullopt;
-}
-
-QString SizeField::valueText() const
-{
-    double const value = sizeValue(text());
-    bool const isCalculation = isModified() && !isSizeText(text()) && value > 0;
-    return isCalculation ? "= " + plainText(value) : QString();
-}
-
-// The base class never finishes an empty field, so leaving it has to restore the size.
-void SizeField::focusOutEvent(QFocusEvent * event)
-{
-    if (text().isEmpty()) {
-        finish();
-    }
-    KVLineEdit::focusOutEvent(event);
+    commit();
+    return std::exchange(m_isUntaken, false) ? std::optional(sizeText()) : std::nullopt;
 }
 
 } // namespace Workbench

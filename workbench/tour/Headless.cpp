@@ -184,7 +184,7 @@ QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camer
                       {"pad", pad},
                       {"restored", dialog.isRestored()}};
     if (!dialog.isRestored()) {
-        auto & width = *dialog.findChild<KVLineEdit *>("width");
+        auto & width = *dialog.findChild<QLineEdit *>("width");
         QString const calculation = unit == Unit::Inch ? "10+2.5" : "254+63.5";
         width.setFocus();
         type(width, "90000*2");

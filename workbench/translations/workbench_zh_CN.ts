@@ -376,8 +376,8 @@ Close the program that has port %1, then start this one again.</source>
         <translation>名称</translation>
     </message>
     <message>
-        <source>A number or a calculation such as 10+2.5</source>
-        <translation>数字或算式，例如 10+2.5</translation>
+        <source>A number or a calculation such as 10+2.5 or 0.3mm-2mil</source>
+        <translation>数字或算式，例如 10+2.5 或 0.3mm-2mil</translation>
     </message>
     <message>
         <source>Polarity</source>
