@@ -200,6 +200,8 @@ TEST_F(LengthEdit, SeveralValuesAreNoneUntilOneIsTypedAndAFormSavesThem)
     EXPECT_TRUE(state.fromJson(full));
     EXPECT_EQ(field->value(), 254_um);
     EXPECT_EQ(field->placeholderText(), "none");
+    EXPECT_TRUE(state.fromJson(empty));
+    EXPECT_FALSE(field->hasValue());
     Ext::installTranslation(LANGUAGE_ENGLISH);
 
     std::unique_ptr<QMenu> const menu(edit.createMenu());
