@@ -34,26 +34,19 @@ LevelsBox::LevelsBox(AnalysisRun & run, BoardView & view, std::function<void()> 
     foot->addWidget(m_hint, 1);
     foot->addWidget(m_save, 0, Qt::AlignTop);
     m_layout->addLayout(foot);
-    makeEditor();
-    connect(m_save, &QPushButton::clicked, this, [this] { saveLevels(); });
-    setTextsNowAndLater(*this, [this] { setTexts(); });
-}
-
-// A field keeps the view it was made with, so another view needs new fields.
-void LevelsBox::makeEditor()
-{
-    delete m_editor;
-    m_editor = new LevelsEditor(*m_view);
+    m_editor = new LevelsEditor(view);
     m_layout->insertWidget(0, m_editor);
     connect(m_editor, &LevelsEditor::levelEdited, this,
             [this](char const * level, double mil) { changeLevel(level, mil); });
+    connect(m_save, &QPushButton::clicked, this, [this] { saveLevels(); });
+    setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
 void LevelsBox::setView(BoardView & view)
 {
     if (&view != m_view) {
         m_view = &view;
-        makeEditor();
+        m_editor->setView(view);
     }
     showCategory(m_category);
 }

@@ -32,7 +32,6 @@ public:
     void showCategory(KVCAM::UIAPI::Ext::ReportCategory const * category);
 
 private:
-    void makeEditor();
     void setTexts();
     QString hint() const;
     void changeLevel(char const * level, double mil);

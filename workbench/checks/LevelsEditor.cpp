@@ -26,7 +26,6 @@ LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent)
         field.edit = new KVLengthEdit;
         field.edit->setObjectName(allLevels[i].name);
         field.edit->setUnitShown(false); // the title of the box names it
-        field.edit->setView(&view);
         field.title->setBuddy(field.edit);
         int const column = static_cast<int>(i);
         layout->addWidget(field.title, 0, column);
@@ -37,8 +36,16 @@ LevelsEditor::LevelsEditor(QWidget & view, QWidget * parent) : QWidget(parent)
                              level.text(Ext::Unit::Inch, Ext::LengthScale::Small).toDouble());
         });
     }
+    setView(view);
     setTextsNowAndLater(*this, [this] { setTexts(); });
     show({});
+}
+
+void LevelsEditor::setView(QWidget & view)
+{
+    for (Field const & field : m_fields) {
+        field.edit->setView(&view);
+    }
 }
 
 void LevelsEditor::setTexts()

@@ -21,6 +21,8 @@ public:
     /// `view` is the widget that serves as the handle of the view.
     explicit LevelsEditor(QWidget & view, QWidget * parent = nullptr);
 
+    /// Takes the unit from another view.
+    void setView(QWidget & view);
     /// Shows the levels in mil. Without levels the fields are empty and disabled.
     void show(std::optional<KVCAM::UIAPI::Analysis_Ranges_Record> const & levels);
     using QWidget::show;
