@@ -10,8 +10,9 @@
 //   checkValue()       whether a length is in its range: the fault, the bounds, a sentence
 //   checkNumber()      the same for a plain number
 //   checkSymbol()      the same for every number of a symbol name
+//   Symbol             a standard symbol: its name taken apart, in any unit, or what is wrong with it
 //   describeSymbol()   a symbol name in words, in both units
-//   symbolGrammars     the standard families: prefix, fields, what a unit switch does
+//   symbolGrammars     the standard families: prefix, fields, what a unit switch does; symbolFieldKind()
 //   findSymbolGrammar() the family of a prefix
 //
 // A field: evaluate() what was typed, checkValue() the length, show the sentence of the one that failed. The
@@ -22,6 +23,7 @@
 #include "../uiapi/ViewUnit.h"
 #include "../units/Evaluate.h"
 #include "../units/Length.h"
+#include "../units/Symbol.h"
 #include "../units/SymbolDescription.h"
 #include "../units/Unit.h"
 #include "../units/ValueCheck.h"

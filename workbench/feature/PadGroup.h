@@ -72,7 +72,7 @@ private:
     void showFacts();
     void symbolEdited();
     void offsetEdited();
-    void finishSize(std::optional<QString> const & size, void (PadSymbol::*take)(PadSize const &));
+    void finishSize(std::optional<QString> const & size, bool (PadSymbol::*take)(PadSize const &));
     void settleSizes();
     void showVerdict();
     void refreshUnit();
@@ -84,6 +84,7 @@ private:
     int m_feature;
     std::string m_job;
     PadSymbol m_symbol;
+    bool m_isTyped = false; ///< the symbol's name, by the user
     PadSize m_typedOffset{"0", Unit::Inch};
     Unit m_shownUnit;
     bool m_isFilling = false; ///< the group changes its fields itself

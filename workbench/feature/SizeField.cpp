@@ -1,6 +1,6 @@
 #include "feature/SizeField.h"
 
-#include "board/PadName.h"
+#include "feature/PadSymbol.h"
 
 #include <QPointer>
 
