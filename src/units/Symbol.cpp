@@ -109,8 +109,8 @@ SymbolFault readNumber(SymbolValue & value, QStringView digits)
     if (!isDecimal(digits)) {
         return SymbolFault::NotANumber;
     }
+    value.number = decimalValue(digits);
     if (!isSymbolLength(value.role)) {
-        value.number = decimalValue(digits);
         if (isSymbolCount(value.role) && !areDigits(digits)) {
             return SymbolFault::NotAWholeNumber;
         }

@@ -42,7 +42,7 @@ struct SymbolValue
     Unit unit = Unit::Inch;                   ///< in whose small unit it was written
     QString text;      ///< as written: "10.0", "r5" for a Corner, "13" for a CornerList, "p" for Plating
     Length length;     ///< of a Length or Corner, to the nearest nanometre, halves away from zero; else 0
-    double number = 0; ///< of a Count or Angle; else 0
+    double number = 0; ///< as written: a length in the small unit; 0 for a CornerList and Plating
 
     /// Whether it is a Corner which is cut, not rounded.
     [[nodiscard]] bool isChamfer() const

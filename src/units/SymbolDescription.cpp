@@ -1,20 +1,16 @@
 #include "units/SymbolDescription.h"
 
-#include "units/DecimalText.h"
 #include "units/Symbol.h"
 #include "units/SymbolTexts.h"
 #include "units/UnitConversion.h"
-
-#include <QStringView>
 
 namespace KVCAM::UIAPI::Ext {
 namespace {
 
 constexpr char const * userSymbolPhrase = QT_TRANSLATE_NOOP("Symbols", "user symbol %1");
 
-QString sizeText(QStringView text, Unit unit)
+QString sizeText(double size, Unit unit)
 {
-    double const size = decimalValue(text);
     double const other =
         unit == Unit::Inch ? size * Units::millimetresPerInch : size / Units::millimetresPerInch;
     auto const inUnit = [](double value, Unit shown) {
@@ -28,11 +24,11 @@ QString valueText(SymbolValue const & value)
 {
     switch (symbolFieldKind(value.role)) {
     case SymbolFieldKind::Length:
-        return Symbols::fieldPhrase(value.role).arg(sizeText(value.text, value.unit));
+        return Symbols::fieldPhrase(value.role).arg(sizeText(value.number, value.unit));
     case SymbolFieldKind::Corner: {
         QString const phrase =
             value.isChamfer() ? Symbols::chamferedPhrase() : Symbols::fieldPhrase(value.role);
-        return phrase.arg(sizeText(QStringView(value.text).mid(1), value.unit));
+        return phrase.arg(sizeText(value.number, value.unit));
     }
     case SymbolFieldKind::Plating:
         return Symbols::platingName(value.text.front());
@@ -55,7 +51,7 @@ QString describeSymbol(QString const & name, Unit unit)
     QString text = Symbols::shapeName(symbol->family());
     bool const isSingle = symbol->grammar().layout.count == 1; // which needs no label
     for (SymbolValue const & value : symbol->values()) {
-        text += QStringLiteral(", ") + (isSingle ? sizeText(value.text, unit) : valueText(value));
+        text += QStringLiteral(", ") + (isSingle ? sizeText(value.number, unit) : valueText(value));
     }
     return text;
 }

@@ -1,5 +1,7 @@
 #include "board/SymbolPath.h"
 
+#include "ui/Units.h"
+
 #include <QPolygonF>
 #include <QTransform>
 
@@ -16,8 +18,8 @@ using Ext::SymbolFamily;
 
 namespace {
 
-constexpr double mostSize = 1e10; // micrometres; painting cannot cope with all that a Length can hold
-constexpr int mostParts = 100;    // spokes of a thermal or rings of a moire; far beyond any real one
+constexpr double mostSize = 1e9; // in a name; painting cannot cope with all that a Length can hold
+constexpr int mostParts = 100;   // spokes of a thermal or rings of a moire; far beyond any real one
 
 // The values of a symbol in the order of its name up to the corners, and the corners that are cut.
 struct Sizes
@@ -35,7 +37,7 @@ Sizes sizesOf(Ext::Symbol const & symbol)
 {
     Sizes sizes;
     for (Ext::SymbolValue const & value : symbol.values()) {
-        double const length = std::min(value.length.toMicrometres(), mostSize);
+        double const length = std::min(value.number, mostSize) * micrometresPer(value.unit);
         switch (Ext::symbolFieldKind(value.role)) {
         case Ext::SymbolFieldKind::Corner:
             sizes.corner = length;
