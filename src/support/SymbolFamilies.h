@@ -76,16 +76,48 @@ enum class SymbolField : int
 /// How many kinds of fields there are.
 inline constexpr std::size_t symbolFieldCount = static_cast<std::size_t>(SymbolField::Plating) + 1;
 
+/// What can stand in a field.
+enum class SymbolFieldKind : int
+{
+    Length,     ///< a number, in the small unit of the name
+    Corner,     ///< one character, then a length
+    CornerList, ///< digits out of 1234, each once
+    Count,      ///< a whole number
+    Angle,      ///< a number of degrees
+    Plating     ///< one character
+};
+
+/// What can stand in a field with this role.
+constexpr SymbolFieldKind symbolFieldKind(SymbolField field) noexcept
+{
+    switch (field) {
+    case SymbolField::Corner:
+        return SymbolFieldKind::Corner;
+    case SymbolField::CornerList:
+        return SymbolFieldKind::CornerList;
+    case SymbolField::RingCount:
+    case SymbolField::SpokeCount:
+        return SymbolFieldKind::Count;
+    case SymbolField::Angle:
+        return SymbolFieldKind::Angle;
+    case SymbolField::Plating:
+        return SymbolFieldKind::Plating;
+    default:
+        return SymbolFieldKind::Length;
+    }
+}
+
 /// Whether a field holds a length, so that it depends on the unit; all others are copied as text.
 constexpr bool isSymbolLength(SymbolField field) noexcept
 {
-    return field < SymbolField::CornerList;
+    SymbolFieldKind const kind = symbolFieldKind(field);
+    return kind == SymbolFieldKind::Length || kind == SymbolFieldKind::Corner;
 }
 
 /// Whether a field is a whole number.
 constexpr bool isSymbolCount(SymbolField field) noexcept
 {
-    return field == SymbolField::RingCount || field == SymbolField::SpokeCount;
+    return symbolFieldKind(field) == SymbolFieldKind::Count;
 }
 
 /// How setSymbolUIData() and getSymbolNameByUnit() turn the names of a family into another unit.

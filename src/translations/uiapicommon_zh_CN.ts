@@ -238,6 +238,138 @@
 <context>
     <name>Symbols</name>
     <message>
+        <source>diameter</source>
+        <translation>直径</translation>
+    </message>
+    <message>
+        <source>side</source>
+        <translation>边长</translation>
+    </message>
+    <message>
+        <source>outer size</source>
+        <translation>外形尺寸</translation>
+    </message>
+    <message>
+        <source>inner size</source>
+        <translation>内形尺寸</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>line length</source>
+        <translation>线长</translation>
+    </message>
+    <message>
+        <source>ring width</source>
+        <translation>环宽</translation>
+    </message>
+    <message>
+        <source>ring gap</source>
+        <translation>环间距</translation>
+    </message>
+    <message>
+        <source>spoke gap</source>
+        <translation>开口宽</translation>
+    </message>
+    <message>
+        <source>air gap</source>
+        <translation>间隙</translation>
+    </message>
+    <message>
+        <source>corner size</source>
+        <translation>角尺寸</translation>
+    </message>
+    <message>
+        <source>corner cut</source>
+        <translation>切角尺寸</translation>
+    </message>
+    <message>
+        <source>upper tolerance</source>
+        <translation>上公差</translation>
+    </message>
+    <message>
+        <source>lower tolerance</source>
+        <translation>下公差</translation>
+    </message>
+    <message>
+        <source>corners</source>
+        <translation>角</translation>
+    </message>
+    <message>
+        <source>number of rings</source>
+        <translation>环数</translation>
+    </message>
+    <message>
+        <source>number of spokes</source>
+        <translation>开口数</translation>
+    </message>
+    <message>
+        <source>angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>plating</source>
+        <translation>金属化类型</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>请输入名称。</translation>
+    </message>
+    <message>
+        <source>No standard symbol begins with &quot;%1&quot;.</source>
+        <translation>没有以“%1”开头的标准符号。</translation>
+    </message>
+    <message>
+        <source>This field is missing.</source>
+        <translation>缺少此字段。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too much; the name ends before it.</source>
+        <translation>“%1”多余，名称应在其之前结束。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number such as 10 or 2.5.</source>
+        <translation>“%1”不是 10 或 2.5 这样的数字。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number.</source>
+        <translation>“%1”不是整数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large.</source>
+        <translation>“%1”过大。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not begin with r (rounded) or c (cut).</source>
+        <translation>“%1”不以 r（圆角）或 c（切角）开头。</translation>
+    </message>
+    <message>
+        <source>The corners of this symbol can be rounded (r), not cut (c).</source>
+        <translation>此符号的角只能是圆角（r），不能是切角（c）。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a choice of the corners 1 to 4, each once.</source>
+        <translation>“%1”不是角 1 至 4 的选择，每个角只能出现一次。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not p (plated), n (not plated) or v (via).</source>
+        <translation>“%1”不是 p（金属化）、n（非金属化）或 v（过孔）。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
         <source>diameter %1</source>
         <translation>直径 %1</translation>
     </message>

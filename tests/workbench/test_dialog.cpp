@@ -131,7 +131,9 @@ TEST_F(Windows, TypingASymbolCanBeUndone)
     EXPECT_EQ(field(dialog, "height").text(), "20");
     type(name, "r30");
     EXPECT_FALSE(field(dialog, "height").isEnabled());
-    for (int i = 0; i < 8 && dialog.pad().symbol() != "oval30x20"; ++i) {
+    type(name, "rect30");
+    EXPECT_EQ(dialog.pad().description(), "user symbol rect30\nheight: This field is missing.");
+    for (int i = 0; i < 16 && dialog.pad().symbol() != "oval30x20"; ++i) {
         name.undo();
     }
     EXPECT_EQ(dialog.pad().symbol(), "oval30x20");

@@ -2,6 +2,8 @@
 
 #include "board/SymbolPath.h"
 
+#include <UIAPICommonExt.h>
+
 #include <QPolygonF>
 #include <QTransform>
 
@@ -12,6 +14,8 @@
 #include <utility>
 
 namespace Workbench {
+
+namespace Ext = KVCAM::UIAPI::Ext;
 
 namespace {
 
@@ -29,8 +33,8 @@ QPointF toPoint(KVCAM::API::point const & point)
 // What a symbol name stands for; looked up once per name and unit of a layer.
 struct Symbol
 {
-    std::optional<QPainterPath> path;
-    double width = 0; // of a stroke drawn with it
+    std::optional<QPainterPath> path; // nothing for a job's own
+    double width = 0;                 // of a stroke drawn with it
     bool isSquare = false;
 };
 
@@ -42,10 +46,14 @@ public:
         auto const [place, added] = m_symbols.emplace(std::pair(name, unit), Symbol());
         if (added) {
             Symbol & symbol = place->second;
-            symbol.path = symbolPath(name, unit);
-            QRectF const box = symbol.path.value_or(QPainterPath()).boundingRect();
-            symbol.width = std::min(box.width(), box.height());
-            symbol.isSquare = name.compare(0, 1, "s") == 0 || name.compare(0, 4, "rect") == 0;
+            auto const standard = Ext::Symbol::parse(QString::fromStdString(name), unit).symbol;
+            if (standard) {
+                symbol.path = symbolPath(*standard);
+                QRectF const box = symbol.path->boundingRect();
+                symbol.width = std::min(box.width(), box.height());
+                symbol.isSquare = standard->family() == Ext::SymbolFamily::Square ||
+                                  standard->family() == Ext::SymbolFamily::Rectangle;
+            }
         }
         return place->second;
     }
@@ -125,14 +133,14 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     auto const & points = feature.points;
     FeatureShape shape;
     shape.feature = feature.index;
-    shape.unit = KVCAM::UIAPI::Ext::unitOfCode(drawing.unit);
+    shape.unit = Ext::unitOfCode(drawing.unit);
     shape.positive = feature.positive;
     if (feature.kind == 'S') {
         shape.path = surfacePath(drawing.outlines);
         shape.box = shape.path.boundingRect();
         return shape;
     }
-    Symbol const & symbol = symbols.find(feature.symbol, KVCAM::UIAPI::Ext::unitOfCode(drawing.unit));
+    Symbol const & symbol = symbols.find(feature.symbol, Ext::unitOfCode(drawing.unit));
     shape.place = toPoint(points.at(0));
     switch (feature.kind) {
     case 'P':

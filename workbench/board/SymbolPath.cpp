@@ -1,12 +1,8 @@
 #include "board/SymbolPath.h"
 
-#include "board/PadName.h"
 #include "ui/Units.h"
 
-#include <UIAPICommon.h>
-
 #include <QPolygonF>
-#include <QRegularExpression>
 #include <QTransform>
 
 #include <algorithm>
@@ -22,45 +18,40 @@ using Ext::SymbolFamily;
 
 namespace {
 
-constexpr double mostSize = 1e9; // in a name, whose digits may exceed any number type
+constexpr double mostSize = 1e9; // in a name; painting cannot cope with all that a Length can hold
 constexpr int mostParts = 100;   // spokes of a thermal or rings of a moire; far beyond any real one
 
-// The sizes in a name, in order and with a plating letter as 0, and the corners that are cut.
+// The values of a symbol in the order of its name up to the corners, and the corners that are cut.
 struct Sizes
 {
-    std::vector<double> values; // as in the name
-    double scale = 1;           // micrometres per unit of the values
+    std::vector<double> values; // micrometres, a count or degrees; 0 for the plating
     double corner = 0;          // micrometres
     bool isChamfered = false;
     QString corners = "1234"; // counter-clockwise from the upper right one
 
-    double operator[](std::size_t i) const { return values[i] * scale; }
-    QSizeF size() const { return {(*this)[0], (*this)[1]}; }
+    double operator[](std::size_t i) const { return values[i]; }
+    QSizeF size() const { return {values[0], values[1]}; }
 };
 
-double sizeOf(QString const & text)
-{
-    return std::min(text.toDouble(), mostSize);
-}
-
-Sizes sizesOf(PadName const & name, Unit unit)
+Sizes sizesOf(Ext::Symbol const & symbol)
 {
     Sizes sizes;
-    sizes.scale = micrometresPer(unit);
-    sizes.values.push_back(sizeOf(name.first));
-    if (!name.second.isEmpty()) {
-        sizes.values.push_back(sizeOf(name.second));
-    }
-    QStringList const rest = name.rest.split('x', Qt::SkipEmptyParts);
-    for (int i = 0; i < rest.size(); ++i) {
-        static QRegularExpression const cut("^([rc])([0-9.]+)$");
-        if (auto const match = cut.match(rest[i]); match.hasMatch()) {
-            sizes.corner = sizeOf(match.captured(2)) * sizes.scale;
-            sizes.isChamfered = match.captured(1) == "c";
-            sizes.corners = i + 1 < rest.size() ? rest[i + 1] : sizes.corners;
+    for (Ext::SymbolValue const & value : symbol.values()) {
+        double const length = std::min(value.number, mostSize) * micrometresPer(value.unit);
+        switch (Ext::symbolFieldKind(value.role)) {
+        case Ext::SymbolFieldKind::Corner:
+            sizes.corner = length;
+            sizes.isChamfered = value.isChamfer();
             break;
+        case Ext::SymbolFieldKind::CornerList:
+            sizes.corners = value.text;
+            break;
+        case Ext::SymbolFieldKind::Length:
+            sizes.values.push_back(length);
+            break;
+        default:
+            sizes.values.push_back(value.number);
         }
-        sizes.values.push_back(sizeOf(rest[i]));
     }
     return sizes;
 }
@@ -166,14 +157,14 @@ QPainterPath moire(Sizes const & sizes)
 {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    int const count = static_cast<int>(std::clamp<double>(sizes.values[2], 0, mostParts));
+    int const count = static_cast<int>(std::clamp<double>(sizes[2], 0, mostParts));
     for (int i = 0; i < count; ++i) {
         double const inner = 2 * (i * (sizes[0] + sizes[1]) + sizes[1]);
         double const outer = inner + 2 * sizes[0];
         path.addPath(ellipse({outer, outer}));
         path.addPath(ellipse({inner, inner}).toReversed()); // so that the winding rule leaves it open
     }
-    QTransform const turned = QTransform().rotate(-sizes.values[5]);
+    QTransform const turned = QTransform().rotate(-sizes[5]);
     for (QSizeF const & line : {QSizeF(sizes[4], sizes[3]), QSizeF(sizes[3], sizes[4])}) {
         QPainterPath bar;
         bar.addRect(centred(line));
@@ -281,12 +272,6 @@ constexpr std::array drawings{
 };
 static_assert(Ext::isBySymbolFamily(drawings));
 
-// How many sizes a drawing needs. Plating and tolerances of a hole are not drawn.
-std::size_t sizesDrawn(Ext::SymbolGrammar const & grammar)
-{
-    return grammar.family == SymbolFamily::Hole ? 1 : grammar.layout.required;
-}
-
 // Their angle, number and gap are the third to the fifth size.
 bool hasSpokes(Ext::SymbolLayout const & layout)
 {
@@ -295,24 +280,16 @@ bool hasSpokes(Ext::SymbolLayout const & layout)
 
 } // namespace
 
-std::optional<QPainterPath> symbolPath(std::string const & name, Unit unit)
+QPainterPath symbolPath(Ext::Symbol const & symbol)
 {
-    auto const parts = parsePadName(QString::fromStdString(name));
-    if (!parts) {
-        return std::nullopt;
-    }
-    Ext::SymbolGrammar const & grammar = *parts->grammar;
-    Sizes const sizes = sizesOf(*parts, unit);
-    if (sizes.values.size() < sizesDrawn(grammar)) {
-        return std::nullopt;
-    }
-    Drawing const & drawing = drawings[static_cast<std::size_t>(grammar.family)];
+    Sizes const sizes = sizesOf(symbol);
+    Drawing const & drawing = drawings[static_cast<std::size_t>(symbol.family())];
     QPainterPath path = drawing.outer(sizes);
     if (drawing.hole != nullptr) {
         path.addPath(drawing.hole(sizes)); // odd-even
     }
-    if (hasSpokes(grammar.layout)) {
-        path = withGaps(path, sizes.values[2], sizes.values[3], sizes[4]);
+    if (hasSpokes(symbol.grammar().layout)) {
+        path = withGaps(path, sizes[2], sizes[3], sizes[4]);
     }
     return path.boundingRect().isEmpty() ? QPainterPath() : path;
 }

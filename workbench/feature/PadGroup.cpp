@@ -186,6 +186,7 @@ void PadGroup::symbolEdited()
 {
     if (!isFollowing()) {
         m_symbol = {m_name->text(), m_shownUnit};
+        m_isTyped = true;
         showSymbol();
     }
 }
@@ -198,7 +199,7 @@ void PadGroup::offsetEdited()
     showFacts();
 }
 
-void PadGroup::finishSize(QString const & size, void (PadSymbol::*take)(PadSize const &))
+void PadGroup::finishSize(QString const & size, bool (PadSymbol::*take)(PadSize const &))
 {
     (m_symbol.*take)({size, m_shownUnit});
     showSymbol();
@@ -236,7 +237,10 @@ void PadGroup::showTitles()
 
 void PadGroup::showFacts()
 {
-    m_description->setText(Ext::describeSymbol(m_symbol.name(), m_symbol.unit()));
+    // A stored name that only begins like a standard one is meant as it is.
+    QString const fault = m_isTyped ? m_symbol.fault() : QString();
+    QString const words = Ext::describeSymbol(m_symbol.name(), m_symbol.unit());
+    m_description->setText(fault.isEmpty() ? words : words + '\n' + fault);
     m_exact->setText(tr("Width %1 nm, offset %2 nm")
                          .arg(exactWidth().nanometres())
                          .arg(m_offset->exactLength().nanometres()));
@@ -273,6 +277,7 @@ void PadGroup::showNames()
     listSymbols(*m_names, m_job, m_view.step(), m_view.layer(), m_shownUnit);
     connect(m_names, &QListWidget::itemClicked, this, [this](QListWidgetItem const * item) {
         m_symbol = listedSymbol(*item);
+        m_isTyped = false;
         showSymbol();
         m_names->hide();
     });
@@ -318,6 +323,7 @@ bool PadGroup::restore(SavedForm const & form)
     writeJsonToList(form.fields, restored);
     m_isFilling = false;
     m_symbol = *symbol;
+    m_isTyped = false;
     // The field keeps its text in the unit of typing, so it is entered in that unit again.
     giveUnit(m_view.handle(), Ext::unitOfCode(offset["unit"].toInt()));
     m_offset->setText(offset["text"].toString());

@@ -70,7 +70,7 @@ private:
     void showFacts();
     void symbolEdited();
     void offsetEdited();
-    void finishSize(QString const & size, void (PadSymbol::*take)(PadSize const &));
+    void finishSize(QString const & size, bool (PadSymbol::*take)(PadSize const &));
     void settleSizes();
     void showVerdict();
     void refreshUnit();
@@ -82,6 +82,7 @@ private:
     int m_feature;
     std::string m_job;
     PadSymbol m_symbol;
+    bool m_isTyped = false; ///< the symbol's name, by the user
     PadSize m_typedOffset{"0", Unit::Inch};
     Unit m_shownUnit;
     bool m_isFilling = false; ///< the group changes its fields itself

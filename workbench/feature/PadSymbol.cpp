@@ -1,10 +1,10 @@
 #include "feature/PadSymbol.h"
 
-#include "board/PadName.h"
 #include "feature/FormFile.h"
 
-#include <UIAPICommon.h>
+#include <UIAPICommonExt.h>
 
+#include <cstddef>
 #include <utility>
 
 namespace Workbench {
@@ -13,28 +13,22 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-// A name whose sizes can be shown and set, since the library converts the whole name.
-std::optional<PadName> sizedName(QString const & name)
+PadSize sizeOf(Ext::Symbol const & symbol, std::size_t index)
 {
-    auto parts = parsePadName(name);
-    bool const isConverted = parts && parts->grammar->rewrite != Ext::SymbolRewrite::Unchanged;
-    return isConverted ? parts : std::nullopt;
-}
-
-// The library converts names only; a length is converted as the size of a round.
-QString converted(QString name, Unit from, Unit to)
-{
-    if (from != to) {
-        setSymbolUIData(name, Ext::unitCode(to));
-    }
-    return name;
+    Ext::SymbolValue const & value = symbol.values()[index];
+    return {value.text, value.unit};
 }
 
 } // namespace
 
+bool isSizeText(QString const & text)
+{
+    return Ext::Symbol::parse('r' + text, Unit::Inch).ok;
+}
+
 QString PadSize::in(Unit shown) const
 {
-    return text.isEmpty() ? QString() : converted('r' + text, unit, shown).mid(1);
+    return text.isEmpty() || unit == shown ? text : length().text(shown, Ext::LengthScale::Small);
 }
 
 Ext::Length PadSize::length() const
@@ -42,62 +36,49 @@ Ext::Length PadSize::length() const
     return Ext::Length::from(text.toDouble(), unit, Ext::LengthScale::Small);
 }
 
-PadSymbol::PadSymbol(QString name, Unit unit) : m_name(std::move(name)), m_unit(unit)
-{
-    if (auto const parts = sizedName(m_name)) {
-        m_width = {parts->first, unit};
-        m_height = {parts->second, unit};
-    }
-}
-
-bool PadSymbol::hasWidth() const
-{
-    return sizedName(m_name).has_value();
-}
+PadSymbol::PadSymbol(QString name, Unit unit)
+    : m_name(std::move(name)), m_unit(unit), m_standard(Ext::Symbol::parse(m_name, unit).symbol)
+{}
 
 bool PadSymbol::hasHeight() const
 {
-    auto const parts = sizedName(m_name);
-    return parts && hasSecondSize(*parts->grammar);
+    return m_standard && m_standard->values().size() > 1 &&
+           Ext::symbolFieldKind(m_standard->values()[1].role) == Ext::SymbolFieldKind::Length;
 }
 
-QString PadSymbol::in(Unit shown) const
+PadSize PadSymbol::width() const
 {
-    // A user-defined name may only look as if it had sizes.
-    return hasWidth() ? withSizes(converted(m_name, m_unit, shown), shown) : m_name;
+    return hasWidth() ? sizeOf(*m_standard, 0) : PadSize();
 }
 
-void PadSymbol::setWidth(PadSize const & size)
+PadSize PadSymbol::height() const
 {
-    m_width = size;
-    m_name = withSizes(m_name, m_unit);
+    return hasHeight() ? sizeOf(*m_standard, 1) : PadSize();
 }
 
-void PadSymbol::setHeight(PadSize const & size)
+QString PadSymbol::fault() const
 {
-    m_height = size;
-    m_name = withSizes(m_name, m_unit);
+    Ext::SymbolReading const reading = Ext::Symbol::parse(m_name, m_unit);
+    bool const isOwn =
+        reading.fault == Ext::SymbolFault::Empty || reading.fault == Ext::SymbolFault::UnknownFamily;
+    return isOwn ? QString() : reading.reason;
 }
 
-QString PadSymbol::withSizes(QString const & name, Unit unit) const
+bool PadSymbol::setWidth(PadSize const & size)
 {
-    auto const parts = sizedName(name);
-    if (!parts || m_width.text.isEmpty()) {
-        return name;
-    }
-    QString const start = parts->prefix + m_width.in(unit);
-    if (m_height.text.isEmpty()) {
-        return start + parts->rest;
-    }
-    bool const isUnfinished = parts->second.isEmpty() && parts->rest == "x"; // "rect10x" gets its height
-    return start + 'x' + m_height.in(unit) + (isUnfinished ? QString() : parts->rest);
+    return hasWidth() && m_standard->setValue(0, size.text, size.unit) == Ext::SymbolFault::None;
+}
+
+bool PadSymbol::setHeight(PadSize const & size)
+{
+    return hasHeight() && m_standard->setValue(1, size.text, size.unit) == Ext::SymbolFault::None;
 }
 
 QJsonObject PadSymbol::toJson() const
 {
-    return {{"name", m_name},          {"unit", unitCode(m_unit)},
-            {"width", m_width.text},   {"width unit", unitCode(m_width.unit)},
-            {"height", m_height.text}, {"height unit", unitCode(m_height.unit)}};
+    return {{"name", name()},          {"unit", unitCode(m_unit)},
+            {"width", width().text},   {"width unit", unitCode(width().unit)},
+            {"height", height().text}, {"height unit", unitCode(height().unit)}};
 }
 
 std::optional<PadSymbol> PadSymbol::fromJson(QJsonObject const & json)
@@ -110,13 +91,14 @@ std::optional<PadSymbol> PadSymbol::fromJson(QJsonObject const & json)
     PadSymbol symbol(json["name"].toString(), Ext::unitOfCode(json["unit"].toInt()));
     PadSize const width{json["width"].toString(), Ext::unitOfCode(json["width unit"].toInt())};
     PadSize const height{json["height"].toString(), Ext::unitOfCode(json["height unit"].toInt())};
-    for (auto const & [target, size] :
-         {std::pair(&symbol.m_width, width), std::pair(&symbol.m_height, height)}) {
+    for (PadSize const & size : {width, height}) {
         if (!size.text.isEmpty() && !isSizeText(size.text)) {
             return std::nullopt;
         }
-        *target = size;
     }
+    // An empty size, and one that the name has not, leaves the name as it is.
+    symbol.setWidth(width);
+    symbol.setHeight(height);
     return symbol;
 }
 
