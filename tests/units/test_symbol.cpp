@@ -5,22 +5,11 @@
 
 #include <QFile>
 
-#include <vector>
-
 using namespace KVCAM::UIAPI;
 using namespace KVCAM::UIAPI::Ext;
 using namespace KVCAM::Testing;
 
 namespace {
-
-std::vector<Length> lengthsOf(Symbol const & symbol)
-{
-    std::vector<Length> lengths;
-    for (SymbolValue const & value : symbol.values()) {
-        lengths.push_back(value.length);
-    }
-    return lengths;
-}
 
 // Nothing is lost in the unit of the name, and no length there and back.
 void expectExact(QString const & name)
@@ -32,7 +21,9 @@ void expectExact(QString const & name)
         QString const other = read.symbol->name(otherUnit(unit));
         SymbolReading const again = Symbol::parse(other, otherUnit(unit));
         ASSERT_TRUE(again.ok) << other.toStdString();
-        EXPECT_EQ(lengthsOf(*again.symbol), lengthsOf(*read.symbol)) << other.toStdString();
+        for (SymbolValue const & value : read.symbol->values()) {
+            EXPECT_EQ(again.symbol->find(value.role)->length, value.length) << other.toStdString();
+        }
     }
 }
 
@@ -81,15 +72,12 @@ TEST(Symbol, SaysWhatIsWrongWhere)
     } const rows[] = {
         {"", Fault::Empty, 0, 0, "Type a name."},
         {"u76r5", Fault::UnknownFamily, 0, 1, "No standard symbol begins with \"u\"."},
-        {"R10", Fault::UnknownFamily, 0, 1, "No standard symbol begins with \"R\"."},
         {"rectx5", Fault::FieldMissing, 4, 0, "width: This field is missing."},
         {"rect10", Fault::FieldMissing, 6, 0, "height: This field is missing."},
         {"rect1x2xr", Fault::FieldMissing, 9, 0, "corner size: This field is missing."},
-        {"r10x20", Fault::TooManyFields, 3, 3, "\"x20\" is too much; the name ends before it."},
         {"r5x", Fault::TooManyFields, 2, 1, "\"x\" is too much; the name ends before it."},
         {"rect10x20_135", Fault::NotANumber, 7, 6, "height: \"20_135\" is not a number such as 10 or 2.5."},
         {"r.5", Fault::NotANumber, 1, 2, "diameter: \".5\" is not a number such as 10 or 2.5."},
-        {"s5.", Fault::NotANumber, 1, 2, "side: \"5.\" is not a number such as 10 or 2.5."},
         {"r-5", Fault::NotANumber, 1, 2, "diameter: \"-5\" is not a number such as 10 or 2.5."},
         {"r1%1", Fault::NotANumber, 1, 3, "diameter: \"1%1\" is not a number such as 10 or 2.5."},
         {"thr1x2x3x4.5x5", Fault::NotAWholeNumber, 9, 3, "number of spokes: \"4.5\" is not a whole number."},
@@ -123,7 +111,6 @@ TEST(Symbol, EachFieldKeepsTheUnitItWasWrittenIn)
     EXPECT_EQ(symbol.name(Unit::Millimetre), "rect317.5x700xr50");
     EXPECT_EQ(symbol.name(Unit::Inch), "rect12.50x27.55906xr1.9685");
     EXPECT_EQ(symbol.find(SymbolField::Corner)->length, 50_um);
-    EXPECT_EQ(symbol.find(SymbolField::CornerList), nullptr);
 }
 
 } // namespace

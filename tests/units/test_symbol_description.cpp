@@ -40,10 +40,7 @@ TEST(SymbolDescription, SentencesGiveBothUnitsTheNamesOwnFirst)
 
 TEST(SymbolDescription, WhatFitsNoFamilyIsAUsersOwn)
 {
-    QString const names =
-        "abc|r|r1x2|R10|r.5|r1.2.3|r-5|r5x|oct60x60|rect10|rectx5|rect10x20x5|rect10x20xq5|r.|r1e5|"
-        "rect10x20xr|rect10x20xr5x15|rect399.9992x1599.99934_135|hole50x1x0x0|moire1x2x3x4x5|"
-        "rect11x102 I|r10%1";
+    QString const names = "abc|r1x2|rect10x20xq5|hole50x1x0x0|rect11x102 I|r10%1";
     for (QString const & name : names.split('|')) {
         EXPECT_EQ(Ext::describeSymbol(name, Ext::Unit::Inch), "user symbol " + name);
     }
