@@ -162,6 +162,8 @@ signals:
     void previewChanged(QString text);
 
 protected:
+    ///@{
+    /// What a line edit does, and the rules above; an override must call these.
     bool event(QEvent * event) override;
     void keyPressEvent(QKeyEvent * event) override;
     void focusInEvent(QFocusEvent * event) override;
@@ -170,6 +172,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent * event) override;
     void changeEvent(QEvent * event) override;
     void paintEvent(QPaintEvent * event) override;
+    ///@}
 
 private:
     struct Private;
