@@ -61,7 +61,7 @@ FormState::~FormState()
 
 void FormState::refresh()
 {
-    QMetaMethod const slot = metaObject()->method(metaObject()->indexOfSlot("noteChange()"));
+    QMetaMethod const slot = staticMetaObject.method(staticMetaObject.indexOfSlot("noteChange()"));
     for (FormFields::Field const & field : d->fields()) {
         if (!d->defaults.contains(field.name)) {
             QJsonValue const value = field.access->read(*field.object, LengthUnit::Fixed);
@@ -152,7 +152,7 @@ Result FormState::load(QString const & path)
         return {false, tr("The form cannot be read from \"%1\": %2").arg(path, file.reason)};
     }
     QPointer<FormState> const alive(this);
-    Result const result = fromJson(file.document.object());
+    Result result = fromJson(file.document.object());
     if (alive && result) {
         d->saved = d->values();
     }

@@ -248,6 +248,9 @@ TEST_F(EdaLinkTest, SlotsMayThrowReadAndDelete)
 
 TEST_F(EdaLinkTest, TellsOfASocketThatCannotSend)
 {
+#if defined(Q_OS_WIN)
+    GTEST_SKIP() << "there a sender never learns that nobody listens";
+#endif
     QObject parent;
     auto * const link = new ConnectEDA(&parent);
     quint16 const port = tool.localPort();
