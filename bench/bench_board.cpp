@@ -64,7 +64,7 @@ public:
         std::vector<KVCAM::API::layer_info> layers;
         KVCAM::API::get_matrix("large", steps, layers);
         layer = layers.at(0);
-        view = new BoardView("large", "pcb", 1);
+        view = new BoardView("large", "pcb", KVCAM::UIAPI::Ext::Unit::Millimetre);
         view->resize(1000, 700);
         view->showLayer(layer);
         view->show();
