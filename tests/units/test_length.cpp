@@ -29,7 +29,6 @@ static_assert(1_nm / 0 == Length::highest() && -1_nm / 0.0 == Length::lowest() &
 static_assert(Length::highest() / INT64_MIN == -1_nm);
 static_assert(Length::fromMil(infinity) == Length::highest() &&
               Length::fromInches(-1e300) == Length::lowest());
-static_assert(Length::fromMil(std::numeric_limits<double>::quiet_NaN()) == 0_nm);
 static_assert((12.5_mil).toMicrometres() == 317.5 && (317.5_um).toMil() == 12.5 &&
               (1_in).toMillimetres() == 25.4);
 static_assert(otherUnit(Unit::Inch) == Unit::Millimetre && otherUnit(Unit::Millimetre) == Unit::Inch);
@@ -37,6 +36,8 @@ static_assert(unitOfCode(0) == Unit::Inch && unitOfCode(-1) == Unit::Millimetre 
 
 TEST(Length, Texts)
 {
+    EXPECT_EQ(Length::fromMil(std::numeric_limits<double>::quiet_NaN()),
+              0_nm); // no constant for every compiler
     struct Row
     {
         Length length;
