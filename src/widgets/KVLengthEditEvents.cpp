@@ -198,7 +198,8 @@ QMenu * KVLengthEdit::createMenu()
     QMenu * const menu = createStandardContextMenu();
     menu->addSeparator();
     QMenu * const copies = menu->addMenu(tr("Copy as"));
-    for (QString const & text : everyUnit()) {
+    QStringList const texts = everyUnit();
+    for (QString const & text : texts) {
         copies->addAction(text, this, [text] { QApplication::clipboard()->setText(text); });
     }
     copies->setEnabled(!copies->isEmpty());
