@@ -1,8 +1,8 @@
 #include "EmbeddedEngine.h"
 
-#include "EngineState.h"
-#include "JobPaths.h"
-#include "LineReader.h"
+#include "formats/JobPaths.h"
+#include "formats/LineReader.h"
+#include "state/EngineState.h"
 
 #include <algorithm>
 #include <map>

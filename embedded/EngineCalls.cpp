@@ -1,7 +1,7 @@
-#include "CheckReply.h"
-#include "EngineState.h"
-#include "JobPaths.h"
-#include "StandardSymbol.h"
+#include "checks/CheckReply.h"
+#include "formats/JobPaths.h"
+#include "geometry/StandardSymbol.h"
+#include "state/EngineState.h"
 
 #include <kvcam/Engine.h>
 

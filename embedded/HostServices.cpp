@@ -1,4 +1,4 @@
-#include "EngineState.h"
+#include "state/EngineState.h"
 
 #include <kvcam/HostPaths.h>
 #include <kvcam/PluginManager.h>

@@ -1,9 +1,9 @@
 #include "CheckEntries.h"
 #include "config/ConfigTest.h"
 
-#include "CheckReply.h"
 #include "analysis/AnalysisReport.h"
 #include "analysis/CheckKinds.h"
+#include "checks/CheckReply.h"
 
 #include <QJsonArray>
 

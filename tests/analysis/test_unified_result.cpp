@@ -1,11 +1,11 @@
 #include "CheckEntries.h"
 #include "harness/UiapiTest.h"
 
-#include "CheckReply.h"
 #include "analysis/BoundedMergeSort.h"
 #include "analysis/CheckOrder.h"
 #include "analysis/UnifiedResultStore.h"
 #include "analysis/Unified_AnalysisResult.h"
+#include "checks/CheckReply.h"
 
 #include <json/reader.h>
 #include <json/value.h>

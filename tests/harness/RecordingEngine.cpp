@@ -1,6 +1,6 @@
 #include "harness/RecordingEngine.h"
 
-#include "CheckReply.h"
+#include "checks/CheckReply.h"
 
 #include <KVCAM_API.h>
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "checks/DrillChecks.h"
+
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// Measures the tracks, pads, SMD spacings and rings of a copper layer and adds them to the results. Only the
+/// holes that pass through its row count.
+void checkCopper(CheckContext & context, API::layer_info const & layer, std::vector<Hole> const & holes,
+                 CheckResults & results);
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "checks/CheckContext.h"
+
+#include <limits>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+enum class HoleKind : int
+{
+    Plated,
+    NonPlated,
+    Via
+};
+
+/// A round hole and the matrix rows it passes through.
+struct Hole
+{
+    API::point place;
+    double diameter = 0;
+    HoleKind kind = HoleKind::Plated;
+    int firstRow = 0;
+    int lastRow = std::numeric_limits<int>::max();
+};
+
+/// Measures the holes and slots of a drill or rout layer into the results. Appends the holes to `holes`.
+void checkDrills(CheckContext & context, API::layer_info const & layer, CheckResults & results,
+                 std::vector<Hole> & holes);
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,102 @@
+#include "EmbeddedChecks.h"
+
+#include "checks/CopperChecks.h"
+#include "state/EngineState.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace KVCAM::Embedded {
+namespace {
+
+struct LeftOut
+{
+    char const * table;
+    int item;
+    char const * reason;
+};
+
+constexpr char const * needsNets =
+    "It takes a net list to tell what belongs to one net; the engine reads none.";
+constexpr std::array leftOut{
+    LeftOut{"signal", 3, needsNets},
+    LeftOut{"signal", 4, needsNets},
+    LeftOut{"signal", 14, needsNets},
+    LeftOut{"signal", 15, needsNets},
+    LeftOut{"signal", 26, needsNets},
+    LeftOut{"signal", 29, needsNets},
+    LeftOut{"signal", 43, "It takes the path of the rout; the engine reads none."},
+    LeftOut{"drill", 28, needsNets},
+    LeftOut{"drill", 29, needsNets},
+    LeftOut{"drill", 34, needsNets},
+    LeftOut{"drill", 35, needsNets},
+};
+
+bool isCopper(API::layer_info const & layer)
+{
+    return layer.type == "signal" || layer.type == "power_ground" || layer.type == "mixed";
+}
+
+bool isDrill(API::layer_info const & layer)
+{
+    return layer.type == "drill" || layer.type == "rout";
+}
+
+// The positive board layers of the given types; notes the negative ones.
+std::vector<API::layer_info> layers(CheckContext & context, bool (*wanted)(API::layer_info const &),
+                                    char const * table)
+{
+    std::vector<API::layer_info> found;
+    for (API::layer_info const & layer : context.job().matrix().layers) {
+        if (layer.context != "board" || !wanted(layer)) {
+            continue;
+        }
+        if (layer.polarity == "POS") {
+            found.push_back(layer);
+        } else {
+            context.note({table, -1, layer.name, "The layer is negative: it draws what is taken away."});
+        }
+    }
+    return found;
+}
+
+CheckResults run(CheckContext & context)
+{
+    for (LeftOut const & each : leftOut) {
+        context.note({each.table, each.item, {}, each.reason});
+    }
+    std::vector<API::layer_info> const drills = layers(context, isDrill, "drill");
+    std::vector<API::layer_info> const coppers = layers(context, isCopper, "signal");
+    context.setStages(std::max<std::size_t>(drills.size() + coppers.size(), 1));
+    context.reportProgress(0, 1);
+
+    CheckResults results;
+    std::vector<Hole> holes;
+    for (API::layer_info const & layer : drills) {
+        checkDrills(context, layer, results, holes);
+        context.endStage();
+    }
+    for (API::layer_info const & layer : coppers) {
+        checkCopper(context, layer, holes, results);
+        context.endStage();
+    }
+    results.notChecked = context.takeNotes();
+    return results;
+}
+
+} // namespace
+
+bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
+               CheckProgress const & progress)
+{
+    out = {};
+    return withLastError(false, [&](EngineState & state) {
+        CheckContext context(job, step, progress);
+        out = run(context);
+        state.lastError.clear(); // set by calls from `progress`
+        return true;
+    });
+}
+
+} // namespace KVCAM::Embedded

@@ -1,0 +1,164 @@
+#include "formats/LineReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace KVCAM::Embedded {
+namespace {
+
+// The parsed contents may take some twenty times as much memory as the file.
+constexpr qint64 largestFile = 64LL * 1024 * 1024;
+constexpr std::size_t longestLine = 1024UL * 1024;
+constexpr double largestNumber = 1e9;
+constexpr std::string_view blanks = " \t\r\v\f";
+
+} // namespace
+
+std::string_view trimmed(std::string_view text)
+{
+    std::size_t const first = text.find_first_not_of(blanks);
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string validText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size())).toStdString();
+}
+
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t shown = 60;
+    std::string_view const begin = text.substr(0, shown);
+    QString printable = QString::fromUtf8(begin.data(), static_cast<int>(begin.size()));
+    for (QChar & c : printable) {
+        c = c.isPrint() ? c : QChar('?');
+    }
+    return '"' + printable.toStdString() + (text.size() > shown ? "...\"" : "\"");
+}
+
+std::string upperCase(std::string_view text)
+{
+    std::string upper(text);
+    std::transform(upper.begin(), upper.end(), upper.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return upper;
+}
+
+LineReader::LineReader(QString const & path) : m_path(QDir::cleanPath(path))
+{
+    std::string const shown = m_path.toStdString();
+    if (!QFileInfo(m_path).isFile()) {
+        throw JobError(shown + ": no such file");
+    }
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw JobError(shown + ": " + file.errorString().toStdString());
+    }
+    if (file.size() > largestFile) {
+        throw JobError(shown + ": the file is larger than 64 MiB");
+    }
+    m_text = file.read(file.size()); // allocates the size passed to it
+    if (file.error() != QFileDevice::NoError) {
+        throw JobError(shown + ": " + file.errorString().toStdString());
+    }
+    m_rest = std::string_view(m_text.constData(), static_cast<std::size_t>(m_text.size()));
+}
+
+bool LineReader::next()
+{
+    while (!m_rest.empty()) {
+        std::size_t const end = std::min(m_rest.find('\n'), m_rest.size());
+        ++m_number;
+        if (end > longestLine) {
+            fail("the line is longer than 1 MiB");
+        }
+        m_line = trimmed(m_rest.substr(0, end));
+        m_rest.remove_prefix(std::min(end + 1, m_rest.size()));
+        if (!m_line.empty() && m_line.front() != '#') {
+            return true;
+        }
+    }
+    m_line = {};
+    return false;
+}
+
+void LineReader::fail(std::string const & reason) const
+{
+    fail(reason, m_number);
+}
+
+void LineReader::failWhole(std::string const & reason) const
+{
+    throw JobError(m_path.toStdString() + ": " + reason);
+}
+
+void LineReader::fail(std::string const & reason, int lineNumber) const
+{
+    throw JobError(m_path.toStdString() + ':' + std::to_string(lineNumber) + ": " + reason);
+}
+
+double LineReader::decimal(std::string_view text, char const * what) const
+{
+    double value = 0;
+    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size() || !(std::abs(value) <= largestNumber)) {
+        fail(std::string("bad ") + what + ' ' + quoted(text));
+    }
+    return value;
+}
+
+int LineReader::integer(std::string_view text, char const * what) const
+{
+    int value = 0;
+    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) {
+        fail(std::string("bad ") + what + ' ' + quoted(text));
+    }
+    return value;
+}
+
+KeyValue keyValue(LineReader const & reader)
+{
+    std::string_view const line = reader.line();
+    std::size_t const equals = line.find('=');
+    if (equals == std::string_view::npos) {
+        reader.fail("KEY=VALUE expected, not " + quoted(line));
+    }
+    return {upperCase(trimmed(line.substr(0, equals))), trimmed(line.substr(equals + 1))};
+}
+
+std::string_view Words::next(char const * what)
+{
+    m_rest = trimmed(m_rest);
+    if (m_rest.empty()) {
+        m_reader.fail(std::string("the record is cut short: no ") + what);
+    }
+    std::size_t const end = std::min(m_rest.find_first_of(blanks), m_rest.size());
+    std::string_view const word = m_rest.substr(0, end);
+    m_rest.remove_prefix(end);
+    return word;
+}
+
+bool Words::choice(char yes, char no, char const * what)
+{
+    std::string_view const word = next(what);
+    if (word.size() != 1 || (word[0] != yes && word[0] != no)) {
+        m_reader.fail(std::string("bad ") + what + ' ' + quoted(word));
+    }
+    return word[0] == yes;
+}
+
+void Words::end() const
+{
+    if (std::string_view const rest = trimmed(m_rest); !rest.empty()) {
+        m_reader.fail("unexpected " + quoted(rest));
+    }
+}
+
+} // namespace KVCAM::Embedded

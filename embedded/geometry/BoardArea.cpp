@@ -1,0 +1,103 @@
+#include "geometry/BoardArea.h"
+
+#include "geometry/CheckGeometry.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace KVCAM::Embedded {
+namespace {
+
+constexpr double tolerance = 1; // micrometres
+
+std::vector<std::array<API::point, 2>> edgesOf(std::optional<Profile> const & profile)
+{
+    std::vector<std::array<API::point, 2>> edges;
+    if (profile) {
+        for (std::vector<API::point> const & outline : profile->outlines) {
+            for (std::size_t i = 0; i < outline.size(); ++i) {
+                edges.push_back({outline[i], outline[(i + 1) % outline.size()]});
+            }
+        }
+    }
+    return edges;
+}
+
+std::vector<Box> boxesOf(std::vector<std::array<API::point, 2>> const & edges)
+{
+    std::vector<Box> boxes;
+    boxes.reserve(edges.size());
+    for (auto const & [from, to] : edges) {
+        boxes.push_back(boxOf(from));
+        include(boxes.back(), to);
+    }
+    return boxes;
+}
+
+// The points that decide whether a feature lies inside.
+std::vector<API::point> witnesses(Feature const & feature)
+{
+    auto const & p = feature.points;
+    switch (feature.kind) {
+    case 'P':
+        return {p[0]};
+    case 'L':
+        return {p[0], p[1], {p[0].x / 2 + p[1].x / 2, p[0].y / 2 + p[1].y / 2}};
+    case 'A':
+        return {p[0], p[1], arcMiddle(p[0], p[1], p[2], feature.clockwise)};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+BoardArea::BoardArea(std::optional<Profile> const & profile)
+    : m_all(!profile), m_edges(edgesOf(profile)), m_grid(boxesOf(m_edges))
+{}
+
+bool BoardArea::holds(API::point point) const
+{
+    if (m_all) {
+        return true;
+    }
+    // Ray casting: an inside point has an odd number of edges to its right.
+    bool inside = false;
+    constexpr double farRight = 1e300;
+    m_grid.forEachTouching({point.x, point.y, farRight, point.y}, [&](std::size_t edge) {
+        auto const & [from, to] = m_edges[edge];
+        if ((from.y > point.y) != (to.y > point.y) &&
+            point.x < from.x + (point.y - from.y) / (to.y - from.y) * (to.x - from.x)) {
+            inside = !inside;
+        }
+    });
+    return inside || nearEdge(point, tolerance);
+}
+
+bool BoardArea::holds(Feature const & feature) const
+{
+    std::vector<API::point> const points = witnesses(feature);
+    return std::all_of(points.begin(), points.end(), [this](API::point point) { return holds(point); });
+}
+
+bool BoardArea::isOutline(Feature const & feature, double width) const
+{
+    std::vector<API::point> const points = witnesses(feature);
+    return !m_all && std::all_of(points.begin(), points.end(), [this, width](API::point point) {
+        return nearEdge(point, width / 2 + tolerance);
+    });
+}
+
+bool BoardArea::nearEdge(API::point point, double within) const
+{
+    return m_grid
+        .lowest(
+            within, [&](Box const & box) { return boxGap(box, boxOf(point)); },
+            [&](std::size_t edge) {
+                auto const & [from, to] = m_edges[edge];
+                return distance(point, nearestOnSide(point, from, to));
+            })
+        .has_value();
+}
+
+} // namespace KVCAM::Embedded

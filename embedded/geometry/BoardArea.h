@@ -1,0 +1,37 @@
+#pragma once
+
+#include "formats/FeaturesFile.h"
+#include "geometry/Profile.h"
+#include "geometry/SpatialGrid.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace KVCAM::Embedded {
+
+/// The area inside a step's profile. Without a profile everything is inside and nothing is the outline.
+class BoardArea
+{
+public:
+    explicit BoardArea(std::optional<Profile> const & profile);
+
+    /// The edge counts as inside, within a micrometre.
+    bool holds(API::point point) const;
+    /// Whether a pad's place, or the ends and the middle of a line or arc, are inside.
+    bool holds(Feature const & feature) const;
+    /// Whether a line or arc of this width runs along the profile: its ends and its middle are within half
+    /// its width of it.
+    bool isOutline(Feature const & feature, double width) const;
+
+private:
+    using Edge = std::array<API::point, 2>;
+
+    bool nearEdge(API::point point, double within) const;
+
+    bool m_all; // no profile
+    std::vector<Edge> m_edges;
+    SpatialGrid m_grid;
+};
+
+} // namespace KVCAM::Embedded

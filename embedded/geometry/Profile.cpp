@@ -1,0 +1,105 @@
+#include "geometry/Profile.h"
+
+#include "formats/LineReader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+namespace KVCAM::Embedded {
+namespace {
+
+constexpr double pi = 3.14159265358979323846;
+constexpr std::size_t mostPoints = 10'000'000; // more than a file of straight sides can hold
+constexpr int chordsPerTurn = 72; // a multiple of four, to include the extreme points of a circle
+
+// Appends the points between the ends of an arc. Equal ends make a full circle.
+void appendArc(std::vector<API::point> & points, API::point from, Side const & side)
+{
+    double const radius = std::hypot(from.x - side.centre.x, from.y - side.centre.y);
+    double const unit = 2 * pi / chordsPerTurn;
+    double const direction = side.clockwise ? -1 : 1;
+    double const begin = std::atan2(from.y - side.centre.y, from.x - side.centre.x);
+    double const end = std::atan2(side.to.y - side.centre.y, side.to.x - side.centre.x);
+    double sweep = direction * (end - begin);
+    sweep = sweep <= 1e-12 ? sweep + 2 * pi : sweep;
+
+    // In units of a chord, counted in the arc's direction: the integers strictly inside the sweep.
+    double const first = direction * begin / unit;
+    auto const last = static_cast<int>(std::ceil(first + sweep / unit - 1e-9));
+    for (int step = static_cast<int>(std::floor(first + 1e-9)) + 1; step < last; ++step) {
+        double const angle = direction * step * unit;
+        points.push_back(
+            {side.centre.x + radius * std::cos(angle), side.centre.y + radius * std::sin(angle)});
+    }
+}
+
+bool same(API::point a, API::point b)
+{
+    return a.x == b.x && a.y == b.y;
+}
+
+// Fails beyond `room` points.
+std::vector<API::point> polygon(FeaturesFile const & file, Contour const & contour, std::size_t room)
+{
+    std::vector<API::point> points{contour.start};
+    for (Side const & side : contour.sides) {
+        if (side.arc) {
+            appendArc(points, points.back(), side);
+        }
+        if (!same(side.to, points.back())) {
+            points.push_back(side.to);
+        }
+        if (points.size() > room) {
+            throw JobError(file.path.toStdString() + ": the outlines take more than " +
+                           std::to_string(mostPoints) + " points");
+        }
+    }
+    if (points.size() > 1 && same(points.front(), points.back())) {
+        points.pop_back();
+    }
+    return points;
+}
+
+} // namespace
+
+std::vector<std::vector<API::point>> outlines(FeaturesFile const & file, Feature const & feature,
+                                              std::size_t & total)
+{
+    std::vector<std::vector<API::point>> polygons;
+    polygons.reserve(feature.contours.size());
+    for (Contour const & contour : feature.contours) {
+        polygons.push_back(polygon(file, contour, mostPoints - std::min(total, mostPoints)));
+        total += polygons.back().size();
+    }
+    return polygons;
+}
+
+std::optional<Profile> profileOf(FeaturesFile const & file)
+{
+    Profile profile;
+    std::size_t total = 0;
+    for (Feature const & feature : file.features) {
+        for (std::vector<API::point> & outline : outlines(file, feature, total)) {
+            profile.outlines.push_back(std::move(outline));
+        }
+    }
+    if (profile.outlines.empty()) {
+        return std::nullopt;
+    }
+    API::point const first = profile.outlines.front().front();
+    Box box{first.x, first.y, first.x, first.y};
+    for (std::vector<API::point> const & outline : profile.outlines) {
+        for (API::point const & p : outline) {
+            box.left = std::min(box.left, p.x);
+            box.bottom = std::min(box.bottom, p.y);
+            box.right = std::max(box.right, p.x);
+            box.top = std::max(box.top, p.y);
+        }
+    }
+    profile.box = box;
+    return profile;
+}
+
+} // namespace KVCAM::Embedded
