@@ -4,22 +4,18 @@
 #include "units/EvaluateParser.h"
 #include "units/ExactNumber.h"
 #include "units/Expression.h"
+#include "units/FaultText.h"
 #include "units/SinglePop.h"
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
 namespace KVCAM::UIAPI::Ext {
 namespace {
 
-struct Sentence
-{
-    EvaluateFault fault;
-    char const * text; // %1 is the faulty part
-};
+using Sentence = FaultText<EvaluateFault>;
 
 constexpr std::array sentences{
     Sentence{EvaluateFault::None, ""},
@@ -58,16 +54,7 @@ constexpr std::array sentences{
     Sentence{EvaluateFault::TooLarge, QT_TRANSLATE_NOOP("Evaluate", "This value is too large.")},
 };
 
-constexpr bool areInFaultOrder()
-{
-    for (std::size_t i = 0; i < sentences.size(); ++i) {
-        if (sentences[i].fault != static_cast<EvaluateFault>(i)) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(sentences.size() == evaluateFaultCount && areInFaultOrder());
+static_assert(sentences.size() == evaluateFaultCount && isByFault(sentences));
 
 // Whether caculateData() takes the text and applies its operators in another order. It does so when a sum
 // arrives while a sum and a product wait: only the product is popped, and the older sum comes last.
@@ -118,12 +105,9 @@ Evaluation failed(QStringView text, EvaluateFault fault, int position, int size)
     evaluation.fault = fault;
     evaluation.position = position;
     evaluation.size = size;
-    constexpr int longest = 40; // characters of a quoted part
-    QString const sentence =
-        QCoreApplication::translate("Evaluate", sentences[static_cast<std::size_t>(fault)].text);
-    evaluation.reason = sentence.contains(QStringLiteral("%1"))
-                            ? sentence.arg(text.mid(position, std::min(size, longest)).toString())
-                            : sentence;
+    evaluation.reason = withFaultyPart(
+        QCoreApplication::translate("Evaluate", sentences[static_cast<std::size_t>(fault)].sentence),
+        text.mid(position, size));
     return evaluation;
 }
 

@@ -3,6 +3,7 @@
 #include "support/NumberRuns.h"
 #include "units/DecimalText.h"
 #include "units/ExactNumber.h"
+#include "units/FaultText.h"
 #include "units/SymbolParts.h"
 #include "units/SymbolTexts.h"
 
@@ -19,11 +20,7 @@
 namespace KVCAM::UIAPI::Ext {
 namespace {
 
-struct Sentence
-{
-    SymbolFault fault;
-    char const * text; // %1 is the faulty part
-};
+using Sentence = FaultText<SymbolFault>;
 
 constexpr std::array sentences{
     Sentence{SymbolFault::None, ""},
@@ -47,16 +44,7 @@ constexpr std::array sentences{
              QT_TRANSLATE_NOOP("Symbols", "\"%1\" is not p (plated), n (not plated) or v (via).")},
 };
 
-constexpr bool areInFaultOrder()
-{
-    for (std::size_t i = 0; i < sentences.size(); ++i) {
-        if (sentences[i].fault != static_cast<SymbolFault>(i)) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(sentences.size() == symbolFaultCount && areInFaultOrder());
+static_assert(sentences.size() == symbolFaultCount && isByFault(sentences));
 
 SymbolReading failed(QString const & name, SymbolFault fault, std::optional<SymbolField> field,
                      QStringView part)
@@ -67,11 +55,8 @@ SymbolReading failed(QString const & name, SymbolFault fault, std::optional<Symb
     reading.field = field;
     reading.position = static_cast<int>(part.data() - QStringView(name).data());
     reading.size = static_cast<int>(part.size());
-    constexpr int longest = 40; // characters of a quoted part
-    reading.reason = Symbols::translated(sentences[static_cast<std::size_t>(fault)].text);
-    if (reading.reason.contains(QLatin1String("%1"))) {
-        reading.reason = reading.reason.arg(part.left(std::min<qsizetype>(part.size(), longest)).toString());
-    }
+    reading.reason =
+        withFaultyPart(Symbols::translated(sentences[static_cast<std::size_t>(fault)].sentence), part);
     if (field) {
         reading.reason = Symbols::translated(QT_TRANSLATE_NOOP("Symbols", "%1: %2"))
                              .arg(Symbols::fieldName(*field), reading.reason);

@@ -5,9 +5,11 @@
 #include "widgets/Translation.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <memory>
@@ -138,6 +140,20 @@ TEST_F(LengthEdit, ASwitchTakesWhatIsBeingTypedInItsOwnUnit)
     edit.setView(nullptr);
     setUnit(&view, 0);
     EXPECT_EQ(edit.unit(), Ext::Unit::Millimetre);
+}
+
+TEST_F(LengthEdit, TheToolTipTellsTheFaultAndTheLengthInEveryUnit)
+{
+    auto const shown = [this](char const * typed) {
+        type(typed);
+        QHelpEvent event(QEvent::ToolTip, QPoint(), QPoint());
+        QApplication::sendEvent(&edit, &event);
+        return QToolTip::text();
+    };
+    edit.setToolTip("Gap < width");
+    edit.resize(200, 30);
+    EXPECT_EQ(shown("20"), "<p>Gap &lt; width</p><p>20 mil<br>0.02 inch<br>508 my<br>0.508 mm</p>");
+    EXPECT_EQ(shown("2 <i>"), "<p>Gap &lt; width</p><p>&quot;&lt;&quot; has no meaning here.</p>");
 }
 
 TEST_F(LengthEdit, StepsStayInTheRange)

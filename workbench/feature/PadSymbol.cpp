@@ -19,12 +19,13 @@ PadSize sizeOf(Ext::Symbol const & symbol, std::size_t index)
     return {value.text, value.unit};
 }
 
-} // namespace
-
+// Sizes in symbol names are digits, with or without decimals, without a sign.
 bool isSizeText(QString const & text)
 {
     return Ext::Symbol::parse('r' + text, Unit::Inch).ok;
 }
+
+} // namespace
 
 QString PadSize::in(Unit shown) const
 {

@@ -9,9 +9,6 @@
 
 namespace Workbench {
 
-/// Whether a text is a size as written in symbol names: digits, with or without decimals, without a sign.
-bool isSizeText(QString const & text);
-
 /// A length as typed or stored, in the small unit of a code.
 struct PadSize
 {
