@@ -113,6 +113,10 @@ int main(int argc, char ** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
         Workbench::findFontsOffscreen();
     }
+    // The desktop's scale, also one such as 150 %.
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");
     if (headless) { // screenshots must not depend on the desktop's font
