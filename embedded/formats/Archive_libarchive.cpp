@@ -136,8 +136,8 @@ private:
 [[noreturn]] void failOf(archive * reader, Source const & source)
 {
     source.rethrow();
-    char const * const text = archive_error_string(reader);
-    throw JobError(std::string("the archive is damaged: ") + (text == nullptr ? "unknown reason" : text));
+    QString const text = QString::fromUtf8(archive_error_string(reader)).simplified();
+    throw JobError("the archive is damaged: " + (text.isEmpty() ? "unknown reason" : text.toStdString()));
 }
 
 Reader openReader(Source & source)
@@ -148,7 +148,8 @@ Reader openReader(Source & source)
     }
     archive * const a = reader.get();
     if (source.isZip()) {
-        archive_read_support_format_zip(a);
+        // By the directory at the end, which one that is cut short does not have.
+        archive_read_support_format_zip_seekable(a);
         archive_read_set_seek_callback(a, &Source::seek);
     } else {
         archive_read_support_format_tar(a);

@@ -11,7 +11,7 @@ struct Packed
 {
     QByteArray name;
     QByteArray bytes = {};
-    char type = '0';   ///< of tar: '0' file, '1' hard link, '2' symbolic link, '3' device; ignored by zip
+    char type = '0'; ///< of tar: '0' file, '1' hard link, '2' symbolic link, '3' device; ignored by zip
     QByteArray target = {}; ///< of a link
 };
 
@@ -88,10 +88,10 @@ inline QByteArray zip(QList<Packed> const & entries)
     QByteArray directory;
     for (Packed const & entry : entries) {
         auto const size = static_cast<quint32>(entry.bytes.size());
-        QByteArray const common = little(0, 8) + little(crc32(entry.bytes), 4) + little(size, 4) +
+        QByteArray const common = QByteArray(8, 0) + little(crc32(entry.bytes), 4) + little(size, 4) +
                                   little(size, 4) + little(static_cast<quint32>(entry.name.size()), 2) +
                                   little(0, 2);
-        directory += QByteArray("PK\x01\x02") + little(20, 2) + little(20, 2) + common + little(0, 10) +
+        directory += QByteArray("PK\x01\x02") + little(20, 2) + little(20, 2) + common + QByteArray(10, 0) +
                      little(static_cast<quint32>(files.size()), 4) + entry.name;
         files += QByteArray("PK\x03\x04") + little(20, 2) + common + entry.name + entry.bytes;
     }

@@ -16,7 +16,9 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(QDir().mkdir("tmp"));
-        qputenv("TMPDIR", QDir("tmp").absolutePath().toUtf8());
+        for (char const * const variable : {"TMPDIR", "TEMP", "TMP"}) {
+            qputenv(variable, QDir("tmp").absolutePath().toUtf8());
+        }
         write("probe.tar", "");
         Embedded::openArchive("probe.tar");
         if (Embedded::lastError().find("this build reads no archives") != std::string::npos) {
@@ -51,6 +53,7 @@ TEST_F(ArchiveTest, EveryFormGivesTheJobAndItsFolderGoesWithIt)
     QList<Packed> const with = {{"./odb/"},
                                 {"./odb/.hidden/../x", ""},
                                 {"./odb/.matrix.sum", "x"},
+                                {"./odb/steps/.old", "", '2', "/etc"},
                                 {"./odb/user/", ""},
                                 {"./odb/user/huge:name?", "x"},
                                 {"./odb/user/link", "", '2', "/etc"},
@@ -76,7 +79,9 @@ TEST_F(ArchiveTest, EveryFormGivesTheJobAndItsFolderGoesWithIt)
         EXPECT_EQ(Embedded::openJobs(), Texts{row.job});
         EXPECT_EQ(Embedded::featureCount(row.job, "pcb", "top"), 1) << Embedded::lastError();
         ASSERT_EQ(leftovers().size(), 1);
+#ifdef Q_OS_UNIX
         EXPECT_EQ(int(QFileInfo("tmp/" + leftovers()[0]).permissions() & 0xFF), 0) << "readable by others";
+#endif
         EXPECT_TRUE(Embedded::closeJob(row.job));
         EXPECT_EQ(leftovers(), QStringList());
     }
@@ -162,6 +167,8 @@ TEST_F(ArchiveTest, HostileAndDamagedOnesAreRefusedWithoutATrace)
         EXPECT_EQ(leftovers(), QStringList()) << row.error;
     }
     QByteArray zipped = zip(good);
+    EXPECT_EQ(errorOf(zipped.left(zipped.indexOf("PK\x01\x02"))),
+              "the archive is damaged: Unrecognized archive format");
     zipped[zipped.indexOf("r10")] = 's';
     EXPECT_EQ(errorOf(zipped).rfind("the archive is damaged: ZIP bad CRC", 0), 0U);
     EXPECT_EQ(Embedded::openArchive("nowhere.tgz"), "");

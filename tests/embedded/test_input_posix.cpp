@@ -27,13 +27,14 @@ TEST_F(InputTest, WhatIsNoRegularFileIsNotTakenForAbsentAndNeverWaitedFor)
     };
     ASSERT_EQ(error(), "");
     write("real", "");
-    for (std::string const file : {"stephdr", "profile", "layers/top/features", "layers/top/features.Z",
-                                   "layers/top/features.tables", "layers/top/tools"}) {
+    for (std::string const file :
+         {"stephdr", "profile", "layers/top/features", "layers/top/FEATURES", "layers/top/features.Z",
+          "layers/top/features.tables", "layers/top/tools"}) {
         std::string const path = "jobs/board/steps/pcb/" + file;
         ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
         EXPECT_EQ(error(), path + ": not a regular file");
         ::unlink(path.c_str());
-        for (char const * const target : {"nowhere", file.c_str() + file.rfind('/') + 1}) {
+        for (char const * const target : {"nowhere", file.c_str() + file.rfind('/') + 1}) { // or to itself
             ASSERT_EQ(::symlink(target, path.c_str()), 0);
             EXPECT_EQ(error(), path + ": a link that leads nowhere");
             ::unlink(path.c_str());
