@@ -32,7 +32,7 @@ struct Tool
 /// giants.
 struct JobLimits
 {
-    long long steps = 2'000;            ///< of the matrix
+    long long steps = 250;              ///< of the matrix
     long long layers = 2'000;           ///< of the matrix
     long long symbols = 1'000'000;      ///< entries of all symbol tables, and own symbols
     long long points = 20'000'000;      ///< features, contours and sides of contours; up to 120 bytes each

@@ -81,6 +81,7 @@ Job::Job(std::string const & path, std::string const & name, JobLimits const & l
     QString const stepsFolder = folder.folder("steps");
     FolderList const steps = stepsFolder.isEmpty() ? FolderList() : FolderList(stepsFolder);
     for (std::string const & step : m_matrix.steps) {
+        m_stepIndices.emplace(step, m_steps.size());
         m_steps.push_back(readStep(steps, step));
     }
     m_symbolsFolder = folder.folder("symbols");
@@ -198,9 +199,8 @@ std::optional<FeaturesFile> Job::symbolDrawing(std::string const & name) const
 
 Step * Job::findStep(std::string const & name)
 {
-    auto const found = std::find_if(m_steps.begin(), m_steps.end(),
-                                    [&name](Step const & step) { return step.name == name; });
-    return found == m_steps.end() ? nullptr : &*found;
+    auto const found = m_stepIndices.find(name);
+    return found == m_stepIndices.end() ? nullptr : &m_steps[found->second];
 }
 
 Step & Job::step(std::string const & name)

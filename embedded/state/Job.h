@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <optional>
@@ -101,6 +102,7 @@ private:
     std::map<std::string, std::string> m_symbolFolders; // by name in lower case
     Matrix m_matrix;
     std::vector<Step> m_steps;
+    std::map<std::string, std::size_t> m_stepIndices; // by name
     std::vector<std::string> m_symbols;
 };
 
