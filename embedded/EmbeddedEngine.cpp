@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <tuple>
 #include <utility>
 
@@ -73,6 +74,26 @@ std::vector<PluginCommand> pluginCommands()
 {
     auto const & commands = EngineState::get().pluginCommands;
     return {commands.begin(), commands.end()};
+}
+
+void setJobLimits(JobLimits const & limits)
+{
+    EngineState::get().limits = limits;
+}
+
+JobLimits jobLimits()
+{
+    return EngineState::get().limits;
+}
+
+std::string openArchive(std::string const & path)
+{
+    return withLastError(std::string(), [&](EngineState & state) {
+        std::unique_ptr<Job> opened = Job::fromArchive(path, state.limits);
+        std::string name = opened->name();
+        state.take(std::move(opened));
+        return name;
+    });
 }
 
 std::vector<std::string> openJobs()

@@ -57,6 +57,23 @@ struct PluginCommand
 /// The latest 100 commands, oldest first. The default host has no plug-in modules to pass them to.
 KVCAM_API_EXPORT std::vector<PluginCommand> pluginCommands();
 
+///@{
+/// What jobs may hold that are opened from now on; open jobs keep the limits of their opening.
+KVCAM_API_EXPORT void setJobLimits(JobLimits const & limits);
+KVCAM_API_EXPORT JobLimits jobLimits();
+///@}
+
+/// Opens the job in an archive (.tar, .tgz, .tar.gz or .zip) like open_job() and returns its name, which is
+/// the archive's without the extension; "", with lastError() set, on failure. The one top folder that holds
+/// matrix/matrix is the job. What the engine reads is unpacked into a private temporary folder, which goes
+/// away when the job is closed or the program ends; hidden files and all others are passed over.
+///
+/// Refused as a whole is an archive with a name that is absolute or contains "..", with anything but a file
+/// or folder (a link, a device) where the engine expects one, with a file that stands twice (ignoring case),
+/// that is cut short or fails its checksum, that holds encrypted files, or that exceeds jobLimits().
+/// A build without libarchive and zlib reads no archives and no compressed files and says so.
+KVCAM_API_EXPORT std::string openArchive(std::string const & path);
+
 /// The open jobs in order of opening, by folder name.
 KVCAM_API_EXPORT std::vector<std::string> openJobs();
 /// Closes a job and drops its deletions and undo history. False when it is not open.

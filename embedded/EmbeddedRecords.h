@@ -26,4 +26,24 @@ struct Tool
     double finishSize = 0; ///< of the hole when it is finished
 };
 
+/// What one job may hold. Files are untrusted: without limits, a small damaged or hostile one could take all
+/// memory or time, which both grow with what is read. Whatever exceeds a limit is refused as a whole, with an
+/// error that names the limit. The defaults are several times what large boards need; raise them for honest
+/// giants.
+struct JobLimits
+{
+    long long steps = 250;              ///< of the matrix
+    long long layers = 2'000;           ///< of the matrix
+    long long symbols = 1'000'000;      ///< entries of all symbol tables, and own symbols
+    long long points = 20'000'000;      ///< features, contours and sides of contours; up to 120 bytes each
+    long long profilePoints = 500'000;  ///< of a step's outline, arcs as short chords
+    long long fileBytes = 64LL << 20;   ///< of one file, unpacked; at most 1 GiB
+    long long bytes = 1LL << 30;        ///< of all files that are kept, unpacked
+    long long archiveBytes = 4LL << 30; ///< of an unpacked archive, together with what is passed over
+    long long archiveEntries = 200'000; ///< of an archive
+    long long archiveDepth = 32;        ///< of folders in an archive
+    /// Unpacked bytes for each byte of an archive, once they exceed `fileBytes`.
+    long long archiveRatio = 200;
+};
+
 } // namespace KVCAM::Embedded

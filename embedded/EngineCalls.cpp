@@ -73,18 +73,7 @@ std::string get_matrix(std::string const & job, std::vector<std::string> & steps
 bool open_job(std::string const & path, std::string const & job)
 {
     return withLastError(false, [&](EngineState & state) {
-        auto opened = std::make_unique<Job>(path, job);
-        std::string const name = lowerCase(opened->name());
-        if (state.database.isOpen()) {
-            state.database.removeOperations(name, {}); // a freshly read job has no history
-        }
-        auto const earlier = std::find_if(state.jobs.begin(), state.jobs.end(),
-                                          [&](auto const & open) { return lowerCase(open->name()) == name; });
-        if (earlier != state.jobs.end()) {
-            *earlier = std::move(opened);
-        } else {
-            state.jobs.push_back(std::move(opened));
-        }
+        state.take(std::make_unique<Job>(path, job, state.limits));
         return true;
     });
 }

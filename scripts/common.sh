@@ -42,7 +42,7 @@ install_packages() {
 }
 
 build_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
-  libqt5sql5-sqlite libgoogle-glog-dev libjsoncpp-dev)
+  libqt5sql5-sqlite libgoogle-glog-dev libjsoncpp-dev libarchive-dev zlib1g-dev)
 # The offscreen platform replaces a display. It needs fonts to draw text.
 run_packages=(libqt5gui5 fontconfig fonts-dejavu-core fonts-noto-cjk)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev binutils)

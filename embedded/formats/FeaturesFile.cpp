@@ -15,7 +15,12 @@ constexpr std::size_t longestName = 128; // each feature record holds a copy
 class FeaturesReader
 {
 public:
-    explicit FeaturesReader(QString const & path) : m_reader(path) { m_file.path = path; }
+    FeaturesReader(QString const & path, Budget & budget) : m_reader(path, budget)
+    {
+        m_file.path = path;
+        // Growing by doubling would take three times the memory for a moment.
+        m_file.features.reserve(m_reader.countRecords("PLAS"));
+    }
 
     FeaturesFile read(bool tablesOnly)
     {
@@ -149,6 +154,7 @@ private:
             name.find_first_of(" \t") != std::string_view::npos) {
             m_reader.fail("bad symbol name " + quoted(name));
         }
+        m_reader.spendSymbol();
         if (!m_file.symbols.emplace(index, SymbolEntry{validText(name), unit}).second) {
             m_reader.fail("the table index stands twice");
         }
@@ -170,6 +176,7 @@ private:
         if (letter.size() != 1 || kinds.find(letter.front()) == std::string_view::npos) {
             m_reader.fail("unknown record " + quoted(letter));
         }
+        m_reader.spendPoint();
         Feature feature;
         feature.kind = letter.front();
         if (feature.kind != 'S') {
@@ -243,27 +250,26 @@ private:
 
     void readSurfaceRecord(std::string_view letter, Words & words)
     {
-        std::vector<Contour> & contours = m_file.features.back().contours;
+        Contours & contours = m_file.features.back().contours;
         if (letter == "OB" && !m_contourOpen) {
-            Contour contour;
-            contour.start = point(words);
-            contour.island = words.choice('I', 'H', "kind of contour");
-            contours.push_back(std::move(contour));
+            m_reader.spendPoint();
+            API::point const start = point(words);
+            contours.add(start, words.choice('I', 'H', "kind of contour"));
             m_contourOpen = true;
-        } else if (letter == "OS" && m_contourOpen) {
+        } else if ((letter == "OS" || letter == "OC") && m_contourOpen) {
+            m_reader.spendPoint();
             Side side;
             side.to = point(words);
-            contours.back().sides.push_back(side);
-        } else if (letter == "OC" && m_contourOpen) {
-            Side side;
-            side.arc = true;
-            side.to = point(words);
-            side.centre = point(words);
-            side.clockwise = words.choice('Y', 'N', "direction");
-            contours.back().sides.push_back(side);
+            if (letter == "OC") {
+                side.arc = true;
+                side.centre = point(words);
+                side.clockwise = words.choice('Y', 'N', "direction");
+            }
+            contours.addSide(side);
         } else if (letter == "OE" && m_contourOpen) {
             m_contourOpen = false;
         } else if (letter == "SE" && !m_contourOpen && !contours.empty()) {
+            contours.shrink();
             m_surfaceLine = 0;
         } else {
             m_reader.fail(quoted(letter) + " is out of place in the surface of line " +
@@ -288,7 +294,13 @@ private:
 
 FeaturesFile readFeatures(QString const & path, bool tablesOnly)
 {
-    return FeaturesReader(path).read(tablesOnly);
+    Budget budget;
+    return readFeatures(path, budget, tablesOnly);
+}
+
+FeaturesFile readFeatures(QString const & path, Budget & budget, bool tablesOnly)
+{
+    return FeaturesReader(path, budget).read(tablesOnly);
 }
 
 std::vector<API::point> recordPoints(Feature const & feature)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "formats/Budget.h"
+#include "formats/Contours.h"
+
 #include <kvcam/Records.h>
 
 #include <QString>
@@ -19,22 +22,6 @@ struct SymbolEntry
 {
     std::string name;
     int unit = 0;
-};
-
-/// One side of a contour: a straight line, or an arc about `centre`. Micrometres.
-struct Side
-{
-    API::point to;
-    bool arc = false;
-    bool clockwise = false;
-    API::point centre;
-};
-
-struct Contour
-{
-    bool island = true; ///< false: a hole in the preceding islands
-    API::point start;
-    std::vector<Side> sides;
 };
 
 /// The feature attributes that the checks use, as bits.
@@ -61,7 +48,7 @@ struct Feature
     int symbol = -1;        ///< index into the symbol table
     int code = 0;           ///< on a drill layer, the number of its tool
     std::array<API::point, 3> points{};
-    std::vector<Contour> contours;
+    Contours contours;
 
     /// The number of `points` in use.
     std::size_t pointCount() const { return kind == 'P' ? 1 : kind == 'L' ? 2 : kind == 'A' ? 3 : 0; }
@@ -78,6 +65,8 @@ struct FeaturesFile
 /// Reads a whole features file or throws JobError. With `tablesOnly` the file holds only the head and the
 /// tables, and its announced number of features is not enforced.
 FeaturesFile readFeatures(QString const & path, bool tablesOnly = false);
+/// The same for a file that adds to the budget of its job.
+FeaturesFile readFeatures(QString const & path, Budget & budget, bool tablesOnly = false);
 
 /// The points of a feature in the order of its record; an arc's centre follows its end.
 std::vector<API::point> recordPoints(Feature const & feature);

@@ -1,8 +1,8 @@
 #include "formats/LineReader.h"
 
+#include "formats/InputFile.h"
+
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <charconv>
@@ -11,8 +11,6 @@
 namespace KVCAM::Embedded {
 namespace {
 
-// The parsed contents may take some twenty times as much memory as the file.
-constexpr qint64 largestFile = 64LL * 1024 * 1024;
 constexpr std::size_t longestLine = 1024UL * 1024;
 constexpr double largestNumber = 1e9;
 constexpr std::string_view blanks = " \t\r\v\f";
@@ -50,24 +48,46 @@ std::string upperCase(std::string_view text)
     return upper;
 }
 
-LineReader::LineReader(QString const & path) : m_path(QDir::cleanPath(path))
+LineReader::LineReader(QString const & path) : LineReader(path, m_ownBudget) {}
+
+LineReader::LineReader(QString const & path, Budget & budget)
+    : m_budget(budget), m_path(QDir::cleanPath(path))
 {
-    std::string const shown = m_path.toStdString();
-    if (!QFileInfo(m_path).isFile()) {
-        throw JobError(shown + ": no such file");
-    }
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw JobError(shown + ": " + file.errorString().toStdString());
-    }
-    if (file.size() > largestFile) {
-        throw JobError(shown + ": the file is larger than 64 MiB");
-    }
-    m_text = file.read(file.size()); // allocates the size passed to it
-    if (file.error() != QFileDevice::NoError) {
-        throw JobError(shown + ": " + file.errorString().toStdString());
+    m_text = readInput(m_path, m_budget.limits.fileBytes);
+    m_budget.bytes += m_text.size();
+    if (m_budget.bytes > m_budget.limits.bytes) {
+        failWhole("with this file more than " + sizeText(m_budget.limits.bytes).toStdString() +
+                  " of the job are read, its limit");
     }
     m_rest = std::string_view(m_text.constData(), static_cast<std::size_t>(m_text.size()));
+}
+
+std::size_t LineReader::countRecords(std::string_view letters) const
+{
+    std::size_t count = 0;
+    for (std::string_view rest = m_rest; rest.size() > 1;) {
+        count +=
+            letters.find(rest[0]) != std::string_view::npos && (rest[1] == ' ' || rest[1] == '\t') ? 1 : 0;
+        std::size_t const end = rest.find('\n');
+        rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    }
+    constexpr std::size_t shortestRecord = 6; // "S P 0" and the line's end
+    return std::min(count, m_rest.size() / shortestRecord);
+}
+
+void LineReader::spendPoint()
+{
+    if (++m_budget.points > m_budget.limits.points) {
+        fail("the job holds more than " + std::to_string(m_budget.limits.points) +
+             " features and sides of contours, its limit");
+    }
+}
+
+void LineReader::spendSymbol()
+{
+    if (++m_budget.symbols > m_budget.limits.symbols) {
+        fail("the job holds more than " + std::to_string(m_budget.limits.symbols) + " symbols, its limit");
+    }
 }
 
 bool LineReader::next()

@@ -1,28 +1,36 @@
 #pragma once
 
+#include "formats/Budget.h"
+#include "formats/JobError.h"
+
 #include <QByteArray>
 #include <QString>
 
-#include <stdexcept>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace KVCAM::Embedded {
 
-/// Why a job's file cannot be used: "file:line: reason". Thrown by readers, caught by the engine's calls.
-class JobError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// The lines of one text file of a job, LF or CRLF. Files are untrusted: a file over 64 MiB or a line over 1
-/// MiB is refused.
+/// The lines of one text file of a job, LF or CRLF; the file may be compressed. Files are untrusted: a file
+/// beyond the limits of the job or a line over 1 MiB is refused.
 class LineReader
 {
 public:
-    /// Reads the whole file; throws JobError on failure.
+    /// Reads the whole file within the default limits; throws JobError on failure.
     explicit LineReader(QString const & path);
+    /// Reads the whole file and adds its size to the budget, which must outlive the reader.
+    LineReader(QString const & path, Budget & budget);
+    LineReader(LineReader const &) = delete;
+    LineReader & operator=(LineReader const &) = delete;
+
+    /// How many lines begin with one of these letters and a blank, but no more than the file can hold records
+    /// of features: what to reserve.
+    std::size_t countRecords(std::string_view letters) const;
+    /// Counts a feature, a contour or a side; fails beyond the limit of the job.
+    void spendPoint();
+    /// Counts an entry of a symbol table; fails beyond the limit of the job.
+    void spendSymbol();
 
     /// Advances to the next line that is neither blank nor a comment ('#'); false at the end of the file.
     bool next();
@@ -42,6 +50,8 @@ public:
     int integer(std::string_view text, char const * what) const;
 
 private:
+    Budget m_ownBudget; // of a reader without a given one
+    Budget & m_budget;
     QString m_path;
     QByteArray m_text;
     std::string_view m_rest;

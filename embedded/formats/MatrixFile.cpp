@@ -90,6 +90,8 @@ template <class Record>
 class Positions
 {
 public:
+    explicit Positions(long long most) : m_most(most) {}
+
     void add(Block const & block, char const * key, std::string const & name, Record record)
     {
         if (!m_names.insert(name).second) {
@@ -97,6 +99,9 @@ public:
         }
         if (!m_records.emplace(block.position(key), std::move(record)).second) {
             block.fail(key, "stands twice");
+        }
+        if (static_cast<long long>(m_records.size()) > m_most) {
+            block.fail(key, "is one more than the job's limit of " + std::to_string(m_most));
         }
     }
 
@@ -110,6 +115,7 @@ public:
     }
 
 private:
+    long long m_most;
     std::map<int, Record> m_records;
     std::set<std::string> m_names;
 };
@@ -134,11 +140,11 @@ API::layer_info layer(Block const & block)
 
 } // namespace
 
-Matrix readMatrix(QString const & path)
+Matrix readMatrix(QString const & path, Budget & budget)
 {
-    LineReader reader(path);
-    Positions<std::string> steps;
-    Positions<API::layer_info> layers;
+    LineReader reader(path, budget);
+    Positions<std::string> steps(budget.limits.steps);
+    Positions<API::layer_info> layers(budget.limits.layers);
     std::map<std::string, std::pair<std::string, std::string>> spans;
     bool empty = true;
     while (reader.next()) {

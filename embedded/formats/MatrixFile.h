@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formats/Budget.h"
+
 #include <kvcam/Records.h>
 
 #include <QString>
@@ -23,7 +25,7 @@ struct Matrix
 };
 
 /// Throws JobError. Blocks must be complete, their numbers positive and distinct, their names distinct
-/// regardless of case and usable as folder names.
-Matrix readMatrix(QString const & path);
+/// regardless of case and usable as folder names, their counts within the limits.
+Matrix readMatrix(QString const & path, Budget & budget);
 
 } // namespace KVCAM::Embedded

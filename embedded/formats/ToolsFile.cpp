@@ -37,9 +37,9 @@ Tool readTool(LineReader & reader)
 
 } // namespace
 
-std::vector<Tool> readTools(QString const & path)
+std::vector<Tool> readTools(QString const & path, Budget & budget)
 {
-    LineReader reader(path);
+    LineReader reader(path, budget);
     double scale = 25.4; // micrometres per unit of the sizes: mil unless the head says otherwise
     std::vector<Tool> tools;
     while (reader.next()) {

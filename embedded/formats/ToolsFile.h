@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EmbeddedRecords.h"
+#include "formats/Budget.h"
 
 #include <QString>
 
@@ -8,7 +9,7 @@
 
 namespace KVCAM::Embedded {
 
-/// Reads the tools of a drill or rout layer in file order, or throws JobError.
-std::vector<Tool> readTools(QString const & path);
+/// Reads the tools of a drill or rout layer in file order and adds to the budget, or throws JobError.
+std::vector<Tool> readTools(QString const & path, Budget & budget);
 
 } // namespace KVCAM::Embedded

@@ -40,8 +40,9 @@ bool same(API::point a, API::point b)
     return a.x == b.x && a.y == b.y;
 }
 
-// Fails beyond `room` points.
-std::vector<API::point> polygon(FeaturesFile const & file, Contour const & contour, std::size_t room)
+// Fails when more than `most` points are needed, of which `used` are there already.
+std::vector<API::point> polygon(FeaturesFile const & file, Contour const & contour, std::size_t used,
+                                std::size_t most)
 {
     std::vector<API::point> points{contour.start};
     for (Side const & side : contour.sides) {
@@ -51,15 +52,25 @@ std::vector<API::point> polygon(FeaturesFile const & file, Contour const & conto
         if (!same(side.to, points.back())) {
             points.push_back(side.to);
         }
-        if (points.size() > room) {
-            throw JobError(file.path.toStdString() + ": the outlines take more than " +
-                           std::to_string(mostPoints) + " points");
+        if (used + points.size() > most) {
+            throw JobError(file.path.toStdString() + ": the outlines take more than " + std::to_string(most) +
+                           " points");
         }
     }
     if (points.size() > 1 && same(points.front(), points.back())) {
         points.pop_back();
     }
+    points.shrink_to_fit();
     return points;
+}
+
+void appendOutlines(FeaturesFile const & file, Feature const & feature, std::size_t & total, std::size_t most,
+                    std::vector<std::vector<API::point>> & polygons)
+{
+    for (Contour const & contour : feature.contours) {
+        polygons.push_back(polygon(file, contour, total, most));
+        total += polygons.back().size();
+    }
 }
 
 } // namespace
@@ -69,21 +80,16 @@ std::vector<std::vector<API::point>> outlines(FeaturesFile const & file, Feature
 {
     std::vector<std::vector<API::point>> polygons;
     polygons.reserve(feature.contours.size());
-    for (Contour const & contour : feature.contours) {
-        polygons.push_back(polygon(file, contour, mostPoints - std::min(total, mostPoints)));
-        total += polygons.back().size();
-    }
+    appendOutlines(file, feature, total, mostPoints, polygons);
     return polygons;
 }
 
-std::optional<Profile> profileOf(FeaturesFile const & file)
+std::optional<Profile> profileOf(FeaturesFile const & file, long long most)
 {
     Profile profile;
     std::size_t total = 0;
     for (Feature const & feature : file.features) {
-        for (std::vector<API::point> & outline : outlines(file, feature, total)) {
-            profile.outlines.push_back(std::move(outline));
-        }
+        appendOutlines(file, feature, total, static_cast<std::size_t>(std::max(most, 0LL)), profile.outlines);
     }
     if (profile.outlines.empty()) {
         return std::nullopt;

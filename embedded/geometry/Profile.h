@@ -18,8 +18,8 @@ struct Profile
     Box box;
 };
 
-/// Nothing if the file holds no surface. Throws JobError as outlines() does.
-std::optional<Profile> profileOf(FeaturesFile const & file);
+/// Nothing if the file holds no surface. Throws JobError above `mostPoints` points.
+std::optional<Profile> profileOf(FeaturesFile const & file, long long mostPoints);
 
 /// The contours of a feature of `file` as polygons without a repeated last point. An arc yields a point at
 /// each multiple of five degrees, so the polygon has the arc's extent. `total` counts the points over the

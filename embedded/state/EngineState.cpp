@@ -3,6 +3,8 @@
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
 
+#include <cstdlib>
+
 namespace KVCAM::Embedded {
 
 EngineState & EngineState::get()
@@ -27,6 +29,31 @@ Job & EngineState::job(std::string const & name)
         throw JobError(name + ": the job is not open");
     }
     return *found;
+}
+
+void EngineState::take(std::unique_ptr<Job> opened)
+{
+    std::string const name = lowerCase(opened->name());
+    if (database.isOpen()) {
+        database.removeOperations(name, {}); // a freshly read job has no history
+    }
+    if (opened->isFromArchive()) {
+        // The state is never destroyed, but temporary folders have to go.
+        static int const atExit = std::atexit([] {
+            auto & open = EngineState::get().jobs;
+            open.erase(std::remove_if(open.begin(), open.end(),
+                                      [](auto const & job) { return job->isFromArchive(); }),
+                       open.end());
+        });
+        static_cast<void>(atExit);
+    }
+    auto const earlier = std::find_if(jobs.begin(), jobs.end(),
+                                      [&](auto const & open) { return lowerCase(open->name()) == name; });
+    if (earlier != jobs.end()) {
+        *earlier = std::move(opened);
+    } else {
+        jobs.push_back(std::move(opened));
+    }
 }
 
 int EngineState::operations(std::string const & jobName, std::string const & step)

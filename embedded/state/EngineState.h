@@ -21,6 +21,7 @@ public:
     static EngineState & get();
 
     LiveState live;
+    JobLimits limits; ///< of jobs that are opened from now on
     std::string lastError;
     std::string databaseFile = "uiapi-engine.sqlite";
     std::string configRoot; ///< empty: the current directory
@@ -50,6 +51,9 @@ public:
     Job * findJob(std::string const & name);
     /// As findJob(), but throws JobError.
     Job & job(std::string const & name);
+
+    /// Makes a job one of the open ones, in place of an open one of its name.
+    void take(std::unique_ptr<Job> opened);
 
     /// The number of undoable operations on a step; 0 when it is not open.
     int operations(std::string const & job, std::string const & step);

@@ -1,20 +1,24 @@
 #include "state/Job.h"
 
+#include "formats/Archive.h"
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
 #include "formats/ToolsFile.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <algorithm>
+#include <utility>
 
 namespace KVCAM::Embedded {
 namespace {
 
 // The engine uses nothing from the header, but a damaged header means a damaged step.
-void checkStepHeader(QString const & path)
+void checkStepHeader(QString const & path, Budget & budget)
 {
-    LineReader reader(path);
+    LineReader reader(path, budget);
     int blockLine = 0;
     while (reader.next()) {
         std::string_view const line = reader.line();
@@ -34,23 +38,30 @@ void checkStepHeader(QString const & path)
     }
 }
 
-std::vector<std::string> folderNames(QString const & folder)
+// The name of an archive's job: that of the file, since the folder in it often has a general one.
+std::string nameOfArchive(QString const & archive)
 {
-    std::vector<std::string> names;
-    if (!folder.isEmpty()) {
-        QStringList const folders = entriesOf(folder, QDir::Dirs | QDir::NoDotAndDotDot);
-        for (QString const & name : folders) {
-            names.push_back(name.toStdString());
+    QString name = QFileInfo(archive).fileName();
+    for (char const * const ending : {".tgz", ".tar.gz", ".tar", ".zip"}) {
+        if (name.endsWith(ending, Qt::CaseInsensitive)) {
+            name.chop(static_cast<int>(qstrlen(ending)));
+            break;
         }
     }
-    std::sort(names.begin(), names.end());
-    return names;
+    return name.toStdString();
+}
+
+// An error that names the archive in place of the folder that it is unpacked to.
+JobError inArchive(JobError const & error, QString const & folder, QString const & archive)
+{
+    return JobError(QString::fromUtf8(error.what()).replace(folder, archive).toStdString());
 }
 
 } // namespace
 
-Job::Job(std::string const & path, std::string const & name)
+Job::Job(std::string const & path, std::string const & name, JobLimits const & limits)
 {
+    m_budget.limits = limits;
     QString const parent = QString::fromStdString(path);
     if (std::string const reason = refusal(name); !reason.empty()) {
         throw JobError(path + ": " + reason);
@@ -62,60 +73,134 @@ Job::Job(std::string const & path, std::string const & name)
     }
     m_name = QDir(m_folder).dirName().toStdString();
 
-    QString const matrixFolder = findFolder(m_folder, "matrix");
+    FolderList const folder(m_folder);
+    QString const matrixFolder = folder.folder("matrix");
     QString const matrixFile = matrixFolder.isEmpty() ? QString() : findFile(matrixFolder, "matrix");
-    m_matrix = readMatrix(matrixFile.isEmpty() ? QDir(m_folder).filePath("matrix/matrix") : matrixFile);
+    m_matrix =
+        readMatrix(matrixFile.isEmpty() ? QDir(m_folder).filePath("matrix/matrix") : matrixFile, m_budget);
+    QString const stepsFolder = folder.folder("steps");
+    FolderList const steps = stepsFolder.isEmpty() ? FolderList() : FolderList(stepsFolder);
     for (std::string const & step : m_matrix.steps) {
-        m_steps.push_back(readStep(step));
+        m_stepIndices.emplace(step, m_steps.size());
+        m_steps.push_back(readStep(steps, step));
     }
-    m_symbols = folderNames(findFolder(m_folder, "symbols"));
+    m_symbolsFolder = folder.folder("symbols");
+    readSymbolNames();
 }
 
-Step Job::readStep(std::string const & name) const
+std::unique_ptr<Job> Job::fromArchive(std::string const & archive, JobLimits const & limits)
+{
+    QString const path = QDir::cleanPath(QString::fromStdString(archive));
+    std::string const name = nameOfArchive(path);
+    if (std::string const reason = refusal(name); !reason.empty()) {
+        throw JobError(archive + ": " + reason);
+    }
+    auto unpacked = std::make_shared<QTemporaryDir>(QDir::tempPath() + "/uiapi-job-XXXXXX");
+    if (!unpacked->isValid()) {
+        throw JobError(archive + ": no temporary folder: " + unpacked->errorString().toStdString());
+    }
+    QDir folder(unpacked->path());
+    QString const own = folder.filePath("job/" + QString::fromStdString(name));
+    if (!folder.mkdir("archive") || !folder.mkdir("job") ||
+        !folder.rename(unpackArchive(path, folder.filePath("archive"), limits), own)) {
+        throw JobError(archive + ": cannot write to the temporary folder " + unpacked->path().toStdString());
+    }
+    try {
+        auto job = std::make_unique<Job>(folder.filePath("job").toStdString(), name, limits);
+        job->m_unpacked = std::move(unpacked);
+        job->m_archive = path;
+        return job;
+    } catch (JobError const & error) {
+        throw inArchive(error, own, path);
+    }
+}
+
+template <class Reading>
+auto Job::named(Reading reading) const -> decltype(reading())
+{
+    try {
+        return reading();
+    } catch (JobError const & error) {
+        if (!isFromArchive()) {
+            throw;
+        }
+        throw inArchive(error, m_folder, m_archive);
+    }
+}
+
+Step Job::readStep(FolderList const & steps, std::string const & name)
 {
     Step step;
     step.name = name;
-    QString const steps = findFolder(m_folder, "steps");
-    step.folder = steps.isEmpty() ? QString() : findFolder(steps, name);
+    step.folder = steps.folder(name);
     if (step.folder.isEmpty()) {
         throw JobError(QDir(m_folder).filePath("steps/" + QString::fromStdString(name)).toStdString() +
                        ": no such folder, but the matrix names the step");
     }
-    if (!m_matrix.layers.empty() && findFolder(step.folder, "layers").isEmpty()) {
+    FolderList const folder(step.folder);
+    if (folder.folder("layers").isEmpty() && !m_matrix.layers.empty()) {
         throw JobError(QDir(step.folder).filePath("layers").toStdString() +
                        ": no such folder, but the matrix names layers");
     }
-    if (QString const header = findFile(step.folder, "stephdr"); !header.isEmpty()) {
-        checkStepHeader(header);
+    if (QString const header = folder.file("stephdr"); !header.isEmpty()) {
+        checkStepHeader(header, m_budget);
     }
-    if (QString const profile = findFile(step.folder, "profile"); !profile.isEmpty()) {
-        step.profile = profileOf(readFeatures(profile));
+    if (QString const profile = folder.file("profile"); !profile.isEmpty()) {
+        Budget budget = m_budget; // the outline is kept, not the features
+        step.profile = profileOf(readFeatures(profile, budget), m_budget.limits.profilePoints);
+        m_budget.bytes = budget.bytes;
     }
     return step;
 }
 
+void Job::readSymbolNames()
+{
+    if (m_symbolsFolder.isEmpty()) {
+        return;
+    }
+    m_symbols = FolderList(m_symbolsFolder).folderNames();
+    m_budget.symbols += static_cast<long long>(m_symbols.size());
+    if (m_budget.symbols > m_budget.limits.symbols) {
+        throw JobError(m_symbolsFolder.toStdString() + ": more than " +
+                       std::to_string(m_budget.limits.symbols) + " symbols, the job's limit");
+    }
+    for (std::string const & symbol : m_symbols) {
+        m_symbolFolders.emplace(lowerCase(symbol), symbol);
+    }
+}
+
+std::string Job::symbolFolder(std::string const & name) const
+{
+    if (std::binary_search(m_symbols.begin(), m_symbols.end(), name)) {
+        return name;
+    }
+    auto const found = m_symbolFolders.find(lowerCase(name));
+    return found == m_symbolFolders.end() ? std::string() : found->second;
+}
+
 bool Job::hasSymbol(std::string const & name) const
 {
-    return std::any_of(m_symbols.begin(), m_symbols.end(),
-                       [&name](std::string const & symbol) { return lowerCase(symbol) == name; });
+    return m_symbolFolders.count(name) != 0;
 }
 
 std::optional<FeaturesFile> Job::symbolDrawing(std::string const & name) const
 {
-    if (!hasSymbol(lowerCase(name))) {
+    std::string const own = symbolFolder(name);
+    if (own.empty()) {
         return std::nullopt;
     }
-    QString const symbols = findFolder(m_folder, "symbols");
-    QString const folder = symbols.isEmpty() ? QString() : findFolder(symbols, name);
-    QString const file = folder.isEmpty() ? QString() : findFile(folder, "features");
-    return file.isEmpty() ? std::nullopt : std::optional(readFeatures(file));
+    return named([&]() -> std::optional<FeaturesFile> {
+        QString const file =
+            findFile(QDir(m_symbolsFolder).filePath(QString::fromStdString(own)), "features");
+        Budget budget = m_budget; // the drawing is not kept here
+        return file.isEmpty() ? std::nullopt : std::optional(readFeatures(file, budget));
+    });
 }
 
 Step * Job::findStep(std::string const & name)
 {
-    auto const found = std::find_if(m_steps.begin(), m_steps.end(),
-                                    [&name](Step const & step) { return step.name == name; });
-    return found == m_steps.end() ? nullptr : &*found;
+    auto const found = m_stepIndices.find(name);
+    return found == m_stepIndices.end() ? nullptr : &m_steps[found->second];
 }
 
 Step & Job::step(std::string const & name)
@@ -127,14 +212,17 @@ Step & Job::step(std::string const & name)
     return *found;
 }
 
-QString Job::layerFolder(Step const & step, std::string const & layer) const
+FolderList Job::layerFolder(Step & step, std::string const & layer)
 {
     if (std::none_of(m_matrix.layers.begin(), m_matrix.layers.end(),
                      [&layer](API::layer_info const & info) { return info.name == layer; })) {
         throw JobError(m_name + ": no layer \"" + layer + '"');
     }
-    QString const layers = findFolder(step.folder, "layers");
-    return layers.isEmpty() ? QString() : findFolder(layers, layer);
+    if (!step.layers) {
+        step.layers.emplace(findFolder(step.folder, "layers"));
+    }
+    QString const folder = step.layers->folder(layer);
+    return folder.isEmpty() ? FolderList() : FolderList(folder);
 }
 
 LayerGraphics & Job::graphics(std::string const & stepName, std::string const & layer)
@@ -143,24 +231,37 @@ LayerGraphics & Job::graphics(std::string const & stepName, std::string const & 
     if (auto const known = owner.graphics.find(layer); known != owner.graphics.end()) {
         return known->second;
     }
-    LayerGraphics graphics;
-    if (QString const folder = layerFolder(owner, layer); !folder.isEmpty()) {
-        if (QString const file = findFile(folder, "features"); !file.isEmpty()) {
-            graphics.file = readFeatures(file);
-        } else if (QString const tables = findFile(folder, "features.tables"); !tables.isEmpty()) {
-            graphics.file = readFeatures(tables, true);
-            graphics.cutToTables = true;
-        }
+    return named([&]() -> LayerGraphics & { return readGraphics(owner, layer); });
+}
+
+LayerGraphics & Job::readGraphics(Step & owner, std::string const & layer)
+{
+    FolderList const folder = layerFolder(owner, layer);
+    QString file = folder.file("features");
+    bool const cutToTables = file.isEmpty();
+    if (cutToTables) {
+        file = folder.file("features.tables");
     }
+    if (file.isEmpty()) {
+        return owner.nothing;
+    }
+    Budget budget = m_budget;
+    LayerGraphics graphics;
+    graphics.file = readFeatures(file, budget, cutToTables);
+    graphics.cutToTables = cutToTables;
     graphics.deleted.resize(graphics.file.features.size());
+    m_budget = budget; // counted only if all was read
     return owner.graphics.emplace(layer, std::move(graphics)).first->second;
 }
 
 std::vector<Tool> Job::tools(std::string const & stepName, std::string const & layer)
 {
-    QString const folder = layerFolder(step(stepName), layer);
-    QString const file = folder.isEmpty() ? QString() : findFile(folder, "tools");
-    return file.isEmpty() ? std::vector<Tool>() : readTools(file);
+    Step & owner = step(stepName);
+    return named([&]() {
+        QString const file = layerFolder(owner, layer).file("tools");
+        Budget budget = m_budget; // the tools are not kept
+        return file.isEmpty() ? std::vector<Tool>() : readTools(file, budget);
+    });
 }
 
 Deletion Job::checkedDeletion(std::string const & stepName, std::string const & layer,

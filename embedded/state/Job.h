@@ -1,16 +1,22 @@
 #pragma once
 
 #include "EmbeddedRecords.h"
+#include "formats/Budget.h"
 #include "formats/FeaturesFile.h"
+#include "formats/JobPaths.h"
 #include "formats/MatrixFile.h"
 #include "geometry/Profile.h"
 
 #include <QString>
 
+#include <cstddef>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+class QTemporaryDir;
 
 namespace KVCAM::Embedded {
 
@@ -36,6 +42,8 @@ struct Step
     std::optional<Profile> profile;
     std::map<std::string, LayerGraphics> graphics; ///< by layer; those read so far
     std::vector<Deletion> history;                 ///< what Undo() reverts, latest last
+    std::optional<FolderList> layers;              ///< the folder of the layers; listed on first use
+    LayerGraphics nothing;                         ///< of every layer without a file
 };
 
 /// An open job. The matrix, the step headers, the profiles and the symbol names are read on opening, the
@@ -44,7 +52,11 @@ class Job
 {
 public:
     /// Reads the job in the subfolder `name` of `path`.
-    Job(std::string const & path, std::string const & name);
+    Job(std::string const & path, std::string const & name, JobLimits const & limits = {});
+    /// Unpacks an archive into a temporary folder that exists as long as the job, and reads the job there. It
+    /// is named like the archive; messages give the archive's path in place of the folder's.
+    static std::unique_ptr<Job> fromArchive(std::string const & archive, JobLimits const & limits);
+    bool isFromArchive() const { return m_unpacked != nullptr; }
 
     std::string const & name() const { return m_name; }
     Matrix const & matrix() const { return m_matrix; }
@@ -70,14 +82,27 @@ public:
     bool undo(std::string const & step);
 
 private:
-    Step readStep(std::string const & name) const;
-    // The folder of a layer of the matrix; "" when it has none.
-    QString layerFolder(Step const & step, std::string const & layer) const;
+    // Runs what reads files and gives errors the archive's path.
+    template <class Reading>
+    auto named(Reading reading) const -> decltype(reading());
+    Step readStep(FolderList const & steps, std::string const & name);
+    void readSymbolNames();
+    // The folder of one of its own symbols; "" when it has none.
+    std::string symbolFolder(std::string const & name) const;
+    // The folder of a layer of the matrix; no entries when it has none.
+    FolderList layerFolder(Step & step, std::string const & layer);
+    LayerGraphics & readGraphics(Step & step, std::string const & layer);
 
     std::string m_name;
     QString m_folder;
+    std::shared_ptr<QTemporaryDir> m_unpacked; // of a job from an archive
+    QString m_archive;
+    Budget m_budget;
+    QString m_symbolsFolder;
+    std::map<std::string, std::string> m_symbolFolders; // by name in lower case
     Matrix m_matrix;
     std::vector<Step> m_steps;
+    std::map<std::string, std::size_t> m_stepIndices; // by name
     std::vector<std::string> m_symbols;
 };
 

@@ -93,11 +93,6 @@ TEST_F(MatrixTest, MissingFilesAndFoldersRefuseTheJob)
     EXPECT_FALSE(open());
     EXPECT_EQ(Embedded::lastError(), "jobs/board/matrix/matrix: no such file");
 
-    write("jobs/board/matrix/matrix.Z", "\x1f\x9d");
-    EXPECT_FALSE(open());
-    EXPECT_EQ(Embedded::lastError(), "jobs/board/matrix/matrix.Z: compressed files are not read; unpack it "
-                                     "first, for example with gzip -d");
-
     write("jobs/board/matrix/matrix", step(1, "PCB") + layer(1, "TOP"));
     EXPECT_FALSE(open());
     EXPECT_EQ(Embedded::lastError(), "jobs/board/steps/pcb: no such folder, but the matrix names the step");

@@ -1,3 +1,4 @@
+#include "../embedded/ArchiveBytes.h"
 #include "TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -80,6 +81,7 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
 {
     QDir().mkpath("empty");
     writeFile("file", "");
+    writeFile("cut.tgz", "\x1f\x8b");
     struct
     {
         QStringList arguments;
@@ -87,7 +89,8 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
     } const cases[] = {
         {{"nowhere", "--headless"}, "no such directory"},
         {{"empty", "--headless"}, "matrix"},
-        {{"--headless"}, "no job directory"},
+        {{"cut.tgz", "--headless"}, "cut.tgz: "},
+        {{"--headless"}, "no job given"},
         {{sampleJob, "--headless", "--unit", "furlong"}, "furlong"},
         {{sampleJob, "--headless", "--wings"}, "wings"},
         {{sampleJob, "--headless", "--step", "attic"}, "no step \"attic\""},
@@ -104,6 +107,23 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         EXPECT_TRUE(result.err.contains(item.text)) << result.err.toStdString();
         EXPECT_TRUE(result.out.isEmpty());
     }
+}
+
+TEST(Workbench, AnArchiveIsShownLikeItsFolder)
+{
+    using namespace KVCAM::Testing;
+    writeJob("job", {{"SIGNAL", "TOP"}});
+    QByteArray const features = "$0 r10\nP 0 0 0 P 0 0\n";
+    writeFile("board.tgz", gzip(tar({{"odb/matrix/matrix", readFile("job/matrix/matrix")},
+                                     {"odb/steps/pcb/layers/top/features", features}})));
+    Result const result = run({"board.tgz", "--headless", "--output", "out"});
+    if (result.err.contains("reads no archives")) {
+        GTEST_SKIP() << "this build has no libarchive";
+    }
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    EXPECT_EQ(result.facts["job"].toString(), "board");
+    EXPECT_TRUE(result.facts["directory"].toString().endsWith("/board.tgz"));
+    EXPECT_EQ(result.facts["layers"].toArray()[0].toObject()["features"].toArray()[0].toInt(), 1);
 }
 
 TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)

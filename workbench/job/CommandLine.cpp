@@ -66,10 +66,11 @@ ParsedArguments parseArguments(QStringList const & arguments)
     QCommandLineOption const report(
         "report", "Run the checks and write the graded report, as JSON or CSV; may be repeated.", "FILE");
     parser.addOptions({step, summary, report});
-    parser.addPositionalArgument("JOB-DIRECTORY",
-                                 "The folder of the job (default: the environment variable " +
+    parser.addPositionalArgument("JOB",
+                                 "The folder of the job, or an archive of it (.tgz, .tar.gz, .tar, .zip; "
+                                 "default: the environment variable " +
                                      QString(jobVariable) + ").",
-                                 "[JOB-DIRECTORY]");
+                                 "[JOB]");
 
     if (!parser.parse(arguments)) {
         return failure(parser.errorText());
@@ -82,11 +83,11 @@ ParsedArguments parseArguments(QStringList const & arguments)
     }
     QStringList const positional = parser.positionalArguments();
     if (positional.size() > 1) {
-        return failure("more than one job directory given");
+        return failure("more than one job given");
     }
     QString const job = positional.isEmpty() ? defaultJob() : positional.first();
     if (job.isEmpty()) {
-        return failure("no job directory given, see --help");
+        return failure("no job given, see --help");
     }
     CommandLine commandLine;
     commandLine.job = absolute(job);

@@ -11,9 +11,9 @@ namespace Workbench {
 
 namespace {
 
-QString failure(QString const & directory, std::string const & reason)
+QString failure(QString const & path, std::string const & reason)
 {
-    return QString("cannot open the job \"%1\": ").arg(QDir::toNativeSeparators(directory)) +
+    return QString("cannot open the job \"%1\": ").arg(QDir::toNativeSeparators(path)) +
            QString::fromStdString(reason).simplified();
 }
 
@@ -25,26 +25,31 @@ QString readingError()
 
 } // namespace
 
-QString Session::open(QString const & directory)
+QString Session::open(QString const & path)
 {
-    QFileInfo const folder(directory);
-    if (!folder.isDir()) {
-        return failure(directory, folder.exists() ? "it is not a directory" : "there is no such directory");
+    QFileInfo const entry(path);
+    std::string job = entry.fileName().toStdString();
+    if (entry.isFile()) {
+        job = KVCAM::Embedded::openArchive(path.toStdString());
+    } else if (!entry.isDir()) {
+        return failure(path, entry.exists() ? "it is neither a directory nor an archive"
+                                            : "there is no such directory or archive");
+    } else if (!KVCAM::API::open_job(entry.path().toStdString(), job)) {
+        job.clear();
     }
-    std::string const job = folder.fileName().toStdString();
-    if (!KVCAM::API::open_job(folder.path().toStdString(), job)) {
-        return failure(directory, KVCAM::Embedded::lastError());
+    if (job.empty()) {
+        return failure(path, KVCAM::Embedded::lastError());
     }
     std::vector<std::string> names;
     std::vector<KVCAM::API::layer_info> layers;
     std::string const error = KVCAM::API::get_matrix(job, names, layers);
     if (!error.empty()) {
-        return failure(directory, error);
+        return failure(path, error);
     }
     if (names.empty()) {
-        return failure(directory, "its matrix has no steps");
+        return failure(path, "its matrix has no steps");
     }
-    m_directory = directory;
+    m_directory = path;
     m_job = job;
     m_steps.clear();
     for (std::string const & name : names) {

@@ -29,8 +29,8 @@ public:
         std::optional<KVCAM::Embedded::Box> outline; ///< of the profile, in micrometres
     };
 
-    /// Opens the job in a folder. Returns one line that says what is wrong, empty on success.
-    QString open(QString const & directory);
+    /// Opens the job in a folder or an archive. Returns one line that says what is wrong, empty on success.
+    QString open(QString const & path);
     /// Counts the features of a layer in every step, which is the slow part of opening. Reads the layer's
     /// tools as well. Failures are kept in the layer and logged at ERROR.
     void countFeatures(Layer & layer) const;
@@ -39,6 +39,7 @@ public:
     void recount(std::size_t step);
 
     std::string const & job() const { return m_job; }
+    /// The folder or archive.
     QString directory() const { return m_directory; }
     std::vector<Step> const & steps() const { return m_steps; }
     std::vector<Layer> const & layers() const { return m_layers; }
