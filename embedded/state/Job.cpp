@@ -3,6 +3,7 @@
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
 #include "formats/ToolsFile.h"
+#include "state/Panel.h"
 
 #include <QDir>
 
@@ -10,29 +11,6 @@
 
 namespace KVCAM::Embedded {
 namespace {
-
-// The engine uses nothing from the header, but a damaged header means a damaged step.
-void checkStepHeader(QString const & path)
-{
-    LineReader reader(path);
-    int blockLine = 0;
-    while (reader.next()) {
-        std::string_view const line = reader.line();
-        if (line.back() == '{' && blockLine == 0) {
-            blockLine = reader.lineNumber();
-        } else if (line == "}" && blockLine != 0) {
-            blockLine = 0;
-        } else {
-            KeyValue const pair = keyValue(reader);
-            if (blockLine == 0 && (pair.key == "X_DATUM" || pair.key == "Y_DATUM")) {
-                reader.decimal(pair.value, "datum");
-            }
-        }
-    }
-    if (blockLine != 0) {
-        reader.fail("the block is not closed", blockLine);
-    }
-}
 
 std::vector<std::string> folderNames(QString const & folder)
 {
@@ -68,6 +46,7 @@ Job::Job(std::string const & path, std::string const & name)
     for (std::string const & step : m_matrix.steps) {
         m_steps.push_back(readStep(step));
     }
+    checkPanels(m_steps);
     m_symbols = folderNames(findFolder(m_folder, "symbols"));
 }
 
@@ -86,7 +65,7 @@ Step Job::readStep(std::string const & name) const
                        ": no such folder, but the matrix names layers");
     }
     if (QString const header = findFile(step.folder, "stephdr"); !header.isEmpty()) {
-        checkStepHeader(header);
+        step.header = readStepHeader(header);
     }
     if (QString const profile = findFile(step.folder, "profile"); !profile.isEmpty()) {
         step.profile = profileOf(readFeatures(profile));

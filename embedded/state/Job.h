@@ -3,6 +3,7 @@
 #include "EmbeddedRecords.h"
 #include "formats/FeaturesFile.h"
 #include "formats/MatrixFile.h"
+#include "formats/StepHeader.h"
 #include "geometry/Profile.h"
 
 #include <QString>
@@ -33,9 +34,14 @@ struct Step
 {
     std::string name; ///< lower case
     QString folder;
+    StepHeader header;
     std::optional<Profile> profile;
+    std::optional<Box> repeatBox;                  ///< of the profiles that it repeats
     std::map<std::string, LayerGraphics> graphics; ///< by layer; those read so far
     std::vector<Deletion> history;                 ///< what Undo() reverts, latest last
+
+    /// Of its profile or else of those that it repeats; nothing if there are none.
+    std::optional<Box> extent() const { return profile ? profile->box : repeatBox; }
 };
 
 /// An open job. The matrix, the step headers, the profiles and the symbol names are read on opening, the
