@@ -15,6 +15,7 @@
 #include <QRandomGenerator>
 
 #include <atomic>
+#include <cmath>
 #include <memory>
 
 using namespace KVCAM::UIAPI;
@@ -149,7 +150,7 @@ TEST_F(Painting, APanelShowsItsStepsTurnedMirroredAndNested)
         "own/steps/panel/stephdr",
         "UNITS=MM\nSTEP-REPEAT {\nNAME=PCB\nX=3\nY=5\nDX=5\nDY=5\nNX=2\nNY=2\nANGLE=90\nMIRROR=YES\n}\n");
     writeFile("own/steps/panel/layers/top/features", "UNITS=MM\n$0 s500\nP 4 1 0 P 0 0\n");
-    writeFile("own/steps/frame/stephdr", "UNITS=MM\nSTEP-REPEAT {\nNAME=PANEL\nX=0\nY=0\nANGLE=180\n}\n");
+    writeFile("own/steps/frame/stephdr", "UNITS=MM\nSTEP-REPEAT {\nNAME=PANEL\nX=0\nY=0\nANGLE=270\n}\n");
     writeFile("own/steps/frame/layers/top/features", "");
     // A board at (3, 5): (x, y) turned is (y, -x), mirrored (-y, -x).
     struct
@@ -162,10 +163,11 @@ TEST_F(Painting, APanelShowsItsStepsTurnedMirroredAndNested)
         {2.7, 1.5, false}, {7, 4.5, true},   {6.5, 1.8, true}, {2, 9.5, true},   {6.5, 6.8, true},
         {6.5, 6.5, false}, {4, 1, true},     {4, 4.5, false},
     };
-    for (double const sign : {1.0, -1.0}) { // the frame holds the panel upside down
-        show(sign > 0 ? "panel" : "frame");
+    for (bool const isTurned : {false, true}) { // the frame holds the panel turned by three quarters
+        show(isTurned ? "frame" : "panel");
         for (auto const & place : places) {
-            EXPECT_EQ(isDrawn(sign * place.x, sign * place.y), place.drawn) << place.x << ' ' << place.y;
+            EXPECT_EQ(isTurned ? isDrawn(-place.y, place.x) : isDrawn(place.x, place.y), place.drawn)
+                << place.x << ' ' << place.y << ' ' << isTurned;
         }
         EXPECT_EQ(view->emptyText(), "");
     }
@@ -268,7 +270,23 @@ TEST(HostileLayers, ArePaintedInABoundedNumberOfSteps)
         EXPECT_LE(layer.steps(), ScanFill::mostSteps) << scale;
         QColor const middle = picture.pixelColor(40, 40);
         EXPECT_TRUE(middle.alpha() > 0 || scale == 1) << scale;
+        EXPECT_LE(shapes[0].marking(QTransform::fromScale(scale, scale), 2000).elementCount(), 2000);
     }
+    QPolygonF ring; // many corners within each pixel
+    for (int i = 0; i < 100000; ++i) {
+        ring << QPointF(100 + 20 * std::cos(i * 6.283185e-5), 100 + 20 * std::sin(i * 6.283185e-5));
+    }
+    shapes[0].path = {};
+    shapes[0].path.addPolygon(ring);
+    shapes[0].box = shapes[0].path.boundingRect();
+    QImage picture(200, 200, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    LayerPainter layer(painter, picture.rect(), Qt::red, never);
+    layer.paint(shapes, {});
+    EXPECT_EQ(layer.steps(), 0U); // few are left for Qt
+    EXPECT_EQ(picture.pixelColor(115, 110), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(116, 116).alpha(), 0);
 }
 
 TEST(BoardPictures, ANewOneOrTheEndCancelsWhatIsPainted)

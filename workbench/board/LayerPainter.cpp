@@ -147,6 +147,9 @@ private:
                 placed.rotate(-shape.angle);
             }
             m_painter.setTransform(shape.mirrored ? placed.scale(-1, 1) : placed);
+            if (shape.symbol.use_count() == 1) { // of no other pad
+                return fill(thinned(shape.path, tooNear / m_scale), shape);
+            }
             auto const [known, isNew] = m_paths.try_emplace(shape.symbol.get());
             if (isNew) {
                 known->second = thinned(shape.path, tooNear / m_scale);

@@ -20,7 +20,8 @@ namespace {
 
 constexpr double mostSize = 1e9; // in a name; painting cannot cope with all that a Length can hold
 constexpr double pi = 3.14159265358979323846;
-constexpr int mostParts = 100; // spokes of a thermal or rings of a moire; far beyond any real one
+constexpr int mostParts =
+    32; // spokes of a thermal or rings of a moire that are drawn; far beyond any real one
 
 // The values of a symbol in the order of its name up to the corners, and the corners that are cut.
 struct Sizes
@@ -179,7 +180,7 @@ QPolygonF flattened(QPainterPath const & outline)
     if (outline.isEmpty() || !(size > 0)) {
         return {};
     }
-    double const fine = 2000 / size; // Qt leaves up to half a unit
+    double const fine = 500 / size; // Qt leaves up to half a unit
     return QTransform::fromScale(1 / fine, 1 / fine)
         .map(outline.toSubpathPolygons(QTransform::fromScale(fine, fine)).value(0));
 }
