@@ -20,8 +20,7 @@ namespace {
 
 constexpr double mostSize = 1e9; // in a name; painting cannot cope with all that a Length can hold
 constexpr double pi = 3.14159265358979323846;
-constexpr int mostParts =
-    32; // spokes of a thermal or rings of a moire that are drawn; far beyond any real one
+constexpr int mostParts = 32; // spokes of a thermal or rings of a moire drawn; far beyond any real one
 
 // The values of a symbol in the order of its name up to the corners, and the corners that are cut.
 struct Sizes
