@@ -1,6 +1,7 @@
 // The workbench's board picture of a layer with 100,000 features: tracks, vias and pads, as on a large board.
 // Measures reading the layer's shapes, painting the whole layer at several zooms, and how long one wheel step
-// blocks the event loop; painting then continues in slices.
+// blocks the event loop; another thread then paints. Small layers made to stop the program are read and
+// painted as well: a surface of 32,000 random corners, and 3,000 different thermals and moires.
 
 #include "board/BoardView.h"
 
@@ -10,10 +11,13 @@
 #include <QDir>
 #include <QFile>
 #include <QPixmap>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QWheelEvent>
 
 #include <benchmark/benchmark.h>
+
+#include <utility>
 
 using namespace Workbench;
 
@@ -48,20 +52,53 @@ QByteArray board()
     return text;
 }
 
+QByteArray place(QRandomGenerator & random)
+{
+    return QString("%1 %2").arg(random.bounded(400.0)).arg(random.bounded(250.0)).toLatin1();
+}
+
+QByteArray jungle()
+{
+    QRandomGenerator random(1);
+    QByteArray const first = place(random);
+    QByteArray text = "UNITS=MM\nS P 0\nOB " + first + " I\n";
+    for (int i = 1; i < 32000; ++i) {
+        text += "OS " + place(random) + '\n';
+    }
+    return text + "OS " + first + "\nOE\nSE\n";
+}
+
+// `symbol` with a number in it.
+QByteArray pads(QString const & symbol)
+{
+    QRandomGenerator random(1);
+    QByteArray table = "UNITS=MM\n";
+    QByteArray records;
+    for (int i = 0; i < 3000; ++i) {
+        table += '$' + QByteArray::number(i) + ' ' + symbol.arg(4000 + i).toLatin1() + '\n';
+        records += "P " + place(random) + ' ' + QByteArray::number(i) + " P 0 0\n";
+    }
+    return table + records;
+}
+
 class Board
 {
 public:
     Board()
     {
         QString const job = m_folder.filePath("large");
-        write(job + "/matrix/matrix",
-              "STEP {\nCOL=1\nNAME=PCB\n}\nLAYER {\nROW=1\nCONTEXT=BOARD\nTYPE=SIGNAL\n"
-              "NAME=TOP\nPOLARITY=POSITIVE\nOLD_NAME=\n}\n");
+        QByteArray matrix = "STEP {\nCOL=1\nNAME=PCB\n}\n";
+        for (auto const & [name, content] : {std::pair("TOP", board()), std::pair("JUNGLE", jungle()),
+                                             std::pair("THERMALS", pads("thr%1x2000x0x100x20")),
+                                             std::pair("MOIRES", pads("moire20x20x100x20x%1x7"))}) {
+            matrix += "LAYER {\nROW=" + QByteArray::number(++m_rows) +
+                      "\nCONTEXT=BOARD\nTYPE=SIGNAL\nNAME=" + name + "\nPOLARITY=POSITIVE\nOLD_NAME=\n}\n";
+            write(job + "/steps/pcb/layers/" + QString(name).toLower() + "/features", content);
+        }
+        write(job + "/matrix/matrix", matrix);
         write(job + "/steps/pcb/stephdr", "UNITS=MM\n");
-        write(job + "/steps/pcb/layers/top/features", board());
         KVCAM::API::open_job(m_folder.path().toStdString(), "large");
         std::vector<std::string> steps;
-        std::vector<KVCAM::API::layer_info> layers;
         KVCAM::API::get_matrix("large", steps, layers);
         layer = layers.at(0);
         view = new BoardView("large", "pcb", KVCAM::UIAPI::Ext::Unit::Millimetre);
@@ -85,10 +122,12 @@ public:
     }
 
     BoardView * view;
+    std::vector<KVCAM::API::layer_info> layers;
     KVCAM::API::layer_info layer;
 
 private:
     QTemporaryDir m_folder;
+    int m_rows = 0;
 };
 
 void readShapes(benchmark::State & state)
@@ -130,5 +169,29 @@ void wheelStep(benchmark::State & state)
     }
 }
 BENCHMARK(wheelStep)->Unit(benchmark::kMillisecond);
+
+// What blocks the window: reading. The argument is the row of the layer.
+void readHostile(benchmark::State & state)
+{
+    Board const & board = Board::get();
+    for (auto _ : state) {
+        LayerShapes const layer("large", "pcb", board.layers.at(static_cast<std::size_t>(state.range(0))));
+        benchmark::DoNotOptimize(layer.shapes().data());
+    }
+}
+BENCHMARK(readHostile)->Arg(1)->Arg(2)->Arg(3)->Unit(benchmark::kMillisecond);
+
+// What does not: the picture. Row and zoom steps.
+void paintHostile(benchmark::State & state)
+{
+    Board & board = Board::get();
+    board.view->showLayer(board.layers.at(static_cast<std::size_t>(state.range(0))));
+    for (auto _ : state) {
+        board.zoom(static_cast<int>(state.range(1)));
+        board.view->finishPicture();
+    }
+    board.view->showLayer(board.layer);
+}
+BENCHMARK(paintHostile)->ArgsProduct({{1, 2, 3}, {0, 8}})->Unit(benchmark::kMillisecond);
 
 } // namespace

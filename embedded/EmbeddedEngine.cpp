@@ -2,7 +2,9 @@
 
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
+#include "geometry/Profile.h"
 #include "state/EngineState.h"
+#include "state/Panel.h"
 
 #include <algorithm>
 #include <map>
@@ -12,6 +14,22 @@
 
 namespace KVCAM::Embedded {
 namespace {
+
+API::feature_info infoOf(FeaturesFile const & file, std::size_t index)
+{
+    Feature const & feature = file.features[index];
+    return {static_cast<int>(index), feature.kind,
+            feature.symbol < 0 ? std::string() : file.symbols.at(feature.symbol).name, feature.positive,
+            recordPoints(feature)};
+}
+
+// `points` counts those of the outlines.
+FeatureDrawing drawingOf(FeaturesFile const & file, std::size_t index, std::size_t & points)
+{
+    Feature const & feature = file.features[index];
+    return {feature.angle, feature.mirrored, feature.clockwise,
+            feature.symbol < 0 ? 0 : file.symbols.at(feature.symbol).unit, outlines(file, feature, points)};
+}
 
 // Adds the symbols of a layer's table to `uses`, which has one entry per name and unit.
 void addSymbols(LayerGraphics const & graphics, std::vector<SymbolUse> & uses)
@@ -122,10 +140,9 @@ bool profileBox(std::string const & job, std::string const & step, Box & box)
 {
     return withLastError(false, [&](EngineState & state) {
         Step const & found = state.job(job).step(lowerCase(step));
-        if (found.profile) {
-            box = found.profile->box;
-        }
-        return found.profile.has_value();
+        auto const extent = found.extent();
+        box = extent.value_or(box);
+        return extent.has_value();
     });
 }
 
@@ -138,6 +155,22 @@ std::vector<std::vector<API::point>> profileOutlines(std::string const & job, st
     });
 }
 
+std::vector<StepRepeat> stepRepeats(std::string const & job, std::string const & step)
+{
+    return withLastError(std::vector<StepRepeat>(), [&](EngineState & state) {
+        return state.job(job).step(lowerCase(step)).header.repeats;
+    });
+}
+
+std::vector<StepPlacement> stepPlacements(std::string const & job, std::string const & step, int limit)
+{
+    return withLastError(std::vector<StepPlacement>(), [&](EngineState & state) {
+        Job & owner = state.job(job);
+        return placements(owner.steps(), owner.step(lowerCase(step)),
+                          static_cast<std::size_t>(std::max(limit, 0)));
+    });
+}
+
 std::vector<API::feature_info> features(std::string const & job, std::string const & step,
                                         std::string const & layer)
 {
@@ -146,12 +179,8 @@ std::vector<API::feature_info> features(std::string const & job, std::string con
         std::vector<API::feature_info> list;
         list.reserve(graphics.file.features.size());
         for (std::size_t i = 0; i < graphics.file.features.size(); ++i) {
-            Feature const & feature = graphics.file.features[i];
             if (!graphics.deleted[i]) {
-                list.push_back(
-                    {static_cast<int>(i), feature.kind,
-                     feature.symbol < 0 ? std::string() : graphics.file.symbols.at(feature.symbol).name,
-                     feature.positive, recordPoints(feature)});
+                list.push_back(infoOf(graphics.file, i));
             }
         }
         return list;
@@ -175,15 +204,29 @@ std::vector<FeatureDrawing> featureDrawings(std::string const & job, std::string
         std::vector<FeatureDrawing> list;
         list.reserve(graphics.file.features.size());
         for (std::size_t i = 0; i < graphics.file.features.size(); ++i) {
-            if (graphics.deleted[i]) {
-                continue;
+            if (!graphics.deleted[i]) {
+                list.push_back(drawingOf(graphics.file, i, points));
             }
-            Feature const & feature = graphics.file.features[i];
-            list.push_back({feature.angle, feature.mirrored, feature.clockwise,
-                            feature.symbol < 0 ? 0 : graphics.file.symbols.at(feature.symbol).unit,
-                            outlines(graphics.file, feature, points)});
         }
         return list;
+    });
+}
+
+SymbolGraphics symbolGraphics(std::string const & job, std::string const & name)
+{
+    return withLastError(SymbolGraphics(), [&](EngineState & state) {
+        Job const & owner = state.job(job);
+        auto const file = owner.symbolDrawing(name);
+        if (!file) {
+            throw JobError(owner.name() + ": no drawing of the symbol " + quoted(name));
+        }
+        SymbolGraphics graphics;
+        std::size_t points = 0;
+        for (std::size_t i = 0; i < file->features.size(); ++i) {
+            graphics.features.push_back(infoOf(*file, i));
+            graphics.drawings.push_back(drawingOf(*file, i, points));
+        }
+        return graphics;
     });
 }
 

@@ -79,11 +79,18 @@ KVCAM_API_EXPORT std::vector<std::string> openJobs();
 /// Closes a job and drops its deletions and undo history. False when it is not open.
 KVCAM_API_EXPORT bool closeJob(std::string const & job);
 
-/// The extent of a step's profile. False if the job or step is not open or has no profile.
+/// The extent of a step's profile, or for a step without one, of the profiles that it repeats. False if the
+/// job or step is not open or there is no profile.
 KVCAM_API_EXPORT bool profileBox(std::string const & job, std::string const & step, Box & box);
 /// The profile's outlines as closed polygons in micrometres (arcs as short chords); empty without a profile.
 KVCAM_API_EXPORT std::vector<std::vector<API::point>> profileOutlines(std::string const & job,
                                                                       std::string const & step);
+/// What a step repeats, in the order of its file; empty for most steps.
+KVCAM_API_EXPORT std::vector<StepRepeat> stepRepeats(std::string const & job, std::string const & step);
+/// The place of every step that a step repeats, and of those that they repeat in turn; each is followed by
+/// its own. The first `limit` of them: a small file can repeat steps without number.
+KVCAM_API_EXPORT std::vector<StepPlacement> stepPlacements(std::string const & job, std::string const & step,
+                                                           int limit);
 
 /// The features of a layer in file order, without the deleted ones; `index` counts all features of the file.
 /// Symbol names have no unit suffix; FeatureDrawing gives the unit of their sizes. Empty, with lastError()
@@ -110,6 +117,16 @@ struct FeatureDrawing
 /// One entry for each feature of features(), in the same order.
 KVCAM_API_EXPORT std::vector<FeatureDrawing>
 featureDrawings(std::string const & job, std::string const & step, std::string const & layer);
+/// The drawing of one of a job's own symbols: what features() and featureDrawings() give of a layer.
+struct SymbolGraphics
+{
+    std::vector<API::feature_info> features; ///< about the symbol's origin
+    std::vector<FeatureDrawing> drawings;    ///< one for each feature
+};
+/// The drawing of one of a job's own symbols, read anew by each call. It is as untrusted as any file: the
+/// symbols in it may be the job's own again, or itself. Empty, with lastError() set, if the job has no
+/// drawing of that name or it cannot be read.
+KVCAM_API_EXPORT SymbolGraphics symbolGraphics(std::string const & job, std::string const & name);
 /// Whether the job holds only the head and the tables of a layer's features (a file features.tables), so that
 /// features() returns none although the layer is not empty.
 KVCAM_API_EXPORT bool isCutToTables(std::string const & job, std::string const & step,

@@ -26,6 +26,43 @@ struct Tool
     double finishSize = 0; ///< of the hole when it is finished
 };
 
+/// A grid of places at which a step repeats another one. Lengths are in micrometres. Each repeated step is
+/// turned about its datum, then mirrored in x, and its datum is then moved to its place.
+struct StepRepeat
+{
+    std::string name; ///< of the repeated step
+    ///@{
+    /// The first place of its datum.
+    double x = 0;
+    double y = 0;
+    ///@}
+    ///@{
+    /// The distance of columns and of rows.
+    double dx = 0;
+    double dy = 0;
+    ///@}
+    ///@{
+    /// The number of columns and of rows, positive.
+    int nx = 1;
+    int ny = 1;
+    ///@}
+    double angle = 0;      ///< degrees clockwise
+    bool mirrored = false; ///< left and right exchanged, after turning
+};
+
+/// One repeated step in its place: turned about its origin, then mirrored in x, then moved.
+struct StepPlacement
+{
+    std::string name; ///< of the step
+    ///@{
+    /// Where its origin lies, in micrometres.
+    double x = 0;
+    double y = 0;
+    ///@}
+    double angle = 0;      ///< degrees clockwise
+    bool mirrored = false; ///< left and right exchanged, after turning
+};
+
 /// What one job may hold. Files are untrusted: without limits, a small damaged or hostile one could take all
 /// memory or time, which both grow with what is read. Whatever exceeds a limit is refused as a whole, with an
 /// error that names the limit. The defaults are several times what large boards need; raise them for honest

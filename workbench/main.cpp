@@ -158,6 +158,18 @@ int main(int argc, char ** argv)
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
               << " step(s) and " << session.layers().size() << " layers";
 
+    for (Workbench::Session::Step const & step : session.steps()) {
+        for (auto const & [name, count] : step.repeats) {
+            QString const text = QString("Step %1 repeats %2 %3 times")
+                                     .arg(QString::fromStdString(step.name), QString::fromStdString(name))
+                                     .arg(count);
+            LOG(INFO) << "workbench: " << text.toStdString();
+            if (headless) {
+                print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
+            }
+        }
+    }
+
     Workbench::MainWindow window(session, log, commandLine);
     window.board().showStep(commandLine.step);
     if (!headless) {

@@ -1,10 +1,13 @@
 #include "EmbeddedChecks.h"
 
 #include "checks/CopperChecks.h"
+#include "formats/LineReader.h"
 #include "state/EngineState.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <string>
 #include <utility>
 
 namespace KVCAM::Embedded {
@@ -61,8 +64,25 @@ std::vector<API::layer_info> layers(CheckContext & context, bool (*wanted)(API::
     return found;
 }
 
+// A repeated step has the same measures in each of its places.
+void noteRepeats(CheckContext & context)
+{
+    std::map<std::string, long long> counts;
+    for (StepRepeat const & repeat : context.job().step(context.step()).header.repeats) {
+        counts[repeat.name] += static_cast<long long>(repeat.nx) * repeat.ny;
+    }
+    for (auto const & [name, count] : counts) {
+        context.note({"signal",
+                      -1,
+                      {},
+                      "The step repeats " + validText(name) + ' ' + std::to_string(count) +
+                          " times; measure that step."});
+    }
+}
+
 CheckResults run(CheckContext & context)
 {
+    noteRepeats(context);
     for (LeftOut const & each : leftOut) {
         context.note({each.table, each.item, {}, each.reason});
     }

@@ -4,6 +4,7 @@
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
 #include "formats/ToolsFile.h"
+#include "state/Panel.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,29 +15,6 @@
 
 namespace KVCAM::Embedded {
 namespace {
-
-// The engine uses nothing from the header, but a damaged header means a damaged step.
-void checkStepHeader(QString const & path, Budget & budget)
-{
-    LineReader reader(path, budget);
-    int blockLine = 0;
-    while (reader.next()) {
-        std::string_view const line = reader.line();
-        if (line.back() == '{' && blockLine == 0) {
-            blockLine = reader.lineNumber();
-        } else if (line == "}" && blockLine != 0) {
-            blockLine = 0;
-        } else {
-            KeyValue const pair = keyValue(reader);
-            if (blockLine == 0 && (pair.key == "X_DATUM" || pair.key == "Y_DATUM")) {
-                reader.decimal(pair.value, "datum");
-            }
-        }
-    }
-    if (blockLine != 0) {
-        reader.fail("the block is not closed", blockLine);
-    }
-}
 
 // The name of an archive's job: that of the file, since the folder in it often has a general one.
 std::string nameOfArchive(QString const & archive)
@@ -84,6 +62,7 @@ Job::Job(std::string const & path, std::string const & name, JobLimits const & l
         m_stepIndices.emplace(step, m_steps.size());
         m_steps.push_back(readStep(steps, step));
     }
+    checkPanels(m_steps);
     m_symbolsFolder = folder.folder("symbols");
     readSymbolNames();
 }
@@ -143,7 +122,7 @@ Step Job::readStep(FolderList const & steps, std::string const & name)
                        ": no such folder, but the matrix names layers");
     }
     if (QString const header = folder.file("stephdr"); !header.isEmpty()) {
-        checkStepHeader(header, m_budget);
+        step.header = readStepHeader(header, m_budget);
     }
     if (QString const profile = folder.file("profile"); !profile.isEmpty()) {
         Budget budget = m_budget; // the outline is kept, not the features

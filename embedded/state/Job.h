@@ -5,6 +5,7 @@
 #include "formats/FeaturesFile.h"
 #include "formats/JobPaths.h"
 #include "formats/MatrixFile.h"
+#include "formats/StepHeader.h"
 #include "geometry/Profile.h"
 
 #include <QString>
@@ -39,11 +40,16 @@ struct Step
 {
     std::string name; ///< lower case
     QString folder;
+    StepHeader header;
     std::optional<Profile> profile;
+    std::optional<Box> repeatBox;                  ///< of the profiles that it repeats
     std::map<std::string, LayerGraphics> graphics; ///< by layer; those read so far
     std::vector<Deletion> history;                 ///< what Undo() reverts, latest last
     std::optional<FolderList> layers;              ///< the folder of the layers; listed on first use
     LayerGraphics nothing;                         ///< of every layer without a file
+
+    /// Of its profile or else of those that it repeats; nothing if there are none.
+    std::optional<Box> extent() const { return profile ? profile->box : repeatBox; }
 };
 
 /// An open job. The matrix, the step headers, the profiles and the symbol names are read on opening, the

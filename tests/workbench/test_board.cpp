@@ -1,5 +1,4 @@
 #include "TestFiles.h"
-#include "board/BoardPicture.h"
 #include "board/BoardView.h"
 #include "board/SymbolPath.h"
 #include "board/ViewPort.h"
@@ -12,7 +11,6 @@
 #include <QApplication>
 #include <QLineF>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -230,29 +228,6 @@ TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
     EXPECT_NE(colour(1.25, 2), colour(0.5, 0.5)); // the pad on it
     view->showBackgroundLayers({});
     EXPECT_FALSE(isDrawn(grab(), 0.5, 0.5));
-}
-
-TEST_F(Pictures, SlicesOfTimeMakeTheSamePictureAsOneGo)
-{
-    ASSERT_EQ(session.open(sampleJob), "");
-    auto const top = std::make_shared<LayerShapes const>("demo-board", "pcb", layer(4));
-    ASSERT_GT(top->shapes().size(), 150U); // the clock is read only now and then
-    QRectF const extent = top->extent();
-    QImage images[2];
-    for (int sliced = 0; sliced < 2; ++sliced) {
-        BoardPicture maker;
-        QTransform const transform(0.01, 0, 0, -0.01, -extent.left() / 100, extent.bottom() / 100);
-        maker.begin({600, 450}, 1, transform, extent, {}, {top, top});
-        int slices = 0;
-        for (; !maker.isFinished() && slices < 100; ++slices) {
-            maker.work(sliced != 0 ? QDeadlineTimer(0) : QDeadlineTimer(QDeadlineTimer::Forever));
-        }
-        EXPECT_EQ(slices > 3, sliced != 0);
-        images[sliced] = QImage(600, 450, QImage::Format_RGB32);
-        QPainter painter(&images[sliced]);
-        maker.paint(painter);
-    }
-    EXPECT_EQ(images[0], images[1]);
 }
 
 TEST_F(Pictures, MarksAreShownPickedAndBroughtIntoTheMiddle)

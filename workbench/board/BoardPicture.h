@@ -2,13 +2,15 @@
 
 #include "board/LayerShapes.h"
 
-#include <QDeadlineTimer>
+#include <QColor>
 #include <QImage>
 #include <QPainterPath>
-#include <QRectF>
+#include <QSize>
+#include <QThreadPool>
 #include <QTransform>
 
-#include <cstddef>
+#include <atomic>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,38 +18,62 @@ class QPainter;
 
 namespace Workbench {
 
-/// The picture of some layers over a board's profile at one place and scale. It is made in slices of time, so
-/// that the window stays responsive however much there is to draw. Until it is finished, the previous picture
-/// is shown moved and scaled.
+/// What to paint: some layers over a board's profile, at one place and scale.
+struct PictureTask
+{
+    /// An outline, or the shapes of a layer, in the coordinates of a step that is placed on the board.
+    struct Outline
+    {
+        QPainterPath path;
+        QTransform place;
+    };
+    struct Shapes
+    {
+        std::shared_ptr<LayerShapes const> layer;
+        QTransform place;
+    };
+    /// Drawn on its own, so that negative features erase only their own layer.
+    using Layer = std::vector<Shapes>;
+
+    QSize size;       ///< in widget pixels
+    double ratio = 1; ///< picture pixels per widget pixel
+    QTransform boardToWidget;
+    QPainterPath profile;
+    std::vector<Outline> repeats; ///< the profiles of repeated steps
+    std::vector<Layer> layers;    ///< the first one is at the bottom
+};
+
+/// Paints the picture; null when cancelled or out of memory. May run in any thread.
+QImage paintPicture(PictureTask const & task, std::atomic<bool> const & cancelled);
+
+/// The picture of a board, made by a thread of its own, so that the window stays responsive however much
+/// there is to draw. Until it is finished, the previous picture is shown moved and scaled.
 class BoardPicture
 {
 public:
-    /// Starts a new picture. The first layer is at the bottom. Each layer is drawn on its own, so that
-    /// negative features erase only their own layer. `size` is in widget pixels, `ratio` is picture pixels
-    /// per widget pixel.
-    void begin(QSize size, double ratio, QTransform const & boardToWidget, QRectF const & visible,
-               QPainterPath profile, std::vector<std::shared_ptr<LayerShapes const>> layers);
-    bool isFinished() const { return m_layer > m_layers.size(); }
-    /// Continues until the picture is finished or the deadline has passed.
-    void work(QDeadlineTimer const & deadline);
+    BoardPicture();
+    /// Cancels, and waits for the thread: for the shape being painted, a fraction of a second.
+    ~BoardPicture();
+    BoardPicture(BoardPicture const &) = delete;
+    BoardPicture & operator=(BoardPicture const &) = delete;
+
+    /// Cancels the picture being made and starts a new one. The thread calls `finished` at its end, except
+    /// after it was cancelled.
+    void begin(PictureTask task, std::function<void()> finished);
+    /// Waits until the picture is finished, at most so long (-1: without limit). Returns whether it is.
+    bool wait(int milliseconds);
     /// Paints the current state onto a widget.
-    void paint(QPainter & painter) const;
+    void paint(QPainter & painter);
 
 private:
-    void paintProfile();
-    void finishLayer();
-    double opacity() const;
+    struct Work;
+    void cancel();
 
-    QPainterPath m_profile;
-    std::vector<std::shared_ptr<LayerShapes const>> m_layers;
-    std::size_t m_layer = 1; // being painted; past the end when the picture is finished
-    std::size_t m_shape = 0; // the next one in that layer
-    QRectF m_visible;
-    QTransform m_transform; // board to widget
-    QImage m_board;
-    QImage m_layerImage;
-    QImage m_finished; // the latest finished picture and its transform
+    std::shared_ptr<Work> m_work; // the latest
+    QTransform m_transform;       // of the latest
+    QImage m_finished;            // the latest finished picture and its transform
     QTransform m_finishedTransform;
+    QThreadPool m_pool;
 };
 
 } // namespace Workbench

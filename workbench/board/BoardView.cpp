@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <utility>
 
 namespace Workbench {
@@ -28,7 +29,8 @@ constexpr double wheelStep = 1.25; // of one notch of the wheel
 constexpr double panStep = 0.1;    // of a key, in sizes of the view
 constexpr double closeZoom = 4;    // relative to home, for looking at a place
 constexpr double reach = 3;        // pixels from a feature within which a click selects it
-constexpr int slice = 25;          // milliseconds of drawing between two turns of the event loop
+constexpr int patience = 25;       // milliseconds to wait for a picture before the old one is shown again
+constexpr int mostMarked = 2000;   // path elements of the outline of a marked feature
 
 } // namespace
 
@@ -36,6 +38,8 @@ BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * par
     : QWidget(parent)
     , m_job(std::move(job))
     , m_step(std::move(step))
+    , m_profile(profilePath(m_job, m_step))
+    , m_panel(m_job, m_step)
     , m_shown(std::make_shared<LayerShapes>())
 {
     setMouseTracking(true);
@@ -47,14 +51,6 @@ BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * par
         update(); // the text of an empty picture
     });
 
-    for (auto const & outline : KVCAM::Embedded::profileOutlines(m_job, m_step)) {
-        QPolygonF polygon;
-        for (point const & corner : outline) {
-            polygon << QPointF(corner.x, corner.y);
-        }
-        m_profile.addPolygon(polygon);
-        m_profile.closeSubpath();
-    }
     Step_Config config;
     config.view = handle();
     config.show_param.unit = unitCode(unit);
@@ -64,8 +60,6 @@ BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * par
             update();
         }
     });
-    m_goOn.setSingleShot(true);
-    connect(&m_goOn, &QTimer::timeout, this, &BoardView::goOnWithPicture);
 }
 
 void BoardView::showLayer(layer_info const & layer)
@@ -85,6 +79,7 @@ void BoardView::showBackgroundLayers(std::vector<layer_info> layers)
 void BoardView::reload()
 {
     m_known.clear();
+    m_panel.keep({});
     m_selected.clear();
     if (!layer().empty()) {
         m_shown = shapesOf(layer_info(m_shown->info()));
@@ -104,6 +99,10 @@ std::shared_ptr<LayerShapes const> BoardView::shapesOf(layer_info const & layer)
 void BoardView::updateLayers()
 {
     QRectF extent = m_profile.boundingRect();
+    if (KVCAM::Embedded::Box box;
+        extent.isEmpty() && KVCAM::Embedded::profileBox(m_job, m_step, box)) { // of what it repeats
+        extent = QRectF(QPointF(box.left, box.bottom), QPointF(box.right, box.top));
+    }
     if (extent.isEmpty()) { // a step without a profile is as large as its features
         extent = m_shown->extent();
     }
@@ -114,7 +113,7 @@ void BoardView::updateLayers()
 
 QString BoardView::emptyText() const
 {
-    bool const isEmpty = features().empty() && m_background.empty();
+    bool const isEmpty = features().empty() && m_background.empty() && m_panel.outlines().empty();
     return isEmpty ? emptyLayerText(*m_shown) : QString();
 }
 
@@ -153,9 +152,9 @@ void BoardView::zoomHome()
 
 void BoardView::zoomFit()
 {
-    QRectF extent = m_shown->extent();
+    QRectF extent = m_shown->extent() | m_panel.extent(m_shown->info());
     for (layer_info const & layer : m_background) {
-        extent |= shapesOf(layer)->extent();
+        extent |= shapesOf(layer)->extent() | m_panel.extent(layer);
     }
     m_port.show(extent);
     changePort();
@@ -197,21 +196,22 @@ void BoardView::beginPicture()
     }
     layers.push_back(m_shown);
     m_known.clear(); // layers that are not shown are read again when needed
+    std::set<std::string> names;
+    PictureTask task{size(), devicePixelRatioF(), boardToWidget(), m_profile, m_panel.outlines(), {}};
     for (auto const & layer : layers) {
         m_known[layer->info().name] = layer;
+        names.insert(layer->info().name);
+        task.layers.push_back(m_panel.shapes(layer->info()));
+        task.layers.back().push_back({layer, {}});
     }
-    m_picture.begin(size(), devicePixelRatioF(), boardToWidget(),
-                    m_port.scale() > 0 ? m_port.visible() : QRectF(), m_profile, std::move(layers));
-}
-
-void BoardView::goOnWithPicture()
-{
-    m_picture.work(QDeadlineTimer(slice));
-    if (m_picture.isFinished()) {
-        update();
-    } else {
-        m_goOn.start();
+    m_panel.keep(names);
+    if (m_port.scale() <= 0) { // no place is anywhere
+        task.layers.clear();
     }
+    m_picture.begin(std::move(task), [this] { // called by another thread
+        QMetaObject::invokeMethod(
+            this, [this] { update(); }, Qt::QueuedConnection);
+    });
 }
 
 void BoardView::finishPicture()
@@ -219,7 +219,7 @@ void BoardView::finishPicture()
     if (m_isStale) {
         beginPicture();
     }
-    m_picture.work(QDeadlineTimer::Forever);
+    m_picture.wait(-1);
     update();
 }
 
@@ -227,10 +227,7 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
 {
     if (m_isStale) {
         beginPicture();
-        m_picture.work(QDeadlineTimer(slice));
-        if (!m_picture.isFinished()) {
-            m_goOn.start();
-        }
+        m_picture.wait(patience);
     }
     QPainter painter(this);
     m_picture.paint(painter);
@@ -258,7 +255,7 @@ void BoardView::paintMarkedFeature(QPainter & painter) const
     auto const marked = std::find_if(
         list.begin(), list.end(), [this](FeatureShape const & shape) { return shape.feature == m_marked; });
     if (marked != list.end()) {
-        QPainterPath const path = boardToWidget().map(marked->outline());
+        QPainterPath const path = marked->marking(boardToWidget(), mostMarked);
         painter.setPen(QPen(QColor("#0050d0"), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawPath(path);

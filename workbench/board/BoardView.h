@@ -4,10 +4,10 @@
 #include "board/BoardSigns.h"
 #include "board/FeatureSelection.h"
 #include "board/LayerShapes.h"
+#include "board/PanelSteps.h"
 #include "board/ViewPort.h"
 #include "ui/Units.h"
 
-#include <QTimer>
 #include <QWidget>
 
 #include <map>
@@ -42,7 +42,7 @@ public:
     void showBackgroundLayers(std::vector<KVCAM::API::layer_info> layers);
     /// Reads the layers again after the engine's features have changed.
     void reload();
-    /// Finishes the picture now; otherwise it is made while the program is idle.
+    /// Waits until the picture is finished; otherwise it is made beside the program.
     void finishPicture();
     /// Marks a feature of the shown layer; -1 marks none.
     void markFeature(int feature);
@@ -110,7 +110,6 @@ private:
     void updateLayers();
     void changePort();
     void beginPicture();
-    void goOnWithPicture();
     void pickAt(QPointF pixel);
     void selectAt(QPointF pixel);
     void paintMarkedFeature(QPainter & painter) const;
@@ -118,6 +117,7 @@ private:
     std::string m_job;
     std::string m_step;
     QPainterPath m_profile;
+    PanelSteps m_panel;
     std::vector<KVCAM::API::layer_info> m_background;
     std::map<std::string, std::shared_ptr<LayerShapes const>> m_known; // the layers that are shown, by name
     std::shared_ptr<LayerShapes const> m_shown;
@@ -125,7 +125,6 @@ private:
     ViewPort m_port;
     BoardPicture m_picture;
     bool m_isStale = true; // a new picture has to be started
-    QTimer m_goOn;
     int m_marked = -1;
     FeatureSelection::Set m_selected;
     QPointF m_pressedAt;

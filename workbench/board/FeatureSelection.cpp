@@ -13,6 +13,8 @@ namespace {
 
 // Above this number features are marked by their boxes: outlines would take too long to draw.
 constexpr std::size_t outlineLimit = 1000;
+constexpr int roomOfAll = 20'000; // path elements
+constexpr int roomOfOne = 2000;
 
 double distanceToLine(QPointF place, QPointF from, QPointF to)
 {
@@ -106,10 +108,13 @@ void paint(QPainter & painter, Shapes const & shapes, Set const & set, QTransfor
     painter.setRenderHint(QPainter::Antialiasing, hasOutlines);
     painter.setPen(QPen(QColor("#e07000"), hasOutlines ? 2 : 1));
     QBrush const inside(QColor(255, 150, 0, 70));
+    int room = roomOfAll;
     for (FeatureShape const * shape : shown) {
         painter.setBrush(shape->filled || !hasOutlines ? inside : QBrush());
         if (hasOutlines && shape->kind != FeatureShape::Kind::Line) {
-            painter.drawPath(boardToWidget.map(shape->outline()));
+            QPainterPath const path = shape->marking(boardToWidget, std::min(room, roomOfOne));
+            room = std::max(room - path.elementCount(), 0);
+            painter.drawPath(path);
         } else if (hasOutlines) {
             painter.drawLine(boardToWidget.map(shape->place), boardToWidget.map(shape->end));
         } else {

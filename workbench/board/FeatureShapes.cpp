@@ -1,6 +1,7 @@
 #include "board/FeatureShapes.h"
 
-#include "board/SymbolPath.h"
+#include "board/FeatureSymbols.h"
+#include "board/Paths.h"
 
 #include <UIAPICommonExt.h>
 
@@ -9,8 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <optional>
+#include <memory>
 #include <utility>
 
 namespace Workbench {
@@ -21,57 +21,13 @@ namespace {
 
 using KVCAM::API::feature_info;
 
-constexpr double crossSize = 300; // micrometres; half the arm of the cross for a user-defined symbol
+constexpr int mostExact = 64; // elements of a path
 constexpr double pi = 3.14159265358979323846;
 constexpr double halfDiagonal = 0.70710678118654752440; // of a square of side 1
 
 QPointF toPoint(KVCAM::API::point const & point)
 {
     return {point.x, point.y};
-}
-
-// What a symbol name stands for; looked up once per name and unit of a layer.
-struct Symbol
-{
-    std::optional<QPainterPath> path; // nothing for a job's own
-    double width = 0;                 // of a stroke drawn with it
-    bool isSquare = false;
-};
-
-class Symbols
-{
-public:
-    Symbol const & find(std::string const & name, Unit unit)
-    {
-        auto const [place, added] = m_symbols.emplace(std::pair(name, unit), Symbol());
-        if (added) {
-            Symbol & symbol = place->second;
-            auto const standard = Ext::Symbol::parse(QString::fromStdString(name), unit).symbol;
-            if (standard) {
-                symbol.path = symbolPath(*standard);
-                QRectF const box = symbol.path->boundingRect();
-                symbol.width = std::min(box.width(), box.height());
-                symbol.isSquare = standard->family() == Ext::SymbolFamily::Square ||
-                                  standard->family() == Ext::SymbolFamily::Rectangle;
-            }
-        }
-        return place->second;
-    }
-
-private:
-    std::map<std::pair<std::string, Unit>, Symbol> m_symbols;
-};
-
-QPainterPath const & cross()
-{
-    static QPainterPath const path = [] {
-        QPainterPath lines(QPointF(-crossSize, 0));
-        lines.lineTo(crossSize, 0);
-        lines.moveTo(0, -crossSize);
-        lines.lineTo(0, crossSize);
-        return lines;
-    }();
-    return path;
 }
 
 QPainterPath arcPath(QPointF start, QPointF end, QPointF centre, bool clockwise)
@@ -106,17 +62,29 @@ QPainterPath surfacePath(std::vector<std::vector<KVCAM::API::point>> const & out
     return path;
 }
 
-void placePad(FeatureShape & shape, Symbol const & symbol, KVCAM::Embedded::FeatureDrawing const & drawing)
+// Of a placed symbol: exact for quarter turns and small paths, otherwise that of its turned box.
+QRectF placedBox(FeatureSymbol const & symbol, QTransform const & place)
 {
-    shape.kind = FeatureShape::Kind::Pad;
-    shape.filled = symbol.path.has_value();
-    shape.path = symbol.path.value_or(cross());
-    shape.angle = drawing.angle;
-    shape.mirrored = drawing.mirrored;
-    shape.box = shape.path.isEmpty() ? QRectF(shape.place, QSizeF()) : shape.outline().boundingRect();
+    bool const isExact = place.type() <= QTransform::TxScale || !symbol.parts.empty() ||
+                         symbol.path.elementCount() > mostExact;
+    return isExact ? place.mapRect(symbol.box) : place.map(symbol.path).boundingRect();
 }
 
-void strokeWith(FeatureShape & shape, Symbol const & symbol)
+void placePad(FeatureShape & shape, std::shared_ptr<FeatureSymbol const> symbol,
+              KVCAM::Embedded::FeatureDrawing const & drawing)
+{
+    shape.kind = FeatureShape::Kind::Pad;
+    shape.filled = symbol->filled;
+    shape.path = symbol->path;
+    shape.angle = drawing.angle;
+    shape.mirrored = drawing.mirrored;
+    shape.box = shape.path.isEmpty()
+                    ? QRectF(shape.place, QSizeF())
+                    : placedBox(*symbol, placement(shape.place, shape.angle, shape.mirrored));
+    shape.symbol = std::move(symbol);
+}
+
+void strokeWith(FeatureShape & shape, FeatureSymbol const & symbol)
 {
     shape.filled = false;
     shape.penWidth = symbol.width;
@@ -128,7 +96,7 @@ void strokeWith(FeatureShape & shape, Symbol const & symbol)
 }
 
 FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::FeatureDrawing const & drawing,
-                          Symbols & symbols)
+                          FeatureSymbols & symbols)
 {
     auto const & points = feature.points;
     FeatureShape shape;
@@ -137,10 +105,11 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     shape.positive = feature.positive;
     if (feature.kind == 'S') {
         shape.path = surfacePath(drawing.outlines);
+        settle(shape.path);
         shape.box = shape.path.boundingRect();
         return shape;
     }
-    Symbol const & symbol = symbols.find(feature.symbol, Ext::unitOfCode(drawing.unit));
+    std::shared_ptr<FeatureSymbol const> const symbol = symbols.find(feature.symbol, shape.unit);
     shape.place = toPoint(points.at(0));
     switch (feature.kind) {
     case 'P':
@@ -149,11 +118,12 @@ FeatureShape featureShape(feature_info const & feature, KVCAM::Embedded::Feature
     case 'L':
         shape.kind = FeatureShape::Kind::Line;
         shape.end = toPoint(points.at(1));
-        strokeWith(shape, symbol);
+        strokeWith(shape, *symbol);
         break;
     default:
         shape.path = arcPath(shape.place, toPoint(points.at(1)), toPoint(points.at(2)), drawing.clockwise);
-        strokeWith(shape, symbol);
+        strokeWith(shape, *symbol);
+        settle(shape.path);
         break;
     }
     return shape;
@@ -175,16 +145,43 @@ QPainterPath FeatureShape::outline() const
     return turned.scale(mirrored ? -1 : 1, 1).map(path);
 }
 
+QPainterPath FeatureShape::marking(QTransform const & boardToWidget, int room) const
+{
+    QPainterPath marking;
+    if (path.elementCount() <= 100 * room) { // beyond it, not even worth a look
+        marking = thinned(boardToWidget.map(outline()), 1);
+    }
+    if (marking.isEmpty() || marking.elementCount() > room) {
+        marking = {};
+        marking.addRect(boardToWidget.mapRect(box));
+    }
+    return marking;
+}
+
 std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
-                                        std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings)
+                                        std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings,
+                                        SymbolSource const & source)
+{
+    FeatureSymbols symbols(source);
+    return featureShapes(features, drawings, symbols);
+}
+
+std::vector<FeatureShape> featureShapes(std::vector<KVCAM::API::feature_info> const & features,
+                                        std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings,
+                                        FeatureSymbols & symbols)
 {
     std::vector<FeatureShape> shapes;
     shapes.reserve(features.size());
-    Symbols symbols;
     for (std::size_t i = 0; i < features.size() && i < drawings.size(); ++i) {
         shapes.push_back(featureShape(features[i], drawings[i], symbols));
     }
     return shapes;
+}
+
+QRectF joined(QRectF const & a, QRectF const & b)
+{
+    return {QPointF(std::min(a.left(), b.left()), std::min(a.top(), b.top())),
+            QPointF(std::max(a.right(), b.right()), std::max(a.bottom(), b.bottom()))};
 }
 
 } // namespace Workbench

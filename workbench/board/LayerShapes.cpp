@@ -1,6 +1,5 @@
 #include "board/LayerShapes.h"
 
-#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -14,7 +13,9 @@ LayerShapes::LayerShapes(std::string const & job, std::string const & step, KVCA
     } else if (KVCAM::Embedded::isCutToTables(job, step, m_info.name)) {
         m_state = State::CutToTables;
     }
-    m_shapes = featureShapes(m_features, KVCAM::Embedded::featureDrawings(job, step, m_info.name));
+    m_shapes = featureShapes(
+        m_features, KVCAM::Embedded::featureDrawings(job, step, m_info.name),
+        [&job](std::string const & name) { return KVCAM::Embedded::symbolGraphics(job, name); });
 }
 
 QColor LayerShapes::colour() const
@@ -27,18 +28,11 @@ QRectF LayerShapes::extent() const
     if (m_shapes.empty()) {
         return {};
     }
-    // Not QRectF::united(), which ignores boxes without area.
-    double left = m_shapes.front().box.left();
-    double top = m_shapes.front().box.top();
-    double right = left;
-    double bottom = top;
+    QRectF extent = m_shapes.front().box;
     for (FeatureShape const & shape : m_shapes) {
-        left = std::min(left, shape.box.left());
-        top = std::min(top, shape.box.top());
-        right = std::max(right, shape.box.right());
-        bottom = std::max(bottom, shape.box.bottom());
+        extent = joined(extent, shape.box);
     }
-    return {QPointF(left, top), QPointF(right, bottom)};
+    return extent;
 }
 
 QColor layerColour(KVCAM::API::layer_info const & layer)

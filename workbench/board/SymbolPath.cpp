@@ -19,7 +19,8 @@ using Ext::SymbolFamily;
 namespace {
 
 constexpr double mostSize = 1e9; // in a name; painting cannot cope with all that a Length can hold
-constexpr int mostParts = 100;   // spokes of a thermal or rings of a moire; far beyond any real one
+constexpr double pi = 3.14159265358979323846;
+constexpr int mostParts = 32; // spokes of a thermal or rings of a moire drawn; far beyond any real one
 
 // The values of a symbol in the order of its name up to the corners, and the corners that are cut.
 struct Sizes
@@ -128,41 +129,106 @@ QPainterPath box(QSizeF size, Sizes const & sizes)
     return path;
 }
 
-// Two opposite quarters of a shape: upper right and lower left.
-QPainterPath butterfly(QPainterPath const & whole)
+// Two opposite quarters of a circle: upper right and lower left.
+QPainterPath roundButterfly(double diameter)
 {
-    QRectF const frame = whole.boundingRect();
-    QPainterPath quarters;
-    quarters.addRect(QRectF(frame.center(), frame.bottomRight()));
-    quarters.addRect(QRectF(frame.topLeft(), frame.center()));
-    return whole.intersected(quarters);
+    QPainterPath path;
+    for (double const start : {-90.0, 90.0}) { // as Qt counts, in a frame with y upwards
+        path.moveTo(0, 0);
+        path.arcTo(centred({diameter, diameter}), start, 90);
+        path.closeSubpath();
+    }
+    return path;
 }
 
-// A ring cut by evenly spaced gaps of a given width. Round and square gap ends look the same here.
-QPainterPath withGaps(QPainterPath const & ring, double angle, double spokes, double gap)
+// Two opposite quarters of a square.
+QPainterPath squareButterfly(double side)
 {
-    double const reach = std::hypot(ring.boundingRect().width(), ring.boundingRect().height());
-    int const count = static_cast<int>(std::clamp<double>(spokes, 0, mostParts));
-    QPainterPath cuts;
-    cuts.setFillRule(Qt::WindingFill);
-    for (int i = 0; i < count && gap > 0; ++i) {
-        QPainterPath cut;
-        cut.addRect(0, -gap / 2, reach, gap);
-        cuts.addPath(QTransform().rotate(angle + i * 360.0 / count).map(cut));
+    QPainterPath path;
+    path.addRect(0, 0, side / 2, side / 2);
+    path.addRect(-side / 2, -side / 2, side / 2, side / 2);
+    return path;
+}
+
+// The part of a convex polygon on the left of a direction, beyond `distance` from the line through the
+// origin.
+QPolygonF leftOf(QPolygonF const & polygon, QPointF direction, double distance)
+{
+    auto const beyond = [&](QPointF p) { return direction.x() * p.y() - direction.y() * p.x() - distance; };
+    QPolygonF part;
+    for (int i = 0; i < polygon.size(); ++i) {
+        QPointF const from = polygon[i];
+        QPointF const to = polygon[i + 1 < polygon.size() ? i + 1 : 0];
+        double const before = beyond(from);
+        double const after = beyond(to);
+        if (before >= 0) {
+            part << from;
+        }
+        if ((before < 0) != (after < 0)) {
+            part << from + (to - from) * (before / (before - after));
+        }
     }
-    return ring.subtracted(cuts);
+    return part;
+}
+
+// A convex outline as a polygon, in steps far below a pixel at any useful zoom.
+QPolygonF flattened(QPainterPath const & outline)
+{
+    QRectF const box = outline.boundingRect();
+    double const size = std::max(box.width(), box.height());
+    if (outline.isEmpty() || !(size > 0)) {
+        return {};
+    }
+    double const fine = 500 / size; // Qt leaves up to half a unit
+    return QTransform::fromScale(1 / fine, 1 / fine)
+        .map(outline.toSubpathPolygons(QTransform::fromScale(fine, fine)).value(0));
+}
+
+// A ring between two convex outlines, cut by evenly spaced gaps of a given width. Round and square gap ends
+// look the same here. Between two gaps lies a part of either outline: cutting off the convex polygons takes a
+// fraction of the time of Qt's general operations on paths.
+QPainterPath withGaps(QPainterPath const & outer, QPainterPath const & hole, double angle, double spokes,
+                      double gap)
+{
+    int const count = static_cast<int>(std::clamp<double>(spokes, 0, mostParts));
+    QPainterPath ring = outer;
+    ring.addPath(hole); // odd-even
+    if (count == 0 || gap <= 0) {
+        return ring;
+    }
+    if (count == 1) {
+        QPainterPath cut;
+        cut.addRect(0, -gap / 2, std::hypot(outer.boundingRect().width(), outer.boundingRect().height()),
+                    gap);
+        return ring.subtracted(QTransform().rotate(angle).map(cut));
+    }
+    QPolygonF const outlines[] = {flattened(outer), flattened(hole)};
+    QPainterPath sectors;
+    for (int i = 0; i < count; ++i) {
+        double const turn = (angle + i * 360.0 / count) * pi / 180;
+        double const next = turn + 2 * pi / count;
+        for (QPolygonF const & outline : outlines) {
+            QPolygonF const part = leftOf(leftOf(outline, {std::cos(turn), std::sin(turn)}, gap / 2),
+                                          {-std::cos(next), -std::sin(next)}, gap / 2);
+            if (part.size() > 2) {
+                sectors.addPolygon(part);
+                sectors.closeSubpath();
+            }
+        }
+    }
+    return sectors;
 }
 
 QPainterPath moire(Sizes const & sizes)
 {
-    QPainterPath path;
+    QPainterPath path; // all outlines run the same way, and the holes the other, so that bars add to rings
     path.setFillRule(Qt::WindingFill);
     int const count = static_cast<int>(std::clamp<double>(sizes[2], 0, mostParts));
     for (int i = 0; i < count; ++i) {
         double const inner = 2 * (i * (sizes[0] + sizes[1]) + sizes[1]);
         double const outer = inner + 2 * sizes[0];
         path.addPath(ellipse({outer, outer}));
-        path.addPath(ellipse({inner, inner}).toReversed()); // so that the winding rule leaves it open
+        path.addPath(ellipse({inner, inner}).toReversed());
     }
     QTransform const turned = QTransform().rotate(-sizes[5]);
     for (QSizeF const & line : {QSizeF(sizes[4], sizes[3]), QSizeF(sizes[3], sizes[4])}) {
@@ -170,7 +236,7 @@ QPainterPath moire(Sizes const & sizes)
         bar.addRect(centred(line));
         path.addPath(turned.map(bar));
     }
-    return path.simplified();
+    return path;
 }
 
 QPainterPath octagon(QSizeF size, double cut)
@@ -246,8 +312,8 @@ constexpr std::array drawings{
     Drawing{SymbolFamily::Octagon, [](Sizes const & s) { return octagon(s.size(), s[2]); }},
     Drawing{SymbolFamily::Ellipse, [](Sizes const & s) { return ellipse(s.size()); }},
     Drawing{SymbolFamily::Triangle, triangle},
-    Drawing{SymbolFamily::RoundButterfly, [](Sizes const & s) { return butterfly(roundOuter(s)); }},
-    Drawing{SymbolFamily::SquareButterfly, [](Sizes const & s) { return butterfly(squareOuter(s)); }},
+    Drawing{SymbolFamily::RoundButterfly, [](Sizes const & s) { return roundButterfly(s[0]); }},
+    Drawing{SymbolFamily::SquareButterfly, [](Sizes const & s) { return squareButterfly(s[0]); }},
     Drawing{SymbolFamily::LyingHexagon, lyingHexagon},
     Drawing{SymbolFamily::StandingHexagon, standingHexagon},
     Drawing{SymbolFamily::Hole, roundOuter},
@@ -285,11 +351,10 @@ QPainterPath symbolPath(Ext::Symbol const & symbol)
     Sizes const sizes = sizesOf(symbol);
     Drawing const & drawing = drawings[static_cast<std::size_t>(symbol.family())];
     QPainterPath path = drawing.outer(sizes);
-    if (drawing.hole != nullptr) {
+    if (drawing.hole != nullptr && hasSpokes(symbol.grammar().layout)) {
+        path = withGaps(path, drawing.hole(sizes), sizes[2], sizes[3], sizes[4]);
+    } else if (drawing.hole != nullptr) {
         path.addPath(drawing.hole(sizes)); // odd-even
-    }
-    if (hasSpokes(symbol.grammar().layout)) {
-        path = withGaps(path, sizes[2], sizes[3], sizes[4]);
     }
     return path.boundingRect().isEmpty() ? QPainterPath() : path;
 }

@@ -7,7 +7,7 @@
 namespace Workbench {
 
 /// The outline of a standard symbol in micrometres around the origin, y upwards, to be filled by its fill
-/// rule. Empty for a symbol without extent.
+/// rule. At most 32 spokes of a thermal and rings of a moire are drawn. Empty for a symbol without extent.
 QPainterPath symbolPath(KVCAM::UIAPI::Ext::Symbol const & symbol);
 
 } // namespace Workbench

@@ -55,7 +55,10 @@ QString Session::open(QString const & path)
     for (std::string const & name : names) {
         KVCAM::Embedded::Box box;
         bool const hasOutline = KVCAM::Embedded::profileBox(job, name, box);
-        m_steps.push_back({name, hasOutline ? std::optional(box) : std::nullopt});
+        m_steps.push_back({name, hasOutline ? std::optional(box) : std::nullopt, {}});
+        for (KVCAM::Embedded::StepRepeat const & repeat : KVCAM::Embedded::stepRepeats(job, name)) {
+            m_steps.back().repeats[repeat.name] += static_cast<long long>(repeat.nx) * repeat.ny;
+        }
     }
     m_layers.clear();
     for (KVCAM::API::layer_info const & info : layers) {

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,6 +28,7 @@ public:
     {
         std::string name;
         std::optional<KVCAM::Embedded::Box> outline; ///< of the profile, in micrometres
+        std::map<std::string, long long> repeats;    ///< how often it repeats which other steps
     };
 
     /// Opens the job in a folder or an archive. Returns one line that says what is wrong, empty on success.

@@ -331,7 +331,15 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     window.show();
     QJsonArray steps;
     for (std::size_t i = 0; i < session.steps().size(); ++i) {
-        steps.append(switchThereAndBack(*window.board().views()[i], session.steps()[i].outline));
+        QJsonObject facts = switchThereAndBack(*window.board().views()[i], session.steps()[i].outline);
+        QJsonObject repeats;
+        for (auto const & [name, count] : session.steps()[i].repeats) {
+            repeats[QString::fromStdString(name)] = count;
+        }
+        if (!repeats.isEmpty()) {
+            facts["repeats"] = repeats;
+        }
+        steps.append(facts);
     }
     setStepConfigToAPI(window.board().currentView()->handle());
     camera.take(window, "workbench.png");

@@ -823,6 +823,10 @@ Close the program that has port %1, then start this one again.</source>
 <context>
     <name>Workbench::MainWindow</name>
     <message>
+        <source>Repeats the step %1: %2 times</source>
+        <translation>重复步骤 %1：%2 次</translation>
+    </message>
+    <message>
         <source>&amp;Hot keys</source>
         <translation>快捷键(&amp;H)</translation>
     </message>

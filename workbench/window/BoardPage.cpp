@@ -124,6 +124,13 @@ void BoardPage::setTexts()
     for (std::size_t i = 0; i < m_views.size(); ++i) {
         m_steps->setTabText(static_cast<int>(i),
                             WindowTexts::tr("Step %1").arg(QString::fromStdString(m_views[i]->step())));
+        QStringList repeats;
+        for (auto const & [name, count] : m_session.steps()[i].repeats) {
+            repeats.append(WindowTexts::tr("Repeats the step %1: %2 times")
+                               .arg(QString::fromStdString(name))
+                               .arg(count));
+        }
+        m_steps->setTabToolTip(static_cast<int>(i), repeats.join('\n'));
     }
     m_layers->show(m_session, stepIndex());
     showOutline();
