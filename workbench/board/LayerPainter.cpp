@@ -73,10 +73,13 @@ private:
         m_painter.setBrush(m_colour);
         if (shape.kind == FeatureShape::Kind::Pad) {
             QTransform placed = QTransform::fromTranslate(shape.place.x(), shape.place.y()) * m_transform;
+            if (shape.mirrored) {
+                placed.scale(-1, 1);
+            }
             if (shape.angle != 0) {
                 placed.rotate(-shape.angle);
             }
-            m_painter.setTransform(shape.mirrored ? placed.scale(-1, 1) : placed);
+            m_painter.setTransform(placed);
         } else {
             m_painter.setTransform(m_transform);
         }
