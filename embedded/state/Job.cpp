@@ -144,12 +144,15 @@ LayerGraphics & Job::graphics(std::string const & stepName, std::string const & 
         return known->second;
     }
     LayerGraphics graphics;
+    graphics.missing = true;
     if (QString const folder = layerFolder(owner, layer); !folder.isEmpty()) {
         if (QString const file = findFile(folder, "features"); !file.isEmpty()) {
             graphics.file = readFeatures(file);
+            graphics.missing = false;
         } else if (QString const tables = findFile(folder, "features.tables"); !tables.isEmpty()) {
             graphics.file = readFeatures(tables, true);
             graphics.cutToTables = true;
+            graphics.missing = false;
         }
     }
     graphics.deleted.resize(graphics.file.features.size());
