@@ -33,7 +33,8 @@ bool leavesBoard(BoardArea const & area, Feature const & feature, SymbolShape co
     }
     Region copper;
     if (feature.kind == 'P') {
-        copper = placed(shape.copper, placement(p[0], feature.angle, feature.mirrored));
+        copper = placed(shape.isLarge ? Region{{shape.outer}, {}} : shape.copper,
+                        placement(p[0], feature.angle, feature.mirrored));
     } else if (arc) {
         constexpr double enough = 64;
         Arc const path{p[0], p[1], p[2], feature.clockwise};

@@ -75,6 +75,11 @@ void checkCopper(CheckContext & context, API::layer_info const & layer, std::vec
     list(lists, lines) = sorted(std::move(widths));
     list(lists, pads) = sorted(checks.sizes());
     list(lists, smdToSmd) = sorted(checks.smdSpacings());
+    if (checks.isCoarse()) {
+        context.note({"signal", -1, layer.name,
+                      "The SMD pads drawn with large symbols of the job's own are too many: their spacing is "
+                      "that of the boxes around them."});
+    }
     PadChecks::Rings found = checks.rings(holes, layer.row);
     for (std::size_t kind = 0; kind < rings.size(); ++kind) {
         list(lists, rings.at(kind)) = sorted(std::move(found.byKind.at(kind)));

@@ -19,44 +19,52 @@ namespace KVCAM::Embedded {
 namespace {
 
 constexpr double endless = std::numeric_limits<double>::infinity();
-constexpr double noise = 2.54e-5;  // micrometres: a millionth of a mil, as in the rounding of values
-constexpr std::size_t chunk = 256; // pads or holes between two progress reports
+constexpr double noise = 2.54e-5; // micrometres: a millionth of a mil, as in the rounding of values
+constexpr std::size_t mostCorners = 1'000'000; // of large symbols
+constexpr std::size_t chunk = 256;             // pads or holes between two progress reports
 
 std::int64_t nanometres(double micrometres)
 {
     return UIAPI::nearestInt64(micrometres * 1000);
 }
 
-void append(std::vector<std::int64_t> & key, Shape const & shape)
+using Corners = std::vector<std::pair<std::int64_t, std::int64_t>>;
+
+Corners rounded(std::vector<API::point> const & points)
 {
-    std::vector<std::pair<std::int64_t, std::int64_t>> corners;
-    for (API::point const & corner : shape.corners) {
-        corners.emplace_back(nanometres(corner.x), nanometres(corner.y));
+    Corners corners;
+    for (API::point const & point : points) {
+        corners.emplace_back(nanometres(point.x), nanometres(point.y));
     }
-    std::sort(corners.begin(), corners.end());
-    key.push_back(nanometres(shape.radius));
-    for (auto const & [x, y] : corners) {
-        key.push_back(x);
-        key.push_back(y);
-    }
+    return corners;
+}
+
+void append(Corners & key, Shape const & shape)
+{
+    Corners corners = rounded(shape.corners);
+    std::sort(corners.begin(), corners.end()); // those of a convex shape have but one order
+    key.emplace_back(nanometres(shape.radius), corners.size());
+    key.insert(key.end(), corners.begin(), corners.end());
 }
 
 // Equal for pads in one place that cover the same area, however they are described: a square rotated by 90
 // degrees equals itself. In nanometres, so that rounding errors do not separate them.
-std::vector<std::int64_t> footprint(Pad const & pad)
+Corners footprint(Pad const & pad)
 {
     SymbolShape const & shape = *pad.shape;
-    std::vector<std::int64_t> key;
+    Corners key;
     if (shape.inner.corners.empty()) { // not solid: by the pieces, which depend on the drawing
         Region const region = placed(shape.copper, pad.where);
         for (Shape const & piece : region.pieces) {
             append(key, piece);
         }
         for (std::vector<API::point> const & outline : region.outlines) {
-            append(key, {outline, -1});
+            Corners const corners = rounded(outline);
+            key.emplace_back(-1, corners.size());
+            key.insert(key.end(), corners.begin(), corners.end());
         }
     } else {
-        key.push_back(nanometres(shape.opening));
+        key.emplace_back(nanometres(shape.opening), 0);
         append(key, placed(shape.outer, pad.where));
         append(key, placed(shape.inner, pad.where));
     }
@@ -80,7 +88,7 @@ std::vector<Pad> distinct(std::vector<Pad> pads)
         while (end < order.size() && place(order[end]) == place(order[first])) {
             ++end;
         }
-        std::map<std::vector<std::int64_t>, std::size_t> known;
+        std::map<Corners, std::size_t> known;
         for (std::size_t i = first; i < end && end - first > 1; ++i) {
             auto const [same, added] = known.try_emplace(footprint(pads[order[i]]), order[i]);
             repeated[order[i]] = !added;
@@ -145,7 +153,20 @@ Shape shapeOf(Hole const & hole)
 
 PadChecks::PadChecks(std::vector<Pad> pads, CheckContext const & context)
     : m_pads(distinct(std::move(pads))), m_context(context)
-{}
+{
+    std::size_t corners = 0;
+    for (std::size_t i = 0; i < m_pads.size() && corners <= mostCorners; ++i) {
+        SymbolShape const & shape = *m_pads[i].shape;
+        corners += m_pads[i].smd && shape.isLarge ? size(shape.copper) : 0;
+    }
+    m_coarse = corners > mostCorners;
+}
+
+Region PadChecks::copper(Pad const & pad, bool coarse)
+{
+    return placed(coarse && pad.shape->isLarge ? Region{{pad.shape->outer}, {}} : pad.shape->copper,
+                  pad.where);
+}
 
 std::vector<Measurement> PadChecks::sizes() const
 {
@@ -169,15 +190,15 @@ std::vector<Measurement> PadChecks::smdSpacings() const
             boxes.push_back(extent(placed(pad.shape->outer, pad.where)));
         }
     }
-    auto const copper = [&smds](std::size_t i) { return placed(smds[i]->shape->copper, smds[i]->where); };
+    auto const copperOf = [&](std::size_t i) { return copper(*smds[i], m_coarse); };
     SpatialGrid const grid(boxes);
     std::vector<std::pair<std::size_t, std::size_t>> pairs;
     for (std::size_t i = 0; i < smds.size(); ++i) {
-        Region const own = copper(i);
+        Region const own = copperOf(i);
         auto const nearest = grid.lowest(
             endless, [&](Box const & box) { return boxGap(box, boxes[i]); },
             [&](std::size_t other) {
-                return other == i ? endless : gapBetween(own, copper(other)).distance;
+                return other == i ? endless : gapBetween(own, copperOf(other)).distance;
             });
         if (nearest) {
             pairs.emplace_back(std::min(i, nearest->item), std::max(i, nearest->item));
@@ -192,7 +213,7 @@ std::vector<Measurement> PadChecks::smdSpacings() const
     std::vector<Measurement> spacings;
     spacings.reserve(pairs.size());
     for (auto const & [a, b] : pairs) {
-        Gap const gap = gapBetween(copper(a), copper(b));
+        Gap const gap = gapBetween(copperOf(a), copperOf(b));
         spacings.push_back(
             measurement(2, gap.distance, {gap.from.x, gap.from.y, gap.to.x, gap.to.y, gap.distance}));
     }
@@ -250,9 +271,7 @@ bool PadChecks::isTouched(Hole const & hole, SpatialGrid const & grid) const
     return grid
         .lowest(
             noise, [&box](Box const & pad) { return boxGap(pad, box); },
-            [&](std::size_t pad) {
-                return gapBetween(drilled, placed(m_pads[pad].shape->copper, m_pads[pad].where)).distance;
-            })
+            [&](std::size_t pad) { return gapBetween(drilled, copper(m_pads[pad], true)).distance; })
         .has_value();
 }
 

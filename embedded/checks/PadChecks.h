@@ -27,6 +27,8 @@ public:
     std::vector<Measurement> sizes() const;
     /// Each SMD pad and its nearest neighbour, each pair once.
     std::vector<Measurement> smdSpacings() const;
+    /// Whether there are so many corners that smdSpacings() measures the boxes around large symbols.
+    bool isCoarse() const { return m_coarse; }
     struct Rings
     {
         std::array<std::vector<Measurement>, 3> byKind; ///< by kind of hole
@@ -38,10 +40,12 @@ public:
     Rings rings(std::vector<Hole> const & holes, int row) const;
 
 private:
+    static Region copper(Pad const & pad, bool coarse);
     bool isTouched(Hole const & hole, SpatialGrid const & grid) const;
 
     std::vector<Pad> m_pads; // no two of the same shape in the same place
     CheckContext const & m_context;
+    bool m_coarse = false;
 };
 
 } // namespace KVCAM::Embedded

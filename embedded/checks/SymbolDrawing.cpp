@@ -2,27 +2,21 @@
 
 #include "checks/SymbolShapes.h"
 #include "formats/JobPaths.h"
+#include "geometry/Slabs.h"
 #include "geometry/StandardSymbol.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr int deepest = 16;
 constexpr std::size_t mostCorners = 20'000;    // of one symbol
 constexpr std::size_t mostOfAll = 500'000;     // of all symbols
 constexpr std::size_t mostCrossingSides = 400; // of outlines that overlap others
-constexpr std::size_t mostDirections = 180;    // in which a least width is looked for
-constexpr std::size_t mostSearches = 4;        // of them around which it is looked for
 constexpr char const * tooLarge = "its drawing is too large";
-
-using Outlines = std::vector<std::vector<API::point>>;
 
 // Adds the graphics of a drawing to its region.
 class Builder
@@ -69,83 +63,6 @@ private:
 bool overlap(Box const & a, Box const & b)
 {
     return a.left <= b.right && b.left <= a.right && a.bottom <= b.top && b.bottom <= a.top;
-}
-
-struct Edge
-{
-    API::point low;
-    API::point high;
-
-    double at(double y) const
-    {
-        return y <= low.y    ? low.x
-               : y >= high.y ? high.x
-                             : low.x + (y - low.y) / (high.y - low.y) * (high.x - low.x);
-    }
-};
-
-std::vector<Edge> edgesOf(Outlines const & outlines)
-{
-    std::vector<Edge> edges;
-    for (std::vector<API::point> const & outline : outlines) {
-        for (std::size_t i = 0; i < outline.size(); ++i) {
-            API::point const & a = outline[i];
-            API::point const & b = outline[(i + 1) % outline.size()];
-            if (a.y != b.y) {
-                edges.push_back(a.y < b.y ? Edge{a, b} : Edge{b, a});
-            }
-        }
-    }
-    return edges;
-}
-
-// The heights of the corners, and those at which edges cross.
-std::vector<double> heightsOf(std::vector<Edge> const & edges)
-{
-    std::vector<double> heights;
-    for (std::size_t i = 0; i < edges.size(); ++i) {
-        heights.push_back(edges[i].low.y);
-        heights.push_back(edges[i].high.y);
-        for (std::size_t j = 0; j < i; ++j) {
-            double const low = std::max(edges[i].low.y, edges[j].low.y);
-            double const high = std::min(edges[i].high.y, edges[j].high.y);
-            double const before = edges[i].at(low) - edges[j].at(low);
-            double const after = edges[i].at(high) - edges[j].at(high);
-            if (low < high && (before < 0) != (after < 0)) {
-                heights.push_back(low + (high - low) * before / (before - after));
-            }
-        }
-    }
-    std::sort(heights.begin(), heights.end());
-    heights.erase(std::unique(heights.begin(), heights.end()), heights.end());
-    return heights;
-}
-
-// Cuts the inside of outlines into horizontal slabs in which no edges meet.
-template <class Take>
-void forEachSlab(Outlines const & outlines, Take const & take)
-{
-    std::vector<Edge> const edges = edgesOf(outlines);
-    std::vector<double> const heights = heightsOf(edges);
-    for (std::size_t i = 0; i + 1 < heights.size(); ++i) {
-        double const low = heights[i];
-        double const high = heights[i + 1];
-        std::vector<std::pair<double, double>> through; // at the lower and the upper end
-        for (Edge const & edge : edges) {
-            if (edge.low.y <= low && edge.high.y >= high) {
-                through.emplace_back(edge.at(low), edge.at(high));
-            }
-        }
-        std::sort(through.begin(), through.end(), [](auto const & a, auto const & b) {
-            return a.first / 2 + a.second / 2 < b.first / 2 + b.second / 2;
-        });
-        for (std::size_t j = 0; j + 1 < through.size(); j += 2) {
-            take(convexShape({{through[j].first, low},
-                              {through[j + 1].first, low},
-                              {through[j + 1].second, high},
-                              {through[j].second, high}}));
-        }
-    }
 }
 
 void Builder::addSurface(Feature const & surface)
@@ -232,107 +149,7 @@ void addParts(Feature const & surface, std::vector<DrawnPart> & parts)
     }
 }
 
-double reachOf(SymbolDrawing const & drawing, API::point direction)
-{
-    double farthest = -std::numeric_limits<double>::infinity();
-    for (DrawnPart const & part : drawing.parts) {
-        farthest = std::max(farthest,
-                            support(part.shape, direction) + (part.arc ? support(*part.arc, direction) : 0));
-    }
-    return farthest;
-}
-
-double widthIn(SymbolDrawing const & drawing, API::point direction)
-{
-    return reachOf(drawing, direction) + reachOf(drawing, {-direction.x, -direction.y});
-}
-
-double widthAt(SymbolDrawing const & drawing, double angle)
-{
-    return widthIn(drawing, {std::cos(angle), std::sin(angle)});
-}
-
-// Across the sides of the hull, the longest first: there a width has its minima.
-std::vector<API::point> directions(Region const & region)
-{
-    std::vector<API::point> points;
-    for (Shape const & piece : region.pieces) {
-        for (API::point const & corner : piece.corners) {
-            for (int i = 0; i < (piece.radius > 0 ? 32 : 1); ++i) {
-                points.push_back({corner.x + piece.radius * std::cos(i * pi / 16),
-                                  corner.y + piece.radius * std::sin(i * pi / 16)});
-            }
-        }
-    }
-    for (std::vector<API::point> const & outline : region.outlines) {
-        points.insert(points.end(), outline.begin(), outline.end());
-    }
-    std::vector<API::point> const hull = convexHull(std::move(points));
-    std::vector<API::point> across;
-    for (std::size_t i = 0; i < hull.size(); ++i) {
-        API::point const & next = hull[(i + 1) % hull.size()];
-        across.push_back({hull[i].y - next.y, next.x - hull[i].x});
-    }
-    std::stable_sort(across.begin(), across.end(),
-                     [](API::point a, API::point b) { return std::hypot(a.x, a.y) > std::hypot(b.x, b.y); });
-    across.resize(std::min(across.size(), mostDirections));
-    for (API::point & each : across) {
-        double const length = std::hypot(each.x, each.y);
-        each = length > 0 ? API::point{each.x / length, each.y / length} : API::point{1, 0};
-    }
-    return across;
-}
-
-// A minimum near an angle, by golden section.
-double leastNear(SymbolDrawing const & drawing, double angle)
-{
-    constexpr double ratio = 0.61803398874989485;
-    double low = angle - 0.1;
-    double high = angle + 0.1;
-    for (int i = 0; i < 50; ++i) {
-        double const a = high - ratio * (high - low);
-        double const b = low + ratio * (high - low);
-        bool const isLower = widthAt(drawing, a) < widthAt(drawing, b);
-        (isLower ? high : low) = isLower ? b : a;
-    }
-    return low / 2 + high / 2;
-}
-
 } // namespace
-
-DrawingExtent extentOf(SymbolDrawing const & drawing)
-{
-    struct Candidate
-    {
-        double width;
-        API::point direction;
-    };
-    std::vector<Candidate> found;
-    for (API::point const direction : {API::point{1, 0}, API::point{0, 1}}) {
-        found.push_back({widthIn(drawing, direction), direction});
-    }
-    for (API::point const direction : directions(drawing.copper)) {
-        found.push_back({widthIn(drawing, direction), direction});
-    }
-    constexpr double noise = 1e-6; // the upright directions are preferred
-    auto const isLess = [](Candidate const & a, Candidate const & b) { return a.width < b.width - noise; };
-    Candidate best = *std::min_element(found.begin(), found.end(), isLess);
-    std::stable_sort(found.begin(), found.end(),
-                     [](Candidate const & a, Candidate const & b) { return a.width < b.width; });
-    for (std::size_t i = 0; i < std::min(found.size(), mostSearches); ++i) {
-        double const angle = leastNear(drawing, std::atan2(found[i].direction.y, found[i].direction.x));
-        Candidate const refined{widthAt(drawing, angle), {std::cos(angle), std::sin(angle)}};
-        best = isLess(refined, best) ? refined : best;
-    }
-    API::point const u = best.direction;
-    API::point const v{-u.y, u.x};
-    double const acrossMiddle = (reachOf(drawing, u) - reachOf(drawing, {-u.x, -u.y})) / 2;
-    double const alongMiddle = (reachOf(drawing, v) - reachOf(drawing, {-v.x, -v.y})) / 2;
-    return {best.width,
-            widthIn(drawing, v),
-            v,
-            {acrossMiddle * u.x + alongMiddle * v.x, acrossMiddle * u.y + alongMiddle * v.y}};
-}
 
 SymbolDrawing const & SymbolDrawings::find(Job const & job, std::string const & name)
 {

@@ -35,19 +35,6 @@ struct SymbolDrawing
     Box outlines;            ///< around the outlines of `copper`, if there are any
 };
 
-/// The measures of a drawing: its least width in any direction, the extent across that, and the middle of
-/// both.
-struct DrawingExtent
-{
-    double narrower = 0;
-    double wider = 0;
-    API::point along; ///< the direction of `wider`, of length 1
-    API::point middle;
-};
-
-/// The drawing is not empty.
-DrawingExtent extentOf(SymbolDrawing const & drawing);
-
 /// The drawings of a job's own symbols, each read once. Symbols within symbols are followed 16 deep. The
 /// corners of one symbol, and of all together, are limited.
 class SymbolDrawings

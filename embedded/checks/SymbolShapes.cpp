@@ -1,5 +1,6 @@
 #include "checks/SymbolShapes.h"
 
+#include "checks/DrawingExtent.h"
 #include "geometry/Stroke.h"
 
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr double pi = 3.14159265358979323846;
 constexpr double largest = 2.54e10; // micrometres; nothing on a board is larger
+constexpr std::size_t mostCorners = 1000;
 
 Shape rounded(double width, double height, double corner)
 {
@@ -219,6 +221,7 @@ SymbolShape shapeOf(SymbolDrawing const & drawing)
     if (shape.wider > 0 && shape.wider <= largest) {
         shape.kind = SymbolShape::Kind::Drawn;
         shape.copper = drawing.copper;
+        shape.isLarge = drawing.corners > mostCorners;
     } else {
         shape.problem = "its drawing has no measurable size";
     }

@@ -27,7 +27,8 @@ struct SymbolShape
     Kind kind = Kind::Unknown;
     Shape outer;
     Region copper; ///< for spacings: contains the symbol, and follows one of the job's own by its drawing
-    Shape inner;   ///< no corners: the symbol is not solid
+    bool isLarge = false; ///< `copper` has so many corners that it is not for every use
+    Shape inner;          ///< no corners: the symbol is not solid
     double narrower = 0;
     double wider = 0;
     API::point along{1, 0}; ///< the direction of `wider`, of length 1
