@@ -133,7 +133,7 @@ TEST_F(SymbolShapesTest, SizesAreThoseOfTheDrawing)
 // Holes and slots drawn with a symbol of the job's own, away from its origin.
 TEST_F(SymbolShapesTest, HolesFollowTheDrawing)
 {
-    draw(round);
+    draw("$0 r203.2\nL 0 0 0.0005 0 0 P 0\n"); // not a slot
     draw("$0 r400\nL 1 1 2 2 0 P 0\n", "slot");
     fill("drill", "UNITS=MM\n$0 own\n$1 slot\nP 5 5 0 P 0 0\nP 0 0 1 P 0 4\n");
     fill("top", "");
