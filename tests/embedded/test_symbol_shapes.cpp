@@ -37,6 +37,9 @@ constexpr char const * cup = // open on top
     "S P 0\nOB -1.5 -1.5 I\nOS 1.5 -1.5\nOS 1.5 1.5\nOS 0.6 1.5\nOS 0.6 -1\nOS -0.6 -1\nOS -0.6 1.5\n"
     "OS -1.5 1.5\nOE\nSE\n";
 constexpr char const * halfRing = "$0 r200\nA 1 0 -1 0 0 0 0 P 0 N\n"; // the upper half
+constexpr char const * hourglass =                                     // over another surface
+    "S P 0\nOB -0.1 -1.9 I\nOS 0.1 -1.9\nOS 0.1 -1.7\nOE\nSE\n"
+    "S P 0\nOB -2 -2 I\nOS 2 -2\nOS -2 2\nOS 2 2\nOE\nSE\n";
 constexpr char const * slanted =
     "S P 0\nOB 0.4242641 0.7071068 I\nOS 0.7071068 0.4242641\nOS -0.4242641 -0.7071068\n"
     "OS -0.7071068 -0.4242641\nOE\nSE\n";
@@ -62,6 +65,8 @@ TEST_F(SymbolShapesTest, SpacingFollowsTheDrawing)
              {ring, "0 0", 1000 - 100},
              {ring, "1.5 0", 0},
              {ring, "0.707107 2.121320", 2236.07 - 2000 - 100},
+             {hourglass, "0 -1.2", 0},
+             {hourglass, "1 0", 707.11 - 100},
              {halfRing, "0 0", 1000 - 200},
              {halfRing, "0 -1", 1414.21 - 200},
              {halfRing, "0 -1", 0, "2"},
@@ -118,6 +123,8 @@ TEST_F(SymbolShapesTest, SizesAreThoseOfTheDrawing)
              {slanted, 15, 400, 1600},
              {QByteArray(slanted).replace("-0.7071068 -0.4242641", "-0.7071068 0"), 27, 700, 1600},
              {"$0 r203.2\nL -0.3 -0.1 0.3 0.1 0 P 0\n", 8, 203, 836},
+             {"$0 r200\n$1 r474\n$2 r300\nP 0 0 0 P 0 0\nP 2 0 1 P 0 0\nP 0.85 0.96397 2 P 0 0\n", 49, 1270,
+              2332},
              {"$0 r200\n$1 r600\nP -1 0 0 P 0 0\nP 1 0 1 P 0 0\n", 23, 600, 2400},
          }) {
         draw(row.drawing);
