@@ -57,7 +57,9 @@
 /// more than 20,000 corners, or beyond 500,000 in all.
 ///
 /// **Spacing** is edge to edge, 0 where pads overlap. There is no distance limit for the nearest neighbour.
-/// If several are equally near, one of them is taken. Each pair is reported once.
+/// If several are equally near, one of them is taken. Each pair is reported once. Symbols of the job's own
+/// with more than 1000 corners are measured by the boxes around them if the SMD pads of a layer have more
+/// than a million of those corners; `notChecked` says so.
 ///
 /// **Rings.** A hole has the size drawn on the drill layer, whatever the size of its tool. Its kind comes
 /// from its `.drill` attribute, else from the tool with its code, else from a tool of its size, else it is

@@ -1,7 +1,5 @@
 #include "checks/PadChecks.h"
 
-#include "geometry/Region.h"
-#include "geometry/SpatialGrid.h"
 #include "geometry/Stroke.h"
 
 #include "support/Narrowing.h"

@@ -2,6 +2,7 @@
 
 #include "checks/CheckRecords.h"
 #include "checks/DrillChecks.h"
+#include "geometry/Region.h"
 #include "geometry/SpatialGrid.h"
 
 #include <array>
