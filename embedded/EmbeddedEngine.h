@@ -105,7 +105,7 @@ KVCAM_API_EXPORT int featureCount(std::string const & job, std::string const & s
 struct FeatureDrawing
 {
     double angle = 0;       ///< of a pad, degrees clockwise
-    bool mirrored = false;  ///< of a pad
+    bool mirrored = false;  ///< of a pad, after it is turned
     bool clockwise = false; ///< of an arc
     /// Unit of the sizes in the feature's symbol name: 0 mil, 1 micrometre; 0 for a surface. One layer may
     /// use the same name in both units.

@@ -51,31 +51,48 @@ void agreeOnTies(Lists & lists)
 } // namespace
 
 void checkCopper(CheckContext & context, API::layer_info const & layer, std::vector<Hole> const & holes,
-                 CheckResults & results)
+                 bool outer, CheckResults & results)
 {
     std::vector<Measurement> widths;
-    std::vector<Measurement> sizes;
     std::vector<Pad> all;
     context.forEachMeasurable(layer, "signal", [&](Feature const & feature, SymbolShape const & shape) {
         auto const & p = feature.points;
         if (feature.kind == 'P') {
-            sizes.push_back(measurement(5, shape.narrower, {p[0].x, p[0].y, shape.narrower, shape.wider}));
             all.push_back(
                 {placement(p[0], feature.angle, feature.mirrored), &shape, (feature.marks & markSmd) != 0});
         } else if (double const width = trackWidth(feature, shape);
                    !context.area().isOutline(feature, width)) {
-            widths.push_back(measurement(1, width, {p[0].x, p[0].y, p[1].x, p[1].y, width}));
+            bool const arc = feature.kind == 'A';
+            API::point const middle = arc ? arcMiddle(p[0], p[1], p[2], feature.clockwise) : API::point();
+            API::point const from = arc ? middle : p[0];
+            API::point const to = arc ? middle : p[1];
+            widths.push_back(measurement(1, width, {from.x, from.y, to.x, to.y, width}));
         }
     });
     PadChecks const checks(std::move(all), context);
 
     Lists & lists = results.signal[layer.name];
     list(lists, lines) = sorted(std::move(widths));
-    list(lists, pads) = sorted(std::move(sizes));
+    list(lists, pads) = sorted(checks.sizes());
     list(lists, smdToSmd) = sorted(checks.smdSpacings());
-    std::array<std::vector<Measurement>, 3> found = checks.rings(holes, layer.row);
+    if (checks.isCoarse()) {
+        context.note({"signal", -1, layer.name,
+                      "The SMD pads drawn with large symbols of the job's own are too many: their spacing is "
+                      "that of the boxes around them."});
+    }
+    PadChecks::Rings found = checks.rings(holes, layer.row);
     for (std::size_t kind = 0; kind < rings.size(); ++kind) {
-        list(lists, rings.at(kind)) = sorted(std::move(found.at(kind)));
+        list(lists, rings.at(kind)) = sorted(std::move(found.byKind.at(kind)));
+    }
+    if (outer && found.withoutPad != 0) {
+        context.note({"signal", -1, layer.name,
+                      "Plated holes without a pad on this outer layer (" + std::to_string(found.withoutPad) +
+                          "): they have no ring."});
+    }
+    if (found.beside != 0) {
+        context.note({"signal", -1, layer.name,
+                      "Plated holes whose pad does not cover their centre with solid copper (" +
+                          std::to_string(found.beside) + "): they have no ring."});
     }
     agreeOnTies(lists);
 }

@@ -7,8 +7,8 @@
 namespace KVCAM::Embedded {
 
 /// Measures the tracks, pads, SMD spacings and rings of a copper layer and adds them to the results. Only the
-/// holes that pass through its row count.
+/// holes that pass through its row count; on an outer layer each of them needs a pad.
 void checkCopper(CheckContext & context, API::layer_info const & layer, std::vector<Hole> const & holes,
-                 CheckResults & results);
+                 bool outer, CheckResults & results);
 
 } // namespace KVCAM::Embedded

@@ -21,6 +21,8 @@ constexpr int slotItem = 10;
 constexpr std::size_t slotList = 3; // the list that the board's summary counts
 // Drill checks by kind of hole.
 constexpr std::array<int, 3> summaryItems{0, 1, 2};
+constexpr std::array<int, 3> slotSummaryItems{3, 4, 3};
+constexpr double roundness = 1; // micrometres; a hole that is hardly longer than wide is round
 
 std::optional<HoleKind> kindOf(Tool const & tool)
 {
@@ -30,8 +32,10 @@ std::optional<HoleKind> kindOf(Tool const & tool)
     return found == kinds.end() ? std::nullopt : std::optional(found->second);
 }
 
-HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools)
+// What nothing tells the kind of is drilled before plating and routed after it.
+HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools, bool drill)
 {
+    HoleKind const usual = drill ? HoleKind::Plated : HoleKind::NonPlated;
     if (feature.drill >= 0) {
         return static_cast<HoleKind>(feature.drill);
     }
@@ -43,7 +47,7 @@ HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> cons
             return std::abs(each.finishSize - diameter) < 0.1 || std::abs(each.drillSize - diameter) < 0.1;
         });
     }
-    return tool == tools.end() ? HoleKind::Plated : kindOf(*tool).value_or(HoleKind::Plated);
+    return tool == tools.end() ? usual : kindOf(*tool).value_or(usual);
 }
 
 // The rows that a layer passes through; all rows if the matrix does not name both ends.
@@ -68,51 +72,75 @@ std::pair<API::point, API::point> middleLine(Feature const & feature, SymbolShap
     if (feature.kind != 'P') {
         return {feature.points[0], feature.points[1]};
     }
-    Box const box = extent(shape.outer);
-    double const half = (shape.wider - shape.narrower) / 2;
-    bool const lying = box.right - box.left > box.top - box.bottom;
-    API::point const end{lying ? half : 0, lying ? 0 : half};
+    double const length = shape.wider - shape.narrower;
+    double const half = length < roundness ? 0 : length / 2;
+    API::point const way{half * shape.along.x, half * shape.along.y};
     Placement const where = placement(feature.points[0], feature.angle, feature.mirrored);
-    return {placed(API::point{-end.x, -end.y}, where), placed(end, where)};
+    return {placed(API::point{shape.middle.x - way.x, shape.middle.y - way.y}, where),
+            placed(API::point{shape.middle.x + way.x, shape.middle.y + way.y}, where)};
 }
 
 struct Slot
 {
-    Measurement record;
-    API::point from;
-    API::point to;
+    Hole hole;
+    std::optional<API::point> arcMiddle; // of a slot that is an arc
 };
+
+Measurement recordOf(Slot const & slot)
+{
+    API::point const from = slot.arcMiddle.value_or(slot.hole.place);
+    API::point const to = slot.arcMiddle.value_or(slot.hole.end);
+    double const width = slot.hole.diameter;
+    return measurement(1, width, {from.x, from.y, to.x, to.y, width});
+}
 
 // Drops full circles and anything joined end to end with another element: they are the rout path. The same
 // slot drawn twice is not a path.
-std::vector<Measurement> withoutPaths(std::vector<Slot> slots)
+std::vector<Slot> withoutPaths(std::vector<Slot> const & slots)
 {
     using Key = std::pair<std::int64_t, std::int64_t>;
     auto const key = [](API::point p) { return Key(UIAPI::nearestInt64(p.x), UIAPI::nearestInt64(p.y)); };
     std::map<Key, std::set<Key>> joined;
     for (Slot const & slot : slots) {
-        joined[key(slot.from)].insert(key(slot.to));
-        joined[key(slot.to)].insert(key(slot.from));
+        joined[key(slot.hole.place)].insert(key(slot.hole.end));
+        joined[key(slot.hole.end)].insert(key(slot.hole.place));
     }
-    std::vector<Measurement> records;
-    for (Slot & slot : slots) {
-        Key const from = key(slot.from);
-        Key const to = key(slot.to);
+    std::vector<Slot> kept;
+    for (Slot const & slot : slots) {
+        Key const from = key(slot.hole.place);
+        Key const to = key(slot.hole.end);
         if (from != to && joined.at(from).size() == 1 && joined.at(to).size() == 1) {
-            records.push_back(std::move(slot.record));
+            kept.push_back(slot);
         }
     }
-    return records;
+    return kept;
 }
 
-std::vector<Measurement> recordsOf(std::vector<Slot> slots)
+void fileSlots(CheckContext & context, std::string const & layer, std::vector<Slot> const & slots,
+               CheckResults & results, std::vector<Hole> & holes)
 {
     std::vector<Measurement> records;
-    records.reserve(slots.size());
-    for (Slot & slot : slots) {
-        records.push_back(std::move(slot.record));
+    std::map<int, std::vector<Measurement>> summaries;
+    int arcs = 0;
+    for (Slot const & slot : slots) {
+        records.push_back(recordOf(slot));
+        summaries[slotSummaryItems.at(static_cast<std::size_t>(slot.hole.kind))].push_back(recordOf(slot));
+        if (slot.arcMiddle) {
+            ++arcs;
+        } else {
+            holes.push_back(slot.hole);
+        }
     }
-    return records;
+    results.rest[slotItem][layer].at(slotList) = sorted(std::move(records));
+    for (auto & [item, summary] : summaries) {
+        for (API::check_info & record : sorted(std::move(summary))) {
+            results.drill[layer].add(static_cast<API::drill_check_item>(item), 0, std::move(record));
+        }
+    }
+    if (arcs != 0) {
+        context.note(
+            {"drill", -1, layer, "The rings of slots that are arcs (" + std::to_string(arcs) + ")."});
+    }
 }
 
 } // namespace
@@ -129,19 +157,21 @@ void checkDrills(CheckContext & context, API::layer_info const & layer, CheckRes
     context.forEachMeasurable(layer, "drill", [&](Feature const & feature, SymbolShape const & shape) {
         double const width = shape.narrower;
         auto const [from, to] = middleLine(feature, shape);
-        bool const round = feature.kind != 'A' && distance(from, to) == 0;
+        bool const arc = feature.kind == 'A';
+        bool const round = !arc && distance(from, to) == 0;
+        Hole const hole{from, to, width, kindOf(feature, width, tools, drill), rows.first, rows.second};
         if (round && drill) {
-            HoleKind const kind = kindOf(feature, width, tools);
-            holes.push_back({from, width, kind, rows.first, rows.second});
-            summaries.at(static_cast<std::size_t>(kind))
+            holes.push_back(hole);
+            summaries.at(static_cast<std::size_t>(hole.kind))
                 .push_back(measurement(5, width, {from.x, from.y, width, width}));
         } else if (!round && (feature.kind == 'P' || !context.area().isOutline(feature, width))) {
-            slots.push_back({measurement(1, width, {from.x, from.y, to.x, to.y, width}), from, to});
+            slots.push_back(
+                {hole, arc ? std::optional(arcMiddle(from, to, feature.points[2], feature.clockwise))
+                           : std::nullopt});
         }
     });
 
-    results.rest[slotItem][layer.name].at(slotList) =
-        sorted(drill ? recordsOf(std::move(slots)) : withoutPaths(std::move(slots)));
+    fileSlots(context, layer.name, drill ? slots : withoutPaths(slots), results, holes);
     if (drill) {
         auto & reply = results.drill[layer.name];
         for (std::size_t kind = 0; kind < summaries.size(); ++kind) {

@@ -14,17 +14,19 @@ enum class HoleKind : int
     Via
 };
 
-/// A round hole and the matrix rows it passes through.
+/// A round hole or a straight slot, and the matrix rows it passes through.
 struct Hole
 {
-    API::point place;
-    double diameter = 0;
+    API::point place;    ///< the centre; of a slot one end of its centre line
+    API::point end;      ///< of a slot the other end; of a round hole its place
+    double diameter = 0; ///< of a slot its width
     HoleKind kind = HoleKind::Plated;
     int firstRow = 0;
     int lastRow = std::numeric_limits<int>::max();
 };
 
-/// Measures the holes and slots of a drill or rout layer into the results. Appends the holes to `holes`.
+/// Measures the holes and slots of a drill or rout layer into the results. Appends them to `holes`, except
+/// slots that are arcs.
 void checkDrills(CheckContext & context, API::layer_info const & layer, CheckResults & results,
                  std::vector<Hole> & holes);
 

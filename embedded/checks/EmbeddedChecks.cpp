@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <map>
 #include <string>
 #include <utility>
@@ -80,6 +81,18 @@ void noteRepeats(CheckContext & context)
     }
 }
 
+// The rows of the first and the last copper layer.
+std::pair<int, int> outerRows(Matrix const & matrix)
+{
+    std::pair<int, int> rows{std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
+    for (API::layer_info const & layer : matrix.layers) {
+        if (layer.context == "board" && isCopper(layer)) {
+            rows = {std::min(rows.first, layer.row), std::max(rows.second, layer.row)};
+        }
+    }
+    return rows;
+}
+
 CheckResults run(CheckContext & context)
 {
     noteRepeats(context);
@@ -97,8 +110,10 @@ CheckResults run(CheckContext & context)
         checkDrills(context, layer, results, holes);
         context.endStage();
     }
+    std::pair<int, int> const rows = outerRows(context.job().matrix());
     for (API::layer_info const & layer : coppers) {
-        checkCopper(context, layer, holes, results);
+        bool const outer = layer.row == rows.first || layer.row == rows.second;
+        checkCopper(context, layer, holes, outer, results);
         context.endStage();
     }
     results.notChecked = context.takeNotes();

@@ -1,5 +1,8 @@
 #include "checks/SymbolShapes.h"
 
+#include "checks/DrawingExtent.h"
+#include "geometry/Stroke.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,27 +14,14 @@ namespace {
 
 constexpr double pi = 3.14159265358979323846;
 constexpr double largest = 2.54e10; // micrometres; nothing on a board is larger
-
-bool same(API::point a, API::point b)
-{
-    return a.x == b.x && a.y == b.y;
-}
-
-Shape polygon(std::vector<API::point> corners, double radius = 0)
-{
-    corners.erase(std::unique(corners.begin(), corners.end(), same), corners.end());
-    while (corners.size() > 1 && same(corners.front(), corners.back())) {
-        corners.pop_back();
-    }
-    return {std::move(corners), radius};
-}
+constexpr std::size_t mostCorners = 1000;
 
 Shape rounded(double width, double height, double corner)
 {
     double const r = std::min({corner, width / 2, height / 2});
     double const x = width / 2 - r;
     double const y = height / 2 - r;
-    return polygon({{-x, -y}, {x, -y}, {x, y}, {-x, y}}, r);
+    return convexShape({{-x, -y}, {x, -y}, {x, y}, {-x, y}}, r);
 }
 
 Shape cut(double width, double height, double corner)
@@ -39,14 +29,14 @@ Shape cut(double width, double height, double corner)
     double const c = std::min({corner, width / 2, height / 2});
     double const x = width / 2;
     double const y = height / 2;
-    return polygon({{-x + c, -y},
-                    {x - c, -y},
-                    {x, -y + c},
-                    {x, y - c},
-                    {x - c, y},
-                    {-x + c, y},
-                    {-x, y - c},
-                    {-x, -y + c}});
+    return convexShape({{-x + c, -y},
+                        {x - c, -y},
+                        {x, -y + c},
+                        {x, y - c},
+                        {x - c, y},
+                        {-x + c, y},
+                        {-x, y - c},
+                        {-x, -y + c}});
 }
 
 Shape circle(double diameter)
@@ -64,7 +54,7 @@ Shape ellipse(double width, double height, bool about)
         double const angle = 2 * pi * (i + (about ? 0.5 : 0)) / corners;
         points.push_back({factor * width / 2 * std::cos(angle), factor * height / 2 * std::sin(angle)});
     }
-    return polygon(std::move(points));
+    return convexShape(std::move(points));
 }
 
 SymbolShape solid(double width, double height, Shape outer, std::optional<Shape> inner = std::nullopt)
@@ -73,6 +63,7 @@ SymbolShape solid(double width, double height, Shape outer, std::optional<Shape>
     shape.kind = width > 0 && height > 0 ? SymbolShape::Kind::Drawn : SymbolShape::Kind::Empty;
     shape.narrower = std::min(width, height);
     shape.wider = std::max(width, height);
+    shape.along = width >= height ? API::point{1, 0} : API::point{0, 1};
     shape.inner = inner ? std::move(*inner) : outer;
     shape.outer = std::move(outer);
     return shape;
@@ -110,6 +101,17 @@ SymbolShape oval(double width, double height)
     return solid(width, height, rounded(width, height, std::min(width, height)));
 }
 
+// The round end is on the right.
+SymbolShape halfOval(double width, double height)
+{
+    SymbolShape shape = solid(width, height, rounded(width, height, 0), oval(width, height).inner);
+    double const x = width / 2;
+    double const y = height / 2;
+    double const end = x - std::min(x, y);
+    shape.copper.pieces = {shape.inner, convexShape({{-x, -y}, {end, -y}, {end, y}, {-x, y}})};
+    return shape;
+}
+
 // Families other than rectangles, ovals and circles and their donuts and thermals.
 SymbolShape cornered(SymbolFamily family, double w, double h, double corner)
 {
@@ -117,22 +119,22 @@ SymbolShape cornered(SymbolFamily family, double w, double h, double corner)
     double const y = h / 2;
     switch (family) {
     case SymbolFamily::HalfOval:
-        return solid(w, h, rounded(w, h, 0), oval(w, h).inner);
+        return halfOval(w, h);
     case SymbolFamily::Diamond:
-        return solid(w, h, polygon({{-x, 0}, {0, -y}, {x, 0}, {0, y}}));
+        return solid(w, h, convexShape({{-x, 0}, {0, -y}, {x, 0}, {0, y}}));
     case SymbolFamily::Octagon:
         return solid(w, h, cut(w, h, corner));
     case SymbolFamily::Ellipse:
         return solid(w, h, ellipse(w, h, true), ellipse(w, h, false));
     case SymbolFamily::Triangle:
-        return solid(w, h, polygon({{-x, -y}, {x, -y}, {0, y}}));
+        return solid(w, h, convexShape({{-x, -y}, {x, -y}, {0, y}}));
     case SymbolFamily::LyingHexagon: {
         double const c = x - std::min(corner, x);
-        return solid(w, h, polygon({{-x, 0}, {-c, -y}, {c, -y}, {x, 0}, {c, y}, {-c, y}}));
+        return solid(w, h, convexShape({{-x, 0}, {-c, -y}, {c, -y}, {x, 0}, {c, y}, {-c, y}}));
     }
     case SymbolFamily::StandingHexagon: {
         double const c = y - std::min(corner, y);
-        return solid(w, h, polygon({{0, -y}, {x, -c}, {x, c}, {0, y}, {-x, c}, {-x, -c}}));
+        return solid(w, h, convexShape({{0, -y}, {x, -c}, {x, c}, {0, y}, {-x, c}, {-x, -c}}));
     }
     default:
         return {};
@@ -196,62 +198,34 @@ SymbolShape shapeOf(StandardSymbol const & symbol, double scale)
     return {};
 }
 
-// The box around a graphic of a symbol's drawing; nothing if the graphic's symbol is not a standard symbol.
-std::optional<Box> extent(FeaturesFile const & drawing, Feature const & feature)
+SymbolShape shapeOf(SymbolDrawing const & drawing)
 {
-    if (feature.kind == 'S') {
-        Box box = boxOf(feature.contours.front().start);
-        for (Contour const & contour : feature.contours) {
-            API::point from = contour.start;
-            include(box, from);
-            for (Side const & side : contour.sides) {
-                double const r = side.arc ? distance(from, side.centre) : 0;
-                API::point const about = side.arc ? side.centre : side.to;
-                include(box, {about.x - r, about.y - r});
-                include(box, {about.x + r, about.y + r});
-                include(box, side.to);
-                from = side.to;
-            }
-        }
-        return box;
+    SymbolShape shape;
+    shape.problem = drawing.problem;
+    if (!drawing.problem.empty()) {
+        return shape;
     }
-    SymbolEntry const & symbol = drawing.symbols.at(feature.symbol);
-    auto const standard = standardSymbol(symbol.name);
-    SymbolShape const shape = standard ? standardShape(*standard, symbol.unit) : SymbolShape();
-    if (shape.kind == SymbolShape::Kind::Unknown) {
-        return std::nullopt;
+    if (drawing.parts.empty()) {
+        shape.kind = SymbolShape::Kind::Empty;
+        shape.problem = "its drawing is empty";
+        return shape;
     }
-    if (feature.kind == 'P') {
-        return extent(placed(shape.outer, placement(feature.points[0], feature.angle, feature.mirrored)));
+    DrawingExtent const extents = extentOf(drawing);
+    Box const box = extent(drawing.copper);
+    shape.narrower = extents.narrower;
+    shape.wider = std::max(extents.narrower, extents.wider);
+    shape.along = extents.along;
+    shape.middle = extents.middle;
+    shape.outer = convexShape(
+        {{box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}});
+    if (shape.wider > 0 && shape.wider <= largest) {
+        shape.kind = SymbolShape::Kind::Drawn;
+        shape.copper = drawing.copper;
+        shape.isLarge = drawing.corners > mostCorners;
+    } else {
+        shape.problem = "its drawing has no measurable size";
     }
-    // A pen, along a line or all round an arc's circle.
-    bool const arc = feature.kind == 'A';
-    double const r = reach(shape.outer, {}) + (arc ? distance(feature.points[0], feature.points[2]) : 0);
-    Box box = boxOf(arc ? feature.points[2] : feature.points[0]);
-    include(box, arc ? feature.points[2] : feature.points[1]);
-    return Box{box.left - r, box.bottom - r, box.right + r, box.top + r};
-}
-
-SymbolShape shapeOf(FeaturesFile const & drawing)
-{
-    std::optional<Box> whole;
-    for (Feature const & feature : drawing.features) {
-        if (!feature.positive) {
-            continue;
-        }
-        auto const box = extent(drawing, feature);
-        if (!box) {
-            return {};
-        }
-        whole = whole ? *whole : *box;
-        include(*whole, {box->left, box->bottom});
-        include(*whole, {box->right, box->top});
-    }
-    Box const box = whole.value_or(Box());
-    return hollow(solid(
-        box.right - box.left, box.top - box.bottom,
-        polygon(
-            {{box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}})));
+    return shape;
 }
 
 } // namespace
@@ -259,7 +233,13 @@ SymbolShape shapeOf(FeaturesFile const & drawing)
 SymbolShape standardShape(StandardSymbol const & symbol, int unit)
 {
     SymbolShape shape = shapeOf(symbol, unit == 0 ? 25.4 : 1);
-    return shape.wider <= largest ? shape : SymbolShape();
+    if (shape.wider > largest) {
+        return {};
+    }
+    if (shape.copper.pieces.empty() && shape.kind == SymbolShape::Kind::Drawn) {
+        shape.copper.pieces = {shape.outer};
+    }
+    return shape;
 }
 
 SymbolShape const & SymbolShapes::find(Job const & job, SymbolEntry const & symbol)
@@ -268,11 +248,8 @@ SymbolShape const & SymbolShapes::find(Job const & job, SymbolEntry const & symb
     if (added) {
         if (auto const standard = standardSymbol(symbol.name)) {
             place->second = standardShape(*standard, symbol.unit);
-        } else if (auto const drawing = job.symbolDrawing(symbol.name)) {
-            place->second = shapeOf(*drawing);
-        }
-        if (place->second.kind == SymbolShape::Kind::Drawn) {
-            place->second.copper.pieces = {place->second.outer};
+        } else {
+            place->second = shapeOf(m_drawings.find(job, symbol.name));
         }
     }
     return place->second;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "checks/SymbolDrawing.h"
 #include "formats/FeaturesFile.h"
 #include "geometry/CheckGeometry.h"
 #include "geometry/Region.h"
@@ -25,12 +26,15 @@ struct SymbolShape
 
     Kind kind = Kind::Unknown;
     Shape outer;
-    Region
-        copper;  ///< for spacings: contains the symbol, and follows a symbol of the job's own by its drawing
-    Shape inner; ///< no corners: the symbol is not solid
+    Region copper; ///< for spacings: contains the symbol, and follows one of the job's own by its drawing
+    bool isLarge = false; ///< `copper` has so many corners that it is not for every use
+    Shape inner;          ///< no corners: the symbol is not solid
     double narrower = 0;
     double wider = 0;
-    double opening = 0; ///< radius of a circle about the origin that contains a donut's opening
+    API::point along{1, 0}; ///< the direction of `wider`, of length 1
+    API::point middle;      ///< of both widths
+    double opening = 0;     ///< radius of a circle about the origin that contains a donut's opening
+    std::string problem;    ///< of an unknown or empty symbol of the job's own, as the end of a sentence
 };
 
 SymbolShape standardShape(StandardSymbol const & symbol, int unit);
@@ -44,6 +48,7 @@ public:
 
 private:
     std::map<std::pair<std::string, int>, SymbolShape> m_shapes;
+    SymbolDrawings m_drawings;
 };
 
 } // namespace KVCAM::Embedded

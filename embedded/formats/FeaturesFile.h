@@ -41,7 +41,7 @@ struct Feature
     char kind = 'P';
     bool positive = true;
     bool clockwise = false; ///< of an arc
-    bool mirrored = false;  ///< of a pad
+    bool mirrored = false;  ///< of a pad, after it is turned
     std::uint8_t marks = 0; ///< which Mark attributes it has
     std::int8_t drill = -1; ///< the option of its .drill: 0 plated, 1 non-plated, 2 via; -1 for none
     double angle = 0;       ///< of a pad, degrees clockwise

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "formats/FeaturesFile.h"
+#include "geometry/CheckGeometry.h"
 #include "geometry/Profile.h"
+#include "geometry/Region.h"
 #include "geometry/SpatialGrid.h"
 
 #include <array>
@@ -20,6 +22,12 @@ public:
     bool holds(API::point point) const;
     /// Whether a pad's place, or the ends and the middle of a line or arc, are inside.
     bool holds(Feature const & feature) const;
+    /// Whether one of these points is inside.
+    bool holdsSome(Feature const & feature) const;
+    /// Whether the outline comes within the box.
+    bool passes(Box const & box) const;
+    /// Whether the outline runs through the region, not just along its edge.
+    bool crosses(Region const & region) const;
     /// Whether a line or arc of this width runs along the profile: its ends and its middle are within half
     /// its width of it.
     bool isOutline(Feature const & feature, double width) const;
@@ -27,6 +35,7 @@ public:
 private:
     using Edge = std::array<API::point, 2>;
 
+    bool crosses(Shape const & shape) const;
     bool nearEdge(API::point point, double within) const;
 
     bool m_all; // no profile

@@ -134,9 +134,9 @@ Placement placement(API::point place, double degreesClockwise, bool mirrored)
 
 API::point placed(API::point point, Placement const & where)
 {
-    double const x = where.mirrored ? -point.x : point.x;
-    return {where.place.x + x * where.cosine + point.y * where.sine,
-            where.place.y - x * where.sine + point.y * where.cosine};
+    double const x = point.x * where.cosine + point.y * where.sine;
+    return {where.place.x + (where.mirrored ? -x : x),
+            where.place.y - point.x * where.sine + point.y * where.cosine};
 }
 
 Shape placed(Shape shape, Placement const & where)
@@ -149,9 +149,9 @@ Shape placed(Shape shape, Placement const & where)
 
 API::point unplaced(API::point point, Placement const & where)
 {
-    API::point const moved = point - where.place;
-    double const x = moved.x * where.cosine - moved.y * where.sine;
-    return {where.mirrored ? -x : x, moved.x * where.sine + moved.y * where.cosine};
+    API::point moved = point - where.place;
+    moved.x = where.mirrored ? -moved.x : moved.x;
+    return {moved.x * where.cosine - moved.y * where.sine, moved.x * where.sine + moved.y * where.cosine};
 }
 
 double distance(API::point a, API::point b)
@@ -248,13 +248,19 @@ Gap gapBetween(Shape const & a, Shape const & b)
             inner.to - b.radius / inner.distance * way};
 }
 
+double arcSweep(API::point start, API::point end, API::point centre, bool clockwise)
+{
+    double const begin = std::atan2(start.y - centre.y, start.x - centre.x);
+    double const finish = std::atan2(end.y - centre.y, end.x - centre.x);
+    double const sweep = clockwise ? begin - finish : finish - begin;
+    return sweep + (sweep <= 1e-12 ? 2 * pi : 0);
+}
+
 API::point arcMiddle(API::point start, API::point end, API::point centre, bool clockwise)
 {
     double const radius = distance(start, centre);
     double const begin = std::atan2(start.y - centre.y, start.x - centre.x);
-    double const finish = std::atan2(end.y - centre.y, end.x - centre.x);
-    double sweep = clockwise ? begin - finish : finish - begin;
-    sweep += sweep <= 1e-12 ? 2 * pi : 0;
+    double const sweep = arcSweep(start, end, centre, clockwise);
     double const middle = begin + (clockwise ? -sweep : sweep) / 2;
     return {centre.x + radius * std::cos(middle), centre.y + radius * std::sin(middle)};
 }

@@ -18,7 +18,8 @@ struct Shape
     double radius = 0;
 };
 
-/// Placement of a symbol: mirrored first (left and right exchanged), then rotated, then moved to `place`.
+/// Placement of a symbol: rotated clockwise first, then mirrored (left and right exchanged), then moved to
+/// `place`.
 struct Placement
 {
     API::point place;
@@ -59,6 +60,8 @@ struct Gap
 };
 Gap gapBetween(Shape const & a, Shape const & b);
 
+/// The angle that an arc turns through, in radians; above 0, and 2 pi for equal ends.
+double arcSweep(API::point start, API::point end, API::point centre, bool clockwise);
 /// The midpoint of an arc. Equal ends make a full circle.
 API::point arcMiddle(API::point start, API::point end, API::point centre, bool clockwise);
 

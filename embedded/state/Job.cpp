@@ -222,6 +222,7 @@ LayerGraphics & Job::readGraphics(Step & owner, std::string const & layer)
         file = folder.file("features.tables");
     }
     if (file.isEmpty()) {
+        owner.nothing.missing = true;
         return owner.nothing;
     }
     Budget budget = m_budget;

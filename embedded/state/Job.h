@@ -27,6 +27,7 @@ struct LayerGraphics
     FeaturesFile file;
     std::vector<bool> deleted; ///< as many as features
     bool cutToTables = false;  ///< the file holds only the head and the tables
+    bool missing = false;      ///< there is no file
 };
 
 /// One deletion: the layer and the ascending indices of the deleted features.

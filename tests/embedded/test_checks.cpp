@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <set>
 
 using namespace KVCAM;
 using namespace KVCAM::Testing;
@@ -50,19 +49,20 @@ TEST_F(ChecksTest, TracksAndPadsAreTheDrawnCopperOfTheBoard)
     ASSERT_TRUE(open()) << Embedded::lastError();
     deleteFeature(16);
     auto const results = check();
-    EXPECT_EQ(
-        texts(signal(results, "top", 46)),
-        (Texts{"1 3: 5000 5000 7000 5000 100", "1 5: 1000 2000 2000 3000 141", "1 7: 1000 1000 5000 1000 200",
-               "1 7: 200 45000 200 40000 200", "1 7: 35000 48500 34000 49500 200",
-               "1 9: 9000 9000 9000 9000 250", "1 19: 1000 4000 2000 4000 500"}));
+    EXPECT_EQ(texts(signal(results, "top", 46)),
+              (Texts{"1 3: 6000 6000 6000 6000 100", "1 5: 1000 2000 2000 3000 141",
+                     "1 7: 1000 1000 5000 1000 200", "1 7: 200 45000 200 40000 200",
+                     "1 7: 40000 40000 60000 40000 200", "1 7: 19000 25000 31000 25000 200",
+                     "1 7: 34293 48793 34293 48793 200", "1 7: 25707 50207 25707 50207 200",
+                     "1 9: 9000 9000 9000 9000 250", "1 19: 1000 4000 2000 4000 500"}))
+        << "arcs at their middle";
     EXPECT_EQ(texts(signal(results, "top", 45)),
-              (Texts{"5 7: 3000 3000 200 200", "5 7: 3000 3000 200 200", "5 9: 50000 50000 250 400",
-                     "5 11: 3000 4000 300 500"}));
+              (Texts{"5 7: 3000 3000 200 200", "5 9: 50000 50000 250 400", "5 11: 3000 4000 300 500"}));
     for (std::size_t list = 1; list < 4; ++list) {
         EXPECT_TRUE(signal(results, "top", 46, list).empty());
     }
     ASSERT_TRUE(API::Undo("board", "pcb"));
-    EXPECT_EQ(signal(check(), "top", 46).size(), 8U);
+    EXPECT_EQ(signal(check(), "top", 46).size(), 11U);
 }
 
 TEST_F(ChecksTest, ValueIsWholeMilAndNeverMore)
@@ -164,7 +164,7 @@ TEST_F(ChecksTest, SlotsAreWhatIsNotRound)
     write("jobs/board/steps/pcb/profile", profile);
     fill("drill", "UNITS=MM\n$0 r800\n$1 oval1000x2000\n$2 s600\n"
                   "L 1 1 3 1 0 P 0\nP 5 5 1 P 0 0\nP 9 9 1 P 0 8 45\nL 7 7 7 7 0 P 0\nP 8 7 2 P 0 0\n"
-                  "A 11 11 13 11 12 11 0 P 0 N\n");
+                  "P 9 9 1 P 0 9 45\nA 11 11 13 11 12 11 0 P 0 N\n");
     fill("slots", "UNITS=MM\n$0 r1000\nP 2 2 0 P 0 0\nL 2 4 2 9 0 P 0\nL 2 9 2 4 0 P 0\n" // drawn twice
                   "L 0 0 50 0 0 P 0\nL 50 0 50 50 0 P 0\n"                                // along the board
                   "L 40 40 42 40 0 P 0\nL 42 40 42 42 0 P 0\n"                            // round a corner
@@ -174,51 +174,18 @@ TEST_F(ChecksTest, SlotsAreWhatIsNotRound)
     ASSERT_EQ(results.rest.size(), 1U);
     auto & cuts = results.rest.at(10);
     EXPECT_EQ(texts(cuts.at("drill")[3]),
-              (Texts{"1 31: 1000 1000 3000 1000 800", "1 31: 11000 11000 13000 11000 800",
-                     "1 39: 5000 4500 5000 5500 1000", "1 39: 8646 8646 9354 9354 1000"}));
+              (Texts{"1 31: 1000 1000 3000 1000 800", "1 31: 12000 10000 12000 10000 800",
+                     "1 39: 5000 4500 5000 5500 1000", "1 39: 8646 8646 9354 9354 1000",
+                     "1 39: 9354 8646 8646 9354 1000"}));
     EXPECT_EQ(texts(cuts.at("slots")[3]),
               (Texts{"1 39: 2000 4000 2000 9000 1000", "1 39: 2000 9000 2000 4000 1000"}));
     EXPECT_TRUE(cuts.at("empty")[3].empty());
     EXPECT_TRUE(cuts.at("drill")[0].empty() && cuts.at("drill")[1].empty() && cuts.at("drill")[2].empty());
-    EXPECT_EQ(results.drill.size(), 1U) << "no holes in a rout layer";
+    EXPECT_EQ(texts(drill(results, "drill", 3)), texts(cuts.at("drill")[3])) << "plated";
+    EXPECT_EQ(texts(drill(results, "slots", 4)), texts(cuts.at("slots")[3])) << "routed after plating";
+    EXPECT_TRUE(drill(results, "slots", 0).empty()) << "no holes in a rout layer";
     EXPECT_EQ(texts(drill(results, "drill", 0)),
               (Texts{"5 23: 8000 7000 600 600", "5 31: 7000 7000 800 800"}));
-}
-
-TEST_F(ChecksTest, SaysWhatWasNotChecked)
-{
-    makeJob(row(1, "TOP", "SIGNAL") + row(2, "PLANE", "POWER_GROUND").replace("POSITIVE", "NEGATIVE") +
-            row(3, "CUT", "SIGNAL") + row(4, "SILK", "SILK_SCREEN") +
-            row(5, "NOTE", "SIGNAL").replace("=BOARD", "=MISC"));
-    fill("top",
-         "$0 own\n$1 r5\n$2 thr20x10x0x4x5\nP 0 0 0 P 0 0\nP 0 0 1 N 0 0\nL 0 0 1 1 2 P 0\nP 1 1 2 P 0 0\n");
-    fill("plane", "$0 r5\nP 0 0 0 P 0 0\n");
-    fill("cut", "$0 r5\n", "features.tables");
-    ASSERT_TRUE(open()) << Embedded::lastError();
-    auto const results = check();
-    EXPECT_EQ(results.signal.size(), 2U) << "neither the negative layer nor others";
-    EXPECT_EQ(signal(results, "top", 45).size(), 1U);
-
-    std::set<std::string> numbers;
-    Texts layers;
-    for (Embedded::NotChecked const & each : results.notChecked) {
-        if (each.layer.empty()) {
-            EXPECT_NE(each.reason, "");
-            numbers.insert(each.table + ' ' + std::to_string(each.item));
-        } else {
-            EXPECT_EQ(each.item, -1);
-            layers.push_back(each.table + ' ' + each.layer + ": " + each.reason);
-        }
-    }
-    EXPECT_EQ(numbers,
-              (std::set<std::string>{"drill 28", "drill 29", "drill 34", "drill 35", "signal 14", "signal 15",
-                                     "signal 26", "signal 29", "signal 3", "signal 4", "signal 43"}));
-    EXPECT_EQ(layers,
-              (Texts{"signal plane: The layer is negative: it draws what is taken away.",
-                     "signal top: Erasing features (1): what they take from others is not seen.",
-                     "signal top: Features drawn with symbols that cannot be measured so (2), such as "
-                     "thr20x10x0x4x5.",
-                     "signal cut: The job holds no features of this layer, only their tables."}));
 }
 
 TEST_F(ChecksTest, FailureLeavesNothingAndSaysWhy)
@@ -308,7 +275,7 @@ Texts summary(Embedded::CheckResults const & results)
         }
     }
     for (auto const & [layer, reply] : results.drill) {
-        for (int const item : {0, 1, 2}) {
+        for (int const item : {0, 1, 2, 3, 4}) {
             add(layer, item, reply.list(static_cast<API::drill_check_item>(item), 0));
         }
     }
@@ -332,30 +299,32 @@ TEST(SampleChecksTest, MeasureTheSampleJob)
     expectSummary(folder, {"demo-board",
                            "pcb",
                            {"bottom 12: 31",
-                            "bottom 31: 13 of 28",
+                            "bottom 31: 11 of 30",
                             "bottom 33: 5 of 28",
                             "bottom 45: 23 of 66",
                             "bottom 46: 9 of 17",
-                            "l3_sig 31: 13 of 28",
+                            "l3_sig 31: 11 of 30",
                             "l3_sig 33: 5 of 28",
                             "l3_sig 45: 23 of 58",
                             "l3_sig 46: 5 of 24",
-                            "l4_sig 31: 13 of 28",
+                            "l4_sig 31: 11 of 30",
                             "l4_sig 33: 5 of 28",
                             "l4_sig 45: 23 of 58",
                             "l4_sig 46: 7 of 6",
-                            "l5_sig 31: 13 of 28",
+                            "l5_sig 31: 11 of 30",
                             "l5_sig 33: 5 of 28",
                             "l5_sig 45: 23 of 58",
                             "l5_sig 46: 7 of 6",
                             "top 12: 11",
-                            "top 31: 13 of 28",
+                            "top 31: 11 of 30",
                             "top 33: 5 of 28",
                             "top 45: 19 of 108",
                             "top 46: 5 of 72",
                             "drill_non-plated 1: 125 of 4",
                             "drill_plated 0: 31 of 28",
                             "drill_plated 2: 11 of 28",
+                            "slots 3: 31 of 2",
+                            "slots 4: 39 of 2",
                             "slots 10: 31 of 4"}});
     expectSummary(
         folder,

@@ -148,6 +148,7 @@ protected:
                   "UNITS=MM\n$0 r2000\n$1 r1000\n$2 tri1000x2000\n$3 r20\n$4 s500\n$5 r500\n"
                   "P 2 2 0 P 0 0\nP 2 2 1 N 0 0\n"     // a pad with a negative one in it
                   "P 5 2 2 P 0 1\nP 8 2 2 P 0 8 180\n" // a triangle that points right, one that points down
+                  "P 4.5 7 2 P 0 9 45\n"               // one that is turned to the right, then mirrored
                   "L 1 5 4 5 3 P 0\nP 5 5 3 P 0 0\n"   // a track and a pad thinner than a pixel
                   "L 7 5 9 5 4 P 0\nL 7 6 9 6 5 P 0\n" // square ends, round ends
                   "A 3 8 2 9 2 8 5 P 0 N\n"
@@ -188,12 +189,13 @@ TEST_F(Pictures, ShowEachShapeWhereItIsAtEveryZoom)
         double y;
         bool drawn;
     } const places[] = {
-        {1.25, 2, true},   {2, 2, false},     {2, 2.75, true},   {5.9, 2, true},      {4.1, 2.45, true},
-        {5.9, 2.4, false}, {8, 1.1, true},    {8.4, 1.2, false}, {8.4, 2.9, true},    {2.5, 5, true},
-        {5, 5, true},      {2.5, 5.2, false}, {6.8, 5.2, true},  {6.78, 6.23, false}, {6.8, 6, true},
-        {2.7, 8.7, true},  {2, 8, false},     {1.3, 7.3, false}, {6.5, 7.5, true},    {7.5, 8.5, false},
-        {9.2, 2, false},
+        {1.25, 2, true},   {2, 2, false},      {2, 2.75, true},     {5.9, 2, true},      {4.1, 2.45, true},
+        {5.9, 2.4, false}, {8, 1.1, true},     {8.4, 1.2, false},   {8.4, 2.9, true},    {2.5, 5, true},
+        {5, 5, true},      {2.5, 5.2, false},  {6.8, 5.2, true},    {6.78, 6.23, false}, {6.8, 6, true},
+        {2.7, 8.7, true},  {2, 8, false},      {1.3, 7.3, false},   {6.5, 7.5, true},    {7.5, 8.5, false},
+        {9.2, 2, false},   {3.95, 7.55, true}, {5.05, 7.55, false},
     };
+    EXPECT_TRUE(view->shapes().at(4).outline().contains({3950, 7550})) << "the selection follows the picture";
     for (double const zoom : {1.0, 3.0, 40.0}) {
         for (auto const & place : places) {
             view->zoomHome();

@@ -202,6 +202,29 @@ TEST_F(Results, AMeasurementIsMarkedOnTheBoard)
     EXPECT_FALSE(page().showCheck(signalTable, 3)); // needs a net list
 }
 
+TEST_F(Results, SlotsHaveLevelsAndACategoryWithoutACheckIsNamed)
+{
+    writeLevels();
+    writeFile("config/ranges/mine/DrillRanges.json", R"({"rangesList": [
+        {"name": "PTH Summary", "RedLv": "8", "YellowLv": "9", "GreenLv": "10"},
+        {"name": "Non Plated Slot Summary", "RedLv": "31.6", "YellowLv": "33", "GreenLv": "34"},
+        {"name": "Same Net Close PTHs", "RedLv": "8", "YellowLv": "9", "GreenLv": "10"},
+        {"name": "Duplicate Holes", "RedLv": "8", "YellowLv": "9", "GreenLv": "10"},
+        {"name": "Touching Holes", "RedLv": "8", "YellowLv": "9", "GreenLv": "10"}]})");
+    open();
+    ASSERT_TRUE(page().runChecks());
+    EXPECT_EQ(row(model()->find(drillTable, 4)), "Non Plated Slot Summary|✖ R|31.5|31.6 / 33 / 34|");
+    EXPECT_FALSE(model()->find(Ext::unifiedTable, UNIFIED_SLOTS).isValid()) << "counted once";
+    QStringList without;
+    auto const & table = *page().findChild<QTableWidget *>();
+    for (int i = 0; i < table.rowCount(); ++i) {
+        if (table.item(i, 1)->text() == "The engine has no check for it.") {
+            without.append(table.item(i, 0)->text());
+        }
+    }
+    EXPECT_EQ(without, QStringList("DrillRanges: Duplicate Holes, Touching Holes"));
+}
+
 TEST_F(Results, OfACancelledRunAreThoseOfTheRunBefore)
 {
     open();

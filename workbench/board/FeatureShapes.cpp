@@ -141,8 +141,8 @@ QPainterPath FeatureShape::outline() const
     if (kind == Kind::Path) {
         return path;
     }
-    QTransform turned = QTransform::fromTranslate(place.x(), place.y()).rotate(-angle);
-    return turned.scale(mirrored ? -1 : 1, 1).map(path);
+    QTransform placed = QTransform::fromTranslate(place.x(), place.y()).scale(mirrored ? -1 : 1, 1);
+    return placed.rotate(-angle).map(path); // the last call acts first
 }
 
 QPainterPath FeatureShape::marking(QTransform const & boardToWidget, int room) const

@@ -26,7 +26,7 @@ struct FeatureShape
 {
     enum class Kind : char
     {
-        Pad,  ///< `path` around the origin, to be turned by `angle` and moved to `place`
+        Pad,  ///< `path` around the origin, to be turned, mirrored and moved to `place`
         Line, ///< from `place` to `end`; no path
         Path  ///< an arc or a surface: `path` in board coordinates
     };
@@ -34,7 +34,7 @@ struct FeatureShape
     bool positive = true;
     bool filled = true;      ///< otherwise the path or line is stroked
     bool squareEnds = false; ///< of a stroke; otherwise round
-    bool mirrored = false;   ///< of a pad: about its vertical axis, before it is turned
+    bool mirrored = false;   ///< of a pad: about its vertical axis, after it is turned
     int feature = 0;         ///< index in its layer
     Unit unit = Unit::Inch;  ///< of the sizes in the feature's symbol name
     double penWidth = 0;     ///< of a stroke; 0: a hairline at every zoom

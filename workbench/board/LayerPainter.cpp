@@ -143,10 +143,13 @@ private:
         m_painter.setBrush(m_canvas.m_colour);
         if (shape.kind == FeatureShape::Kind::Pad) {
             QTransform placed = QTransform::fromTranslate(shape.place.x(), shape.place.y()) * m_transform;
+            if (shape.mirrored) {
+                placed.scale(-1, 1);
+            }
             if (shape.angle != 0) {
                 placed.rotate(-shape.angle);
             }
-            m_painter.setTransform(shape.mirrored ? placed.scale(-1, 1) : placed);
+            m_painter.setTransform(placed);
             if (shape.symbol.use_count() == 1) { // of no other pad
                 return fill(thinned(shape.path, tooNear / m_scale), shape);
             }

@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <set>
 #include <utility>
 
 namespace Workbench {
@@ -105,10 +106,12 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
     }
     m_report.addDrill(results.drill);
     m_report.addSignal(results.signal);
+    rest.erase(UNIFIED_SLOTS); // without levels; the same slots are among the drill items, which have some
     m_report.addUnified(rest);
     for (KVCAM::Embedded::NotChecked const & entry : results.notChecked) {
         noteUnchecked(entry);
     }
+    noteCategoriesWithoutCheck();
     m_hasResult = true;
 }
 
@@ -124,6 +127,37 @@ void AnalysisRun::noteUnchecked(KVCAM::Embedded::NotChecked const & entry)
         name = getRangesName(table, entry.item) + ", " + entry.layer;
     }
     m_report.addNotChecked({table, entry.item, name, entry.reason});
+}
+
+// In one entry for each table: there are many of them.
+void AnalysisRun::noteCategoriesWithoutCheck()
+{
+    std::set<std::pair<std::string, std::string>> known; // by table and name
+    for (int const item : KVCAM::Embedded::checkedDrillItems) {
+        known.emplace(drillTable, getRangesName(drillTable, item));
+    }
+    for (int const item : KVCAM::Embedded::checkedSignalItems) {
+        known.emplace(signalTable, getRangesName(signalTable, item));
+    }
+    for (Ext::ReportCategory const & category : m_report.categories()) {
+        known.emplace(category.table, category.name);
+    }
+    for (Ext::NotChecked const & entry : m_report.notChecked()) {
+        known.emplace(entry.table, entry.name);
+    }
+    for (Ext::RangeSource const & file : Ext::loadedRangeFiles()) {
+        Records records;
+        getRanges(file.name, records);
+        std::string names;
+        for (Analysis_Ranges_Record const & record : records) {
+            if (known.emplace(file.name, record.name).second) {
+                names += (names.empty() ? file.name + ": " : ", ") + record.name;
+            }
+        }
+        if (!names.empty()) {
+            m_report.addNotChecked({file.name, -1, names, "The engine has no check for it."});
+        }
+    }
 }
 
 void AnalysisRun::loadLevels(std::string const & table)

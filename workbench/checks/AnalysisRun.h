@@ -72,6 +72,7 @@ public:
 private:
     void file(std::string const & step, KVCAM::Embedded::CheckResults & results);
     void noteUnchecked(KVCAM::Embedded::NotChecked const & entry);
+    void noteCategoriesWithoutCheck();
     void loadLevels(std::string const & table);
 
     using Records = std::vector<KVCAM::UIAPI::Analysis_Ranges_Record>;
