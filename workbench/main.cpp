@@ -89,6 +89,22 @@ void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QStrin
         << text.toUtf8().constData();
 }
 
+// Into the log, and without a window to the terminal.
+void tellRepeats(Workbench::Session const & session, bool headless)
+{
+    for (Workbench::Session::Step const & step : session.steps()) {
+        for (auto const & [name, count] : step.repeats) {
+            QString const text = QString("Step %1 repeats %2 %3 times")
+                                     .arg(QString::fromStdString(step.name), QString::fromStdString(name))
+                                     .arg(count);
+            LOG(INFO) << "workbench: " << text.toStdString();
+            if (headless) {
+                print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
+            }
+        }
+    }
+}
+
 // For a run with a window, in which a box can be read.
 void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const & commandLine)
 {
@@ -158,17 +174,7 @@ int main(int argc, char ** argv)
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
               << " step(s) and " << session.layers().size() << " layers";
 
-    for (Workbench::Session::Step const & step : session.steps()) {
-        for (auto const & [name, count] : step.repeats) {
-            QString const text = QString("Step %1 repeats %2 %3 times")
-                                     .arg(QString::fromStdString(step.name), QString::fromStdString(name))
-                                     .arg(count);
-            LOG(INFO) << "workbench: " << text.toStdString();
-            if (headless) {
-                print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
-            }
-        }
-    }
+    tellRepeats(session, headless);
 
     Workbench::MainWindow window(session, log, commandLine);
     window.board().showStep(commandLine.step);

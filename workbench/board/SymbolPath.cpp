@@ -196,24 +196,27 @@ QPainterPath withGaps(QPainterPath const & outer, QPainterPath const & hole, dou
     if (count == 0 || gap <= 0) {
         return ring;
     }
-    if (count == 1) {
-        QPainterPath cut;
-        cut.addRect(0, -gap / 2, std::hypot(outer.boundingRect().width(), outer.boundingRect().height()),
-                    gap);
-        return ring.subtracted(QTransform().rotate(angle).map(cut));
-    }
     QPolygonF const outlines[] = {flattened(outer), flattened(hole)};
     QPainterPath sectors;
+    auto const add = [&sectors](QPolygonF const & part) {
+        if (part.size() > 2) {
+            sectors.addPolygon(part);
+            sectors.closeSubpath();
+        }
+    };
     for (int i = 0; i < count; ++i) {
         double const turn = (angle + i * 360.0 / count) * pi / 180;
         double const next = turn + 2 * pi / count;
+        QPointF const gapAt(std::cos(turn), std::sin(turn));
         for (QPolygonF const & outline : outlines) {
-            QPolygonF const part = leftOf(leftOf(outline, {std::cos(turn), std::sin(turn)}, gap / 2),
-                                          {-std::cos(next), -std::sin(next)}, gap / 2);
-            if (part.size() > 2) {
-                sectors.addPolygon(part);
-                sectors.closeSubpath();
+            if (count > 1) {
+                add(leftOf(leftOf(outline, gapAt, gap / 2), {-std::cos(next), -std::sin(next)}, gap / 2));
+                continue;
             }
+            QPolygonF const front = leftOf(outline, {gapAt.y(), -gapAt.x()}, 0); // the half with the gap
+            add(leftOf(front, gapAt, gap / 2));
+            add(leftOf(front, -gapAt, gap / 2));
+            add(leftOf(outline, {-gapAt.y(), gapAt.x()}, 0));
         }
     }
     return sectors;
