@@ -79,6 +79,14 @@ struct NotChecked
     std::string reason; ///< an English sentence
 };
 
+/// What a caller may choose.
+struct CheckOptions
+{
+    /// Greater spacings of the net-based checks are not listed, in mil; less than 20 counts as 20. Meant for
+    /// the largest level that they are graded by.
+    double spacingReach = 20;
+};
+
 /// The results of runChecks().
 struct CheckResults
 {
@@ -88,8 +96,10 @@ struct CheckResults
     std::map<std::string, API::check_reply<API::drill_check_item, API::check_info>> drill;
     /// By unified item (only 10), then by drill and rout layer, all of them; four lists.
     std::map<int, std::map<std::string, std::array<std::vector<API::check_info>, 4>>> rest;
-    /// First what needs a net list or a rout outline, then what was ignored on single layers.
+    /// What was ignored on single layers, and Rout to Copper without a rout layer or profile.
     std::vector<NotChecked> notChecked;
+    /// A sentence on where the nets come from that the spacings are measured between.
+    std::string nets;
 };
 
 /// Runs all checks. Roughly linear in the number of features, whatever their distribution; only SMD pads
@@ -98,5 +108,8 @@ struct CheckResults
 /// damaged, or `progress` cancelled.
 KVCAM_API_EXPORT bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
                                 CheckProgress const & progress = {});
+/// The same with options.
+KVCAM_API_EXPORT bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
+                                CheckProgress const & progress, CheckOptions const & options);
 
 } // namespace KVCAM::Embedded

@@ -30,7 +30,9 @@ std::optional<HoleKind> kindOf(Tool const & tool)
     return found == kinds.end() ? std::nullopt : std::optional(found->second);
 }
 
-HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools)
+} // namespace
+
+HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools, HoleKind other)
 {
     if (feature.drill >= 0) {
         return static_cast<HoleKind>(feature.drill);
@@ -43,10 +45,9 @@ HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> cons
             return std::abs(each.finishSize - diameter) < 0.1 || std::abs(each.drillSize - diameter) < 0.1;
         });
     }
-    return tool == tools.end() ? HoleKind::Plated : kindOf(*tool).value_or(HoleKind::Plated);
+    return tool == tools.end() ? other : kindOf(*tool).value_or(other);
 }
 
-// The rows that a layer passes through; all rows if the matrix does not name both ends.
 std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer)
 {
     auto const row = [&matrix](std::string const & name) {
@@ -61,6 +62,8 @@ std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer)
     return named ? std::pair(std::min(first, last), std::max(first, last))
                  : std::pair(0, std::numeric_limits<int>::max());
 }
+
+namespace {
 
 // The ends of a slot's centre line; equal for a round hole.
 std::pair<API::point, API::point> middleLine(Feature const & feature, SymbolShape const & shape)
