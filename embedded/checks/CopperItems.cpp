@@ -171,6 +171,7 @@ CopperLayer collectCopper(CheckContext & context, API::layer_info const & layer,
                      copper.items.push_back(item);
                  });
     addWalls(copper, holes);
+    copper.items.shrink_to_fit();
     copper.shapes.index();
     return copper;
 }

@@ -141,6 +141,7 @@ void ItemShapes::addEdge(API::point from, API::point to, double radius, bool sta
 
 void ItemShapes::index()
 {
+    m_pieces.shrink();
     std::vector<Box> boxes = m_pieces.boxes();
     std::vector<Box> regionBoxes;
     for (Filled & region : m_regions) {

@@ -140,7 +140,7 @@ void Pieces::add(std::uint32_t item, PieceView const & piece, bool starts)
 {
     Piece stored{};
     stored.radius = piece.radius;
-    stored.first = m_corners.size();
+    stored.first = static_cast<std::uint32_t>(m_corners.size()); // a file holds less than 2^32
     stored.item = item;
     stored.count = static_cast<std::uint32_t>(piece.count) & 0x7FFFFFFFU;
     stored.starts = starts;
@@ -154,6 +154,12 @@ void Pieces::cut(std::size_t first)
         m_corners.resize(m_pieces[first].first);
         m_pieces.resize(first);
     }
+}
+
+void Pieces::shrink()
+{
+    m_pieces.shrink_to_fit();
+    m_corners.shrink_to_fit();
 }
 
 std::vector<Box> Pieces::boxes() const

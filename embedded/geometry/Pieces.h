@@ -33,6 +33,8 @@ public:
     void add(std::uint32_t item, PieceView const & piece, bool starts);
     /// Drops the pieces from this one on.
     void cut(std::size_t first);
+    /// Gives memory back that was set aside for more pieces.
+    void shrink();
 
     std::size_t size() const { return m_pieces.size(); }
     std::uint32_t itemOf(std::size_t piece) const { return m_pieces[piece].item; }
@@ -48,7 +50,7 @@ private:
     struct Piece
     {
         double radius;
-        std::size_t first; // in m_corners
+        std::uint32_t first; // in m_corners
         std::uint32_t item;
         std::uint32_t count : 31;
         bool starts : 1;

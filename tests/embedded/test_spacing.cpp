@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
+#include <cmath>
 #include <map>
 #include <random>
 #include <string>
@@ -177,10 +177,10 @@ TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
                  {"3: 300 500", "4: 300"},
                  "(1)"},
              Row{"NET A\nFID C 1 0\nNET B\nFID C 1 2\n", pad, {"3: 300 500", "4: 300"}, "(2)"},
-             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 1\nFID C 1 9\n",
+             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 1\nFID C 1 3\n",
                  {},
                  {"3: 300", "4: 300"},
-                 "eda/data does not fit the job: its net \"B\" has feature 9 of layer \"top\", which has 3"},
+                 "eda/data does not fit the job: its net \"B\" has feature 3 of layer \"top\", which has 3"},
              Row{"NET A\nFID H 0 1\n", {}, {"3: 300", "4: 300"}, "feature 1 of layer \"drill\", which has 0"},
              Row{"NET A\nFID C 7 0\n", {}, {"3: 300", "4: 300"}, "unknown layer 7"},
              Row{"NET A\nFID C 1 0\nNET B\nFID C 1 0\n", {}, {"3: 300", "4: 300"}, "belongs to two nets"},
@@ -235,6 +235,26 @@ TEST_F(SpacingTest, RoutOutlineDeletionsAndReach)
     EXPECT_EQ(reach(28), (Texts{"3: 500", "4: 500", "43: 0 200 700"})) << "from the path's edge";
     ASSERT_TRUE(Embedded::deleteFeatures("board", "pcb", "top", {0})) << Embedded::lastError();
     EXPECT_EQ(reach(28), (Texts{"43: 0 700"}));
+}
+
+TEST_F(SpacingTest, NoSpacingToAnArcIsTooLarge)
+{
+    // Pads 203.15 um beside a circle, a little less than 8 mil, at places all along its chords.
+    QByteArray pads;
+    for (int i = 0; i < 40; ++i) {
+        double const angle = 0.1503 * i;
+        pads += "P " + QByteArray::number(5.40315 * std::cos(angle), 'f', 8) + ' ' +
+                QByteArray::number(5.40315 * std::sin(angle), 'f', 8) + " 0 P 0 0\n";
+    }
+    for (QByteArray const & circle :
+         {QByteArray("A 5 0 5 0 0 0 0 P 0 Y\n"), QByteArray("S P 0\nOB 5.1 0 I\nOC 5.1 0 0 0 Y\nOE\nSE\n")}) {
+        build({"", circle + pads, {}, {}, {}, {}});
+        auto const records = signal(check(), "top", 3);
+        EXPECT_EQ(records.size(), 40U);
+        for (API::check_info const & record : records) {
+            EXPECT_EQ(record.value, 7) << texts({record}).front();
+        }
+    }
 }
 
 // --- Against trying everything ----------------------------------------------------------------------------
