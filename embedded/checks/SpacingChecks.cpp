@@ -174,8 +174,8 @@ bool isBeside(PlatedHole const & a, PlatedHole const & b)
     return a.layer == b.layer || std::max(a.firstRow, b.firstRow) < std::min(a.lastRow, b.lastRow);
 }
 
-// The same hole drawn again.
-std::vector<bool> repeated(PlatedHoles const & holes)
+// Which holes do not count: the same drawn again, and slots of rout layers.
+std::vector<bool> ignored(PlatedHoles const & holes)
 {
     auto const key = [&holes](std::uint32_t hole) {
         PieceView const first = holes.shapes.pieces()[holes.shapes.firstPiece(hole)];
@@ -191,12 +191,45 @@ std::vector<bool> repeated(PlatedHoles const & holes)
     std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
         return std::tuple(key(a), a) < std::tuple(key(b), b);
     });
-    std::vector<bool> again(holes.list.size());
+    std::vector<bool> out(holes.list.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        out[i] = holes.layers[holes.list[i].layer].type != "drill";
+    }
     for (std::size_t i = 1; i < order.size(); ++i) {
         bool const round = holes.shapes.endPiece(order[i]) == holes.shapes.firstPiece(order[i]) + 1;
-        again[order[i]] = round && key(order[i]) == key(order[i - 1]);
+        out[order[i]] = out[order[i]] || (round && key(order[i]) == key(order[i - 1]));
     }
-    return again;
+    return out;
+}
+
+// The nearest hole of the same kind beside a hole, of the same net or of another; `nothing` beyond the limit.
+Neighbour nearestHole(PlatedHoles const & holes, NodeLabels const & nodes, std::vector<bool> const & out,
+                      std::uint32_t hole, bool sameNet, double limit)
+{
+    ItemShapes const & shapes = holes.shapes;
+    PlatedHole const & its = holes.list[hole];
+    std::uint8_t const wanted = its.via ? copperVia : copperPth;
+    Neighbour best{nothing, {limit, {}, {}}};
+    for (std::size_t piece = shapes.firstPiece(hole); piece < shapes.endPiece(hole); ++piece) {
+        PieceView const view = shapes.pieces()[piece];
+        auto const found = shapes.grid().lowest(
+            best.gap.distance, [&](Box const & box) { return boxGap(box, shapes.grid().box(piece)); },
+            [&](std::size_t otherPiece) {
+                std::uint32_t const other = shapes.pieces().itemOf(otherPiece);
+                PlatedHole const & that = holes.list[other];
+                bool const fits = other != hole && that.via == its.via && !out[other] &&
+                                  (that.net == its.net) == sameNet && isBeside(its, that);
+                return fits ? gapBetween(view, shapes.pieces()[otherPiece]).distance : endless;
+            },
+            [&](std::size_t node) {
+                return sameNet ? nodes.lacks(node, its.net, wanted)
+                               : nodes.lacksOthers(node, its.net, wanted);
+            });
+        if (found) {
+            best = {shapes.pieces().itemOf(found->item), gapBetween(view, shapes.pieces()[found->item])};
+        }
+    }
+    return best;
 }
 
 } // namespace
@@ -222,6 +255,7 @@ void checkSpacings(CheckContext const & context, CopperLayer & layer, PlatedHole
 void checkCloseHoles(CheckContext const & context, PlatedHoles const & holes, double reach,
                      CheckResults & results)
 {
+    double const limit = std::nextafter(reach, endless);
     ItemShapes const & shapes = holes.shapes;
     std::vector<NodeLabels::Label> labels;
     for (std::size_t piece = 0; piece < shapes.pieces().size(); ++piece) {
@@ -229,52 +263,27 @@ void checkCloseHoles(CheckContext const & context, PlatedHoles const & holes, do
         labels.push_back({hole.net, hole.via ? copperVia : copperPth});
     }
     NodeLabels const nodes(shapes.grid(), labels);
-    std::vector<bool> const again = repeated(holes);
+    std::vector<bool> const out = ignored(holes);
     std::size_t done = 0;
     for (CloseHoles const & check : closeHoles) {
         std::map<std::uint32_t, std::vector<Pair>> byLayer;
-        std::uint8_t const wanted = check.via ? copperVia : copperPth;
         for (std::uint32_t hole = 0; hole < holes.list.size(); ++hole) {
             PlatedHole const & its = holes.list[hole];
             if (++done % chunk == 0) {
                 context.reportProgress(done, closeHoles.size() * holes.list.size() + 1);
             }
-            if (its.via != check.via || again[hole]) {
+            if (its.via != check.via || out[hole]) {
                 continue;
             }
-            Neighbour best{nothing, {std::nextafter(reach, endless), {}, {}}};
-            for (std::size_t piece = shapes.firstPiece(hole);
-                 piece < shapes.endPiece(hole) && best.gap.distance > 0; ++piece) {
-                PieceView const view = shapes.pieces()[piece];
-                auto const found = shapes.grid().lowest(
-                    best.gap.distance, [&](Box const & box) { return boxGap(box, shapes.grid().box(piece)); },
-                    [&](std::size_t otherPiece) {
-                        std::uint32_t const other = shapes.pieces().itemOf(otherPiece);
-                        PlatedHole const & that = holes.list[other];
-                        bool const fits = other != hole && that.via == check.via && !again[other] &&
-                                          (that.net == its.net) == check.sameNet && isBeside(its, that);
-                        return fits ? gapBetween(view, shapes.pieces()[otherPiece]).distance : endless;
-                    },
-                    [&](std::size_t node) {
-                        return check.sameNet ? nodes.lacks(node, its.net, wanted)
-                                             : nodes.lacksOthers(node, its.net, wanted);
-                    });
-                if (found) {
-                    best = {shapes.pieces().itemOf(found->item),
-                            gapBetween(view, shapes.pieces()[found->item])};
-                }
-            }
+            Neighbour const best = nearestHole(holes, nodes, out, hole, check.sameNet, limit);
             if (best.item != nothing) {
                 byLayer[holes.list[std::min(hole, best.item)].layer].push_back(pairOf(hole, best));
             }
         }
         for (auto & [layer, pairs] : byLayer) {
-            API::layer_info const & info = holes.layers[layer];
-            if (info.type == "drill") {
-                for (API::check_info & record : recordsOf(std::move(pairs))) {
-                    results.drill[info.name].add(static_cast<API::drill_check_item>(check.item), 0,
-                                                 std::move(record));
-                }
+            auto & reply = results.drill[holes.layers[layer].name];
+            for (API::check_info & record : recordsOf(std::move(pairs))) {
+                reply.add(static_cast<API::drill_check_item>(check.item), 0, std::move(record));
             }
         }
     }

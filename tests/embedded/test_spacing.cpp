@@ -26,12 +26,11 @@ class SpacingTest : public CheckTest
 protected:
     struct Board
     {
-        char const * name;
         QByteArray top;
-        QByteArray bottom;
         QByteArray drill;
-        QByteArray nets; // without the list of layers
-        Texts expected;
+        std::string expected; // spacings of the top layer and of holes
+        QByteArray bottom = {};
+        QByteArray nets = {}; // without the list of layers
     };
 
     static void build(Board const & board)
@@ -44,23 +43,21 @@ protected:
         fill("bottom", symbols + board.bottom);
         fill("drill", symbols + board.drill);
         if (!board.nets.isEmpty()) {
-            write("jobs/board/steps/pcb/eda/data", "HDR x\nUNITS=MM\nLYR drill top bottom\n" + board.nets);
+            write("jobs/board/steps/pcb/eda/data",
+                  "HDR x\nUNITS=MM\nLYR drill top bottom other\n" + board.nets);
         }
-        ASSERT_TRUE(open()) << board.name << Embedded::lastError();
+        ASSERT_TRUE(open()) << Embedded::lastError();
     }
 
     // The spacings of each item that has any, on the top layer and between holes.
-    static Texts spacings(Embedded::CheckResults const & results)
+    static std::string spacings(Embedded::CheckResults const & results)
     {
-        Texts lines;
-        auto const add = [&lines](std::string const & item, std::vector<API::check_info> const & records) {
-            std::string line = item + ':';
+        std::string line;
+        auto const add = [&line](std::string const & item, std::vector<API::check_info> const & records) {
+            line += records.empty() ? "" : (line.empty() ? "" : ", ") + item + ':';
             for (API::check_info const & record : records) {
                 EXPECT_EQ(record.type, 2);
                 line += ' ' + std::to_string(record.points.at(4));
-            }
-            if (!records.empty()) {
-                lines.push_back(line);
             }
         };
         for (int const item : signalItems) {
@@ -71,15 +68,7 @@ protected:
         for (int const item : drillItems) {
             add("drill " + std::to_string(item), drill(results, "drill", item));
         }
-        return lines;
-    }
-
-    static void expectSpacings(std::vector<Board> const & boards)
-    {
-        for (Board const & board : boards) {
-            build(board);
-            EXPECT_EQ(spacings(check()), board.expected) << board.name;
-        }
+        return line;
     }
 };
 
@@ -91,66 +80,37 @@ TEST_F(SpacingTest, TheNearestCopperOfAnotherNetByKind)
     QByteArray const twoPads = "P 0 0 5 P 0 0\nP 0.75 0 5 P 0 0\n";
     QByteArray const twoHoles = "P 0 0 6 P 0 0 ;0=0\nP 0.75 0 6 P 0 0 ;0=0\n";
     QByteArray const twoVias = QByteArray(twoHoles).replace("0=0", "0=2");
-    expectSpacings({
-        {"tracks", twoTracks, {}, {}, {}, {"3: 300", "4: 300"}},
-        {"a track touches both", twoTracks + "L 9 0 9 0.5 0 P 0\n", {}, {}, {}, {}},
-        {"text joins, but is no track",
-         twoTracks + "L 0 1 9 1 0 P 0 ;1\n",
-         {},
-         {},
-         {},
-         {"3: 300 300", "4: 300"}},
-        {"an arc", "A 5 0 5 0 0 0 0 P 0 Y\nP 6 0 1 P 0 0\n", {}, {}, {}, {"3: 400"}},
-        {"two arcs",
-         "A 5 0 -5 0 0 0 0 P 0 Y\nA 5.4 0 -5.4 0 0 0 0 P 0 Y\n",
-         {},
-         {},
-         {},
-         {"3: 200", "4: 200"}},
-        {"a turned rectangle", "P 0 0 2 P 0 8 90\nP 1 0 0 P 0 0\n", {}, {}, {}, {"3: 400"}},
-        {"a turned square", "P 0 0 3 P 0 8 45\nP 0.8 0 0 P 0 0\n", {}, {}, {}, {"3: 346"}},
-        {"an oval", "P 0 0 4 P 0 1\nP 0 0.8 0 P 0 0\nP 0.5 0 0 P 0 0\n", {}, {}, {}, {"3: 200 200"}},
-        {"a pad in a pour's opening", pour + "P 5 5 1 P 0 0\n", {}, {}, {}, {"3: 500"}},
-        {"a pad on the pour", pour + "P 2 2 1 P 0 0\nP 2 2 0 P 0 0\n", {}, {}, {}, {}},
-        {"a hole's wall in the opening", pour, {}, "P 5.2 5 1 P 0 0\n", {}, {"3: 300"}},
-        {"tracks joined by plated holes",
-         twoTracks,
-         "L 1 0 1 0.5 0 P 0\n",
-         "P 1 0 0 P 0 0 ;0=0\nP 1 0.5 0 P 0 0 ;0=2\n",
-         {},
-         {}},
-        {"not by others",
-         twoTracks,
-         "L 1 0 1 0.5 0 P 0\n",
-         "P 1 0 0 P 0 0 ;0=1\nP 1 0.5 0 P 0 0 ;0=2\n",
-         {},
-         {"3: 300 300", "4: 300", "29: 300"}},
-        {"by a slot", "P 0 0 1 P 0 0\nP 1.4 0 1 P 0 0\n", {}, "L 0 0 1.4 0 0 P 0 ;0=0\n", {}, {}},
-        {"pths", twoPads, {}, twoHoles, {}, {"3: 150", "15: 150", "drill 29: 450"}},
-        {"vias", twoPads, {}, twoVias, {}, {"3: 150", "14: 150", "drill 35: 450"}},
-        {"a hole drawn again", twoPads, {}, twoVias + twoVias, {}, {"3: 150", "14: 150", "drill 35: 450"}},
-        {"pths of a net", twoPads + "L 0 0 0.75 0 0 P 0\n", {}, twoHoles, {}, {"drill 28: 450"}},
-        {"vias of a net", twoPads + "L 0 0 0.75 0 0 P 0\n", {}, twoVias, {}, {"drill 34: 450"}},
-        {"pth to line",
-         "P 0 0 5 P 0 0\nL 0.6 -3 0.6 3 0 P 0\n",
-         {},
-         "P 0 0 6 P 0 0 ;0=0\n",
-         {},
-         {"3: 200", "26: 200"}},
-        {"via to line, past a nearer pad",
-         "P 0 0 5 P 0 0\nL 0.6 -3 0.6 3 0 P 0\nP -0.5 0 0 P 0 0\n",
-         {},
-         "P 0 0 6 P 0 0 ;0=2\n",
-         {},
-         {"3: 100 200", "29: 200"}},
-        {"the same twice", twoTracks + twoTracks, {}, {}, {}, {"3: 300", "4: 300"}},
-        {"beyond the reach",
-         "P 0 0 0 P 0 0\nP 0.709 0 0 P 0 0\nP 0.708 9 0 P 0 0\nP 0 9 0 P 0 0\n",
-         {},
-         {},
-         {},
-         {"3: 508"}},
-    });
+    QByteArray const viaAndLine = "P 0 0 5 P 0 0\nL 0.6 -3 0.6 3 0 P 0\n";
+    QByteArray const across = "L 1 0 1 0.5 0 P 0\n";
+    for (Board const & board : {
+             Board{twoTracks, {}, "3: 300, 4: 300"},
+             Board{twoTracks + "L 9 0 9 0.5 0 P 0\n", {}, ""},
+             Board{twoTracks + "L 0 1 9 1 0 P 0 ;1\n", {}, "3: 300 300, 4: 300"}, // text is no track
+             Board{"A 5 0 5 0 0 0 0 P 0 Y\nP 6 0 1 P 0 0\n", {}, "3: 400"},
+             Board{"A 5 0 -5 0 0 0 0 P 0 Y\nA 5.4 0 -5.4 0 0 0 0 P 0 Y\n", {}, "3: 200, 4: 200"},
+             Board{"P 0 0 2 P 0 8 90\nP 1 0 0 P 0 0\n", {}, "3: 400"}, // turned
+             Board{"P 0 0 3 P 0 8 45\nP 0.8 0 0 P 0 0\n", {}, "3: 346"},
+             Board{"P 0 0 4 P 0 1\nP 0 0.8 0 P 0 0\nP 0.5 0 0 P 0 0\n", {}, "3: 200 200"},
+             Board{pour + "P 5 5 1 P 0 0\n", {}, "3: 500"}, // in its opening
+             Board{pour + "P 2 2 1 P 0 0\nP 2 2 0 P 0 0\n", {}, ""},
+             Board{pour, "P 5.2 5 1 P 0 0\n", "3: 300"}, // a hole's wall
+             Board{twoTracks, "P 1 0 0 P 0 0 ;0=0\nP 1 0.5 0 P 0 0 ;0=2\n", "", across},
+             Board{twoTracks, "P 1 0 0 P 0 0 ;0=1\nP 1 0.5 0 P 0 0 ;0=2\n", "3: 300 300, 4: 300, 29: 300",
+                   across},
+             Board{"P 0 0 1 P 0 0\nP 1.4 0 1 P 0 0\n", "L 0 0 1.4 0 0 P 0 ;0=0\n", ""}, // a slot joins
+             Board{twoPads, twoHoles, "3: 150, 15: 150, drill 29: 450"},
+             Board{twoPads, twoVias, "3: 150, 14: 150, drill 35: 450"},
+             Board{twoPads, twoVias + twoVias, "3: 150, 14: 150, drill 35: 450"},
+             Board{twoPads + "L 0 0 0.75 0 0 P 0\n", twoHoles, "drill 28: 450"}, // one net
+             Board{twoPads + "L 0 0 0.75 0 0 P 0\n", twoVias, "drill 34: 450"},
+             Board{viaAndLine, "P 0 0 6 P 0 0 ;0=0\n", "3: 200, 26: 200"},
+             Board{viaAndLine + "P -0.5 0 0 P 0 0\n", "P 0 0 6 P 0 0 ;0=2\n", "3: 100 200, 29: 200"},
+             Board{twoTracks + twoTracks, {}, "3: 300, 4: 300"},
+             Board{"P 0 0 0 P 0 0\nP 0.709 0 0 P 0 0\nP 0.708 9 0 P 0 0\nP 0 9 0 P 0 0\n", {}, "3: 508"},
+         }) {
+        build(board);
+        EXPECT_EQ(spacings(check()), board.expected) << board.top.toStdString();
+    }
 }
 
 TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
@@ -161,36 +121,34 @@ TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
     {
         QByteArray nets;
         QByteArray more;
-        Texts expected;
+        std::string expected;
         char const * source;
     };
-    std::string const named = "The nets are those of eda/data (";
+    std::string const byTouch = "3: 300, 4: 300";
     for (Row const & row : {
              Row{"NET A ;;ID=1\nSNT TRC\nFID C 1 0\nNET B\nFID C 1 1\nFID C 1 2\n",
                  {},
-                 {"3: 0 300", "4: 0 300"},
-                 "The nets are those of eda/data (2)"},
-             Row{"NET A\nFID C 1 0\nFID C 1 1\nFID C 1 2\n", pad, {}, "The nets are those of eda/data (1)"},
-             Row{"NET A\nFID C 1 0\nNET A\nFID C 1 1\nFID C 1 2\n", pad, {}, "(1)"},
-             Row{"NET $NONE$\nFID C 1 2\nNET A\nFID C 1 0\nFID C 1 1\n",
-                 pad,
-                 {"3: 300 500", "4: 300"},
-                 "(1)"},
-             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 2\n", pad, {"3: 300 500", "4: 300"}, "(2)"},
+                 "3: 0 300, 4: 0 300",
+                 "(2)"},
+             Row{"NET A\nFID C 1 0\nFID C 1 1\nFID C 1 2\n", pad, "", "The nets are those of eda/data (1)"},
+             Row{"NET A\nFID C 1 0\nNET A\nFID C 1 1\nFID C 1 2\n", pad, "", "(1)"},
+             Row{"NET $NONE$\nFID C 1 2\nNET A\nFID C 1 0\nFID C 1 1\n", pad, "3: 300 500, 4: 300", "(1)"},
+             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 2\n", pad, "3: 300 500, 4: 300", "(2)"},
              Row{"NET A\nFID C 1 0\nNET B\nFID C 1 1\nFID C 1 3\n",
                  {},
-                 {"3: 300", "4: 300"},
-                 "eda/data does not fit the job: its net \"B\" has feature 3 of layer \"top\", which has 3"},
-             Row{"NET A\nFID H 0 1\n", {}, {"3: 300", "4: 300"}, "feature 1 of layer \"drill\", which has 0"},
-             Row{"NET A\nFID C 7 0\n", {}, {"3: 300", "4: 300"}, "unknown layer 7"},
-             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 0\n", {}, {"3: 300", "4: 300"}, "belongs to two nets"},
-             Row{"NET A\nFID C 1\n", {}, {"3: 300", "4: 300"}, "no feature"},
-             Row{"FID C 1 0\n", {}, {"3: 300", "4: 300"}, "outside a net"},
-             Row{"NET A\nFID C 1 -1\n", {}, {"3: 300", "4: 300"}, "negative feature"},
-             Row{"NET $NONE$\nFID C 1 0\n", {}, {"3: 300", "4: 300"}, "lists no nets"},
-             Row{{}, {}, {"3: 300", "4: 300"}, "touch: the step has no eda/data."},
+                 byTouch,
+                 "does not fit the job: its net \"B\" has feature 3 of layer \"top\", which has 3"},
+             Row{"NET A\nFID H 0 1\n", {}, byTouch, "feature 1 of layer \"drill\", which has 0"},
+             Row{"NET A\nFID C 3 0\n", {}, byTouch, "it names a layer \"other\""},
+             Row{"NET A\nFID C 7 0\n", {}, byTouch, "unknown layer 7"},
+             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 0\n", {}, byTouch, "belongs to two nets"},
+             Row{"NET A\nFID C 1\n", {}, byTouch, "no feature"},
+             Row{"FID C 1 0\n", {}, byTouch, "outside a net"},
+             Row{"NET A\nFID C 1 -1\n", {}, byTouch, "negative feature"},
+             Row{"NET $NONE$\nFID C 1 0\n", {}, byTouch, "lists no nets"},
+             Row{{}, {}, byTouch, "touch: the step has no eda/data."},
          }) {
-        build({"", cross + row.more, {}, {}, row.nets, {}});
+        build({cross + row.more, {}, {}, {}, row.nets});
         auto const results = check();
         EXPECT_EQ(spacings(results), row.expected) << row.nets.toStdString();
         EXPECT_NE(results.nets.find(row.source), std::string::npos) << results.nets;
@@ -200,7 +158,7 @@ TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
 TEST_F(SpacingTest, AHoleThroughCopperOfAnotherNetIsAShort)
 {
     QByteArray const plane = "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOE\nSE\n";
-    build({"", plane, plane, "P 5 5 6 P 0 0 ;0=2\n", "NET A\nFID H 0 0\nNET B\nFID C 1 0\n", {}});
+    build({plane, "P 5 5 6 P 0 0 ;0=2\n", {}, plane, "NET A\nFID H 0 0\nNET B\nFID C 1 0\n"});
     auto const results = check();
     EXPECT_EQ(texts(signal(results, "top", 3)), (Texts{"2 0: 5000 5000 5000 5000 0"}));
     EXPECT_TRUE(signal(results, "bottom", 3).empty()) << "not listed: it is of the hole's net";
@@ -208,11 +166,8 @@ TEST_F(SpacingTest, AHoleThroughCopperOfAnotherNetIsAShort)
 
 TEST_F(SpacingTest, RoutOutlineDeletionsAndReach)
 {
-    build({"",
-           "L 1 0.3 9 0.3 0 P 0\nL 1 1 9 1 0 P 0\nL 20 20 30 20 0 P 0\nL 9.9 9.5 11 9.5 0 P 0\n"
+    build({"L 1 0.3 9 0.3 0 P 0\nL 1 1 9 1 0 P 0\nL 20 20 30 20 0 P 0\nL 9.9 9.5 11 9.5 0 P 0\n"
            "L 0 0 0 10 0 P 0\n",
-           {},
-           {},
            {},
            {}});
     auto const reach = [](double mil) {
@@ -220,8 +175,8 @@ TEST_F(SpacingTest, RoutOutlineDeletionsAndReach)
         EXPECT_TRUE(Embedded::runChecks("board", "pcb", results, {}, {mil})) << Embedded::lastError();
         return spacings(results);
     };
-    EXPECT_EQ(reach(0), (Texts{"3: 500", "4: 500"}));
-    EXPECT_EQ(reach(19), (Texts{"3: 500", "4: 500"}));
+    EXPECT_EQ(reach(0), "3: 500, 4: 500");
+    EXPECT_EQ(reach(19), "3: 500, 4: 500");
 
     write("jobs/board/steps/pcb/profile",
           "UNITS=MM\nS P 0\nOB 0 0 I\nOS 10 0\nOS 10 10\nOS 0 10\nOE\nOB 4 6 H\nOC 4 6 5 6 Y\nOE\nSE\n");
@@ -231,10 +186,10 @@ TEST_F(SpacingTest, RoutOutlineDeletionsAndReach)
          "UNITS=MM\n$0 r400\n$1 r0\n@0 .drill\nL 2 2 3 2 0 P 0\nL 1 4 3 4 0 P 0 ;0=0\nL 8 3 8 5 1 P 0\n");
     fill("bottom", "");
     ASSERT_TRUE(open()) << Embedded::lastError();
-    EXPECT_EQ(reach(20), (Texts{"3: 500", "4: 500", "43: 0 200"})) << "one line crosses, one is the outline";
-    EXPECT_EQ(reach(28), (Texts{"3: 500", "4: 500", "43: 0 200 700"})) << "from the path's edge";
+    EXPECT_EQ(reach(20), "3: 500, 4: 500, 43: 0 200") << "one line crosses, one is the outline";
+    EXPECT_EQ(reach(28), "3: 500, 4: 500, 43: 0 200 700") << "from the path's edge";
     ASSERT_TRUE(Embedded::deleteFeatures("board", "pcb", "top", {0})) << Embedded::lastError();
-    EXPECT_EQ(reach(28), (Texts{"43: 0 700"}));
+    EXPECT_EQ(reach(28), "43: 0 700");
 }
 
 TEST_F(SpacingTest, NoSpacingToAnArcIsTooLarge)
@@ -248,7 +203,7 @@ TEST_F(SpacingTest, NoSpacingToAnArcIsTooLarge)
     }
     for (QByteArray const & circle :
          {QByteArray("A 5 0 5 0 0 0 0 P 0 Y\n"), QByteArray("S P 0\nOB 5.1 0 I\nOC 5.1 0 0 0 Y\nOE\nSE\n")}) {
-        build({"", circle + pads, {}, {}, {}, {}});
+        build({circle + pads, {}, {}});
         auto const records = signal(check(), "top", 3);
         EXPECT_EQ(records.size(), 40U);
         for (API::check_info const & record : records) {
