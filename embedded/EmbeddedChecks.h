@@ -9,76 +9,16 @@
 #include <vector>
 
 /// The checks of the default engine: measures a step of an open job, with its current deletions. The job
-/// itself is never changed.
+/// itself is never changed. docs/Checks.md says what is measured, how and how exactly; in short:
 ///
-/// **What is measured.** Copper layers are the positive board layers of type signal, power_ground and mixed;
-/// drill and rout layers are the positive board layers of those types. Pads, lines and arcs count if they are
-/// positive, lie inside the step's profile, have a size, and carry neither `.nomenclature` nor `.string`.
-/// Surfaces are not measured. Inside means a pad's place, or both ends and the middle of a line or arc;
-/// without a profile everything is inside. Copper that crosses the profile by more than a micrometre counts
-/// wherever that is. A line or arc whose ends and middle are within half its width of the profile is the
-/// outline, not a track. Exact duplicates of a pad count once. Step and repeat is not expanded.
+/// - signal 46 and 45: the widths of tracks and pads; 12: spacings of SMD pads; 31, 33, 36: rings
+/// - signal 3, 4, 14, 15, 26, 29: the spacing of each item to the nearest copper of another net; 43: to the
+///   rout and the profile; drill 28, 29, 34, 35: between holes of a net and of different nets; up to a reach
+/// - drill 0, 1, 2: the holes; unified 10: the slots
 ///
-/// The records by table and number, with their type and `points` (micrometres, rounded to the nearest):
-/// - signal 46, lines: each line and arc of a copper layer; 1: both ends, width. An arc has its middle twice
-///   in place of the ends, so that the middle of the record lies on it. Arcs count as lines, since the
-///   layer's least track width is taken from this item.
-/// - signal 45, pads: each pad of a copper layer; 5: place, narrower side, wider side
-/// - signal 12, SMD to SMD: each pad with `.smd` and its nearest neighbour; 2: the nearest points, spacing
-/// - signal 33, 31, 36, annular rings of vias, plated and non-plated holes: each hole on each copper layer it
-///   passes through; 3: hole, its diameter, pad, its narrower side, ring, offset between the two places. A
-///   slot counts as a hole: the middle of its centre line, its width.
-/// - drill 0, 1, 2, summaries: each plated hole, non-plated hole, via; 5: place, diameter twice
-/// - drill 3, 4, summaries: each plated slot (a via's, too), non-plated slot; as in item 10
-/// - unified item 10, slots: each slot of a drill or rout layer; 1: both ends of its centre line (of an arc
-///   its middle twice), width
-///
-/// `value` is the width, narrower side, spacing, ring or diameter in mil, rounded down, never below 0. A
-/// value less than a millionth of a mil short of the next mil counts as that mil, since an exact 8 mil can
-/// come out of the conversions slightly low. Everything saturates. Records are in list (level) 0, except
-/// slots, which are in list 3, the list that the board's summary counts. Lists ascend by the unrounded
-/// measure, so a stable sort by the points keeps the smallest value first. The three kinds of ring are merged
-/// into one list, so rings of a layer that agree to the micrometre all get the lowest of their values.
-///
-/// **Shapes.** Exact, including clockwise rotation followed by mirroring (left and right exchanged): round,
-/// square and rectangular symbols (all four corners, or none, rounded or cut), ovals, diamonds, octagons,
-/// hexagons and triangles. All others use an outer shape for spacings and an inner shape for rings and
-/// widths, so that no result is too large: an ellipse uses 32-sided polygons; a half oval (its round end is
-/// on the right) the oval for rings; a rectangle with some corners rounded or cut the plain rectangle and the
-/// rectangle with all corners so; thermals, butterflies and moires the enclosing rectangle, oval or circle.
-/// The last have no inner shape. The width of a line is its symbol's width across the line's direction; the
-/// width of an arc is its symbol's narrower side.
-///
-/// A symbol of the job's own is measured by its drawing: pads, lines, arcs, surfaces, and such symbols in it.
-/// Arcs become straight pieces that contain them, at most 0.25 micrometres too large. What negative graphics
-/// erase is ignored. Its narrower side is its least width in any direction, its wider side the extent across
-/// that. It has no inner shape. Not measured, and named in `notChecked` with the number of features: symbols
-/// without a drawing, with an empty one, that contain themselves or nest more than 16 deep, and drawings of
-/// more than 20,000 corners, or beyond 500,000 in all.
-///
-/// **Spacing** is edge to edge, 0 where pads overlap. There is no distance limit for the nearest neighbour.
-/// If several are equally near, one of them is taken. Each pair is reported once. Symbols of the job's own
-/// with more than 1000 corners are measured by the boxes around them if the SMD pads of a layer have more
-/// than a million of those corners; `notChecked` says so.
-///
-/// **Rings.** A hole has the size drawn on the drill layer, whatever the size of its tool. Its kind comes
-/// from its `.drill` attribute, else from the tool with its code, else from a tool of its size, else it is
-/// plated on a drill layer and non-plated on a rout layer. It passes through the copper layers between the
-/// two ends of its drill layer (through all if the matrix does not name both). The ring is the least distance
-/// from the hole's edge to the pad's edge; of the pads that cover the hole's centre, the one that leaves most
-/// counts; 0 where the hole breaks out. Other copper around the pad is ignored. Not reported: a hole whose
-/// centre no pad covers (a missing pad: signal categories 39 and 40), a pad of a non-plated hole that is
-/// drilled away completely, a pad without an inner shape, a donut whose opening is not drilled away. Plated
-/// holes without a ring are counted in `notChecked` where a pad touches them, and on the two outer layers.
-/// The ring of a slot is exact for convex pads; a slot that is an arc has none.
-///
-/// **Slots** are lines, arcs, and pads whose sides differ in length. Round pads and lines of zero length are
-/// holes on a drill layer and are ignored on a rout layer. A pad at most a micrometre longer than wide is
-/// round. A rout element that joins another line or arc end to end, a full circle, or anything along the
-/// profile is the rout path, not a slot.
-///
-/// **Negative.** A negative layer draws what is removed, so nothing is measured there. On a positive layer,
-/// what negative features remove from others is ignored. Both are listed in `notChecked`.
+/// `points` are micrometres, rounded to the nearest. `value` is the measure in mil, rounded down, never below
+/// 0. Records are in list (level) 0, except slots, which are in list 3, and ascend by the unrounded measure.
+/// Where a shape is approximated, no result is too large.
 namespace KVCAM::Embedded {
 
 /// Receives the progress: `done` of `total`, which is constant during a run. Return false to cancel. It may
@@ -87,9 +27,9 @@ using CheckProgress = std::function<bool(int done, int total)>;
 
 /// The drill items that runChecks() measures. A reply cannot tell an item that found nothing from one without
 /// a check.
-inline constexpr std::array checkedDrillItems{0, 1, 2, 3, 4};
+inline constexpr std::array checkedDrillItems{0, 1, 2, 3, 4, 28, 29, 34, 35};
 /// The signal items that runChecks() measures.
-inline constexpr std::array checkedSignalItems{12, 31, 33, 36, 45, 46};
+inline constexpr std::array checkedSignalItems{3, 4, 12, 14, 15, 26, 29, 31, 33, 36, 43, 45, 46};
 
 /// What was not measured, and why.
 struct NotChecked
@@ -98,6 +38,14 @@ struct NotChecked
     int item = -1;      ///< -1: no particular item; the reason says what was ignored on the layer
     std::string layer;  ///< empty: every layer
     std::string reason; ///< an English sentence
+};
+
+/// What a caller may choose.
+struct CheckOptions
+{
+    /// Greater spacings of the net-based checks are not listed, in mil; less than 20 counts as 20. Meant for
+    /// the largest level that they are graded by.
+    double spacingReach = 20;
 };
 
 /// The results of runChecks().
@@ -109,8 +57,10 @@ struct CheckResults
     std::map<std::string, API::check_reply<API::drill_check_item, API::check_info>> drill;
     /// By unified item (only 10), then by drill and rout layer, all of them; four lists.
     std::map<int, std::map<std::string, std::array<std::vector<API::check_info>, 4>>> rest;
-    /// First what needs a net list or a rout outline, then what was ignored on single layers.
+    /// What was ignored on single layers, and Rout to Copper without a rout layer or profile.
     std::vector<NotChecked> notChecked;
+    /// A sentence on where the nets come from that the spacings are measured between.
+    std::string nets;
 };
 
 /// Runs all checks. Roughly linear in the number of features, whatever their distribution; only SMD pads
@@ -119,5 +69,8 @@ struct CheckResults
 /// damaged, or `progress` cancelled.
 KVCAM_API_EXPORT bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
                                 CheckProgress const & progress = {});
+/// The same with options.
+KVCAM_API_EXPORT bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
+                                CheckProgress const & progress, CheckOptions const & options);
 
 } // namespace KVCAM::Embedded

@@ -29,6 +29,8 @@ public:
     /// on the layer. The shape stays valid as long as this object.
     void forEachMeasurable(API::layer_info const & layer, char const * table, Visit const & visit);
 
+    SymbolShapes & shapes() { return m_shapes; }
+
     void note(NotChecked entry) { m_notChecked.push_back(std::move(entry)); }
     std::vector<NotChecked> takeNotes() { return std::move(m_notChecked); }
 

@@ -32,10 +32,15 @@ std::optional<HoleKind> kindOf(Tool const & tool)
     return found == kinds.end() ? std::nullopt : std::optional(found->second);
 }
 
-// What nothing tells the kind of is drilled before plating and routed after it.
-HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools, bool drill)
+} // namespace
+
+HoleKind usualKind(API::layer_info const & layer)
 {
-    HoleKind const usual = drill ? HoleKind::Plated : HoleKind::NonPlated;
+    return layer.type == "drill" ? HoleKind::Plated : HoleKind::NonPlated;
+}
+
+HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools, HoleKind other)
+{
     if (feature.drill >= 0) {
         return static_cast<HoleKind>(feature.drill);
     }
@@ -47,10 +52,9 @@ HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> cons
             return std::abs(each.finishSize - diameter) < 0.1 || std::abs(each.drillSize - diameter) < 0.1;
         });
     }
-    return tool == tools.end() ? usual : kindOf(*tool).value_or(usual);
+    return tool == tools.end() ? other : kindOf(*tool).value_or(other);
 }
 
-// The rows that a layer passes through; all rows if the matrix does not name both ends.
 std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer)
 {
     auto const row = [&matrix](std::string const & name) {
@@ -65,6 +69,8 @@ std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer)
     return named ? std::pair(std::min(first, last), std::max(first, last))
                  : std::pair(0, std::numeric_limits<int>::max());
 }
+
+namespace {
 
 // The ends of a slot's centre line; equal for a round hole.
 std::pair<API::point, API::point> middleLine(Feature const & feature, SymbolShape const & shape)
@@ -149,6 +155,7 @@ void checkDrills(CheckContext & context, API::layer_info const & layer, CheckRes
                  std::vector<Hole> & holes)
 {
     bool const drill = layer.type == "drill";
+    HoleKind const usual = usualKind(layer);
     std::vector<Tool> const tools = context.job().tools(context.step(), layer.name);
     std::pair<int, int> const rows = rowsOf(context.job().matrix(), layer.name);
     std::vector<Slot> slots;
@@ -159,7 +166,8 @@ void checkDrills(CheckContext & context, API::layer_info const & layer, CheckRes
         auto const [from, to] = middleLine(feature, shape);
         bool const arc = feature.kind == 'A';
         bool const round = !arc && distance(from, to) == 0;
-        Hole const hole{from, to, width, kindOf(feature, width, tools, drill), rows.first, rows.second};
+        HoleKind const kind = kindOf(feature, width, tools, usual);
+        Hole const hole{from, to, width, kind, rows.first, rows.second};
         if (round && drill) {
             holes.push_back(hole);
             summaries.at(static_cast<std::size_t>(hole.kind))

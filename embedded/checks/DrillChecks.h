@@ -3,6 +3,8 @@
 #include "checks/CheckContext.h"
 
 #include <limits>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace KVCAM::Embedded {
@@ -24,6 +26,14 @@ struct Hole
     int firstRow = 0;
     int lastRow = std::numeric_limits<int>::max();
 };
+
+/// The kind of what nothing tells the kind of: drilled before plating, or routed after it.
+HoleKind usualKind(API::layer_info const & layer);
+/// The kind of a hole or slot, or `other` if neither its attributes nor the tools tell.
+HoleKind kindOf(Feature const & feature, double diameter, std::vector<Tool> const & tools,
+                HoleKind other = HoleKind::Plated);
+/// The rows that a layer passes through; all rows if the matrix does not name both ends.
+std::pair<int, int> rowsOf(Matrix const & matrix, std::string const & layer);
 
 /// Measures the holes and slots of a drill or rout layer into the results. Appends them to `holes`, except
 /// slots that are arcs.

@@ -1,41 +1,24 @@
 #include "EmbeddedChecks.h"
 
 #include "checks/CopperChecks.h"
+#include "checks/CopperItems.h"
+#include "checks/Nets.h"
+#include "checks/SpacingChecks.h"
 #include "formats/LineReader.h"
 #include "state/EngineState.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace KVCAM::Embedded {
 namespace {
 
-struct LeftOut
-{
-    char const * table;
-    int item;
-    char const * reason;
-};
-
-constexpr char const * needsNets =
-    "It takes a net list to tell what belongs to one net; the engine reads none.";
-constexpr std::array leftOut{
-    LeftOut{"signal", 3, needsNets},
-    LeftOut{"signal", 4, needsNets},
-    LeftOut{"signal", 14, needsNets},
-    LeftOut{"signal", 15, needsNets},
-    LeftOut{"signal", 26, needsNets},
-    LeftOut{"signal", 29, needsNets},
-    LeftOut{"signal", 43, "It takes the path of the rout; the engine reads none."},
-    LeftOut{"drill", 28, needsNets},
-    LeftOut{"drill", 29, needsNets},
-    LeftOut{"drill", 34, needsNets},
-    LeftOut{"drill", 35, needsNets},
-};
+constexpr int routToCopper = 43;
+constexpr double leastReach = 20; // mil
 
 bool isCopper(API::layer_info const & layer)
 {
@@ -93,15 +76,39 @@ std::pair<int, int> outerRows(Matrix const & matrix)
     return rows;
 }
 
-CheckResults run(CheckContext & context)
+void checkAllSpacings(CheckContext & context, std::vector<API::layer_info> const & coppers,
+                      std::vector<API::layer_info> const & drills, double reach, CheckResults & results)
+{
+    PlatedHoles holes = collectHoles(context, drills);
+    ItemShapes const rout = collectRout(context, drills);
+    if (rout.size() == 0) {
+        context.note({"signal", routToCopper, {}, "The job has neither a rout layer nor a profile."});
+    }
+    std::vector<CopperLayer> layers;
+    for (API::layer_info const & layer : coppers) {
+        layers.push_back(collectCopper(context, layer, holes));
+        context.endStage();
+    }
+    results.nets = assignNets(context, layers, holes);
+    context.endStage();
+    checkCloseHoles(context, holes, reach, results);
+    context.endStage();
+    for (CopperLayer & layer : layers) {
+        checkSpacings(context, layer, holes, rout.size() == 0 ? nullptr : &rout, reach, results);
+        layer = {}; // no longer needed, and large
+        context.endStage();
+    }
+}
+
+CheckResults run(CheckContext & context, CheckOptions const & options)
 {
     noteRepeats(context);
-    for (LeftOut const & each : leftOut) {
-        context.note({each.table, each.item, {}, each.reason});
-    }
     std::vector<API::layer_info> const drills = layers(context, isDrill, "drill");
     std::vector<API::layer_info> const coppers = layers(context, isCopper, "signal");
-    context.setStages(std::max<std::size_t>(drills.size() + coppers.size(), 1));
+    auto const routs = static_cast<std::size_t>(std::count_if(
+        drills.begin(), drills.end(), [](API::layer_info const & layer) { return layer.type == "rout"; }));
+    // Each layer is measured, then collected for the spacings; copper also has its spacings. Nets and holes.
+    context.setStages(2 * drills.size() + routs + 3 * coppers.size() + 2);
     context.reportProgress(0, 1);
 
     CheckResults results;
@@ -116,6 +123,8 @@ CheckResults run(CheckContext & context)
         checkCopper(context, layer, holes, outer, results);
         context.endStage();
     }
+    double const reach = std::max(leastReach, options.spacingReach) * 25.4;
+    checkAllSpacings(context, coppers, drills, reach, results);
     results.notChecked = context.takeNotes();
     return results;
 }
@@ -125,10 +134,16 @@ CheckResults run(CheckContext & context)
 bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
                CheckProgress const & progress)
 {
+    return runChecks(job, step, out, progress, {});
+}
+
+bool runChecks(std::string const & job, std::string const & step, CheckResults & out,
+               CheckProgress const & progress, CheckOptions const & options)
+{
     out = {};
     return withLastError(false, [&](EngineState & state) {
         CheckContext context(job, step, progress);
-        out = run(context);
+        out = run(context, options);
         state.lastError.clear(); // set by calls from `progress`
         return true;
     });

@@ -12,9 +12,9 @@ namespace {
 constexpr double tolerance = 1;   // micrometres
 constexpr double touching = 1e-9; // micrometres; a distance below it is 0
 
-std::vector<std::array<API::point, 2>> edgesOf(std::optional<Profile> const & profile)
+std::vector<Edge> edgesOf(std::optional<Profile> const & profile)
 {
-    std::vector<std::array<API::point, 2>> edges;
+    std::vector<Edge> edges;
     if (profile) {
         for (std::vector<API::point> const & outline : profile->outlines) {
             for (std::size_t i = 0; i < outline.size(); ++i) {
@@ -23,17 +23,6 @@ std::vector<std::array<API::point, 2>> edgesOf(std::optional<Profile> const & pr
         }
     }
     return edges;
-}
-
-std::vector<Box> boxesOf(std::vector<std::array<API::point, 2>> const & edges)
-{
-    std::vector<Box> boxes;
-    boxes.reserve(edges.size());
-    for (auto const & [from, to] : edges) {
-        boxes.push_back(boxOf(from));
-        include(boxes.back(), to);
-    }
-    return boxes;
 }
 
 // The points that decide whether a feature lies inside.
@@ -73,26 +62,11 @@ void shrink(Shape & shape)
 
 } // namespace
 
-BoardArea::BoardArea(std::optional<Profile> const & profile)
-    : m_all(!profile), m_edges(edgesOf(profile)), m_grid(boxesOf(m_edges))
-{}
+BoardArea::BoardArea(std::optional<Profile> const & profile) : m_all(!profile), m_edges(edgesOf(profile)) {}
 
 bool BoardArea::holds(API::point point) const
 {
-    if (m_all) {
-        return true;
-    }
-    // Ray casting: an inside point has an odd number of edges to its right.
-    bool inside = false;
-    constexpr double farRight = 1e300;
-    m_grid.forEachTouching({point.x, point.y, farRight, point.y}, [&](std::size_t edge) {
-        auto const & [from, to] = m_edges[edge];
-        if ((from.y > point.y) != (to.y > point.y) &&
-            point.x < from.x + (point.y - from.y) / (to.y - from.y) * (to.x - from.x)) {
-            inside = !inside;
-        }
-    });
-    return inside || nearEdge(point, tolerance);
+    return m_all || m_edges.holds(point) || m_edges.isNear(point, tolerance);
 }
 
 bool BoardArea::holds(Feature const & feature) const
@@ -109,7 +83,7 @@ bool BoardArea::holdsSome(Feature const & feature) const
 
 bool BoardArea::passes(Box const & box) const
 {
-    return m_grid
+    return m_edges.grid()
         .lowest(
             touching, [&box](Box const & edges) { return boxGap(edges, box); },
             [](std::size_t /*edge*/) { return 0.0; })
@@ -121,7 +95,7 @@ bool BoardArea::crosses(Shape const & shape) const
     auto const gapTo = [&shape](std::vector<API::point> corners) {
         return gapBetween(shape, convexShape(std::move(corners))).distance;
     };
-    return m_grid
+    return m_edges.grid()
         .lowest(
             touching,
             [&](Box const & box) {
@@ -131,7 +105,7 @@ bool BoardArea::crosses(Shape const & shape) const
                               {box.left, box.top}});
             },
             [&](std::size_t edge) {
-                return gapTo({m_edges[edge][0], m_edges[edge][1]});
+                return gapTo({m_edges.edges()[edge][0], m_edges.edges()[edge][1]});
             })
         .has_value();
 }
@@ -158,20 +132,25 @@ bool BoardArea::isOutline(Feature const & feature, double width) const
 {
     std::vector<API::point> const points = witnesses(feature);
     return !m_all && std::all_of(points.begin(), points.end(), [this, width](API::point point) {
-        return nearEdge(point, width / 2 + tolerance);
+        return m_edges.isNear(point, width / 2 + tolerance);
     });
 }
 
-bool BoardArea::nearEdge(API::point point, double within) const
+bool BoardArea::touchesProfile(PieceView const & piece) const
 {
-    return m_grid
+    Box const box = extent(piece);
+    return m_edges.grid()
         .lowest(
-            within, [&](Box const & box) { return boxGap(box, boxOf(point)); },
+            tolerance, [&](Box const & other) { return boxGap(other, box); },
             [&](std::size_t edge) {
-                auto const & [from, to] = m_edges[edge];
-                return distance(point, nearestOnSide(point, from, to));
+                return gapBetween(piece, {m_edges.edges()[edge].data(), 2, 0}).distance;
             })
         .has_value();
+}
+
+std::optional<API::point> BoardArea::profilePoint() const
+{
+    return m_edges.edges().empty() ? std::nullopt : std::optional(m_edges.edges().front()[0]);
 }
 
 } // namespace KVCAM::Embedded

@@ -2,13 +2,12 @@
 
 #include "formats/FeaturesFile.h"
 #include "geometry/CheckGeometry.h"
+#include "geometry/EdgeIndex.h"
+#include "geometry/Pieces.h"
 #include "geometry/Profile.h"
 #include "geometry/Region.h"
-#include "geometry/SpatialGrid.h"
 
-#include <array>
 #include <optional>
-#include <vector>
 
 namespace KVCAM::Embedded {
 
@@ -31,16 +30,16 @@ public:
     /// Whether a line or arc of this width runs along the profile: its ends and its middle are within half
     /// its width of it.
     bool isOutline(Feature const & feature, double width) const;
+    /// Whether a piece touches the profile, within a micrometre.
+    bool touchesProfile(PieceView const & piece) const;
+    /// A point of the profile; nothing without one.
+    std::optional<API::point> profilePoint() const;
 
 private:
-    using Edge = std::array<API::point, 2>;
-
     bool crosses(Shape const & shape) const;
-    bool nearEdge(API::point point, double within) const;
 
     bool m_all; // no profile
-    std::vector<Edge> m_edges;
-    SpatialGrid m_grid;
+    EdgeIndex m_edges;
 };
 
 } // namespace KVCAM::Embedded

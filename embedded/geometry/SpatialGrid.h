@@ -30,11 +30,33 @@ public:
     template <class Bound, class Measure>
     std::optional<Found> lowest(double limit, Bound const & bound, Measure const & measure) const
     {
+        return lowest(limit, bound, measure, [](std::size_t) { return false; });
+    }
+
+    /// The same without the items of the nodes for which skip(node) is true.
+    template <class Bound, class Measure, class Skip>
+    std::optional<Found> lowest(double limit, Bound const & bound, Measure const & measure,
+                                Skip const & skip) const
+    {
         Found best{m_boxes.size(), limit};
-        if (!m_nodes.empty() && bound(m_nodes.front().box) < limit) {
-            descend(m_nodes.front(), bound, measure, best);
+        if (!m_nodes.empty() && bound(m_nodes.front().box) < limit && !skip(0)) {
+            descend(0, bound, measure, skip, best);
         }
         return best.item == m_boxes.size() ? std::nullopt : std::optional(best);
+    }
+
+    /// The nodes are numbered from 0, the root.
+    std::size_t nodeCount() const { return m_nodes.size(); }
+    Box const & box(std::size_t item) const { return m_boxes[item]; }
+
+    /// Goes from the root down: below a node only if enter(node, its box), through its nodes or its items,
+    /// and then leave(node). Calls visit(item) for each item met.
+    template <class Enter, class Visit, class Leave>
+    void walk(Enter const & enter, Visit const & visit, Leave const & leave) const
+    {
+        if (!m_nodes.empty()) {
+            walkBelow(0, enter, visit, leave);
+        }
     }
 
     /// Calls visit(item) for each item whose box touches `area`.
@@ -64,9 +86,11 @@ private:
         return a.left <= b.right && b.left <= a.right && a.bottom <= b.top && b.bottom <= a.top;
     }
 
-    template <class Bound, class Measure>
-    void descend(Node const & node, Bound const & bound, Measure const & measure, Found & best) const
+    template <class Bound, class Measure, class Skip>
+    void descend(std::size_t index, Bound const & bound, Measure const & measure, Skip const & skip,
+                 Found & best) const
     {
+        Node const & node = m_nodes[index];
         if (node.cell) {
             for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
                 std::size_t const item = m_order[i];
@@ -80,18 +104,38 @@ private:
         struct Way
         {
             double bound;
-            Node const * node;
+            std::uint32_t node;
         };
         std::array<Way, across * across> ways{};
-        for (std::uint32_t i = 0; i < node.count; ++i) {
-            Node const & child = m_nodes[node.first + i];
-            ways[i] = {bound(child.box), &child};
+        std::size_t count = 0;
+        for (std::uint32_t child = node.first; child < node.first + node.count; ++child) {
+            double const least = bound(m_nodes[child].box);
+            if (least < best.measure && !skip(child)) {
+                ways[count++] = {least, child};
+            }
         }
-        std::sort(ways.begin(), ways.begin() + node.count,
+        std::sort(ways.begin(), ways.begin() + static_cast<std::ptrdiff_t>(count),
                   [](Way const & a, Way const & b) { return a.bound < b.bound; });
-        for (std::uint32_t i = 0; i < node.count && ways[i].bound < best.measure; ++i) {
-            descend(*ways[i].node, bound, measure, best);
+        for (std::size_t i = 0; i < count && ways[i].bound < best.measure; ++i) {
+            descend(ways[i].node, bound, measure, skip, best);
         }
+    }
+
+    template <class Enter, class Visit, class Leave>
+    void walkBelow(std::size_t index, Enter const & enter, Visit const & visit, Leave const & leave) const
+    {
+        Node const & node = m_nodes[index];
+        if (!enter(index, node.box)) {
+            return;
+        }
+        for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
+            if (node.cell) {
+                visit(static_cast<std::size_t>(m_order[i]));
+            } else {
+                walkBelow(i, enter, visit, leave);
+            }
+        }
+        leave(index);
     }
 
     template <class Visit>

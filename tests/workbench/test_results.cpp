@@ -145,7 +145,9 @@ TEST_F(Results, AreFiledAndSummarised)
     EXPECT_EQ(rows["minDrillRing"], byLayer({{"bot", "-1"}, {"top", "-1"}}));
     EXPECT_TRUE(readFile("report.json").contains("\"um\": 100, "));
     EXPECT_TRUE(readFile("report.csv").contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"top\""));
-    EXPECT_GE(page().findChild<QTableWidget *>()->rowCount(), 11); // checks that need a net list
+    auto const * notes = page().findChild<QTableWidget *>();
+    EXPECT_EQ(notes->item(0, 0)->text(), "Nets");
+    EXPECT_TRUE(notes->item(0, 1)->text().contains("eda/data"));
 }
 
 TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
@@ -199,7 +201,20 @@ TEST_F(Results, AMeasurementIsMarkedOnTheBoard)
     EXPECT_EQ(marks[0].letter, "R");
     EXPECT_EQ(marks[0].toolTip, "Lines: 3.94 mil");
     EXPECT_EQ(window->board().currentView()->layer(), "top");
-    EXPECT_FALSE(page().showCheck(signalTable, 3)); // needs a net list
+    EXPECT_FALSE(page().showCheck(signalTable, 0)); // is not measured
+}
+
+TEST_F(Results, ListSpacingsUpToTheLargestLevel)
+{
+    writeFile(
+        "config/ranges/mine/SignalLayerRanges.json",
+        R"({"rangesList": [{"name": "Line to Line", "RedLv": "4", "YellowLv": "5", "GreenLv": "40"}]})");
+    open();
+    ASSERT_TRUE(page().runChecks());
+    EXPECT_EQ(model()->rowCount(model()->find(signalTable, 4)), 1) << "tracks 35 mil apart on top";
+    changeRangesValue(signalTable, "Line to Line", "GreenLv", 30);
+    ASSERT_TRUE(page().runChecks());
+    EXPECT_EQ(model()->rowCount(model()->find(signalTable, 4)), 0);
 }
 
 TEST_F(Results, SlotsHaveLevelsAndACategoryWithoutACheckIsNamed)

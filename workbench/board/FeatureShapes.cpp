@@ -141,8 +141,7 @@ QPainterPath FeatureShape::outline() const
     if (kind == Kind::Path) {
         return path;
     }
-    QTransform placed = QTransform::fromTranslate(place.x(), place.y()).scale(mirrored ? -1 : 1, 1);
-    return placed.rotate(-angle).map(path); // the last call acts first
+    return placement(place, angle, mirrored).map(path);
 }
 
 QPainterPath FeatureShape::marking(QTransform const & boardToWidget, int room) const

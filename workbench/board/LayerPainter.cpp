@@ -142,14 +142,7 @@ private:
         m_painter.setPen(Qt::NoPen);
         m_painter.setBrush(m_canvas.m_colour);
         if (shape.kind == FeatureShape::Kind::Pad) {
-            QTransform placed = QTransform::fromTranslate(shape.place.x(), shape.place.y()) * m_transform;
-            if (shape.mirrored) {
-                placed.scale(-1, 1);
-            }
-            if (shape.angle != 0) {
-                placed.rotate(-shape.angle);
-            }
-            m_painter.setTransform(placed);
+            m_painter.setTransform(placement(shape.place, shape.angle, shape.mirrored) * m_transform);
             if (shape.symbol.use_count() == 1) { // of no other pad
                 return fill(thinned(shape.path, tooNear / m_scale), shape);
             }

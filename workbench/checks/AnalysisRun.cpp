@@ -36,6 +36,31 @@ RestResult unifiedItems(decltype(KVCAM::Embedded::CheckResults::rest) const & re
     return items;
 }
 
+// The categories that are measured between nets up to the largest level.
+constexpr std::array signalSpacings{3, 4, 14, 15, 26, 29, 43};
+constexpr std::array drillSpacings{28, 29, 34, 35};
+
+// In mil; 0 without levels.
+double largestSpacingLevel()
+{
+    double largest = 0;
+    auto const add = [&largest](char const * table, auto const & numbers) {
+        std::vector<Analysis_Ranges_Record> records;
+        getRanges(table, records);
+        for (Analysis_Ranges_Record const & record : records) {
+            bool const isSpacing = std::any_of(numbers.begin(), numbers.end(), [&](int number) {
+                return getRangesName(table, number) == record.name;
+            });
+            for (Level const & level : allLevels) {
+                largest = isSpacing ? std::fmax(largest, record.*level.value) : largest;
+            }
+        }
+    };
+    add(signalTable, signalSpacings);
+    add(drillTable, drillSpacings);
+    return largest;
+}
+
 // Equal, or both not a number.
 bool isSame(double a, double b)
 {
@@ -64,10 +89,12 @@ AnalysisRun::Outcome AnalysisRun::run(std::string const & step,
 {
     bool isCancelled = false;
     KVCAM::Embedded::CheckResults results;
-    bool const isDone = KVCAM::Embedded::runChecks(m_session.job(), step, results, [&](int done, int total) {
+    auto const report = [&](int done, int total) {
         isCancelled = progress && !progress(done, total);
         return !isCancelled;
-    });
+    };
+    bool const isDone =
+        KVCAM::Embedded::runChecks(m_session.job(), step, results, report, {largestSpacingLevel()});
     m_error.clear();
     if (isDone) {
         file(step, results);
@@ -108,6 +135,7 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
     m_report.addSignal(results.signal);
     rest.erase(UNIFIED_SLOTS); // without levels; the same slots are among the drill items, which have some
     m_report.addUnified(rest);
+    m_report.addNotChecked({signalTable, -1, "Nets", results.nets});
     for (KVCAM::Embedded::NotChecked const & entry : results.notChecked) {
         noteUnchecked(entry);
     }

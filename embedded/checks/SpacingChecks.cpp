@@ -1,0 +1,292 @@
+#include "checks/SpacingChecks.h"
+
+#include "checks/CheckRecords.h"
+#include "checks/CopperSearch.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <tuple>
+#include <utility>
+
+namespace KVCAM::Embedded {
+namespace {
+
+constexpr double endless = std::numeric_limits<double>::infinity();
+constexpr std::size_t chunk = 256; // items between two progress reports
+
+struct Category
+{
+    int item;
+    std::uint8_t from; // each item of these kinds ...
+    std::uint8_t to;   // ... and its nearest neighbour of those, and the other way round
+};
+constexpr std::array<Category, 6> categories{{
+    {3, anyCopper, anyCopper},
+    {4, copperTrack, copperTrack},
+    {14, copperVia, copperVia},
+    {15, copperPth, copperPth},
+    {26, copperPth, copperTrack},
+    {29, copperVia, copperTrack},
+}};
+constexpr int routToCopper = 43;
+
+struct CloseHoles
+{
+    int item;
+    bool via;
+    bool sameNet;
+};
+constexpr std::array<CloseHoles, 4> closeHoles{{
+    {28, false, true},
+    {29, false, false},
+    {34, true, true},
+    {35, true, false},
+}};
+
+struct Pair
+{
+    std::uint32_t first;
+    std::uint32_t second;
+    Gap gap;
+};
+
+Pair pairOf(std::uint32_t item, Neighbour const & other)
+{
+    Gap const & gap = other.gap;
+    return item < other.item ? Pair{item, other.item, gap}
+                             : Pair{other.item, item, {gap.distance, gap.to, gap.from}};
+}
+
+Measurement recordOf(Gap const & gap)
+{
+    return measurement(2, gap.distance, {gap.from.x, gap.from.y, gap.to.x, gap.to.y, gap.distance});
+}
+
+// Each pair once, and once what several pairs of the same place tell alike.
+std::vector<API::check_info> recordsOf(std::vector<Pair> pairs)
+{
+    auto const key = [](Pair const & pair) {
+        return std::tuple(pair.first, pair.second, pair.gap.distance, pair.gap.from.x, pair.gap.from.y);
+    };
+    std::sort(pairs.begin(), pairs.end(), [&](Pair const & a, Pair const & b) { return key(a) < key(b); });
+    std::vector<Measurement> records;
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        if (i == 0 || pairs[i].first != pairs[i - 1].first || pairs[i].second != pairs[i - 1].second) {
+            records.push_back(recordOf(pairs[i].gap));
+        }
+    }
+    auto const place = [](Measurement const & record) {
+        std::vector<int> const & p = record.info.points;
+        std::pair<int, int> const from(p[0], p[1]);
+        std::pair<int, int> const to(p[2], p[3]);
+        return std::tuple(std::min(from, to), std::max(from, to), p[4]);
+    };
+    std::stable_sort(records.begin(), records.end(), [&](Measurement const & a, Measurement const & b) {
+        return std::tuple(place(a), a.measure) < std::tuple(place(b), b.measure);
+    });
+    records.erase(
+        std::unique(records.begin(), records.end(),
+                    [&](Measurement const & a, Measurement const & b) { return place(a) == place(b); }),
+        records.end());
+    return sorted(std::move(records));
+}
+
+// What an item of these kinds is measured to; 0 if the category does not concern it.
+std::uint8_t wantedBy(std::uint8_t kinds, Category const & category)
+{
+    return static_cast<std::uint8_t>(((kinds & category.from) != 0 ? category.to : 0) |
+                                     ((kinds & category.to) != 0 ? category.from : 0));
+}
+
+// The pairs of each category.
+std::array<std::vector<Pair>, categories.size()>
+pairsOf(CheckContext const & context, CopperLayer const & layer, CopperSearch const & search, double limit)
+{
+    std::array<std::vector<Pair>, categories.size()> pairs;
+    for (std::uint32_t item = 0; item < layer.items.size(); ++item) {
+        if (item % chunk == 0) {
+            context.reportProgress(item, layer.items.size() * 5 / 4 + 1);
+        }
+        if (layer.items[item].owner != nothing) {
+            continue;
+        }
+        // The nearest of all is the nearest of its kinds, too.
+        auto const nearest = search.nearest(item, anyCopper, limit);
+        for (std::size_t i = 0; nearest && i < categories.size(); ++i) {
+            std::uint8_t const wanted = wantedBy(layer.items[item].kinds, categories.at(i));
+            if (wanted == 0) {
+                continue;
+            }
+            auto const found = (layer.items[nearest->item].kinds & wanted) != 0
+                                   ? nearest
+                                   : search.nearest(item, wanted, limit);
+            if (found) {
+                pairs.at(i).push_back(pairOf(item, *found));
+            }
+        }
+    }
+    return pairs;
+}
+
+// Each item and the nearest rout.
+std::vector<Pair> routPairs(CheckContext const & context, CopperLayer const & layer,
+                            CopperSearch const & search, ItemShapes const & rout, double limit)
+{
+    std::vector<Pair> pairs;
+    std::size_t const total = layer.items.size();
+    for (std::uint32_t item = 0; item < total; ++item) {
+        if (item % chunk == 0) {
+            context.reportProgress(total + item / 4, total * 5 / 4 + 1);
+        }
+        if (layer.items[item].owner != nothing) {
+            continue;
+        }
+        Gap best{limit, {}, {}};
+        for (std::size_t piece = layer.shapes.firstPiece(item);
+             piece < layer.shapes.endPiece(item) && best.distance > 0; ++piece) {
+            PieceView const view = layer.shapes.pieces()[piece];
+            Box const & box = layer.shapes.grid().box(piece);
+            auto const found = rout.grid().lowest(
+                best.distance, [&](Box const & other) { return boxGap(other, box); },
+                [&](std::size_t other) { return gapBetween(view, rout.pieces()[other]).distance; });
+            best = found ? gapBetween(view, rout.pieces()[found->item]) : best;
+        }
+        if (best.distance < limit) {
+            pairs.push_back({item, nothing, best});
+        }
+    }
+    // A path inside copper that does not reach its edges.
+    for (std::size_t piece = 0; piece < rout.pieces().size(); ++piece) {
+        API::point const at = rout.pieces()[piece].corners[0];
+        if (auto const item = rout.pieces().starts(piece) ? search.around(at) : std::nullopt) {
+            pairs.push_back({*item, nothing, {0, at, at}});
+        }
+    }
+    return pairs;
+}
+
+// Holes of two layers that have only one row in common are one above the other.
+bool isBeside(PlatedHole const & a, PlatedHole const & b)
+{
+    return a.layer == b.layer || std::max(a.firstRow, b.firstRow) < std::min(a.lastRow, b.lastRow);
+}
+
+// Which holes do not count: the same drawn again, and slots of rout layers.
+std::vector<bool> ignored(PlatedHoles const & holes)
+{
+    auto const key = [&holes](std::uint32_t hole) {
+        PieceView const first = holes.shapes.pieces()[holes.shapes.firstPiece(hole)];
+        PlatedHole const & each = holes.list[hole];
+        return std::tuple(each.net, each.via, each.firstRow, each.lastRow, first.count, first.corners[0].x,
+                          first.corners[0].y, first.corners[first.count - 1].x,
+                          first.corners[first.count - 1].y, first.radius);
+    };
+    std::vector<std::uint32_t> order;
+    for (std::uint32_t hole = 0; hole < holes.list.size(); ++hole) {
+        order.push_back(hole);
+    }
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+        return std::tuple(key(a), a) < std::tuple(key(b), b);
+    });
+    std::vector<bool> out(holes.list.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        out[i] = holes.layers[holes.list[i].layer].type != "drill";
+    }
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        bool const round = holes.shapes.endPiece(order[i]) == holes.shapes.firstPiece(order[i]) + 1;
+        out[order[i]] = out[order[i]] || (round && key(order[i]) == key(order[i - 1]));
+    }
+    return out;
+}
+
+// The nearest hole of the same kind beside a hole, of the same net or of another; `nothing` beyond the limit.
+Neighbour nearestHole(PlatedHoles const & holes, NodeLabels const & nodes, std::vector<bool> const & out,
+                      std::uint32_t hole, bool sameNet, double limit)
+{
+    ItemShapes const & shapes = holes.shapes;
+    PlatedHole const & its = holes.list[hole];
+    std::uint8_t const wanted = its.via ? copperVia : copperPth;
+    Neighbour best{nothing, {limit, {}, {}}};
+    for (std::size_t piece = shapes.firstPiece(hole); piece < shapes.endPiece(hole); ++piece) {
+        PieceView const view = shapes.pieces()[piece];
+        auto const found = shapes.grid().lowest(
+            best.gap.distance, [&](Box const & box) { return boxGap(box, shapes.grid().box(piece)); },
+            [&](std::size_t otherPiece) {
+                std::uint32_t const other = shapes.pieces().itemOf(otherPiece);
+                PlatedHole const & that = holes.list[other];
+                bool const fits = other != hole && that.via == its.via && !out[other] &&
+                                  (that.net == its.net) == sameNet && isBeside(its, that);
+                return fits ? gapBetween(view, shapes.pieces()[otherPiece]).distance : endless;
+            },
+            [&](std::size_t node) {
+                return sameNet ? nodes.lacks(node, its.net, wanted)
+                               : nodes.lacksOthers(node, its.net, wanted);
+            });
+        if (found) {
+            best = {shapes.pieces().itemOf(found->item), gapBetween(view, shapes.pieces()[found->item])};
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+void checkSpacings(CheckContext const & context, CopperLayer & layer, PlatedHoles const & holes,
+                   ItemShapes const * rout, double reach, CheckResults & results)
+{
+    double const limit = std::nextafter(reach, endless);
+    CopperSearch const search(layer, holes);
+    auto & lists = results.signal[layer.name];
+    auto const list = [&lists](int item) -> std::vector<API::check_info> & {
+        return lists[static_cast<API::signal_layers_checks_items>(item)].lists[0];
+    };
+    auto pairs = pairsOf(context, layer, search, limit);
+    for (std::size_t i = 0; i < categories.size(); ++i) {
+        list(categories.at(i).item) = recordsOf(std::move(pairs.at(i)));
+    }
+    if (rout != nullptr) {
+        list(routToCopper) = recordsOf(routPairs(context, layer, search, *rout, limit));
+    }
+}
+
+void checkCloseHoles(CheckContext const & context, PlatedHoles const & holes, double reach,
+                     CheckResults & results)
+{
+    double const limit = std::nextafter(reach, endless);
+    ItemShapes const & shapes = holes.shapes;
+    std::vector<NodeLabels::Label> labels;
+    for (std::size_t piece = 0; piece < shapes.pieces().size(); ++piece) {
+        PlatedHole const & hole = holes.list[shapes.pieces().itemOf(piece)];
+        labels.push_back({hole.net, hole.via ? copperVia : copperPth});
+    }
+    NodeLabels const nodes(shapes.grid(), labels);
+    std::vector<bool> const out = ignored(holes);
+    std::size_t done = 0;
+    for (CloseHoles const & check : closeHoles) {
+        std::map<std::uint32_t, std::vector<Pair>> byLayer;
+        for (std::uint32_t hole = 0; hole < holes.list.size(); ++hole) {
+            PlatedHole const & its = holes.list[hole];
+            if (++done % chunk == 0) {
+                context.reportProgress(done, closeHoles.size() * holes.list.size() + 1);
+            }
+            if (its.via != check.via || out[hole]) {
+                continue;
+            }
+            Neighbour const best = nearestHole(holes, nodes, out, hole, check.sameNet, limit);
+            if (best.item != nothing) {
+                byLayer[holes.list[std::min(hole, best.item)].layer].push_back(pairOf(hole, best));
+            }
+        }
+        for (auto & [layer, pairs] : byLayer) {
+            auto & reply = results.drill[holes.layers[layer].name];
+            for (API::check_info & record : recordsOf(std::move(pairs))) {
+                reply.add(static_cast<API::drill_check_item>(check.item), 0, std::move(record));
+            }
+        }
+    }
+}
+
+} // namespace KVCAM::Embedded

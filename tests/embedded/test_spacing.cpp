@@ -1,0 +1,443 @@
+#include "embedded/BruteForce.h"
+#include "embedded/CheckTest.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <random>
+#include <string>
+
+using namespace KVCAM;
+using namespace KVCAM::Testing;
+
+namespace {
+
+constexpr std::array<int, 7> signalItems{3, 4, 14, 15, 26, 29, 43};
+constexpr std::array<int, 4> drillItems{28, 29, 34, 35};
+
+struct CheckTexts : CheckTest
+{
+    using CheckTest::texts;
+};
+
+class SpacingTest : public CheckTest
+{
+protected:
+    struct Board
+    {
+        QByteArray top;
+        QByteArray drill;
+        std::string expected; // spacings of the top layer and of holes
+        QByteArray bottom = {};
+        QByteArray nets = {}; // without the list of layers
+    };
+
+    static void build(Board const & board)
+    {
+        QByteArray const symbols = "UNITS=MM\n$0 r200\n$1 r1000\n$2 rect400x1000\n$3 s500\n$4 oval1000x400\n"
+                                   "$5 r600\n$6 r300\n@0 .drill\n@1 .nomenclature\n";
+        QDir("jobs").removeRecursively();
+        makeJob(row(1, "TOP", "SIGNAL") + row(2, "BOTTOM", "SIGNAL") + row(3, "DRILL", "DRILL"));
+        fill("top", symbols + board.top);
+        fill("bottom", symbols + board.bottom);
+        fill("drill", symbols + board.drill);
+        if (!board.nets.isEmpty()) {
+            write("jobs/board/steps/pcb/eda/data",
+                  "HDR x\nUNITS=MM\nLYR drill top bottom other\n" + board.nets);
+        }
+        ASSERT_TRUE(open()) << Embedded::lastError();
+    }
+
+    // The spacings of each item that has any, on the top layer and between holes.
+    static std::string spacings(Embedded::CheckResults const & results)
+    {
+        std::string line;
+        auto const add = [&line](std::string const & item, std::vector<API::check_info> const & records) {
+            line += records.empty() ? "" : (line.empty() ? "" : ", ") + item + ':';
+            for (API::check_info const & record : records) {
+                EXPECT_EQ(record.type, 2);
+                line += ' ' + std::to_string(record.points.at(4));
+            }
+        };
+        for (int const item : signalItems) {
+            if (item != 43 || results.signal.at("top").count(API::signal_layers_checks_items{43}) != 0) {
+                add(std::to_string(item), signal(results, "top", item));
+            }
+        }
+        for (int const item : drillItems) {
+            add("drill " + std::to_string(item), drill(results, "drill", item));
+        }
+        return line;
+    }
+};
+
+TEST_F(SpacingTest, TheNearestCopperOfAnotherNetByKind)
+{
+    QByteArray const twoTracks = "L 0 0 9 0 0 P 0\nL 0 0.5 9 0.5 0 P 0\n";
+    QByteArray const pour = "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOE\n"
+                            "OB 4 4 H\nOS 4 6\nOS 6 6\nOS 6 4\nOE\nSE\n";
+    QByteArray const twoPads = "P 0 0 5 P 0 0\nP 0.75 0 5 P 0 0\n";
+    QByteArray const twoHoles = "P 0 0 6 P 0 0 ;0=0\nP 0.75 0 6 P 0 0 ;0=0\n";
+    QByteArray const twoVias = QByteArray(twoHoles).replace("0=0", "0=2");
+    QByteArray const viaAndLine = "P 0 0 5 P 0 0\nL 0.6 -3 0.6 3 0 P 0\n";
+    QByteArray const across = "L 1 0 1 0.5 0 P 0\n";
+    for (Board const & board : {
+             Board{twoTracks, {}, "3: 300, 4: 300"},
+             Board{twoTracks + "L 9 0 9 0.5 0 P 0\n", {}, ""},
+             Board{twoTracks + "L 0 1 9 1 0 P 0 ;1\n", {}, "3: 300 300, 4: 300"}, // text is no track
+             Board{"A 5 0 5 0 0 0 0 P 0 Y\nP 6 0 1 P 0 0\n", {}, "3: 400"},
+             Board{"A 5 0 -5 0 0 0 0 P 0 Y\nA 5.4 0 -5.4 0 0 0 0 P 0 Y\n", {}, "3: 200, 4: 200"},
+             Board{"P 0 0 2 P 0 8 90\nP 1 0 0 P 0 0\n", {}, "3: 400"}, // turned
+             Board{"P 0 0 3 P 0 8 45\nP 0.8 0 0 P 0 0\n", {}, "3: 346"},
+             Board{"P 0 0 4 P 0 1\nP 0 0.8 0 P 0 0\nP 0.5 0 0 P 0 0\n", {}, "3: 200 200"},
+             Board{pour + "P 5 5 1 P 0 0\n", {}, "3: 500"}, // in its opening
+             Board{pour + "P 2 2 1 P 0 0\nP 2 2 0 P 0 0\n", {}, ""},
+             Board{pour, "P 5.2 5 1 P 0 0\n", "3: 300"}, // a hole's wall
+             Board{twoTracks, "P 1 0 0 P 0 0 ;0=0\nP 1 0.5 0 P 0 0 ;0=2\n", "", across},
+             Board{twoTracks, "P 1 0 0 P 0 0 ;0=1\nP 1 0.5 0 P 0 0 ;0=2\n", "3: 300 300, 4: 300, 29: 300",
+                   across},
+             Board{"P 0 0 1 P 0 0\nP 1.4 0 1 P 0 0\n", "L 0 0 1.4 0 0 P 0 ;0=0\n", ""}, // a slot joins
+             Board{twoPads, twoHoles, "3: 150, 15: 150, drill 29: 450"},
+             Board{twoPads, twoVias, "3: 150, 14: 150, drill 35: 450"},
+             Board{twoPads, twoVias + twoVias, "3: 150, 14: 150, drill 35: 450"},
+             Board{twoPads + "L 0 0 0.75 0 0 P 0\n", twoHoles, "drill 28: 450"}, // one net
+             Board{twoPads + "L 0 0 0.75 0 0 P 0\n", twoVias, "drill 34: 450"},
+             Board{viaAndLine, "P 0 0 6 P 0 0 ;0=0\n", "3: 200, 26: 200"},
+             Board{viaAndLine + "P -0.5 0 0 P 0 0\n", "P 0 0 6 P 0 0 ;0=2\n", "3: 100 200, 29: 200"},
+             Board{twoTracks + twoTracks, {}, "3: 300, 4: 300"},
+             Board{"P 0 0 0 P 0 0\nP 0.709 0 0 P 0 0\nP 0.708 9 0 P 0 0\nP 0 9 0 P 0 0\n", {}, "3: 508"},
+         }) {
+        build(board);
+        EXPECT_EQ(spacings(check()), board.expected) << board.top.toStdString();
+    }
+}
+
+TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
+{
+    QByteArray const cross = "L 0 0 9 0 0 P 0\nL 5 -3 5 3 0 P 0\nL 0 0.5 4 0.5 0 P 0\n";
+    QByteArray const pad = "P 3 0.7 0 P 0 0\n"; // touches the third line
+    struct Row
+    {
+        QByteArray nets;
+        QByteArray more;
+        std::string expected;
+        char const * source;
+    };
+    std::string const byTouch = "3: 300, 4: 300";
+    for (Row const & row : {
+             Row{"NET A ;;ID=1\nSNT TRC\nFID C 1 0\nNET B\nFID C 1 1\nFID C 1 2\n",
+                 {},
+                 "3: 0 300, 4: 0 300",
+                 "(2)"},
+             Row{"NET A\nFID C 1 0\nFID C 1 1\nFID C 1 2\n", pad, "", "The nets are those of eda/data (1)"},
+             Row{"NET A\nFID C 1 0\nNET A\nFID C 1 1\nFID C 1 2\n", pad, "", "(1)"},
+             Row{"NET $NONE$\nFID C 1 2\nNET A\nFID C 1 0\nFID C 1 1\n", pad, "3: 300 500, 4: 300", "(1)"},
+             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 2\n", pad, "3: 300 500, 4: 300", "(2)"},
+             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 1\nFID C 1 3\n",
+                 {},
+                 byTouch,
+                 "does not fit the job: its net \"B\" has feature 3 of layer \"top\", which has 3"},
+             Row{"NET A\nFID H 0 1\n", {}, byTouch, "feature 1 of layer \"drill\", which has 0"},
+             Row{"NET A\nFID C 3 0\n", {}, byTouch, "it names a layer \"other\""},
+             Row{"NET A\nFID C 7 0\n", {}, byTouch, "unknown layer 7"},
+             Row{"NET A\nFID C 1 0\nNET B\nFID C 1 0\n", {}, byTouch, "belongs to two nets"},
+             Row{"NET A\nFID C 1\n", {}, byTouch, "no feature"},
+             Row{"FID C 1 0\n", {}, byTouch, "outside a net"},
+             Row{"NET A\nFID C 1 -1\n", {}, byTouch, "negative feature"},
+             Row{"NET $NONE$\nFID C 1 0\n", {}, byTouch, "lists no nets"},
+             Row{{}, {}, byTouch, "touch: the step has no eda/data."},
+         }) {
+        build({cross + row.more, {}, {}, {}, row.nets});
+        auto const results = check();
+        EXPECT_EQ(spacings(results), row.expected) << row.nets.toStdString();
+        EXPECT_NE(results.nets.find(row.source), std::string::npos) << results.nets;
+    }
+}
+
+TEST_F(SpacingTest, AHoleThroughCopperOfAnotherNetIsAShort)
+{
+    QByteArray const plane = "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOE\nSE\n";
+    build({plane, "P 5 5 6 P 0 0 ;0=2\n", {}, plane, "NET A\nFID H 0 0\nNET B\nFID C 1 0\n"});
+    auto const results = check();
+    EXPECT_EQ(texts(signal(results, "top", 3)), (Texts{"2 0: 5000 5000 5000 5000 0"}));
+    EXPECT_TRUE(signal(results, "bottom", 3).empty()) << "not listed: it is of the hole's net";
+}
+
+TEST_F(SpacingTest, RoutOutlineDeletionsAndReach)
+{
+    build({"L 1 0.3 9 0.3 0 P 0\nL 1 1 9 1 0 P 0\nL 20 20 30 20 0 P 0\nL 9.9 9.5 11 9.5 0 P 0\n"
+           "L 0 0 0 10 0 P 0\n",
+           {},
+           {}});
+    auto const reach = [](double mil) {
+        Embedded::CheckResults results;
+        EXPECT_TRUE(Embedded::runChecks("board", "pcb", results, {}, {mil})) << Embedded::lastError();
+        return spacings(results);
+    };
+    EXPECT_EQ(reach(0), "3: 500, 4: 500");
+    EXPECT_EQ(reach(19), "3: 500, 4: 500");
+
+    write("jobs/board/steps/pcb/profile",
+          "UNITS=MM\nS P 0\nOB 0 0 I\nOS 10 0\nOS 10 10\nOS 0 10\nOE\nOB 4 6 H\nOC 4 6 5 6 Y\nOE\nSE\n");
+    write("jobs/board/matrix/matrix",
+          step(1, "PCB") + row(1, "TOP", "SIGNAL") + row(2, "DRILL", "DRILL") + row(3, "ROUT", "ROUT"));
+    fill("rout",
+         "UNITS=MM\n$0 r400\n$1 r0\n@0 .drill\nL 2 2 3 2 0 P 0\nL 1 4 3 4 0 P 0 ;0=0\nL 8 3 8 5 1 P 0\n");
+    fill("bottom", "");
+    ASSERT_TRUE(open()) << Embedded::lastError();
+    EXPECT_EQ(reach(20), "3: 500, 4: 500, 43: 0 200") << "one line crosses, one is the outline";
+    EXPECT_EQ(reach(28), "3: 500, 4: 500, 43: 0 200 700") << "from the path's edge";
+    ASSERT_TRUE(Embedded::deleteFeatures("board", "pcb", "top", {0})) << Embedded::lastError();
+    EXPECT_EQ(reach(28), "43: 0 700");
+}
+
+TEST_F(SpacingTest, NoSpacingToAnArcIsTooLarge)
+{
+    // Pads 203.15 um beside a circle, a little less than 8 mil, at places all along its chords.
+    QByteArray pads;
+    for (int i = 0; i < 40; ++i) {
+        double const angle = 0.1503 * i;
+        pads += "P " + QByteArray::number(5.40315 * std::cos(angle), 'f', 8) + ' ' +
+                QByteArray::number(5.40315 * std::sin(angle), 'f', 8) + " 0 P 0 0\n";
+    }
+    for (QByteArray const & circle :
+         {QByteArray("A 5 0 5 0 0 0 0 P 0 Y\n"), QByteArray("S P 0\nOB 5.1 0 I\nOC 5.1 0 0 0 Y\nOE\nSE\n")}) {
+        build({circle + pads, {}, {}});
+        auto const records = signal(check(), "top", 3);
+        EXPECT_EQ(records.size(), 40U);
+        for (API::check_info const & record : records) {
+            EXPECT_EQ(record.value, 7) << texts({record}).front();
+        }
+    }
+}
+
+// --- Against trying everything ----------------------------------------------------------------------------
+
+using Brute::Graphic;
+
+// A board of tracks, arcs, pads and pours with openings, and nets for some of them.
+QByteArray randomFeatures(std::mt19937 & random, int count)
+{
+    auto const number = [&random](int low, int high) {
+        return QByteArray::number(std::uniform_int_distribution<int>(low, high)(random) / 1000.0);
+    };
+    auto const symbol = [&random](int low, int high) {
+        return ' ' + QByteArray::number(std::uniform_int_distribution<int>(low, high)(random));
+    };
+    QByteArray text = "UNITS=MM\n$0 r150\n$1 r300\n$2 rect400x900\n$3 s500\n$4 oval900x350\n"
+                      "$5 rect800x400xr100\n";
+    for (int i = 0; i < count; ++i) {
+        double const x = std::uniform_int_distribution<int>(0, 20000)(random) / 1000.0;
+        double const y = std::uniform_int_distribution<int>(0, 20000)(random) / 1000.0;
+        auto const at = [x, y](double dx, double dy) {
+            return QByteArray::number(x + dx) + ' ' + QByteArray::number(y + dy) + ' ';
+        };
+        switch (i % 5) {
+        case 0:
+            text += "L " + at(0, 0) + at(1.5 * (i % 3), 0.7) + symbol(0, 1) + " P 0\n";
+            break;
+        case 1:
+            text +=
+                "A " + at(0.8, 0) + at(0, 0.8) + at(0, 0) + symbol(0, 1) + (i % 2 ? " P 0 Y\n" : " P 0 N\n");
+            break;
+        case 2:
+            text += "P " + at(0, 0) + symbol(0, 5) + " P 0 8 " + number(0, 360000) + '\n';
+            break;
+        case 3:
+            text += "P " + at(0, 0) + symbol(0, 5) + " P 0" + symbol(0, 7) + '\n';
+            break;
+        default:
+            text += "S P 0\nOB " + at(0, 0) + "I\nOS " + at(3, 0) + "\nOC " + at(3, 3) + at(3, 1.5) +
+                    "N\nOS " + at(0, 3) + "\nOE\nOB " + at(1, 1) + "H\nOC " + at(1, 1) + at(2, 1.4) +
+                    "Y\nOE\nSE\n";
+        }
+    }
+    return text;
+}
+
+// What has no net is of one net if it touches.
+void nameNets(std::vector<Graphic> & graphics)
+{
+    for (Graphic & each : graphics) {
+        each.net = each.net.empty() ? '#' + std::to_string(each.index) : each.net;
+    }
+    for (Graphic const & a : graphics) {
+        for (Graphic const & b : graphics) {
+            if (a.net[0] == '#' && a.net != b.net && !areApart(a, b, 1) && distance(a, b) <= 0.1) {
+                std::string const old = b.net;
+                std::string const joined = a.net;
+                for (Graphic & each : graphics) {
+                    each.net = each.net == old ? joined : each.net;
+                }
+            }
+        }
+    }
+}
+
+constexpr std::size_t wall = 1'000'000; // numbers of the walls of holes begin here
+
+// Those at a place.
+std::vector<Graphic const *> at(std::vector<Graphic> const & graphics, double x, double y)
+{
+    Graphic place;
+    place.strokes.push_back({{x, y}, {x, y}, 0});
+    measureBox(place);
+    std::vector<Graphic const *> found;
+    for (Graphic const & each : graphics) {
+        if (!areApart(each, place, 2) && Brute::distance(each, place) < 1.5) {
+            found.push_back(&each);
+        }
+    }
+    return found;
+}
+
+// Each record is the distance of two features of different nets at its places, and none of a sample of
+// features is nearer to another net than its records tell. "?" is a net that is not known here.
+void expectEqual(std::vector<API::check_info> const & records, std::vector<Graphic> const & graphics,
+                 std::size_t sample)
+{
+    std::map<std::size_t, double> least; // by feature
+    for (API::check_info const & record : records) {
+        double const told = record.points[4];
+        bool explained = false;
+        for (Graphic const * from : at(graphics, record.points[0], record.points[1])) {
+            for (Graphic const * to : at(graphics, record.points[2], record.points[3])) {
+                bool const others = from->net != to->net || (from->net == "?" && from != to);
+                if (others && std::abs(Brute::distance(*from, *to) - told) <= 1) {
+                    explained = true;
+                    for (Graphic const * each : {from, to}) {
+                        auto const known = least.emplace(each->index, told).first;
+                        known->second = std::min(known->second, told);
+                    }
+                }
+            }
+        }
+        EXPECT_TRUE(explained) << CheckTexts::texts({record}).front();
+    }
+    std::size_t const step = sample == 0 ? graphics.size() : (graphics.size() + sample - 1) / sample;
+    for (std::size_t i = sample == 0 ? graphics.size() : 0; i < graphics.size(); i += step) {
+        if (graphics[i].index >= wall) { // counts with its pad
+            continue;
+        }
+        double nearest = 508;
+        for (Graphic const & other : graphics) {
+            bool const known = graphics[i].net != "?" && other.net != "?";
+            if (known && other.net != graphics[i].net && !areApart(other, graphics[i], nearest)) {
+                nearest = std::min(nearest, Brute::distance(other, graphics[i]));
+            }
+        }
+        auto const told = least.find(graphics[i].index);
+        EXPECT_TRUE(nearest >= 507 || (told != least.end() && told->second <= nearest + 1))
+            << "feature " << graphics[i].index << ": " << nearest << " against "
+            << (told == least.end() ? -1 : told->second);
+    }
+}
+
+TEST_F(SpacingTest, AgreesWithTryingEverythingOnRandomBoards)
+{
+    std::mt19937 random(7);
+    for (int round = 0; round < 6; ++round) {
+        QByteArray const text = randomFeatures(random, 60 + 20 * round);
+        makeJob(row(1, "TOP", "SIGNAL"));
+        fill("top", text);
+        std::vector<Graphic> graphics;
+        QByteArray nets = "LYR top\n";
+        for (int i = 0; round % 2 == 1 && i < text.count(" P 0"); ++i) {
+            nets += "NET N" + QByteArray::number(i % 23) + "\nFID C 0 " + QByteArray::number(i) + '\n';
+        }
+        write("jobs/board/steps/pcb/eda/data", nets);
+        ASSERT_TRUE(open()) << Embedded::lastError();
+        auto const results = check();
+        graphics = Brute::readLayer("jobs/board/steps/pcb/layers/top/features");
+        auto const listed = Brute::readNets("jobs/board/steps/pcb/eda/data", "top");
+        for (Graphic & each : graphics) {
+            each.net = listed.empty() ? std::string() : listed.at(each.index);
+        }
+        nameNets(graphics);
+        ASSERT_FALSE(signal(results, "top", 3).empty());
+        expectEqual(signal(results, "top", 3), graphics, graphics.size());
+        if (HasFailure())
+            return;
+    }
+}
+
+struct RealLayer
+{
+    std::string job;
+    std::string step;
+    std::string layer;
+    std::string drill;
+    Texts smallest; // by item
+};
+
+void expectReal(QString const & folder, RealLayer const & row)
+{
+    ASSERT_TRUE(API::open_job(folder.toStdString(), row.job)) << Embedded::lastError();
+    Embedded::CheckResults results;
+    ASSERT_TRUE(Embedded::runChecks(row.job, row.step, results)) << Embedded::lastError();
+    EXPECT_NE(results.nets.find("those of eda/data"), std::string::npos) << results.nets;
+    std::string const step = folder.toStdString() + '/' + row.job + "/steps/" + row.step;
+    std::vector<Graphic> graphics;
+    for (std::string const & layer : {row.layer, row.drill}) {
+        auto const listed = Brute::readNets(step + "/eda/data", layer);
+        for (Graphic & each : Brute::readLayer(step + "/layers/" + layer + "/features")) {
+            bool const isListed = listed.count(each.index) != 0;
+            if (isListed || layer == row.layer) {
+                each.net = isListed ? listed.at(each.index) : "?";
+                each.index += layer == row.layer ? 0 : wall;
+                graphics.push_back(std::move(each));
+            }
+        }
+    }
+    Texts smallest;
+    for (auto const & [item, result] : results.signal.at(row.layer)) {
+        bool const isOfNets = std::count(signalItems.begin(), signalItems.end(), static_cast<int>(item)) != 0;
+        if (isOfNets && !result.lists[0].empty()) {
+            smallest.push_back(std::to_string(static_cast<int>(item)) + ": " +
+                               std::to_string(result.lists[0].front().points.at(4)));
+            if (static_cast<int>(item) != 43) {
+                expectEqual(result.lists[0], graphics, static_cast<int>(item) == 3 ? 40 : 0);
+            }
+        }
+    }
+    EXPECT_EQ(smallest, row.smallest) << row.layer;
+}
+
+TEST(RealSpacingTest, AgreesWithTryingEverythingOnRealBoards)
+{
+    QString const folder = sharedPath("jobs");
+    if (folder.isEmpty()) {
+        GTEST_SKIP() << "the real jobs are not here";
+    }
+    std::string const kicad = "kicad-flat-hierarchy";
+    std::string const plated = "drill_plated_top_copper-bottom_copper";
+    for (RealLayer const & row : {
+             RealLayer{kicad, "pcb", "top_copper", plated, {"3: 131", "4: 394", "15: 281"}},
+             RealLayer{kicad, "pcb", "bottom_copper", plated, {"3: 131", "4: 445", "15: 281", "26: 254"}},
+             RealLayer{"oc-breakout",
+                       "stp",
+                       "top",
+                       "drill",
+                       {"3: 132", "4: 132", "14: 247", "15: 450", "26: 182", "29: 152"}},
+             RealLayer{"oc-breakout",
+                       "stp",
+                       "l2_gnd",
+                       "drill",
+                       {"3: 152", "14: 247", "15: 450", "26: 355", "29: 418"}},
+             RealLayer{"oc-breakout",
+                       "stp",
+                       "l3_plane",
+                       "drill",
+                       {"3: 152", "4: 222", "14: 247", "15: 450", "26: 355", "29: 266"}},
+             RealLayer{"oc-breakout",
+                       "stp",
+                       "bottom",
+                       "drill",
+                       {"3: 132", "4: 132", "14: 247", "15: 450", "26: 271", "29: 209"}},
+         }) {
+        expectReal(folder, row);
+    }
+}
+
+} // namespace
