@@ -7,6 +7,7 @@
 #include "tour/Headless.h"
 #include "ui/LogPane.h"
 #include "window/BoardPage.h"
+#include "window/Desk.h"
 #include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
@@ -49,15 +50,14 @@ int failWith(QString const & text, bool headless)
     return fail(text);
 }
 
-// Without arguments, as after a double click, the sample board is shown. Files then go to the user's
-// documents: the current directory is the program's, and often read-only.
+// Without arguments, as after a double click, files go to the user's documents: the current directory is the
+// program's, and often read-only.
 QStringList argumentsOf(QApplication const & application, bool headless)
 {
     QStringList arguments = application.arguments();
     if (arguments.size() == 1 && !headless && Workbench::defaultJob().isEmpty()) {
         QString const documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        arguments << "--output" << documents + "/uiapi-workbench"
-                  << Workbench::samplesDirectory() + "/jobs/demo-board";
+        arguments << "--output" << documents + "/uiapi-workbench";
     }
     return arguments;
 }
@@ -100,6 +100,17 @@ void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const &
     }
 }
 
+int runWindows(Workbench::LogLines const & log, Workbench::CommandLine const & commandLine)
+{
+    Workbench::Desk desk(log, commandLine, Workbench::configurationDirectory() + "/workbench.ini");
+    if (commandLine.job.isEmpty() || !desk.open(commandLine.job, commandLine.step)) {
+        desk.showStart();
+    } else if (!commandLine.summary.isEmpty() || !commandLine.reports.isEmpty()) {
+        QTimer::singleShot(0, desk.window(), [&] { writeResults(*desk.window(), commandLine); });
+    }
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char ** argv)
@@ -136,12 +147,15 @@ int main(int argc, char ** argv)
     Workbench::CommandLine const & commandLine = parsed.commandLine;
 
     Workbench::Session session;
-    QString const error = session.open(commandLine.job);
-    if (!error.isEmpty()) {
-        return failWith(error, headless);
-    }
-    if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
-        return failWith("the job has no step \"" + commandLine.step + '"', headless);
+    if (headless) {
+        QString const error =
+            commandLine.job.isEmpty() ? "no job directory given, see --help" : session.open(commandLine.job);
+        if (!error.isEmpty()) {
+            return fail(error);
+        }
+        if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
+            return fail("the job has no step \"" + commandLine.step + '"');
+        }
     }
     if (!canWriteInto(commandLine.output)) {
         return failWith("cannot write to \"" + commandLine.output + '"', headless);
@@ -154,20 +168,14 @@ int main(int argc, char ** argv)
     KVCAM::UIAPI::Ext::setReadSavedSettingKeys(
         true); // what the settings page saves is there at the next start
     KVCAM::UIAPI::Ext::setRemovalRoots({commandLine.output + "/workbench-session"});
+    if (!headless) {
+        return runWindows(log, commandLine);
+    }
     Workbench::readLayers(session);
     LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
               << " step(s) and " << session.layers().size() << " layers";
-
     Workbench::MainWindow window(session, log, commandLine);
     window.board().showStep(commandLine.step);
-    if (!headless) {
-        window.useStateFile(Workbench::configurationDirectory() + "/workbench.ini", commandLine.isUnitGiven);
-        window.show();
-        if (!commandLine.summary.isEmpty() || !commandLine.reports.isEmpty()) {
-            QTimer::singleShot(0, &window, [&window, &commandLine] { writeResults(window, commandLine); });
-        }
-        return QApplication::exec();
-    }
     if (!commandLine.headless) {
         print(stderr, "uiapi-workbench: no display, working as with --headless\n");
     }

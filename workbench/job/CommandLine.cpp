@@ -85,7 +85,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
         return failure("more than one job directory given");
     }
     QString const job = positional.isEmpty() ? defaultJob() : positional.first();
-    if (job.isEmpty()) {
+    if (job.isEmpty() && parser.isSet(headless)) {
         return failure("no job directory given, see --help");
     }
     CommandLine commandLine;
