@@ -7,6 +7,7 @@
 #include "tour/Headless.h"
 #include "ui/LogPane.h"
 #include "window/BoardPage.h"
+#include "window/Desk.h"
 #include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
@@ -49,15 +50,14 @@ int failWith(QString const & text, bool headless)
     return fail(text);
 }
 
-// Without arguments, as after a double click, the sample board is shown. Files then go to the user's
-// documents: the current directory is the program's, and often read-only.
+// Without arguments, as after a double click, files go to the user's documents: the current directory is the
+// program's, and often read-only.
 QStringList argumentsOf(QApplication const & application, bool headless)
 {
     QStringList arguments = application.arguments();
     if (arguments.size() == 1 && !headless && Workbench::defaultJob().isEmpty()) {
         QString const documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        arguments << "--output" << documents + "/uiapi-workbench"
-                  << Workbench::samplesDirectory() + "/jobs/demo-board";
+        arguments << "--output" << documents + "/uiapi-workbench";
     }
     return arguments;
 }
@@ -89,22 +89,6 @@ void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QStrin
         << text.toUtf8().constData();
 }
 
-// Into the log, and without a window to the terminal.
-void tellRepeats(Workbench::Session const & session, bool headless)
-{
-    for (Workbench::Session::Step const & step : session.steps()) {
-        for (auto const & [name, count] : step.repeats) {
-            QString const text = QString("Step %1 repeats %2 %3 times")
-                                     .arg(QString::fromStdString(step.name), QString::fromStdString(name))
-                                     .arg(count);
-            LOG(INFO) << "workbench: " << text.toStdString();
-            if (headless) {
-                print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
-            }
-        }
-    }
-}
-
 // For a run with a window, in which a box can be read.
 void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const & commandLine)
 {
@@ -114,6 +98,17 @@ void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const &
         fail(error);
         Ext::showMessage({Ext::MessageKind::Information, &window, window.windowTitle(), error});
     }
+}
+
+int runWindows(Workbench::LogLines const & log, Workbench::CommandLine const & commandLine)
+{
+    Workbench::Desk desk(log, commandLine, Workbench::configurationDirectory() + "/workbench.ini");
+    if (commandLine.job.isEmpty() || !desk.open(commandLine.job, commandLine.step)) {
+        desk.showStart();
+    } else if (!commandLine.summary.isEmpty() || !commandLine.reports.isEmpty()) {
+        QTimer::singleShot(0, desk.window(), [&] { writeResults(*desk.window(), commandLine); });
+    }
+    return QApplication::exec();
 }
 
 } // namespace
@@ -152,12 +147,15 @@ int main(int argc, char ** argv)
     Workbench::CommandLine const & commandLine = parsed.commandLine;
 
     Workbench::Session session;
-    QString const error = session.open(commandLine.job);
-    if (!error.isEmpty()) {
-        return failWith(error, headless);
-    }
-    if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
-        return failWith("the job has no step \"" + commandLine.step + '"', headless);
+    if (headless) {
+        QString const error =
+            commandLine.job.isEmpty() ? "no job given, see --help" : session.open(commandLine.job);
+        if (!error.isEmpty()) {
+            return fail(error);
+        }
+        if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
+            return fail("the job has no step \"" + commandLine.step + '"');
+        }
     }
     if (!canWriteInto(commandLine.output)) {
         return failWith("cannot write to \"" + commandLine.output + '"', headless);
@@ -170,22 +168,17 @@ int main(int argc, char ** argv)
     KVCAM::UIAPI::Ext::setReadSavedSettingKeys(
         true); // what the settings page saves is there at the next start
     KVCAM::UIAPI::Ext::setRemovalRoots({commandLine.output + "/workbench-session"});
+    if (!headless) {
+        return runWindows(log, commandLine);
+    }
     Workbench::readLayers(session);
-    LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
-              << " step(s) and " << session.layers().size() << " layers";
-
-    tellRepeats(session, headless);
-
+    Workbench::logOpened(session);
+    QStringList const repeats = Workbench::repeatLines(session);
+    for (QString const & line : repeats) {
+        print(stderr, "uiapi-workbench: " + line.toUtf8() + '\n');
+    }
     Workbench::MainWindow window(session, log, commandLine);
     window.board().showStep(commandLine.step);
-    if (!headless) {
-        window.useStateFile(Workbench::configurationDirectory() + "/workbench.ini", commandLine.isUnitGiven);
-        window.show();
-        if (!commandLine.summary.isEmpty() || !commandLine.reports.isEmpty()) {
-            QTimer::singleShot(0, &window, [&window, &commandLine] { writeResults(window, commandLine); });
-        }
-        return QApplication::exec();
-    }
     if (!commandLine.headless) {
         print(stderr, "uiapi-workbench: no display, working as with --headless\n");
     }

@@ -86,7 +86,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
         return failure("more than one job given");
     }
     QString const job = positional.isEmpty() ? defaultJob() : positional.first();
-    if (job.isEmpty()) {
+    if (job.isEmpty() && parser.isSet(headless)) {
         return failure("no job given, see --help");
     }
     CommandLine commandLine;

@@ -10,7 +10,7 @@ namespace Workbench {
 /// The user's options. Paths are absolute, since the program changes its current directory later.
 struct CommandLine
 {
-    QString job;    ///< folder of the job, or an archive of it
+    QString job;    ///< folder of the job, or an archive of it; empty: the window starts without one
     QString config; ///< configuration folder; empty: a copy of the samples
     QString output; ///< for screenshots, the database and the saved form
     Unit unit = Unit::Inch;

@@ -2,6 +2,8 @@
 
 #include <UIAPICommon.h>
 
+#include <glog/logging.h>
+
 #include <QCoreApplication>
 
 namespace Workbench {
@@ -27,6 +29,29 @@ bool readLayers(Session & session)
     }
     progress.setValue(done);
     return true;
+}
+
+QStringList repeatLines(Session const & session)
+{
+    QStringList lines;
+    for (Session::Step const & step : session.steps()) {
+        for (auto const & [name, count] : step.repeats) {
+            lines.append(QString("Step %1 repeats %2 %3 times")
+                             .arg(QString::fromStdString(step.name), QString::fromStdString(name))
+                             .arg(count));
+        }
+    }
+    return lines;
+}
+
+void logOpened(Session const & session)
+{
+    LOG(INFO) << "workbench: opened the job " << session.job() << " with " << session.steps().size()
+              << " step(s) and " << session.layers().size() << " layers";
+    QStringList const lines = repeatLines(session);
+    for (QString const & line : lines) {
+        LOG(INFO) << "workbench: " << line.toStdString();
+    }
 }
 
 } // namespace Workbench

@@ -2,10 +2,17 @@
 
 #include "job/Session.h"
 
+#include <QStringList>
+
 namespace Workbench {
 
 /// Reads the layers of an open job, which is slow, with a progress dialog. F1 or its button stops this:
 /// layers not read by then are read when shown, and their features are not counted. False when stopped.
 bool readLayers(Session & session);
+
+/// A line for each step that another one repeats, such as "Step panel repeats pcb 6 times".
+QStringList repeatLines(Session const & session);
+/// Logs at INFO what was opened.
+void logOpened(Session const & session);
 
 } // namespace Workbench

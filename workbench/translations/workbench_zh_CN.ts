@@ -39,6 +39,18 @@
         <source>none</source>
         <translation>无</translation>
     </message>
+    <message>
+        <source>Open the folder of a job</source>
+        <translation>打开任务文件夹</translation>
+    </message>
+    <message>
+        <source>Open an archive with a job</source>
+        <translation>打开任务压缩包</translation>
+    </message>
+    <message>
+        <source>Archives (*.tgz *.tar.gz *.tar *.zip);;All files (*)</source>
+        <translation>压缩包 (*.tgz *.tar.gz *.tar *.zip);;所有文件 (*)</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AttributesPage</name>
@@ -1044,6 +1056,18 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <source>the checks failed: %1</source>
         <translation>检查失败：%1</translation>
     </message>
+    <message>
+        <source>Open f&amp;older...</source>
+        <translation>打开文件夹(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Open &amp;archive...</source>
+        <translation>打开压缩包(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent boards</source>
+        <translation>最近的板(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ReferenceEditor</name>
@@ -1662,6 +1686,44 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
     <message>
         <source>No copper layer was measured.</source>
         <translation>没有测量任何铜层。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::Desk</name>
+    <message>
+        <source>The job has no step &quot;%1&quot;.</source>
+        <translation>该任务没有步骤“%1”。</translation>
+    </message>
+    <message>
+        <source>Open a board</source>
+        <translation>打开板</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::StartPage</name>
+    <message>
+        <source>UIAPICommon workbench</source>
+        <translation>UIAPICommon 工作台</translation>
+    </message>
+    <message>
+        <source>Open the job of a board, or drop its folder or archive onto this window.</source>
+        <translation>打开一块板的任务，或将其文件夹或压缩包拖放到此窗口。</translation>
+    </message>
+    <message>
+        <source>Open &amp;folder...</source>
+        <translation>打开文件夹(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Open &amp;archive...</source>
+        <translation>打开压缩包(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Open the &amp;sample board</source>
+        <translation>打开示例板(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Opened lately:</source>
+        <translation>最近打开：</translation>
     </message>
 </context>
 </TS>

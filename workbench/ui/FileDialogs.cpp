@@ -1,5 +1,6 @@
 #include "ui/FileDialogs.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -18,6 +19,36 @@ void askForFile(QWidget & parent, QString const & title, QString const & proposa
     dialog->selectFile(proposed.fileName());
     QObject::connect(dialog, &QFileDialog::fileSelected, &parent, std::move(take));
     dialog->open();
+}
+
+namespace {
+
+void askForBoard(QWidget & parent, QFileDialog::FileMode mode, QString const & title, QString const & filter,
+                 std::function<void(QString const &)> take)
+{
+    auto * dialog = new QFileDialog(&parent, title, QString(), filter);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(mode);
+    dialog->setOption(QFileDialog::ShowDirsOnly, mode == QFileDialog::Directory);
+    QObject::connect(dialog, &QFileDialog::fileSelected, &parent, std::move(take));
+    dialog->open();
+}
+
+} // namespace
+
+void askForBoardFolder(QWidget & parent, std::function<void(QString const &)> take)
+{
+    askForBoard(parent, QFileDialog::Directory,
+                QCoreApplication::translate("Workbench", "Open the folder of a job"), {}, std::move(take));
+}
+
+void askForBoardArchive(QWidget & parent, std::function<void(QString const &)> take)
+{
+    askForBoard(
+        parent, QFileDialog::ExistingFile,
+        QCoreApplication::translate("Workbench", "Open an archive with a job"),
+        QCoreApplication::translate("Workbench", "Archives (*.tgz *.tar.gz *.tar *.zip);;All files (*)"),
+        std::move(take));
 }
 
 } // namespace Workbench

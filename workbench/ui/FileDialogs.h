@@ -14,4 +14,10 @@ namespace Workbench {
 void askForFile(QWidget & parent, QString const & title, QString const & proposal, QString const & filter,
                 std::function<void(QString const &)> take);
 
+///@{
+/// Opens a dialog for a board to open, a folder or an archive, likewise.
+void askForBoardFolder(QWidget & parent, std::function<void(QString const &)> take);
+void askForBoardArchive(QWidget & parent, std::function<void(QString const &)> take);
+///@}
+
 } // namespace Workbench

@@ -9,6 +9,8 @@
 #include "pages/SettingsPage.h"
 #include "pages/SymbolsPage.h"
 #include "pages/TemplatesPage.h"
+#include "ui/BoardDrop.h"
+#include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
@@ -24,11 +26,13 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -144,16 +148,43 @@ void MainWindow::addResults()
 // The shortcuts are function keys: letters with and without Ctrl belong to the table of hot keys.
 void MainWindow::makeMenus()
 {
-    QMenu * file = addMenu(QT_TR_NOOP("&File"));
-    file->addAction(m_feature);
-    file->addAction(m_saveFlag);
-    file->addSeparator();
-    addEntry(*file, QT_TR_NOOP("&Quit"), "", [this] { close(); });
+    makeFileMenu();
     auto * edit = new EditMenu(*m_board, *m_commands);
     edit->setParent(menuBar(), edit->windowFlags());
     menuBar()->addMenu(edit);
     makeViewMenu();
     makeHelpMenu();
+}
+
+void MainWindow::makeFileMenu()
+{
+    // The window is deleted after the menu's entry is left.
+    auto const want = [this](QString const & path) {
+        QTimer::singleShot(0, this, [this, path] { emit boardWanted(path); });
+    };
+    QMenu * file = addMenu(QT_TR_NOOP("&File"));
+    addEntry(*file, QT_TR_NOOP("Open f&older..."), "F2", [this, want] { askForBoardFolder(*this, want); });
+    addEntry(*file, QT_TR_NOOP("Open &archive..."), "F3", [this, want] { askForBoardArchive(*this, want); });
+    m_recent = file->addMenu(QString());
+    connect(m_recent, &QMenu::triggered, this,
+            [want](QAction const * action) { want(action->data().toString()); });
+    setTextsNowAndLater(*file, [this] { m_recent->setTitle(tr("&Recent boards")); });
+    file->addSeparator();
+    file->addAction(m_feature);
+    file->addAction(m_saveFlag);
+    file->addSeparator();
+    addEntry(*file, QT_TR_NOOP("&Quit"), "", [this] { close(); });
+    setRecentBoards({});
+    new BoardDrop(*this, [this](QString const & path) { emit boardWanted(path); });
+}
+
+void MainWindow::setRecentBoards(QStringList const & paths)
+{
+    m_recent->clear();
+    for (QString const & path : paths) {
+        m_recent->addAction(QDir::toNativeSeparators(path).replace('&', "&&"))->setData(path);
+    }
+    m_recent->setEnabled(!paths.isEmpty());
 }
 
 QMenu * MainWindow::addMenu(char const * title)

@@ -45,6 +45,12 @@ public:
     /// Restores the window's state from a file, and saves it there when the window is closed. With
     /// `keepsUnit` the views keep their unit.
     void useStateFile(QString const & file, bool keepsUnit);
+    /// Offers these boards in the menu.
+    void setRecentBoards(QStringList const & paths);
+
+signals:
+    /// The user has chosen another board, a folder or an archive.
+    void boardWanted(QString const & path);
 
 protected:
     void closeEvent(QCloseEvent * event) override;
@@ -55,6 +61,7 @@ private:
     void addResults();
     void addPage(QWidget * page, QString const & name, char const * title);
     void makeMenus();
+    void makeFileMenu();
     QMenu * addMenu(char const * title);
     void addEntry(QMenu & menu, char const * text, char const * key, std::function<void()> act);
     void makeViewMenu();
@@ -83,6 +90,7 @@ private:
     QAction * m_saveFlag = nullptr;
     QAction * m_feature = nullptr;
     QComboBox * m_language = nullptr;
+    QMenu * m_recent = nullptr;
     QMenu * m_pageMenu = nullptr;
     QLabel * m_status = nullptr; ///< what the latest command did
     QLabel * m_pointer = nullptr;

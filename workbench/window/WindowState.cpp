@@ -22,6 +22,21 @@ QString splitterKey(QSplitter const & splitter)
 
 } // namespace
 
+std::optional<WindowChoices> savedChoices(QString const & file)
+{
+    QSettings const settings(file, QSettings::IniFormat);
+    WindowChoices choices;
+    bool isNumber = false;
+    int const unit = settings.value(unitKey).toString().toInt(&isNumber);
+    if (!isNumber || !KVCAM::UIAPI::Ext::isUnitCode(unit)) {
+        return std::nullopt;
+    }
+    choices.unit = KVCAM::UIAPI::Ext::unitOfCode(unit);
+    choices.page = settings.value(pageKey).toString();
+    choices.chinese = settings.value(languageKey).toString() == "true";
+    return choices;
+}
+
 std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const & file)
 {
     QSettings const settings(file, QSettings::IniFormat);
@@ -34,16 +49,7 @@ std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const &
         splitter->restoreState(settings.value(splitterKey(*splitter)).toByteArray());
         splitter->setChildrenCollapsible(false); // the state holds this, too
     }
-    WindowChoices choices;
-    bool isNumber = false;
-    int const unit = settings.value(unitKey).toString().toInt(&isNumber);
-    if (!isNumber || !KVCAM::UIAPI::Ext::isUnitCode(unit)) {
-        return std::nullopt;
-    }
-    choices.unit = KVCAM::UIAPI::Ext::unitOfCode(unit);
-    choices.page = settings.value(pageKey).toString();
-    choices.chinese = settings.value(languageKey).toString() == "true";
-    return choices;
+    return savedChoices(file);
 }
 
 bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QString const & file)

@@ -18,6 +18,8 @@ struct WindowChoices
     bool chinese = false;
 };
 
+/// The choices that were saved in a file, if any.
+std::optional<WindowChoices> savedChoices(QString const & file);
 /// Restores the window and its named splitters from a file, each as far as the file is valid: a damaged or
 /// missing file changes nothing. Returns the other choices, if they were saved.
 std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const & file);

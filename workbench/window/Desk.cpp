@@ -1,0 +1,113 @@
+#include "window/Desk.h"
+
+#include "job/JobLoading.h"
+#include "job/RecentBoards.h"
+#include "job/Session.h"
+#include "ui/LanguageChange.h"
+#include "window/BoardPage.h"
+#include "window/MainWindow.h"
+#include "window/StartPage.h"
+#include "window/WindowState.h"
+
+#include <EmbeddedEngine.h>
+#include <UIAPICommonExt.h>
+
+#include <QApplication>
+#include <QTimer>
+
+#include <utility>
+
+namespace Workbench {
+
+namespace Ext = KVCAM::UIAPI::Ext;
+
+struct Desk::Board
+{
+    Session session;
+    std::unique_ptr<MainWindow> window; // refers to the session
+};
+
+Desk::Desk(LogLines const & log, CommandLine commandLine, QString stateFile)
+    : m_log(log), m_commandLine(std::move(commandLine)), m_stateFile(std::move(stateFile))
+{}
+
+Desk::~Desk() = default;
+
+MainWindow * Desk::window() const
+{
+    return m_board == nullptr ? nullptr : m_board->window.get();
+}
+
+QWidget * Desk::shown() const
+{
+    return m_board != nullptr ? static_cast<QWidget *>(m_board->window.get()) : m_start.get();
+}
+
+void Desk::showStart()
+{
+    if (auto const choices = savedChoices(m_stateFile)) {
+        showChinese(choices->chinese);
+    }
+    m_start = std::make_unique<StartPage>(recentBoards(m_stateFile));
+    connect(m_start.get(), &StartPage::boardWanted, this, [this](QString const & path) { open(path); });
+    m_start->show();
+}
+
+// Returns what is wrong; empty on success.
+QString Desk::read(Board & board, QString const & path, QString const & step) const
+{
+    QString const error = board.session.open(path);
+    if (!error.isEmpty()) {
+        return error;
+    }
+    if (!step.isEmpty() && !board.session.hasStep(step)) {
+        return tr("The job has no step \"%1\".").arg(step);
+    }
+    readLayers(board.session);
+    return {};
+}
+
+bool Desk::open(QString const & path, QString const & step)
+{
+    auto board = std::make_unique<Board>();
+    QString const error = read(*board, path, step);
+    if (!error.isEmpty()) {
+        Ext::showMessage({Ext::MessageKind::Information, shown(), tr("Open a board"), error});
+        return false;
+    }
+    logOpened(board->session);
+    // Between two windows there is none, which must not end the program.
+    bool const quits = QApplication::quitOnLastWindowClosed();
+    QApplication::setQuitOnLastWindowClosed(false);
+    std::string const before = m_board == nullptr ? std::string() : m_board->session.job();
+    close();
+    if (!before.empty() && before != board->session.job()) { // a job of the same name is already another
+        KVCAM::Embedded::closeJob(before);
+    }
+    keepRecentBoard(m_stateFile, path);
+    m_board = std::move(board);
+    m_board->window = std::make_unique<MainWindow>(m_board->session, m_log, m_commandLine);
+    MainWindow & window = *m_board->window;
+    window.setRecentBoards(recentBoards(m_stateFile));
+    connect(&window, &MainWindow::boardWanted, this, [this](QString const & next) { open(next); });
+    window.board().showStep(step);
+    window.useStateFile(m_stateFile, m_commandLine.isUnitGiven);
+    window.show();
+    QApplication::setQuitOnLastWindowClosed(quits);
+    return true;
+}
+
+void Desk::close()
+{
+    if (m_start != nullptr) {
+        m_start->close();
+        m_start.release()->deleteLater();
+    }
+    if (m_board != nullptr) {
+        m_board->window->close(); // keeps its state
+        m_closed = std::move(m_board);
+        QTimer::singleShot(0, this, [this] { m_closed.reset(); });
+    }
+}
+
+} // namespace Workbench
