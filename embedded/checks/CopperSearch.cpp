@@ -78,30 +78,13 @@ NodeLabels CopperSearch::labelsOfRegions() const
 void CopperSearch::dropCopies()
 {
     ItemShapes const & shapes = m_layer.shapes;
-    std::vector<std::uint32_t> order;
-    for (std::uint32_t item = 0; item < m_layer.items.size(); ++item) {
-        if (shapes.firstPiece(item) + 1 == shapes.endPiece(item)) {
-            order.push_back(item);
-        }
-    }
+    std::vector<std::uint32_t> order = shapes.singles();
     auto const compared = [&](std::uint32_t a, std::uint32_t b) {
-        PieceView const first = shapes.pieces()[shapes.firstPiece(a)];
-        PieceView const second = shapes.pieces()[shapes.firstPiece(b)];
-        auto const key = [&](std::uint32_t item, PieceView const & piece) {
+        auto const key = [&](std::uint32_t item) {
             CopperItem const & its = m_layer.items[item];
-            return std::tuple(its.net, its.kinds, its.hole == nothing, piece.count, piece.radius);
+            return std::tuple(its.net, its.kinds, its.hole == nothing);
         };
-        if (key(a, first) != key(b, second)) {
-            return key(a, first) < key(b, second) ? -1 : 1;
-        }
-        for (std::size_t i = 0; i < first.count; ++i) {
-            std::pair const one(first.corners[i].x, first.corners[i].y);
-            std::pair const other(second.corners[i].x, second.corners[i].y);
-            if (one != other) {
-                return one < other ? -1 : 1;
-            }
-        }
-        return 0;
+        return key(a) == key(b) ? shapes.compare(a, b) : key(a) < key(b) ? -1 : 1;
     };
     std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
         int const way = compared(a, b);
