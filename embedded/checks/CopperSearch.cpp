@@ -1,6 +1,8 @@
 #include "checks/CopperSearch.h"
 
+#include <algorithm>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace KVCAM::Embedded {
@@ -43,6 +45,7 @@ NodeLabels::NodeLabels(SpatialGrid const & grid, std::vector<Label> const & labe
 CopperSearch::CopperSearch(CopperLayer & layer, PlatedHoles const & holes)
     : m_layer(layer), m_pieces(labelsOfPieces()), m_regions(labelsOfRegions())
 {
+    dropCopies();
     giveWalls(holes);
     markPads(holes, false);
     markPads(holes, true);
@@ -68,6 +71,34 @@ NodeLabels CopperSearch::labelsOfRegions() const
         labels.push_back({item.net, item.kinds});
     }
     return {m_layer.shapes.regionGrid(), labels};
+}
+
+// Pads, straight tracks and walls of one net and place: only the first is searched and found. Piled up, they
+// would all be measured against each other.
+void CopperSearch::dropCopies()
+{
+    ItemShapes const & shapes = m_layer.shapes;
+    std::vector<std::uint32_t> order = shapes.singles();
+    auto const compared = [&](std::uint32_t a, std::uint32_t b) {
+        auto const key = [&](std::uint32_t item) {
+            CopperItem const & its = m_layer.items[item];
+            return std::tuple(its.net, its.kinds, its.hole == nothing);
+        };
+        return key(a) == key(b) ? shapes.compare(a, b) : key(a) < key(b) ? -1 : 1;
+    };
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+        int const way = compared(a, b);
+        return way < 0 || (way == 0 && a < b);
+    });
+    std::vector<std::uint32_t> copies;
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (compared(order[i - 1], order[i]) == 0) {
+            copies.push_back(order[i]);
+        }
+    }
+    for (std::uint32_t const copy : copies) {
+        m_layer.items[copy].kinds = 0;
+    }
 }
 
 // A pad of the net of a wall that is around the hole's centre owns the wall.

@@ -51,8 +51,9 @@ struct Neighbour
 class CopperSearch
 {
 public:
-    /// Needs the nets. Tells which pads are around the centre of a plated hole or via, and which walls belong
-    /// to a pad. The layer must outlive this object.
+    /// Needs the nets. Takes the kinds from an item that is the same as another, drawn again; tells which
+    /// pads are around the centre of a plated hole or via, and which walls belong to a pad. The layer must
+    /// outlive this object.
     CopperSearch(CopperLayer & layer, PlatedHoles const & holes);
 
     /// Of the wanted kinds, nearer than `limit`.
@@ -61,6 +62,7 @@ public:
     std::optional<std::uint32_t> around(API::point point) const;
 
 private:
+    void dropCopies();
     void markPads(PlatedHoles const & holes, bool via);
     void giveWalls(PlatedHoles const & holes);
     NodeLabels labelsOfPieces() const;

@@ -184,6 +184,34 @@ bool ItemShapes::covers(std::uint32_t item, API::point point, double margin) con
            holds(static_cast<std::size_t>(region - m_regions.begin()), point);
 }
 
+int ItemShapes::compare(std::uint32_t a, std::uint32_t b) const
+{
+    PieceView const first = m_pieces[firstPiece(a)];
+    PieceView const second = m_pieces[firstPiece(b)];
+    if (std::pair(first.count, first.radius) != std::pair(second.count, second.radius)) {
+        return std::pair(first.count, first.radius) < std::pair(second.count, second.radius) ? -1 : 1;
+    }
+    for (std::size_t i = 0; i < first.count; ++i) {
+        std::pair const one(first.corners[i].x, first.corners[i].y);
+        std::pair const other(second.corners[i].x, second.corners[i].y);
+        if (one != other) {
+            return one < other ? -1 : 1;
+        }
+    }
+    return 0;
+}
+
+std::vector<std::uint32_t> ItemShapes::singles() const
+{
+    std::vector<std::uint32_t> items;
+    for (std::uint32_t item = 0; item < size(); ++item) {
+        if (firstPiece(item) + 1 == endPiece(item)) {
+            items.push_back(item);
+        }
+    }
+    return items;
+}
+
 bool ItemShapes::latestHolds(API::point point) const
 {
     return !m_regions.empty() && m_regions.back().item + 1 == size() && scan(m_regions.back(), point);

@@ -52,6 +52,10 @@ public:
     std::uint32_t itemOfRegion(std::size_t region) const { return m_regions[region].item; }
     /// Whether a point is inside a region; valid after index().
     bool holds(std::size_t region, API::point point) const;
+    /// Negative, 0 or positive, by an order in which items of one piece that cover the same are equal.
+    int compare(std::uint32_t a, std::uint32_t b) const;
+    /// The items of one piece.
+    std::vector<std::uint32_t> singles() const;
     /// Whether a point is in an item, within `margin` of its pieces; valid after index().
     bool covers(std::uint32_t item, API::point point, double margin) const;
     /// Whether a point is inside the latest item's region; before index().

@@ -141,6 +141,7 @@ public:
             m_numbers.push_back(numbers.of(layers, layer, item));
             m_asks.push_back(!sets.isListed(m_numbers.back()));
         }
+        joinCopies();
     }
 
     void run(CheckContext const & context, std::size_t done, std::size_t total)
@@ -171,6 +172,23 @@ public:
     }
 
 private:
+    // The same drawn again touches, and touches the same: only the first asks.
+    void joinCopies()
+    {
+        std::vector<std::uint32_t> order = m_shapes.singles();
+        std::sort(order.begin(), order.end(), [this](std::uint32_t a, std::uint32_t b) {
+            int const way = m_shapes.compare(a, b);
+            return way < 0 ||
+                   (way == 0 && (m_asks[a] != m_asks[b] ? !m_asks[a] : a < b)); // listed ones first
+        });
+        for (std::size_t i = 1; i < order.size(); ++i) {
+            if (m_asks[order[i]] && m_shapes.compare(order[i - 1], order[i]) == 0) {
+                m_sets.unite(m_numbers[order[i - 1]], m_numbers[order[i]]);
+                m_asks[order[i]] = false;
+            }
+        }
+    }
+
     void joinPiece(NetJoin & join, std::uint32_t item, std::size_t piece)
     {
         PieceView const view = m_shapes.pieces()[piece];

@@ -110,7 +110,7 @@ pairsOf(CheckContext const & context, CopperLayer const & layer, CopperSearch co
         if (item % chunk == 0) {
             context.reportProgress(item, layer.items.size() * 5 / 4 + 1);
         }
-        if (layer.items[item].owner != nothing) {
+        if (layer.items[item].owner != nothing || layer.items[item].kinds == 0) {
             continue;
         }
         // The nearest of all is the nearest of its kinds, too.
@@ -141,7 +141,7 @@ std::vector<Pair> routPairs(CheckContext const & context, CopperLayer const & la
         if (item % chunk == 0) {
             context.reportProgress(total + item / 4, total * 5 / 4 + 1);
         }
-        if (layer.items[item].owner != nothing) {
+        if (layer.items[item].owner != nothing || layer.items[item].kinds == 0) {
             continue;
         }
         Gap best{limit, {}, {}};

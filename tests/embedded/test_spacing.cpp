@@ -212,6 +212,16 @@ TEST_F(SpacingTest, NoSpacingToAnArcIsTooLarge)
     }
 }
 
+TEST_F(SpacingTest, CopiesPiledUpAreMeasuredOnce)
+{
+    QByteArray piles; // whose boxes overlap; each with each would take minutes
+    for (int i = 0; i < 40'000; ++i) {
+        piles += i % 2 == 0 ? "P 0 0 1 P 0 0\n" : "P 0.9 0.9 1 P 0 0\n";
+    }
+    build({piles, {}, {}});
+    EXPECT_EQ(spacings(check()), "3: 273");
+}
+
 // --- Against trying everything ----------------------------------------------------------------------------
 
 using Brute::Graphic;
