@@ -73,10 +73,13 @@ TEST_F(NotCheckedTest, WithoutARoutNothingIsFarFromIt)
     makeJob(row(1, "TOP", "SIGNAL"));
     ASSERT_TRUE(open()) << Embedded::lastError();
     auto const results = check();
-    ASSERT_FALSE(results.notChecked.empty());
-    Embedded::NotChecked const & note = results.notChecked.front();
-    EXPECT_EQ(note.table + ' ' + std::to_string(note.item) + ": " + note.reason,
-              "signal 43: The job has neither a rout layer nor a profile.");
+    Texts notes;
+    for (Embedded::NotChecked const & note : results.notChecked) {
+        if (note.layer.empty()) {
+            notes.push_back(note.table + ' ' + std::to_string(note.item) + ": " + note.reason);
+        }
+    }
+    EXPECT_EQ(notes, Texts{"signal 43: The job has neither a rout layer nor a profile."});
 }
 
 // The board is a triangle, so that lines cross a slanted side.
