@@ -252,7 +252,7 @@ QByteArray randomFeatures(std::mt19937 & random, int count)
                 "A " + at(0.8, 0) + at(0, 0.8) + at(0, 0) + symbol(0, 1) + (i % 2 ? " P 0 Y\n" : " P 0 N\n");
             break;
         case 2:
-            text += "P " + at(0, 0) + symbol(0, 5) + " P 0 8 " + number(0, 360000) + '\n';
+            text += "P " + at(0, 0) + symbol(0, 5) + " P 0" + symbol(8, 9) + ' ' + number(0, 360000) + '\n';
             break;
         case 3:
             text += "P " + at(0, 0) + symbol(0, 5) + " P 0" + symbol(0, 7) + '\n';
