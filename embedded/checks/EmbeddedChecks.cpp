@@ -95,7 +95,6 @@ void checkAllSpacings(CheckContext & context, std::vector<API::layer_info> const
     context.endStage();
     for (CopperLayer & layer : layers) {
         checkSpacings(context, layer, holes, rout.size() == 0 ? nullptr : &rout, reach, results);
-        layer = {}; // no longer needed, and large
         context.endStage();
     }
 }

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <string>
 #include <tuple>
 #include <utility>
 
@@ -238,17 +239,26 @@ void checkSpacings(CheckContext const & context, CopperLayer & layer, PlatedHole
                    ItemShapes const * rout, double reach, CheckResults & results)
 {
     double const limit = std::nextafter(reach, endless);
-    CopperSearch const search(layer, holes);
-    auto & lists = results.signal[layer.name];
+    std::string const layerName = layer.name;
+    std::array<std::vector<Pair>, categories.size()> pairs;
+    std::vector<Pair> toRout;
+    {
+        CopperSearch const search(layer, holes);
+        pairs = pairsOf(context, layer, search, limit);
+        if (rout != nullptr) {
+            toRout = routPairs(context, layer, search, *rout, limit);
+        }
+    }
+    layer = {}; // as large as the records that follow
+    auto & lists = results.signal[layerName];
     auto const list = [&lists](int item) -> std::vector<API::check_info> & {
         return lists[static_cast<API::signal_layers_checks_items>(item)].lists[0];
     };
-    auto pairs = pairsOf(context, layer, search, limit);
     for (std::size_t i = 0; i < categories.size(); ++i) {
         list(categories.at(i).item) = recordsOf(std::move(pairs.at(i)));
     }
     if (rout != nullptr) {
-        list(routToCopper) = recordsOf(routPairs(context, layer, search, *rout, limit));
+        list(routToCopper) = recordsOf(std::move(toRout));
     }
 }
 

@@ -7,7 +7,7 @@ namespace KVCAM::Embedded {
 
 /// Measures the spacings between the copper of different nets on a layer, and to the rout, up to `reach`
 /// micrometres, and adds them to the results. `rout` is null if the job has neither a rout layer nor a
-/// profile.
+/// profile. Leaves the layer empty.
 void checkSpacings(CheckContext const & context, CopperLayer & layer, PlatedHoles const & holes,
                    ItemShapes const * rout, double reach, CheckResults & results);
 
