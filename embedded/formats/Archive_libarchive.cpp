@@ -170,7 +170,7 @@ Reader openReader(Source & source)
 QString nameOf(archive_entry * entry)
 {
     if (char const * const bytes = archive_entry_pathname(entry)) {
-        QString const name = QString::fromUtf8(bytes);
+        QString name = QString::fromUtf8(bytes);
         if (name.toUtf8() == bytes) {
             return name;
         }

@@ -56,7 +56,7 @@ QString FolderList::find(QString const & name) const
 
 QString FolderList::folder(std::string const & name) const
 {
-    QString const path = find(QString::fromStdString(name));
+    QString path = find(QString::fromStdString(name));
     if (!path.isEmpty() && !QFileInfo(path).isDir()) {
         throw JobError(path.toStdString() + ": not a folder");
     }
@@ -67,7 +67,7 @@ QString FolderList::file(std::string const & name) const
 {
     QString const plain = QString::fromStdString(name);
     for (QString const & wanted : {plain, plain + ".Z", plain + ".gz"}) {
-        if (QString const path = find(wanted); !path.isEmpty()) {
+        if (QString path = find(wanted); !path.isEmpty()) {
             QFileInfo const info(path);
             if (!info.isFile()) {
                 throw JobError(path.toStdString() + (info.isDir()    ? ": a folder, where a file belongs"

@@ -177,11 +177,11 @@ double appendChords(std::vector<API::point> & points, API::point start, API::poi
     double const radius = distance(start, centre);
     double const last = distance(end, centre);
     double const begin = std::atan2(start.y - centre.y, start.x - centre.x);
-    double const count = chordCount(start, end, centre, clockwise, tolerance);
+    auto const count = static_cast<int>(chordCount(start, end, centre, clockwise, tolerance));
     double const step = arcSweep(start, end, centre, clockwise) / count;
-    for (double i = 1; i < count; ++i) {
+    for (int i = 1; i < count; ++i) {
         // The ends of an arc may differ in radius by what rounding made of them.
-        double const r = radius + (last - radius) * (i / count);
+        double const r = radius + (last - radius) * i / count;
         double const angle = begin + (clockwise ? -step : step) * i;
         points.push_back({centre.x + r * std::cos(angle), centre.y + r * std::sin(angle)});
     }

@@ -57,12 +57,13 @@ TEST_F(NotCheckedTest, SaysWhatWasLeftOut)
                "signal top: Texts, marked as .nomenclature or .string (1) are not measured.",
                "signal top: Surfaces (2): their narrow places are not measured, and none counts as a pad.",
                "signal top: Surfaces marked as SMD pads (1): their spacing is not measured.",
-               "signal top: Features drawn with \"chain\" (1): of \"link\" in it, of \"chain\" in it, it "
-               "contains symbols within symbols without end.",
+               std::string(
+                   "signal top: Features drawn with \"chain\" (1): of \"link\" in it, of \"chain\" in ") +
+                   "it, it contains symbols within symbols without end.",
                "signal top: Features drawn with \"empty\" (1): its drawing is empty.",
                "signal top: Features drawn with \"own\" (2): the job has no drawing of it.",
-               "signal top: Features drawn with \"thr20x10x0x4x5\" (1): the width of a line drawn with it "
-               "cannot be measured.",
+               std::string("signal top: Features drawn with \"thr20x10x0x4x5\" (1): the width of a line ") +
+                   "drawn with it cannot be measured.",
                "signal top: Features drawn with \"vast\" (1): its drawing is too large.",
                "signal cut: The job holds no features of this layer, only their tables.",
                "signal gone: The job holds no features file of this layer."}));

@@ -113,7 +113,8 @@ public:
     double leastWidth() const
     {
         double least = 1e300;
-        for (double angle = 0; angle < pi; angle += pi / 360) {
+        for (int half = 0; half < 360; ++half) { // degrees
+            double const angle = half * pi / 360;
             double const x = std::cos(angle);
             double const y = std::sin(angle);
             double low = 1e300;

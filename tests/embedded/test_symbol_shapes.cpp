@@ -97,7 +97,8 @@ TEST_F(SymbolShapesTest, CopperIsNeverTakenForSmallerThanItIs)
              {"$0 r200\nA 1 0 1 0 0 0 0 P 0 Y\n", 1.1},
          }) {
         draw(row.drawing);
-        for (double angle = 0.01; angle < 0.3; angle += 0.023) {
+        for (int i = 0; i < 13; ++i) {
+            double const angle = 0.01 + 0.023 * i;
             double const way = row.edge + 2.10044; // 2000.44 micrometres between the edges
             EXPECT_EQ(spacing(QByteArray::number(way * std::cos(angle), 'f', 9) + ' ' +
                               QByteArray::number(way * std::sin(angle), 'f', 9)),

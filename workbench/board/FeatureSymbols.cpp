@@ -84,7 +84,7 @@ std::shared_ptr<FeatureSymbol const> FeatureSymbols::find(std::string const & na
         return known->second;
     }
     auto const parsed = Ext::Symbol::parse(QString::fromStdString(name), unit).symbol;
-    auto const symbol = parsed ? standard(*parsed) : own(name);
+    auto symbol = parsed ? standard(*parsed) : own(name);
     if (symbol == nullptr) { // only here, within another symbol
         return unknown();
     }

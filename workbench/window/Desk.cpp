@@ -56,7 +56,7 @@ void Desk::showStart()
 // Returns what is wrong; empty on success.
 QString Desk::read(Board & board, QString const & path, QString const & step) const
 {
-    QString const error = board.session.open(path);
+    QString error = board.session.open(path);
     if (!error.isEmpty()) {
         return error;
     }
