@@ -179,11 +179,11 @@ void AnalysisRun::noteCategoriesWithoutCheck()
         std::string names;
         for (Analysis_Ranges_Record const & record : records) {
             if (known.emplace(file.name, record.name).second) {
-                names += (names.empty() ? file.name + ": " : ", ") + record.name;
+                names += (names.empty() ? "" : ", ") + record.name;
             }
         }
         if (!names.empty()) {
-            m_report.addNotChecked({file.name, -1, names, "The engine has no check for it."});
+            m_report.addNotChecked({file.name, -1, file.name, "The engine has no check for: " + names + '.'});
         }
     }
 }
