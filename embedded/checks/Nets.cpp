@@ -5,8 +5,12 @@
 #include "formats/LineReader.h"
 #include "formats/NetsFile.h"
 
+#include <QDir>
+
 #include <algorithm>
+#include <cstddef>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace KVCAM::Embedded {
@@ -43,11 +47,28 @@ private:
     std::uint32_t m_count = 0;
 };
 
+// The reason without the path, which differs by machine, and for an archive each time that it is opened.
+std::string reasonOf(JobError const & error, QString const & file)
+{
+    std::string reason = error.what();
+    std::string const path = QDir::cleanPath(file).toStdString() + ':';
+    if (reason.compare(0, path.size(), path) == 0) {
+        reason.erase(0, path.size());
+        bool const hasLine = !reason.empty() && reason.front() != ' ';
+        reason = hasLine ? "line " + reason : reason.substr(std::min<std::size_t>(1, reason.size()));
+    }
+    return reason;
+}
+
 std::optional<NetsFile> readFile(CheckContext & context)
 {
     QString const folder = findFolder(context.job().step(context.step()).folder, "eda");
     QString const file = folder.isEmpty() ? QString() : findFile(folder, "data");
-    return file.isEmpty() ? std::nullopt : std::optional(readNets(file));
+    try {
+        return file.isEmpty() ? std::nullopt : std::optional(readNets(file));
+    } catch (JobError const & error) {
+        throw JobError(reasonOf(error, file));
+    }
 }
 
 // Why the numbers of a file do not fit the job; empty if they do. Layers without copper or holes do not
