@@ -8,7 +8,6 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr std::size_t mostDirections = 180; // in which a least width is looked for
 constexpr std::size_t mostSearches = 4;     // of them around which it is looked for
 

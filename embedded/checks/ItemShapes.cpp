@@ -32,11 +32,6 @@ double chordsOf(std::vector<Feature> const & features, double tolerance)
     return count;
 }
 
-bool same(API::point a, API::point b)
-{
-    return a.x == b.x && a.y == b.y;
-}
-
 } // namespace
 
 double chordTolerance(std::vector<Feature> const & features)
@@ -134,7 +129,7 @@ void ItemShapes::addOutline(Contour const & contour)
 
 void ItemShapes::addEdge(API::point from, API::point to, double radius, bool starts)
 {
-    if (!same(from, to)) {
+    if (!isSame(from, to)) {
         Edge const edge{from, to};
         m_pieces.add(size() - 1, {edge.data(), edge.size(), radius}, starts);
     }

@@ -12,7 +12,6 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double largest = 2.54e10; // micrometres; nothing on a board is larger
 constexpr std::size_t mostCorners = 1000;
 

@@ -9,7 +9,6 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double endless = std::numeric_limits<double>::infinity();
 
 API::point operator+(API::point a, API::point b)
@@ -68,49 +67,84 @@ std::optional<double> insideBy(Shape const & shape, API::point point)
     return (left != 0) == (right != 0) ? std::nullopt : std::optional(nearest);
 }
 
-// The intersection of two sides that are not parallel.
-std::optional<API::point> crossing(API::point a, API::point b, API::point c, API::point d)
+double turn(API::point a, API::point b, API::point c)
 {
-    double const along = cross(b - a, d - c);
-    if (along == 0) {
-        return std::nullopt;
-    }
-    double const t = cross(c - a, d - c) / along;
-    double const u = cross(c - a, b - a) / along;
-    bool const both = t >= 0 && t <= 1 && u >= 0 && u <= 1;
-    return both ? std::optional(a + t * (b - a)) : std::nullopt;
+    return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
 }
 
-void take(Gap & best, API::point from, API::point to)
+double square(API::point a, API::point b)
 {
-    if (double const length = distance(from, to); length < best.distance) {
-        best = {length, from, to};
-    }
+    return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
 }
 
-// Between the polygons; the radii are ignored.
-Gap gapBetweenPolygons(Shape const & a, Shape const & b)
+// A polygon with one or two corners has one side.
+std::size_t sides(PieceView const & piece)
 {
-    if (insideBy(b, a.corners.front())) {
-        return {0, a.corners.front(), a.corners.front()};
+    return piece.count < 3 ? 1 : piece.count;
+}
+
+API::point const & next(PieceView const & piece, std::size_t corner)
+{
+    return piece.corners[corner + 1 == piece.count ? 0 : corner + 1];
+}
+
+bool holds(PieceView const & piece, API::point point)
+{
+    bool left = false;
+    bool right = false;
+    for (std::size_t i = 0; piece.count > 2 && i < piece.count; ++i) {
+        double const side = turn(piece.corners[i], next(piece, i), point);
+        left = left || side > 0;
+        right = right || side < 0;
     }
-    if (insideBy(a, b.corners.front())) {
-        return {0, b.corners.front(), b.corners.front()};
+    return left != right; // a polygon flattened by rounding has no inside
+}
+
+// The shortest path found so far between two polygons.
+struct Shortest
+{
+    double square = std::numeric_limits<double>::infinity();
+    API::point from;
+    API::point to;
+
+    void take(API::point a, API::point b)
+    {
+        if (double const value = Embedded::square(a, b); value < square) {
+            *this = {value, a, b};
+        }
     }
-    Gap best{endless, {}, {}};
+};
+
+void takeSides(Shortest & best, API::point a, API::point b, API::point c, API::point d)
+{
+    double const along = (b.x - a.x) * (d.y - c.y) - (b.y - a.y) * (d.x - c.x);
+    if (along != 0) {
+        double const t = ((c.x - a.x) * (d.y - c.y) - (c.y - a.y) * (d.x - c.x)) / along;
+        double const u = turn(a, b, c) / -along;
+        if (t >= 0 && t <= 1 && u >= 0 && u <= 1) {
+            API::point const common{a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)};
+            best = {0, common, common};
+            return;
+        }
+    }
+    best.take(a, nearestOnSide(a, c, d));
+    best.take(b, nearestOnSide(b, c, d));
+    best.take(nearestOnSide(c, a, b), c);
+    best.take(nearestOnSide(d, a, b), d);
+}
+
+Shortest between(PieceView const & a, PieceView const & b)
+{
+    if (holds(b, a.corners[0])) {
+        return {0, a.corners[0], a.corners[0]};
+    }
+    if (holds(a, b.corners[0])) {
+        return {0, b.corners[0], b.corners[0]};
+    }
+    Shortest best;
     for (std::size_t i = 0; i < sides(a); ++i) {
-        API::point const from = a.corners[i];
-        API::point const fromEnd = next(a, i);
-        for (std::size_t j = 0; j < sides(b); ++j) {
-            API::point const to = b.corners[j];
-            API::point const toEnd = next(b, j);
-            if (auto const common = crossing(from, fromEnd, to, toEnd)) {
-                return {0, *common, *common};
-            }
-            take(best, from, nearestOnSide(from, to, toEnd));
-            take(best, fromEnd, nearestOnSide(fromEnd, to, toEnd));
-            take(best, nearestOnSide(to, from, fromEnd), to);
-            take(best, nearestOnSide(toEnd, from, fromEnd), toEnd);
+        for (std::size_t j = 0; j < sides(b) && best.square > 0; ++j) {
+            takeSides(best, a.corners[i], next(a, i), b.corners[j], next(b, j));
         }
     }
     return best;
@@ -187,16 +221,6 @@ Box boxOf(API::point point)
     return {point.x, point.y, point.x, point.y};
 }
 
-Box extent(Shape const & shape)
-{
-    Box box = boxOf(shape.corners.front());
-    for (API::point const & corner : shape.corners) {
-        include(box, corner);
-    }
-    double const r = shape.radius;
-    return {box.left - r, box.bottom - r, box.right + r, box.top + r};
-}
-
 double depth(Shape const & shape, API::point point)
 {
     if (auto const inside = insideBy(shape, point)) {
@@ -232,28 +256,55 @@ double widthAcross(Shape const & shape, API::point direction)
     return most - least + 2 * shape.radius;
 }
 
-Gap gapBetween(Shape const & a, Shape const & b)
+PieceView viewOf(Shape const & shape)
 {
-    Gap const inner = gapBetweenPolygons(a, b);
+    return {shape.corners.data(), shape.corners.size(), shape.radius};
+}
+
+Gap gapBetween(PieceView const & a, PieceView const & b)
+{
+    Shortest const way = between(a, b);
+    double const length = std::sqrt(way.square);
     double const radii = a.radius + b.radius;
     if (radii == 0) {
-        return inner;
+        return {length, way.from, way.to};
     }
-    API::point const way = inner.to - inner.from;
-    if (inner.distance <= radii) {
-        API::point const common = inner.from + a.radius / radii * way;
-        return {0, common, common};
+    double const whole = std::max(length, radii);
+    double const first = a.radius / whole;
+    double const last = length <= radii ? first : 1 - b.radius / whole;
+    API::point const step{way.to.x - way.from.x, way.to.y - way.from.y};
+    return {std::max(0.0, length - radii),
+            {way.from.x + first * step.x, way.from.y + first * step.y},
+            {way.from.x + last * step.x, way.from.y + last * step.y}};
+}
+
+Box extent(PieceView const & piece)
+{
+    Box box = boxOf(piece.corners[0]);
+    for (std::size_t i = 1; i < piece.count; ++i) {
+        include(box, piece.corners[i]);
     }
-    return {inner.distance - radii, inner.from + a.radius / inner.distance * way,
-            inner.to - b.radius / inner.distance * way};
+    double const r = piece.radius;
+    return {box.left - r, box.bottom - r, box.right + r, box.top + r};
+}
+
+Box extent(Shape const & shape)
+{
+    return extent(viewOf(shape));
+}
+
+Gap gapBetween(Shape const & a, Shape const & b)
+{
+    return gapBetween(viewOf(a), viewOf(b));
 }
 
 double arcSweep(API::point start, API::point end, API::point centre, bool clockwise)
 {
     double const begin = std::atan2(start.y - centre.y, start.x - centre.x);
     double const finish = std::atan2(end.y - centre.y, end.x - centre.x);
-    double const sweep = clockwise ? begin - finish : finish - begin;
-    return sweep + (sweep <= 1e-12 ? 2 * pi : 0);
+    double sweep = clockwise ? begin - finish : finish - begin;
+    sweep += sweep < 0 ? 2 * pi : 0;
+    return sweep <= 1e-12 ? 2 * pi : sweep; // also from -180 to 180 degrees
 }
 
 API::point arcMiddle(API::point start, API::point end, API::point centre, bool clockwise)

@@ -11,19 +11,6 @@
 
 namespace KVCAM::Embedded {
 
-/// A convex piece that is stored elsewhere: every point within `radius` of the polygon of the corners, as in
-/// Shape.
-struct PieceView
-{
-    API::point const * corners = nullptr;
-    std::size_t count = 0;
-    double radius = 0;
-};
-
-PieceView viewOf(Shape const & shape);
-Gap gapBetween(PieceView const & a, PieceView const & b);
-Box extent(PieceView const & piece);
-
 /// The convex pieces of a layer's features, with all their corners in one list: a layer may have millions.
 class Pieces
 {

@@ -1,6 +1,7 @@
 #include "geometry/Profile.h"
 
 #include "formats/LineReader.h"
+#include "geometry/CheckGeometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,20 +11,17 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr std::size_t mostPoints = 10'000'000; // more than a file of straight sides can hold
 constexpr int chordsPerTurn = 72; // a multiple of four, to include the extreme points of a circle
 
 // Appends the points between the ends of an arc. Equal ends make a full circle.
 void appendArc(std::vector<API::point> & points, API::point from, Side const & side)
 {
-    double const radius = std::hypot(from.x - side.centre.x, from.y - side.centre.y);
+    double const radius = distance(from, side.centre);
     double const unit = 2 * pi / chordsPerTurn;
     double const direction = side.clockwise ? -1 : 1;
     double const begin = std::atan2(from.y - side.centre.y, from.x - side.centre.x);
-    double const end = std::atan2(side.to.y - side.centre.y, side.to.x - side.centre.x);
-    double sweep = direction * (end - begin);
-    sweep = sweep <= 1e-12 ? sweep + 2 * pi : sweep;
+    double const sweep = arcSweep(from, side.to, side.centre, side.clockwise);
 
     // In units of a chord, counted in the arc's direction: the integers strictly inside the sweep.
     double const first = direction * begin / unit;
@@ -35,11 +33,6 @@ void appendArc(std::vector<API::point> & points, API::point from, Side const & s
     }
 }
 
-bool same(API::point a, API::point b)
-{
-    return a.x == b.x && a.y == b.y;
-}
-
 // Fails when more than `most` points are needed, of which `used` are there already.
 std::vector<API::point> polygon(FeaturesFile const & file, Contour const & contour, std::size_t used,
                                 std::size_t most)
@@ -49,7 +42,7 @@ std::vector<API::point> polygon(FeaturesFile const & file, Contour const & conto
         if (side.arc) {
             appendArc(points, points.back(), side);
         }
-        if (!same(side.to, points.back())) {
+        if (!isSame(side.to, points.back())) {
             points.push_back(side.to);
         }
         if (used + points.size() > most) {
@@ -57,7 +50,7 @@ std::vector<API::point> polygon(FeaturesFile const & file, Contour const & conto
                            " points");
         }
     }
-    if (points.size() > 1 && same(points.front(), points.back())) {
+    if (points.size() > 1 && isSame(points.front(), points.back())) {
         points.pop_back();
     }
     points.shrink_to_fit();
@@ -94,14 +87,10 @@ std::optional<Profile> profileOf(FeaturesFile const & file, long long most)
     if (profile.outlines.empty()) {
         return std::nullopt;
     }
-    API::point const first = profile.outlines.front().front();
-    Box box{first.x, first.y, first.x, first.y};
+    Box box = boxOf(profile.outlines.front().front());
     for (std::vector<API::point> const & outline : profile.outlines) {
-        for (API::point const & p : outline) {
-            box.left = std::min(box.left, p.x);
-            box.bottom = std::min(box.bottom, p.y);
-            box.right = std::max(box.right, p.x);
-            box.top = std::max(box.top, p.y);
+        for (API::point const & point : outline) {
+            include(box, point);
         }
     }
     profile.box = box;

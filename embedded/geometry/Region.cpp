@@ -1,5 +1,6 @@
 #include "geometry/Region.h"
 
+#include "geometry/EdgeIndex.h"
 #include "geometry/SpatialGrid.h"
 
 #include <algorithm>
@@ -14,13 +15,6 @@ constexpr double farRight = 1e300;
 bool isSimple(Region const & region)
 {
     return region.pieces.size() == 1 && region.outlines.empty();
-}
-
-// Whether a ray from the point to the right crosses the side.
-bool isCrossed(API::point from, API::point to, API::point point)
-{
-    return (from.y > point.y) != (to.y > point.y) &&
-           point.x < from.x + (point.y - from.y) / (to.y - from.y) * (to.x - from.x);
 }
 
 // The pieces of a region, then the sides of its outlines, so that distances are found without a look at all.
@@ -53,7 +47,7 @@ public:
         bool inside = false;
         m_grid.forEachTouching({point.x, point.y, farRight, point.y}, [&](std::size_t part) {
             std::vector<API::point> const & side = m_shapes[part].corners;
-            inside = inside != (part >= m_pieces && isCrossed(side.front(), side.back(), point));
+            inside = inside != (part >= m_pieces && isRightOf(side.front(), side.back(), point));
         });
         return inside;
     }
@@ -130,7 +124,7 @@ bool contains(Region const & region, API::point point)
     bool inside = false;
     for (std::vector<API::point> const & outline : region.outlines) {
         for (std::size_t i = 0; i < outline.size(); ++i) {
-            inside = inside != isCrossed(outline[i], outline[(i + 1) % outline.size()], point);
+            inside = inside != isRightOf(outline[i], outline[(i + 1) % outline.size()], point);
         }
     }
     return inside || std::any_of(region.pieces.begin(), region.pieces.end(),

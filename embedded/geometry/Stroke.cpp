@@ -8,13 +8,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double widest = pi / 4; // half the angle of a piece of the smallest arcs
-
-bool same(API::point a, API::point b)
-{
-    return a.x == b.x && a.y == b.y;
-}
 
 double angleOf(API::point point, API::point centre)
 {
@@ -40,8 +34,8 @@ double turn(API::point a, API::point b, API::point c)
 
 Shape convexShape(std::vector<API::point> corners, double radius)
 {
-    corners.erase(std::unique(corners.begin(), corners.end(), same), corners.end());
-    while (corners.size() > 1 && same(corners.front(), corners.back())) {
+    corners.erase(std::unique(corners.begin(), corners.end(), isSame), corners.end());
+    while (corners.size() > 1 && isSame(corners.front(), corners.back())) {
         corners.pop_back();
     }
     return {std::move(corners), radius};
@@ -51,7 +45,7 @@ std::vector<API::point> convexHull(std::vector<API::point> points)
 {
     std::sort(points.begin(), points.end(),
               [](API::point a, API::point b) { return std::pair(a.x, a.y) < std::pair(b.x, b.y); });
-    points.erase(std::unique(points.begin(), points.end(), same), points.end());
+    points.erase(std::unique(points.begin(), points.end(), isSame), points.end());
     if (points.size() < 3) {
         return points;
     }

@@ -19,7 +19,6 @@ constexpr int mostNesting = 32; // steps within steps
 // Turned clockwise about the origin, exactly for quarter turns, then mirrored in x.
 API::point turned(API::point p, double angle, bool mirrored)
 {
-    constexpr double pi = 3.14159265358979323846;
     double const turn = std::fmod(std::fmod(angle, 360) + 360, 360);
     double cosine = std::cos(turn * pi / 180);
     double sine = std::sin(turn * pi / 180);

@@ -87,6 +87,7 @@ TEST_F(SpacingTest, TheNearestCopperOfAnotherNetByKind)
              Board{twoTracks + "L 9 0 9 0.5 0 P 0\n", {}, ""},
              Board{twoTracks + "L 0 1 9 1 0 P 0 ;1\n", {}, "3: 300 300, 4: 300"}, // text is no track
              Board{"A 5 0 5 0 0 0 0 P 0 Y\nP 6 0 1 P 0 0\n", {}, "3: 400"},
+             Board{"A -5 -0 -5 0 0 0 0 P 0 Y\nP 6 0 1 P 0 0\n", {}, "3: 400"}, // from -180 to 180 degrees
              Board{"A 5 0 -5 0 0 0 0 P 0 Y\nA 5.4 0 -5.4 0 0 0 0 P 0 Y\n", {}, "3: 200, 4: 200"},
              Board{"P 0 0 2 P 0 8 90\nP 1 0 0 P 0 0\n", {}, "3: 400"}, // turned
              Board{"P 0 0 3 P 0 8 45\nP 0.8 0 0 P 0 0\n", {}, "3: 346"},
