@@ -113,17 +113,18 @@ TEST_F(Boards, TheLibraryHoldsThePointersPlace)
 TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
 {
     writeJob("tiny", {{"SIGNAL", "TOP"}});
-    writeFile("tiny/steps/pcb/layers/top/features", "UNITS=MM\n$0 rect2000x1000\n$1 r100\n"
-                                                    "$2 thr1000x600x45x4x100\n$3 moire9x9x3x9x2000x0\n"
-                                                    "P 0 0 0 P 0 0\n"
-                                                    "P 0 0 0 P 0 1\n"
-                                                    "P 0 0 0 N 0 8 90\n"
-                                                    "A 1 0 0 1 0 0 1 P 0 N\n"
-                                                    "A 1 0 0 1 0 0 1 P 0 Y\n"
-                                                    "A 1 0 1 0 0 0 1 P 0 Y\n"
-                                                    "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOS 0 0\nOE\n"
-                                                    "OB 4 4 H\nOS 5 4\nOS 5 5\nOS 4 5\nOS 4 4\nOE\nSE\n"
-                                                    "P 0 0 2 P 0 0\nP 0 0 3 P 0 0\n");
+    writeFile("tiny/steps/pcb/layers/top/features",
+              "UNITS=MM\n$0 rect2000x1000\n$1 r100\n"
+              "$2 thr1000x600x45x4x100\n$3 moire9x9x3x9x2000x0\n"
+              "P 0 0 0 P 0 0\n"
+              "P 0 0 0 P 0 1\n"
+              "P 0 0 0 N 0 8 90\n"
+              "A 1 0 0 1 0 0 1 P 0 N\n"
+              "A 1 0 0 1 0 0 1 P 0 Y\n"
+              "A 1 0 1 0 0 0 1 P 0 Y\n"
+              "S P 0\nOB 0 0 I\nOS 9 0\nOS 9 9\nOS 0 9\nOS 0 0\nOE\n"
+              "OB 4 4 H\nOS 5 4\nOS 5 5\nOS 4 5\nOS 4 4\nOE\nSE\n"
+              "P 0 0 2 P 0 0\nP 0 0 3 P 0 0\nA -1 -0 -1 0 0 0 1 P 0 Y\n");
     Session session;
     ASSERT_EQ(session.open(QDir().absoluteFilePath("tiny")), "");
     auto const shapes = featureShapes(KVCAM::Embedded::features("tiny", "pcb", "top"),
@@ -137,6 +138,7 @@ TEST(FeatureShapes, AreTurnedSweptAndHollowAsTheFileSays)
         {-1000, -1000, 2000, 2000},                           // a full circle
         {0, 0, 9000, 9000},         {-500, -500, 1000, 1000}, // a thermal by its outer size
         {-1000, -1000, 2000, 2000},                           // a moire by its lines
+        {-1000, -1000, 2000, 2000},                           // a full circle from -180 to 180 degrees
     };
     ASSERT_EQ(shapes.size(), std::size(boxes));
     for (std::size_t i = 0; i < shapes.size(); ++i) {

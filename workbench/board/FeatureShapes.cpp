@@ -37,14 +37,13 @@ QPainterPath arcPath(QPointF start, QPointF end, QPointF centre, bool clockwise)
     double const radius = std::hypot(from.x(), from.y());
     // Qt counts angles counter-clockwise with a y axis that points down; the board's points up.
     double const startAngle = std::atan2(-from.y(), from.x()) * 180 / pi;
-    double sweep = std::atan2(-to.y(), to.x()) * 180 / pi - startAngle;
-    if (clockwise) {
-        sweep += sweep <= 0 ? 360 : 0;
-    } else {
-        sweep -= sweep >= 0 ? 360 : 0;
-    }
+    double const turn = std::atan2(-to.y(), to.x()) * 180 / pi - startAngle;
+    double sweep = clockwise ? turn : -turn;
+    sweep += sweep < 0 ? 360 : 0;
+    sweep = sweep == 0 ? 360 : sweep; // also from -180 to 180 degrees
     QPainterPath path(start);
-    path.arcTo(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius), startAngle, sweep);
+    path.arcTo(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius), startAngle,
+               clockwise ? sweep : -sweep);
     return path;
 }
 
