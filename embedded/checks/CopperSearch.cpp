@@ -131,13 +131,15 @@ void CopperSearch::giveWalls(PlatedHoles const & holes)
 
 void CopperSearch::markPads(PlatedHoles const & holes, bool via)
 {
-    std::vector<Box> centres;
+    std::vector<API::point> centres;
+    std::vector<Box> boxes;
     for (PlatedHole const & hole : holes.list) {
         if (hole.via == via && m_layer.row >= hole.firstRow && m_layer.row <= hole.lastRow) {
-            centres.push_back(boxOf(hole.place));
+            centres.push_back(hole.place);
+            boxes.push_back(boxOf(hole.place));
         }
     }
-    SpatialGrid const grid(std::move(centres));
+    SpatialGrid const grid(boxes);
     ItemShapes const & shapes = m_layer.shapes;
     for (std::uint32_t item = 0; item < m_layer.items.size(); ++item) {
         if ((m_layer.items[item].kinds & copperPad) == 0 ||
@@ -151,9 +153,7 @@ void CopperSearch::markPads(PlatedHoles const & holes, bool via)
         }
         auto const inside = grid.lowest(
             1, [&](Box const & box) { return boxGap(box, extent) <= 0 ? 0.0 : 1.0; },
-            [&](std::size_t hole) {
-                return shapes.covers(item, {grid.box(hole).left, grid.box(hole).top}, noise) ? 0.0 : 1.0;
-            });
+            [&](std::size_t hole) { return shapes.covers(item, centres[hole], noise) ? 0.0 : 1.0; });
         m_layer.items[item].kinds |= inside ? (via ? copperVia : copperPth) : 0;
     }
 }
@@ -181,7 +181,7 @@ void CopperSearch::searchPieces(std::uint32_t item, std::uint8_t wanted, double 
     std::uint32_t const net = m_layer.items[item].net;
     for (std::size_t piece = shapes.firstPiece(item); piece < shapes.endPiece(item) && limit > 0; ++piece) {
         PieceView const view = pieces[piece];
-        Box const & box = shapes.grid().box(piece);
+        Box const box = shapes.grid().box(piece);
         auto const found = shapes.grid().lowest(
             limit, [&](Box const & other) { return boxGap(other, box); },
             [&](std::size_t other) {

@@ -46,7 +46,7 @@ double chordTolerance(std::vector<Feature> const & features)
 
 void ItemShapes::begin()
 {
-    m_first.push_back(m_pieces.size());
+    m_first.push_back(static_cast<std::uint32_t>(m_pieces.size()));
 }
 
 void ItemShapes::drop()
@@ -138,6 +138,7 @@ void ItemShapes::addEdge(API::point from, API::point to, double radius, bool sta
 void ItemShapes::index()
 {
     m_pieces.shrink();
+    m_first.shrink_to_fit();
     std::vector<Box> boxes = m_pieces.boxes();
     std::vector<Box> regionBoxes;
     for (Filled & region : m_regions) {
@@ -154,8 +155,8 @@ void ItemShapes::index()
         regionBoxes.push_back(box);
         region.edges = edges.empty() ? nullptr : std::make_unique<EdgeIndex>(std::move(edges));
     }
-    m_grid = SpatialGrid(std::move(boxes));
-    m_regionGrid = SpatialGrid(std::move(regionBoxes));
+    m_grid = SpatialGrid(boxes);
+    m_regionGrid = SpatialGrid(regionBoxes);
 }
 
 bool ItemShapes::holds(std::size_t region, API::point point) const

@@ -76,7 +76,7 @@ private:
 
     double m_tolerance = 0;
     Pieces m_pieces;
-    std::vector<std::size_t> m_first; // piece by item
+    std::vector<std::uint32_t> m_first; // piece by item; a file holds less than 2^32
     std::vector<Filled> m_regions;
     SpatialGrid m_grid{std::vector<Box>()};
     SpatialGrid m_regionGrid{std::vector<Box>()};

@@ -13,11 +13,12 @@ namespace KVCAM::Embedded {
 
 /// Boxes stored by their centres in the cells of a grid. A crowded cell is itself a grid over its contents,
 /// so the cost of a query stays about the same whatever the distribution. Memory is roughly linear in the
-/// number of boxes. Coordinates must be finite.
+/// number of boxes, which are kept in single precision, rounded outwards. Coordinates must be finite and
+/// within 1e30.
 class SpatialGrid
 {
 public:
-    explicit SpatialGrid(std::vector<Box> boxes);
+    explicit SpatialGrid(std::vector<Box> const & boxes);
 
     struct Found
     {
@@ -39,7 +40,7 @@ public:
                                 Skip const & skip) const
     {
         Found best{m_boxes.size(), limit};
-        if (!m_nodes.empty() && bound(m_nodes.front().box) < limit && !skip(0)) {
+        if (!m_nodes.empty() && bound(m_nodes.front().box.wide()) < limit && !skip(0)) {
             descend(0, bound, measure, skip, best);
         }
         return best.item == m_boxes.size() ? std::nullopt : std::optional(best);
@@ -47,7 +48,8 @@ public:
 
     /// The nodes are numbered from 0, the root.
     std::size_t nodeCount() const { return m_nodes.size(); }
-    Box const & box(std::size_t item) const { return m_boxes[item]; }
+    /// Around the item's box.
+    Box box(std::size_t item) const { return m_boxes[item].wide(); }
 
     /// Goes from the root down: below a node only if enter(node, its box), through its nodes or its items,
     /// and then leave(node). Calls visit(item) for each item met.
@@ -72,12 +74,23 @@ private:
     static constexpr std::size_t across = 4; // cells of a grid in each direction
     static constexpr std::size_t most = 8;   // capacity of a cell before it becomes a grid
 
+    struct NarrowBox
+    {
+        float left = 0;
+        float bottom = 0;
+        float right = 0;
+        float top = 0;
+
+        Box wide() const { return {left, bottom, right, top}; }
+    };
+    static NarrowBox around(Box const & box);
+
     struct Node
     {
-        Box box;
-        std::uint32_t first = 0; // index into m_order for a cell, into m_nodes for a grid
-        std::uint32_t count = 0;
-        bool cell = true;
+        NarrowBox box;
+        std::uint32_t first = 0;  // index into m_order for a cell, into m_nodes for a grid
+        std::uint32_t count : 31; // with `cell` in four bytes
+        std::uint32_t cell : 1;
     };
     using Starts = std::array<std::size_t, across * across + 1>;
 
@@ -94,7 +107,7 @@ private:
         if (node.cell) {
             for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
                 std::size_t const item = m_order[i];
-                if (bound(m_boxes[item]) < best.measure) {
+                if (bound(box(item)) < best.measure) {
                     double const value = measure(item);
                     best = value < best.measure ? Found{item, value} : best;
                 }
@@ -109,7 +122,7 @@ private:
         std::array<Way, across * across> ways{};
         std::size_t count = 0;
         for (std::uint32_t child = node.first; child < node.first + node.count; ++child) {
-            double const least = bound(m_nodes[child].box);
+            double const least = bound(m_nodes[child].box.wide());
             if (least < best.measure && !skip(child)) {
                 ways[count++] = {least, child};
             }
@@ -125,7 +138,7 @@ private:
     void walkBelow(std::size_t index, Enter const & enter, Visit const & visit, Leave const & leave) const
     {
         Node const & node = m_nodes[index];
-        if (!enter(index, node.box)) {
+        if (!enter(index, node.box.wide())) {
             return;
         }
         for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
@@ -141,13 +154,13 @@ private:
     template <class Visit>
     void collect(Node const & node, Box const & area, Visit const & visit) const
     {
-        if (!touch(node.box, area)) {
+        if (!touch(node.box.wide(), area)) {
             return;
         }
         for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
             if (!node.cell) {
                 collect(m_nodes[i], area, visit);
-            } else if (touch(m_boxes[m_order[i]], area)) {
+            } else if (touch(box(m_order[i]), area)) {
                 visit(static_cast<std::size_t>(m_order[i]));
             }
         }
@@ -157,7 +170,7 @@ private:
     Starts splitByPlace(std::size_t first, std::size_t count, Box const & centres);
     Starts splitBySize(std::size_t first, std::size_t count);
 
-    std::vector<Box> m_boxes;
+    std::vector<NarrowBox> m_boxes;
     std::vector<std::uint32_t> m_order; // items, those of a cell adjacent
     std::vector<Node> m_nodes;          // the root first; the children of a grid adjacent
 };
