@@ -15,12 +15,17 @@ int floorMil(double micrometres)
     return UIAPI::saturatedInt(std::max(0.0, std::abs(mil - whole) < 1e-6 ? whole : std::floor(mil)));
 }
 
+int roundedInt(double value)
+{
+    return UIAPI::saturatedInt(std::round(value));
+}
+
 Measurement measurement(int type, double measure, std::initializer_list<double> points)
 {
     Measurement result{measure, {type, floorMil(measure), {}}};
     result.info.points.reserve(points.size());
     for (double const value : points) {
-        result.info.points.push_back(UIAPI::saturatedInt(std::round(value)));
+        result.info.points.push_back(roundedInt(value));
     }
     return result;
 }

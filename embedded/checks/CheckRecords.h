@@ -12,6 +12,9 @@ namespace KVCAM::Embedded {
 /// saturates.
 int floorMil(double micrometres);
 
+/// To the nearest integer; saturates.
+int roundedInt(double value);
+
 /// A record and its unrounded measure in micrometres.
 struct Measurement
 {

@@ -116,14 +116,15 @@ CheckResults run(CheckContext & context, CheckOptions const & options)
         checkDrills(context, layer, results, holes);
         context.endStage();
     }
+    // First, since they need the most memory and few records exist yet.
+    double const reach = std::max(leastReach, options.spacingReach) * 25.4;
+    checkAllSpacings(context, coppers, drills, reach, results);
     std::pair<int, int> const rows = outerRows(context.job().matrix());
     for (API::layer_info const & layer : coppers) {
         bool const outer = layer.row == rows.first || layer.row == rows.second;
         checkCopper(context, layer, holes, outer, results);
         context.endStage();
     }
-    double const reach = std::max(leastReach, options.spacingReach) * 25.4;
-    checkAllSpacings(context, coppers, drills, reach, results);
     results.notChecked = context.takeNotes();
     return results;
 }

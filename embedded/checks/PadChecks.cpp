@@ -103,15 +103,6 @@ std::vector<Pad> distinct(std::vector<Pad> pads)
     return pads;
 }
 
-std::vector<Box> extents(std::vector<Shape> const & shapes)
-{
-    std::vector<Box> boxes;
-    boxes.reserve(shapes.size());
-    std::transform(shapes.begin(), shapes.end(), std::back_inserter(boxes),
-                   [](Shape const & shape) { return extent(shape); });
-    return boxes;
-}
-
 // The depth of a hole's centre, or of the shallower end of a slot's centre line, in the pad; nothing if the
 // pad leaves the hole no ring.
 std::optional<double> depthOf(Hole const & hole, Pad const & pad)
@@ -190,11 +181,12 @@ std::vector<Measurement> PadChecks::smdSpacings() const
     }
     auto const copperOf = [&](std::size_t i) { return copper(*smds[i], m_coarse); };
     SpatialGrid const grid(boxes);
+    boxes = {};
     std::vector<std::pair<std::size_t, std::size_t>> pairs;
     for (std::size_t i = 0; i < smds.size(); ++i) {
         Region const own = copperOf(i);
         auto const nearest = grid.lowest(
-            endless, [&](Box const & box) { return boxGap(box, boxes[i]); },
+            endless, [&](Box const & box) { return boxGap(box, grid.box(i)); },
             [&](std::size_t other) {
                 return other == i ? endless : gapBetween(own, copperOf(other)).distance;
             });
@@ -220,25 +212,32 @@ std::vector<Measurement> PadChecks::smdSpacings() const
 
 PadChecks::Rings PadChecks::rings(std::vector<Hole> const & holes, int row) const
 {
-    std::vector<Pad> solid;
-    std::vector<Shape> inner;
+    auto const passes = [row](Hole const & hole) { return row >= hole.firstRow && row <= hole.lastRow; };
+    if (std::none_of(holes.begin(), holes.end(), passes)) {
+        return {};
+    }
+    std::vector<std::uint32_t> solid; // by box
     std::vector<Box> boxes;
-    for (Pad const & pad : m_pads) {
-        boxes.push_back(extent(placed(pad.shape->outer, pad.where)));
-        if (!pad.shape->inner.corners.empty()) {
+    for (std::uint32_t pad = 0; pad < m_pads.size(); ++pad) {
+        if (Pad const & each = m_pads[pad]; !each.shape->inner.corners.empty()) {
             solid.push_back(pad);
-            inner.push_back(placed(pad.shape->inner, pad.where));
+            boxes.push_back(extent(placed(each.shape->inner, each.where)));
         }
     }
-    SpatialGrid const grid(extents(inner));
-    SpatialGrid const all(std::move(boxes));
+    SpatialGrid const grid(boxes);
+    boxes.clear();
+    for (Pad const & pad : m_pads) {
+        boxes.push_back(extent(placed(pad.shape->outer, pad.where)));
+    }
+    SpatialGrid const all(boxes);
+    boxes = {};
     Rings rings;
     for (std::size_t i = 0; i < holes.size(); ++i) {
         Hole const & hole = holes[i];
         if (i % chunk == 0) {
             m_context.reportProgress(2 * holes.size() + i, 3 * holes.size()); // the last of three parts
         }
-        if (row < hole.firstRow || row > hole.lastRow) {
+        if (!passes(hole)) {
             continue;
         }
         // The deepest pad has the lowest measure. No pad is deeper than its box.
@@ -249,12 +248,12 @@ PadChecks::Rings PadChecks::rings(std::vector<Hole> const & holes, int row) cons
                 return -std::min({at.x - box.left, box.right - at.x, at.y - box.bottom, box.top - at.y});
             },
             [&](std::size_t pad) {
-                auto const within = depthOf(hole, solid[pad]);
+                auto const within = depthOf(hole, m_pads[solid[pad]]);
                 return within ? -*within : endless;
             });
         if (deepest) {
             rings.byKind.at(static_cast<std::size_t>(hole.kind))
-                .push_back(ringOf(hole, solid[deepest->item], -deepest->measure));
+                .push_back(ringOf(hole, m_pads[solid[deepest->item]], -deepest->measure));
         } else if (hole.kind != HoleKind::NonPlated) {
             ++(isTouched(hole, all) ? rings.beside : rings.withoutPad);
         }

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <deque>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <string>
@@ -47,52 +49,69 @@ constexpr std::array<CloseHoles, 4> closeHoles{{
     {35, true, false},
 }};
 
+// Millions of them exist at once, so the places are kept as the record tells them.
 struct Pair
 {
     std::uint32_t first;
     std::uint32_t second;
-    Gap gap;
+    double distance;
+    std::array<int, 4> places; // of the gap's ends, in micrometres
 };
+using Pairs = std::deque<Pair>; // grows without a second copy
 
-Pair pairOf(std::uint32_t item, Neighbour const & other)
+Pair pairOf(std::uint32_t item, std::uint32_t other, Gap const & gap)
 {
-    Gap const & gap = other.gap;
-    return item < other.item ? Pair{item, other.item, gap}
-                             : Pair{other.item, item, {gap.distance, gap.to, gap.from}};
+    auto const [from, to] = item < other ? std::pair(gap.from, gap.to) : std::pair(gap.to, gap.from);
+    return {std::min(item, other),
+            std::max(item, other),
+            gap.distance,
+            {roundedInt(from.x), roundedInt(from.y), roundedInt(to.x), roundedInt(to.y)}};
 }
 
-Measurement recordOf(Gap const & gap)
+// Equal for pairs that are told alike, whichever end comes first.
+std::tuple<std::array<int, 2>, std::array<int, 2>, int> placeOf(Pair const & pair)
 {
-    return measurement(2, gap.distance, {gap.from.x, gap.from.y, gap.to.x, gap.to.y, gap.distance});
+    std::array<int, 2> const from{pair.places[0], pair.places[1]};
+    std::array<int, 2> const to{pair.places[2], pair.places[3]};
+    return {std::min(from, to), std::max(from, to), roundedInt(pair.distance)};
 }
 
-// Each pair once, and once what several pairs of the same place tell alike.
-std::vector<API::check_info> recordsOf(std::vector<Pair> pairs)
+// The pairs without those that equal an earlier one, in the order of less().
+template <class Less, class Same>
+void sortDistinct(Pairs & pairs, Less const & less, Same const & same)
 {
-    auto const key = [](Pair const & pair) {
-        return std::tuple(pair.first, pair.second, pair.gap.distance, pair.gap.from.x, pair.gap.from.y);
-    };
-    std::sort(pairs.begin(), pairs.end(), [&](Pair const & a, Pair const & b) { return key(a) < key(b); });
-    std::vector<Measurement> records;
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        if (i == 0 || pairs[i].first != pairs[i - 1].first || pairs[i].second != pairs[i - 1].second) {
-            records.push_back(recordOf(pairs[i].gap));
-        }
-    }
-    auto const place = [](Measurement const & record) {
-        std::vector<int> const & p = record.info.points;
-        std::pair<int, int> const from(p[0], p[1]);
-        std::pair<int, int> const to(p[2], p[3]);
-        return std::tuple(std::min(from, to), std::max(from, to), p[4]);
-    };
-    std::stable_sort(records.begin(), records.end(), [&](Measurement const & a, Measurement const & b) {
-        return std::tuple(place(a), a.measure) < std::tuple(place(b), b.measure);
+    std::sort(pairs.begin(), pairs.end(), less);
+    pairs.erase(std::unique(pairs.begin(), pairs.end(), same), pairs.end());
+}
+
+// Each pair once, and once what several pairs of the same place tell alike; the smallest first.
+std::vector<API::check_info> recordsOf(Pairs pairs)
+{
+    auto const items = [](Pair const & pair) { return std::tie(pair.first, pair.second); };
+    auto const rest = [](Pair const & pair) { return std::tie(pair.distance, pair.places); };
+    sortDistinct(
+        pairs,
+        [&](Pair const & a, Pair const & b) {
+            return items(a) != items(b) ? items(a) < items(b) : rest(a) < rest(b);
+        },
+        [&](Pair const & a, Pair const & b) { return items(a) == items(b); });
+    sortDistinct(
+        pairs,
+        [&](Pair const & a, Pair const & b) {
+            return std::tuple(placeOf(a), rest(a), items(a)) < std::tuple(placeOf(b), rest(b), items(b));
+        },
+        [](Pair const & a, Pair const & b) { return placeOf(a) == placeOf(b); });
+    std::sort(pairs.begin(), pairs.end(), [&](Pair const & a, Pair const & b) {
+        return a.distance != b.distance ? a.distance < b.distance
+                                        : std::tuple(placeOf(a), items(a)) < std::tuple(placeOf(b), items(b));
     });
-    records.erase(
-        std::unique(records.begin(), records.end(),
-                    [&](Measurement const & a, Measurement const & b) { return place(a) == place(b); }),
-        records.end());
-    return sorted(std::move(records));
+    std::vector<API::check_info> records;
+    records.reserve(pairs.size());
+    for (Pair const & pair : pairs) {
+        auto const & p = pair.places;
+        records.push_back({2, floorMil(pair.distance), {p[0], p[1], p[2], p[3], roundedInt(pair.distance)}});
+    }
+    return records;
 }
 
 // What an item of these kinds is measured to; 0 if the category does not concern it.
@@ -103,10 +122,10 @@ std::uint8_t wantedBy(std::uint8_t kinds, Category const & category)
 }
 
 // The pairs of each category.
-std::array<std::vector<Pair>, categories.size()>
-pairsOf(CheckContext const & context, CopperLayer const & layer, CopperSearch const & search, double limit)
+std::array<Pairs, categories.size()> pairsOf(CheckContext const & context, CopperLayer const & layer,
+                                             CopperSearch const & search, double limit)
 {
-    std::array<std::vector<Pair>, categories.size()> pairs;
+    std::array<Pairs, categories.size()> pairs;
     for (std::uint32_t item = 0; item < layer.items.size(); ++item) {
         if (item % chunk == 0) {
             context.reportProgress(item, layer.items.size() * 5 / 4 + 1);
@@ -125,7 +144,7 @@ pairsOf(CheckContext const & context, CopperLayer const & layer, CopperSearch co
                                    ? nearest
                                    : search.nearest(item, wanted, limit);
             if (found) {
-                pairs.at(i).push_back(pairOf(item, *found));
+                pairs.at(i).push_back(pairOf(item, found->item, found->gap));
             }
         }
     }
@@ -133,10 +152,10 @@ pairsOf(CheckContext const & context, CopperLayer const & layer, CopperSearch co
 }
 
 // Each item and the nearest rout.
-std::vector<Pair> routPairs(CheckContext const & context, CopperLayer const & layer,
-                            CopperSearch const & search, ItemShapes const & rout, double limit)
+Pairs routPairs(CheckContext const & context, CopperLayer const & layer, CopperSearch const & search,
+                ItemShapes const & rout, double limit)
 {
-    std::vector<Pair> pairs;
+    Pairs pairs;
     std::size_t const total = layer.items.size();
     for (std::uint32_t item = 0; item < total; ++item) {
         if (item % chunk == 0) {
@@ -149,21 +168,21 @@ std::vector<Pair> routPairs(CheckContext const & context, CopperLayer const & la
         for (std::size_t piece = layer.shapes.firstPiece(item);
              piece < layer.shapes.endPiece(item) && best.distance > 0; ++piece) {
             PieceView const view = layer.shapes.pieces()[piece];
-            Box const & box = layer.shapes.grid().box(piece);
+            Box const box = layer.shapes.grid().box(piece);
             auto const found = rout.grid().lowest(
                 best.distance, [&](Box const & other) { return boxGap(other, box); },
                 [&](std::size_t other) { return gapBetween(view, rout.pieces()[other]).distance; });
             best = found ? gapBetween(view, rout.pieces()[found->item]) : best;
         }
         if (best.distance < limit) {
-            pairs.push_back({item, nothing, best});
+            pairs.push_back(pairOf(item, nothing, best));
         }
     }
     // A path inside copper that does not reach its edges.
     for (std::size_t piece = 0; piece < rout.pieces().size(); ++piece) {
         API::point const at = rout.pieces()[piece].corners[0];
         if (auto const item = rout.pieces().starts(piece) ? search.around(at) : std::nullopt) {
-            pairs.push_back({*item, nothing, {0, at, at}});
+            pairs.push_back(pairOf(*item, nothing, {0, at, at}));
         }
     }
     return pairs;
@@ -240,8 +259,8 @@ void checkSpacings(CheckContext const & context, CopperLayer & layer, PlatedHole
 {
     double const limit = std::nextafter(reach, endless);
     std::string const layerName = layer.name;
-    std::array<std::vector<Pair>, categories.size()> pairs;
-    std::vector<Pair> toRout;
+    std::array<Pairs, categories.size()> pairs;
+    Pairs toRout;
     {
         CopperSearch const search(layer, holes);
         pairs = pairsOf(context, layer, search, limit);
@@ -276,7 +295,7 @@ void checkCloseHoles(CheckContext const & context, PlatedHoles const & holes, do
     std::vector<bool> const out = ignored(holes);
     std::size_t done = 0;
     for (CloseHoles const & check : closeHoles) {
-        std::map<std::uint32_t, std::vector<Pair>> byLayer;
+        std::map<std::uint32_t, Pairs> byLayer;
         for (std::uint32_t hole = 0; hole < holes.list.size(); ++hole) {
             PlatedHole const & its = holes.list[hole];
             if (++done % chunk == 0) {
@@ -287,7 +306,8 @@ void checkCloseHoles(CheckContext const & context, PlatedHoles const & holes, do
             }
             Neighbour const best = nearestHole(holes, nodes, out, hole, check.sameNet, limit);
             if (best.item != nothing) {
-                byLayer[holes.list[std::min(hole, best.item)].layer].push_back(pairOf(hole, best));
+                byLayer[holes.list[std::min(hole, best.item)].layer].push_back(
+                    pairOf(hole, best.item, best.gap));
             }
         }
         for (auto & [layer, pairs] : byLayer) {
