@@ -81,6 +81,7 @@ struct JobLimits
     long long archiveDepth = 32;        ///< of folders in an archive
     /// Unpacked bytes for each byte of an archive, once they exceed `fileBytes`.
     long long archiveRatio = 200;
+    long long seconds = 120; ///< spent reading files, unpacking not included
 };
 
 } // namespace KVCAM::Embedded

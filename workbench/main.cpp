@@ -10,6 +10,7 @@
 #include "window/Desk.h"
 #include "window/MainWindow.h"
 
+#include <EmbeddedEngine.h>
 #include <UIAPICommon.h>
 
 #include <glog/logging.h>
@@ -146,6 +147,7 @@ int main(int argc, char ** argv)
     }
     Workbench::CommandLine const & commandLine = parsed.commandLine;
 
+    KVCAM::Embedded::setJobLimits(commandLine.limits);
     Workbench::Session session;
     if (headless) {
         QString const error =

@@ -11,6 +11,7 @@
 namespace KVCAM::Embedded {
 namespace {
 
+constexpr int linesBetweenClocks = 4096;
 constexpr std::size_t longestLine = 1024UL * 1024;
 constexpr double largestNumber = 1e9;
 constexpr std::string_view blanks = " \t\r\v\f";
@@ -62,6 +63,17 @@ LineReader::LineReader(QString const & path, Budget & budget)
     m_rest = std::string_view(m_text.constData(), static_cast<std::size_t>(m_text.size()));
 }
 
+LineReader::~LineReader()
+{
+    m_budget.time = time();
+}
+
+// All that the job has taken.
+std::chrono::steady_clock::duration LineReader::time() const
+{
+    return m_budget.time + (std::chrono::steady_clock::now() - m_begin);
+}
+
 std::size_t LineReader::countRecords(std::string_view letters) const
 {
     std::size_t count = 0;
@@ -94,7 +106,11 @@ bool LineReader::next()
 {
     while (!m_rest.empty()) {
         std::size_t const end = std::min(m_rest.find('\n'), m_rest.size());
-        ++m_number;
+        if (m_number++ % linesBetweenClocks == 0 &&
+            std::chrono::duration<double>(time()).count() > static_cast<double>(m_budget.limits.seconds)) {
+            fail("reading the job takes more than " + std::to_string(m_budget.limits.seconds) +
+                 " seconds, its limit");
+        }
         if (end > longestLine) {
             fail("the line is longer than 1 MiB");
         }

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -23,6 +24,8 @@ public:
     LineReader(QString const & path, Budget & budget);
     LineReader(LineReader const &) = delete;
     LineReader & operator=(LineReader const &) = delete;
+    /// Adds the time since construction to the budget.
+    ~LineReader();
 
     /// How many lines begin with one of these letters and a blank, but no more than the file can hold records
     /// of features: what to reserve.
@@ -33,6 +36,7 @@ public:
     void spendSymbol();
 
     /// Advances to the next line that is neither blank nor a comment ('#'); false at the end of the file.
+    /// Now and then fails if the job has taken too long.
     bool next();
     /// The current line, trimmed; valid as long as the reader.
     std::string_view line() const { return m_line; }
@@ -50,6 +54,9 @@ public:
     int integer(std::string_view text, char const * what) const;
 
 private:
+    std::chrono::steady_clock::duration time() const;
+
+    std::chrono::steady_clock::time_point const m_begin = std::chrono::steady_clock::now();
     Budget m_ownBudget; // of a reader without a given one
     Budget & m_budget;
     QString m_path;

@@ -68,6 +68,13 @@ TEST_F(LimitsTest, EachIsMetWithItsErrorAndCanBeRaised)
         EXPECT_EQ(error(row.enough), "") << row.error;
         EXPECT_EQ(error(row.enough - 1), row.error);
     }
+    Limits limits;
+    limits.seconds = 0;
+    Embedded::setJobLimits(limits);
+    Embedded::closeJob("board");
+    EXPECT_FALSE(open());
+    EXPECT_EQ(Embedded::lastError(),
+              "jobs/board/matrix/matrix:1: reading the job takes more than 0 seconds, its limit");
 }
 
 } // namespace

@@ -95,6 +95,9 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         {{sampleJob, "--headless", "--wings"}, "wings"},
         {{sampleJob, "--headless", "--step", "attic"}, "no step \"attic\""},
         {{sampleJob, "--headless", "--report", "report.txt"}, "report.txt"},
+        {{sampleJob, "--headless", "--limit", "layers=2"}, "the job's limit of 2"},
+        {{sampleJob, "--headless", "--limit", "wings=2"}, "there is no limit \"wings\", only steps="},
+        {{sampleJob, "--headless", "--limit", "points=2x"}, "not \"points=2x\""},
         {{sampleJob, "--headless", "--output", "file"}, "cannot write to \""},
 #ifdef Q_OS_LINUX // a directory in which nobody can create files
         {{sampleJob, "--headless", "--output", "/proc"}, "cannot write to \""},

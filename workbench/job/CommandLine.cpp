@@ -1,5 +1,6 @@
 #include "job/CommandLine.h"
 
+#include "job/Limits.h"
 #include "job/ReportFormat.h"
 
 #include <UIAPICommonVersion.h>
@@ -65,7 +66,10 @@ ParsedArguments parseArguments(QStringList const & arguments)
                                      "FILE");
     QCommandLineOption const report(
         "report", "Run the checks and write the graded report, as JSON or CSV; may be repeated.", "FILE");
-    parser.addOptions({step, summary, report});
+    QCommandLineOption const limit(
+        "limit", "Change a limit of what a job may hold; may be repeated. The limits: " + limitNames() + '.',
+        "NAME=NUMBER");
+    parser.addOptions({step, summary, report, limit});
     parser.addPositionalArgument("JOB",
                                  "The folder of the job, or an archive of it (.tgz, .tar.gz, .tar, .zip; "
                                  "default: the environment variable " +
@@ -104,6 +108,11 @@ ParsedArguments parseArguments(QStringList const & arguments)
             return failure("a report is a .json or .csv file, not \"" + file + '"');
         }
         commandLine.reports.append(absolute(file));
+    }
+    for (QString const & text : parser.values(limit)) {
+        if (QString const error = setLimit(commandLine.limits, text); !error.isEmpty()) {
+            return failure(error);
+        }
     }
     if (parser.value(unit) != "mm" && parser.value(unit) != "inch") {
         return failure("the unit is inch or mm, not \"" + parser.value(unit) + '"');

@@ -2,6 +2,8 @@
 
 #include "ui/Units.h"
 
+#include <EmbeddedRecords.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +22,7 @@ struct CommandLine
     QString step;        ///< shown first; empty: the job's first
     QString summary;     ///< file for the summary of the checks; empty: none, or one in the output folder
     QStringList reports; ///< files for reports of the checks, ".json" or ".csv"
+    KVCAM::Embedded::JobLimits limits;
 };
 
 /// The outcome of parsing: a command line, a text to print before a successful exit (help, version), or an
