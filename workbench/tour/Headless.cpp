@@ -14,7 +14,7 @@
 #include "tour/HeadlessLayers.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
-#include "window/CheatSheet.h"
+#include "window/KeysDialog.h"
 #include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
@@ -156,7 +156,7 @@ QJsonObject useHotkeys(MainWindow & window, Camera & camera)
     facts["done"] = status.text();
     facts["snap"] = static_cast<int>(getSnapType(view.handle()));
     setSnapType(view.handle(), mode);
-    CheatSheet & sheet = *window.showKeys();
+    KeysDialog & sheet = *window.showKeys();
     camera.take(sheet, "hot-keys.png");
     sheet.showOwnFile();
     camera.take(sheet, "hot-keys-file.png");

@@ -3,6 +3,7 @@
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "checks/ResultsPage.h"
+#include "layers/ComparePage.h"
 #include "layers/ReferencesPage.h"
 #include "pages/AttributesPage.h"
 #include "pages/EdaPage.h"
@@ -14,9 +15,9 @@
 #include "ui/LanguageChange.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
-#include "window/CheatSheet.h"
 #include "window/EditMenu.h"
 #include "window/HotkeyCommands.h"
+#include "window/KeysDialog.h"
 #include "window/WindowState.h"
 
 #include <EmbeddedEngine.h>
@@ -126,6 +127,7 @@ void MainWindow::addPages()
     addPage(references, "references", QT_TR_NOOP("Refere&nces"));
     connect(m_board, &BoardPage::stepChanged, references,
             [this, references] { references->setStep(m_board->currentView()->step()); });
+    addComparison();
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
     addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
     addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
@@ -142,6 +144,20 @@ void MainWindow::addResults()
     connect(m_results, &ResultsPage::boardWanted, this, [this] {
         showPage("board");
         m_board->currentView()->setFocus();
+    });
+}
+
+void MainWindow::addComparison()
+{
+    auto * comparison = new ComparePage(m_session);
+    comparison->setStep(m_board->currentView()->step());
+    addPage(comparison, "compare", QT_TR_NOOP("Compare"));
+    connect(m_board, &BoardPage::stepChanged, comparison,
+            [this, comparison] { comparison->setStep(m_board->currentView()->step()); });
+    connect(m_board, &BoardPage::refreshed, comparison, &ComparePage::setOutOfDate);
+    connect(m_board, &BoardPage::compareWanted, comparison, [this, comparison](QString const & layer) {
+        comparison->choose(QString::fromStdString(m_board->currentView()->layer()), layer);
+        showPage("compare");
     });
 }
 
@@ -279,10 +295,10 @@ void MainWindow::listPages()
     }
 }
 
-CheatSheet * MainWindow::showKeys()
+KeysDialog * MainWindow::showKeys()
 {
     if (m_keys == nullptr) {
-        m_keys = new CheatSheet(this);
+        m_keys = new KeysDialog(this);
     }
     m_keys->refresh();
     m_keys->show();
@@ -301,6 +317,7 @@ void MainWindow::setLanguage(LANGUAGE_MODE language)
 void MainWindow::useStateFile(QString const & file, bool keepsUnit)
 {
     m_stateFile = file;
+    m_board->useColours(file);
     auto const choices = restoreWindow(*this, file);
     if (!choices) {
         return;
