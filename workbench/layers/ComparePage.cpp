@@ -117,6 +117,7 @@ void ComparePage::makeLayout()
     sides->addWidget(m_view);
     sides->addWidget(side);
     sides->setStretchFactor(0, 1);
+    sides->setSizes({620, 560});
     auto * layout = new QVBoxLayout(this);
     layout->addLayout(tools);
     layout->addWidget(m_legend);
@@ -153,6 +154,15 @@ void ComparePage::choose(QString const & first, QString const & second)
     m_first->setCurrentText(first);
     if (second != first) {
         m_second->setCurrentText(second);
+    }
+}
+
+void ComparePage::compareWith(QString const & first, QString const & second)
+{
+    choose(first, second);
+    if (second != first) {
+        m_visibleOnly->setChecked(false);
+        compare();
     }
 }
 
@@ -289,6 +299,11 @@ QString ComparePage::foundText() const
                                          QString::number(m_found.firstRegions), m_names[1],
                                          squareMillimetres(m_found.onlySecond),
                                          QString::number(m_found.secondRegions)));
+    if (!m_found.regions.empty()) {
+        lines.append(tr("The largest region has %1 mm², the smallest %2 mm².")
+                         .arg(squareMillimetres(m_found.regions.front().area),
+                              squareMillimetres(m_found.regions.back().area)));
+    }
     lines.append(tr("In both: %1 mm².").arg(squareMillimetres(m_found.both)));
     if (regions > static_cast<long long>(m_found.regions.size())) {
         lines.append(tr("Listed are the largest and the smallest: %1 of %2.")

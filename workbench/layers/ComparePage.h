@@ -35,6 +35,8 @@ public:
     void setStep(std::string const & step);
     /// Chooses the layers. If both names are the same, the second choice stays.
     void choose(QString const & first, QString const & second);
+    /// The same, and compares them if they are two.
+    void compareWith(QString const & first, QString const & second);
     /// Compares the chosen layers, all or the part in view.
     void compare();
     void stop();

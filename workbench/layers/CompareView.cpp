@@ -48,7 +48,7 @@ void CompareView::showRegion(QRectF const & box)
 {
     double const gap = around * std::max({box.width(), box.height(), 1.0});
     m_framed = box;
-    m_port.show(box.adjusted(-gap, -gap, gap, gap));
+    m_port.show(box.adjusted(-gap, -gap, gap, gap) & joined(m_extent, box));
     changePort();
 }
 

@@ -353,6 +353,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     QJsonObject const hotkeys = useHotkeys(window, camera);
     TakePicture const take = [&camera](QWidget & widget, QString const & name) { camera.take(widget, name); };
     QJsonObject const filters = useFilters(window, take);
+    QJsonObject const comparison = useComparison(window, session, take);
     questions = Ext::MessageAnswer::Yes;
     QJsonObject const references = useReferences(window, take);
     QJsonObject const undone = useUndo(window, session, take);
@@ -372,6 +373,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"EDA link", eda},
             {"hot keys", hotkeys},
             {"filters", filters},
+            {"comparison", comparison},
             {"references", references},
             {"undo", undone},
             {"feature", feature},

@@ -241,10 +241,6 @@
         <translation>所有命令恢复默认按键；您的文件保留为副本</translation>
     </message>
     <message>
-        <source>The keys are saved.</source>
-        <translation>按键已保存。</translation>
-    </message>
-    <message>
         <source>The keys are not saved: %1</source>
         <translation>按键未保存：%1</translation>
     </message>
@@ -374,6 +370,10 @@
     <message>
         <source>Only in %1: %2 mm² in %3 regions. Only in %4: %5 mm² in %6 regions.</source>
         <translation>仅在 %1 中：%2 mm²，共 %3 个区域。仅在 %4 中：%5 mm²，共 %6 个区域。</translation>
+    </message>
+    <message>
+        <source>The largest region has %1 mm², the smallest %2 mm².</source>
+        <translation>最大区域 %1 mm²，最小区域 %2 mm²。</translation>
     </message>
     <message>
         <source>In both: %1 mm².</source>

@@ -145,7 +145,7 @@ KeysSaved saveKeys(std::vector<KeyPlan::Binding> const & bindings, bool keepsOld
     if (QFileInfo(path).isFile() && (keepsOld || holdsUnread(Ext::checkHotkeyFile(path)))) {
         saved.backup = copyBeside(path);
         if (saved.backup.isEmpty()) {
-            saved.problem = path + ".bak";
+            saved.problem = QString("\"%1\" cannot be copied").arg(path);
             return saved;
         }
     }

@@ -13,7 +13,6 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPalette>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
@@ -23,6 +22,15 @@ namespace Workbench {
 
 using namespace KVCAM;
 using namespace KVCAM::UIAPI;
+
+namespace {
+
+QString ownFile()
+{
+    return QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(Ext::hotkeyFile).absoluteFilePath()));
+}
+
+} // namespace
 
 KeysDialog::KeysDialog(QWidget * parent)
     : QDialog(parent)
@@ -206,7 +214,7 @@ void KeysDialog::save(bool keepsOld)
 {
     KeysSaved const saved = saveKeys(m_plan.bindings(), keepsOld);
     QStringList lines;
-    lines.append(saved.problem.isEmpty() ? tr("The keys are saved.")
+    lines.append(saved.problem.isEmpty() ? tr("Written to \"%1\".").arg(ownFile())
                                          : tr("The keys are not saved: %1").arg(saved.problem));
     if (!saved.backup.isEmpty()) {
         lines.append(
@@ -236,7 +244,7 @@ void KeysDialog::showBindings()
             if (!remark.isEmpty()) {
                 for (int column = 0; column < m_bindings->columnCount(); ++column) {
                     m_bindings->item(m_bindings->rowCount() - 1, column)
-                        ->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
+                        ->setForeground(palette().placeholderText());
                 }
             }
         }
@@ -255,6 +263,9 @@ void KeysDialog::filter()
             isFound = isFound || m_bindings->item(row, column)->text().contains(words, Qt::CaseInsensitive);
         }
         m_bindings->setRowHidden(row, !isFound);
+        if (!isFound && row == m_bindings->currentRow()) {
+            m_bindings->setCurrentCell(-1, -1); // what is not seen is not changed
+        }
     }
 }
 
@@ -293,7 +304,7 @@ void KeysDialog::showVerdict()
 void KeysDialog::showFile()
 {
     QFileInfo const file{QString(Ext::hotkeyFile)};
-    QString const path = QDir::toNativeSeparators(QDir::cleanPath(file.absoluteFilePath()));
+    QString const path = ownFile();
     Ext::HotkeyFileCheck const check = Ext::checkHotkeyFile(Ext::hotkeyFile);
     m_findings->setRowCount(0);
     for (Ext::HotkeyFinding const & finding : check.findings) {

@@ -156,8 +156,8 @@ void MainWindow::addComparison()
             [this, comparison] { comparison->setStep(m_board->currentView()->step()); });
     connect(m_board, &BoardPage::refreshed, comparison, &ComparePage::setOutOfDate);
     connect(m_board, &BoardPage::compareWanted, comparison, [this, comparison](QString const & layer) {
-        comparison->choose(QString::fromStdString(m_board->currentView()->layer()), layer);
         showPage("compare");
+        comparison->compareWith(QString::fromStdString(m_board->currentView()->layer()), layer);
     });
 }
 
