@@ -121,15 +121,13 @@ std::vector<HotkeyBinding> judged(HotkeyTables const & tables)
 HotkeyEntry entryOf(HotkeyBinding const & binding)
 {
     QKeySequence const keys = QKeySequence::fromString(binding.keys, QKeySequence::PortableText);
-    auto const modifiersOf = [&keys](uint index) {
-        return Qt::KeyboardModifiers(keys[index] & static_cast<int>(Qt::KeyboardModifierMask));
-    };
+    int const mask = static_cast<int>(Qt::KeyboardModifierMask);
     HotkeyEntry entry;
     entry.code = binding.code;
     if (keys.count() == 1) {
-        entry.modifiers = modifiersOf(0);
-        entry.key = keys[0] & ~static_cast<int>(Qt::KeyboardModifierMask);
-    } else if (keys.count() == 2 && !modifiersOf(0) && !modifiersOf(1)) {
+        entry.modifiers = Qt::KeyboardModifiers(keys[0] & mask);
+        entry.key = keys[0] & ~mask;
+    } else if (keys.count() == 2) { // a key with a modifier is no key that has a name
         entry.key = keys[0];
         entry.second = keys[1];
     }

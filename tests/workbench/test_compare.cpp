@@ -249,6 +249,7 @@ TEST_F(Comparing, SeesWhatIsMissingMovedOrCutOutButNotHowItIsDrawn)
         EXPECT_NEAR(found.onlySecond / 1e6, row.areas[1], 0.02) << what;
         if (!found.regions.empty()) {
             QRectF const & box = found.regions.front().box;
+            EXPECT_EQ(found.regions.front().isFirst, row.areas[0] >= row.areas[1]) << what;
             double const slack = 2 * found.pixel;
             EXPECT_NEAR(box.left(), row.largest.left() * 1000, slack) << what;
             EXPECT_NEAR(box.top(), row.largest.top() * 1000, slack) << what;
@@ -271,8 +272,9 @@ TEST_F(Comparing, IsAsFineAsItSaysAndKeepsToItsPart)
         double onlyFirst; ///< square millimetres
     } const rows[] = {
         {"holed", {0, 0, 10, 10}, 1000, 10, 1, 0.25},
-        {"shifted", {0, 0, 10, 10}, 8, 1250, 0, 0}, // by 0.4 pixels
-        {"holed", {5, 7, 4, 2}, 1000, 4, 1, 0.125}, // cut at the edge
+        {"shifted", {0, 0, 10, 10}, 8, 1250, 0, 0},   // by 0.4 pixels
+        {"holed", {5, 7, 4, 2}, 1000, 4, 1, 0.125},   // cut at the edge
+        {"shifted", {-1, -1, 12, 12}, 4000, 3, 1, 1}, // in several slices
         {"holed", {0, 0, 4, 2}, 4000, 1, 0, 0},
         {"holed", {0, 0, 0, 0}, 1000, 0, 0, 0},
         {"holed", {0, 0, std::numeric_limits<double>::infinity(), 1}, 1000, 0, 0, 0},

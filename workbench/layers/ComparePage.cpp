@@ -11,6 +11,7 @@
 #include <QColor>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -71,6 +72,7 @@ ComparePage::ComparePage(Session const & session, QWidget * parent)
     m_stop->setObjectName("stop");
     m_text->setObjectName("comparison");
     m_table->setObjectName("regions");
+    m_table->horizontalHeader()->setStretchLastSection(false);
     for (Session::Layer const & layer : session.layers()) {
         for (QComboBox * box : {m_first, m_second}) {
             box->addItem(QString::fromStdString(layer.info.name));

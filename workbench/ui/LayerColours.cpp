@@ -17,12 +17,17 @@ namespace {
 
 using KVCAM::API::layer_info;
 
-constexpr double different = 90;         // the least distance at which a wish is granted
-constexpr QRgb otherColour = 0xff44617b; // of a type without a colour
+constexpr double different = 90; // the least distance at which a wish is granted
 constexpr char const * group = "layer-colours";
 
-// The colour that a layer would like: by type, and for copper by row.
-QRgb preferredColour(layer_info const & layer)
+// The colour that a layer would like, by type and for copper by row; and who chooses first.
+struct Preference
+{
+    QRgb colour;
+    int rank;
+};
+
+Preference preferenceOf(layer_info const & layer)
 {
     static constexpr QRgb copper[] = {0xffb5582a, 0xff2563a8, 0xff8c4a86, 0xff3f7d20,
                                       0xffb03060, 0xff0f7c80, 0xff8a6d1b};
@@ -32,15 +37,15 @@ QRgb preferredColour(layer_info const & layer)
     };
     for (char const * type : {"signal", "power_ground", "mixed"}) {
         if (layer.type == type) {
-            return copper[static_cast<unsigned>(layer.row) % std::size(copper)];
+            return {copper[static_cast<unsigned>(layer.row) % std::size(copper)], 0};
         }
     }
     for (auto const & [type, colour] : colours) {
         if (layer.type == type) {
-            return colour;
+            return {colour, 1};
         }
     }
-    return otherColour;
+    return {0xff44617b, 2};
 }
 
 // Colours to choose from, none lighter than medium.
@@ -174,17 +179,17 @@ void LayerColours::choose(std::string const & layer, QColor const & colour)
     }
 }
 
-// Layers with a colour of their type choose before those without one.
 void LayerColours::assign()
 {
     std::vector<layer_info> layers = m_layers;
-    std::stable_partition(layers.begin(), layers.end(),
-                          [](layer_info const & layer) { return preferredColour(layer) != otherColour; });
+    std::stable_sort(layers.begin(), layers.end(), [](layer_info const & a, layer_info const & b) {
+        return preferenceOf(a).rank < preferenceOf(b).rank;
+    });
     std::vector<ColourWish> wishes;
     for (layer_info const & layer : layers) {
         auto const chosen = m_chosen.find(layer.name);
         bool const isChosen = chosen != m_chosen.end();
-        wishes.push_back({isChosen ? chosen->second : preferredColour(layer), isChosen});
+        wishes.push_back({isChosen ? chosen->second : preferenceOf(layer).colour, isChosen});
     }
     std::vector<QRgb> const colours = distinctColours(wishes);
     std::lock_guard<std::mutex> const lock(m_mutex);
@@ -198,7 +203,7 @@ QColor LayerColours::of(layer_info const & layer) const
 {
     std::lock_guard<std::mutex> const lock(m_mutex);
     auto const known = m_colours.find(layer.name);
-    return QColor(known != m_colours.end() ? known->second : preferredColour(layer));
+    return QColor(known != m_colours.end() ? known->second : preferenceOf(layer).colour);
 }
 
 } // namespace Workbench
