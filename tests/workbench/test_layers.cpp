@@ -2,7 +2,6 @@
 #include "board/BoardView.h"
 #include "board/FeatureSelection.h"
 #include "layers/FilterBar.h"
-#include "layers/LayerNames.h"
 #include "layers/LayerTable.h"
 #include "ui/LayerColours.h"
 
@@ -303,33 +302,6 @@ TEST_F(LayersOfAWindow, AreFoundByNameAndSortedByAnyColumn)
         EXPECT_EQ(table.currentRow(), shown);
         EXPECT_EQ(table.layerName(shown), "top");
     }
-}
-
-TEST(LayerNames, AreOrderedAndFoundAsPeopleExpect)
-{
-    QStringList const ordered = {"", "7", "L2", "l2a", "l002b", "l10", "l10_1", "l10_01x", "m", "m1"};
-    for (int i = 0; i < ordered.size(); ++i) {
-        for (int j = 0; j < ordered.size(); ++j) {
-            int const order = naturalOrder(ordered[i], ordered[j]);
-            EXPECT_EQ(order < 0, i < j) << i << ' ' << j;
-            EXPECT_EQ(order > 0, i > j) << i << ' ' << j;
-        }
-    }
-    QStringList const names = {"top", "silk_top", "l2", "l3", "Silk_bot", "bottom"};
-    struct
-    {
-        int current;
-        char const * typed;
-        int found;
-    } const rows[] = {
-        {-1, "s", 1}, {1, "s", 4},  {4, "s", 1},     {1, "si", 1}, {1, "silk_b", 4}, {4, "ss", 1},
-        {0, "l", 2},  {2, "l3", 3}, {5, "k_t", 1},   {0, "b", 5},  {0, "z", -1},     {0, "", -1},
-        {0, "2", 2},  {-1, "t", 0}, {0, "t", 1 - 1}, {3, "ll", 2},
-    };
-    for (auto const & row : rows) {
-        EXPECT_EQ(foundByTyping(names, row.current, row.typed), row.found) << row.current << row.typed;
-    }
-    EXPECT_EQ(foundByTyping({}, -1, "a"), -1);
 }
 
 TEST_F(LayersOfAWindow, AMenuShowsComparesCopiesAndColours)

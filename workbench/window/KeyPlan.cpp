@@ -6,6 +6,7 @@
 #include <QKeySequence>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Workbench {
@@ -137,10 +138,15 @@ void KeyRecorder::press(int key, Qt::KeyboardModifiers modifiers)
     m_isComplete = isSecond || modifiers != Qt::NoModifier;
 }
 
+QString keysFile()
+{
+    return Ext::hotkeyFile;
+}
+
 KeysSaved saveKeys(std::vector<KeyPlan::Binding> const & bindings, bool keepsOld)
 {
     KeysSaved saved;
-    QString const path = Ext::hotkeyFile;
+    QString const path = keysFile();
     QDir().mkpath(QFileInfo(path).path());
     if (QFileInfo(path).isFile() && (keepsOld || holdsUnread(Ext::checkHotkeyFile(path)))) {
         saved.backup = copyBeside(path);

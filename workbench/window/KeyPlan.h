@@ -65,6 +65,9 @@ private:
     bool m_isComplete = false;
 };
 
+/// The user's file, from which the library reads the keys.
+QString keysFile();
+
 /// The outcome of saving.
 struct KeysSaved
 {

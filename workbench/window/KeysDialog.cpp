@@ -27,7 +27,7 @@ namespace {
 
 QString ownFile()
 {
-    return QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(Ext::hotkeyFile).absoluteFilePath()));
+    return QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(keysFile()).absoluteFilePath()));
 }
 
 } // namespace
@@ -178,7 +178,7 @@ void KeysDialog::loadAgain()
 
 void KeysDialog::chooseExport()
 {
-    askForFile(*this, tr("Export the hot keys"), Ext::hotkeyFile, "*.json",
+    askForFile(*this, tr("Export the hot keys"), keysFile(), "*.json",
                [this](QString const & path) { exportTo(path); });
 }
 
@@ -303,9 +303,9 @@ void KeysDialog::showVerdict()
 
 void KeysDialog::showFile()
 {
-    QFileInfo const file{QString(Ext::hotkeyFile)};
+    QFileInfo const file(keysFile());
     QString const path = ownFile();
-    Ext::HotkeyFileCheck const check = Ext::checkHotkeyFile(Ext::hotkeyFile);
+    Ext::HotkeyFileCheck const check = Ext::checkHotkeyFile(keysFile());
     m_findings->setRowCount(0);
     for (Ext::HotkeyFinding const & finding : check.findings) {
         addRow(*m_findings,

@@ -15,6 +15,7 @@
 #include "ui/LanguageChange.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
+#include "window/Comparison.h"
 #include "window/EditMenu.h"
 #include "window/HotkeyCommands.h"
 #include "window/KeysDialog.h"
@@ -127,7 +128,8 @@ void MainWindow::addPages()
     addPage(references, "references", QT_TR_NOOP("Refere&nces"));
     connect(m_board, &BoardPage::stepChanged, references,
             [this, references] { references->setStep(m_board->currentView()->step()); });
-    addComparison();
+    addPage(makeComparison(m_session, *m_board), "compare", QT_TR_NOOP("Compare"));
+    connect(m_board, &BoardPage::compareWanted, this, [this] { showPage("compare"); });
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
     addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
     addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
@@ -144,20 +146,6 @@ void MainWindow::addResults()
     connect(m_results, &ResultsPage::boardWanted, this, [this] {
         showPage("board");
         m_board->currentView()->setFocus();
-    });
-}
-
-void MainWindow::addComparison()
-{
-    auto * comparison = new ComparePage(m_session);
-    comparison->setStep(m_board->currentView()->step());
-    addPage(comparison, "compare", QT_TR_NOOP("Compare"));
-    connect(m_board, &BoardPage::stepChanged, comparison,
-            [this, comparison] { comparison->setStep(m_board->currentView()->step()); });
-    connect(m_board, &BoardPage::refreshed, comparison, &ComparePage::setOutOfDate);
-    connect(m_board, &BoardPage::compareWanted, comparison, [this, comparison](QString const & layer) {
-        showPage("compare");
-        comparison->compareWith(QString::fromStdString(m_board->currentView()->layer()), layer);
     });
 }
 

@@ -59,7 +59,6 @@ private:
     void makeToolBar();
     void addPages();
     void addResults();
-    void addComparison();
     void addPage(QWidget * page, QString const & name, char const * title);
     void makeMenus();
     void makeFileMenu();
