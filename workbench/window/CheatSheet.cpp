@@ -100,7 +100,7 @@ void CheatSheet::loadAgain()
 
 void CheatSheet::chooseExport()
 {
-    askForFile(*this, tr("Export the hot keys"), Ext::hotkeyFile, "*.json",
+    askForFile(*this, tr("Export the hot keys"), Ext::userFile(Ext::hotkeyFile), "*.json",
                [this](QString const & path) { exportTo(path); });
 }
 
@@ -122,7 +122,7 @@ void CheatSheet::showBindings()
 
 void CheatSheet::showFile()
 {
-    QFileInfo const file{QString(Ext::hotkeyFile)};
+    QFileInfo const file(Ext::userFile(Ext::hotkeyFile));
     QString const path = QDir::toNativeSeparators(QDir::cleanPath(file.absoluteFilePath()));
     Ext::HotkeyFileCheck const check = Ext::checkHotkeyFile(Ext::hotkeyFile);
     m_findings->setRowCount(0);
