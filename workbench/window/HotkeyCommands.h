@@ -3,14 +3,15 @@
 #include <UIAPICommon.h>
 
 #include <QObject>
-#include <QPointF>
+
+#include <memory>
 
 class QKeyEvent;
 
 namespace Workbench {
 
 class BoardPage;
-class BoardView;
+class Measuring;
 
 /// Runs the commands of the board's page by their hot keys while the page is in front. Text widgets keep
 /// their keys; all others give up keys that are hot keys or begin a sequence.
@@ -22,6 +23,7 @@ public:
     /// The page must be in its window already; it is not owned and outlives the object. Its view gets the
     /// focus.
     HotkeyCommands(BoardPage & board, QObject * parent);
+    ~HotkeyCommands() override;
 
     /// Runs the command of a code on the view in front, as its key would.
     void perform(KVCAM::FuncCode code);
@@ -66,8 +68,7 @@ private:
     QString snap(int mode);
 
     BoardPage & m_board;
-    BoardView const * m_measured = nullptr; ///< the view of the first point
-    QPointF m_measuredFrom;
+    std::unique_ptr<Measuring> m_measuring;
 };
 
 } // namespace Workbench
