@@ -148,6 +148,7 @@ void ResultsPage::setTexts()
     m_notCheckedBox->setTitle(tr("Not checked"));
     m_notChecked->setHorizontalHeaderLabels({tr("Check or layer"), tr("Reason")});
     m_model->refreshTexts();
+    showWritten();
     refresh();
 }
 
@@ -186,6 +187,12 @@ void ResultsPage::refresh()
     m_chart->setWidths(m_run->trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
     showNotChecked();
     showLevels();
+}
+
+void ResultsPage::showWritten()
+{
+    m_written->setText(tr("Written: %1").arg(fileLinks(m_writtenPath)));
+    m_written->setVisible(!m_writtenPath.isEmpty());
 }
 
 void ResultsPage::showBanner()
@@ -265,8 +272,8 @@ void ResultsPage::exportFile(QString const & title, QString const & name, QStrin
     }
     askForFile(*this, title, name, filter, [this, title, write](QString const & path) {
         Ext::Result const result = write(path);
-        m_written->setVisible(result.ok);
-        m_written->setText(tr("Written: %1").arg(fileLinks(path)));
+        m_writtenPath = result.ok ? path : QString();
+        showWritten();
         if (!result.ok) {
             Ext::showMessage({Ext::MessageKind::Information, this, title, result.reason});
         }

@@ -77,6 +77,7 @@ private:
     void refresh();
     void showLevels();
     void showBanner();
+    void showWritten();
     void showNotChecked();
     void showSelected();
     QString selectedText() const;
@@ -94,7 +95,8 @@ private:
     QFrame * m_banner = nullptr; ///< that the results are out of date
     QLabel * m_outdated = nullptr;
     QPushButton * m_again = nullptr;
-    QLabel * m_written = nullptr; ///< the latest export
+    QLabel * m_written = nullptr;
+    QString m_writtenPath; ///< of the latest export; empty if it failed
     QLabel * m_note = nullptr;
     QPushButton * m_runButton = nullptr;
     QPushButton * m_previous = nullptr;

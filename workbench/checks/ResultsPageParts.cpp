@@ -104,6 +104,7 @@ QWidget * ResultsPage::makeResults()
     m_severities = new SeverityBar;
     connect(m_severities, &SeverityBar::shown, this, [this](int severity, bool on) {
         m_tree->filter().setShown(static_cast<Ext::Severity>(severity), on);
+        m_tree->scrollTo(m_tree->currentIndex());
     });
     m_empty = makeLabel("empty");
     m_empty->setAlignment(Qt::AlignCenter);
@@ -167,7 +168,6 @@ QWidget * ResultsPage::makeFoot()
     m_written = makeLabel("written");
     m_written->setTextInteractionFlags(Qt::TextBrowserInteraction);
     m_written->setOpenExternalLinks(true);
-    m_written->hide();
     return m_written;
 }
 

@@ -8,6 +8,12 @@ namespace Workbench {
 
 using namespace KVCAM::UIAPI;
 
+namespace {
+
+constexpr int columnGap = 8; // pixels; a column on the right may be aligned to the left
+
+} // namespace
+
 ResultsTree::ResultsTree(ResultsModel & model, QWidget * parent)
     : QTreeView(parent), m_model(model), m_filter(model)
 {
@@ -19,6 +25,7 @@ ResultsTree::ResultsTree(ResultsModel & model, QWidget * parent)
     header()->setSortIndicator(-1, Qt::AscendingOrder); // the report's own order
     setSortingEnabled(true);
     offerCopy(*this);
+    connect(&m_filter, &QAbstractItemModel::layoutChanged, this, [this] { scrollTo(currentIndex()); });
 }
 
 void ResultsTree::showCategory(std::string const & table, int number)
@@ -69,6 +76,7 @@ void ResultsTree::fitColumns()
 {
     for (int column = 0; column + 1 < ResultsModel::ColumnCount; ++column) {
         resizeColumnToContents(column);
+        setColumnWidth(column, columnWidth(column) + columnGap);
     }
 }
 
