@@ -1089,8 +1089,8 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>下一个违规(&amp;V)</translation>
     </message>
     <message>
-        <source>Previou&amp;s violation</source>
-        <translation>上一个违规(&amp;S)</translation>
+        <source>Previous violation</source>
+        <translation>上一个违规</translation>
     </message>
 </context>
 <context>

@@ -85,7 +85,7 @@ constexpr char const * patterns[] = {
 std::vector<QRegularExpression> const & expressions()
 {
     static auto const * const all = [] {
-        auto * made = new std::vector<QRegularExpression>; // kept: statics of Qt may end before others
+        auto * made = new std::vector<QRegularExpression>; // kept: callers may outlive static objects
         for (char const * pattern : patterns) {
             static QRegularExpression const place(R"(\\%\d)");
             QString text = QRegularExpression::escape(QString::fromLatin1(pattern));

@@ -221,7 +221,7 @@ void MainWindow::makeViewMenu()
     addZoom(QT_TR_NOOP("Zoom &in"), "F8", &BoardView::zoomIn);
     view->addSeparator();
     addEntry(*view, QT_TR_NOOP("Next &violation"), "F12", [this] { m_results->showViolation(1); });
-    addEntry(*view, QT_TR_NOOP("Previou&s violation"), "Shift+F12", [this] { m_results->showViolation(-1); });
+    addEntry(*view, QT_TR_NOOP("Previous violation"), "Shift+F12", [this] { m_results->showViolation(-1); });
     addEntry(*view, QT_TR_NOOP("&Tick all layers"), "", [this] { m_board->tickAllLayers(true); });
     addEntry(*view, QT_TR_NOOP("U&ntick all layers"), "", [this] { m_board->tickAllLayers(false); });
     view->addSeparator();
