@@ -86,7 +86,10 @@ TEST(SnapPoints, AreTheNearestOfTheirKindWithinReach)
         {SNAP_INTERSECT, {260, 50}, {200, 0}},
         {SNAP_INTERSECT, {610, 40}, {610, 40}},
         {SNAP_ARC, {6000 + half + 30, -half - 30}, {6000 + half, -half}}, // on the circle itself
-        {SNAP_ARC, {10990, 50}, {11000, 0}},                              // the arc ends here
+        {SNAP_ARC,
+         {6000 + 5030 * std::cos(0.3), -5030 * std::sin(0.3)}, // and not on the curve drawn for it
+         {6000 + 5000 * std::cos(0.3), -5000 * std::sin(0.3)}},
+        {SNAP_ARC, {10990, 50}, {11000, 0}}, // the arc ends here
         {SNAP_ARC, {610, 40}, {610, 40}},
         {SNAP_PROFILE, {-1950, 300}, {-2000, 300}},
         {SNAP_PROFILE, {610, 40}, {610, 40}},
