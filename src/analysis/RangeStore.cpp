@@ -4,6 +4,7 @@
 #include "support/Guard.h"
 #include "support/HostPaths.h"
 #include "support/Log.h"
+#include "support/UserDirectory.h"
 #include "support/WholeFile.h"
 
 #include <QDir>
@@ -183,7 +184,7 @@ void listErfFiles(std::string const & folder, std::vector<std::string> & names)
     if (path.split(QRegularExpression(QStringLiteral("[/\\\\]"))).contains(QStringLiteral(".."))) {
         return;
     }
-    QDir const directory(QStringLiteral("./ERFconfig/") + path);
+    QDir const directory(Ext::userFile(QStringLiteral("./ERFconfig/") + path));
     QStringList const files = directory.entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
     for (QString const & file : files) {
         names.push_back(QFileInfo(file).baseName().toStdString());

@@ -3,6 +3,7 @@
 #include "config/ConfigFiles.h"
 #include "support/Boxes.h"
 #include "support/HostPaths.h"
+#include "support/UserDirectory.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,7 +31,8 @@ constexpr int firstUserIndex = 2;
 
 QString userFolder()
 {
-    return QDir::currentPath() + QStringLiteral("/autoMatrix");
+    QString const folder = Ext::userFile(QStringLiteral("autoMatrix"));
+    return QDir::isAbsolutePath(folder) ? folder : QDir::currentPath() + QLatin1Char('/') + folder;
 }
 
 QString userFile(QString const & name)

@@ -6,6 +6,8 @@
 //   setKeepSettingsBackup()     keeps "server.json.bak" before a save of "server.json" would lose something
 //   lastSettingsSave()          whether the last save of "server.json" reached the file
 //   setReadSavedSettingKeys()   also reads the four keys that are written but not read
+//   setUserDirectory()          the directory of the files that are named relative to the current one
+//   userFile()                  where such a file is
 //   autoMatrixRoles             the twelve roles of a template with their members, for loops
 //   autoMatrixFile()            which of the user's files holds a template
 //
@@ -17,6 +19,7 @@
 #include "../config/AutoMatrixTmp.h"
 #include "../config/Diagnostics.h"
 #include "../config/SettingsFile.h"
+#include "../support/UserDirectory.h"
 #include "UIAPICommonExport.h"
 
 #include <optional>

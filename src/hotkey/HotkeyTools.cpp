@@ -2,6 +2,7 @@
 
 #include "hotkey/HotkeyFile.h"
 #include "hotkey/KVHotKeyPrivate.h"
+#include "support/UserDirectory.h"
 #include "support/WholeFile.h"
 
 #include <QKeySequence>
@@ -162,7 +163,7 @@ HotkeyFileCheck checkHotkeyFile(QString const & path)
 {
     Judge judge;
     HotkeyFileCheck check;
-    HotkeyDocument const file = readHotkeyFile(path);
+    HotkeyDocument const file = readHotkeyFile(userFile(path));
     check.loads = file.result.ok;
     if (!check.loads) {
         judge.find(HotkeyFindingKind::Unreadable, -1, file.result.reason);
@@ -228,7 +229,7 @@ HotkeyExport saveHotkeys(QString const & path, std::vector<HotkeyBinding> const 
             array.append(element);
         }
     }
-    result.result = WholeFile::replace(path, QJsonDocument(array).toJson());
+    result.result = WholeFile::replace(userFile(path), QJsonDocument(array).toJson());
     return result;
 }
 

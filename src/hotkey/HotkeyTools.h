@@ -65,8 +65,8 @@ struct HotkeyFileCheck
     std::vector<HotkeyBinding> bindings; ///< that would result, in file order
 };
 
-/// Reads a hot-key file as KVHotKey would, without loading it. Reports why elements bind nothing, and what
-/// hotkeyReport() would report for the rest.
+/// Reads a hot-key file as KVHotKey would, without loading it; a relative path is that of userFile(). Reports
+/// why elements bind nothing, and what hotkeyReport() would report for the rest.
 [[nodiscard]] UIAPICOMMON_EXPORT HotkeyFileCheck checkHotkeyFile(QString const & path);
 
 /// The result of the latest KVHotKey::uploadHotkeyModel(), including the one at creation: whether the file's
@@ -80,8 +80,8 @@ struct HotkeyExport
     std::vector<HotkeyBinding> leftOut; ///< what the file cannot express: the code without a name
 };
 
-/// Writes the bindings held by KVHotKey as a file that it can load. An old file is replaced as a whole or
-/// left unchanged; the folder must exist.
+/// Writes the bindings held by KVHotKey as a file that it can load; a relative path is that of userFile(). An
+/// old file is replaced as a whole or left unchanged; the folder must exist.
 [[nodiscard]] UIAPICOMMON_EXPORT HotkeyExport exportHotkeys(QString const & path);
 
 /// What saving these bindings and loading the file would find, as checkHotkeyFile() does; `element` counts in

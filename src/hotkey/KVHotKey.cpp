@@ -6,6 +6,7 @@
 #include "support/Guard.h"
 #include "support/Log.h"
 #include "support/Singleton.h"
+#include "support/UserDirectory.h"
 
 #include <QKeyEvent>
 
@@ -89,7 +90,7 @@ void KVHotKey::initHotkeyTable()
 void KVHotKey::uploadHotkeyModel()
 {
     guardedKeys([&] {
-        HotkeyDocument const file = readHotkeyFile(QLatin1String(Ext::hotkeyFile));
+        HotkeyDocument const file = readHotkeyFile(Ext::userFile(QLatin1String(Ext::hotkeyFile)));
         if (file.result) {
             updateHotkeyTable(file.elements);
         }

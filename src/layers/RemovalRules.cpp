@@ -3,6 +3,7 @@
 #include "layers/FilePaths.h"
 #include "layers/RemovalRoots.h"
 #include "support/NativePath.h"
+#include "support/UserDirectory.h"
 #include "support/UserHome.h"
 
 #include <QDir>
@@ -78,7 +79,9 @@ RemovalRules::Facts RemovalRules::factsOf(std::vector<fs::path> const & kept,
 RemovalRules::Facts RemovalRules::currentFacts()
 {
     std::error_code error;
-    return factsOf({fs::current_path(error), fromText(QDir::homePath()), homeOfUser()}, removalRoots());
+    return factsOf({fs::current_path(error), fromText(Ext::userFile(QStringLiteral("."))),
+                    fromText(QDir::homePath()), homeOfUser()},
+                   removalRoots());
 }
 
 void Ext::setRemovalRoots(QStringList const & directories)

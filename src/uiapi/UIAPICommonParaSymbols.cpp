@@ -1,5 +1,6 @@
 // Symbol names by view: unit and engine are queried here, the rules are in units/.
 
+#include "support/UserDirectory.h"
 #include "uiapi/UIAPICommonPara.h"
 #include "uiapi/UIAPICommonParaPrivate.h"
 #include "units/SymbolName.h"
@@ -46,7 +47,7 @@ void UIAPICommonPara::getKvlibSpecialSymbol(std::vector<std::string> & names) co
     guardedPara([&] {
         static constexpr char const * library = "KVLIB";
         if (!KVCAM::API::is_job_opened(library)) {
-            KVCAM::API::open_job("./job", library);
+            KVCAM::API::open_job(Ext::userFile(QStringLiteral("./job")).toStdString(), library);
         }
         KVCAM::API::get_special_symbol_names(library, names);
     });

@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QLabel>
 #include <QTest>
 
@@ -36,6 +37,7 @@ protected:
     }
     void TearDown() override
     {
+        EXPECT_EQ(QDir::currentPath(), start) << "the user's current directory";
         EXPECT_EQ(boxes, QStringList()) << boxes.join('\n').toStdString();
         KVCAM::UIAPI::Ext::setMessagePresenter({});
     }
@@ -70,6 +72,9 @@ protected:
         return KVCAM::UIAPI::Ext::MessageAnswer::Yes;
     };
     std::unique_ptr<MainWindow> window;
+
+private:
+    QString const start = QDir::currentPath();
 };
 
 } // namespace Workbench

@@ -13,6 +13,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLineF>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -143,10 +144,33 @@ TEST_F(Keyboard, MeasuringTakesTwoPressesAndTheUnitOfTheView)
     open();
     coordinate & pointer = *getCoordinate(view());
     pointer = {25400, 0};
-    EXPECT_EQ(press("Shift+V"), "Measure: from x 1.000 y 0.000 inch; press again at the other end");
+    BoardView & shown = *board().currentView();
+    setSnapType(view(), SNAP_OFF);
+    EXPECT_EQ(press("Shift+V"),
+              "Measure: from x 1.000 y 0.000 inch; press again at the other end, Escape ends");
     pointer = {25400 + 3 * 25400, -4 * 25400};
-    EXPECT_EQ(press("Shift+V"), "Measure: 5.000 inch (3.000 x 4.000 inch)");
+    emit board().pointerMoved();
+    EXPECT_EQ(shown.measure(), QLineF(25400, 0, 4 * 25400, -4 * 25400)) << "follows the pointer";
+    QString const length = QString::fromUtf8("Measure: 5.000000 inch (5000.000 mil) = 127.0000 mm "
+                                             "(127000.0 µm), x 3.000000 y 4.000000 inch");
+    EXPECT_EQ(status(), length);
+    EXPECT_EQ(press("Shift+V"), length);
+    pointer = {0, 0};
+    emit board().pointerMoved();
+    EXPECT_EQ(shown.measure(), QLineF(25400, 0, 4 * 25400, -4 * 25400)) << "has ended there";
     EXPECT_TRUE(press("Shift+V").startsWith("Measure: from"));
+    EXPECT_EQ(press("Esc"), "");
+    EXPECT_FALSE(shown.measure());
+    emit board().pointerMoved();
+    EXPECT_FALSE(shown.measure());
+
+    setUnit(view(), 1);
+    setSnapType(view(), SNAP_GRID); // of 5 micrometres
+    pointer = {1002.4, 998};
+    press("Shift+V");
+    pointer = {1012.6, 1000};
+    EXPECT_EQ(press("Shift+V"), QString::fromUtf8("Measure: 0.0150 mm (15.0 µm) = 0.000591 inch (0.591 mil), "
+                                                  "x 0.0150 y 0.0000 mm"));
 }
 
 TEST_F(Keyboard, WhatIsTypedIntoATextOrAListIsNoHotKey)

@@ -1,10 +1,17 @@
 #include "TestFiles.h"
 #include "board/BoardView.h"
+#include "checks/Freshness.h"
 #include "checks/ResultFiles.h"
 #include "checks/ResultsModel.h"
 #include "checks/ResultsPage.h"
+#include "checks/ResultsTree.h"
 #include "checks/TrackWidthChart.h"
+#include "ui/CategoryNames.h"
+#include "ui/EnglishTexts.h"
+#include "ui/FileDialogs.h"
+#include "ui/LanguageChange.h"
 #include "ui/LogPane.h"
+#include "ui/TableTools.h"
 #include "window/BoardPage.h"
 #include "window/MainWindow.h"
 
@@ -13,14 +20,20 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QAction>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFrame>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <QTest>
-#include <QTreeView>
+#include <QToolButton>
 
 #include <memory>
 
@@ -77,10 +90,8 @@ protected:
     }
 
     ResultsPage & page() const { return window->results(); }
-    ResultsModel * model() const
-    {
-        return static_cast<ResultsModel *>(page().findChild<QTreeView *>()->model());
-    }
+    ResultsModel * model() const { return static_cast<ResultsModel *>(tree().filter().sourceModel()); }
+    ResultsTree & tree() const { return *page().findChild<ResultsTree *>(); }
     QString text(char const * label) const { return page().findChild<QLabel *>(label)->text(); }
     QPushButton & button(char const * name) const { return *page().findChild<QPushButton *>(name); }
     KVLengthEdit & field(char const * level) const { return *page().findChild<KVLengthEdit *>(level); }
@@ -169,12 +180,12 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     EXPECT_TRUE(text("levels hint").startsWith("Not saved")) << text("levels hint").toStdString();
 
     setUnit(window->board().currentView()->handle(), 1);
-    EXPECT_EQ(header(ResultsModel::Measured), "Measured (my)");
+    EXPECT_EQ(header(ResultsModel::Measured), "Measured (µm)");
     EXPECT_EQ(tracks(), (QStringList{"Lines|✖ R|100|101.6 / 127 / 203.2|", "top|✖ R|100||",
                                      "1|✖ R|100|101.6|5.000, 0.000", "2|▲ Y|127|127|5.000, 1.000",
                                      "3|● G|200|203.2|5.000, 2.000"}));
     EXPECT_EQ(field("GreenLv").text(), "203.2");
-    EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(0), "top: 100 my (red)");
+    EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(0), "top: 100 µm (red)");
     EXPECT_EQ(page().findChild<TrackWidthChart *>()->barText(1), "bot: no tracks");
 
     // A level typed in micrometres becomes the round number of mil that it means.
@@ -204,6 +215,265 @@ TEST_F(Results, AMeasurementIsMarkedOnTheBoard)
     EXPECT_FALSE(page().showCheck(signalTable, 0)); // is not measured
 }
 
+// What a row says without its position, of the rows that the tree would show expanded.
+QStringList shownRows(ResultsTree & tree, QModelIndex const & parent = {})
+{
+    QStringList rows;
+    for (int i = 0; i < tree.model()->rowCount(parent); ++i) {
+        QModelIndex const index = tree.model()->index(i, 0, parent);
+        rows.append(index.data().toString());
+        rows += shownRows(tree, index);
+    }
+    return rows;
+}
+
+TEST_F(Results, AreOutOfDateAfterAnyOperationOnTheirStep)
+{
+    struct
+    {
+        char const * seen; // steps, each with its number of operations
+        bool isChanged;
+    } const rows[] = {
+        {"", false},         {"a1", false},      {"b5 b6", false},
+        {"a2", true},        {"a0", true},       {"a2 a1", true}, // one taken back
+        {"b1 a1 b0", false}, {"a0 a1 b1", true},
+    };
+    for (auto const & row : rows) {
+        Freshness freshness;
+        freshness.seen("a", 3);
+        freshness.measured("a", 1);
+        for (QString const & seen : QString(row.seen).split(' ', Qt::SkipEmptyParts)) {
+            freshness.seen(seen.left(1).toStdString(), seen.mid(1).toInt());
+        }
+        EXPECT_EQ(freshness.isChanged(), row.isChanged) << row.seen;
+        freshness.measured("a", 7);
+        EXPECT_FALSE(freshness.isChanged()) << row.seen;
+    }
+}
+
+TEST_F(Results, OutOfDateSayItUntilTheChecksAreRunAgain)
+{
+    writeLevels();
+    open();
+    auto const isOutdated = [&] { return !page().findChild<QFrame *>("out of date")->isHidden(); };
+    std::string asked;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
+        asked = message.text.toStdString();
+        return Ext::MessageAnswer::No;
+    });
+    ASSERT_TRUE(page().runChecks());
+    ASSERT_TRUE(page().showCheck(signalTable, linesNumber));
+    window->board().refresh(); // reads again what is the same
+    EXPECT_FALSE(isOutdated());
+    EXPECT_FALSE(window->board().currentView()->marks().at(0).isFaint);
+    window->board().currentView()->select({0});
+    window->board().deleteSelected();
+    EXPECT_TRUE(isOutdated());
+    EXPECT_TRUE(window->board().currentView()->marks().at(0).isFaint);
+    button("report").click();
+    EXPECT_NE(asked.find("changed since it was measured"), std::string::npos) << asked;
+    EXPECT_EQ(page().findChild<QFileDialog *>(), nullptr) << "not without consent";
+    ASSERT_TRUE(page().run().writeReport("report.json"));
+    EXPECT_TRUE(readFile("report.json").contains("The step has been changed since it was measured."));
+    EXPECT_EQ(tracks().size(), 5) << "the results stay";
+
+    button("again").click();
+    EXPECT_FALSE(isOutdated());
+    EXPECT_TRUE(window->board().currentView()->marks().empty());
+    EXPECT_EQ(tracks().size(), 4);
+    ASSERT_TRUE(page().run().writeReport("report.json"));
+    EXPECT_FALSE(readFile("report.json").contains("has been changed"));
+    changeRangesValue(signalTable, "Line to Line", "GreenLv", 30); // has no levels: no matter
+    window->board().refresh();
+    EXPECT_FALSE(isOutdated());
+    Ext::setMessagePresenter({});
+}
+
+TEST_F(Results, AreFilteredSortedAndWalkedThrough)
+{
+    writeLevels();
+    open();
+    ASSERT_TRUE(page().runChecks());
+    auto const lines = [&] {
+        QModelIndex const index = tree().filter().mapFromSource(model()->find(signalTable, linesNumber));
+        return index.isValid() ? shownRows(tree(), index).join(' ') : QString("hidden");
+    };
+    QStringList walked;
+    QObject::connect(&page(), &ResultsPage::status, [&](QString const & text) { walked.append(text); });
+    struct
+    {
+        char const * hidden;
+        char const * rows;
+        char const * walk; // two steps on and one back
+    } const rows[] = {
+        {"", "top 1 2 3", "Lines: 3.94 mil, Lines: 5 mil, Lines: 3.94 mil"},
+        {"Red", "top 2 3", "Lines: 5 mil, Lines: 5 mil, Lines: 5 mil"},
+        {"Yellow", "top 1 3", "Lines: 3.94 mil, Lines: 3.94 mil, Lines: 3.94 mil"},
+        {"None", "top 1 2", "Lines: 3.94 mil, Lines: 5 mil, Lines: 3.94 mil"},
+        {"None Red Yellow", "hidden", "none, none, none"},
+    };
+    for (auto const & row : rows) {
+        for (Ext::SeverityMark const & mark : Ext::severityPalette) {
+            bool const isShown = !QString(row.hidden).split(' ').contains(mark.name, Qt::CaseInsensitive);
+            page().findChild<QToolButton *>(mark.name)->setChecked(isShown);
+        }
+        EXPECT_EQ(lines(), row.rows) << row.hidden;
+        tree().setCurrentIndex({});
+        walked.clear();
+        for (int const way : {1, 1, -1}) {
+            page().showViolation(way);
+        }
+        walked.replaceInStrings("There is no violation among the results shown.", "none");
+        EXPECT_EQ(walked.join(", "), row.walk) << row.hidden;
+    }
+    ASSERT_TRUE(page().showCheck(signalTable, linesNumber)) << "shows what is hidden";
+    EXPECT_EQ(lines(), "top 1 2 3");
+    EXPECT_TRUE(page().findChild<QToolButton *>("red")->isChecked());
+
+    struct
+    {
+        int column;
+        Qt::SortOrder order;
+        char const * rows;
+    } const sorts[] = {
+        {ResultsModel::Measured, Qt::DescendingOrder, "top 3 2 1"},
+        {ResultsModel::Severity, Qt::AscendingOrder, "top 3 2 1"},
+        {ResultsModel::Limit, Qt::DescendingOrder, "top 2 1 3"}, // the third has none: last in either order
+        {ResultsModel::Limit, Qt::AscendingOrder, "top 1 2 3"},
+        {ResultsModel::Position, Qt::DescendingOrder, "top 3 2 1"},
+        {ResultsModel::Name, Qt::DescendingOrder, "top 3 2 1"},
+        {-1, Qt::AscendingOrder, "top 1 2 3"},
+    };
+    for (auto const & sort : sorts) {
+        tree().sortByColumn(sort.column, sort.order);
+        EXPECT_EQ(lines(), sort.rows) << sort.column << ' ' << sort.order;
+    }
+    tree().sortByColumn(ResultsModel::Measured, Qt::DescendingOrder);
+    tree().setCurrentIndex({});
+    walked.clear();
+    page().showViolation(1);
+    EXPECT_EQ(walked.join(' '), "Lines: 5 mil") << "in the order shown";
+    EXPECT_TRUE(tree().viewport()->rect().intersects(tree().visualRect(tree().currentIndex())));
+}
+
+TEST_F(Results, AreCopiedAsLinesOfCells)
+{
+    writeLevels();
+    open();
+    ASSERT_TRUE(page().runChecks());
+    QClipboard & clipboard = *QGuiApplication::clipboard();
+    auto const copied = [&](QModelIndexList const & rows, bool select) {
+        tree().setCurrentIndex(rows.isEmpty() ? QModelIndex() : rows.last());
+        tree().selectionModel()->clearSelection();
+        for (QModelIndex const & row : rows) {
+            tree().selectionModel()->select(
+                row, (select ? QItemSelectionModel::Select : QItemSelectionModel::Deselect) |
+                         QItemSelectionModel::Rows);
+        }
+        clipboard.setText("before");
+        tree().findChild<QAction *>("copy")->trigger();
+        return clipboard.text();
+    };
+    QModelIndex const lines = tree().filter().mapFromSource(model()->find(signalTable, linesNumber));
+    QModelIndex const top = tree().model()->index(0, 0, lines);
+    QModelIndex const first = tree().model()->index(0, 0, top);
+    QModelIndex const second = tree().model()->index(1, 0, top);
+    QString const one = QString::fromUtf8("1\t✖ R\t\t\t\t\t3.94\t4\t0.197, 0.000");
+    QString const two = QString::fromUtf8("2\t▲ Y\t\t\t\t\t5\t5\t0.197, 0.039");
+    EXPECT_EQ(copied({second, first}, true), one + '\n' + two) << "in the order shown";
+    EXPECT_EQ(copied({second}, false), two) << "without a selection, the current row";
+    EXPECT_EQ(copied({}, false), "before") << "never nothing";
+    QTableWidget table(1, 2);
+    prepareTable(table, {"a", "b"});
+    table.setItem(0, 0, new QTableWidgetItem("two\nlines\tand a tab"));
+    table.setItem(0, 1, new QTableWidgetItem("b"));
+    table.selectRow(0);
+    EXPECT_EQ(copyText(table), "two lines and a tab\tb");
+    table.setColumnHidden(0, true);
+    EXPECT_EQ(copyText(table), "b");
+}
+
+TEST_F(Results, TheSuffixOfAWrittenFileIsAddedWhenMissing)
+{
+    char const * const reports = "JSON report (*.json);;CSV report (*.csv)";
+    struct
+    {
+        char const * path;
+        char const * filters;
+        char const * chosen;
+        char const * expected;
+    } const rows[] = {
+        {"r", reports, "CSV report (*.csv)", "r.csv"},
+        {"r", reports, "JSON report (*.json)", "r.json"},
+        {"r.csv", reports, "JSON report (*.json)", "r.csv"},
+        {"r.JSON", reports, "CSV report (*.csv)", "r.JSON"},
+        {"board.v2", reports, "CSV report (*.csv)", "board.v2.csv"},
+        {"r.", reports, "CSV report (*.csv)", "r.csv"},
+        {"a.csv/r", reports, "CSV report (*.csv)", "a.csv/r.csv"},
+        {"r", "All files (*)", "All files (*)", "r"},
+        {"keys", "*.json", "*.json", "keys.json"},
+    };
+    for (auto const & row : rows) {
+        EXPECT_EQ(withSuffix(row.path, row.filters, row.chosen), row.expected) << row.path;
+    }
+    EXPECT_TRUE(fileLinks("/a b/<c>#.csv").startsWith("<a href=\"file:///a%20b/%3Cc%3E%23.csv\">"))
+        << fileLinks("/a b/<c>#.csv").toStdString();
+}
+
+TEST_F(Results, AreInTheLanguageOfTheScreen)
+{
+    ASSERT_TRUE(showChinese(true));
+    static QRegularExpression const han("[\\x{4e00}-\\x{9fff}]");
+    int names = 0;
+    for (std::string const & table : Ext::categoryTables()) {
+        for (int number = 0; number < 100; ++number) {
+            std::string const name = getRangesName(table, number);
+            bool const isSymbolic = name.empty() || name.find(" to ") != std::string::npos;
+            EXPECT_TRUE(isSymbolic || han.match(shownName(name)).hasMatch()) << name;
+            EXPECT_TRUE(name.empty() || shownName(name).toStdString() != name) << name;
+            names += name.empty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(names, 400);
+    EXPECT_EQ(shownName("My own check"), "My own check");
+    struct
+    {
+        char const * english;
+        char const * chinese;
+    } const rows[] = {
+        {"The layer is negative: it draws what is taken away.", "该层为负片：所画的是被去除的部分。"},
+        {"Features drawn with \"Pads\" (3): of \"%1\" in it, its drawing is empty.",
+         "用“Pads”绘制的图形（3 个）：其中的“%1”：其图形为空。"}, // names stay
+        {"The nets come from copper and plated holes that touch: the step has no eda/data.",
+         "网络由相接的铜和镀铜孔得出：该步骤没有 eda/data。"},
+        {"The engine has no check for: Touching Holes, My own.", "引擎没有这些检查：相交孔, My own。"},
+        {"Something new.", "Something new."},
+    };
+    for (auto const & row : rows) {
+        EXPECT_EQ(inScreenLanguage(row.english).toStdString(), row.chinese);
+    }
+    std::string shown;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
+        shown = message.text.toStdString();
+        return Ext::MessageAnswer::Ok;
+    });
+    isNumValueLegal(5, 1, 2, nullptr);
+    Ext::setMessagePresenter({});
+    EXPECT_EQ(shown, "该栏的数值超出范围：5\n合法值：1 到 2");
+
+    writeLevels();
+    open();
+    ASSERT_TRUE(page().runChecks());
+    auto const & notes = *page().findChild<QTableWidget *>();
+    for (int i = 0; i < notes.rowCount(); ++i) {
+        QString const reason = notes.item(i, 1)->text();
+        EXPECT_TRUE(han.match(reason).hasMatch()) << reason.toStdString();
+    }
+    EXPECT_GT(notes.rowCount(), 0);
+    ASSERT_TRUE(showChinese(false));
+    EXPECT_EQ(inScreenLanguage(rows[0].english), rows[0].english);
+}
+
 TEST_F(Results, ListSpacingsUpToTheLargestLevel)
 {
     writeFile(
@@ -212,6 +482,9 @@ TEST_F(Results, ListSpacingsUpToTheLargestLevel)
     open();
     ASSERT_TRUE(page().runChecks());
     EXPECT_EQ(model()->rowCount(model()->find(signalTable, 4)), 1) << "tracks 35 mil apart on top";
+    EXPECT_EQ(page().run().state(), AnalysisRun::State::Current);
+    changeRangesValue(signalTable, "Line to Line", "GreenLv", 41);
+    EXPECT_EQ(page().run().state(), AnalysisRun::State::TooShort);
     changeRangesValue(signalTable, "Line to Line", "GreenLv", 30);
     ASSERT_TRUE(page().runChecks());
     EXPECT_EQ(model()->rowCount(model()->find(signalTable, 4)), 0);

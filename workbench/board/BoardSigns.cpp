@@ -1,6 +1,7 @@
 #include "board/BoardSigns.h"
 
 #include "ui/Colours.h"
+#include "ui/Units.h"
 
 #include <UIAPICommon.h>
 
@@ -34,6 +35,7 @@ void paintMarks(QPainter & painter, std::vector<Mark> const & marks, QTransform 
             continue;
         }
         QRectF const sign(place - QPointF(markRadius, markRadius), QSizeF(2 * markRadius, 2 * markRadius));
+        painter.setOpacity(mark.isFaint ? 0.4 : 1);
         painter.setPen(QPen(Qt::white, 1.5));
         painter.setBrush(mark.colour);
         painter.drawEllipse(sign);
@@ -69,8 +71,7 @@ void paintLengthScale(QPainter & painter, void const * view, double scale)
     double const decade = std::pow(10, std::floor(std::log10(room)));
     double const length = room >= 5 * decade ? 5 * decade : room >= 2 * decade ? 2 * decade : decade;
     double const pixels = length * perUnit * scale;
-    QString const text =
-        QString::number(length) + ' ' + QString::fromStdString(getUnitStringType(view, isSmall ? 1 : 0));
+    QString const text = QString::number(length) + ' ' + unitName(view, isSmall ? 1 : 0);
     double const bottom = painter.viewport().height();
     QLineF const bar(scaleMargin, bottom - 10, scaleMargin + pixels, bottom - 10);
     double const textWidth = QFontMetricsF(painter.font()).horizontalAdvance(text);

@@ -20,6 +20,7 @@ struct Mark
     QColor colour;
     QString letter;
     QString toolTip;
+    bool isFaint = false; ///< the board may have changed since
 };
 
 /// Paints marks onto a widget; the last one is on top.

@@ -1,6 +1,7 @@
 #include "board/BoardTexts.h"
 
 #include "board/LayerShapes.h"
+#include "ui/Units.h"
 
 #include <UIAPICommon.h>
 
@@ -23,8 +24,7 @@ struct Texts
 QString positionText(void const * view, double x, double y)
 {
     return QString("x %1 y %2 %3")
-        .arg(getUnitJudgeStringMetric(view, x), getUnitJudgeStringMetric(view, y),
-             QString::fromStdString(getUnitStringType(view, 0)));
+        .arg(getUnitJudgeStringMetric(view, x), getUnitJudgeStringMetric(view, y), unitName(view, 0));
 }
 
 QString finePositionText(void const * view, double x, double y)
@@ -32,15 +32,14 @@ QString finePositionText(void const * view, double x, double y)
     auto const text = [view](double value) { // the small unit is a thousandth of the large one
         return QString::number(getUnitPointData(view, value) * 1000, 'f', 2);
     };
-    return QString("(x %1 y %2 %3)")
-        .arg(text(x), text(y), QString::fromStdString(getUnitStringType(view, 1)));
+    return QString("(x %1 y %2 %3)").arg(text(x), text(y), unitName(view, 1));
 }
 
 QString sizeText(void const * view, double width, double height)
 {
     return QString("%1 x %2 %3")
         .arg(getUnitJudgeStringMetric(view, width), getUnitJudgeStringMetric(view, height),
-             QString::fromStdString(getUnitStringType(view, 0)));
+             unitName(view, 0));
 }
 
 QString emptyLayerText(LayerShapes const & layer)

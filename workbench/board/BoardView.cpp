@@ -1,6 +1,7 @@
 #include "board/BoardView.h"
 
 #include "board/BoardTexts.h"
+#include "board/MeasureLine.h"
 #include "ui/LanguageChange.h"
 
 #include <UIAPICommon.h>
@@ -237,6 +238,9 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
     }
     paintMarkedFeature(painter);
     paintMarks(painter, m_marks, boardToWidget());
+    if (m_measure && m_port.scale() > 0) {
+        paintMeasuredLine(painter, handle(), *m_measure, boardToWidget());
+    }
     if (m_port.scale() > 0) {
         paintLengthScale(painter, handle(), m_port.scale());
     }

@@ -8,10 +8,12 @@
 #include "board/ViewPort.h"
 #include "ui/Units.h"
 
+#include <QLineF>
 #include <QWidget>
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -60,6 +62,16 @@ public:
     /// Replaces the marks; the last one is on top. They stay when another layer is shown.
     void setMarks(std::vector<Mark> marks);
     std::vector<Mark> const & marks() const { return m_marks; }
+    /// Shows a measured line (micrometres), or none.
+    void setMeasure(std::optional<QLineF> line)
+    {
+        m_measure = line;
+        update();
+    }
+    std::optional<QLineF> const & measure() const { return m_measure; }
+    QPainterPath const & profile() const { return m_profile; }
+    /// What a number of pixels is on the board; 0 while nothing is shown.
+    double micrometresOf(double pixels) const { return m_port.scale() > 0 ? pixels / m_port.scale() : 0; }
     /// Centres a place (micrometres) at four times the home scale, or at the current scale if that is larger.
     /// A place that is not finite is ignored.
     void centreOn(double x, double y);
@@ -122,6 +134,7 @@ private:
     std::map<std::string, std::shared_ptr<LayerShapes const>> m_known; // the layers that are shown, by name
     std::shared_ptr<LayerShapes const> m_shown;
     std::vector<Mark> m_marks;
+    std::optional<QLineF> m_measure;
     ViewPort m_port;
     BoardPicture m_picture;
     bool m_isStale = true; // a new picture has to be started

@@ -74,6 +74,11 @@ bool isSame(Analysis_Ranges_Record const & a, Analysis_Ranges_Record const & b)
            });
 }
 
+int operationsOn(std::string const & job, std::string const & step)
+{
+    return Ext::undoCount(QString::fromStdString(job), QString::fromStdString(step));
+}
+
 } // namespace
 
 AnalysisRun::AnalysisRun(Session const & session) : m_session(session)
@@ -93,10 +98,12 @@ AnalysisRun::Outcome AnalysisRun::run(std::string const & step,
         isCancelled = progress && !progress(done, total);
         return !isCancelled;
     };
-    bool const isDone =
-        KVCAM::Embedded::runChecks(m_session.job(), step, results, report, {largestSpacingLevel()});
+    KVCAM::Embedded::CheckOptions const options{largestSpacingLevel()};
+    bool const isDone = KVCAM::Embedded::runChecks(m_session.job(), step, results, report, options);
     m_error.clear();
     if (isDone) {
+        m_freshness.measured(step, operationsOn(m_session.job(), step));
+        m_reach = std::max(options.spacingReach, KVCAM::Embedded::CheckOptions().spacingReach);
         file(step, results);
         return Outcome::Done;
     }
@@ -105,6 +112,21 @@ AnalysisRun::Outcome AnalysisRun::run(std::string const & step,
     }
     m_error = QString::fromStdString(KVCAM::Embedded::lastError()).simplified();
     return Outcome::Failed;
+}
+
+AnalysisRun::State AnalysisRun::state() const
+{
+    if (m_freshness.isChanged()) {
+        return State::Changed;
+    }
+    return m_hasResult && largestSpacingLevel() > m_reach ? State::TooShort : State::Current;
+}
+
+void AnalysisRun::noteOperations()
+{
+    if (m_hasResult) {
+        m_freshness.seen(m_report.step(), operationsOn(m_session.job(), m_report.step()));
+    }
 }
 
 void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults & results)
@@ -282,7 +304,15 @@ Ext::Result AnalysisRun::writeReport(QString const & path) const
                     "Workbench", "The name of a report must end in .json or .csv; that of \"%1\" does not.")
                     .arg(path)};
     }
-    return Ext::writeReport(m_report, *format, path);
+    if (state() == State::Current) {
+        return Ext::writeReport(m_report, *format, path);
+    }
+    Ext::AnalysisReport outdated = m_report;
+    outdated.addNotChecked({signalTable, -1, "Out of date",
+                            state() == State::Changed
+                                ? "The step has been changed since it was measured."
+                                : "Levels have been raised beyond the spacings that were listed."});
+    return Ext::writeReport(outdated, *format, path);
 }
 
 QJsonObject toJson(AnalysisRun const & run)

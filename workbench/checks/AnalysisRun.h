@@ -1,5 +1,6 @@
 #pragma once
 
+#include "checks/Freshness.h"
 #include "job/Session.h"
 
 #include <EmbeddedChecks.h>
@@ -49,6 +50,16 @@ public:
     QString const & error() const { return m_error; }
 
     bool hasResult() const { return m_hasResult; }
+    /// How the results differ from what a new run would find.
+    enum class State
+    {
+        Current,
+        Changed, ///< the step has changed since
+        TooShort ///< levels are beyond the spacings that were listed
+    };
+    State state() const;
+    /// Looks whether the measured step has changed. Call it after each operation.
+    void noteOperations();
     /// Valid until the next run; categories keep their place when levels change.
     KVCAM::UIAPI::Ext::AnalysisReport const & report() const { return m_report; }
     /// The copper layers measured, by row.
@@ -64,9 +75,11 @@ public:
     bool isUnsaved(std::string const & table) const;
     KVCAM::UIAPI::Ext::Result saveLevels(std::string const & table);
 
-    /// Writes the library's summary of the board unchanged; the file is replaced as a whole.
+    /// Writes the library's summary of the board unchanged, whatever the state; the file is replaced as a
+    /// whole.
     KVCAM::UIAPI::Ext::Result writeSummary(QString const & path) const;
-    /// Writes the report in the format given by the file's name.
+    /// Writes the report in the format given by the file's name. If it is not current, it says so among what
+    /// was not checked.
     KVCAM::UIAPI::Ext::Result writeReport(QString const & path) const;
 
 private:
@@ -82,6 +95,8 @@ private:
     std::vector<std::string> m_copper;      ///< by row
     std::map<std::string, Records> m_saved; ///< by table, as in its file
     QString m_error;
+    Freshness m_freshness;
+    double m_reach = 0; ///< mil; what was listed up to
     bool m_hasResult = false;
 };
 

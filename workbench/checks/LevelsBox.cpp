@@ -4,6 +4,7 @@
 #include "checks/AnalysisRun.h"
 #include "checks/LevelsEditor.h"
 #include "checks/MeasureTexts.h"
+#include "ui/CategoryNames.h"
 #include "ui/Colours.h"
 #include "ui/LanguageChange.h"
 
@@ -64,9 +65,8 @@ void LevelsBox::setTexts()
     m_save->setText(tr("Save &levels"));
     m_save->setEnabled(m_category != nullptr && m_run.isUnsaved(m_category->table));
     m_hint->setStyleSheet(faultStyle(m_save->isEnabled()));
-    setTitle(m_category == nullptr
-                 ? tr("Levels (%1)").arg(unit)
-                 : tr("Levels of %1 (%2)").arg(QString::fromStdString(m_category->name), unit));
+    setTitle(m_category == nullptr ? tr("Levels (%1)").arg(unit)
+                                   : tr("Levels of %1 (%2)").arg(shownName(m_category->name), unit));
     m_hint->setText(hint());
 }
 

@@ -28,7 +28,7 @@ QString measuredText(void const * view, KVCAM::UIAPI::Ext::Length measured)
 
 QString smallUnitName(void const * view)
 {
-    return QString::fromStdString(getUnitStringType(view, 1));
+    return unitName(view, 1);
 }
 
 QColor colourOf(Ext::Severity severity)

@@ -11,7 +11,7 @@ namespace Workbench {
 QString smallUnitText(void const * view, double mil, int decimals = 5);
 /// A measured value as text in a view's small unit, rounded to two decimals.
 QString measuredText(void const * view, KVCAM::UIAPI::Ext::Length measured);
-/// "mil" or "my".
+/// "mil" or "µm".
 QString smallUnitName(void const * view);
 
 QColor colourOf(KVCAM::UIAPI::Ext::Severity severity);

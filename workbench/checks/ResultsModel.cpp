@@ -22,33 +22,6 @@ std::size_t total(Ext::SeverityCounts const & counts)
     return std::accumulate(counts.begin(), counts.end(), std::size_t{0});
 }
 
-std::size_t at(Ext::SeverityCounts const & counts, Ext::Severity severity)
-{
-    return counts[static_cast<std::size_t>(severity)];
-}
-
-QString levelsText(void const * view, Analysis_Ranges_Record const & levels)
-{
-    return QString("%1 / %2 / %3")
-        .arg(smallUnitText(view, levels.redLv), smallUnitText(view, levels.yellowLv),
-             smallUnitText(view, levels.greenLv));
-}
-
-// The severity that a column counts, None for other columns.
-Ext::Severity severityOf(int column)
-{
-    switch (column) {
-    case ResultsModel::Red:
-        return Ext::Severity::Red;
-    case ResultsModel::Yellow:
-        return Ext::Severity::Yellow;
-    case ResultsModel::Green:
-        return Ext::Severity::Green;
-    default:
-        return Ext::Severity::None;
-    }
-}
-
 std::optional<Ext::Length> smaller(std::optional<Ext::Length> a, std::optional<Ext::Length> b)
 {
     return !a || (b && *b < *a) ? b : a;
@@ -60,6 +33,21 @@ bool isNumeric(int column)
 }
 
 } // namespace
+
+// The severity that a column counts, None for other columns.
+Ext::Severity ResultsModel::severityOf(int column)
+{
+    switch (column) {
+    case Red:
+        return Ext::Severity::Red;
+    case Yellow:
+        return Ext::Severity::Yellow;
+    case Green:
+        return Ext::Severity::Green;
+    default:
+        return Ext::Severity::None;
+    }
+}
 
 ResultsModel::ResultsModel(AnalysisRun const & run, QObject * parent) : QAbstractItemModel(parent), m_run(run)
 {
@@ -290,109 +278,14 @@ std::optional<Ext::Length> ResultsModel::smallestOf(std::size_t category) const
     return smallest;
 }
 
-QString ResultsModel::text(QModelIndex const & index) const
+std::optional<Ext::Length> ResultsModel::measuredAt(QModelIndex const & index) const
 {
     Row const row = at(index);
     if (row.entry != nullptr) {
-        return measurementText(index.column(), row, index.row() + 1);
+        return row.entry->measured;
     }
-    if (isGroup(index)) {
-        Group const & shown = group(index.internalId() - 1, index.row());
-        return sumText(index.column(), row, shown.counts, shown.smallest);
-    }
-    return sumText(index.column(), row, row.category->counts,
-                   smallestOf(static_cast<std::size_t>(index.row())));
-}
-
-QString ResultsModel::measurementText(int column, Row const & row, int number) const
-{
-    switch (column) {
-    case Name:
-        return QString::number(number);
-    case Severity:
-        return signOf(row.entry->severity);
-    case Measured:
-        return row.entry->measured ? measuredText(m_view, *row.entry->measured) : tr("not known");
-    case Limit: {
-        auto const limit = Ext::limitOf(*row.category, *row.entry);
-        return limit ? smallUnitText(m_view, *limit) : QString();
-    }
-    case Position:
-        return row.entry->position
-                   ? QString("%1, %2").arg(getUnitJudgeStringMetric(m_view, row.entry->position->x),
-                                           getUnitJudgeStringMetric(m_view, row.entry->position->y))
-                   : QString();
-    default:
-        return {};
-    }
-}
-
-QString ResultsModel::sumText(int column, Row const & row, Ext::SeverityCounts const & counts,
-                              std::optional<Ext::Length> smallest) const
-{
-    std::size_t const count = total(counts);
-    switch (column) {
-    case Name:
-        return QString::fromStdString(row.layer != nullptr ? *row.layer : row.category->name);
-    case Severity:
-        return count == 0 ? QString() : signOf(worstOf(counts));
-    case Count:
-        return QString::number(count);
-    case Measured:
-        return smallest ? measuredText(m_view, *smallest) : QString();
-    case Limit:
-        return row.layer == nullptr && row.category->levels ? levelsText(m_view, *row.category->levels)
-                                                            : QString();
-    case Position:
-        return count == 0 ? tr("nothing found") : QString();
-    default:
-        break;
-    }
-    Ext::Severity const counted = severityOf(column);
-    bool const isShown = counted != Ext::Severity::None && Workbench::at(counts, counted) != 0;
-    return isShown ? QString::number(Workbench::at(counts, counted)) : QString();
-}
-
-QVariant ResultsModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal) {
-        return {};
-    }
-    if (role == Qt::ForegroundRole && severityOf(section) != Ext::Severity::None) {
-        return QBrush(colourOf(severityOf(section)));
-    }
-    if (role == Qt::ToolTipRole) {
-        switch (section) {
-        case Severity:
-            return tr("For a check or layer, the worst");
-        case Measured:
-            return tr("Measured in whole micrometres; for a check or layer, the smallest");
-        case Limit:
-            return tr("The level that gave the colour; for a check, its levels red / yellow / green");
-        default:
-            return severityOf(section) == Ext::Severity::None ? QVariant()
-                                                              : QVariant(wordOf(severityOf(section)));
-        }
-    }
-    if (role != Qt::DisplayRole) {
-        return {};
-    }
-    switch (section) {
-    case Name:
-        return tr("Check, layer, measurement");
-    case Severity:
-        return tr("Colour");
-    case Count:
-        return tr("Count");
-    case Measured:
-        return tr("Measured (%1)").arg(smallUnitName(m_view));
-    case Limit:
-        return tr("Limit (%1)").arg(smallUnitName(m_view));
-    case Position:
-        return tr("Position (%1)").arg(QString::fromStdString(getUnitStringType(m_view, 0)));
-    default:
-        return signOf(severityOf(section));
-    }
+    return isGroup(index) ? group(index.internalId() - 1, index.row()).smallest
+                          : smallestOf(static_cast<std::size_t>(index.row()));
 }
 
 } // namespace Workbench

@@ -53,6 +53,10 @@ public:
     Row at(QModelIndex const & index) const;
     /// The row of a category, or an invalid index.
     QModelIndex find(std::string const & table, int number) const;
+    /// Of a row's measurements by severity.
+    KVCAM::UIAPI::Ext::SeverityCounts countsAt(QModelIndex const & index) const;
+    /// Of a category or layer: the smallest.
+    std::optional<KVCAM::UIAPI::Ext::Length> measuredAt(QModelIndex const & index) const;
 
     QModelIndex index(int row, int column, QModelIndex const & parent = {}) const override;
     QModelIndex parent(QModelIndex const & child) const override;
@@ -73,6 +77,8 @@ private:
         std::optional<KVCAM::UIAPI::Ext::Length> smallest;
     };
 
+    /// The severity that a column counts, None for other columns.
+    static KVCAM::UIAPI::Ext::Severity severityOf(int column);
     void addGroups(std::size_t category);
     void countGroups();
     bool isCategory(QModelIndex const & index) const;
@@ -80,10 +86,8 @@ private:
     Group const & group(std::size_t category, int row) const;
     QString text(QModelIndex const & index) const;
     QString measurementText(int column, Row const & row, int number) const;
-    QString sumText(int column, Row const & row, KVCAM::UIAPI::Ext::SeverityCounts const & counts,
-                    std::optional<KVCAM::UIAPI::Ext::Length> smallest) const;
+    QString sumText(QModelIndex const & index, Row const & row) const;
     std::optional<KVCAM::UIAPI::Ext::Length> smallestOf(std::size_t category) const;
-    KVCAM::UIAPI::Ext::SeverityCounts countsAt(QModelIndex const & index) const;
 
     AnalysisRun const & m_run;
     void const * m_view = nullptr;

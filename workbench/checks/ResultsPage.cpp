@@ -4,48 +4,31 @@
 #include "checks/LevelsBox.h"
 #include "checks/MeasureTexts.h"
 #include "checks/ResultsModel.h"
+#include "checks/ResultsTree.h"
+#include "checks/SeverityBar.h"
 #include "checks/TrackWidthChart.h"
+#include "ui/CategoryNames.h"
 #include "ui/Colours.h"
+#include "ui/EnglishTexts.h"
 #include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
+#include "ui/ToolTips.h"
 
+#include <QFrame>
 #include <QGroupBox>
-#include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QStringList>
-#include <QTreeView>
 #include <QVBoxLayout>
 #include <QWindow>
 
 namespace Workbench {
 
 using namespace KVCAM::UIAPI;
-
-namespace {
-
-QLabel * makeLabel(char const * name)
-{
-    auto * label = new QLabel;
-    label->setObjectName(name);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
-
-QPushButton * makeButton(char const * name)
-{
-    auto * button = new QPushButton;
-    button->setObjectName(name);
-    return button;
-}
-
-} // namespace
 
 ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * parent)
     : QWidget(parent)
@@ -54,39 +37,19 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
     , m_model(new ResultsModel(*m_run, this))
 {
     m_model->setView(view.handle());
-    m_runButton = makeButton("run");
-    m_boardButton = makeButton("board");
-    m_summaryButton = makeButton("summary");
-    m_reportButton = makeButton("report");
-    auto * buttons = new QHBoxLayout;
-    buttons->addWidget(m_runButton);
-    buttons->addWidget(m_boardButton);
-    buttons->addStretch(1);
-    buttons->addWidget(m_summaryButton);
-    buttons->addWidget(m_reportButton);
-
     auto * splitter = new QSplitter(Qt::Horizontal);
     splitter->setObjectName("results and levels");
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(makeTree());
+    splitter->addWidget(makeResults());
     splitter->addWidget(makeSides());
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({920, 480});
 
     auto * layout = new QVBoxLayout(this);
-    layout->addLayout(buttons);
+    layout->addWidget(makeButtons());
     layout->addWidget(splitter, 1);
+    layout->addWidget(makeFoot());
 
-    connect(m_runButton, &QPushButton::clicked, this, &ResultsPage::runChecks);
-    connect(m_boardButton, &QPushButton::clicked, this, &ResultsPage::boardWanted);
-    connect(m_summaryButton, &QPushButton::clicked, this, [this] {
-        exportFile(tr("Export the summary"), "summary.json", tr("Summary (*.json)"),
-                   [this](QString const & path) { return m_run->writeSummary(path); });
-    });
-    connect(m_reportButton, &QPushButton::clicked, this, [this] {
-        exportFile(tr("Export the report"), "report.json", tr("JSON report (*.json);;CSV report (*.csv)"),
-                   [this](QString const & path) { return m_run->writeReport(path); });
-    });
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this,
             [this](void const * changed, Ext::ViewAspects aspects) {
                 if (changed == m_view->handle() && aspects.testFlag(Ext::ViewAspect::Unit)) {
@@ -96,71 +59,6 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
-QWidget * ResultsPage::makeTree()
-{
-    m_tree = new QTreeView;
-    m_tree->setUniformRowHeights(true); // otherwise each of 100,000 rows would be measured
-    m_tree->setAlternatingRowColors(true);
-    m_tree->setModel(m_model);
-    m_tree->header()->setStretchLastSection(true);
-    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, &ResultsPage::showSelected);
-    connect(m_tree, &QTreeView::activated, this, [this](QModelIndex const & index) {
-        if (m_model->at(index).entry != nullptr) {
-            emit boardWanted();
-        }
-    });
-    m_empty = makeLabel("empty");
-    m_empty->setAlignment(Qt::AlignCenter);
-    m_stack = new QStackedWidget;
-    m_stack->addWidget(m_empty);
-    m_stack->addWidget(m_tree);
-    m_counts = makeLabel("counts");
-    m_counts->setTextFormat(Qt::RichText);
-    m_note = makeLabel("note");
-
-    auto * side = new QWidget;
-    auto * layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_counts);
-    layout->addWidget(m_note);
-    layout->addWidget(m_stack, 1);
-    return side;
-}
-
-QWidget * ResultsPage::makeSides()
-{
-    m_levels = new LevelsBox(*m_run, *m_view, [this] {
-        m_model->regrade();
-        refresh();
-    });
-
-    m_chart = new TrackWidthChart;
-    m_chart->setView(m_view->handle());
-    auto * scroll = new QScrollArea;
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(m_chart);
-    m_chartBox = new QGroupBox;
-    (new QVBoxLayout(m_chartBox))->addWidget(scroll);
-
-    m_notChecked = makeTable({{}, {}});
-    wrapLastColumn(*m_notChecked);
-    m_notCheckedBox = new QGroupBox;
-    (new QVBoxLayout(m_notCheckedBox))->addWidget(m_notChecked);
-
-    auto * lower = new QSplitter(Qt::Vertical);
-    lower->setObjectName("chart and unchecked");
-    lower->setChildrenCollapsible(false);
-    lower->addWidget(m_chartBox);
-    lower->addWidget(m_notCheckedBox);
-    lower->setSizes({300, 300});
-    auto * side = new QWidget;
-    auto * layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_levels);
-    layout->addWidget(lower, 1);
-    return side;
-}
-
 void ResultsPage::setView(BoardView & view)
 {
     m_view = &view;
@@ -168,29 +66,30 @@ void ResultsPage::setView(BoardView & view)
     m_model->setView(view.handle());
     m_chart->setView(view.handle());
     setTexts();
-    fitColumns();
-}
-
-void ResultsPage::fitColumns()
-{
-    for (int column = 0; column < ResultsModel::ColumnCount; ++column) {
-        m_tree->resizeColumnToContents(column);
-    }
+    m_tree->fitColumns();
 }
 
 bool ResultsPage::runChecks()
+{
+    return measure(m_view->step());
+}
+
+bool ResultsPage::measure(std::string const & step)
 {
     // No parent: it could delete the dialog while the dialog handles events in setValue().
     KVProgressDialog progress;
     progress.winId(); // creates the handle
     progress.windowHandle()->setTransientParent(window()->windowHandle());
     progress.setWindowTitle(tr("Checks"));
-    progress.setLabelText(tr("Measuring step %1 (F1 stops)").arg(QString::fromStdString(m_view->step())));
+    progress.setLabelText(tr("Measuring step %1 (F1 stops)").arg(QString::fromStdString(step)));
     progress.setCancelButtonText(tr("Stop"));
     progress.setWindowModality(Qt::ApplicationModal);
     QPointer<ResultsPage> const alive(this);
+    auto const * selected = m_tree->current().category;
+    std::string const table = selected != nullptr ? selected->table : std::string();
+    int const number = selected != nullptr ? selected->number : -1;
     std::shared_ptr<AnalysisRun> const run = m_run; // finishes even without the page
-    AnalysisRun::Outcome const outcome = run->run(m_view->step(), [&](int done, int total) {
+    AnalysisRun::Outcome const outcome = run->run(step, [&](int done, int total) {
         progress.setMaximum(total);
         progress.setValue(done);
         return alive && !progress.isDialogStop() && !progress.wasCanceled();
@@ -201,9 +100,10 @@ bool ResultsPage::runChecks()
     m_outcome = outcome;
     bool const isNew = m_outcome == AnalysisRun::Outcome::Done;
     if (isNew) {
+        emit marksOutdated(true);
         m_model->reload();
-        m_tree->setCurrentIndex(m_model->index(0, 0));
-        fitColumns();
+        m_tree->showCategory(table, number);
+        m_tree->fitColumns();
     }
     refresh();
     return isNew;
@@ -211,29 +111,34 @@ bool ResultsPage::runChecks()
 
 bool ResultsPage::showCheck(std::string const & table, int number)
 {
-    QModelIndex const category = m_model->find(table, number);
-    if (!category.isValid()) {
-        return false;
-    }
-    QModelIndex worst = category;
-    for (int layer = 0; layer < m_model->rowCount(category); ++layer) {
-        // The engine sorts the measurements of a layer, so the first is the smallest.
-        QModelIndex const first = m_model->index(0, 0, m_model->index(layer, 0, category));
-        Ext::ReportEntry const * found = m_model->at(worst).entry;
-        auto const measured = m_model->at(first).entry->measured;
-        if (found == nullptr || (measured && (!found->measured || *measured < *found->measured))) {
-            worst = first;
-        }
-    }
-    m_tree->setCurrentIndex(worst);
-    m_tree->scrollTo(worst, QAbstractItemView::PositionAtCenter);
-    return true;
+    m_severities->showAll();
+    m_tree->filter().showAll();
+    return m_tree->showWorst(table, number);
+}
+
+void ResultsPage::showViolation(int way)
+{
+    bool const isShown = m_tree->showViolation(way);
+    emit status(isShown              ? selectedText()
+                : m_run->hasResult() ? tr("There is no violation among the results shown.")
+                                     : tr("The checks have not been run yet."));
+}
+
+void ResultsPage::noteChange()
+{
+    m_run->noteOperations();
+    refresh();
 }
 
 void ResultsPage::setTexts()
 {
     m_runButton->setText(tr("Run the &checks"));
     m_runButton->setToolTip(tr("Measures the step that the board page shows and files the results"));
+    m_previous->setText(tr("Previous"));
+    m_previous->setToolTip(withKeys(tr("Shows the violation before"), QKeySequence(previousKey)));
+    m_next->setText(tr("Next"));
+    m_next->setToolTip(withKeys(tr("Shows the next violation"), QKeySequence(nextKey)));
+    m_again->setText(tr("Run aga&in"));
     m_boardButton->setText(tr("Sho&w on the board"));
     m_summaryButton->setText(tr("E&xport summary..."));
     m_reportButton->setText(tr("Ex&port report..."));
@@ -243,6 +148,7 @@ void ResultsPage::setTexts()
     m_notCheckedBox->setTitle(tr("Not checked"));
     m_notChecked->setHorizontalHeaderLabels({tr("Check or layer"), tr("Reason")});
     m_model->refreshTexts();
+    showWritten();
     refresh();
 }
 
@@ -256,7 +162,11 @@ void ResultsPage::refresh()
             ? tr("There was nothing to check in step %1.").arg(QString::fromStdString(m_run->report().step()))
             : tr("The checks have not been run yet. They measure step %1, the one on the board page.")
                   .arg(step));
-    m_counts->setText(m_run->hasResult() ? countsText() : QString());
+    m_step->setText(m_run->hasResult() ? tr("Step %1").arg(QString::fromStdString(m_run->report().step()))
+                                       : QString());
+    m_severities->setCounts(m_run->report().counts());
+    m_severities->setVisible(hasRows);
+    showBanner();
     QString note;
     if (m_outcome == AnalysisRun::Outcome::Failed) {
         note = tr("The checks of step %1 failed: %2").arg(step, m_run->error());
@@ -270,38 +180,47 @@ void ResultsPage::refresh()
     m_note->setVisible(!note.isEmpty());
     m_note->setStyleSheet(faultStyle(m_outcome == AnalysisRun::Outcome::Failed));
     m_summaryButton->setEnabled(m_run->hasResult());
-    m_reportButton->setEnabled(m_run->hasResult());
+    for (QPushButton * button : {m_reportButton, m_previous, m_next}) {
+        button->setEnabled(m_run->hasResult());
+    }
     Ext::ReportCategory const * lines = m_run->report().find(signalTable, linesNumber);
     m_chart->setWidths(m_run->trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
     showNotChecked();
     showLevels();
 }
 
-QString ResultsPage::countsText() const
+void ResultsPage::showWritten()
 {
-    Ext::SeverityCounts const counts = m_run->report().counts();
-    QStringList texts;
-    for (auto mark = Ext::severityPalette.rbegin(); mark != Ext::severityPalette.rend(); ++mark) {
-        texts.append(QString("<b style=\"color: %1\">%2</b> %3 %4")
-                         .arg(colourOf(mark->severity).name(), signOf(mark->severity), wordOf(mark->severity))
-                         .arg(counts[static_cast<std::size_t>(mark->severity)]));
+    m_written->setText(tr("Written: %1").arg(fileLinks(m_writtenPath)));
+    m_written->setVisible(!m_writtenPath.isEmpty());
+}
+
+void ResultsPage::showBanner()
+{
+    AnalysisRun::State const state = m_run->state();
+    m_banner->setVisible(state != AnalysisRun::State::Current);
+    m_outdated->setText(state == AnalysisRun::State::Changed
+                            ? tr("Out of date: step %1 has been changed since it was measured.")
+                                  .arg(QString::fromStdString(m_run->report().step()))
+                            : tr("Out of date: a level is now larger than the spacings that were listed."));
+    if (state == AnalysisRun::State::Changed) {
+        emit marksOutdated(false);
     }
-    return tr("Step %1").arg(QString::fromStdString(m_run->report().step())).toHtmlEscaped() +
-           "&nbsp;&nbsp; " + texts.join("&nbsp;&nbsp; ");
 }
 
 void ResultsPage::showNotChecked()
 {
     m_notChecked->setRowCount(0);
     for (Ext::NotChecked const & check : m_run->report().notChecked()) {
-        addRow(*m_notChecked, {QString::fromStdString(check.name), QString::fromStdString(check.reason)});
+        addRow(*m_notChecked, {shownNames(QString::fromStdString(check.name)),
+                               inScreenLanguage(QString::fromStdString(check.reason))});
     }
     m_notChecked->resizeRowsToContents();
 }
 
 void ResultsPage::showLevels()
 {
-    ResultsModel::Row const row = m_model->at(m_tree->currentIndex());
+    ResultsModel::Row const row = m_tree->current();
     m_boardButton->setEnabled(row.entry != nullptr);
     m_levels->showCategory(row.category);
 }
@@ -309,27 +228,52 @@ void ResultsPage::showLevels()
 void ResultsPage::showSelected()
 {
     showLevels();
-    ResultsModel::Row const row = m_model->at(m_tree->currentIndex());
+    ResultsModel::Row const row = m_tree->current();
     if (row.entry == nullptr || !row.entry->position) {
         return;
     }
-    QString const unit = smallUnitName(m_view->handle());
-    QString text = QString::fromStdString(row.category->name);
-    if (row.entry->measured) {
-        text += ": " + measuredText(m_view->handle(), *row.entry->measured) + ' ' + unit;
-    }
     Ext::SeverityMark const & mark = Ext::markOf(row.entry->severity);
-    emit measurementSelected(QString::fromStdString(m_run->report().step()),
-                             QString::fromStdString(*row.layer),
-                             {row.entry->position->x, row.entry->position->y, colourOf(mark.severity),
-                              QString(QLatin1Char(mark.letter)), text});
+    emit measurementSelected(
+        QString::fromStdString(m_run->report().step()), QString::fromStdString(*row.layer),
+        {row.entry->position->x, row.entry->position->y, colourOf(mark.severity),
+         QString(QLatin1Char(mark.letter)), selectedText(), m_run->state() == AnalysisRun::State::Changed});
+}
+
+QString ResultsPage::selectedText() const
+{
+    ResultsModel::Row const row = m_tree->current();
+    if (row.category == nullptr) {
+        return {};
+    }
+    QString text = shownName(row.category->name);
+    if (row.entry != nullptr && row.entry->measured) {
+        text += ": " + measuredText(m_view->handle(), *row.entry->measured) + ' ' +
+                smallUnitName(m_view->handle());
+    }
+    return text;
+}
+
+// Results that are out of date are exported only if the user insists.
+bool ResultsPage::mayExport(QString const & title)
+{
+    QPointer<ResultsPage> const alive(this);
+    return m_run->state() == AnalysisRun::State::Current ||
+           (Ext::showMessage({Ext::MessageKind::Question, this, title,
+                              m_outdated->text() + '\n' + tr("Export these results all the same?")}) ==
+                Ext::MessageAnswer::Yes &&
+            alive);
 }
 
 void ResultsPage::exportFile(QString const & title, QString const & name, QString const & filter,
                              std::function<Ext::Result(QString const &)> const & write)
 {
+    if (!mayExport(title)) {
+        return;
+    }
     askForFile(*this, title, name, filter, [this, title, write](QString const & path) {
         Ext::Result const result = write(path);
+        m_writtenPath = result.ok ? path : QString();
+        showWritten();
         if (!result.ok) {
             Ext::showMessage({Ext::MessageKind::Information, this, title, result.reason});
         }

@@ -114,7 +114,7 @@ QRectF TrackWidthChart::plot() const
     int names = 0;
     int values = 0;
     for (LayerWidth const & width : m_widths) {
-        names = std::max(names, fontMetrics().horizontalAdvance(QString::fromStdString(width.layer)));
+        names = std::max(names, fontMetrics().horizontalAdvance(QString::fromStdString(width.layer)) + 2);
         values = std::max(values, fontMetrics().horizontalAdvance(valueText(width)));
     }
     double const left = std::min<double>(names, this->width() * 0.35) + 2 * gap;

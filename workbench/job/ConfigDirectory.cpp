@@ -2,6 +2,7 @@
 
 #include <EmbeddedEngine.h>
 #include <KVCAM_API.h>
+#include <UIAPICommonExt.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -52,9 +53,7 @@ QString enterConfiguration(QString const & directory, QString const & output)
         return QString("the configuration directory \"%1\" is not there").arg(chosen);
     }
     KVCAM::Embedded::setConfigDirectory(chosen.toStdString());
-    if (!QDir::setCurrent(folder.path())) {
-        return QString("cannot enter \"%1\"").arg(folder.path());
-    }
+    KVCAM::UIAPI::Ext::setUserDirectory(folder.absolutePath());
     return {};
 }
 

@@ -9,11 +9,11 @@ namespace Workbench {
 /// packaged, or else that of the sources the program was built from. Needs the application object.
 QString samplesDirectory();
 
-/// Makes the process use a configuration directory. Its parent becomes the current directory, where user
-/// templates are kept. Hot keys are read from the folder "config" there, so the directory should have this
-/// name. With an empty path a copy of the samples below `output` is used; it is made once and kept, so that
-/// changes survive and the samples stay unchanged. Returns one line that says what is wrong, empty on
-/// success. Call it before any function of the library.
+/// Makes the process use a configuration directory. Its parent becomes the library's directory of the user,
+/// where templates are kept; the current directory stays. Hot keys are read from the folder "config" there,
+/// so the directory should have this name. With an empty path a copy of the samples below `output` is used;
+/// it is made once and kept, so that changes survive and the samples stay unchanged. Returns one line that
+/// says what is wrong, empty on success. Call it before any function of the library.
 QString enterConfiguration(QString const & directory, QString const & output);
 
 /// The configuration directory as the host reports it to the library, without a trailing "/".

@@ -42,7 +42,7 @@ SymbolRow symbolRow(KVCAM::Embedded::SymbolUse const & use)
 
 char const * sizeUnitOf(SymbolRow const & row)
 {
-    return row.unit == Unit::Inch ? "mil" : "my";
+    return row.unit == Unit::Inch ? "mil" : "µm";
 }
 
 } // namespace
@@ -61,7 +61,7 @@ QJsonArray toJson(std::vector<SymbolRow> const & rows)
     QJsonArray symbols;
     for (SymbolRow const & row : rows) {
         symbols.append(QJsonObject{{"name", row.stored},
-                                   {"unit", sizeUnitOf(row)},
+                                   {"unit", row.unit == Unit::Inch ? "mil" : "my"},
                                    {"mil", row.inch},
                                    {"my", row.metric},
                                    {"description", row.description},
@@ -104,7 +104,7 @@ void SymbolsPage::setView(void const * view)
 void SymbolsPage::setTexts()
 {
     m_names->setHorizontalHeaderLabels({tr("As stored"), tr("Stored in"), tr("In mil"),
-                                        tr("In micrometres (my)"), tr("Features"), tr("Description")});
+                                        tr("In micrometres (µm)"), tr("Features"), tr("Description")});
     m_results->setHorizontalHeaderLabels({tr("Function"), tr("Result")});
     auto const rows = symbolRows(m_job);
     for (int i = 0; i < m_names->rowCount() && i < static_cast<int>(rows.size()); ++i) {

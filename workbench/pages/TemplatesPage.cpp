@@ -41,7 +41,7 @@ QString shownFile(QString const & file)
 
 QString userTemplatePath(QString const & file)
 {
-    return QDir::currentPath() + '/' + shownFile(file);
+    return QDir().absoluteFilePath(Ext::userFile(shownFile(file)));
 }
 
 // Whether the file holds the library's template of this index. The library does not report a failed save.

@@ -51,6 +51,18 @@
         <source>Archives (*.tgz *.tar.gz *.tar *.zip);;All files (*)</source>
         <translation>压缩包 (*.tgz *.tar.gz *.tar *.zip);;所有文件 (*)</translation>
     </message>
+    <message>
+        <source>The file &quot;%1&quot; already exists. Replace it?</source>
+        <translation>文件“%1”已存在。是否替换？</translation>
+    </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>打开所在文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AttributesPage</name>
@@ -535,6 +547,10 @@ Close the program that has port %1, then start this one again.</source>
         <source>The selected message, indented</source>
         <translation>选中的消息（已缩进）</translation>
     </message>
+    <message>
+        <source>EDA link: port %1 is taken</source>
+        <translation>EDA 链接：端口 %1 被占用</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::EnginePane</name>
@@ -932,8 +948,8 @@ Close the program that has port %1, then start this one again.</source>
         <translation>本程序中不可用</translation>
     </message>
     <message>
-        <source>from %1; press again at the other end</source>
-        <translation>从 %1；在另一端再按一次</translation>
+        <source>from %1; press again at the other end, Escape ends</source>
+        <translation>起点 %1；在终点再按一次，按 Esc 结束</translation>
     </message>
 </context>
 <context>
@@ -1318,6 +1334,14 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <source>Compare</source>
         <translation>比较</translation>
     </message>
+    <message>
+        <source>Next &amp;violation</source>
+        <translation>下一个违规(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Previous violation</source>
+        <translation>上一个违规</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ReferenceEditor</name>
@@ -1611,8 +1635,8 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>以 mil 表示</translation>
     </message>
     <message>
-        <source>In micrometres (my)</source>
-        <translation>以微米 (my) 表示</translation>
+        <source>In micrometres (µm)</source>
+        <translation>以微米 (µm) 表示</translation>
     </message>
     <message>
         <source>Features</source>
@@ -1926,6 +1950,50 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <source>Levels</source>
         <translation>级别</translation>
     </message>
+    <message>
+        <source>There is no violation among the results shown.</source>
+        <translation>所显示的结果中没有违规。</translation>
+    </message>
+    <message>
+        <source>The checks have not been run yet.</source>
+        <translation>尚未运行检查。</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Shows the violation before</source>
+        <translation>显示上一个违规</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>Shows the next violation</source>
+        <translation>显示下一个违规</translation>
+    </message>
+    <message>
+        <source>Run aga&amp;in</source>
+        <translation>重新运行(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Out of date: step %1 has been changed since it was measured.</source>
+        <translation>结果已过期：步骤 %1 在测量之后有改动。</translation>
+    </message>
+    <message>
+        <source>Out of date: a level is now larger than the spacings that were listed.</source>
+        <translation>结果已过期：有级别大于已列出的间距范围。</translation>
+    </message>
+    <message>
+        <source>Export these results all the same?</source>
+        <translation>仍要导出这些结果吗？</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>已写入：%1</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::TrackWidthChart</name>
@@ -1974,6 +2042,1751 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
     <message>
         <source>Opened lately:</source>
         <translation>最近打开：</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CategoryNames</name>
+    <message>
+        <source>PTH Summary</source>
+        <translation>PTH 汇总</translation>
+    </message>
+    <message>
+        <source>NPTH Summary</source>
+        <translation>NPTH 汇总</translation>
+    </message>
+    <message>
+        <source>Via Summary</source>
+        <translation>过孔汇总</translation>
+    </message>
+    <message>
+        <source>Plated Slot Summary</source>
+        <translation>镀铜槽汇总</translation>
+    </message>
+    <message>
+        <source>Non Plated Slot Summary</source>
+        <translation>非镀铜槽汇总</translation>
+    </message>
+    <message>
+        <source>2nd Drilled Holes</source>
+        <translation>二次钻孔</translation>
+    </message>
+    <message>
+        <source>2nd Drilled PTH Holes</source>
+        <translation>二次钻 PTH 孔</translation>
+    </message>
+    <message>
+        <source>Tooling Holes</source>
+        <translation>工具孔</translation>
+    </message>
+    <message>
+        <source>Mounting Holes</source>
+        <translation>安装孔</translation>
+    </message>
+    <message>
+        <source>Duplicate Holes</source>
+        <translation>重孔</translation>
+    </message>
+    <message>
+        <source>Touching Holes</source>
+        <translation>相交孔</translation>
+    </message>
+    <message>
+        <source>Close Holes</source>
+        <translation>近孔</translation>
+    </message>
+    <message>
+        <source>Missing Holes</source>
+        <translation>漏孔</translation>
+    </message>
+    <message>
+        <source>Extra Holes</source>
+        <translation>多余孔</translation>
+    </message>
+    <message>
+        <source>Short_3</source>
+        <translation>短路_3</translation>
+    </message>
+    <message>
+        <source>Short_4</source>
+        <translation>短路_4</translation>
+    </message>
+    <message>
+        <source>Short_5</source>
+        <translation>短路_5</translation>
+    </message>
+    <message>
+        <source>Short_6</source>
+        <translation>短路_6</translation>
+    </message>
+    <message>
+        <source>Short_7</source>
+        <translation>短路_7</translation>
+    </message>
+    <message>
+        <source>Short_8</source>
+        <translation>短路_8</translation>
+    </message>
+    <message>
+        <source>Short_9</source>
+        <translation>短路_9</translation>
+    </message>
+    <message>
+        <source>Short_10_up</source>
+        <translation>短路_10 及以上</translation>
+    </message>
+    <message>
+        <source>NPTH to Rout</source>
+        <translation>NPTH 到铣边</translation>
+    </message>
+    <message>
+        <source>Non Standard Symbol</source>
+        <translation>非标准符号</translation>
+    </message>
+    <message>
+        <source>Non Standard Feature</source>
+        <translation>非标准图形</translation>
+    </message>
+    <message>
+        <source>Canned Text</source>
+        <translation>固定文字</translation>
+    </message>
+    <message>
+        <source>PTH slot to Rout</source>
+        <translation>PTH 槽到铣边</translation>
+    </message>
+    <message>
+        <source>NPTH slot to Rout</source>
+        <translation>NPTH 槽到铣边</translation>
+    </message>
+    <message>
+        <source>Same Net Close PTHs</source>
+        <translation>同网络近 PTH</translation>
+    </message>
+    <message>
+        <source>Different Net Close PTHs</source>
+        <translation>异网络近 PTH</translation>
+    </message>
+    <message>
+        <source>Close NPTHs</source>
+        <translation>近 NPTH</translation>
+    </message>
+    <message>
+        <source>Close PTH2NPTH (isolate)</source>
+        <translation>PTH 与 NPTH 过近（孤立）</translation>
+    </message>
+    <message>
+        <source>Close PTH2NPTH (conn)</source>
+        <translation>PTH 与 NPTH 过近（相连）</translation>
+    </message>
+    <message>
+        <source>Close PTH2NPTH</source>
+        <translation>PTH 与 NPTH 过近</translation>
+    </message>
+    <message>
+        <source>Same Net Close VIAs</source>
+        <translation>同网络近过孔</translation>
+    </message>
+    <message>
+        <source>Different Net Close VIAs</source>
+        <translation>异网络近过孔</translation>
+    </message>
+    <message>
+        <source>Same Net Close VIA2PTH</source>
+        <translation>同网络过孔与 PTH 过近</translation>
+    </message>
+    <message>
+        <source>Different Net Close VIA2PTH</source>
+        <translation>异网络过孔与 PTH 过近</translation>
+    </message>
+    <message>
+        <source>Via to Via</source>
+        <translation>过孔到过孔</translation>
+    </message>
+    <message>
+        <source>Via to PTH</source>
+        <translation>过孔到 PTH</translation>
+    </message>
+    <message>
+        <source>Via to NPTH</source>
+        <translation>过孔到 NPTH</translation>
+    </message>
+    <message>
+        <source>Via to Rout</source>
+        <translation>过孔到铣边</translation>
+    </message>
+    <message>
+        <source>PTH to PTH</source>
+        <translation>PTH 到 PTH</translation>
+    </message>
+    <message>
+        <source>PTH to NPTH</source>
+        <translation>PTH 到 NPTH</translation>
+    </message>
+    <message>
+        <source>PTH to Rout</source>
+        <translation>PTH 到铣边</translation>
+    </message>
+    <message>
+        <source>NPTH to NPTH</source>
+        <translation>NPTH 到 NPTH</translation>
+    </message>
+    <message>
+        <source>Laser to Laser</source>
+        <translation>激光孔到激光孔</translation>
+    </message>
+    <message>
+        <source>Laser to Via</source>
+        <translation>激光孔到过孔</translation>
+    </message>
+    <message>
+        <source>Laser to PTH</source>
+        <translation>激光孔到 PTH</translation>
+    </message>
+    <message>
+        <source>Laser to NPTH</source>
+        <translation>激光孔到 NPTH</translation>
+    </message>
+    <message>
+        <source>Laser to Rout</source>
+        <translation>激光孔到铣边</translation>
+    </message>
+    <message>
+        <source>PTH annular Ring</source>
+        <translation>PTH 阻焊环宽</translation>
+    </message>
+    <message>
+        <source>NPTH annular Ring</source>
+        <translation>NPTH 阻焊环宽</translation>
+    </message>
+    <message>
+        <source>Via annular Ring</source>
+        <translation>过孔阻焊环宽</translation>
+    </message>
+    <message>
+        <source>SMD annular Ring</source>
+        <translation>SMD 阻焊环宽</translation>
+    </message>
+    <message>
+        <source>Fiducial To SM</source>
+        <translation>光学点到阻焊</translation>
+    </message>
+    <message>
+        <source>Pad annular Ring</source>
+        <translation>焊盘阻焊环宽</translation>
+    </message>
+    <message>
+        <source>VIA Pad annular Ring</source>
+        <translation>过孔焊盘阻焊环宽</translation>
+    </message>
+    <message>
+        <source>PTH Pad annular Ring</source>
+        <translation>PTH 焊盘阻焊环宽</translation>
+    </message>
+    <message>
+        <source>NPTH Pad annular Ring</source>
+        <translation>NPTH 焊盘阻焊环宽</translation>
+    </message>
+    <message>
+        <source>Undrilled Pad annular Ring</source>
+        <translation>无钻焊盘阻焊环宽</translation>
+    </message>
+    <message>
+        <source>Fully Exposed Line annular Ring</source>
+        <translation>全露线阻焊环宽</translation>
+    </message>
+    <message>
+        <source>Partial Exposed Line annular Ring</source>
+        <translation>半露线阻焊环宽</translation>
+    </message>
+    <message>
+        <source>SMD Pad Gasket</source>
+        <translation>SMD 焊盘压边</translation>
+    </message>
+    <message>
+        <source>Undrilled Pad Gasket</source>
+        <translation>无钻焊盘压边</translation>
+    </message>
+    <message>
+        <source>PTH Pad Gasket</source>
+        <translation>PTH 焊盘压边</translation>
+    </message>
+    <message>
+        <source>NPTH Pad Gasket</source>
+        <translation>NPTH 焊盘压边</translation>
+    </message>
+    <message>
+        <source>NPTH Hole Gasket</source>
+        <translation>NPTH 孔压边</translation>
+    </message>
+    <message>
+        <source>VIA Pad Gasket</source>
+        <translation>过孔焊盘压边</translation>
+    </message>
+    <message>
+        <source>Undrilled Pad and Clearance Same Size</source>
+        <translation>无钻焊盘与开窗等大</translation>
+    </message>
+    <message>
+        <source>SMD Pad and Clearance Same Size</source>
+        <translation>SMD 焊盘与开窗等大</translation>
+    </message>
+    <message>
+        <source>PTH Pad and Clearance Same Size</source>
+        <translation>PTH 焊盘与开窗等大</translation>
+    </message>
+    <message>
+        <source>NPTH Pad and Clearance Same Size</source>
+        <translation>NPTH 焊盘与开窗等大</translation>
+    </message>
+    <message>
+        <source>NPTH Hole and Clearance Same Size</source>
+        <translation>NPTH 孔与开窗等大</translation>
+    </message>
+    <message>
+        <source>VIA Pad and Clearance Same Size</source>
+        <translation>过孔焊盘与开窗等大</translation>
+    </message>
+    <message>
+        <source>NPTH touches mask</source>
+        <translation>NPTH 碰阻焊</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>阻焊覆盖</translation>
+    </message>
+    <message>
+        <source>Same Net Coverage</source>
+        <translation>同网络阻焊覆盖</translation>
+    </message>
+    <message>
+        <source>Clearance Cover Several Nets</source>
+        <translation>开窗跨多个网络</translation>
+    </message>
+    <message>
+        <source>AR Larger than Coverage</source>
+        <translation>环宽大于覆盖</translation>
+    </message>
+    <message>
+        <source>Rout spacing</source>
+        <translation>铣边间距</translation>
+    </message>
+    <message>
+        <source>Missing Rout Clearance</source>
+        <translation>缺铣边开窗</translation>
+    </message>
+    <message>
+        <source>No bridge</source>
+        <translation>无阻焊桥</translation>
+    </message>
+    <message>
+        <source>No bridge (Same Net)</source>
+        <translation>无阻焊桥（同网络）</translation>
+    </message>
+    <message>
+        <source>No Bridge (SMD Pads)</source>
+        <translation>无阻焊桥（SMD 焊盘）</translation>
+    </message>
+    <message>
+        <source>SMDs Clearance Bridge</source>
+        <translation>SMD 之间阻焊桥</translation>
+    </message>
+    <message>
+        <source>SMD to Pad Clearance Bridge</source>
+        <translation>SMD 到焊盘阻焊桥</translation>
+    </message>
+    <message>
+        <source>Pad to Pad Clearance Bridge</source>
+        <translation>焊盘到焊盘阻焊桥</translation>
+    </message>
+    <message>
+        <source>Pad to Pad Clearance Bridge (Same Net)</source>
+        <translation>焊盘到焊盘阻焊桥（同网络）</translation>
+    </message>
+    <message>
+        <source>SM slivers</source>
+        <translation>阻焊细丝</translation>
+    </message>
+    <message>
+        <source>SM local spacing</source>
+        <translation>阻焊局部间距</translation>
+    </message>
+    <message>
+        <source>Pad to Pad Spacing</source>
+        <translation>焊盘到焊盘间距</translation>
+    </message>
+    <message>
+        <source>Pad to Pad Spacing(Same Net)</source>
+        <translation>焊盘到焊盘间距（同网络）</translation>
+    </message>
+    <message>
+        <source>Pad to Non-Pad Spacing</source>
+        <translation>焊盘到非焊盘间距</translation>
+    </message>
+    <message>
+        <source>Non-Pad to Non-Pad Spacing</source>
+        <translation>非焊盘到非焊盘间距</translation>
+    </message>
+    <message>
+        <source>Fully Exposed Tear Drop Pad</source>
+        <translation>全露泪滴焊盘</translation>
+    </message>
+    <message>
+        <source>Missing SMD clearance</source>
+        <translation>缺 SMD 开窗</translation>
+    </message>
+    <message>
+        <source>Missing Undrilled Pad clearance</source>
+        <translation>缺无钻焊盘开窗</translation>
+    </message>
+    <message>
+        <source>Missing PTH clearance</source>
+        <translation>缺 PTH 开窗</translation>
+    </message>
+    <message>
+        <source>Missing VIA clearance</source>
+        <translation>缺过孔开窗</translation>
+    </message>
+    <message>
+        <source>Covered VIA to SM</source>
+        <translation>盖油过孔到阻焊</translation>
+    </message>
+    <message>
+        <source>Missing NPTH clearance</source>
+        <translation>缺 NPTH 开窗</translation>
+    </message>
+    <message>
+        <source>SMD Partial Clearance</source>
+        <translation>SMD 部分开窗</translation>
+    </message>
+    <message>
+        <source>Undrilled Pad Partial Clearance</source>
+        <translation>无钻焊盘部分开窗</translation>
+    </message>
+    <message>
+        <source>Net Too Large</source>
+        <translation>网络过大</translation>
+    </message>
+    <message>
+        <source>Fully Exposed Line</source>
+        <translation>全露线</translation>
+    </message>
+    <message>
+        <source>Partial Clearance on VIA drilled pad</source>
+        <translation>过孔钻孔焊盘部分开窗</translation>
+    </message>
+    <message>
+        <source>Partial Clearance on NPTH drilled pad</source>
+        <translation>NPTH 钻孔焊盘部分开窗</translation>
+    </message>
+    <message>
+        <source>Partial Clearance on PTH drilled pad</source>
+        <translation>PTH 钻孔焊盘部分开窗</translation>
+    </message>
+    <message>
+        <source>Partial SMD Clearance annular Ring</source>
+        <translation>SMD 部分开窗环宽</translation>
+    </message>
+    <message>
+        <source>Partial SMD Clearance gasket</source>
+        <translation>SMD 部分开窗压边</translation>
+    </message>
+    <message>
+        <source>Partial Undrilled Pad Clearance annular Ring</source>
+        <translation>无钻焊盘部分开窗环宽</translation>
+    </message>
+    <message>
+        <source>Partial Undrilled Pad Clearance gasket</source>
+        <translation>无钻焊盘部分开窗压边</translation>
+    </message>
+    <message>
+        <source>Via to SMD Clearance</source>
+        <translation>过孔到 SMD 开窗</translation>
+    </message>
+    <message>
+        <source>PTH to SMD Clearance</source>
+        <translation>PTH 到 SMD 开窗</translation>
+    </message>
+    <message>
+        <source>NPTH to SMD Clearance</source>
+        <translation>NPTH 到 SMD 开窗</translation>
+    </message>
+    <message>
+        <source>Ignored Net</source>
+        <translation>忽略的网络</translation>
+    </message>
+    <message>
+        <source>Clearance to Clearance Connection</source>
+        <translation>开窗与开窗相连</translation>
+    </message>
+    <message>
+        <source>Feature too small to check</source>
+        <translation>图形过小无法检查</translation>
+    </message>
+    <message>
+        <source>** Not in Use **</source>
+        <translation>** 未使用 **</translation>
+    </message>
+    <message>
+        <source>BGA Annular Ring</source>
+        <translation>BGA 阻焊环宽</translation>
+    </message>
+    <message>
+        <source>Coverage to line</source>
+        <translation>阻焊覆盖线</translation>
+    </message>
+    <message>
+        <source>Coverage to Pad</source>
+        <translation>阻焊覆盖焊盘</translation>
+    </message>
+    <message>
+        <source>Coverage to Surface</source>
+        <translation>阻焊覆盖铜面</translation>
+    </message>
+    <message>
+        <source>BGA Pad Gasket</source>
+        <translation>BGA 焊盘压边</translation>
+    </message>
+    <message>
+        <source>BGA Pad and Clearance Same Size</source>
+        <translation>BGA 焊盘与开窗等大</translation>
+    </message>
+    <message>
+        <source>BGAs Clearance Bridge</source>
+        <translation>BGA 之间阻焊桥</translation>
+    </message>
+    <message>
+        <source>BGA to Pad Clearance Bridge</source>
+        <translation>BGA 到焊盘阻焊桥</translation>
+    </message>
+    <message>
+        <source>BGA Partial Clearance</source>
+        <translation>BGA 部分开窗</translation>
+    </message>
+    <message>
+        <source>Missing BGA clearance</source>
+        <translation>缺 BGA 开窗</translation>
+    </message>
+    <message>
+        <source>Partial BGA Clearance annular Ring</source>
+        <translation>BGA 部分开窗环宽</translation>
+    </message>
+    <message>
+        <source>Partial BGA Clearance gasket</source>
+        <translation>BGA 部分开窗压边</translation>
+    </message>
+    <message>
+        <source>Via to BGA Clearance</source>
+        <translation>过孔到 BGA 开窗</translation>
+    </message>
+    <message>
+        <source>PTH to BGA Clearance</source>
+        <translation>PTH 到 BGA 开窗</translation>
+    </message>
+    <message>
+        <source>NPTH to BGA Clearance</source>
+        <translation>NPTH 到 BGA 开窗</translation>
+    </message>
+    <message>
+        <source>No Bridge (BGA Pads)</source>
+        <translation>无阻焊桥（BGA 焊盘）</translation>
+    </message>
+    <message>
+        <source>Pad to pad</source>
+        <translation>焊盘到焊盘</translation>
+    </message>
+    <message>
+        <source>Pad to circuit</source>
+        <translation>焊盘到线路</translation>
+    </message>
+    <message>
+        <source>SMD to circuit</source>
+        <translation>SMD 到线路</translation>
+    </message>
+    <message>
+        <source>Circuit to circuit</source>
+        <translation>线路到线路</translation>
+    </message>
+    <message>
+        <source>Line to Line</source>
+        <translation>线到线</translation>
+    </message>
+    <message>
+        <source>Circuit to Line</source>
+        <translation>线路到线</translation>
+    </message>
+    <message>
+        <source>Text to text</source>
+        <translation>文字到文字</translation>
+    </message>
+    <message>
+        <source>Spacing length</source>
+        <translation>间距长度</translation>
+    </message>
+    <message>
+        <source>Same Net Spacing</source>
+        <translation>同网络间距</translation>
+    </message>
+    <message>
+        <source>CAD Self Spacing</source>
+        <translation>CAD 自身间距</translation>
+    </message>
+    <message>
+        <source>CAD Short</source>
+        <translation>CAD 短路</translation>
+    </message>
+    <message>
+        <source>ToePrint to ToePrint</source>
+        <translation>管脚到管脚</translation>
+    </message>
+    <message>
+        <source>SMD to SMD</source>
+        <translation>SMD 到 SMD</translation>
+    </message>
+    <message>
+        <source>SMD to Pad</source>
+        <translation>SMD 到焊盘</translation>
+    </message>
+    <message>
+        <source>Exposed to Exposed</source>
+        <translation>露铜到露铜</translation>
+    </message>
+    <message>
+        <source>Covered to Covered</source>
+        <translation>盖油到盖油</translation>
+    </message>
+    <message>
+        <source>Exposed to Covered</source>
+        <translation>露铜到盖油</translation>
+    </message>
+    <message>
+        <source>Exposed to Exposed(Same net)</source>
+        <translation>露铜到露铜（同网络）</translation>
+    </message>
+    <message>
+        <source>Covered to Covered(Same net)</source>
+        <translation>盖油到盖油（同网络）</translation>
+    </message>
+    <message>
+        <source>Exposed to Covered(Same net)</source>
+        <translation>露铜到盖油（同网络）</translation>
+    </message>
+    <message>
+        <source>Exposed to Fully Covered</source>
+        <translation>露铜到全盖油</translation>
+    </message>
+    <message>
+        <source>NPTH to pad</source>
+        <translation>NPTH 到焊盘</translation>
+    </message>
+    <message>
+        <source>NPTH to circuit</source>
+        <translation>NPTH 到线路</translation>
+    </message>
+    <message>
+        <source>PTH to Copper</source>
+        <translation>PTH 到铜</translation>
+    </message>
+    <message>
+        <source>PTH to Line</source>
+        <translation>PTH 到线</translation>
+    </message>
+    <message>
+        <source>PTH to Pad</source>
+        <translation>PTH 到焊盘</translation>
+    </message>
+    <message>
+        <source>VIA to Copper</source>
+        <translation>过孔到铜</translation>
+    </message>
+    <message>
+        <source>VIA to Line</source>
+        <translation>过孔到线</translation>
+    </message>
+    <message>
+        <source>VIA to Pad</source>
+        <translation>过孔到焊盘</translation>
+    </message>
+    <message>
+        <source>PTH Annular ring</source>
+        <translation>PTH 环宽</translation>
+    </message>
+    <message>
+        <source>PTH (Comp) Annular ring</source>
+        <translation>PTH（元件孔）环宽</translation>
+    </message>
+    <message>
+        <source>VIA Annular ring</source>
+        <translation>过孔环宽</translation>
+    </message>
+    <message>
+        <source>Laser Via Annular ring</source>
+        <translation>激光孔环宽</translation>
+    </message>
+    <message>
+        <source>Photo Via Annular ring</source>
+        <translation>感光孔环宽</translation>
+    </message>
+    <message>
+        <source>NPTH Annular ring</source>
+        <translation>NPTH 环宽</translation>
+    </message>
+    <message>
+        <source>PTH Registration</source>
+        <translation>PTH 对位</translation>
+    </message>
+    <message>
+        <source>NPTH Registration</source>
+        <translation>NPTH 对位</translation>
+    </message>
+    <message>
+        <source>Missing Pad for VIA</source>
+        <translation>过孔缺焊盘</translation>
+    </message>
+    <message>
+        <source>Missing Pad for PTH</source>
+        <translation>PTH 缺焊盘</translation>
+    </message>
+    <message>
+        <source>Missing Cu for VIA</source>
+        <translation>过孔缺铜</translation>
+    </message>
+    <message>
+        <source>NPTH touches Copper</source>
+        <translation>NPTH 碰铜</translation>
+    </message>
+    <message>
+        <source>Rout to Copper</source>
+        <translation>铣边到铜</translation>
+    </message>
+    <message>
+        <source>Missing Cu for Plated Rout</source>
+        <translation>镀铜铣槽缺铜</translation>
+    </message>
+    <message>
+        <source>Pads</source>
+        <translation>焊盘</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Non standard rotated lines</source>
+        <translation>非标准角度线</translation>
+    </message>
+    <message>
+        <source>Shaved Lines</source>
+        <translation>削过的线</translation>
+    </message>
+    <message>
+        <source>Inconsistent Line Width</source>
+        <translation>线宽不一致</translation>
+    </message>
+    <message>
+        <source>Arcs</source>
+        <translation>弧</translation>
+    </message>
+    <message>
+        <source>Shaved Arcs</source>
+        <translation>削过的弧</translation>
+    </message>
+    <message>
+        <source>Inconsistent Arc Width</source>
+        <translation>弧宽不一致</translation>
+    </message>
+    <message>
+        <source>Line Neckdown</source>
+        <translation>线颈缩</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Text Fields</source>
+        <translation>文字区</translation>
+    </message>
+    <message>
+        <source>Slivers</source>
+        <translation>铜细丝</translation>
+    </message>
+    <message>
+        <source>Local Spacing</source>
+        <translation>局部间距</translation>
+    </message>
+    <message>
+        <source>Stubs</source>
+        <translation>线头</translation>
+    </message>
+    <message>
+        <source>SMD Pitch</source>
+        <translation>SMD 节距</translation>
+    </message>
+    <message>
+        <source>BGA Pitch</source>
+        <translation>BGA 节距</translation>
+    </message>
+    <message>
+        <source>Zero Width Or Too Thin Features</source>
+        <translation>零宽或过细图形</translation>
+    </message>
+    <message>
+        <source>SMD Pads</source>
+        <translation>SMD 焊盘</translation>
+    </message>
+    <message>
+        <source>Shaved SMD</source>
+        <translation>削过的 SMD</translation>
+    </message>
+    <message>
+        <source>Shaved BGA</source>
+        <translation>削过的 BGA</translation>
+    </message>
+    <message>
+        <source>SMD Packages</source>
+        <translation>SMD 封装</translation>
+    </message>
+    <message>
+        <source>Conductor width</source>
+        <translation>导体宽度</translation>
+    </message>
+    <message>
+        <source>Plated Rout Annular Ring</source>
+        <translation>镀铜铣槽环宽</translation>
+    </message>
+    <message>
+        <source>Incoming Trace to Hole</source>
+        <translation>入孔走线</translation>
+    </message>
+    <message>
+        <source>Pad to Pad Connection</source>
+        <translation>焊盘与焊盘相连</translation>
+    </message>
+    <message>
+        <source>Pad to Cu Connection</source>
+        <translation>焊盘与铜相连</translation>
+    </message>
+    <message>
+        <source>Pad to Line Connection</source>
+        <translation>焊盘与线相连</translation>
+    </message>
+    <message>
+        <source>BGA to circuit(spacing)</source>
+        <translation>BGA 到线路（间距）</translation>
+    </message>
+    <message>
+        <source>Feature to feature(spacing)</source>
+        <translation>图形到图形（间距）</translation>
+    </message>
+    <message>
+        <source>BGA to BGA(spacing)</source>
+        <translation>BGA 到 BGA（间距）</translation>
+    </message>
+    <message>
+        <source>BGA to Pad(spacing)</source>
+        <translation>BGA 到焊盘（间距）</translation>
+    </message>
+    <message>
+        <source>Pad to line(spacing)</source>
+        <translation>焊盘到线（间距）</translation>
+    </message>
+    <message>
+        <source>Pad to surface(spacing)</source>
+        <translation>焊盘到铜面（间距）</translation>
+    </message>
+    <message>
+        <source>VIA to Copper(Same net)</source>
+        <translation>过孔到铜（同网络）</translation>
+    </message>
+    <message>
+        <source>Self-intersection in surface</source>
+        <translation>铜面自相交</translation>
+    </message>
+    <message>
+        <source>Self-intersection in symbol</source>
+        <translation>符号自相交</translation>
+    </message>
+    <message>
+        <source>Problematic surface</source>
+        <translation>有问题的铜面</translation>
+    </message>
+    <message>
+        <source>Wrong nesting for island</source>
+        <translation>岛嵌套错误</translation>
+    </message>
+    <message>
+        <source>Wrong nesting for hole</source>
+        <translation>孔嵌套错误</translation>
+    </message>
+    <message>
+        <source>Small Polygon</source>
+        <translation>小多边形</translation>
+    </message>
+    <message>
+        <source>Small Polygon in symbol</source>
+        <translation>符号内小多边形</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Fold in symbol</source>
+        <translation>符号内折叠</translation>
+    </message>
+    <message>
+        <source>Small edge in surface</source>
+        <translation>铜面小边</translation>
+    </message>
+    <message>
+        <source>Small edge in symbol</source>
+        <translation>符号内小边</translation>
+    </message>
+    <message>
+        <source>SM Clearance</source>
+        <translation>阻焊间隙</translation>
+    </message>
+    <message>
+        <source>SMD Clearance</source>
+        <translation>SMD 间隙</translation>
+    </message>
+    <message>
+        <source>PTH pads Clearance</source>
+        <translation>PTH 焊盘间隙</translation>
+    </message>
+    <message>
+        <source>Via pads Clearance</source>
+        <translation>过孔焊盘间隙</translation>
+    </message>
+    <message>
+        <source>NPTH pads Clearance</source>
+        <translation>NPTH 焊盘间隙</translation>
+    </message>
+    <message>
+        <source>Undrilled pads Clearance</source>
+        <translation>无钻焊盘间隙</translation>
+    </message>
+    <message>
+        <source>NPTH clearance</source>
+        <translation>NPTH 间隙</translation>
+    </message>
+    <message>
+        <source>PTH clearance</source>
+        <translation>PTH 间隙</translation>
+    </message>
+    <message>
+        <source>Via clearance</source>
+        <translation>过孔间隙</translation>
+    </message>
+    <message>
+        <source>Rout clearance</source>
+        <translation>铣边间隙</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>Arc width</source>
+        <translation>弧宽</translation>
+    </message>
+    <message>
+        <source>Pad width</source>
+        <translation>焊盘宽度</translation>
+    </message>
+    <message>
+        <source>Surface width</source>
+        <translation>铜面宽度</translation>
+    </message>
+    <message>
+        <source>Zero Line width</source>
+        <translation>零线宽</translation>
+    </message>
+    <message>
+        <source>Shaved Line</source>
+        <translation>削过的线</translation>
+    </message>
+    <message>
+        <source>Shaved Arc</source>
+        <translation>削过的弧</translation>
+    </message>
+    <message>
+        <source>Shaved Pad</source>
+        <translation>削过的焊盘</translation>
+    </message>
+    <message>
+        <source>Shaved Surface</source>
+        <translation>削过的铜面</translation>
+    </message>
+    <message>
+        <source>Inconsistent Surface Width</source>
+        <translation>铜面宽度不一致</translation>
+    </message>
+    <message>
+        <source>Text width</source>
+        <translation>文字线宽</translation>
+    </message>
+    <message>
+        <source>Text height</source>
+        <translation>文字高度</translation>
+    </message>
+    <message>
+        <source>SS to SS spacing</source>
+        <translation>字符到字符间距</translation>
+    </message>
+    <message>
+        <source>SS Over Text</source>
+        <translation>字符压文字</translation>
+    </message>
+    <message>
+        <source>SS Over Channel</source>
+        <translation>字符压通道</translation>
+    </message>
+    <message>
+        <source>Org step check</source>
+        <translation>原稿步骤检查</translation>
+    </message>
+    <message>
+        <source>Org solder paste top layer check</source>
+        <translation>原稿顶层钢网检查</translation>
+    </message>
+    <message>
+        <source>Org silk screen top layer check</source>
+        <translation>原稿顶层字符检查</translation>
+    </message>
+    <message>
+        <source>Org solder mask top layer check</source>
+        <translation>原稿顶层阻焊检查</translation>
+    </message>
+    <message>
+        <source>Org signal top layer check</source>
+        <translation>原稿顶层线路检查</translation>
+    </message>
+    <message>
+        <source>Org signal layers check</source>
+        <translation>原稿线路层检查</translation>
+    </message>
+    <message>
+        <source>Org signal bot layer check</source>
+        <translation>原稿底层线路检查</translation>
+    </message>
+    <message>
+        <source>Org solder mask bottom layer check</source>
+        <translation>原稿底层阻焊检查</translation>
+    </message>
+    <message>
+        <source>Org silk screen bottom layer check</source>
+        <translation>原稿底层字符检查</translation>
+    </message>
+    <message>
+        <source>Org solder paste bottom layer check</source>
+        <translation>原稿底层钢网检查</translation>
+    </message>
+    <message>
+        <source>Org drill layers check</source>
+        <translation>原稿钻孔层检查</translation>
+    </message>
+    <message>
+        <source>Org rout layer check</source>
+        <translation>原稿铣边层检查</translation>
+    </message>
+    <message>
+        <source>Org zero point check</source>
+        <translation>原稿零点检查</translation>
+    </message>
+    <message>
+        <source>Net step check</source>
+        <translation>网络步骤检查</translation>
+    </message>
+    <message>
+        <source>Net outerline layer check</source>
+        <translation>网络外形层检查</translation>
+    </message>
+    <message>
+        <source>Net profile check</source>
+        <translation>网络外形框检查</translation>
+    </message>
+    <message>
+        <source>Net clip outerline check</source>
+        <translation>网络外形裁切检查</translation>
+    </message>
+    <message>
+        <source>Net clip outside check</source>
+        <translation>网络板外裁切检查</translation>
+    </message>
+    <message>
+        <source>Prepare smd pad sold check</source>
+        <translation>预处理 SMD 焊盘阻焊检查</translation>
+    </message>
+    <message>
+        <source>Prepare step check</source>
+        <translation>预处理步骤检查</translation>
+    </message>
+    <message>
+        <source>Prepare line2surface check</source>
+        <translation>预处理线转铜面检查</translation>
+    </message>
+    <message>
+        <source>Prepare signal layer negative check</source>
+        <translation>预处理线路层负片检查</translation>
+    </message>
+    <message>
+        <source>Prepare signal layer attribute check</source>
+        <translation>预处理线路层属性检查</translation>
+    </message>
+    <message>
+        <source>Prepare drill layer negative check</source>
+        <translation>预处理钻孔层负片检查</translation>
+    </message>
+    <message>
+        <source>Prepare drill layer attribute check</source>
+        <translation>预处理钻孔层属性检查</translation>
+    </message>
+    <message>
+        <source>Prepare solder mask layer negative check</source>
+        <translation>预处理阻焊层负片检查</translation>
+    </message>
+    <message>
+        <source>Prepare solder mask feature check</source>
+        <translation>预处理阻焊图形检查</translation>
+    </message>
+    <message>
+        <source>Prepare solder mask sold check</source>
+        <translation>预处理阻焊开窗检查</translation>
+    </message>
+    <message>
+        <source>Prepare outer layer drillpad check</source>
+        <translation>预处理外层孔环检查</translation>
+    </message>
+    <message>
+        <source>Prepare board layer symbol size check</source>
+        <translation>预处理板层符号尺寸检查</translation>
+    </message>
+    <message>
+        <source>Prepare step drill pad poisition check</source>
+        <translation>预处理步骤孔环位置检查</translation>
+    </message>
+    <message>
+        <source>No Violations</source>
+        <translation>无违规</translation>
+    </message>
+    <message>
+        <source>Violations (Optimal)</source>
+        <translation>违规（优化值）</translation>
+    </message>
+    <message>
+        <source>Opt.Cover Only</source>
+        <translation>优化：仅覆盖</translation>
+    </message>
+    <message>
+        <source>Opt.Clear Only</source>
+        <translation>优化：仅开窗</translation>
+    </message>
+    <message>
+        <source>Violations (Minimal)</source>
+        <translation>违规（最小值）</translation>
+    </message>
+    <message>
+        <source>Gasket Removed</source>
+        <translation>已去除压边</translation>
+    </message>
+    <message>
+        <source>Bridges (All)</source>
+        <translation>阻焊桥（全部）</translation>
+    </message>
+    <message>
+        <source>Bridges (Violations)</source>
+        <translation>阻焊桥（违规）</translation>
+    </message>
+    <message>
+        <source>Bridges (Positive)</source>
+        <translation>阻焊桥（正）</translation>
+    </message>
+    <message>
+        <source>Bridges (Net Intersected)</source>
+        <translation>阻焊桥（跨网络）</translation>
+    </message>
+    <message>
+        <source>Cannot Bridge</source>
+        <translation>无法做桥</translation>
+    </message>
+    <message>
+        <source>Too dense</source>
+        <translation>过密</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Resize Problem</source>
+        <translation>缩放问题</translation>
+    </message>
+    <message>
+        <source>Oversized Clearances</source>
+        <translation>过大开窗</translation>
+    </message>
+    <message>
+        <source>Partial   Clearances</source>
+        <translation>部分开窗</translation>
+    </message>
+    <message>
+        <source>Small     Clearances</source>
+        <translation>过小开窗</translation>
+    </message>
+    <message>
+        <source>Shave Avoided</source>
+        <translation>避免削切</translation>
+    </message>
+    <message>
+        <source>Shaves</source>
+        <translation>削切</translation>
+    </message>
+    <message>
+        <source>ARG repaired</source>
+        <translation>环宽已修复</translation>
+    </message>
+    <message>
+        <source>ARG violation(min)</source>
+        <translation>环宽违规（最小值）</translation>
+    </message>
+    <message>
+        <source>ARG violation(opt)</source>
+        <translation>环宽违规（优化值）</translation>
+    </message>
+    <message>
+        <source>Pad enlarge &gt; limit</source>
+        <translation>焊盘加大超限</translation>
+    </message>
+    <message>
+        <source>annular_ring</source>
+        <translation>环宽</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>间距</translation>
+    </message>
+    <message>
+        <source>Pth2c</source>
+        <translation>PTH 到铜距离</translation>
+    </message>
+    <message>
+        <source>NPth2c</source>
+        <translation>NPTH 到铜距离</translation>
+    </message>
+    <message>
+        <source>Spacing repaired</source>
+        <translation>间距已修复</translation>
+    </message>
+    <message>
+        <source>H2Cu repaired</source>
+        <translation>孔到铜已修复</translation>
+    </message>
+    <message>
+        <source>Spacing violation(min)</source>
+        <translation>间距违规（最小值）</translation>
+    </message>
+    <message>
+        <source>Spacing violation(opt)</source>
+        <translation>间距违规（优化值）</translation>
+    </message>
+    <message>
+        <source>H2Cu violation</source>
+        <translation>孔到铜违规</translation>
+    </message>
+    <message>
+        <source>Same net space</source>
+        <translation>同网络间隙</translation>
+    </message>
+    <message>
+        <source>Same Net Spacing Violation</source>
+        <translation>同网络间距违规</translation>
+    </message>
+    <message>
+        <source>Same Net Spacing Violation repaired</source>
+        <translation>同网络间距违规已修复</translation>
+    </message>
+    <message>
+        <source>Polygon shave</source>
+        <translation>多边形削切</translation>
+    </message>
+    <message>
+        <source>Filled polygon shave</source>
+        <translation>可填充多边形削切</translation>
+    </message>
+    <message>
+        <source>Unfillable polygon shave</source>
+        <translation>不可填充多边形削切</translation>
+    </message>
+    <message>
+        <source>Full Teardrops</source>
+        <translation>完整泪滴</translation>
+    </message>
+    <message>
+        <source>One Sided Teardrops</source>
+        <translation>单边泪滴</translation>
+    </message>
+    <message>
+        <source>Shortened Teardrops</source>
+        <translation>缩短泪滴</translation>
+    </message>
+    <message>
+        <source>Missing Teardrops</source>
+        <translation>缺泪滴</translation>
+    </message>
+    <message>
+        <source>Problematic Teardrops</source>
+        <translation>有问题的泪滴</translation>
+    </message>
+    <message>
+        <source>Suspected Thermal</source>
+        <translation>疑似花焊盘</translation>
+    </message>
+    <message>
+        <source>Spacing Violations</source>
+        <translation>间距违规</translation>
+    </message>
+    <message>
+        <source>Line Too Narrow</source>
+        <translation>线过细</translation>
+    </message>
+    <message>
+        <source>Updated Teardrops Size</source>
+        <translation>已更新泪滴尺寸</translation>
+    </message>
+    <message>
+        <source>Suspected Teardrop</source>
+        <translation>疑似泪滴</translation>
+    </message>
+    <message>
+        <source>Isolated</source>
+        <translation>孤立</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>Drilled Over</source>
+        <translation>被钻掉</translation>
+    </message>
+    <message>
+        <source>Covered</source>
+        <translation>被覆盖</translation>
+    </message>
+    <message>
+        <source>Snapped pads</source>
+        <translation>已对齐焊盘</translation>
+    </message>
+    <message>
+        <source>Un Snapped pads</source>
+        <translation>未对齐焊盘</translation>
+    </message>
+    <message>
+        <source>Spacing problems</source>
+        <translation>间距问题</translation>
+    </message>
+    <message>
+        <source>NPTH to Copper</source>
+        <translation>NPTH 到铜</translation>
+    </message>
+    <message>
+        <source>NPTH to Plane</source>
+        <translation>NPTH 到铜皮</translation>
+    </message>
+    <message>
+        <source>PTH Annular Ring</source>
+        <translation>PTH 环宽</translation>
+    </message>
+    <message>
+        <source>PTH to Plane</source>
+        <translation>PTH 到铜皮</translation>
+    </message>
+    <message>
+        <source>Via Annular Ring</source>
+        <translation>过孔环宽</translation>
+    </message>
+    <message>
+        <source>Via to Copper</source>
+        <translation>过孔到铜</translation>
+    </message>
+    <message>
+        <source>Via to Plane</source>
+        <translation>过孔到铜皮</translation>
+    </message>
+    <message>
+        <source>PTH Partial touch Copper</source>
+        <translation>PTH 部分接铜</translation>
+    </message>
+    <message>
+        <source>Via Partial touch Copper</source>
+        <translation>过孔部分接铜</translation>
+    </message>
+    <message>
+        <source>PTH contains Clearance</source>
+        <translation>PTH 含隔离盘</translation>
+    </message>
+    <message>
+        <source>Via contains Clearance</source>
+        <translation>过孔含隔离盘</translation>
+    </message>
+    <message>
+        <source>NPTH contains Copper</source>
+        <translation>NPTH 含铜</translation>
+    </message>
+    <message>
+        <source>Via Registration</source>
+        <translation>过孔对位</translation>
+    </message>
+    <message>
+        <source>Missing Cu for Via</source>
+        <translation>过孔缺铜</translation>
+    </message>
+    <message>
+        <source>Spot NFP</source>
+        <translation>点状非功能焊盘</translation>
+    </message>
+    <message>
+        <source>Spoke Width</source>
+        <translation>花焊盘连接宽度</translation>
+    </message>
+    <message>
+        <source>Thermal connect Reduction</source>
+        <translation>花焊盘连接减少</translation>
+    </message>
+    <message>
+        <source>Complex Thermal Geometry</source>
+        <translation>复杂花焊盘形状</translation>
+    </message>
+    <message>
+        <source>Thermal Air Gap</source>
+        <translation>花焊盘隔离间隙</translation>
+    </message>
+    <message>
+        <source>Small Spoke Width</source>
+        <translation>花焊盘连接过窄</translation>
+    </message>
+    <message>
+        <source>NFP Spacing</source>
+        <translation>非功能焊盘间距</translation>
+    </message>
+    <message>
+        <source>NFP Spacing(pos)</source>
+        <translation>非功能焊盘间距（正）</translation>
+    </message>
+    <message>
+        <source>Plane Spacing</source>
+        <translation>铜皮间距</translation>
+    </message>
+    <message>
+        <source>Segmentation Lines</source>
+        <translation>分割线</translation>
+    </message>
+    <message>
+        <source>NPTH Annular Ring</source>
+        <translation>NPTH 环宽</translation>
+    </message>
+    <message>
+        <source>Isolated Drill</source>
+        <translation>孤立钻孔</translation>
+    </message>
+    <message>
+        <source>Mechanical Via Annular Ring</source>
+        <translation>机械孔环宽</translation>
+    </message>
+    <message>
+        <source>Laser Via Annular Ring</source>
+        <translation>激光孔环宽</translation>
+    </message>
+    <message>
+        <source>Photo Via Annular Ring</source>
+        <translation>感光孔环宽</translation>
+    </message>
+    <message>
+        <source>Via AirGap Not Modified</source>
+        <translation>过孔隔离间隙未修改</translation>
+    </message>
+    <message>
+        <source>Via AirGap Modified</source>
+        <translation>过孔隔离间隙已修改</translation>
+    </message>
+    <message>
+        <source>Via Spacing Not Modified</source>
+        <translation>过孔间距未修改</translation>
+    </message>
+    <message>
+        <source>Via Spacing Modified</source>
+        <translation>过孔间距已修改</translation>
+    </message>
+    <message>
+        <source>Via AR Not Modified</source>
+        <translation>过孔环宽未修改</translation>
+    </message>
+    <message>
+        <source>Via AR Partially Modified</source>
+        <translation>过孔环宽部分修改</translation>
+    </message>
+    <message>
+        <source>Via AR Modified</source>
+        <translation>过孔环宽已修改</translation>
+    </message>
+    <message>
+        <source>Via Clr Not Modified</source>
+        <translation>过孔隔离未修改</translation>
+    </message>
+    <message>
+        <source>Via Clr Partially Modified</source>
+        <translation>过孔隔离部分修改</translation>
+    </message>
+    <message>
+        <source>Via Clr Modified</source>
+        <translation>过孔隔离已修改</translation>
+    </message>
+    <message>
+        <source>PTH AirGap Not Modified</source>
+        <translation>PTH 隔离间隙未修改</translation>
+    </message>
+    <message>
+        <source>PTH AirGap Modified</source>
+        <translation>PTH 隔离间隙已修改</translation>
+    </message>
+    <message>
+        <source>PTH Spacing Not Modified</source>
+        <translation>PTH 间距未修改</translation>
+    </message>
+    <message>
+        <source>PTH Spacing Modified</source>
+        <translation>PTH 间距已修改</translation>
+    </message>
+    <message>
+        <source>PTH AR Not Modified</source>
+        <translation>PTH 环宽未修改</translation>
+    </message>
+    <message>
+        <source>PTH AR Partially Modified</source>
+        <translation>PTH 环宽部分修改</translation>
+    </message>
+    <message>
+        <source>PTH AR Modified</source>
+        <translation>PTH 环宽已修改</translation>
+    </message>
+    <message>
+        <source>PTH Clr Not Modified</source>
+        <translation>PTH 隔离未修改</translation>
+    </message>
+    <message>
+        <source>PTH Clr Partially Modified</source>
+        <translation>PTH 隔离部分修改</translation>
+    </message>
+    <message>
+        <source>PTH Clr Modified</source>
+        <translation>PTH 隔离已修改</translation>
+    </message>
+    <message>
+        <source>NPTH Clr Not Modified</source>
+        <translation>NPTH 隔离未修改</translation>
+    </message>
+    <message>
+        <source>NPTH Clr Partially Modified</source>
+        <translation>NPTH 隔离部分修改</translation>
+    </message>
+    <message>
+        <source>NPTH Clr Modified</source>
+        <translation>NPTH 隔离已修改</translation>
+    </message>
+    <message>
+        <source>NPTH Pad Is Not Clearance</source>
+        <translation>NPTH 焊盘不是隔离盘</translation>
+    </message>
+    <message>
+        <source>Unsupported Drilled Shape</source>
+        <translation>不支持的钻孔形状</translation>
+    </message>
+    <message>
+        <source>Pad Misregistration</source>
+        <translation>焊盘偏位</translation>
+    </message>
+    <message>
+        <source>Build Donut</source>
+        <translation>生成环形盘</translation>
+    </message>
+    <message>
+        <source>Nets</source>
+        <translation>网络</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::EnglishTexts</name>
+    <message>
+        <source>The nets are those of eda/data (%1); what it does not list belongs to what it touches.</source>
+        <translation>网络取自 eda/data（%1 个）；未列出的图形归入与其相接的网络。</translation>
+    </message>
+    <message>
+        <source>The nets come from copper and plated holes that touch: %1.</source>
+        <translation>网络由相接的铜和镀铜孔得出：%1。</translation>
+    </message>
+    <message>
+        <source>the step has no eda/data</source>
+        <translation>该步骤没有 eda/data</translation>
+    </message>
+    <message>
+        <source>eda/data does not fit the job: %1</source>
+        <translation>eda/data 与料号不符：%1</translation>
+    </message>
+    <message>
+        <source>it names a layer %1 that the job does not have</source>
+        <translation>其中的层 %1 在料号里不存在</translation>
+    </message>
+    <message>
+        <source>its net %1 has feature %2 of layer %3, which has %4</source>
+        <translation>其网络 %1 含层 %3 的图形 %2，而该层共有 %4 个图形</translation>
+    </message>
+    <message>
+        <source>eda/data lists no nets</source>
+        <translation>eda/data 未列出任何网络</translation>
+    </message>
+    <message>
+        <source>eda/data cannot be used: %1</source>
+        <translation>eda/data 无法使用：%1</translation>
+    </message>
+    <message>
+        <source>The job holds no features of this layer, only their tables.</source>
+        <translation>料号里没有该层的图形，只有图形表。</translation>
+    </message>
+    <message>
+        <source>The job holds no features file of this layer.</source>
+        <translation>料号里没有该层的图形文件。</translation>
+    </message>
+    <message>
+        <source>Erasing features (%1): what they take from others is not seen.</source>
+        <translation>负性图形（%1 个）：未计入它们从其他图形上去除的部分。</translation>
+    </message>
+    <message>
+        <source>Texts, marked as .nomenclature or .string (%1) are not measured.</source>
+        <translation>标记为 .nomenclature 或 .string 的文字（%1 个）未测量。</translation>
+    </message>
+    <message>
+        <source>Surfaces (%1): their narrow places are not measured, and none counts as a pad.</source>
+        <translation>铜面（%1 个）：未测量其狭窄处，也不算作焊盘。</translation>
+    </message>
+    <message>
+        <source>Surfaces (%1) are not measured as holes or slots.</source>
+        <translation>铜面（%1 个）未作为孔或槽测量。</translation>
+    </message>
+    <message>
+        <source>Surfaces marked as SMD pads (%1): their spacing is not measured.</source>
+        <translation>标记为 SMD 焊盘的铜面（%1 个）：未测量其间距。</translation>
+    </message>
+    <message>
+        <source>Tracks and pads that cross or leave the outline (%1): they are measured all the same.</source>
+        <translation>越过或超出外形的线和焊盘（%1 个）：仍然测量。</translation>
+    </message>
+    <message>
+        <source>Features outside the outline (%1) are not measured.</source>
+        <translation>外形以外的图形（%1 个）未测量。</translation>
+    </message>
+    <message>
+        <source>Features drawn with &quot;%1&quot; (%2): %3.</source>
+        <translation>用“%1”绘制的图形（%2 个）：%3。</translation>
+    </message>
+    <message>
+        <source>Features drawn with more such symbols (%1) are not measured.</source>
+        <translation>用其他此类符号绘制的图形（%1 个）未测量。</translation>
+    </message>
+    <message>
+        <source>the width of a line drawn with it cannot be measured</source>
+        <translation>用它绘制的线无法测量线宽</translation>
+    </message>
+    <message>
+        <source>this symbol cannot be measured</source>
+        <translation>该符号无法测量</translation>
+    </message>
+    <message>
+        <source>its drawing is too large</source>
+        <translation>其图形过大</translation>
+    </message>
+    <message>
+        <source>it contains symbols within symbols without end</source>
+        <translation>其符号无限嵌套</translation>
+    </message>
+    <message>
+        <source>the job has no drawing of it</source>
+        <translation>料号里没有它的图形</translation>
+    </message>
+    <message>
+        <source>the drawings of the job&apos;s symbols are too large</source>
+        <translation>料号自定义符号的图形过大</translation>
+    </message>
+    <message>
+        <source>of &quot;%1&quot; in it, %2</source>
+        <translation>其中的“%1”：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in it cannot be measured so</source>
+        <translation>其中的“%1”无法这样测量</translation>
+    </message>
+    <message>
+        <source>its drawing is empty</source>
+        <translation>其图形为空</translation>
+    </message>
+    <message>
+        <source>its drawing has no measurable size</source>
+        <translation>其图形没有可测量的尺寸</translation>
+    </message>
+    <message>
+        <source>The SMD pads drawn with large symbols of the job&apos;s own are too many: their spacing is that of the boxes around them.</source>
+        <translation>用大型自定义符号绘制的 SMD 焊盘过多：其间距按外接矩形计算。</translation>
+    </message>
+    <message>
+        <source>Plated holes without a pad on this outer layer (%1): they have no ring.</source>
+        <translation>该外层上没有焊盘的镀铜孔（%1 个）：没有环宽。</translation>
+    </message>
+    <message>
+        <source>Plated holes whose pad does not cover their centre with solid copper (%1): they have no ring.</source>
+        <translation>焊盘未以实铜覆盖孔中心的镀铜孔（%1 个）：没有环宽。</translation>
+    </message>
+    <message>
+        <source>The layer has so many arcs that spacings are measured up to %1 micrometres too small.</source>
+        <translation>该层圆弧过多，测得的间距最多偏小 %1 微米。</translation>
+    </message>
+    <message>
+        <source>The rings of slots that are arcs (%1).</source>
+        <translation>弧形槽（%1 个）的环宽。</translation>
+    </message>
+    <message>
+        <source>The layer is negative: it draws what is taken away.</source>
+        <translation>该层为负片：所画的是被去除的部分。</translation>
+    </message>
+    <message>
+        <source>The step repeats %1 %2 times; measure that step.</source>
+        <translation>该步骤拼入 %1 共 %2 次；请测量那个步骤。</translation>
+    </message>
+    <message>
+        <source>The job has neither a rout layer nor a profile.</source>
+        <translation>料号里既没有铣边层，也没有外形框。</translation>
+    </message>
+    <message>
+        <source>The engine has no check for: %1.</source>
+        <translation>引擎没有这些检查：%1。</translation>
+    </message>
+    <message>
+        <source>Illegal float value
+floating value for field is out of range: (%1, %2)</source>
+        <translation>数值不合法
+该栏的数值超出范围：(%1, %2)</translation>
+    </message>
+    <message>
+        <source>floating value for field is out of range: %1
+legal values: from %2 to %3</source>
+        <translation>该栏的数值超出范围：%1
+合法值：%2 到 %3</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SeverityBar</name>
+    <message>
+        <source>Shows or hides the measurements of this colour</source>
+        <translation>显示或隐藏此颜色的测量结果</translation>
     </message>
 </context>
 </TS>

@@ -1,11 +1,14 @@
 #include "ui/LanguageChange.h"
 
+#include "ui/EnglishTexts.h"
+
 #include <UIAPICommon.h>
 
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTranslator>
 
+#include <cstring>
 #include <utility>
 
 // A resource in a static library is left out unless it is initialised by name. The macro does not work inside
@@ -40,6 +43,24 @@ private:
     std::function<void()> m_setTexts;
 };
 
+// The program's texts. The library looks up its messages about a range as they are shown, with their numbers,
+// which no catalogue can list.
+class Catalogue : public QTranslator
+{
+public:
+    QString translate(char const * context, char const * text, char const * remark, int n) const override
+    {
+        QString const known = QTranslator::translate(context, text, remark, n);
+        if (!known.isEmpty() || std::strcmp(context, "QObject") != 0 ||
+            std::strstr(text, "out of range: ") == nullptr) {
+            return known;
+        }
+        return translatedSentence(QString::fromUtf8(text), [this](QString const & pattern) {
+            return QTranslator::translate("Workbench::EnglishTexts", pattern.toLatin1().constData());
+        });
+    }
+};
+
 } // namespace
 
 void setTextsNowAndLater(QWidget & widget, std::function<void()> setTexts)
@@ -56,7 +77,7 @@ bool showChinese(bool on)
     if (!Ext::installTranslation(language)) {
         return false;
     }
-    static auto * const catalogue = new QTranslator; // the application may outlive static objects
+    static auto * const catalogue = new Catalogue; // the application may outlive static objects
     if (catalogue->isEmpty()) {
         registerCatalogue();
         if (!catalogue->load(QStringLiteral(":/workbench/translations/workbench_zh_CN.qm"))) {

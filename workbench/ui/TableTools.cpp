@@ -1,8 +1,55 @@
 #include "ui/TableTools.h"
 
+#include "ui/LanguageChange.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QRegularExpression>
+#include <QTreeView>
+
+#include <map>
+#include <vector>
 
 namespace Workbench {
+
+namespace {
+
+QHeaderView const * headerOf(QAbstractItemView const & view)
+{
+    if (auto const * tree = qobject_cast<QTreeView const *>(&view)) {
+        return tree->header();
+    }
+    auto const * table = qobject_cast<QTableView const *>(&view);
+    return table != nullptr ? table->horizontalHeader() : nullptr;
+}
+
+// Where a row stands in the tree: the rows from its topmost ancestor down.
+std::vector<int> placeOf(QModelIndex const & row)
+{
+    std::vector<int> place;
+    for (QModelIndex up = row; up.isValid(); up = up.parent()) {
+        place.insert(place.begin(), up.row());
+    }
+    return place;
+}
+
+QModelIndexList selectedCells(QAbstractItemView const & view)
+{
+    QModelIndexList cells =
+        view.selectionModel() != nullptr ? view.selectionModel()->selectedIndexes() : QModelIndexList();
+    QModelIndex const current = view.currentIndex();
+    if (cells.isEmpty() && current.isValid()) {
+        for (int column = 0; column < view.model()->columnCount(current.parent()); ++column) {
+            cells.append(current.siblingAtColumn(column));
+        }
+    }
+    return cells;
+}
+
+} // namespace
 
 QTableWidget * makeTable(QStringList const & titles)
 {
@@ -27,6 +74,46 @@ void prepareTable(QTableWidget & table, QStringList const & titles)
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);
     table.setAlternatingRowColors(true);
     table.setTabKeyNavigation(false); // Tab leaves the table, arrows move in it
+    offerCopy(table);
+}
+
+QString copyText(QAbstractItemView const & view)
+{
+    QHeaderView const * header = headerOf(view);
+    static QRegularExpression const breaks("[\\t\\r\\n]+");
+    std::map<std::vector<int>, std::map<int, QString>> lines; // by the row's place and the column's
+    for (QModelIndex const & cell : selectedCells(view)) {
+        int const column = header != nullptr ? header->visualIndex(cell.column()) : cell.column();
+        if (header == nullptr || !header->isSectionHidden(cell.column())) {
+            lines[placeOf(cell)][column] = cell.data().toString().replace(breaks, " ");
+        }
+    }
+    QStringList texts;
+    for (auto const & [place, cells] : lines) {
+        QStringList line;
+        for (auto const & [column, text] : cells) {
+            line.append(text);
+        }
+        texts.append(line.join('\t'));
+    }
+    return texts.join('\n');
+}
+
+void offerCopy(QAbstractItemView & view)
+{
+    auto * copy = new QAction(&view);
+    copy->setObjectName("copy");
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    QObject::connect(copy, &QAction::triggered, &view, [&view] {
+        QString const text = copyText(view);
+        if (!text.trimmed().isEmpty()) {
+            QGuiApplication::clipboard()->setText(text);
+        }
+    });
+    view.addAction(copy);
+    view.setContextMenuPolicy(Qt::ActionsContextMenu);
+    setTextsNowAndLater(view, [copy] { copy->setText(QCoreApplication::translate("Workbench", "&Copy")); });
 }
 
 void wrapLastColumn(QTableWidget & table)

@@ -9,6 +9,12 @@ namespace Workbench {
 QTableWidget * makeTable(QStringList const & titles);
 void prepareTable(QTableWidget & table, QStringList const & titles);
 
+/// The selected cells as lines of cells separated by tabs, in the order shown; without a selection the
+/// current row, and without one nothing. Breaks and tabs within a cell become blanks.
+QString copyText(QAbstractItemView const & view);
+/// Copies the selected cells by key and by a context menu. The clipboard stays when there is nothing to copy.
+void offerCopy(QAbstractItemView & view);
+
 /// Wraps the texts of the last column; rows grow as needed, the other columns fit their content.
 void wrapLastColumn(QTableWidget & table);
 

@@ -3,6 +3,8 @@
 #include <UIAPICommon.h>
 #include <UIAPICommonExt.h>
 
+#include <QString>
+
 namespace Workbench {
 
 using KVCAM::UIAPI::Ext::Unit;
@@ -17,6 +19,14 @@ inline void giveUnit(void const * view, Unit unit)
 inline void switchUnit(void const * view)
 {
     giveUnit(view, otherUnit(KVCAM::UIAPI::Ext::unitOf(view)));
+}
+
+/// The name of a view's large unit (kind 0) or small one (kind 1) on the screen: the library's, but with the
+/// micrometre as µm.
+inline QString unitName(void const * view, int kind)
+{
+    QString const name = QString::fromStdString(KVCAM::UIAPI::getUnitStringType(view, kind));
+    return name == "my" ? QString::fromUtf8("µm") : name;
 }
 
 /// The length of a small unit.

@@ -313,4 +313,15 @@ void BoardPage::showMeasurement(QString const & step, QString const & layer, Mar
     currentView()->centreOn(mark.x, mark.y);
 }
 
+void BoardPage::fadeMarks(bool remove)
+{
+    for (BoardView * view : m_views) {
+        std::vector<Mark> marks = remove ? std::vector<Mark>() : view->marks();
+        for (Mark & mark : marks) {
+            mark.isFaint = true;
+        }
+        view->setMarks(std::move(marks));
+    }
+}
+
 } // namespace Workbench

@@ -64,6 +64,8 @@ public:
     void deleteSelected();
     /// Brings a measurement's step, layer and place to the front, and marks the place.
     void showMeasurement(QString const & step, QString const & layer, Workbench::Mark const & mark);
+    /// Makes all marks faint, since the board may have changed, or removes them.
+    void fadeMarks(bool remove);
 
 signals:
     /// Another step is in front.

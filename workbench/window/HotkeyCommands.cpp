@@ -1,17 +1,16 @@
 #include "window/HotkeyCommands.h"
 
-#include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
 #include "window/KeyOwner.h"
+#include "window/Measuring.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 namespace Workbench {
@@ -145,12 +144,16 @@ QString onOff(bool on)
 
 } // namespace
 
-HotkeyCommands::HotkeyCommands(BoardPage & board, QObject * parent) : QObject(parent), m_board(board)
+HotkeyCommands::HotkeyCommands(BoardPage & board, QObject * parent)
+    : QObject(parent), m_board(board), m_measuring(std::make_unique<Measuring>(board))
 {
+    connect(m_measuring.get(), &Measuring::status, this, &HotkeyCommands::status);
     connect(&board, &BoardPage::selectionChanged, this, [this] { emit status(selectionText()); });
     board.currentView()->setFocus();
     qApp->installEventFilter(this);
 }
+
+HotkeyCommands::~HotkeyCommands() = default;
 
 HotkeyCommands::Command const & HotkeyCommands::command(FuncCode code)
 {
@@ -212,6 +215,10 @@ bool HotkeyCommands::press(QKeyEvent & event)
 {
     if (event.isAutoRepeat() && event.modifiers() == Qt::NoModifier) {
         return false; // a key held down does not begin a sequence
+    }
+    if (event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier && m_measuring->end()) {
+        emit status({});
+        return true;
     }
     FuncCode const code = KVHotKey::getInstance()->getFunctionCode(&event);
     if (event.isAutoRepeat() && !command(code).repeats) {
@@ -338,26 +345,9 @@ QString HotkeyCommands::centre(int /*argument*/)
     return {};
 }
 
-// The first press takes the pointer's place, the second shows the distance from there.
 QString HotkeyCommands::measure(int /*argument*/)
 {
-    BoardView const & shown = *m_board.currentView();
-    coordinate const * const pointer = getCoordinate(view());
-    if (pointer == nullptr) {
-        return {};
-    }
-    QPointF const place(pointer->x, pointer->y);
-    if (m_measured != &shown) {
-        m_measured = &shown;
-        m_measuredFrom = place;
-        return tr("from %1; press again at the other end").arg(positionText(view(), place.x(), place.y()));
-    }
-    m_measured = nullptr;
-    QPointF const distance = place - m_measuredFrom;
-    return QString("%1 %2 (%3)")
-        .arg(getUnitJudgeStringMetric(view(), std::hypot(distance.x(), distance.y())),
-             QString::fromStdString(getUnitStringType(view(), 0)),
-             sizeText(view(), std::abs(distance.x()), std::abs(distance.y())));
+    return m_measuring->press();
 }
 
 QString HotkeyCommands::snap(int mode)

@@ -3,14 +3,15 @@
 #include <UIAPICommon.h>
 
 #include <QObject>
-#include <QPointF>
+
+#include <memory>
 
 class QKeyEvent;
 
 namespace Workbench {
 
 class BoardPage;
-class BoardView;
+class Measuring;
 
 /// Runs the commands of the board's page by their hot keys while the page is in front. Keys that
 /// belong to the widget with the focus (keepsKey) reach it; of all others it gets what is no hot key and
@@ -23,6 +24,7 @@ public:
     /// The page must be in its window already; it is not owned and outlives the object. Its view gets the
     /// focus.
     HotkeyCommands(BoardPage & board, QObject * parent);
+    ~HotkeyCommands() override;
 
     /// Runs the command of a code on the view in front, as its key would.
     void perform(KVCAM::FuncCode code);
@@ -68,8 +70,7 @@ private:
     QString snap(int mode);
 
     BoardPage & m_board;
-    BoardView const * m_measured = nullptr; ///< the view of the first point
-    QPointF m_measuredFrom;
+    std::unique_ptr<Measuring> m_measuring;
 };
 
 } // namespace Workbench

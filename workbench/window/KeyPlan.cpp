@@ -140,7 +140,7 @@ void KeyRecorder::press(int key, Qt::KeyboardModifiers modifiers)
 
 QString keysFile()
 {
-    return Ext::hotkeyFile;
+    return Ext::userFile(Ext::hotkeyFile);
 }
 
 KeysSaved saveKeys(std::vector<KeyPlan::Binding> const & bindings, bool keepsOld)

@@ -7,12 +7,14 @@
 #include "layers/ReferencesPage.h"
 #include "pages/AttributesPage.h"
 #include "pages/EdaPage.h"
+#include "pages/EdaPortLabel.h"
 #include "pages/SettingsPage.h"
 #include "pages/SymbolsPage.h"
 #include "pages/TemplatesPage.h"
 #include "ui/BoardDrop.h"
 #include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
+#include "ui/ToolTips.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
 #include "window/Comparison.h"
@@ -99,11 +101,12 @@ void MainWindow::makeToolBar()
     }
     setTextsNowAndLater(*m_bar, [this] {
         m_bar->setWindowTitle(tr("View"));
-        m_unit->setToolTip(tr("Switches the unit of the shown step's view"));
+        m_unit->setToolTip(withKeys(tr("Switches the unit of the shown step's view"), m_unit->shortcut()));
         m_saveFlag->setText(tr("&Save flag"));
         m_saveFlag->setToolTip(tr("Makes the engine also write what it is told to %1").arg(m_database));
         m_feature->setText(tr("&Feature"));
-        m_feature->setToolTip(tr("Opens the dialog on a pad, as a click on it does"));
+        m_feature->setToolTip(
+            withKeys(tr("Opens the dialog on a pad, as a click on it does"), m_feature->shortcut()));
         m_language->setToolTip(tr("Language of all texts"));
     });
 }
@@ -143,6 +146,8 @@ void MainWindow::addResults()
     connect(m_board, &BoardPage::stepChanged, m_results,
             [this] { m_results->setView(*m_board->currentView()); });
     connect(m_results, &ResultsPage::measurementSelected, m_board, &BoardPage::showMeasurement);
+    connect(m_results, &ResultsPage::marksOutdated, m_board, &BoardPage::fadeMarks);
+    connect(m_board, &BoardPage::refreshed, m_results, &ResultsPage::noteChange);
     connect(m_results, &ResultsPage::boardWanted, this, [this] {
         showPage("board");
         m_board->currentView()->setFocus();
@@ -219,6 +224,8 @@ void MainWindow::makeViewMenu()
     addZoom(QT_TR_NOOP("Zoom &out"), "F7", &BoardView::zoomOut);
     addZoom(QT_TR_NOOP("Zoom &in"), "F8", &BoardView::zoomIn);
     view->addSeparator();
+    addEntry(*view, QT_TR_NOOP("Next &violation"), "F12", [this] { m_results->showViolation(1); });
+    addEntry(*view, QT_TR_NOOP("Previous violation"), "Shift+F12", [this] { m_results->showViolation(-1); });
     addEntry(*view, QT_TR_NOOP("&Tick all layers"), "", [this] { m_board->tickAllLayers(true); });
     addEntry(*view, QT_TR_NOOP("U&ntick all layers"), "", [this] { m_board->tickAllLayers(false); });
     view->addSeparator();
@@ -250,10 +257,12 @@ void MainWindow::makeStatusBar()
     m_zoom = new QLabel;
     statusBar()->addWidget(m_status, 20); // all except what the pointer needs
     statusBar()->addWidget(m_pointer, 1);
+    statusBar()->addPermanentWidget(makeEdaPortLabel());
     statusBar()->addPermanentWidget(m_zoom);
     statusBar()->addPermanentWidget(new QLabel(m_session.directory()));
     connect(m_commands, &HotkeyCommands::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::status, this, &MainWindow::showStatus);
+    connect(m_results, &ResultsPage::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::portChanged, this, &MainWindow::showZoom);
     connect(m_board, &BoardPage::pointerMoved, this, [this] {
         m_hasPointed = true;

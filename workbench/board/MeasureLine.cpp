@@ -1,0 +1,83 @@
+#include "board/MeasureLine.h"
+
+#include "ui/Colours.h"
+#include "ui/Units.h"
+
+#include <QPainter>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Workbench {
+
+namespace {
+
+struct UnitTexts
+{
+    char const * large;
+    char const * small;
+    double perLarge; // micrometres
+    int largePlaces; // all show a tenth of a micrometre or less
+    int smallPlaces;
+};
+
+UnitTexts textsOf(Unit unit)
+{
+    return unit == Unit::Inch ? UnitTexts{"inch", "mil", 25400, 6, 3} : UnitTexts{"mm", "µm", 1000, 4, 1};
+}
+
+QString lengthText(double length, Unit unit)
+{
+    UnitTexts const texts = textsOf(unit);
+    return QString("%1 %2 (%3 %4)")
+        .arg(QString::number(length / texts.perLarge, 'f', texts.largePlaces), texts.large,
+             QString::number(1000 * length / texts.perLarge, 'f', texts.smallPlaces),
+             QString::fromUtf8(texts.small));
+}
+
+} // namespace
+
+QString measuredLineText(void const * view, QLineF const & line)
+{
+    Unit const unit = KVCAM::UIAPI::Ext::unitOf(view);
+    UnitTexts const texts = textsOf(unit);
+    auto const part = [&texts](double length) {
+        return QString::number(std::abs(length) / texts.perLarge, 'f', texts.largePlaces);
+    };
+    double const length = std::hypot(line.dx(), line.dy());
+    return QString("%1 = %2, x %3 y %4 %5")
+        .arg(lengthText(length, unit), lengthText(length, otherUnit(unit)), part(line.dx()), part(line.dy()),
+             texts.large);
+}
+
+void paintMeasuredLine(QPainter & painter, void const * view, QLineF const & line,
+                       QTransform const & boardToWidget)
+{
+    QLineF const shown = boardToWidget.map(line);
+    painter.save();
+    painter.setPen(QPen(Qt::white, 4));
+    painter.drawLine(shown);
+    painter.setPen(QPen(QColor(inkColour), 1.5, Qt::DashLine));
+    painter.drawLine(shown);
+    painter.setPen(QPen(QColor(inkColour), 1.5));
+    painter.setBrush(Qt::white);
+    for (QPointF const & end : {shown.p1(), shown.p2()}) {
+        painter.drawEllipse(end, 4, 4);
+    }
+    Unit const unit = KVCAM::UIAPI::Ext::unitOf(view);
+    double const length = std::hypot(line.dx(), line.dy());
+    QString const text = lengthText(length, unit) + '\n' + lengthText(length, otherUnit(unit));
+    QRectF box = painter.fontMetrics().boundingRect(QRect(0, 0, 2000, 200), Qt::AlignLeft, text);
+    box.adjust(-5, -3, 5, 3);
+    box.moveTopLeft(shown.p2() + QPointF(12, 12));
+    QRectF const room = painter.viewport();
+    box.moveLeft(std::max(room.left(), std::min(box.left(), room.right() - box.width())));
+    box.moveTop(std::max(room.top(), std::min(box.top(), room.bottom() - box.height())));
+    painter.setPen(QColor(inkColour));
+    painter.drawRect(box);
+    painter.drawText(box, Qt::AlignCenter, text);
+    painter.restore();
+}
+
+} // namespace Workbench
