@@ -3,6 +3,7 @@
 #include "board/LayerShapes.h"
 #include "ui/Colours.h"
 #include "ui/LanguageChange.h"
+#include "ui/Legible.h"
 #include "ui/TableTools.h"
 
 #include <QBrush>
@@ -15,12 +16,6 @@
 #include <utility>
 
 namespace Workbench {
-
-namespace {
-
-constexpr QRgb greyColour = 0xffa4a9b3;
-
-} // namespace
 
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
@@ -78,7 +73,7 @@ void LayerTable::show(Session const & session, std::size_t step)
         QTableWidgetItem & cell = *item(rowCount() - 1, 5);
         if (!error.isEmpty()) {
             cell.setToolTip(error);
-            cell.setForeground(QColor(faultColour));
+            cell.setForeground(legibleText(QColor(faultColour)));
         } else if (!hasFeatures) {
             cell.setToolTip(tr("the job holds only the tables of this layer"));
         }
@@ -106,8 +101,8 @@ void LayerTable::applyMatches()
         setRowHidden(row, isOut && m_hidesOthers);
         for (int column = 0; column < columnCount(); ++column) {
             QTableWidgetItem & cell = *item(row, column);
-            if (cell.foreground().color().rgb() != faultColour) {
-                cell.setData(Qt::ForegroundRole, isOut ? QVariant(QBrush(QColor(greyColour))) : QVariant());
+            if (cell.foreground().color() != legibleText(QColor(faultColour))) {
+                cell.setData(Qt::ForegroundRole, isOut ? QVariant(QBrush(dimmedText())) : QVariant());
             }
         }
     }

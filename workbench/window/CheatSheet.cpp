@@ -2,6 +2,7 @@
 
 #include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
+#include "ui/Legible.h"
 #include "ui/TableTools.h"
 #include "window/HotkeyCommands.h"
 
@@ -114,7 +115,7 @@ void CheatSheet::showBindings()
         addRow(*m_bindings, {binding.keys, HotkeyCommands::text(binding.code), binding.name, remark});
         if (!remark.isEmpty()) {
             for (int column = 0; column < m_bindings->columnCount(); ++column) {
-                m_bindings->item(m_bindings->rowCount() - 1, column)->setForeground(QColor("#6b7280"));
+                m_bindings->item(m_bindings->rowCount() - 1, column)->setForeground(dimmedText());
             }
         }
     }
