@@ -184,6 +184,7 @@ bool ResultsPage::runChecks()
     KVProgressDialog progress;
     progress.winId(); // creates the handle
     progress.windowHandle()->setTransientParent(window()->windowHandle());
+    progress.setMinimumDuration(300); // milliseconds
     progress.setWindowTitle(tr("Checks"));
     progress.setLabelText(tr("Measuring step %1 (F1 stops)").arg(QString::fromStdString(m_view->step())));
     progress.setCancelButtonText(tr("Stop"));

@@ -134,7 +134,7 @@ void BoardPage::makeLayout(LogLines const & log)
     }
     setCollapsible(0, false);
     setStretchFactor(0, 1);
-    setSizes({680, 140});
+    setSizes({760, 96});
 }
 
 QWidget * BoardPage::makeLayerPane()
