@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -21,7 +20,7 @@ Pane::Pane(QString const & name, char const * title, QWidget * content) : m_open
     auto * label = new QLabel;
     auto * close = new QToolButton;
     close->setAutoRaise(true);
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setText(QString::fromUtf8("×")); // in the palette's colour and the font's size, unlike an icon
     connect(close, &QToolButton::clicked, this, [this] { setOpen(false); });
     auto * head = new QHBoxLayout;
     head->addWidget(label, 1);
