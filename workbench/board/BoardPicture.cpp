@@ -59,52 +59,57 @@ void paintOutline(QImage & picture, QPainterPath const & outline, QTransform con
     strokePlainly(painter, path, cancelled);
 }
 
-// Null without memory.
-QImage paintLayer(PictureTask::Layer const & layer, QSize size, QTransform const & toPicture,
-                  std::atomic<bool> const & cancelled)
+// False without memory.
+bool paintLayer(QImage & image, PictureTask::Layer const & layer, QTransform const & toPicture,
+                std::atomic<bool> const & cancelled)
 {
     try {
-        QImage image(size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         for (PictureTask::Shapes const & shapes : layer) {
-            if (!cancelled && !image.isNull()) {
+            if (!cancelled) {
                 QPainter painter(&image);
                 LayerPainter(painter, image.rect(), shapes.layer->colour(), cancelled)
                     .paint(shapes.layer->shapes(), shapes.place * toPicture);
             }
         }
-        return image;
+        return !image.isNull();
     } catch (std::exception const &) {
-        return {};
+        return false;
     }
 }
 
-// Paints the layers onto the board, as many at a time as there are cores. No more images than that exist.
+// Paints the layers onto the board, as many at a time as there are cores, each on its own image. The images
+// are used again: touching new memory would take as long as painting a sparse layer.
 bool paintLayers(QImage & board, PictureTask const & task, QTransform const & toPicture,
                  std::atomic<bool> const & cancelled)
 {
-    QThreadPool pool;
     std::size_t const count = task.layers.size();
     std::size_t const atOnce = static_cast<std::size_t>(std::max(QThread::idealThreadCount(), 1));
+    std::vector<QImage> images(std::min(atOnce, count));
+    for (QImage & image : images) {
+        image = QImage(board.size(), QImage::Format_ARGB32_Premultiplied);
+    }
+    std::atomic<bool> isPainted{true};
+    QThreadPool pool;
     for (std::size_t first = 0; first < count && !cancelled; first += atOnce) {
-        std::vector<QImage> images(std::min(atOnce, count - first));
-        for (std::size_t i = 1; i < images.size(); ++i) {
-            pool.start([&, i] {
-                images[i] = paintLayer(task.layers[first + i], board.size(), toPicture, cancelled);
-            });
-        }
-        images[0] = paintLayer(task.layers[first], board.size(), toPicture, cancelled);
-        pool.waitForDone();
-        for (QImage const & image : images) {
-            if (image.isNull()) {
-                return false;
+        std::size_t const together = std::min(atOnce, count - first);
+        auto const paint = [&, first](std::size_t i) {
+            if (!paintLayer(images[i], task.layers[first + i], toPicture, cancelled)) {
+                isPainted = false;
             }
+        };
+        for (std::size_t i = 1; i < together; ++i) {
+            pool.start([paint, i] { paint(i); });
+        }
+        paint(0);
+        pool.waitForDone();
+        for (std::size_t i = 0; i < together && isPainted; ++i) {
             QPainter painter(&board);
             painter.setOpacity(count > 1 ? sharedOpacity : 1);
-            painter.drawImage(0, 0, image);
+            painter.drawImage(0, 0, images[i]);
         }
     }
-    return true;
+    return isPainted;
 }
 
 } // namespace
