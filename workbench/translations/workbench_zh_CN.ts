@@ -839,8 +839,8 @@ Close the program that has port %1, then start this one again.</source>
 <context>
     <name>Workbench::MainWindow</name>
     <message>
-        <source>P&amp;anes</source>
-        <translation>窗格(&amp;A)</translation>
+        <source>Pan&amp;es</source>
+        <translation>窗格(&amp;E)</translation>
     </message>
     <message>
         <source>Closes this pane; the View menu opens it again</source>

@@ -237,7 +237,7 @@ void MainWindow::makeViewMenu()
     language->addAction("&English", this, [this] { setLanguage(LANGUAGE_ENGLISH); });
     language->addAction(QString::fromUtf8("&简体中文"), this, [this] { setLanguage(LANGUAGE_CHINESE); });
     setTextsNowAndLater(*view, [this, language, panes] {
-        panes->setTitle(tr("P&anes"));
+        panes->setTitle(tr("Pan&es"));
         m_pageMenu->setTitle(tr("&Page"));
         language->setTitle(tr("&Language"));
     });
