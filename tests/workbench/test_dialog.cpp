@@ -196,13 +196,10 @@ TEST_F(Windows, TheSymbolsPageFollowsTheLanguageAndTheShownStep)
     QApplication::processEvents();
     EXPECT_EQ(names->item(0, 5)->text(), english);
 
-    ASSERT_EQ(board().views().size(), 2U);
-    setUnit(board().views()[1]->handle(), 1);
+    setUnit(board().view(1).handle(), 1);
     auto * results = page.findChild<QGroupBox *>();
     EXPECT_TRUE(results->title().endsWith("Inch")) << results->title().toStdString();
-    auto * steps = qobject_cast<QTabWidget *>(board().views()[1]->parentWidget()->parentWidget());
-    ASSERT_NE(steps, nullptr);
-    steps->setCurrentIndex(1);
+    ASSERT_TRUE(board().showStep("panel"));
     EXPECT_TRUE(results->title().endsWith("MM")) << results->title().toStdString();
     EXPECT_TRUE(window->results().findChild<QLabel *>("empty")->text().contains("step panel"));
 }

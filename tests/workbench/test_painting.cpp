@@ -289,6 +289,42 @@ TEST(HostileLayers, ArePaintedInABoundedNumberOfSteps)
     EXPECT_EQ(picture.pixelColor(116, 116).alpha(), 0);
 }
 
+// What is painted of a square from 20 to 80 before the picture of a task is finished.
+TEST(BoardPictures, WhatWasShownStandsInAndTheWholeBoardAroundIt)
+{
+    PictureTask home{{100, 100}, 1, {}, {}, {}, {}};
+    home.profile.addRect(20, 20, 60, 60);
+    PictureTask near = home;
+    near.boardToWidget = QTransform(8, 0, 0, 8, -360, -360); // 45 to 57.5
+    PictureTask slow = home;
+    slow.boardToWidget = QTransform(0.5, 0, 0, 0.5, 30, 20); // the square from 40 and 30 to 70 and 60
+    for (int i = 0; i < 300000; ++i) {
+        slow.repeats.push_back({home.profile, {}});
+    }
+    struct
+    {
+        std::vector<PictureTask> before;
+        bool isSquareWhole;
+    } const rows[] = {{{home}, true}, {{near}, false}, {{home, near}, true}, {{near, home}, true}};
+    for (auto const & row : rows) {
+        BoardPicture picture;
+        for (PictureTask const & task : row.before) {
+            picture.begin(task, [] {});
+            picture.wait(-1);
+        }
+        EXPECT_FALSE(picture.isLate());
+        picture.begin(slow, [] {});
+        QImage shown(100, 100, QImage::Format_RGB32);
+        QPainter painter(&shown);
+        picture.paint(painter);
+        bool const isWhole =
+            shown.pixelColor(43, 33) == QColor("#f3f6ee") && shown.pixelColor(67, 57) == QColor("#f3f6ee");
+        EXPECT_EQ(isWhole, row.isSquareWhole) << row.before.size();
+        EXPECT_EQ(shown.pixelColor(55, 45), QColor("#f3f6ee"));
+        EXPECT_EQ(shown.pixelColor(35, 25), QColor(Qt::white));
+    }
+}
+
 TEST(BoardPictures, ANewOneOrTheEndCancelsWhatIsPainted)
 {
     QRandomGenerator random(4);

@@ -60,7 +60,7 @@ TEST_F(MainWindows, AWindowComesBackAsItWasClosed)
     window->useStateFile("./state.ini", false);
     EXPECT_EQ(window->size(), size);
     EXPECT_EQ(find<QSplitter>("sides").sizes(), sizes);
-    EXPECT_EQ(pages(*window).currentWidget()->objectName(), "templates");
+    EXPECT_EQ(pages(*window).tabBar()->tabData(pages(*window).currentIndex()), "templates");
     EXPECT_EQ(getUnit(view()), 1);
     EXPECT_EQ(find<QComboBox>().currentData().toInt(), LANGUAGE_CHINESE);
     auto const other = makeWindow(); // starts with its own unit
@@ -228,8 +228,7 @@ TEST_F(MainWindows, TickedLayersAreDrawnInEveryStep)
     layers.setCurrentCell(14, 1);
     QTest::keyClick(&layers, Qt::Key_Space);
     EXPECT_EQ(layers.tickedLayers(), (std::vector<std::size_t>{6, 14}));
-    auto & steps = *qobject_cast<QTabWidget *>(board().views()[0]->parentWidget()->parentWidget());
-    steps.setCurrentIndex(1);
+    ASSERT_TRUE(board().showStep("panel"));
     EXPECT_EQ(layers.tickedLayers(), (std::vector<std::size_t>{6, 14}));
     QTest::keyClick(&layers, Qt::Key_Space);
     EXPECT_EQ(layers.tickedLayers(), std::vector<std::size_t>{6});

@@ -2,7 +2,7 @@
 
 #include "board/LayerShapes.h"
 
-#include <QColor>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPainterPath>
 #include <QSize>
@@ -46,8 +46,9 @@ struct PictureTask
 /// Paints the picture; null when cancelled or out of memory. May run in any thread.
 QImage paintPicture(PictureTask const & task, std::atomic<bool> const & cancelled);
 
-/// The picture of a board, made by a thread of its own, so that the window stays responsive however much
-/// there is to draw. Until it is finished, the previous picture is shown moved and scaled.
+/// The picture of a board, made by threads of its own, so that the window stays responsive however much there
+/// is to draw. Until it is finished, the previous picture is shown moved and scaled, and around it the one
+/// that showed most of the same layers.
 class BoardPicture
 {
 public:
@@ -62,17 +63,31 @@ public:
     void begin(PictureTask task, std::function<void()> finished);
     /// Waits until the picture is finished, at most so long (-1: without limit). Returns whether it is.
     bool wait(int milliseconds);
+    /// Whether a picture has been missing for 0.3 s.
+    bool isLate();
     /// Paints the current state onto a widget.
     void paint(QPainter & painter);
 
 private:
     struct Work;
+    struct Picture
+    {
+        QImage image;
+        QTransform transform;
+        // Where the image is on a widget that shows the board by another transform.
+        QTransform placeFor(QTransform const & now) const;
+    };
+    // Told apart by what owns them: an address may be used again.
+    using Shown = std::vector<std::weak_ptr<LayerShapes const>>;
+    static bool isSame(Shown const & a, Shown const & b);
     void cancel();
 
     std::shared_ptr<Work> m_work; // the latest
     QTransform m_transform;       // of the latest
-    QImage m_finished;            // the latest finished picture and its transform
-    QTransform m_finishedTransform;
+    Picture m_finished;           // the latest
+    Picture m_overview;           // the one with the smallest scale of what the latest shows
+    Shown m_overviewShows;
+    QElapsedTimer m_since; // when the first of the missing pictures was begun
     QThreadPool m_pool;
 };
 

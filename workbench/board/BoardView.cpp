@@ -30,7 +30,6 @@ constexpr double wheelStep = 1.25; // of one notch of the wheel
 constexpr double panStep = 0.1;    // of a key, in sizes of the view
 constexpr double closeZoom = 4;    // relative to home, for looking at a place
 constexpr double reach = 3;        // pixels from a feature within which a click selects it
-constexpr int patience = 25;       // milliseconds to wait for a picture before the old one is shown again
 constexpr int mostMarked = 2000;   // path elements of the outline of a marked feature
 
 } // namespace
@@ -44,7 +43,7 @@ BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * par
     , m_shown(std::make_shared<LayerShapes>())
 {
     setMouseTracking(true);
-    setMinimumSize(320, 260);
+    setMinimumSize(160, 120);
     setCursor(Qt::CrossCursor);
     setFocusPolicy(Qt::StrongFocus);
     setTextsNowAndLater(*this, [this] {
@@ -56,6 +55,9 @@ BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * par
     config.view = handle();
     config.show_param.unit = unitCode(unit);
     insertStepConfig(config);
+    m_late.setSingleShot(true);
+    m_late.setInterval(320); // a little after the picture says so
+    connect(&m_late, &QTimer::timeout, this, [this] { update(); });
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, [this](void const * view) {
         if (view == handle()) {
             update();
@@ -209,6 +211,7 @@ void BoardView::beginPicture()
     if (m_port.scale() <= 0) { // no place is anywhere
         task.layers.clear();
     }
+    m_late.start();
     m_picture.begin(std::move(task), [this] { // called by another thread
         QMetaObject::invokeMethod(
             this, [this] { update(); }, Qt::QueuedConnection);
@@ -228,12 +231,11 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
 {
     if (m_isStale) {
         beginPicture();
-        m_picture.wait(patience);
     }
     QPainter painter(this);
     m_picture.paint(painter);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_port.scale() > 0) {
+    if (m_port.scale() > 0 && !m_selected.empty()) {
         FeatureSelection::paint(painter, shapes(), m_selected, boardToWidget(), m_port.visible());
     }
     paintMarkedFeature(painter);
@@ -246,6 +248,9 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
     }
     painter.setPen(QColor("#5f6672"));
     painter.drawText(rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap, emptyText());
+    if (m_picture.isLate()) {
+        painter.drawText(rect().adjusted(20, 8, -20, -8), Qt::AlignTop | Qt::AlignRight, tr("Drawing..."));
+    }
     if (hasFocus()) {
         painter.setPen(QPen(palette().highlight().color(), 2));
         painter.setBrush(Qt::NoBrush);
@@ -255,6 +260,9 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
 
 void BoardView::paintMarkedFeature(QPainter & painter) const
 {
+    if (m_marked < 0) {
+        return; // the shapes may not be made yet
+    }
     auto const & list = shapes();
     auto const marked = std::find_if(
         list.begin(), list.end(), [this](FeatureShape const & shape) { return shape.feature == m_marked; });

@@ -9,6 +9,7 @@
 #include "ui/Units.h"
 
 #include <QLineF>
+#include <QTimer>
 #include <QWidget>
 
 #include <map>
@@ -53,7 +54,7 @@ public:
     void select(FeatureSelection::Set features);
     FeatureSelection::Set const & selected() const { return m_selected; }
     std::vector<KVCAM::API::feature_info> const & features() const { return m_shown->features(); }
-    /// Their shapes, in the same order.
+    /// Their shapes, in the same order. Waits until they are made.
     std::vector<FeatureShape> const & shapes() const { return m_shown->shapes(); }
     std::string const & layer() const { return m_shown->info().name; }
     /// Why nothing is drawn; empty when something is.
@@ -138,6 +139,7 @@ private:
     ViewPort m_port;
     BoardPicture m_picture;
     bool m_isStale = true; // a new picture has to be started
+    QTimer m_late;
     int m_marked = -1;
     FeatureSelection::Set m_selected;
     QPointF m_pressedAt;

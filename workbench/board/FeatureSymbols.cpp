@@ -8,6 +8,8 @@
 #include <QString>
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 
 namespace Workbench {
 
@@ -90,6 +92,21 @@ std::shared_ptr<FeatureSymbol const> FeatureSymbols::find(std::string const & na
     }
     m_symbols.emplace(std::pair(name, unit), symbol);
     return symbol;
+}
+
+void FeatureSymbols::findAll(std::vector<KVCAM::API::feature_info> const & features,
+                             std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings)
+{
+    std::unordered_set<std::string_view> known[2]; // by unit
+    for (std::size_t i = 0; i < features.size() && i < drawings.size(); ++i) {
+        if (features[i].kind != 'S') {
+            Unit const unit = Ext::unitOfCode(drawings[i].unit);
+            if (known[unit == Unit::Inch ? 0 : 1].insert(features[i].symbol).second) {
+                find(features[i].symbol, unit);
+            }
+        }
+    }
+    m_source = {};
 }
 
 std::shared_ptr<FeatureSymbol const> FeatureSymbols::own(std::string const & name)

@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace Workbench {
 
@@ -20,6 +21,9 @@ public:
 
     /// Never null.
     std::shared_ptr<FeatureSymbol const> find(std::string const & name, Unit unit);
+    /// Looks up the symbols of these features and drops the source, so that another thread may go on.
+    void findAll(std::vector<KVCAM::API::feature_info> const & features,
+                 std::vector<KVCAM::Embedded::FeatureDrawing> const & drawings);
 
 private:
     // Null for one that must not be read, being too deep in others or in itself.

@@ -96,6 +96,7 @@ private:
         }
         m_painter.setTransform({});
         m_painter.setPen(QPen(m_canvas.m_colour, 0));
+        m_tool = Tool::Other;
         m_painter.drawPoints(m_points);
         m_painter.drawLines(m_hairlines);
         m_points.clear();
@@ -134,13 +135,17 @@ private:
             m_painter.setTransform({});
             m_painter.drawImage(frame.topLeft(), apart);
         }
-        usePolarity(shape.positive); // the parts have changed it
+        usePolarity(shape.positive); // the parts have changed both
+        m_tool = Tool::Other;
     }
 
     void fill(FeatureShape const & shape)
     {
-        m_painter.setPen(Qt::NoPen);
-        m_painter.setBrush(m_canvas.m_colour);
+        if (m_tool != Tool::Fill) {
+            m_painter.setPen(Qt::NoPen);
+            m_painter.setBrush(m_canvas.m_colour);
+            m_tool = Tool::Fill;
+        }
         if (shape.kind == FeatureShape::Kind::Pad) {
             m_painter.setTransform(placement(shape.place, shape.angle, shape.mirrored) * m_transform);
             if (shape.symbol.use_count() == 1) { // of no other pad
@@ -176,10 +181,15 @@ private:
     {
         double const width = shape.penWidth * m_scale;
         Qt::PenCapStyle const cap = shape.squareEnds || width < roundEndWidth ? Qt::SquareCap : Qt::RoundCap;
-        QPen pen(m_canvas.m_colour, width <= hairline ? 0 : width, Qt::SolidLine, cap, Qt::RoundJoin);
         m_painter.setTransform({});
-        m_painter.setPen(pen);
-        m_painter.setBrush(Qt::NoBrush);
+        if (m_tool != Tool::Pen || m_penWidth != width || m_cap != cap) {
+            m_painter.setPen(
+                QPen(m_canvas.m_colour, width <= hairline ? 0 : width, Qt::SolidLine, cap, Qt::RoundJoin));
+            m_painter.setBrush(Qt::NoBrush);
+            m_tool = Tool::Pen;
+            m_penWidth = width;
+            m_cap = cap;
+        }
         if (shape.kind == FeatureShape::Kind::Line) {
             m_painter.drawLine(m_transform.map(QLineF(shape.place, shape.end)));
         } else {
@@ -187,8 +197,20 @@ private:
         }
     }
 
+    // What the painter is set to. Pens and brushes of the toolkit share counters, over which threads that set
+    // them for each shape wait for each other.
+    enum class Tool
+    {
+        Other,
+        Fill,
+        Pen
+    };
+
     LayerPainter & m_canvas;
     QPainter & m_painter;
+    Tool m_tool = Tool::Other;
+    double m_penWidth = 0;
+    Qt::PenCapStyle m_cap = Qt::FlatCap;
     QTransform m_transform;
     double m_scale;
     Paths & m_paths;

@@ -14,9 +14,20 @@ LayerShapes::LayerShapes(std::string const & job, std::string const & step, KVCA
     } else if (KVCAM::Embedded::isCutToTables(job, step, m_info.name)) {
         m_state = State::CutToTables;
     }
-    m_shapes = featureShapes(
-        m_features, KVCAM::Embedded::featureDrawings(job, step, m_info.name),
-        [&job](std::string const & name) { return KVCAM::Embedded::symbolGraphics(job, name); });
+    m_drawings = KVCAM::Embedded::featureDrawings(job, step, m_info.name);
+    m_symbols = FeatureSymbols(
+        [job](std::string const & name) { return KVCAM::Embedded::symbolGraphics(job, name); });
+    m_symbols.findAll(m_features, m_drawings);
+}
+
+std::vector<FeatureShape> const & LayerShapes::shapes() const
+{
+    std::call_once(m_isMade, [this] {
+        m_shapes = featureShapes(m_features, m_drawings, m_symbols);
+        m_drawings = {};
+        m_symbols = FeatureSymbols(SymbolSource());
+    });
+    return m_shapes;
 }
 
 QColor LayerShapes::colour() const
@@ -26,11 +37,11 @@ QColor LayerShapes::colour() const
 
 QRectF LayerShapes::extent() const
 {
-    if (m_shapes.empty()) {
+    if (shapes().empty()) {
         return {};
     }
-    QRectF extent = m_shapes.front().box;
-    for (FeatureShape const & shape : m_shapes) {
+    QRectF extent = shapes().front().box;
+    for (FeatureShape const & shape : shapes()) {
         extent = joined(extent, shape.box);
     }
     return extent;

@@ -1,17 +1,20 @@
 #pragma once
 
 #include "board/FeatureShapes.h"
+#include "board/FeatureSymbols.h"
 
 #include <KVCAM_API.h>
 
 #include <QColor>
 
+#include <mutex>
 #include <string>
 #include <vector>
 
 namespace Workbench {
 
-/// The features of a layer in a step and their shapes, read from the engine once.
+/// The features of a layer in a step and their shapes. The engine, which is for one thread, is read on
+/// construction; the shapes are made when first asked for, in any thread.
 class LayerShapes
 {
 public:
@@ -28,8 +31,8 @@ public:
     State state() const { return m_state; }
     QColor colour() const;
     std::vector<KVCAM::API::feature_info> const & features() const { return m_features; }
-    /// One per feature, in the same order.
-    std::vector<FeatureShape> const & shapes() const { return m_shapes; }
+    /// One per feature, in the same order. The first call makes them, and others wait for it.
+    std::vector<FeatureShape> const & shapes() const;
     /// Of everything that is painted, in micrometres; null without features.
     QRectF extent() const;
 
@@ -37,7 +40,10 @@ private:
     KVCAM::API::layer_info m_info;
     State m_state = State::Read;
     std::vector<KVCAM::API::feature_info> m_features;
-    std::vector<FeatureShape> m_shapes;
+    mutable std::once_flag m_isMade; // guards what follows
+    mutable std::vector<KVCAM::Embedded::FeatureDrawing> m_drawings;
+    mutable FeatureSymbols m_symbols{SymbolSource()};
+    mutable std::vector<FeatureShape> m_shapes;
 };
 
 } // namespace Workbench

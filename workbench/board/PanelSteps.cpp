@@ -45,7 +45,7 @@ PictureTask::Layer PanelSteps::shapes(KVCAM::API::layer_info const & layer)
         if (known == nullptr) {
             known = std::make_shared<LayerShapes const>(m_job, place.step, layer);
         }
-        if (!known->shapes().empty()) {
+        if (!known->features().empty()) {
             placed.push_back({known, place.transform});
         }
     }

@@ -1,5 +1,7 @@
 #include "checks/MeasureTexts.h"
 
+#include "ui/Legible.h"
+
 #include "ui/Units.h"
 
 #include <QCoreApplication>
@@ -33,7 +35,7 @@ QString smallUnitName(void const * view)
 
 QColor colourOf(Ext::Severity severity)
 {
-    return {static_cast<QRgb>(Ext::markOf(severity).rgb)};
+    return legibleText(static_cast<QRgb>(Ext::markOf(severity).rgb));
 }
 
 QString signOf(Ext::Severity severity)

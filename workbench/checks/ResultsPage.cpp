@@ -80,6 +80,7 @@ bool ResultsPage::measure(std::string const & step)
     KVProgressDialog progress;
     progress.winId(); // creates the handle
     progress.windowHandle()->setTransientParent(window()->windowHandle());
+    progress.setMinimumDuration(300); // milliseconds
     progress.setWindowTitle(tr("Checks"));
     progress.setLabelText(tr("Measuring step %1 (F1 stops)").arg(QString::fromStdString(step)));
     progress.setCancelButtonText(tr("Stop"));

@@ -178,7 +178,7 @@ void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
     double const end = longest() * perMil;
     double const step = tickStep(end);
     QRectF const foot(plot.left(), plot.bottom() + gap, plot.width(), rowHeight());
-    QColor const grid("#d5d9de");
+    QColor const grid = palette().color(QPalette::Midlight);
     for (int tick = 0; tick * step <= end; ++tick) {
         double const x = place(plot, tick * step / perMil);
         painter.setPen(grid);

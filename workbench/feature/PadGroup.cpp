@@ -89,7 +89,7 @@ void PadGroup::makeLayout()
     auto * names = new QPushButton;
     connect(names, &QPushButton::clicked, this, [this] { showNames(); });
     names->setAutoDefault(false);
-    setStyleSheet("KVCAM--UIAPI--KVLengthEdit[uiapiValid=\"false\"] { background: #fde0e0 }");
+    setStyleSheet("KVCAM--UIAPI--KVLengthEdit[uiapiValid=\"false\"] { background: #fde0e0; color: #20242a }");
     auto * form = new QFormLayout(this);
     addRow(*form, QT_TR_NOOP("Symbol"), "small", beside(m_name, names));
     form->addRow(QString(), m_description);

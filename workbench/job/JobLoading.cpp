@@ -12,6 +12,7 @@ bool readLayers(Session & session)
 {
     // Texts and range are set afterwards: the library's constructor uses the parent only.
     KVProgressDialog progress;
+    progress.setMinimumDuration(300); // milliseconds
     progress.setWindowTitle(
         QCoreApplication::translate("Workbench", "Opening %1").arg(QString::fromStdString(session.job())));
     progress.setRange(0, static_cast<int>(session.layers().size()));

@@ -4,6 +4,7 @@
 #include "ui/Colours.h"
 #include "ui/LanguageChange.h"
 #include "ui/LayerColours.h"
+#include "ui/Legible.h"
 #include "ui/TableTools.h"
 
 #include <QApplication>
@@ -25,7 +26,6 @@ namespace Workbench {
 
 namespace {
 
-constexpr QRgb greyColour = 0xffa4a9b3;
 constexpr int nameColumn = 1;
 constexpr int countColumn = 5;
 
@@ -113,7 +113,7 @@ void LayerTable::fillRow(Session::Layer const & layer, std::size_t step, bool is
     QTableWidgetItem & cell = *item(row, countColumn);
     if (!error.isEmpty()) {
         cell.setToolTip(error);
-        cell.setForeground(QColor(faultColour));
+        cell.setForeground(legibleText(QColor(faultColour)));
     } else if (!hasFeatures) {
         cell.setToolTip(tr("the job holds only the tables of this layer"));
     }
@@ -170,8 +170,8 @@ void LayerTable::applyMatches()
         setRowHidden(row, isOut && m_hidesOthers);
         for (int column = 0; column < columnCount(); ++column) {
             QTableWidgetItem & cell = *item(row, column);
-            if (cell.foreground().color().rgb() != faultColour) {
-                cell.setData(Qt::ForegroundRole, isOut ? QVariant(QBrush(QColor(greyColour))) : QVariant());
+            if (cell.foreground().color() != legibleText(QColor(faultColour))) {
+                cell.setData(Qt::ForegroundRole, isOut ? QVariant(QBrush(dimmedText())) : QVariant());
             }
         }
     }

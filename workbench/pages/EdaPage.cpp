@@ -3,6 +3,7 @@
 #include "ui/Colours.h"
 #include "ui/JsonText.h"
 #include "ui/LanguageChange.h"
+#include "ui/Legible.h"
 #include "ui/TableTools.h"
 
 #include <QFontDatabase>
@@ -81,7 +82,7 @@ void setKind(QTableWidgetItem & item)
     item.setToolTip(item.text());
     if (!isObject) {
         for (int column = 0; column < item.tableWidget()->columnCount(); ++column) {
-            item.tableWidget()->item(item.row(), column)->setForeground(QColor(faultColour));
+            item.tableWidget()->item(item.row(), column)->setForeground(legibleText(QColor(faultColour)));
         }
     }
 }

@@ -328,10 +328,11 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
         return message.kind == Ext::MessageKind::Question ? questions : Ext::MessageAnswer::Ok;
     });
     Camera camera(commandLine.output);
+    window.resize(1440, 900); // pictures do not depend on the screen
     window.show();
     QJsonArray steps;
     for (std::size_t i = 0; i < session.steps().size(); ++i) {
-        QJsonObject facts = switchThereAndBack(*window.board().views()[i], session.steps()[i].outline);
+        QJsonObject facts = switchThereAndBack(window.board().view(i), session.steps()[i].outline);
         QJsonObject repeats;
         for (auto const & [name, count] : session.steps()[i].repeats) {
             repeats[QString::fromStdString(name)] = count;

@@ -118,6 +118,10 @@
         <translation>板图</translation>
     </message>
     <message>
+        <source>Drawing...</source>
+        <translation>正在绘制...</translation>
+    </message>
+    <message>
         <source>No layer is shown</source>
         <translation>没有显示任何层</translation>
     </message>
@@ -1096,6 +1100,14 @@ Close the program that has port %1, then start this one again.</source>
 </context>
 <context>
     <name>Workbench::MainWindow</name>
+    <message>
+        <source>Pan&amp;es</source>
+        <translation>窗格(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Closes this pane; the View menu opens it again</source>
+        <translation>关闭此窗格，可在“视图”菜单中重新打开</translation>
+    </message>
     <message>
         <source>Repeats the step %1: %2 times</source>
         <translation>重复步骤 %1：%2 次</translation>

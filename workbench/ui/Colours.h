@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Legible.h"
+
 #include <QColor>
 #include <QString>
 
@@ -12,10 +14,10 @@ inline constexpr QRgb faultColour = 0xffb00020;
 /// Outlines and texts drawn on a board.
 inline constexpr QRgb inkColour = 0xff20242a;
 
-/// A style sheet that gives a label's text a colour.
+/// A style sheet that gives a label's text a colour, or one like it that can be read.
 inline QString textStyle(QRgb colour)
 {
-    return "color: " + QColor(colour).name();
+    return "color: " + legibleText(QColor(colour)).name();
 }
 
 /// The style sheet of a text that may report a fault; empty if it does not.

@@ -10,7 +10,6 @@ namespace Workbench {
 namespace {
 
 constexpr QRgb warningColour = 0xff8a5a00;
-constexpr QRgb lineColour = 0xff303030;
 
 } // namespace
 
@@ -53,7 +52,7 @@ void LogPane::append(QString const & line)
 {
     QRgb const colour = line.startsWith("ERROR")     ? faultColour
                         : line.startsWith("WARNING") ? warningColour
-                                                     : lineColour;
+                                                     : palette().color(QPalette::Text).rgb();
     appendHtml(QString("<span style=\"white-space:pre-wrap; %1\">").arg(textStyle(colour)) +
                line.toHtmlEscaped() + "</span>");
 }

@@ -9,6 +9,7 @@
 #include "pages/EnginePane.h"
 #include "ui/LanguageChange.h"
 #include "ui/LogPane.h"
+#include "window/Pane.h"
 #include "window/WindowTexts.h"
 
 #include <EmbeddedEngine.h>
@@ -16,7 +17,6 @@
 
 #include <glog/logging.h>
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -29,35 +29,24 @@ namespace Workbench {
 using namespace KVCAM;
 using namespace KVCAM::UIAPI;
 
-namespace {
-
-// The content in a box with a title, which is given untranslated.
-QGroupBox * titled(char const * title, QWidget * content)
-{
-    auto * box = new QGroupBox;
-    auto * layout = new QVBoxLayout(box);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->addWidget(content);
-    setTextsNowAndLater(*box, [box, title] { box->setTitle(WindowTexts::tr(title)); });
-    return box;
-}
-
-} // namespace
-
 BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile)
     : QSplitter(Qt::Vertical)
     , m_session(session)
     , m_formFile(std::move(formFile))
+    , m_unit(unit)
+    , m_views(session.steps().size())
     , m_steps(new QTabWidget)
     , m_outline(new QLabel)
     , m_layers(new LayerTable)
     , m_filter(new FilterBar(session))
     , m_engine(new EnginePane)
 {
-    makeViews(unit);
+    makeSteps();
     makeLayout(log);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &BoardPage::showOutline);
     connect(m_steps, &QTabWidget::currentChanged, this, [this] {
+        view(static_cast<std::size_t>(m_steps->currentIndex()));
+        m_step = static_cast<std::size_t>(m_steps->currentIndex()); // until then, all acts on the one before
         showCurrentStep();
         emit stepChanged();
     });
@@ -72,18 +61,50 @@ BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
-void BoardPage::makeViews(Unit unit)
+void BoardPage::makeSteps()
 {
-    for (Session::Step const & step : m_session.steps()) {
-        auto * view = new BoardView(m_session.job(), step.name, unit, this);
+    m_steps->setObjectName("steps");
+    for (std::size_t i = 0; i < m_views.size(); ++i) {
+        m_steps->addTab(new QWidget, QString());
+    }
+    view(m_step);
+}
+
+BoardView & BoardPage::view(std::size_t step)
+{
+    BoardView *& view = m_views.at(step);
+    if (view == nullptr) {
+        QWidget * tab = m_steps->widget(static_cast<int>(step));
+        view = new BoardView(m_session.job(), m_session.steps().at(step).name, m_unit, tab);
+        auto * layout = new QVBoxLayout(tab);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(view);
         connect(view, &BoardView::pointerMoved, this, &BoardPage::pointerMoved);
         connect(view, &BoardView::padPicked, this, &BoardPage::openFeature);
         connect(view, &BoardView::portChanged, this, &BoardPage::portChanged);
         connect(view, &BoardView::selectionChanged, this, &BoardPage::selectionChanged);
         connect(view, &BoardView::deleteAsked, this, &BoardPage::deleteSelected);
-        m_views.push_back(view);
-        m_steps->addTab(view, QString());
     }
+    return *view;
+}
+
+void BoardPage::setUnit(Unit unit)
+{
+    m_unit = unit;
+    for (BoardView const * view : m_views) {
+        if (view != nullptr && Ext::unitOf(view->handle()) != unit) {
+            giveUnit(view->handle(), unit);
+        }
+    }
+}
+
+QList<QAction *> BoardPage::paneActions() const
+{
+    QList<QAction *> actions;
+    for (Pane const * pane : findChildren<Pane *>()) {
+        actions.append(pane->openAction());
+    }
+    return actions;
 }
 
 void BoardPage::makeLayout(LogLines const & log)
@@ -97,19 +118,26 @@ void BoardPage::makeLayout(LogLines const & log)
 
     auto * sides = new QSplitter(Qt::Horizontal);
     sides->setObjectName("sides");
-    sides->setChildrenCollapsible(false);
-    sides->addWidget(titled(QT_TRANSLATE_NOOP("Workbench::MainWindow", "Layers"), makeLayerPane()));
-    sides->addWidget(middle);
     sides->addWidget(
-        titled(QT_TRANSLATE_NOOP("Workbench::MainWindow", "What the engine was told"), m_engine));
+        new Pane("layers", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Layers"), makeLayerPane()));
+    sides->addWidget(middle);
+    auto * engine =
+        new Pane("engine", QT_TRANSLATE_NOOP("Workbench::MainWindow", "What the engine was told"), m_engine);
+    engine->setOpen(false);
+    sides->addWidget(engine);
+    sides->setCollapsible(1, false); // the board
     sides->setStretchFactor(1, 1);
     sides->setSizes({560, 640, 240});
 
-    setChildrenCollapsible(false);
     addWidget(sides);
-    addWidget(titled(QT_TRANSLATE_NOOP("Workbench::MainWindow", "Log"), new LogPane(log)));
+    auto * lines = new LogPane(log);
+    addWidget(new Pane("log", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Log"), lines));
+    for (QWidget * list : {static_cast<QWidget *>(lines), static_cast<QWidget *>(m_layers)}) {
+        list->setMinimumHeight(2 * fontMetrics().lineSpacing()); // on a small screen; both scroll
+    }
+    setCollapsible(0, false);
     setStretchFactor(0, 1);
-    setSizes({680, 140});
+    setSizes({760, 96});
 }
 
 QWidget * BoardPage::makeLayerPane()
@@ -125,8 +153,8 @@ QWidget * BoardPage::makeLayerPane()
 void BoardPage::setTexts()
 {
     for (std::size_t i = 0; i < m_views.size(); ++i) {
-        m_steps->setTabText(static_cast<int>(i),
-                            WindowTexts::tr("Step %1").arg(QString::fromStdString(m_views[i]->step())));
+        m_steps->setTabText(static_cast<int>(i), WindowTexts::tr("Step %1").arg(
+                                                     QString::fromStdString(m_session.steps()[i].name)));
         QStringList repeats;
         for (auto const & [name, count] : m_session.steps()[i].repeats) {
             repeats.append(WindowTexts::tr("Repeats the step %1: %2 times")
@@ -135,35 +163,31 @@ void BoardPage::setTexts()
         }
         m_steps->setTabToolTip(static_cast<int>(i), repeats.join('\n'));
     }
-    m_layers->show(m_session, stepIndex());
+    m_layers->show(m_session, m_step);
     showOutline();
-}
-
-std::size_t BoardPage::stepIndex() const
-{
-    return static_cast<std::size_t>(m_steps->currentIndex());
 }
 
 BoardView * BoardPage::currentView() const
 {
-    return m_views.at(stepIndex());
+    return m_views.at(m_step);
 }
 
 bool BoardPage::showStep(QString const & name)
 {
-    auto const found = std::find_if(m_views.begin(), m_views.end(), [&](BoardView const * view) {
-        return QString::fromStdString(view->step()).compare(name, Qt::CaseInsensitive) == 0;
+    auto const & steps = m_session.steps();
+    auto const found = std::find_if(steps.begin(), steps.end(), [&](Session::Step const & step) {
+        return QString::fromStdString(step.name).compare(name, Qt::CaseInsensitive) == 0;
     });
-    if (found == m_views.end()) {
+    if (found == steps.end()) {
         return false;
     }
-    m_steps->setCurrentIndex(static_cast<int>(found - m_views.begin()));
+    m_steps->setCurrentIndex(static_cast<int>(found - steps.begin()));
     return true;
 }
 
 void BoardPage::showCurrentStep()
 {
-    m_layers->show(m_session, stepIndex());
+    m_layers->show(m_session, m_step);
     if (m_layers->selectedLayer() < 0) {
         m_layers->setCurrentCell(m_session.firstCopperLayer(currentView()->step()), 0);
     } else {
@@ -264,7 +288,7 @@ int BoardPage::firstPad() const
 void BoardPage::refresh()
 {
     closeFeature(); // its pad may be gone
-    m_session.recount(stepIndex());
+    m_session.recount(m_step);
     currentView()->reload();
     showCurrentStep();
     emit refreshed();

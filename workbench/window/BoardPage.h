@@ -4,6 +4,7 @@
 #include "job/Session.h"
 #include "ui/Units.h"
 
+#include <QList>
 #include <QPointer>
 #include <QSplitter>
 #include <QString>
@@ -11,6 +12,7 @@
 #include <cstddef>
 #include <vector>
 
+class QAction;
 class QLabel;
 class QTabWidget;
 
@@ -23,21 +25,26 @@ class FilterBar;
 class LayerTable;
 class LogLines;
 
-/// The page of the board: a view for each step in tabs, the job's layers on the left, what the engine was
-/// told on the right, and the log below. Commands act on the step in front.
+/// The page of the board: a view for each step in tabs, the job's layers on the left, the log below, and on
+/// the right, closed at first, what the engine was told. Commands act on the step in front.
 class BoardPage : public QSplitter
 {
     Q_OBJECT
 
 public:
-    /// Registers the views, which start in `unit`. Session and log are not owned and outlive the page; the
+    /// Views start in `unit`. Session and log are not owned and outlive the page; the
     /// session's counts follow deletions. `formFile` keeps the forms of the feature dialogs.
     BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile);
 
-    std::vector<BoardView *> const & views() const { return m_views; }
+    /// The view of a step, made and registered when it is first needed: a job may have thousands of steps.
+    BoardView & view(std::size_t step);
     BoardView * currentView() const;
+    /// Shows lengths in a unit, also in views that are yet to be made.
+    void setUnit(Unit unit);
+    /// What can be closed and opened again, as checkable actions for a menu.
+    QList<QAction *> paneActions() const;
     /// The session's step in front.
-    Session::Step const & currentStep() const { return m_session.steps()[stepIndex()]; }
+    Session::Step const & currentStep() const { return m_session.steps()[m_step]; }
     /// Brings a step to the front by its name in any case. False for an unknown one.
     bool showStep(QString const & name);
 
@@ -84,10 +91,9 @@ signals:
     void status(QString const & text);
 
 private:
-    void makeViews(Unit unit);
+    void makeSteps();
     void makeLayout(LogLines const & log);
     QWidget * makeLayerPane();
-    std::size_t stepIndex() const;
     void setTexts();
     void showCurrentStep();
     void showLayer(int layer);
@@ -96,7 +102,9 @@ private:
 
     Session & m_session;
     QString m_formFile;
-    std::vector<BoardView *> m_views;
+    Unit m_unit;
+    std::vector<BoardView *> m_views; // by step; null until needed
+    std::size_t m_step = 0;           // in front; its view exists
     QTabWidget * m_steps;
     QLabel * m_outline;
     LayerTable * m_layers;

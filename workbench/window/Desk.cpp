@@ -56,7 +56,9 @@ void Desk::showStart()
 // Returns what is wrong; empty on success.
 QString Desk::read(Board & board, QString const & path, QString const & step) const
 {
+    QApplication::setOverrideCursor(Qt::WaitCursor); // unpacking takes seconds and handles no events
     QString error = board.session.open(path);
+    QApplication::restoreOverrideCursor();
     if (!error.isEmpty()) {
         return error;
     }

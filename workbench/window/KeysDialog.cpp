@@ -2,6 +2,7 @@
 
 #include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
+#include "ui/Legible.h"
 #include "ui/TableTools.h"
 #include "window/HotkeyCommands.h"
 #include "window/KeyField.h"
@@ -244,7 +245,7 @@ void KeysDialog::showBindings()
             if (!remark.isEmpty()) {
                 for (int column = 0; column < m_bindings->columnCount(); ++column) {
                     m_bindings->item(m_bindings->rowCount() - 1, column)
-                        ->setForeground(palette().placeholderText());
+                        ->setForeground(dimmedText());
                 }
             }
         }

@@ -34,7 +34,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
@@ -50,7 +53,7 @@ using namespace KVCAM::UIAPI;
 MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine const & commandLine)
     : m_session(session), m_database(commandLine.output + "/uiapi-engine.sqlite")
 {
-    resize(1440, 900);
+    resize(firstWindowSize(screen()->availableSize()));
     makeToolBar();
     m_saveFlag->setChecked(commandLine.saveFlag); // before the views, to record their registration
     m_board = new BoardPage(session, log, commandLine.unit, commandLine.output + "/feature-form.json");
@@ -115,9 +118,17 @@ void MainWindow::makeToolBar()
 void MainWindow::addPage(QWidget * page, QString const & name, char const * title)
 {
     page->setObjectName(name);
-    m_pages->addTab(page, QString());
-    setTextsNowAndLater(*page,
-                        [this, page, title] { m_pages->setTabText(m_pages->indexOf(page), tr(title)); });
+    QWidget * tab = page;
+    if (page != m_board) { // a small screen shows a part of it
+        auto * area = new QScrollArea;
+        area->setFrameShape(QFrame::NoFrame);
+        area->setWidgetResizable(true);
+        area->setWidget(page);
+        tab = area;
+    }
+    int const index = m_pages->addTab(tab, QString());
+    m_pages->tabBar()->setTabData(index, name);
+    setTextsNowAndLater(*page, [this, tab, title] { m_pages->setTabText(m_pages->indexOf(tab), tr(title)); });
 }
 
 void MainWindow::addPages()
@@ -231,10 +242,13 @@ void MainWindow::makeViewMenu()
     view->addSeparator();
     m_pageMenu = view->addMenu(QString());
     connect(m_pageMenu, &QMenu::aboutToShow, this, &MainWindow::listPages);
+    QMenu * panes = view->addMenu(QString());
+    panes->addActions(m_board->paneActions());
     QMenu * language = view->addMenu(QString());
     language->addAction("&English", this, [this] { setLanguage(LANGUAGE_ENGLISH); });
     language->addAction(QString::fromUtf8("&简体中文"), this, [this] { setLanguage(LANGUAGE_CHINESE); });
-    setTextsNowAndLater(*view, [this, language] {
+    setTextsNowAndLater(*view, [this, language, panes] {
+        panes->setTitle(tr("Pan&es"));
         m_pageMenu->setTitle(tr("&Page"));
         language->setTitle(tr("&Language"));
     });
@@ -273,7 +287,7 @@ void MainWindow::makeStatusBar()
 bool MainWindow::showPage(QString const & name)
 {
     for (int i = 0; i < m_pages->count(); ++i) {
-        if (m_pages->widget(i)->objectName() == name) {
+        if (m_pages->tabBar()->tabData(i) == name) {
             m_pages->setCurrentIndex(i);
             return true;
         }
@@ -320,10 +334,8 @@ void MainWindow::useStateFile(QString const & file, bool keepsUnit)
         return;
     }
     showPage(choices->page);
-    for (BoardView const * view : m_board->views()) {
-        if (!keepsUnit && Ext::unitOf(view->handle()) != choices->unit) {
-            giveUnit(view->handle(), choices->unit);
-        }
+    if (!keepsUnit) {
+        m_board->setUnit(choices->unit);
     }
     setLanguage(choices->chinese ? LANGUAGE_CHINESE : LANGUAGE_ENGLISH);
 }
@@ -334,7 +346,8 @@ void MainWindow::closeEvent(QCloseEvent * event)
     if (!m_stateFile.isEmpty()) {
         bool const chinese = m_language->currentData().toInt() == LANGUAGE_CHINESE;
         Unit const unit = Ext::unitOf(m_board->currentView()->handle());
-        keepWindow(*this, {m_pages->currentWidget()->objectName(), unit, chinese}, m_stateFile);
+        QString const page = m_pages->tabBar()->tabData(m_pages->currentIndex()).toString();
+        keepWindow(*this, {page, unit, chinese}, m_stateFile);
     }
     QMainWindow::closeEvent(event);
 }

@@ -1,5 +1,7 @@
 #include "window/WindowState.h"
 
+#include "window/Pane.h"
+
 #include <glog/logging.h>
 
 #include <QMainWindow>
@@ -20,7 +22,17 @@ QString splitterKey(QSplitter const & splitter)
     return "splitters/" + splitter.objectName();
 }
 
+QString paneKey(Pane const & pane)
+{
+    return "panes/" + pane.objectName();
+}
+
 } // namespace
+
+QSize firstWindowSize(QSize available)
+{
+    return QSize(1440, 900).boundedTo(available - QSize(16, 48));
+}
 
 std::optional<WindowChoices> savedChoices(QString const & file)
 {
@@ -47,7 +59,9 @@ std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const &
     window.restoreGeometry(settings.value(geometryKey).toByteArray());
     for (auto * splitter : window.findChildren<QSplitter *>()) {
         splitter->restoreState(settings.value(splitterKey(*splitter)).toByteArray());
-        splitter->setChildrenCollapsible(false); // the state holds this, too
+    }
+    for (auto * pane : window.findChildren<Pane *>()) {
+        pane->setOpen(settings.value(paneKey(*pane), pane->isOpen()).toString() == "true");
     }
     return savedChoices(file);
 }
@@ -58,6 +72,9 @@ bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QStri
     settings.setValue(geometryKey, window.saveGeometry());
     for (auto const * splitter : window.findChildren<QSplitter *>()) {
         settings.setValue(splitterKey(*splitter), splitter->saveState());
+    }
+    for (auto const * pane : window.findChildren<Pane *>()) {
+        settings.setValue(paneKey(*pane), pane->isOpen());
     }
     settings.setValue(pageKey, choices.page);
     settings.setValue(unitKey, unitCode(choices.unit));

@@ -2,6 +2,7 @@
 
 #include "ui/Units.h"
 
+#include <QSize>
 #include <QString>
 
 #include <optional>
@@ -18,10 +19,13 @@ struct WindowChoices
     bool chinese = false;
 };
 
+/// The size of a window that has none saved: within the screen, with room for a frame and a title.
+QSize firstWindowSize(QSize available);
+
 /// The choices that were saved in a file, if any.
 std::optional<WindowChoices> savedChoices(QString const & file);
-/// Restores the window and its named splitters from a file, each as far as the file is valid: a damaged or
-/// missing file changes nothing. Returns the other choices, if they were saved.
+/// Restores the window, its named splitters and its panes from a file, each as far as the file is valid: a
+/// damaged or missing file changes nothing. Returns the other choices, if they were saved.
 std::optional<WindowChoices> restoreWindow(QMainWindow & window, QString const & file);
 /// Saves them to a file. False, and logged at ERROR, if it cannot be written.
 bool keepWindow(QMainWindow const & window, WindowChoices const & choices, QString const & file);
