@@ -309,7 +309,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     KVCAM::Embedded::setSaveFlag(false);
 }
 
-TEST(Selections, TakeTheUppermostFeatureAtAPlaceAndItsLikes)
+TEST(Selections, TakeTheSmallestFeatureAtAPlaceAndItsLikes)
 {
     FeatureShape line;
     line.kind = FeatureShape::Kind::Line;

@@ -35,11 +35,15 @@ bool isAt(FeatureShape const & shape, QPointF place, double tolerance)
         return distanceToLine(place, shape.place, shape.end) <= shape.penWidth / 2 + tolerance;
     }
     if (shape.kind == FeatureShape::Kind::Pad) {
-        return true; // the box is close enough, as for opening a pad
+        bool const isOwn = shape.symbol == nullptr || !shape.symbol->parts.empty();
+        if (isOwn) {
+            return true; // its drawing may have gaps, in which it is meant as well
+        }
     }
+    QPainterPath const path = shape.kind == FeatureShape::Kind::Pad ? shape.outline() : shape.path;
     QPainterPathStroker stroker;
     stroker.setWidth((shape.filled ? 0 : shape.penWidth) + 2 * tolerance);
-    return (shape.filled && shape.path.contains(place)) || stroker.createStroke(shape.path).contains(place);
+    return (shape.filled && path.contains(place)) || stroker.createStroke(path).contains(place);
 }
 
 auto looks(KVCAM::API::feature_info const & feature)
@@ -51,10 +55,14 @@ auto looks(KVCAM::API::feature_info const & feature)
 
 int featureAt(Shapes const & shapes, QPointF place, double tolerance)
 {
-    auto const found = std::find_if(shapes.rbegin(), shapes.rend(), [&](FeatureShape const & shape) {
-        return isAt(shape, place, tolerance);
-    });
-    return found == shapes.rend() ? -1 : found->feature;
+    FeatureShape const * best = nullptr;
+    auto const area = [](FeatureShape const & shape) { return shape.box.width() * shape.box.height(); };
+    for (auto shape = shapes.rbegin(); shape != shapes.rend(); ++shape) {
+        if ((best == nullptr || area(*shape) < area(*best)) && isAt(*shape, place, tolerance)) {
+            best = &*shape;
+        }
+    }
+    return best == nullptr ? -1 : best->feature;
 }
 
 Set all(Features const & features)
@@ -120,6 +128,11 @@ void paint(QPainter & painter, Shapes const & shapes, Set const & set, QTransfor
         } else {
             painter.drawRect(boardToWidget.mapRect(shape->box));
         }
+    }
+    if (set.size() == 1 && !shown.empty()) { // to be found however small it is
+        constexpr int ring = 14;
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(boardToWidget.map(shown.front()->box.center()), ring, ring);
     }
     painter.restore();
 }

@@ -17,7 +17,9 @@ using Set = std::set<int>;
 using Features = std::vector<KVCAM::API::feature_info>;
 using Shapes = std::vector<FeatureShape>;
 
-/// The uppermost feature within `tolerance` (micrometres, positive) of a place on the board; -1 for none.
+/// The feature within `tolerance` (micrometres, positive) of a place on the board; -1 for none. Of several,
+/// the one with the smallest box is meant, since large ones can be picked beside it; of equal ones, the
+/// uppermost.
 int featureAt(Shapes const & shapes, QPointF place, double tolerance);
 
 Set all(Features const & features);

@@ -1,9 +1,8 @@
 #include "window/BoardPage.h"
-#include "feature/PadSymbol.h"
 
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
-#include "feature/FeatureDialog.h"
+#include "feature/FeaturePane.h"
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
 #include "pages/EnginePane.h"
@@ -18,6 +17,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -44,10 +44,9 @@ QGroupBox * titled(char const * title, QWidget * content)
 
 } // namespace
 
-BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile)
+BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit)
     : QSplitter(Qt::Vertical)
     , m_session(session)
-    , m_formFile(std::move(formFile))
     , m_steps(new QTabWidget)
     , m_outline(new QLabel)
     , m_layers(new LayerTable)
@@ -55,6 +54,8 @@ BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString
     , m_engine(new EnginePane)
 {
     makeViews(unit);
+    m_feature = new FeaturePane(*m_views.front());
+    connect(m_feature, &FeaturePane::changeWanted, this, &BoardPage::changeSymbol);
     makeLayout(log);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &BoardPage::showOutline);
     connect(m_steps, &QTabWidget::currentChanged, this, [this] {
@@ -74,7 +75,7 @@ void BoardPage::makeViews(Unit unit)
     for (Session::Step const & step : m_session.steps()) {
         auto * view = new BoardView(m_session.job(), step.name, unit, this);
         connect(view, &BoardView::pointerMoved, this, &BoardPage::pointerMoved);
-        connect(view, &BoardView::padPicked, this, &BoardPage::openFeature);
+        connect(view, &BoardView::selectionShown, this, [this] { m_feature->showSelection(*currentView()); });
         connect(view, &BoardView::portChanged, this, &BoardPage::portChanged);
         connect(view, &BoardView::selectionChanged, this, &BoardPage::selectionChanged);
         connect(view, &BoardView::deleteAsked, this, &BoardPage::deleteSelected);
@@ -97,8 +98,16 @@ void BoardPage::makeLayout(LogLines const & log)
     sides->setChildrenCollapsible(false);
     sides->addWidget(titled(QT_TRANSLATE_NOOP("Workbench::MainWindow", "Layers"), makeLayerPane()));
     sides->addWidget(middle);
-    sides->addWidget(
+    auto * right = new QSplitter(Qt::Vertical);
+    right->setChildrenCollapsible(false);
+    auto * feature = new QScrollArea;
+    feature->setFrameShape(QFrame::NoFrame);
+    feature->setWidgetResizable(true);
+    feature->setWidget(m_feature);
+    right->addWidget(titled(QT_TRANSLATE_NOOP("Workbench::MainWindow", "Feature"), feature));
+    right->addWidget(
         titled(QT_TRANSLATE_NOOP("Workbench::MainWindow", "What the engine was told"), m_engine));
+    sides->addWidget(right);
     sides->setStretchFactor(1, 1);
     sides->setSizes({560, 640, 240});
 
@@ -167,6 +176,7 @@ void BoardPage::showCurrentStep()
         showLayer(m_layers->selectedLayer());
     }
     showTicked();
+    m_feature->showSelection(*currentView());
     setStepConfigToAPI(currentView()->handle()); // the engine holds the state of the view in front
     refreshEngine();
     m_filter->setStep(currentView()->step());
@@ -175,7 +185,6 @@ void BoardPage::showCurrentStep()
 
 void BoardPage::showLayer(int layer)
 {
-    closeFeature(); // its pad belongs to the layer that was shown
     m_filter->setLayer(layer);
     if (layer >= 0) {
         currentView()->showLayer(m_session.layers().at(static_cast<std::size_t>(layer)).info);
@@ -212,50 +221,15 @@ void BoardPage::refreshEngine()
     m_engine->refresh();
 }
 
-FeatureDialog * BoardPage::openFeature(int feature)
+void BoardPage::openFeature()
 {
-    closeFeature();
-    currentView()->markFeature(feature);
-    m_feature = new FeatureDialog(*currentView(), feature, m_session.job(), m_formFile, this);
-    m_feature->restoreForm();
-    m_feature->show();
-    return m_feature;
-}
-
-void BoardPage::openFirstPad()
-{
-    int const pad = firstPad();
-    if (pad >= 0) {
-        openFeature(pad);
-    } else {
-        Ext::showMessage({Ext::MessageKind::Information, window(), WindowTexts::tr("Information"),
-                          WindowTexts::tr("This layer has no pads.")});
+    if (!m_feature->beginEditing()) {
+        emit status(WindowTexts::tr("Nothing with a symbol is selected. A click selects a feature."));
     }
-}
-
-void BoardPage::closeFeature()
-{
-    if (m_feature != nullptr) {
-        m_feature->close();
-        m_feature->deleteLater();
-        m_feature = nullptr;
-    }
-}
-
-int BoardPage::firstPad() const
-{
-    for (auto const & feature : currentView()->features()) {
-        PadSymbol const symbol(QString::fromStdString(feature.symbol), Unit::Inch);
-        if (feature.kind == 'P' && symbol.hasWidth()) {
-            return feature.index;
-        }
-    }
-    return -1;
 }
 
 void BoardPage::refresh()
 {
-    closeFeature(); // its pad may be gone
     m_session.recount(stepIndex());
     currentView()->reload();
     showCurrentStep();
@@ -280,13 +254,36 @@ void BoardPage::deleteSelected()
         return;
     }
     if (!Embedded::deleteFeatures(m_session.job(), view.step(), view.layer(), features)) {
-        QString const reason = QString::fromStdString(Embedded::lastError()).simplified();
-        LOG(ERROR) << "workbench: cannot delete features: " << reason.toStdString();
-        emit status(WindowTexts::tr("Nothing was deleted: %1").arg(reason));
+        showRefusal(WindowTexts::tr("Nothing was deleted: %1"));
         return;
     }
     refresh();
     emit status(WindowTexts::tr("Deleted features: %1").arg(features.size()));
+}
+
+void BoardPage::changeSymbol(SymbolChange const & change)
+{
+    if (!Embedded::changeSymbol(m_session.job(), change.step, change.layer, change.features,
+                                change.symbol.name().toStdString(), unitCode(change.symbol.unit()))) {
+        showRefusal(WindowTexts::tr("Nothing was changed: %1"));
+        m_feature->showSelection(*currentView());
+        return;
+    }
+    refresh();
+    BoardView & view = *currentView();
+    if (view.step() == change.step && view.layer() == change.layer) {
+        view.select({change.features.begin(), change.features.end()});
+    }
+    emit status(
+        WindowTexts::tr("Features changed to %1: %2").arg(change.symbol.name()).arg(change.features.size()));
+}
+
+// The text has a place for the engine's reason.
+void BoardPage::showRefusal(QString const & text)
+{
+    QString const reason = QString::fromStdString(Embedded::lastError()).simplified();
+    LOG(ERROR) << "workbench: cannot change features: " << reason.toStdString();
+    emit status(text.arg(reason));
 }
 
 void BoardPage::showMeasurement(QString const & step, QString const & layer, Mark const & mark)

@@ -4,7 +4,6 @@
 #include "job/Session.h"
 #include "ui/Units.h"
 
-#include <QPointer>
 #include <QSplitter>
 #include <QString>
 
@@ -18,21 +17,22 @@ namespace Workbench {
 
 class BoardView;
 class EnginePane;
-class FeatureDialog;
+class FeaturePane;
 class FilterBar;
 class LayerTable;
 class LogLines;
+struct SymbolChange;
 
-/// The page of the board: a view for each step in tabs, the job's layers on the left, what the engine was
-/// told on the right, and the log below. Commands act on the step in front.
+/// The page of the board: a view for each step in tabs, the job's layers on the left, the selected features
+/// and what the engine was told on the right, and the log below. Commands act on the step in front.
 class BoardPage : public QSplitter
 {
     Q_OBJECT
 
 public:
     /// Registers the views, which start in `unit`. Session and log are not owned and outlive the page; the
-    /// session's counts follow deletions. `formFile` keeps the forms of the feature dialogs.
-    BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile);
+    /// session's counts follow deletions.
+    BoardPage(Session & session, LogLines const & log, Unit unit);
 
     std::vector<BoardView *> const & views() const { return m_views; }
     BoardView * currentView() const;
@@ -41,14 +41,9 @@ public:
     /// Brings a step to the front by its name in any case. False for an unknown one.
     bool showStep(QString const & name);
 
-    /// Opens the dialog on a pad of the shown layer. It replaces an open one and is owned by the page.
-    FeatureDialog * openFeature(int feature);
-    /// Opens the dialog on the first pad, or says that there is none.
-    void openFirstPad();
-    /// Closes the dialog, which saves its form.
-    void closeFeature();
-    /// The first pad of the shown layer whose symbol has sizes; -1 if there is none.
-    int firstPad() const;
+    FeaturePane & feature() const { return *m_feature; }
+    /// Lets the user change the selected features, or says that nothing is selected.
+    void openFeature();
 
     void tickAllLayers(bool on);
     /// Reads the features of the step in front again and shows its state.
@@ -60,6 +55,8 @@ public:
     /// Deletes the selected features of the shown layer without asking, since it can be undone. The status
     /// tells how many were deleted, or why none were.
     void deleteSelected();
+    /// Gives features another symbol and selects them again, likewise.
+    void changeSymbol(SymbolChange const & change);
     /// Brings a measurement's step, layer and place to the front, and marks the place.
     void showMeasurement(QString const & step, QString const & layer, Workbench::Mark const & mark);
 
@@ -87,16 +84,16 @@ private:
     void showLayer(int layer);
     void showTicked();
     void showOutline();
+    void showRefusal(QString const & text);
 
     Session & m_session;
-    QString m_formFile;
     std::vector<BoardView *> m_views;
     QTabWidget * m_steps;
     QLabel * m_outline;
     LayerTable * m_layers;
     FilterBar * m_filter;
     EnginePane * m_engine;
-    QPointer<FeatureDialog> m_feature;
+    FeaturePane * m_feature;
 };
 
 } // namespace Workbench
