@@ -343,6 +343,12 @@ TEST(Selections, TakeTheSmallestFeatureAtAPlaceAndItsLikes)
         EXPECT_EQ(FeatureSelection::featureAt({line, ring, arc}, row.place, row.tolerance), row.feature)
             << row.place.x() << ' ' << row.place.y() << ' ' << row.tolerance;
     }
+    std::vector<FeatureShape> const both = {line, ring};
+    int meant = -1;
+    for (int const next : {5, 3, 5}) { // one click after the other where both are
+        meant = FeatureSelection::featureAt(both, {20, 20}, 9, meant);
+        EXPECT_EQ(meant, next);
+    }
     FeatureSelection::Features const features = {
         {0, 'P', "r10", true, {}}, {2, 'P', "r10", true, {}}, {4, 'P', "r10", false, {}},
         {5, 'L', "r10", true, {}}, {7, 'P', "s10", true, {}},

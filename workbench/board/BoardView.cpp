@@ -317,8 +317,9 @@ void BoardView::pickAt(QPointF pixel)
 
 void BoardView::selectAt(QPointF pixel, bool toggles)
 {
+    int const before = !toggles && m_selected.size() == 1 ? *m_selected.begin() : -1;
     int const feature = m_port.scale() > 0 ? FeatureSelection::featureAt(shapes(), m_port.toBoard(pixel),
-                                                                         reach / m_port.scale())
+                                                                         reach / m_port.scale(), before)
                                            : -1;
     FeatureSelection::Set selected = toggles ? m_selected : FeatureSelection::Set();
     if (feature >= 0 && selected.erase(feature) == 0) {

@@ -22,8 +22,9 @@ namespace Workbench {
 /// as long as the window.
 ///
 /// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or selects the
-/// feature there alone, and Ctrl with a click toggles its selection. With the focus, arrows move, + and -
-/// zoom, and Home shows the whole board. Zoom and place stay when the layer or the unit changes.
+/// feature there alone, a further click the next larger one there, and Ctrl with a click toggles a feature's
+/// selection. With the focus, arrows move, + and - zoom, and Home shows the whole board. Zoom and place stay
+/// when the layer or the unit changes.
 class BoardView : public QWidget
 {
     Q_OBJECT

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 #include <tuple>
 
@@ -53,16 +54,24 @@ auto looks(KVCAM::API::feature_info const & feature)
 
 } // namespace
 
-int featureAt(Shapes const & shapes, QPointF place, double tolerance)
+int featureAt(Shapes const & shapes, QPointF place, double tolerance, int after)
 {
-    FeatureShape const * best = nullptr;
-    auto const area = [](FeatureShape const & shape) { return shape.box.width() * shape.box.height(); };
+    std::vector<FeatureShape const *> hits;
     for (auto shape = shapes.rbegin(); shape != shapes.rend(); ++shape) {
-        if ((best == nullptr || area(*shape) < area(*best)) && isAt(*shape, place, tolerance)) {
-            best = &*shape;
+        if (isAt(*shape, place, tolerance)) {
+            hits.push_back(&*shape);
         }
     }
-    return best == nullptr ? -1 : best->feature;
+    if (hits.empty()) {
+        return -1;
+    }
+    std::stable_sort(hits.begin(), hits.end(), [](FeatureShape const * a, FeatureShape const * b) {
+        return a->box.width() * a->box.height() < b->box.width() * b->box.height();
+    });
+    auto const known = std::find_if(hits.begin(), hits.end(),
+                                    [after](FeatureShape const * shape) { return shape->feature == after; });
+    bool const isLast = known == hits.end() || std::next(known) == hits.end();
+    return (isLast ? hits.front() : *std::next(known))->feature;
 }
 
 Set all(Features const & features)

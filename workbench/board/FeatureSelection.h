@@ -19,8 +19,8 @@ using Shapes = std::vector<FeatureShape>;
 
 /// The feature within `tolerance` (micrometres, positive) of a place on the board; -1 for none. Of several,
 /// the one with the smallest box is meant, since large ones can be picked beside it; of equal ones, the
-/// uppermost.
-int featureAt(Shapes const & shapes, QPointF place, double tolerance);
+/// uppermost. If `after`, which was meant before, is there, the next larger one is meant.
+int featureAt(Shapes const & shapes, QPointF place, double tolerance, int after = -1);
 
 Set all(Features const & features);
 /// All features that are not in the set.
