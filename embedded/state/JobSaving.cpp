@@ -7,6 +7,7 @@
 #include "formats/NetsFile.h"
 
 #include "support/DirectoryTree.h"
+#include "support/NativePath.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,6 +39,9 @@ void checkTarget(QFileInfo const & target, QString const & job)
     QString const path = target.filePath();
     if (std::string const reason = refusal(target.fileName().toStdString()); !reason.empty()) {
         throw JobError(path.toStdString() + ": " + reason);
+    }
+    if (!UIAPI::NativePath::isLiteral(path)) {
+        fail(path, "the system would take the name for another");
     }
     QString const parent = QFileInfo(target.path()).canonicalFilePath();
     if (parent.isEmpty() || !QFileInfo(parent).isDir()) {
@@ -237,7 +241,7 @@ private:
 
 std::filesystem::path native(QString const & path)
 {
-    return std::filesystem::u8path(QDir::toNativeSeparators(path).toStdString());
+    return UIAPI::NativePath::literal(std::filesystem::u8path(QDir::toNativeSeparators(path).toStdString()));
 }
 
 } // namespace

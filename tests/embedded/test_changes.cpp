@@ -97,7 +97,7 @@ Texts const asRead{"0 r100 1", "1 r100 1", "2  0", "3 rect10x20 0", "4 rect10x20
 TEST_F(ChangesTest, ChangesAndDeletionsAreOneListThatUndoTakesBack)
 {
     EXPECT_FALSE(Embedded::isJobChanged("board"));
-    ASSERT_TRUE(change({5, 0, 5}, "r99.5")) << Embedded::lastError();
+    ASSERT_TRUE(change({5, 0, 4, 5}, "r99.5")) << Embedded::lastError();
     ASSERT_TRUE(remove({5, 1}));
     ASSERT_TRUE(change({0, 3}, "rect10x20", 0)) << "which feature 3 has already";
     ASSERT_TRUE(change({4}, "own+1")) << Embedded::lastError();
@@ -106,9 +106,9 @@ TEST_F(ChangesTest, ChangesAndDeletionsAreOneListThatUndoTakesBack)
     EXPECT_EQ(API::op_size("board", "pcb"), 4);
     EXPECT_TRUE(Embedded::isJobChanged("board"));
     for (Texts const & expected :
-         {Texts{"0 rect10x20 0", "2  0", "3 rect10x20 0", "4 rect10x20 0"},
-          Texts{"0 r99.5 1", "2  0", "3 rect10x20 0", "4 rect10x20 0"},
-          Texts{"0 r99.5 1", "1 r100 1", "2  0", "3 rect10x20 0", "4 rect10x20 0", "5 r99.5 1"}, asRead}) {
+         {Texts{"0 rect10x20 0", "2  0", "3 rect10x20 0", "4 r99.5 1"},
+          Texts{"0 r99.5 1", "2  0", "3 rect10x20 0", "4 r99.5 1"},
+          Texts{"0 r99.5 1", "1 r100 1", "2  0", "3 rect10x20 0", "4 r99.5 1", "5 r99.5 1"}, asRead}) {
         ASSERT_TRUE(API::Undo("board", "pcb"));
         EXPECT_EQ(symbols(), expected);
     }
@@ -157,8 +157,8 @@ TEST_F(ChangesTest, ChecksMeasureTheNewSymbol)
         return records.empty() ? -1 : records[0].points.back();
     };
     EXPECT_EQ(width(), 100);
-    ASSERT_TRUE(change({1}, "r2.5", 0));
-    EXPECT_EQ(width(), 64) << "2.5 mil in a file of millimetres";
+    ASSERT_TRUE(change({1}, "r100", 0));
+    EXPECT_EQ(width(), 2540) << "the same name in mil";
 }
 
 TEST_F(ChangesTest, NetsAndAttributesAreThoseOfTheFiles)
