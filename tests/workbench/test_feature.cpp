@@ -267,14 +267,15 @@ TEST_F(Features, NoChangeIsLostWithoutAQuestion)
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     writeFile("full/x", "");
-    EXPECT_FALSE(window->saveAs().save("full"));
-    EXPECT_EQ(takeBoxes().size(), 1);
-    EXPECT_TRUE(window->isWindowModified());
-    window->close();
-    answerOf("&Save As...").click();
-    ASSERT_NE(front<QFileDialog>(), nullptr);
-    front<QFileDialog>()->selectFile("copy");
-    emit front<QFileDialog>()->fileSelected(QFileInfo("copy").absoluteFilePath());
+    for (QString const target : {"full", "copy"}) {
+        EXPECT_TRUE(window->isVisible() && window->isWindowModified());
+        window->close();
+        answerOf("&Save As...").click();
+        ASSERT_NE(front<QFileDialog>(), nullptr);
+        emit front<QFileDialog>()->fileSelected(QFileInfo(target).absoluteFilePath());
+        delete front<QFileDialog>();
+    }
+    EXPECT_EQ(takeBoxes().size(), 1) << "a folder that is not empty";
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(readFile("copy/steps/pcb/layers/top/features").contains("\n$3 rect40x30\n"));
 
