@@ -180,6 +180,9 @@ TEST_F(Features, ATypedSymbolOrOneOfTheListBecomesTheFeatures)
     enter("symbol", "oval30x20");
     EXPECT_EQ(symbolOf(2) + symbolOf(5), "oval30x20oval30x20");
     EXPECT_EQ(undoable(), 1) << "one operation";
+    auto const & symbols = *find<QWidget>("symbols").findChild<QTableWidget *>();
+    EXPECT_EQ(symbols.item(1, 0)->text() + symbols.item(1, 4)->text(), "oval30x202")
+        << "sorted: after the mark";
     enter("symbol", "rect30");
     EXPECT_EQ(text("description"), "height: This field is missing.");
     enter("symbol", "nowhere");

@@ -2,7 +2,10 @@
 
 #include "feature/PadSymbol.h"
 
+#include <KVCAM_API.h>
+
 #include <QPointer>
+#include <QRectF>
 #include <QWidget>
 
 #include <array>
@@ -11,7 +14,6 @@
 
 class KVListWidget;
 class KVTextEdit;
-class QFormLayout;
 class QLabel;
 class QPushButton;
 

@@ -17,6 +17,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>

@@ -125,6 +125,7 @@ void MainWindow::addPages()
     addResults();
     auto * symbols = new SymbolsPage(m_session.job(), m_board->currentView()->handle());
     addPage(symbols, "symbols", QT_TR_NOOP("S&ymbols"));
+    connect(m_board, &BoardPage::refreshed, symbols, &SymbolsPage::refresh);
     connect(m_board, &BoardPage::stepChanged, symbols,
             [this, symbols] { symbols->setView(m_board->currentView()->handle()); });
     auto * references = new ReferencesPage(m_session);
