@@ -14,8 +14,8 @@
 #include <QLabel>
 #include <QLineF>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -92,7 +92,7 @@ FeaturePane::FeaturePane(BoardView & view)
     : m_view(&view)
     , m_heading(valueLabel())
     , m_name(new KVLineEdit(RegSymbolName, &view)) // the parent on construction decides the unit
-    , m_names(new QPushButton)
+    , m_names(new QToolButton)
     , m_description(valueLabel())
     , m_verdict(valueLabel())
     , m_attributes(new KVTextEdit)
@@ -138,7 +138,7 @@ void FeaturePane::makeFields()
     m_name->setObjectName("symbol");
     m_name->setRefusalHints(true);
     connect(m_name, &QLineEdit::editingFinished, this, &FeaturePane::symbolTyped);
-    connect(m_names, &QPushButton::clicked, this, &FeaturePane::showNames);
+    connect(m_names, &QToolButton::clicked, this, &FeaturePane::showNames);
     m_description->setObjectName("description");
     m_verdict->setObjectName("verdict");
     for (std::size_t i = 0; i < m_sizes.size(); ++i) {
@@ -171,7 +171,9 @@ void FeaturePane::makeFields()
 
 void FeaturePane::setTexts()
 {
-    m_names->setText(tr("Names"));
+    m_names->setText("...");
+    m_names->setToolTip(tr("Names"));
+    m_names->setAccessibleName(tr("Names"));
     for (KVLengthEdit * field : m_sizes) {
         field->setPlaceholderText({});
     }
@@ -234,7 +236,7 @@ void FeaturePane::showSymbol()
     m_name->setText(m_hasSymbol ? m_symbol.in(unit) : QString());
     m_name->setCursorPosition(0);
     m_name->setModified(false);
-    m_description->setText(m_hasSymbol ? Ext::describeSymbol(m_symbol.in(unit), unit)
+    m_description->setText(m_hasSymbol ? Ext::describeSymbol(m_symbol.name(), m_symbol.unit())
                            : several   ? tr("The features have several symbols, or none.")
                                        : QString());
     m_description->setStyleSheet({});
@@ -354,9 +356,8 @@ void FeaturePane::showNames()
         want(listedSymbol(*item));
         m_list->hide();
     });
-    QPoint const below = m_name->mapTo(window(), QPoint(0, m_name->height()));
-    int const width = m_names->geometry().right() - m_name->geometry().left();
-    m_list->setGeometry(below.x(), below.y(), width, 10 * fontMetrics().lineSpacing());
+    QPoint const below = mapTo(window(), QPoint(0, m_name->geometry().bottom()));
+    m_list->setGeometry(below.x(), below.y(), width(), 10 * fontMetrics().lineSpacing());
     m_list->show();
     m_list->setFocus();
 }

@@ -15,7 +15,7 @@
 class KVListWidget;
 class KVTextEdit;
 class QLabel;
-class QPushButton;
+class QToolButton;
 
 namespace KVCAM::UIAPI {
 class KVLineEdit;
@@ -84,7 +84,7 @@ private:
 
     QLabel * m_heading;
     KVCAM::UIAPI::KVLineEdit * m_name;
-    QPushButton * m_names;
+    QToolButton * m_names;
     QLabel * m_description;
     std::array<KVCAM::UIAPI::KVLengthEdit *, 2> m_sizes{}; ///< width and height
     QLabel * m_verdict;
