@@ -28,7 +28,7 @@ namespace {
 
 // What a size may become.
 constexpr Ext::Length smallest = Ext::Length::fromMil(0.01);
-constexpr Ext::Length largest = Ext::Length::fromMil(100'000);
+constexpr Ext::Length largest = Ext::Length::fromMil(100000);
 
 char const * const sizeTitles[] = {QT_TRANSLATE_NOOP("Workbench::FeaturePane", "Width"),
                                    QT_TRANSLATE_NOOP("Workbench::FeaturePane", "Height")};
