@@ -237,23 +237,6 @@ bool isCutToTables(std::string const & job, std::string const & step, std::strin
     });
 }
 
-bool deleteFeatures(std::string const & job, std::string const & step, std::string const & layer,
-                    std::vector<int> const & indices)
-{
-    return withLastError(false, [&](EngineState & state) {
-        Job & owner = state.job(job);
-        std::string const stepName = lowerCase(step);
-        Deletion deletion = owner.checkedDeletion(stepName, lowerCase(layer), indices);
-        if (state.database.isOpen()) {
-            state.addRow([&](long long number) {
-                state.database.addOperation(number, lowerCase(owner.name()), stepName, deletion);
-            });
-        }
-        owner.apply(stepName, std::move(deletion));
-        return true;
-    });
-}
-
 std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const & step,
                                     std::string const & layer)
 {

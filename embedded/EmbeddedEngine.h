@@ -76,7 +76,7 @@ KVCAM_API_EXPORT std::string openArchive(std::string const & path);
 
 /// The open jobs in order of opening, by folder name.
 KVCAM_API_EXPORT std::vector<std::string> openJobs();
-/// Closes a job and drops its deletions and undo history. False when it is not open.
+/// Closes a job and drops its operations. False when it is not open.
 KVCAM_API_EXPORT bool closeJob(std::string const & job);
 
 /// The extent of a step's profile, or for a step without one, of the profiles that it repeats. False if the
@@ -131,11 +131,43 @@ KVCAM_API_EXPORT SymbolGraphics symbolGraphics(std::string const & job, std::str
 /// features() returns none although the layer is not empty.
 KVCAM_API_EXPORT bool isCutToTables(std::string const & job, std::string const & step,
                                     std::string const & layer);
-/// Deletes features by index: the engine's only operation, recorded for Undo(). Returns false, with
-/// lastError() set and nothing changed, if the layer is unknown, an index is not a feature, the list is
-/// empty, or the save flag is on and the database cannot be written. The files of the job are never changed.
+/// The net of a feature as the step's eda/data lists it. Empty if it lists none, if its numbers do not fit
+/// the layer, or, with lastError() set, on failure. What only touches a net is not asked.
+KVCAM_API_EXPORT std::string featureNet(std::string const & job, std::string const & step,
+                                        std::string const & layer, int index);
+/// The attributes of a feature in the order of its record, read from the file by each call. Empty, with
+/// lastError() set, on failure.
+KVCAM_API_EXPORT std::vector<FeatureAttribute>
+featureAttributes(std::string const & job, std::string const & step, std::string const & layer, int index);
+
+/// Deletes features by index, an operation recorded for Undo(). Returns false, with lastError() set and
+/// nothing changed, if the layer is unknown, an index is not a feature, the list is empty, or the save flag
+/// is on and the database cannot be written. The files of the job are never changed.
 KVCAM_API_EXPORT bool deleteFeatures(std::string const & job, std::string const & step,
                                      std::string const & layer, std::vector<int> const & indices);
+/// Gives features another symbol, an operation like deleteFeatures(): a well-formed standard symbol with
+/// sizes in a unit (0 mil, 1 micrometre), or one of the job's own. Features that have it already are left
+/// out. Returns false also if none is left, for any other name, and if a feature is a surface.
+KVCAM_API_EXPORT bool changeSymbol(std::string const & job, std::string const & step,
+                                   std::string const & layer, std::vector<int> const & indices,
+                                   std::string const & symbol, int unit);
+
+/// Whether the operations that hold differ from those in the job's files or in what saveJobAs() wrote last.
+/// False, with lastError() set, if the job is not open.
+KVCAM_API_EXPORT bool isJobChanged(std::string const & job);
+/// Writes a job with its operations to a new folder, whose name is the copy's. The open job stays the one it
+/// was, and its operations can still be undone.
+///
+/// A changed layer's features file keeps its lines, numbers as they are written, except those of deleted
+/// features; changed features refer to entries added to the symbol table. The step's eda/data then counts the
+/// features that are left, and hidden checksums (".features.sum") beside rewritten files are left out. All
+/// other files, also those that the engine does not read, are copied byte for byte; a compressed file that is
+/// rewritten is not compressed again. What is written is read back and compared before it gets its name.
+///
+/// Returns false, with lastError() set and nothing left behind, if the target is anything but a new or empty
+/// folder, is in the job itself, cannot be written, or if the job holds a link, a device or files that have
+/// changed since they were read. A job from an archive is unpacked once more; the archive must be unchanged.
+KVCAM_API_EXPORT bool saveJobAs(std::string const & job, std::string const & folder);
 
 /// A symbol name as used by a layer's files.
 struct SymbolUse

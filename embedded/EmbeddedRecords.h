@@ -26,6 +26,13 @@ struct Tool
     double finishSize = 0; ///< of the hole when it is finished
 };
 
+/// An attribute of a feature.
+struct FeatureAttribute
+{
+    std::string name;  ///< as in the file, e.g. ".drill"
+    std::string value; ///< as in the file; of an attribute that is a text, the text; may be empty
+};
+
 /// A grid of places at which a step repeats another one. Lengths are in micrometres. Each repeated step is
 /// turned about its datum, then mirrored in x, and its datum is then moved to its place.
 struct StepRepeat

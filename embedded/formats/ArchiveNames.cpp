@@ -108,11 +108,11 @@ ArchiveNames::Place ArchiveNames::place(QString const & name, Kind kind)
     QStringList const parts = partsOf(name);
     bool const hidden =
         std::any_of(parts.begin(), parts.end(), [](QString const & part) { return part[0] == '.'; });
-    if (hidden || parts.size() < 2) {
+    if ((hidden && !m_whole) || parts.size() < 2) {
         return {};
     }
     int const fit = fitting(parts.mid(1));
-    bool const expected = fit == -1 || fit == parts.size() - 1;
+    bool const expected = m_whole || fit == -1 || fit == parts.size() - 1;
     if (expected && kind == Kind::Other) {
         refuse(name, "is neither a file nor a folder");
     }
@@ -126,7 +126,7 @@ ArchiveNames::Place ArchiveNames::place(QString const & name, Kind kind)
         return place;
     }
     // The folders that an entry implies need no entries of their own.
-    int const folders = fit == -1 ? parts.size() : fit + 1;
+    int const folders = m_whole || fit == -1 ? parts.size() : fit + 1;
     return folders > 1 ? Place{{}, claimed(parts.mid(0, folders), false)} : Place{};
 }
 

@@ -16,7 +16,8 @@ namespace KVCAM::Embedded {
 class ArchiveNames
 {
 public:
-    explicit ArchiveNames(JobLimits const & limits) : m_limits(limits) {}
+    /// `whole`: everything in a top folder is unpacked, not only what the engine reads.
+    explicit ArchiveNames(JobLimits const & limits, bool whole = false) : m_limits(limits), m_whole(whole) {}
 
     enum class Kind
     {
@@ -40,6 +41,7 @@ private:
     QString claimed(QStringList const & parts, bool isFile);
 
     JobLimits m_limits;
+    bool m_whole;
     long long m_count = 0;
     std::map<QString, QString> m_taken; // every path to be made, by its lower case
     std::set<QString> m_jobs;           // top folders with a matrix

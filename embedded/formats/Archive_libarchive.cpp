@@ -209,9 +209,14 @@ void forEachPiece(archive * reader, Source & source, Take take)
 class Unpacking
 {
 public:
-    Unpacking(Source & source, QString const & folder, JobLimits const & limits)
-        : m_source(source), m_folder(folder), m_limits(limits), m_names(limits)
-    {}
+    Unpacking(Source & source, QString const & folder, JobLimits const & limits, bool whole)
+        : m_source(source), m_folder(folder), m_limits(limits), m_names(limits, whole)
+    {
+        if (whole) {
+            m_limits.fileBytes = m_limits.archiveBytes;
+            m_limits.bytes = m_limits.archiveBytes;
+        }
+    }
 
     // Returns the top folder of the job.
     QString run()
@@ -327,7 +332,7 @@ QByteArray unpackLzw(QFile & file, long long largest)
 
 } // namespace
 
-QString unpackArchive(QString const & path, QString const & folder, JobLimits const & limits)
+QString unpackArchive(QString const & path, QString const & folder, JobLimits const & limits, bool whole)
 {
     try {
         QFile file;
@@ -335,7 +340,7 @@ QString unpackArchive(QString const & path, QString const & folder, JobLimits co
             throw JobError(reason.toStdString());
         }
         Source source(file, limits);
-        return QDir(folder).filePath(Unpacking(source, folder, limits).run());
+        return QDir(folder).filePath(Unpacking(source, folder, limits, whole).run());
     } catch (JobError const & error) {
         throw JobError(path.toStdString() + ": " + error.what());
     }

@@ -12,7 +12,8 @@ namespace {
 
 } // namespace
 
-QString unpackArchive(QString const & archive, QString const & /*folder*/, JobLimits const & /*limits*/)
+QString unpackArchive(QString const & archive, QString const & /*folder*/, JobLimits const & /*limits*/,
+                      bool /*whole*/)
 {
     refuse(archive);
 }

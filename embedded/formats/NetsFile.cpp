@@ -1,9 +1,11 @@
 #include "formats/NetsFile.h"
 
+#include "formats/FeatureLines.h"
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
 
 #include <algorithm>
+#include <charconv>
 #include <functional>
 #include <map>
 #include <optional>
@@ -114,7 +116,65 @@ private:
     std::optional<std::uint32_t> m_net; // the current one; nothing for $NONE$
 };
 
+// How many features before each place of a layer's file are deleted; none for an unchanged layer.
+using Shifts = std::vector<int>;
+
+std::vector<Shifts> shiftsOf(std::string_view names, DeletedFeatures const & deleted)
+{
+    std::vector<Shifts> shifts;
+    for (int i = 1; !wordOf(names, i).empty(); ++i) {
+        shifts.emplace_back();
+        auto const layer = deleted.find(lowerCase(validText(wordOf(names, i))));
+        if (layer != deleted.end()) {
+            shifts.back().push_back(0);
+            for (bool const gone : layer->second) {
+                shifts.back().push_back(shifts.back().back() + (gone ? 1 : 0));
+            }
+        }
+    }
+    return shifts;
+}
+
+std::optional<std::size_t> number(std::string_view text)
+{
+    int value = 0;
+    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    bool const good = error == std::errc() && end == text.data() + text.size() && value >= 0;
+    return good ? std::optional(static_cast<std::size_t>(value)) : std::nullopt;
+}
+
 } // namespace
+
+QByteArray editedNets(std::string_view text, DeletedFeatures const & deleted)
+{
+    QByteArray edited;
+    edited.reserve(static_cast<int>(text.size()));
+    std::vector<Shifts> shifts;
+    while (!text.empty()) {
+        std::string_view const line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
+        text.remove_prefix(line.size());
+        std::string_view const record = line.substr(0, line.find(';'));
+        std::string_view const key = wordOf(record, 0);
+        if (key == "LYR") {
+            shifts = shiftsOf(record, deleted);
+        }
+        auto const layer = number(wordOf(record, 2));
+        auto const feature = number(wordOf(record, 3));
+        bool const isKnown = key == "FID" && layer && feature && *layer < shifts.size();
+        if (isKnown && !shifts[*layer].empty()) {
+            Shifts const & of = shifts[*layer];
+            bool const exists = *feature + 1 < of.size();
+            if (exists && of[*feature] != of[*feature + 1]) {
+                continue;
+            }
+            int const before = exists ? of[*feature] : of.back();
+            appendReplaced(edited, line, wordOf(record, 3), static_cast<int>(*feature) - before);
+        } else {
+            edited.append(line.data(), static_cast<int>(line.size()));
+        }
+    }
+    return edited;
+}
 
 NetsFile readNets(QString const & path)
 {

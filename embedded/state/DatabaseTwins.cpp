@@ -6,6 +6,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QStringList>
 #include <QVariant>
 
@@ -81,6 +82,7 @@ void DatabaseTwins::open(std::string const & file)
         for (char const * const table : tables) {
             run(table);
         }
+        addSymbolColumn();
     } catch (...) {
         close();
         throw;
@@ -113,6 +115,14 @@ void DatabaseTwins::run(char const * sql, QVariantList const & values)
             throw SequenceTaken(message(error.text()));
         }
         fail(error.text());
+    }
+}
+
+// Files of earlier versions have deletions only.
+void DatabaseTwins::addSymbolColumn()
+{
+    if (!connection().record(QStringLiteral("operation")).contains(QStringLiteral("symbol"))) {
+        run("ALTER TABLE operation ADD COLUMN symbol TEXT NOT NULL DEFAULT ''");
     }
 }
 
@@ -166,14 +176,18 @@ void DatabaseTwins::addUndoCall(long long sequence, char const * call, std::stri
 }
 
 void DatabaseTwins::addOperation(long long sequence, std::string const & job, std::string const & step,
-                                 Deletion const & deletion)
+                                 Operation const & operation)
 {
     QStringList features;
-    for (int const index : deletion.features) {
+    for (int const index : operation.features) {
         features << QString::number(index);
     }
-    run("INSERT INTO operation VALUES (?, ?, ?, ?, ?)",
-        {sequence, text(job), text(step), text(deletion.layer), features.join(',')});
+    QString symbol(""); // with the unit of its sizes, as files mark it; never NULL
+    if (!operation.isDeletion()) {
+        symbol = text(operation.symbol.name) + (operation.symbol.unit == 1 ? " M" : " I");
+    }
+    run("INSERT INTO operation VALUES (?, ?, ?, ?, ?, ?)",
+        {sequence, text(job), text(step), text(operation.layer), features.join(','), symbol});
 }
 
 void DatabaseTwins::removeLatestOperation(std::string const & job, std::string const & step)

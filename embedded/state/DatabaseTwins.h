@@ -41,7 +41,7 @@ public:
                      int size);
 
     void addOperation(long long sequence, std::string const & job, std::string const & step,
-                      Deletion const & deletion);
+                      Operation const & operation);
     void removeLatestOperation(std::string const & job, std::string const & step);
     /// Removes the operations of a job, of one of its steps, or (with an empty job) of all jobs.
     void removeOperations(std::string const & job, std::string const & step);
@@ -62,6 +62,7 @@ public:
 
 private:
     void run(char const * sql, QVariantList const & values = {});
+    void addSymbolColumn();
     void rollback() noexcept;
     [[noreturn]] void fail(QString const & reason) const;
     std::string message(QString const & reason) const;

@@ -93,8 +93,8 @@ void EngineState::mirrorHistory(std::string const & jobName, std::string const &
 
 void EngineState::addHistory(std::string const & jobName, Step const & step)
 {
-    for (Deletion const & deletion : step.history) {
-        addRow([&](long long number) { database.addOperation(number, jobName, step.name, deletion); });
+    for (Operation const & operation : step.history) {
+        addRow([&](long long number) { database.addOperation(number, jobName, step.name, operation); });
     }
 }
 

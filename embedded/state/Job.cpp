@@ -1,6 +1,7 @@
 #include "state/Job.h"
 
 #include "formats/Archive.h"
+#include "formats/FeatureLines.h"
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
 #include "formats/ToolsFile.h"
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 namespace KVCAM::Embedded {
@@ -27,6 +29,12 @@ std::string nameOfArchive(QString const & archive)
         }
     }
     return name.toStdString();
+}
+
+std::pair<qint64, QDateTime> stateOf(QString const & archive)
+{
+    QFileInfo const info(archive);
+    return {info.size(), info.lastModified()};
 }
 
 // An error that names the archive in place of the folder that it is unpacked to.
@@ -74,6 +82,7 @@ std::unique_ptr<Job> Job::fromArchive(std::string const & archive, JobLimits con
     if (std::string const reason = refusal(name); !reason.empty()) {
         throw JobError(archive + ": " + reason);
     }
+    auto const state = stateOf(path); // before it is read
     auto unpacked = std::make_shared<QTemporaryDir>(QDir::tempPath() + "/uiapi-job-XXXXXX");
     if (!unpacked->isValid()) {
         throw JobError(archive + ": no temporary folder: " + unpacked->errorString().toStdString());
@@ -88,10 +97,19 @@ std::unique_ptr<Job> Job::fromArchive(std::string const & archive, JobLimits con
         auto job = std::make_unique<Job>(folder.filePath("job").toStdString(), name, limits);
         job->m_unpacked = std::move(unpacked);
         job->m_archive = path;
+        job->m_archiveState = state;
         return job;
     } catch (JobError const & error) {
         throw inArchive(error, own, path);
     }
+}
+
+QString Job::unpackAgain(QString const & folder) const
+{
+    if (stateOf(m_archive) != m_archiveState) {
+        throw JobError(m_archive.toStdString() + ": the archive has changed since it was opened");
+    }
+    return unpackArchive(m_archive, folder, m_budget.limits, true);
 }
 
 template <class Reading>
@@ -244,49 +262,38 @@ std::vector<Tool> Job::tools(std::string const & stepName, std::string const & l
     });
 }
 
-Deletion Job::checkedDeletion(std::string const & stepName, std::string const & layer,
-                              std::vector<int> const & indices)
+std::string Job::net(std::string const & stepName, std::string const & layer, int feature)
+{
+    checkFeature(graphics(stepName, layer), layer, feature);
+    Step & owner = step(stepName);
+    if (!owner.nets) {
+        owner.nets = named([&]() {
+            QString const folder = findFolder(owner.folder, "eda");
+            QString const file = folder.isEmpty() ? QString() : findFile(folder, "data");
+            return file.isEmpty() ? NetsFile() : readNets(file);
+        });
+    }
+    auto const & layers = owner.nets->layers;
+    auto const listed = std::find_if(layers.begin(), layers.end(),
+                                     [&layer](NetsFile::Layer const & each) { return each.name == layer; });
+    auto const count = graphics(stepName, layer).file.features.size();
+    if (listed == layers.end() || listed->entries.empty() || listed->entries.back().first >= count) {
+        return {};
+    }
+    auto const wanted = static_cast<std::uint32_t>(feature);
+    auto const entry = std::lower_bound(
+        listed->entries.begin(), listed->entries.end(), wanted,
+        [](NetsFile::Entry const & each, std::uint32_t number) { return each.first < number; });
+    return entry != listed->entries.end() && entry->first == wanted ? owner.nets->nets[entry->second]
+                                                                    : std::string();
+}
+
+std::vector<FeatureAttribute> Job::attributes(std::string const & stepName, std::string const & layer,
+                                              int feature)
 {
     LayerGraphics const & target = graphics(stepName, layer);
-    if (indices.empty()) {
-        throw JobError(m_name + ": nothing to delete");
-    }
-    Deletion deletion{layer, indices};
-    std::sort(deletion.features.begin(), deletion.features.end());
-    deletion.features.erase(std::unique(deletion.features.begin(), deletion.features.end()),
-                            deletion.features.end());
-    for (int const index : deletion.features) {
-        if (index < 0 || static_cast<std::size_t>(index) >= target.deleted.size() ||
-            target.deleted[static_cast<std::size_t>(index)]) {
-            throw JobError(m_name + ": layer \"" + layer + "\" has no feature " + std::to_string(index));
-        }
-    }
-    return deletion;
-}
-
-void Job::apply(std::string const & stepName, Deletion deletion)
-{
-    LayerGraphics & target = graphics(stepName, deletion.layer);
-    std::vector<Deletion> & history = step(stepName).history;
-    history.push_back(std::move(deletion)); // first, since it may throw
-    for (int const index : history.back().features) {
-        target.deleted[static_cast<std::size_t>(index)] = true;
-    }
-}
-
-bool Job::undo(std::string const & stepName)
-{
-    Step * const owner = findStep(stepName);
-    if (owner == nullptr || owner->history.empty()) {
-        return false;
-    }
-    Deletion const & latest = owner->history.back();
-    LayerGraphics & target = graphics(stepName, latest.layer);
-    for (int const index : latest.features) {
-        target.deleted[static_cast<std::size_t>(index)] = false;
-    }
-    owner->history.pop_back();
-    return true;
+    checkFeature(target, layer, feature);
+    return named([&]() { return readAttributes(target.file.path, feature, m_budget.limits.fileBytes); });
 }
 
 } // namespace KVCAM::Embedded

@@ -5,9 +5,11 @@
 #include "formats/FeaturesFile.h"
 #include "formats/JobPaths.h"
 #include "formats/MatrixFile.h"
+#include "formats/NetsFile.h"
 #include "formats/StepHeader.h"
 #include "geometry/Profile.h"
 
+#include <QDateTime>
 #include <QString>
 
 #include <cstddef>
@@ -15,6 +17,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QTemporaryDir;
@@ -30,11 +33,17 @@ struct LayerGraphics
     bool missing = false;      ///< there is no file
 };
 
-/// One deletion: the layer and the ascending indices of the deleted features.
-struct Deletion
+/// One operation on features of a layer: they were deleted or given another symbol.
+struct Operation
 {
     std::string layer;
-    std::vector<int> features;
+    std::vector<int> features; ///< ascending
+    SymbolEntry symbol;        ///< the new one; without a name: they were deleted
+    std::vector<int> before;   ///< their symbols before
+    int addedSymbol = -1;      ///< the entry of the table that was made for the new one; -1: it was there
+    long long number = 0;      ///< counts the operations of the job, undone ones included
+
+    bool isDeletion() const { return symbol.name.empty(); }
 };
 
 struct Step
@@ -45,12 +54,16 @@ struct Step
     std::optional<Profile> profile;
     std::optional<Box> repeatBox;                  ///< of the profiles that it repeats
     std::map<std::string, LayerGraphics> graphics; ///< by layer; those read so far
-    std::vector<Deletion> history;                 ///< what Undo() reverts, latest last
+    std::vector<Operation> history;                ///< what Undo() reverts, latest last
+    long long saved = 0;                           ///< latest() when the job was saved
     std::optional<FolderList> layers;              ///< the folder of the layers; listed on first use
     LayerGraphics nothing;                         ///< of every layer without a file
+    std::optional<NetsFile> nets;                  ///< read on first use; empty if there is no file
 
     /// Of its profile or else of those that it repeats; nothing if there are none.
     std::optional<Box> extent() const { return profile ? profile->box : repeatBox; }
+    /// The number of the latest operation; 0 for none.
+    long long latest() const { return history.empty() ? 0 : history.back().number; }
 };
 
 /// An open job. The matrix, the step headers, the profiles and the symbol names are read on opening, the
@@ -64,8 +77,13 @@ public:
     /// is named like the archive; messages give the archive's path in place of the folder's.
     static std::unique_ptr<Job> fromArchive(std::string const & archive, JobLimits const & limits);
     bool isFromArchive() const { return m_unpacked != nullptr; }
+    /// Unpacks the whole archive into an empty folder and returns the job's folder there. Throws if the
+    /// archive is not as it was when it was opened.
+    QString unpackAgain(QString const & folder) const;
 
     std::string const & name() const { return m_name; }
+    QString const & folder() const { return m_folder; }
+    JobLimits const & limits() const { return m_budget.limits; }
     Matrix const & matrix() const { return m_matrix; }
     /// The names of its own symbols, sorted.
     std::vector<std::string> const & symbols() const { return m_symbols; }
@@ -80,13 +98,24 @@ public:
 
     LayerGraphics & graphics(std::string const & step, std::string const & layer);
     std::vector<Tool> tools(std::string const & step, std::string const & layer);
+    /// The net of a feature as the step's nets file lists it; "" if it lists none or does not fit the layer.
+    std::string net(std::string const & step, std::string const & layer, int feature);
+    /// The attributes of a feature, read from the layer's file.
+    std::vector<FeatureAttribute> attributes(std::string const & step, std::string const & layer,
+                                             int feature);
 
-    /// A deletion with its indices sorted and unique. Throws if an index is not a feature.
-    Deletion checkedDeletion(std::string const & step, std::string const & layer,
-                             std::vector<int> const & indices);
-    void apply(std::string const & step, Deletion deletion);
-    /// Reverts the step's latest deletion; false when there is none.
+    /// An operation with its indices sorted and unique: a deletion, or with a symbol, a change that leaves
+    /// out the features that have it already. Throws if an index is not a feature, if nothing is left to do,
+    /// or if the symbol is neither a standard one nor the job's own.
+    Operation checked(std::string const & step, std::string const & layer, std::vector<int> const & indices,
+                      SymbolEntry symbol = {});
+    void apply(std::string const & step, Operation operation);
+    /// Reverts the step's latest operation; false when there is none.
     bool undo(std::string const & step);
+
+    /// Whether the operations that hold differ from those that were saved.
+    bool isChanged() const;
+    void setSaved();
 
 private:
     // Runs what reads files and gives errors the archive's path.
@@ -99,11 +128,15 @@ private:
     // The folder of a layer of the matrix; no entries when it has none.
     FolderList layerFolder(Step & step, std::string const & layer);
     LayerGraphics & readGraphics(Step & step, std::string const & layer);
+    void checkChange(LayerGraphics const & target, Operation & change) const;
+    void checkFeature(LayerGraphics const & target, std::string const & layer, int feature) const;
 
     std::string m_name;
     QString m_folder;
     std::shared_ptr<QTemporaryDir> m_unpacked; // of a job from an archive
     QString m_archive;
+    std::pair<qint64, QDateTime> m_archiveState; // size and time of the archive when it was opened
+    long long m_operations = 0;
     Budget m_budget;
     QString m_symbolsFolder;
     std::map<std::string, std::string> m_symbolFolders; // by name in lower case

@@ -137,12 +137,36 @@ TEST_F(UndoTest, TheDatabaseMirrorsTheHistory)
     EXPECT_EQ(indices().size(), 7U);
 }
 
+TEST_F(UndoTest, ChangesOfSymbolsAreRowsLikeDeletions)
+{
+    // A file of a version that had deletions only.
+    rows("CREATE TABLE operation (sequence INTEGER PRIMARY KEY, job TEXT, step TEXT, layer TEXT, features "
+         "TEXT)");
+    ASSERT_TRUE(Embedded::setSaveFlag(true)) << Embedded::lastError();
+    ASSERT_TRUE(Embedded::changeSymbol("BOARD", "PCB", "TOP", {3, 1}, "r254", 1)) << Embedded::lastError();
+    ASSERT_TRUE(remove({3}));
+    ASSERT_TRUE(Embedded::changeSymbol("board", "pcb", "top", {2}, "s2", 0));
+    char const * const all = "SELECT job, step, layer, features, symbol FROM operation ORDER BY sequence";
+    Texts const expected{"board pcb top 1,3 r254 M", "board pcb top 3 ", "board pcb top 2 s2 I"};
+    EXPECT_EQ(rows(all), expected);
+    ASSERT_TRUE(Embedded::setSaveFlag(false));
+    ASSERT_TRUE(Embedded::setSaveFlag(true));
+    EXPECT_EQ(rows(all), expected) << "written anew from the history";
+    DB::Undo_db_save("board", "pcb");
+    ASSERT_TRUE(API::Undo("board", "pcb"));
+    EXPECT_EQ(rows(all), (Texts{expected[0], expected[1]}));
+    rows("DROP TABLE operation");
+    EXPECT_FALSE(Embedded::changeSymbol("board", "pcb", "top", {2}, "s2", 0));
+    EXPECT_EQ(API::op_size("board", "pcb"), 2) << "what cannot be recorded is not done";
+}
+
 TEST_F(UndoTest, CorrectingTheUndoMendsTheDatabase)
 {
     ASSERT_TRUE(Embedded::setSaveFlag(true));
     ASSERT_TRUE(remove({1}));
     rows("DELETE FROM operation");
-    rows("INSERT INTO operation VALUES (9000, 'board', 'pcb', 'top', '5')");
+    rows("INSERT INTO operation (sequence, job, step, layer, features) VALUES (9000, 'board', 'pcb', 'top', "
+         "'5')");
     DB::CorrectUndo_db_save("BOARD", "PCB");
     EXPECT_EQ(operations(), Texts{"board pcb top 1"});
 }
@@ -179,7 +203,8 @@ TEST_F(UndoTest, TwinsWriteOnlyWhileTheFlagIsOnAndBeforeTheLiveCall)
     rows("INSERT INTO select_param VALUES (5002, 1), (5003, 1)", "state.sqlite");
     DB::set_select_param_db_save({14});
     EXPECT_EQ(rows("SELECT * FROM select_param WHERE sequence > 5003", "state.sqlite"), Texts{"5004 14"});
-    rows("INSERT INTO operation VALUES (5005, 'a', 'b', 'c', '0')", "state.sqlite");
+    rows("INSERT INTO operation (sequence, job, step, layer, features) VALUES (5005, 'a', 'b', 'c', '0')",
+         "state.sqlite");
     ASSERT_TRUE(remove({1}));
     EXPECT_EQ(operations("state.sqlite"), (Texts{"a b c 0", "board pcb top 1"}));
     rows("INSERT INTO undo_call VALUES (5007, 'x', 'a', 'b', 0)", "state.sqlite");

@@ -236,9 +236,7 @@ TEST_F(Pictures, ANegativeFeatureErasesOnItsOwnLayerOnly)
 TEST_F(Pictures, MarksAreShownPickedAndBroughtIntoTheMiddle)
 {
     std::vector<int> marks;
-    std::vector<int> pads;
     QObject::connect(view.get(), &BoardView::markPicked, [&marks](int index) { marks.push_back(index); });
-    QObject::connect(view.get(), &BoardView::padPicked, [&pads](int index) { pads.push_back(index); });
     view->setMarks({{2000, 2000, Qt::red, "A", "one"}, {2000, 2000, Qt::green, "B", "two"}});
     auto const click = [&](double x, double y) {
         QTest::mouseClick(view.get(), Qt::LeftButton, {}, view->pixelOf(x, y).toPoint());
@@ -246,9 +244,10 @@ TEST_F(Pictures, MarksAreShownPickedAndBroughtIntoTheMiddle)
     click(2000, 2000);
     EXPECT_EQ(marks, std::vector<int>{1}); // the upper one, not the pad below
     click(1150, 2000);
-    EXPECT_EQ(pads, std::vector<int>{0});
+    EXPECT_EQ(view->selected(), FeatureSelection::Set{0});
     click(9900, 200);
-    EXPECT_EQ(marks.size() + pads.size(), 2U);
+    EXPECT_TRUE(view->selected().empty());
+    EXPECT_EQ(marks.size(), 1U);
     QColor const sign = grab().pixelColor(view->pixelOf(2000, 2000).toPoint() + QPoint(7, 0));
     EXPECT_EQ(sign, QColor(Qt::green));
 
@@ -269,7 +268,7 @@ TEST_F(Pictures, MarksAreShownPickedAndBroughtIntoTheMiddle)
 TEST_F(Pictures, ADragMovesTheBoardAndPicksNothing)
 {
     bool isPicked = false;
-    QObject::connect(view.get(), &BoardView::padPicked, [&isPicked] { isPicked = true; });
+    QObject::connect(view.get(), &BoardView::selectionChanged, [&isPicked] { isPicked = true; });
     QPoint const from = view->pixelOf(1150, 2000).toPoint();
     auto const send = [&](QEvent::Type type, QPoint at, Qt::MouseButton button) {
         QMouseEvent event(type, at, button,

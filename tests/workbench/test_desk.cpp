@@ -57,7 +57,7 @@ protected:
         EXPECT_TRUE(!event.isAccepted() || event.dropAction() == Qt::CopyAction);
         return event.isAccepted();
     }
-    QString title() const { return desk.window()->windowTitle().section(' ', 0, 0); }
+    QString title() const { return desk.window()->windowTitle().section('[', 0, 0); }
 
     QString const other = QDir("boards/other").absolutePath();
     QStringList boxes;

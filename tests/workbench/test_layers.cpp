@@ -436,7 +436,7 @@ TEST_F(LayersOfAWindow, DeletedFeaturesComeBackWithUndoInPictureCountsAndDatabas
     KVCAM::Embedded::setSaveFlag(false);
 }
 
-TEST(Selections, TakeTheUppermostFeatureAtAPlaceAndItsLikes)
+TEST(Selections, TakeTheSmallestFeatureAtAPlaceAndItsLikes)
 {
     FeatureShape line;
     line.kind = FeatureShape::Kind::Line;
@@ -456,19 +456,32 @@ TEST(Selections, TakeTheUppermostFeatureAtAPlaceAndItsLikes)
     arc.penWidth = 2;
     arc.path.translate(200, 0);
     arc.box.translate(200, 0);
+    FeatureShape disc; // a round pad
+    disc.kind = FeatureShape::Kind::Pad;
+    disc.feature = 7;
+    disc.symbol = std::make_shared<FeatureSymbol const>();
+    disc.path.addEllipse(QPointF(0, 0), 10, 10);
+    disc.place = {500, 500};
+    disc.box = {490, 490, 20, 20};
     struct
     {
         QPointF place;
         double tolerance;
         int feature;
     } const rows[] = {
-        {{0, 8}, 1, 3},      {{0, 8}, 0.5, -1},  {{2, 2}, 1, 3},    {{0, 100}, 1, -1},
-        {{80, 50}, 1, 5},    {{50, 50}, 1, 3},   {{50, 62}, 1, -1}, {{50, 62}, 9, 5},
-        {{250, 10.5}, 1, 6}, {{250, 16}, 1, -1}, {{250, 16}, 6, 6}, {{1e300, 0}, 1, -1},
+        {{505, 505}, 1, 7},  {{509, 509}, 1, -1}, {{0, 8}, 1, 3},    {{0, 8}, 0.5, -1},   {{2, 2}, 1, 3},
+        {{0, 100}, 1, -1},   {{80, 50}, 1, 5},    {{50, 50}, 1, 3},  {{50, 62}, 1, -1},   {{50, 62}, 9, 5},
+        {{250, 10.5}, 1, 6}, {{250, 16}, 1, -1},  {{250, 16}, 6, 6}, {{1e300, 0}, 1, -1},
     };
     for (auto const & row : rows) {
-        EXPECT_EQ(FeatureSelection::featureAt({line, ring, arc}, row.place, row.tolerance), row.feature)
+        EXPECT_EQ(FeatureSelection::featureAt({line, ring, arc, disc}, row.place, row.tolerance), row.feature)
             << row.place.x() << ' ' << row.place.y() << ' ' << row.tolerance;
+    }
+    std::vector<FeatureShape> const both = {ring, line};
+    int meant = -1;
+    for (int const next : {5, 3, 5}) { // one click after the other where both are
+        meant = FeatureSelection::featureAt(both, {20, 20}, 9, meant);
+        EXPECT_EQ(meant, next);
     }
     FeatureSelection::Features const features = {
         {0, 'P', "r10", true, {}}, {2, 'P', "r10", true, {}}, {4, 'P', "r10", false, {}},

@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QJsonObject>
 #include <QLineF>
 #include <QMouseEvent>
 #include <QSpinBox>
@@ -39,7 +38,7 @@ TEST(PadSymbols, AreConvertedFromWhatWasTyped)
         {"rect500x500", 1, "rect19.68504x19.68504", "rect500x500", "500 500"},
         {"rect10x20xr5x13", 0, "rect10x20xr5x13", "rect254x508xr127x13", "10 20"},
         {"rect10", 0, "rect10", "rect10", "- -"}, // not a symbol yet
-        {"r254.1234", 1, "r10.00484", "r254.1234", "254.1234 -"},
+        {"r254.1234", 1, "r10.00484", "r254.1234", "254.123 -"},
         {"hole10xpx1x2", 0, "hole10xpx1x2", "hole254xpx25.4x50.8", "10 -"},
         {"donut_rc30x20x5", 0, "donut_rc30x20x5", "donut_rc762x508x127", "30 20"},
         {"rect10x20_135", 0, "rect10x20_135", "rect10x20_135", "- -"},
@@ -50,39 +49,27 @@ TEST(PadSymbols, AreConvertedFromWhatWasTyped)
         PadSymbol const symbol(row.name, Ext::unitOfCode(row.unit));
         EXPECT_EQ(symbol.in(Unit::Inch), row.mil) << row.name;
         EXPECT_EQ(symbol.in(Unit::Millimetre), row.micrometre) << row.name;
-        EXPECT_EQ((symbol.hasWidth() ? symbol.width().text : "-") + ' ' +
-                      (symbol.hasHeight() ? symbol.height().text : "-"),
-                  row.sizes)
-            << row.name;
-        auto const restored = PadSymbol::fromJson(symbol.toJson());
-        ASSERT_TRUE(restored) << row.name;
-        EXPECT_EQ(restored->in(Unit::Inch), row.mil) << row.name;
+        QStringList sizes;
+        for (std::size_t i = 0; i < 3; ++i) {
+            auto const length = symbol.size(i);
+            sizes.append(length ? length->text(symbol.unit(), Ext::LengthScale::Small) : "-");
+        }
+        EXPECT_EQ(sizes.join(' '), QString(row.sizes) + " -") << row.name;
     }
 }
 
-TEST(PadSymbols, ASizeTypedInTheOtherUnitLeavesTheRestAlone)
+TEST(PadSymbols, KeepTheDigitsThatWereTyped)
 {
-    PadSymbol symbol("rect500x700xr50", Unit::Millimetre);
-    symbol.setWidth({"12.5", Unit::Inch});
-    EXPECT_EQ(symbol.in(Unit::Inch), "rect12.5x27.55906xr1.9685");
-    EXPECT_EQ(symbol.in(Unit::Millimetre), "rect317.5x700xr50");
-    EXPECT_EQ(symbol.width().length().nanometres(), 317500);
-    EXPECT_FALSE(symbol.setHeight({"abc", Unit::Inch}) ||
-                 PadSymbol("r10", Unit::Inch).setHeight(symbol.width()));
-}
-
-TEST(PadSymbols, AreNotRestoredFromAnotherUnitOrSize)
-{
-    QJsonObject const good = PadSymbol("rect10x20", Unit::Inch).toJson();
-    std::pair<char const *, QJsonValue> const changes[] = {
-        {"unit", 7},      {"width unit", 0.5}, {"height unit", -1}, {"unit", "1"}, {"unit", QJsonValue()},
-        {"width", "abc"}, {"height", "1x2"},
+    auto const typed = [](char const * name, std::size_t which, double micrometres) {
+        PadSymbol symbol(name, Unit::Inch);
+        bool const isSet = symbol.setSize(which, Ext::Length::fromMicrometres(micrometres), Unit::Millimetre);
+        return (isSet ? symbol.name() : "-") + (symbol.unit() == Unit::Inch ? " mil" : " micrometre");
     };
-    for (auto const & [key, value] : changes) {
-        QJsonObject changed = good;
-        changed[key] = value;
-        EXPECT_FALSE(PadSymbol::fromJson(changed)) << key;
-    }
+    EXPECT_EQ(typed("r10", 0, 300), "r300 micrometre") << "its only size";
+    EXPECT_EQ(typed("rect10x20", 0, 300), "rect11.81102x20 mil");
+    EXPECT_EQ(typed("rect10x20xr5", 1, 317.5), "rect10x12.5xr5 mil");
+    EXPECT_EQ(typed("r10", 1, 300), "- mil");
+    EXPECT_EQ(typed("logo", 0, 300), "- mil");
 }
 
 using Boards = SampleWindow;

@@ -48,12 +48,18 @@ TEST_F(Screens, PanesAreClosedOpenedAndRemembered)
 {
     open();
     auto const isOpen = [this](char const * name) { return find<Pane>(name).isVisible(); };
-    EXPECT_TRUE(isOpen("layers") && isOpen("log") && !isOpen("engine"));
-    ASSERT_EQ(board().paneActions().size(), 3);
+    EXPECT_TRUE(isOpen("layers") && isOpen("feature") && isOpen("log") && !isOpen("engine"));
+    ASSERT_EQ(board().paneActions().size(), 4);
     for (QAction * action : board().paneActions()) {
         action->trigger();
     }
-    EXPECT_TRUE(!isOpen("layers") && !isOpen("log") && isOpen("engine"));
+    EXPECT_TRUE(!isOpen("layers") && !isOpen("feature") && !isOpen("log") && isOpen("engine"));
+    for (auto const & [pane, open] : {std::pair("engine", false), std::pair("feature", true)}) {
+        find<Pane>(pane).setOpen(open); // both closed give their room away, and take it again
+        EXPECT_EQ(find<QSplitter>("right").isVisible(), open);
+    }
+    find<Pane>("feature").setOpen(false);
+    find<Pane>("engine").setOpen(true);
     window->useStateFile("./state.ini", true); // nothing there yet
     EXPECT_TRUE(!isOpen("layers") && isOpen("engine"));
     window->close();

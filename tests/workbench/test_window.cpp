@@ -1,7 +1,7 @@
 #include "SampleWindow.h"
 #include "checks/ResultFiles.h"
 #include "checks/ResultsPage.h"
-#include "feature/FeatureDialog.h"
+#include "job/SaveAs.h"
 #include "layers/LayerTable.h"
 #include "window/KeysDialog.h"
 
@@ -121,7 +121,7 @@ TEST_F(MainWindows, TabReachesEveryControlOfEveryPage)
     }
 }
 
-TEST_F(MainWindows, ShortcutsAreFunctionKeysAndMnemonicsAreUnique)
+TEST_F(MainWindows, ShortcutsAreNoHotKeysAndMnemonicsAreUnique)
 {
     open();
     QStringList keys;
@@ -136,7 +136,9 @@ TEST_F(MainWindows, ShortcutsAreFunctionKeysAndMnemonicsAreUnique)
     keys.sort();
     EXPECT_EQ(keys.removeDuplicates(), 0) << keys.join(' ').toStdString();
     for (QString const & key : keys) {
-        EXPECT_TRUE(QRegularExpression("^(Shift\\+)?F[0-9]+$").match(key).hasMatch()) << key.toStdString();
+        for (Ext::HotkeyBinding const & binding : Ext::hotkeyBindings()) {
+            EXPECT_FALSE(binding.keys.startsWith(key)) << key.toStdString();
+        }
     }
     for (LANGUAGE_MODE const language : {LANGUAGE_ENGLISH, LANGUAGE_CHINESE}) {
         window->setLanguage(language);
@@ -183,11 +185,11 @@ QStringList shownTexts(QWidget & window)
 TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
 {
     open();
-    FeatureDialog & dialog = *board().openFeature(0);
-    QStringList const english = shownTexts(*window) + shownTexts(dialog);
+    board().currentView()->select({0});
+    QStringList const english = shownTexts(*window);
     window->setLanguage(LANGUAGE_CHINESE);
     QApplication::processEvents();
-    QStringList const chinese = shownTexts(*window) + shownTexts(dialog);
+    QStringList const chinese = shownTexts(*window);
     ASSERT_EQ(chinese.size(), english.size());
     static QRegularExpression const han("[\\x{4e00}-\\x{9fff}]");
     // The rest is not the program's text: names, paths, roles, units, the texts of the library's fields.
@@ -200,22 +202,7 @@ TEST_F(MainWindows, EveryTextFollowsTheLanguageThereAndBack)
     EXPECT_GT(chinese.filter(han).size(), 100);
     window->setLanguage(LANGUAGE_ENGLISH);
     QApplication::processEvents();
-    EXPECT_EQ(shownTexts(*window) + shownTexts(dialog), english);
-}
-
-TEST_F(MainWindows, ANegativePadStaysNegativeInTheOtherLanguage)
-{
-    open();
-    board().openFeature(0)->findChild<QComboBox *>("polarity")->setCurrentIndex(1);
-    board().closeFeature(); // saves the text of the polarity in English
-    window->setLanguage(LANGUAGE_CHINESE);
-    QApplication::processEvents();
-    FeatureDialog const & again = *board().openFeature(0); // replaces the previous one, which is saved
-    EXPECT_EQ(again.findChild<QComboBox *>("polarity")->currentIndex(), 1);
-    window->setLanguage(LANGUAGE_ENGLISH);
-    QApplication::processEvents();
-    FeatureDialog const & third = *board().openFeature(0);
-    EXPECT_EQ(third.findChild<QComboBox *>("polarity")->currentIndex(), 1);
+    EXPECT_EQ(shownTexts(*window), english);
 }
 
 TEST_F(MainWindows, TickedLayersAreDrawnInEveryStep)
@@ -291,7 +278,7 @@ TEST_F(MainWindows, AreDeletedWhileTheyAskAndNothingIsDone)
              buttonOf(page, "Delete").click();
          },
          1},
-        {"files to attach", [this] { buttonOf(*board().openFeature(0), "Attach files").click(); }, 0},
+        {"a folder to save to", [this] { window->saveAs().ask(); }, 0},
         {"a file for the keys", [this] { buttonOf(*window->showKeys(), "Export...").click(); }, 0},
         {"a file for the report",
          [this] {

@@ -30,7 +30,6 @@ constexpr double wheelStep = 1.25; // of one notch of the wheel
 constexpr double panStep = 0.1;    // of a key, in sizes of the view
 constexpr double closeZoom = 4;    // relative to home, for looking at a place
 constexpr double reach = 3;        // pixels from a feature within which a click selects it
-constexpr int mostMarked = 2000;   // path elements of the outline of a marked feature
 
 } // namespace
 
@@ -68,9 +67,9 @@ BoardView::BoardView(std::string job, std::string step, Unit unit, QWidget * par
 void BoardView::showLayer(layer_info const & layer)
 {
     m_shown = shapesOf(layer);
-    m_marked = -1;
     m_selected.clear();
     updateLayers();
+    emit selectionShown();
 }
 
 void BoardView::showBackgroundLayers(std::vector<layer_info> layers)
@@ -88,6 +87,7 @@ void BoardView::reload()
         m_shown = shapesOf(layer_info(m_shown->info()));
     }
     updateLayers();
+    emit selectionShown();
 }
 
 std::shared_ptr<LayerShapes const> BoardView::shapesOf(layer_info const & layer)
@@ -120,16 +120,11 @@ QString BoardView::emptyText() const
     return isEmpty ? emptyLayerText(*m_shown) : QString();
 }
 
-void BoardView::markFeature(int feature)
-{
-    m_marked = feature;
-    update();
-}
-
 void BoardView::select(FeatureSelection::Set features)
 {
     m_selected = std::move(features);
     update();
+    emit selectionShown();
 }
 
 void BoardView::setMarks(std::vector<Mark> marks)
@@ -238,7 +233,6 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
     if (m_port.scale() > 0 && !m_selected.empty()) {
         FeatureSelection::paint(painter, shapes(), m_selected, boardToWidget(), m_port.visible());
     }
-    paintMarkedFeature(painter);
     paintMarks(painter, m_marks, boardToWidget());
     if (m_measure && m_port.scale() > 0) {
         paintMeasuredLine(painter, handle(), *m_measure, boardToWidget());
@@ -255,23 +249,6 @@ void BoardView::paintEvent(QPaintEvent * /*event*/)
         painter.setPen(QPen(palette().highlight().color(), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
-}
-
-void BoardView::paintMarkedFeature(QPainter & painter) const
-{
-    if (m_marked < 0) {
-        return; // the shapes may not be made yet
-    }
-    auto const & list = shapes();
-    auto const marked = std::find_if(
-        list.begin(), list.end(), [this](FeatureShape const & shape) { return shape.feature == m_marked; });
-    if (marked != list.end()) {
-        QPainterPath const path = marked->marking(boardToWidget(), mostMarked);
-        painter.setPen(QPen(QColor("#0050d0"), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPath(path);
-        painter.drawEllipse(boardToWidget().map(marked->box.center()), 14, 14);
     }
 }
 
@@ -330,7 +307,7 @@ void BoardView::mouseReleaseEvent(QMouseEvent * event)
 {
     if (event->button() == Qt::LeftButton && !m_isDragging) {
         if ((event->modifiers() & Qt::ControlModifier) != 0) {
-            selectAt(event->localPos());
+            selectAt(event->localPos(), true);
         } else {
             pickAt(event->localPos());
         }
@@ -344,27 +321,21 @@ void BoardView::pickAt(QPointF pixel)
         emit markPicked(mark);
         return;
     }
-    QPointF const place = m_port.toBoard(pixel);
-    auto const & list = shapes();
-    for (std::size_t i = list.size(); i-- > 0;) { // the last one drawn is on top
-        if (list[i].kind == FeatureShape::Kind::Pad && list[i].box.contains(place)) {
-            markFeature(list[i].feature);
-            emit padPicked(list[i].feature);
-            return;
-        }
-    }
+    selectAt(pixel, false);
 }
 
-void BoardView::selectAt(QPointF pixel)
+void BoardView::selectAt(QPointF pixel, bool toggles)
 {
+    int const before = !toggles && m_selected.size() == 1 ? *m_selected.begin() : -1;
     int const feature = m_port.scale() > 0 ? FeatureSelection::featureAt(shapes(), m_port.toBoard(pixel),
-                                                                         reach / m_port.scale())
+                                                                         reach / m_port.scale(), before)
                                            : -1;
-    if (feature >= 0) {
-        if (m_selected.erase(feature) == 0) {
-            m_selected.insert(feature);
-        }
-        update();
+    FeatureSelection::Set selected = toggles ? m_selected : FeatureSelection::Set();
+    if (feature >= 0 && selected.erase(feature) == 0) {
+        selected.insert(feature);
+    }
+    if (selected != m_selected) {
+        select(std::move(selected));
         emit selectionChanged();
     }
 }

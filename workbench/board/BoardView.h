@@ -24,9 +24,10 @@ namespace Workbench {
 /// itself on construction and shows lengths in its own unit. The library never forgets a view, so views live
 /// as long as the window.
 ///
-/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or a pad, and Ctrl with
-/// a click toggles the selection of a feature. With the focus, arrows move, + and - zoom, and Home shows the
-/// whole board. Zoom and place stay when the layer or the unit changes.
+/// The wheel zooms about the pointer, dragging moves the board, a click picks a mark or selects the
+/// feature there alone, a further click the next larger one there, and Ctrl with a click toggles a feature's
+/// selection. With the focus, arrows move, + and - zoom, and Home shows the whole board. Zoom and place stay
+/// when the layer or the unit changes.
 class BoardView : public QWidget
 {
     Q_OBJECT
@@ -39,7 +40,7 @@ public:
     /// The handle for the library's functions.
     void const * handle() const { return static_cast<QWidget const *>(this); }
 
-    /// Sets the layer to work on: it is drawn on top, and its pads can be picked.
+    /// Sets the layer to work on: it is drawn on top, and its features can be selected.
     void showLayer(KVCAM::API::layer_info const & layer);
     /// Draws these layers below it, the first one on top.
     void showBackgroundLayers(std::vector<KVCAM::API::layer_info> layers);
@@ -47,8 +48,6 @@ public:
     void reload();
     /// Waits until the picture is finished; otherwise it is made beside the program.
     void finishPicture();
-    /// Marks a feature of the shown layer; -1 marks none.
-    void markFeature(int feature);
     /// Selects these features of the shown layer. Showing another layer or reading the layers again clears
     /// the selection.
     void select(FeatureSelection::Set features);
@@ -101,11 +100,12 @@ signals:
     void portChanged();
     /// The pointer has moved; the library's coordinate read-out holds its place on the board.
     void pointerMoved();
-    void padPicked(int feature);
     /// The Delete key was pressed: the selected features are to be deleted.
     void deleteAsked();
     /// The user has selected or deselected a feature.
     void selectionChanged();
+    /// Other features are selected, by whatever, or the layers were read again.
+    void selectionShown();
 
 protected:
     bool event(QEvent * event) override;
@@ -124,8 +124,7 @@ private:
     void changePort();
     void beginPicture();
     void pickAt(QPointF pixel);
-    void selectAt(QPointF pixel);
-    void paintMarkedFeature(QPainter & painter) const;
+    void selectAt(QPointF pixel, bool toggles);
 
     std::string m_job;
     std::string m_step;
@@ -140,7 +139,6 @@ private:
     BoardPicture m_picture;
     bool m_isStale = true; // a new picture has to be started
     QTimer m_late;
-    int m_marked = -1;
     FeatureSelection::Set m_selected;
     QPointF m_pressedAt;
     QPointF m_draggedTo;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 #include <tuple>
 
@@ -35,11 +36,15 @@ bool isAt(FeatureShape const & shape, QPointF place, double tolerance)
         return distanceToLine(place, shape.place, shape.end) <= shape.penWidth / 2 + tolerance;
     }
     if (shape.kind == FeatureShape::Kind::Pad) {
-        return true; // the box is close enough, as for opening a pad
+        bool const isOwn = shape.symbol == nullptr || !shape.symbol->parts.empty();
+        if (isOwn) {
+            return true; // its drawing may have gaps, in which it is meant as well
+        }
     }
+    QPainterPath const path = shape.kind == FeatureShape::Kind::Pad ? shape.outline() : shape.path;
     QPainterPathStroker stroker;
     stroker.setWidth((shape.filled ? 0 : shape.penWidth) + 2 * tolerance);
-    return (shape.filled && shape.path.contains(place)) || stroker.createStroke(shape.path).contains(place);
+    return (shape.filled && path.contains(place)) || stroker.createStroke(path).contains(place);
 }
 
 auto looks(KVCAM::API::feature_info const & feature)
@@ -49,12 +54,24 @@ auto looks(KVCAM::API::feature_info const & feature)
 
 } // namespace
 
-int featureAt(Shapes const & shapes, QPointF place, double tolerance)
+int featureAt(Shapes const & shapes, QPointF place, double tolerance, int after)
 {
-    auto const found = std::find_if(shapes.rbegin(), shapes.rend(), [&](FeatureShape const & shape) {
-        return isAt(shape, place, tolerance);
+    std::vector<FeatureShape const *> hits;
+    for (auto shape = shapes.rbegin(); shape != shapes.rend(); ++shape) {
+        if (isAt(*shape, place, tolerance)) {
+            hits.push_back(&*shape);
+        }
+    }
+    if (hits.empty()) {
+        return -1;
+    }
+    std::stable_sort(hits.begin(), hits.end(), [](FeatureShape const * a, FeatureShape const * b) {
+        return a->box.width() * a->box.height() < b->box.width() * b->box.height();
     });
-    return found == shapes.rend() ? -1 : found->feature;
+    auto const known = std::find_if(hits.begin(), hits.end(),
+                                    [after](FeatureShape const * shape) { return shape->feature == after; });
+    bool const isLast = known == hits.end() || std::next(known) == hits.end();
+    return (isLast ? hits.front() : *std::next(known))->feature;
 }
 
 Set all(Features const & features)
@@ -120,6 +137,11 @@ void paint(QPainter & painter, Shapes const & shapes, Set const & set, QTransfor
         } else {
             painter.drawRect(boardToWidget.mapRect(shape->box));
         }
+    }
+    if (set.size() == 1 && !shown.empty()) { // to be found however small it is
+        constexpr int ring = 14;
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(boardToWidget.map(shown.front()->box.center()), ring, ring);
     }
     painter.restore();
 }

@@ -17,8 +17,10 @@ using Set = std::set<int>;
 using Features = std::vector<KVCAM::API::feature_info>;
 using Shapes = std::vector<FeatureShape>;
 
-/// The uppermost feature within `tolerance` (micrometres, positive) of a place on the board; -1 for none.
-int featureAt(Shapes const & shapes, QPointF place, double tolerance);
+/// The feature within `tolerance` (micrometres, positive) of a place on the board; -1 for none. Of several,
+/// the one with the smallest box is meant, since large ones can be picked beside it; of equal ones, the
+/// uppermost. If `after`, which was meant before, is there, the next larger one is meant.
+int featureAt(Shapes const & shapes, QPointF place, double tolerance, int after = -1);
 
 Set all(Features const & features);
 /// All features that are not in the set.

@@ -126,6 +126,7 @@ void ComparePage::makeLayout()
     layout->addWidget(sides, 1);
     m_stop->setEnabled(false);
     m_progress->setVisible(false);
+    m_progress->setValue(0);
 }
 
 void ComparePage::setTexts()

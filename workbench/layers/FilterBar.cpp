@@ -100,7 +100,8 @@ void FilterBar::makeLayout()
     m_nameTitle->setBuddy(m_name);
     connect(m_name, &QLineEdit::textChanged, this, &FilterBar::refresh);
     layout->addWidget(m_nameTitle, 0, 0);
-    layout->addWidget(m_name, 0, 1, 1, -1);
+    layout->addWidget(m_name, 0, 1);
+    layout->addWidget(m_count, 0, 2, 1, 2);
     for (std::size_t i = 0; i < fieldCount; ++i) {
         auto * words = new QComboBox;
         words->setObjectName(fields[i].key);
@@ -133,8 +134,7 @@ void FilterBar::makeLayout()
     buttons->addStretch(1);
     buttons->addWidget(m_hides);
     layout->addLayout(buttons, 3, 0, 1, -1);
-    layout->addWidget(m_count, 4, 0, 1, -1);
-    layout->addWidget(m_explanation, 5, 0, 1, -1);
+    layout->addWidget(m_explanation, 4, 0, 1, -1);
 }
 
 void FilterBar::setTexts()

@@ -10,13 +10,13 @@
 #include <QJsonObject>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Workbench {
 
 namespace {
 
 using namespace KVCAM::UIAPI;
-
-constexpr int descriptionColumn = 5;
 
 // Names stored in mil are shown rounded and snapped, as in the library's own lists; those in micrometres are
 // converted to mil first.
@@ -75,12 +75,6 @@ SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * p
 {
     m_names = makeTable({{}, {}, {}, {}, {}, {}});
     wrapLastColumn(*m_names);
-    for (SymbolRow const & row : symbolRows(job)) {
-        addRow(*m_names,
-               {row.stored, sizeUnitOf(row), row.inch, row.metric, QString::number(row.features),
-                row.description},
-               {4});
-    }
     m_results = makeTable({{}, {}});
     m_resultsTitle = new QGroupBox;
     auto * resultsLayout = new QVBoxLayout(m_resultsTitle);
@@ -91,7 +85,6 @@ SymbolsPage::SymbolsPage(std::string const & job, void const * view, QWidget * p
     layout->addWidget(m_resultsTitle, 1);
     connect(m_names, &QTableWidget::itemSelectionChanged, this, &SymbolsPage::showResults);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &SymbolsPage::showResults);
-    m_names->selectRow(0);
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
@@ -106,10 +99,20 @@ void SymbolsPage::setTexts()
     m_names->setHorizontalHeaderLabels({tr("As stored"), tr("Stored in"), tr("In mil"),
                                         tr("In micrometres (µm)"), tr("Features"), tr("Description")});
     m_results->setHorizontalHeaderLabels({tr("Function"), tr("Result")});
-    auto const rows = symbolRows(m_job);
-    for (int i = 0; i < m_names->rowCount() && i < static_cast<int>(rows.size()); ++i) {
-        m_names->item(i, descriptionColumn)->setText(rows[static_cast<std::size_t>(i)].description);
+    refresh();
+}
+
+void SymbolsPage::refresh()
+{
+    int const current = std::max(m_names->currentRow(), 0);
+    m_names->setRowCount(0);
+    for (SymbolRow const & row : symbolRows(m_job)) {
+        addRow(*m_names,
+               {row.stored, sizeUnitOf(row), row.inch, row.metric, QString::number(row.features),
+                row.description},
+               {4});
     }
+    m_names->selectRow(std::min(current, m_names->rowCount() - 1));
     showResults();
 }
 

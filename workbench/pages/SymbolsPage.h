@@ -36,6 +36,8 @@ public:
 
     /// Shows the results in the unit of another view.
     void setView(void const * view);
+    /// Lists the symbols again after the engine's features have changed.
+    void refresh();
 
 private:
     void setTexts();

@@ -1,12 +1,10 @@
 #include "tour/Headless.h"
-#include "feature/PadGroup.h"
-#include "feature/RemarksGroup.h"
 
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "checks/ResultFiles.h"
 #include "checks/ResultsPage.h"
-#include "feature/FeatureDialog.h"
+#include "feature/FeaturePane.h"
 #include "layers/LayerTable.h"
 #include "pages/EdaPage.h"
 #include "pages/EnginePane.h"
@@ -169,59 +167,55 @@ QJsonObject useHotkeys(MainWindow & window, Camera & camera)
     return facts;
 }
 
-// Uses the feature dialog as a user would: types an illegal width and a calculation, and switches the unit a
-// hundred times. A restored form is not edited.
-QJsonObject useFeatureDialog(MainWindow & window, Session const & session, Camera & camera)
+// Looks at a pad and changes its width as a user would, by a text that is refused and by a calculation, and
+// takes the change back.
+QJsonObject useFeature(MainWindow & window, Camera & camera)
 {
-    int const pad = window.board().firstPad();
-    if (pad < 0) {
+    BoardView & view = *window.board().currentView();
+    auto const & features = view.features();
+    auto const pad = std::find_if(features.begin(), features.end(), [](auto const & feature) {
+        return feature.kind == 'P' &&
+               Ext::Symbol::parse(QString::fromStdString(feature.symbol), Unit::Inch).ok;
+    });
+    if (pad == features.end()) {
         return {};
     }
-    FeatureDialog & dialog = *window.board().openFeature(pad);
-    void const * const view = window.board().currentView()->handle();
-    Unit const unit = Ext::unitOf(view);
-    QJsonObject facts{{"layer", QString::fromStdString(window.board().currentView()->layer())},
-                      {"pad", pad},
-                      {"restored", dialog.isRestored()}};
-    if (!dialog.isRestored()) {
-        auto & width = *dialog.findChild<QLineEdit *>("width");
-        QString const calculation = unit == Unit::Inch ? "10+2.5" : "254+63.5";
-        width.setFocus();
-        type(width, "90000*2");
-        facts["refused"] = dialog.pad().verdict();
-        camera.take(dialog, "feature-dialog-refused.png");
-        press(width, Qt::Key_Return);
-        facts["width after refusal"] = dialog.pad().width();
-        type(width, calculation);
-        facts["typed"] = dialog.pad().width();
-        press(width, Qt::Key_Return);
-        dialog.remarks().fill("uiapi-workbench",
-                              "The width was typed as " + calculation + " and is kept with this note.",
-                              session.directory() + "/matrix/matrix");
-    }
-    QString const before = dialog.pad().width();
-    for (int i = 0; i < 100; ++i) {
-        switchUnit(view);
-    }
-    facts["width"] = before;
-    facts["width after 100 switches"] = dialog.pad().width();
-    facts["width in nm"] = static_cast<double>(dialog.pad().exactWidth().nanometres());
-    facts["description"] = dialog.pad().description();
-    for (Unit const shown : {Unit::Inch, Unit::Millimetre}) {
-        giveUnit(view, shown);
-        facts[shown == Unit::Inch ? "symbol in mil" : "symbol in my"] = dialog.pad().symbol();
-        camera.take(dialog, shown == Unit::Inch ? "feature-dialog-inch.png" : "feature-dialog-mm.png");
-    }
-    dialog.pad().showNames();
-    camera.take(dialog, "feature-dialog-names.png");
-    dialog.setFocus(); // hides the list
+    FeaturePane & pane = window.board().feature();
+    auto const text = [&pane](char const * name) { return pane.findChild<QLabel *>(name)->text(); };
+    Unit const unit = Ext::unitOf(view.handle());
+    int const index = pad->index;
+    view.select({index});
+    QJsonObject facts{{"layer", QString::fromStdString(view.layer())},
+                      {"feature", text("feature")},
+                      {"description", text("description")},
+                      {"size", text("size")},
+                      {"net", text("net")},
+                      {"position", text("position")}};
+    camera.take(window, "feature.png");
+    auto & width = *pane.findChild<QLineEdit *>("width");
+    window.board().openFeature();
+    type(width, "9000000*2");
+    facts["refused"] = text("verdict");
+    press(width, Qt::Key_Return);
+    type(width, unit == Unit::Inch ? "10+2.5" : "254+63.5");
+    facts["typed"] = text("verdict");
+    press(width, Qt::Key_Return);
+    QApplication::processEvents(); // the field is done with its key
+    facts["symbol"] = QString::fromStdString(
+        std::find_if(view.features().begin(), view.features().end(), [index](auto const & feature) {
+            return feature.index == index;
+        })->symbol);
+    facts["changed size"] = text("size");
+    camera.take(window, "feature-changed.png");
+    pane.showNames();
+    camera.take(window, "feature-names.png");
+    view.setFocus(); // hides the list
     window.setLanguage(LANGUAGE_CHINESE);
-    camera.take(dialog, "feature-dialog-chinese.png"); // also delivers the language change to the dialog
-    facts["description in Chinese"] = dialog.pad().description();
+    camera.take(pane, "feature-chinese.png"); // also delivers the language change
+    facts["description in Chinese"] = text("description");
     window.setLanguage(LANGUAGE_ENGLISH);
-    giveUnit(view, unit);
-    facts["saved"] = dialog.saveForm();
-    dialog.close();
+    facts["undone"] = KVCAM::API::Undo(view.job(), view.step());
+    window.board().refresh();
     return facts;
 }
 
@@ -359,7 +353,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     QJsonObject const references = useReferences(window, take);
     QJsonObject const undone = useUndo(window, session, take);
     questions = Ext::MessageAnswer::No;
-    QJsonObject const feature = useFeatureDialog(window, session, camera);
+    QJsonObject const feature = useFeature(window, camera);
     QJsonObject const analysis = useResults(window, commandLine, camera);
     QJsonArray errors = errorsOf(session, camera);
     for (auto const & error : analysis["errors"].toArray()) {

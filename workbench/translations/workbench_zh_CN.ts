@@ -568,19 +568,7 @@ Close the program that has port %1, then start this one again.</source>
     </message>
 </context>
 <context>
-    <name>Workbench::FeatureDialog</name>
-    <message>
-        <source>Feature</source>
-        <translation>图形</translation>
-    </message>
-    <message>
-        <source>Pad %1 of layer %2 at %3</source>
-        <translation>焊盘 %1，层 %2，位置 %3</translation>
-    </message>
-    <message>
-        <source>Width %1 nm, offset %2 nm</source>
-        <translation>宽 %1 nm，偏移 %2 nm</translation>
-    </message>
+    <name>Workbench::FeaturePane</name>
     <message>
         <source>Symbol</source>
         <translation>符号</translation>
@@ -594,24 +582,32 @@ Close the program that has port %1, then start this one again.</source>
         <translation>高</translation>
     </message>
     <message>
-        <source>Offset</source>
-        <translation>偏移</translation>
-    </message>
-    <message>
-        <source>Pad</source>
-        <translation>焊盘</translation>
-    </message>
-    <message>
         <source>Names</source>
         <translation>名称</translation>
     </message>
     <message>
-        <source>A number or a calculation such as 10+2.5 or 0.3mm-2mil</source>
-        <translation>数字或算式，例如 10+2.5 或 0.3mm-2mil</translation>
+        <source>Size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message>
+        <source>Net</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Polarity</source>
         <translation>极性</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
     </message>
     <message>
         <source>Positive</source>
@@ -622,52 +618,58 @@ Close the program that has port %1, then start this one again.</source>
         <translation>负</translation>
     </message>
     <message>
-        <source>Plated</source>
-        <translation>金属化</translation>
+        <source>Pad %1</source>
+        <translation>焊盘 %1</translation>
     </message>
     <message>
-        <source>This side</source>
-        <translation>本面</translation>
+        <source>Line %1</source>
+        <translation>线 %1</translation>
     </message>
     <message>
-        <source>Both sides</source>
-        <translation>两面</translation>
+        <source>Arc %1</source>
+        <translation>圆弧 %1</translation>
     </message>
     <message>
-        <source>Applies to</source>
-        <translation>适用于</translation>
+        <source>Surface %1</source>
+        <translation>面 %1</translation>
     </message>
     <message>
-        <source>Author</source>
-        <translation>作者</translation>
+        <source>%1, part of a text</source>
+        <translation>%1，属于文字</translation>
     </message>
     <message>
-        <source>Note</source>
-        <translation>备注</translation>
+        <source>Nothing is selected. A click selects a feature, with Ctrl one more.</source>
+        <translation>未选中图形。单击选中一个，按住 Ctrl 单击可加选。</translation>
     </message>
     <message>
-        <source>Documents</source>
-        <translation>文档</translation>
+        <source>%1 features</source>
+        <translation>%1 个图形</translation>
     </message>
     <message>
-        <source>Remarks</source>
-        <translation>说明</translation>
+        <source>The features have several symbols, or none.</source>
+        <translation>所选图形的符号不同，或没有符号。</translation>
     </message>
     <message>
-        <source>Attach files</source>
-        <translation>附加文件</translation>
+        <source>not known</source>
+        <translation>未知</translation>
     </message>
     <message>
-        <source>Switch unit</source>
-        <translation>切换单位</translation>
+        <source>around %1</source>
+        <translation>中心 %1</translation>
     </message>
     <message>
-        <source>Save form</source>
-        <translation>保存表单</translation>
+        <source>from %1
+to %2</source>
+        <translation>起点 %1
+终点 %2</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>关闭</translation>
+        <source>about %1</source>
+        <translation>圆心 %1</translation>
+    </message>
+    <message>
+        <source>length %1</source>
+        <translation>长度 %1</translation>
     </message>
 </context>
 <context>
@@ -1177,11 +1179,11 @@ Close the program that has port %1, then start this one again.</source>
         <translation>板图的使用</translation>
     </message>
     <message>
-        <source>The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks a mark.
+        <source>The wheel zooms about the pointer, dragging moves the board, a click selects a feature or picks a mark.
 With the picture in focus the arrow keys move the board, + and - zoom, Home shows the whole board.
 Ticked layers are drawn beside the selected one; Space in the list of layers sets and clears the tick.
 Ctrl with a click selects or deselects a feature; the Delete key deletes the selection.</source>
-        <translation>滚轮以指针为中心缩放，拖动移动板图，单击打开焊盘或选取标记。
+        <translation>滚轮以指针为中心缩放，拖动移动板图，单击选中图形或选取标记。
 板图获得焦点时，方向键移动，+ 和 - 缩放，Home 显示整板。
 勾选的层与选中的层一起显示；在层列表中按空格键勾选或取消。
 按住 Ctrl 单击可选中图形或取消；Delete 键删除选中的图形。</translation>
@@ -1259,8 +1261,8 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>图形(&amp;F)</translation>
     </message>
     <message>
-        <source>Opens the dialog on a pad, as a click on it does</source>
-        <translation>打开焊盘对话框；单击焊盘也可以</translation>
+        <source>Changes the selected features</source>
+        <translation>更改选中的图形</translation>
     </message>
     <message>
         <source>Language of all texts</source>
@@ -1287,16 +1289,28 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>EDA 链接(&amp;K)</translation>
     </message>
     <message>
-        <source>Information</source>
-        <translation>提示</translation>
+        <source>Nothing with a symbol is selected. A click selects a feature.</source>
+        <translation>未选中带符号的图形。单击可选中图形。</translation>
     </message>
     <message>
-        <source>This layer has no pads.</source>
-        <translation>此层没有焊盘。</translation>
+        <source>Nothing was changed: %1</source>
+        <translation>未更改：%1</translation>
     </message>
     <message>
-        <source>%1 - UIAPICommon workbench</source>
-        <translation>%1 - UIAPICommon 工作台</translation>
+        <source>Features changed to %1: %2</source>
+        <translation>已改为 %1 的图形：%2</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>另存为(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>%1[*] - UIAPICommon workbench</source>
+        <translation>%1[*] - UIAPICommon 工作台</translation>
     </message>
     <message>
         <source>Move the pointer over the board</source>
@@ -2027,6 +2041,41 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
     <message>
         <source>Open a board</source>
         <translation>打开板</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SaveAs</name>
+    <message>
+        <source>Save the board as a new folder</source>
+        <translation>将板另存到新文件夹</translation>
+    </message>
+    <message>
+        <source>The board was not saved: %1</source>
+        <translation>板未保存：%1</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation>已保存到 %1</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>更改未保存</translation>
+    </message>
+    <message>
+        <source>The board %1 has changes that are not saved.</source>
+        <translation>板 %1 的更改尚未保存。</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>另存为(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃更改(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>

@@ -1,9 +1,8 @@
 #include "window/BoardPage.h"
-#include "feature/PadSymbol.h"
 
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
-#include "feature/FeatureDialog.h"
+#include "feature/FeaturePane.h"
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
 #include "pages/EnginePane.h"
@@ -17,7 +16,10 @@
 
 #include <glog/logging.h>
 
+#include <QAction>
 #include <QLabel>
+#include <QPointer>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -29,10 +31,9 @@ namespace Workbench {
 using namespace KVCAM;
 using namespace KVCAM::UIAPI;
 
-BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile)
+BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit)
     : QSplitter(Qt::Vertical)
     , m_session(session)
-    , m_formFile(std::move(formFile))
     , m_unit(unit)
     , m_views(session.steps().size())
     , m_steps(new QTabWidget)
@@ -42,6 +43,8 @@ BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString
     , m_engine(new EnginePane)
 {
     makeSteps();
+    m_feature = new FeaturePane(view(m_step));
+    connect(m_feature, &FeaturePane::changeWanted, this, &BoardPage::changeSymbol);
     makeLayout(log);
     connect(Ext::Notifier::instance(), &Ext::Notifier::viewChanged, this, &BoardPage::showOutline);
     connect(m_steps, &QTabWidget::currentChanged, this, [this] {
@@ -80,7 +83,7 @@ BoardView & BoardPage::view(std::size_t step)
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(view);
         connect(view, &BoardView::pointerMoved, this, &BoardPage::pointerMoved);
-        connect(view, &BoardView::padPicked, this, &BoardPage::openFeature);
+        connect(view, &BoardView::selectionShown, this, [this] { m_feature->showSelection(*currentView()); });
         connect(view, &BoardView::portChanged, this, &BoardPage::portChanged);
         connect(view, &BoardView::selectionChanged, this, &BoardPage::selectionChanged);
         connect(view, &BoardView::deleteAsked, this, &BoardPage::deleteSelected);
@@ -107,6 +110,26 @@ QList<QAction *> BoardPage::paneActions() const
     return actions;
 }
 
+QWidget * BoardPage::makeRightPanes()
+{
+    auto * feature = new QScrollArea;
+    feature->setFrameShape(QFrame::NoFrame);
+    feature->setWidgetResizable(true);
+    feature->setWidget(m_feature);
+    m_featurePane = new Pane("feature", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Feature"), feature);
+    auto * engine =
+        new Pane("engine", QT_TRANSLATE_NOOP("Workbench::MainWindow", "What the engine was told"), m_engine);
+    engine->setOpen(false);
+    auto * right = new QSplitter(Qt::Vertical);
+    right->setObjectName("right");
+    for (Pane * pane : {m_featurePane, engine}) {
+        right->addWidget(pane);
+        connect(pane->openAction(), &QAction::toggled, right, // without a pane it would keep its room
+                [this, right, engine] { right->setVisible(m_featurePane->isOpen() || engine->isOpen()); });
+    }
+    return right;
+}
+
 void BoardPage::makeLayout(LogLines const & log)
 {
     m_outline->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -121,10 +144,7 @@ void BoardPage::makeLayout(LogLines const & log)
     sides->addWidget(
         new Pane("layers", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Layers"), makeLayerPane()));
     sides->addWidget(middle);
-    auto * engine =
-        new Pane("engine", QT_TRANSLATE_NOOP("Workbench::MainWindow", "What the engine was told"), m_engine);
-    engine->setOpen(false);
-    sides->addWidget(engine);
+    sides->addWidget(makeRightPanes());
     sides->setCollapsible(1, false); // the board
     sides->setStretchFactor(1, 1);
     sides->setSizes({560, 640, 240});
@@ -194,6 +214,7 @@ void BoardPage::showCurrentStep()
         showLayer(m_layers->selectedLayer());
     }
     showTicked();
+    m_feature->showSelection(*currentView());
     setStepConfigToAPI(currentView()->handle()); // the engine holds the state of the view in front
     refreshEngine();
     m_filter->setStep(currentView()->step());
@@ -202,7 +223,6 @@ void BoardPage::showCurrentStep()
 
 void BoardPage::showLayer(int layer)
 {
-    closeFeature(); // its pad belongs to the layer that was shown
     m_filter->setLayer(layer);
     if (layer >= 0) {
         currentView()->showLayer(m_session.layers().at(static_cast<std::size_t>(layer)).info);
@@ -244,50 +264,16 @@ void BoardPage::refreshEngine()
     m_engine->refresh();
 }
 
-FeatureDialog * BoardPage::openFeature(int feature)
+void BoardPage::openFeature()
 {
-    closeFeature();
-    currentView()->markFeature(feature);
-    m_feature = new FeatureDialog(*currentView(), feature, m_session.job(), m_formFile, this);
-    m_feature->restoreForm();
-    m_feature->show();
-    return m_feature;
-}
-
-void BoardPage::openFirstPad()
-{
-    int const pad = firstPad();
-    if (pad >= 0) {
-        openFeature(pad);
-    } else {
-        Ext::showMessage({Ext::MessageKind::Information, window(), WindowTexts::tr("Information"),
-                          WindowTexts::tr("This layer has no pads.")});
+    m_featurePane->setOpen(true);
+    if (!m_feature->beginEditing()) {
+        emit status(WindowTexts::tr("Nothing with a symbol is selected. A click selects a feature."));
     }
-}
-
-void BoardPage::closeFeature()
-{
-    if (m_feature != nullptr) {
-        m_feature->close();
-        m_feature->deleteLater();
-        m_feature = nullptr;
-    }
-}
-
-int BoardPage::firstPad() const
-{
-    for (auto const & feature : currentView()->features()) {
-        PadSymbol const symbol(QString::fromStdString(feature.symbol), Unit::Inch);
-        if (feature.kind == 'P' && symbol.hasWidth()) {
-            return feature.index;
-        }
-    }
-    return -1;
 }
 
 void BoardPage::refresh()
 {
-    closeFeature(); // its pad may be gone
     m_session.recount(m_step);
     currentView()->reload();
     showCurrentStep();
@@ -312,13 +298,36 @@ void BoardPage::deleteSelected()
         return;
     }
     if (!Embedded::deleteFeatures(m_session.job(), view.step(), view.layer(), features)) {
-        QString const reason = QString::fromStdString(Embedded::lastError()).simplified();
-        LOG(ERROR) << "workbench: cannot delete features: " << reason.toStdString();
-        emit status(WindowTexts::tr("Nothing was deleted: %1").arg(reason));
+        showRefusal(WindowTexts::tr("Nothing was deleted: %1"));
         return;
     }
     refresh();
     emit status(WindowTexts::tr("Deleted features: %1").arg(features.size()));
+}
+
+void BoardPage::changeSymbol(SymbolChange const & change)
+{
+    if (!Embedded::changeSymbol(m_session.job(), change.step, change.layer, change.features,
+                                change.symbol.name().toStdString(), unitCode(change.symbol.unit()))) {
+        showRefusal(WindowTexts::tr("Nothing was changed: %1"));
+        m_feature->showSelection(*currentView());
+        return;
+    }
+    refresh();
+    BoardView & view = *currentView();
+    if (view.step() == change.step && view.layer() == change.layer) {
+        view.select({change.features.begin(), change.features.end()});
+    }
+    emit status(
+        WindowTexts::tr("Features changed to %1: %2").arg(change.symbol.name()).arg(change.features.size()));
+}
+
+// The text has a place for the engine's reason.
+void BoardPage::showRefusal(QString const & text)
+{
+    QString const reason = QString::fromStdString(Embedded::lastError()).simplified();
+    LOG(ERROR) << "workbench: cannot change features: " << reason.toStdString();
+    emit status(text.arg(reason));
 }
 
 void BoardPage::showMeasurement(QString const & step, QString const & layer, Mark const & mark)
@@ -340,6 +349,9 @@ void BoardPage::showMeasurement(QString const & step, QString const & layer, Mar
 void BoardPage::fadeMarks(bool remove)
 {
     for (BoardView * view : m_views) {
+        if (view == nullptr) {
+            continue;
+        }
         std::vector<Mark> marks = remove ? std::vector<Mark>() : view->marks();
         for (Mark & mark : marks) {
             mark.isFaint = true;

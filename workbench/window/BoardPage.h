@@ -5,7 +5,6 @@
 #include "ui/Units.h"
 
 #include <QList>
-#include <QPointer>
 #include <QSplitter>
 #include <QString>
 
@@ -20,21 +19,24 @@ namespace Workbench {
 
 class BoardView;
 class EnginePane;
-class FeatureDialog;
+class FeaturePane;
 class FilterBar;
 class LayerTable;
 class LogLines;
+class Pane;
+struct SymbolChange;
 
-/// The page of the board: a view for each step in tabs, the job's layers on the left, the log below, and on
-/// the right, closed at first, what the engine was told. Commands act on the step in front.
+/// The page of the board: a view for each step in tabs, the job's layers on the left, the selected features
+/// on the right with, closed at first, what the engine was told, and the log below. Commands act on the step
+/// in front.
 class BoardPage : public QSplitter
 {
     Q_OBJECT
 
 public:
-    /// Views start in `unit`. Session and log are not owned and outlive the page; the
-    /// session's counts follow deletions. `formFile` keeps the forms of the feature dialogs.
-    BoardPage(Session & session, LogLines const & log, Unit unit, QString formFile);
+    /// Views start in `unit`. Session and log are not owned and outlive the page; the session's counts follow
+    /// deletions.
+    BoardPage(Session & session, LogLines const & log, Unit unit);
 
     /// The view of a step, made and registered when it is first needed: a job may have thousands of steps.
     BoardView & view(std::size_t step);
@@ -48,14 +50,9 @@ public:
     /// Brings a step to the front by its name in any case. False for an unknown one.
     bool showStep(QString const & name);
 
-    /// Opens the dialog on a pad of the shown layer. It replaces an open one and is owned by the page.
-    FeatureDialog * openFeature(int feature);
-    /// Opens the dialog on the first pad, or says that there is none.
-    void openFirstPad();
-    /// Closes the dialog, which saves its form.
-    void closeFeature();
-    /// The first pad of the shown layer whose symbol has sizes; -1 if there is none.
-    int firstPad() const;
+    FeaturePane & feature() const { return *m_feature; }
+    /// Lets the user change the selected features, or says that nothing is selected.
+    void openFeature();
 
     void tickAllLayers(bool on);
     /// Shows the colours of layers that are kept in a settings file, and keeps later ones there.
@@ -69,6 +66,8 @@ public:
     /// Deletes the selected features of the shown layer without asking, since it can be undone. The status
     /// tells how many were deleted, or why none were.
     void deleteSelected();
+    /// Gives features another symbol and selects them again, likewise.
+    void changeSymbol(SymbolChange const & change);
     /// Brings a measurement's step, layer and place to the front, and marks the place.
     void showMeasurement(QString const & step, QString const & layer, Workbench::Mark const & mark);
     /// Makes all marks faint, since the board may have changed, or removes them.
@@ -94,14 +93,15 @@ private:
     void makeSteps();
     void makeLayout(LogLines const & log);
     QWidget * makeLayerPane();
+    QWidget * makeRightPanes();
     void setTexts();
     void showCurrentStep();
     void showLayer(int layer);
     void showTicked();
     void showOutline();
+    void showRefusal(QString const & text);
 
     Session & m_session;
-    QString m_formFile;
     Unit m_unit;
     std::vector<BoardView *> m_views; // by step; null until needed
     std::size_t m_step = 0;           // in front; its view exists
@@ -110,7 +110,8 @@ private:
     LayerTable * m_layers;
     FilterBar * m_filter;
     EnginePane * m_engine;
-    QPointer<FeatureDialog> m_feature;
+    FeaturePane * m_feature;
+    Pane * m_featurePane = nullptr;
 };
 
 } // namespace Workbench

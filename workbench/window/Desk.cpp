@@ -2,6 +2,7 @@
 
 #include "job/JobLoading.h"
 #include "job/RecentBoards.h"
+#include "job/SaveAs.h"
 #include "job/Session.h"
 #include "ui/LanguageChange.h"
 #include "window/BoardPage.h"
@@ -71,6 +72,15 @@ QString Desk::read(Board & board, QString const & path, QString const & step) co
 
 bool Desk::open(QString const & path, QString const & step)
 {
+    if (m_board != nullptr && m_board->window->saveAs().isChanged()) {
+        m_board->window->saveAs().whenSettled([this, path, step] { replace(path, step); });
+        return false;
+    }
+    return replace(path, step);
+}
+
+bool Desk::replace(QString const & path, QString const & step)
+{
     auto board = std::make_unique<Board>();
     QString const error = read(*board, path, step);
     if (!error.isEmpty()) {
@@ -92,6 +102,8 @@ bool Desk::open(QString const & path, QString const & step)
     MainWindow & window = *m_board->window;
     window.setRecentBoards(recentBoards(m_stateFile));
     connect(&window, &MainWindow::boardWanted, this, [this](QString const & next) { open(next); });
+    connect(&window.saveAs(), &SaveAs::saved, this,
+            [this](QString const & folder) { keepRecentBoard(m_stateFile, folder); });
     window.board().showStep(step);
     window.useStateFile(m_stateFile, m_commandLine.isUnitGiven);
     window.show();
@@ -106,7 +118,7 @@ void Desk::close()
         m_start.release()->deleteLater();
     }
     if (m_board != nullptr) {
-        m_board->window->close(); // keeps its state
+        m_board->window->leave(); // keeps its state
         m_closed = std::move(m_board);
         QTimer::singleShot(0, this, [this] { m_closed.reset(); });
     }

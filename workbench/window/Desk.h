@@ -28,7 +28,8 @@ public:
     /// Shows the window without a board.
     void showStart();
     /// Opens a board at a step, by default its first, and closes the one shown. False if that cannot be done;
-    /// what is shown then stays.
+    /// what is shown then stays. If the one shown has changes that are not saved, the user is asked what to
+    /// do with them; the result is false, and the other is opened afterwards.
     bool open(QString const & path, QString const & step = {});
     /// Null while no board is shown.
     MainWindow * window() const;
@@ -37,6 +38,7 @@ private:
     struct Board;
 
     QString read(Board & board, QString const & path, QString const & step) const;
+    bool replace(QString const & path, QString const & step);
     void close();
     QWidget * shown() const;
 

@@ -244,8 +244,7 @@ void KeysDialog::showBindings()
             addRow(*m_bindings, {binding.keys, HotkeyCommands::text(binding.code), binding.name, remark});
             if (!remark.isEmpty()) {
                 for (int column = 0; column < m_bindings->columnCount(); ++column) {
-                    m_bindings->item(m_bindings->rowCount() - 1, column)
-                        ->setForeground(dimmedText());
+                    m_bindings->item(m_bindings->rowCount() - 1, column)->setForeground(dimmedText());
                 }
             }
         }

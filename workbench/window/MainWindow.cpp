@@ -3,6 +3,7 @@
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "checks/ResultsPage.h"
+#include "job/SaveAs.h"
 #include "layers/ComparePage.h"
 #include "layers/ReferencesPage.h"
 #include "pages/AttributesPage.h"
@@ -29,6 +30,7 @@
 #include <glog/logging.h>
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -56,11 +58,14 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
     resize(firstWindowSize(screen()->availableSize()));
     makeToolBar();
     m_saveFlag->setChecked(commandLine.saveFlag); // before the views, to record their registration
-    m_board = new BoardPage(session, log, commandLine.unit, commandLine.output + "/feature-form.json");
+    m_board = new BoardPage(session, log, commandLine.unit);
     m_pages = new QTabWidget;
     setCentralWidget(m_pages);
     addPage(m_board, "board", QT_TR_NOOP("&Board"));
     addPages();
+    m_saveAs = new SaveAs(session, *this);
+    connect(m_saveAs, &SaveAs::status, this, &MainWindow::showStatus);
+    connect(m_board, &BoardPage::refreshed, m_saveAs, &SaveAs::showState);
     m_commands = new HotkeyCommands(*m_board, this);
     makeMenus();
     makeStatusBar();
@@ -91,7 +96,7 @@ void MainWindow::makeToolBar()
     connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
     m_feature = m_bar->addAction(QString());
     m_feature->setShortcut(Qt::Key_F4);
-    connect(m_feature, &QAction::triggered, this, [this] { m_board->openFirstPad(); });
+    connect(m_feature, &QAction::triggered, this, [this] { m_board->openFeature(); });
     m_language = new QComboBox;
     m_language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
     m_language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
@@ -108,8 +113,7 @@ void MainWindow::makeToolBar()
         m_saveFlag->setText(tr("&Save flag"));
         m_saveFlag->setToolTip(tr("Makes the engine also write what it is told to %1").arg(m_database));
         m_feature->setText(tr("&Feature"));
-        m_feature->setToolTip(
-            withKeys(tr("Opens the dialog on a pad, as a click on it does"), m_feature->shortcut()));
+        m_feature->setToolTip(withKeys(tr("Changes the selected features"), m_feature->shortcut()));
         m_language->setToolTip(tr("Language of all texts"));
     });
 }
@@ -136,6 +140,7 @@ void MainWindow::addPages()
     addResults();
     auto * symbols = new SymbolsPage(m_session.job(), m_board->currentView()->handle());
     addPage(symbols, "symbols", QT_TR_NOOP("S&ymbols"));
+    connect(m_board, &BoardPage::refreshed, symbols, &SymbolsPage::refresh);
     connect(m_board, &BoardPage::stepChanged, symbols,
             [this, symbols] { symbols->setView(m_board->currentView()->handle()); });
     auto * references = new ReferencesPage(m_session);
@@ -189,6 +194,7 @@ void MainWindow::makeFileMenu()
     connect(m_recent, &QMenu::triggered, this,
             [want](QAction const * action) { want(action->data().toString()); });
     setTextsNowAndLater(*file, [this] { m_recent->setTitle(tr("&Recent boards")); });
+    addEntry(*file, QT_TR_NOOP("Save &as..."), "Ctrl+Shift+S", [this] { m_saveAs->ask(); });
     file->addSeparator();
     file->addAction(m_feature);
     file->addAction(m_saveFlag);
@@ -342,7 +348,10 @@ void MainWindow::useStateFile(QString const & file, bool keepsUnit)
 
 void MainWindow::closeEvent(QCloseEvent * event)
 {
-    m_board->closeFeature();
+    if (!m_leaves && m_saveAs->isChanged()) {
+        m_saveAs->whenSettled([this] { leave(); });
+        return event->ignore();
+    }
     if (!m_stateFile.isEmpty()) {
         bool const chinese = m_language->currentData().toInt() == LANGUAGE_CHINESE;
         Unit const unit = Ext::unitOf(m_board->currentView()->handle());
@@ -354,7 +363,7 @@ void MainWindow::closeEvent(QCloseEvent * event)
 
 void MainWindow::setTexts()
 {
-    setWindowTitle(tr("%1 - UIAPICommon workbench").arg(QString::fromStdString(m_session.job())));
+    setWindowTitle(tr("%1[*] - UIAPICommon workbench").arg(QString::fromStdString(m_session.job())));
     showUnit();
     showPointer();
     showZoom();
@@ -391,8 +400,8 @@ void MainWindow::showHelp()
 {
     Ext::showMessage(
         {Ext::MessageKind::Information, this, tr("Using the board picture"),
-         tr("The wheel zooms about the pointer, dragging moves the board, a click opens a pad or picks "
-            "a mark.\nWith the picture in focus the arrow keys move the board, + and - zoom, Home "
+         tr("The wheel zooms about the pointer, dragging moves the board, a click selects a feature or "
+            "picks a mark.\nWith the picture in focus the arrow keys move the board, + and - zoom, Home "
             "shows the whole board.\nTicked layers are drawn beside the selected one; Space in the "
             "list of layers sets and clears the tick.\nCtrl with a click selects or deselects a feature; the "
             "Delete key deletes the selection.")});

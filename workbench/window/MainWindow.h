@@ -23,6 +23,7 @@ class KeysDialog;
 class HotkeyCommands;
 class LogLines;
 class ResultsPage;
+class SaveAs;
 
 /// The window: its pages, of which the board's is the first, with the menus, the tools and the status bar.
 class MainWindow : public QMainWindow
@@ -47,6 +48,13 @@ public:
     void useStateFile(QString const & file, bool keepsUnit);
     /// Offers these boards in the menu.
     void setRecentBoards(QStringList const & paths);
+    SaveAs & saveAs() const { return *m_saveAs; }
+    /// Closes the window without asking.
+    void leave()
+    {
+        m_leaves = true;
+        close();
+    }
 
 signals:
     /// The user has chosen another board, a folder or an archive.
@@ -95,6 +103,8 @@ private:
     QLabel * m_status = nullptr; ///< what the latest command did
     QLabel * m_pointer = nullptr;
     QLabel * m_zoom = nullptr;
+    SaveAs * m_saveAs = nullptr;
+    bool m_leaves = false;     ///< closing asks no more
     bool m_hasPointed = false; ///< whether the pointer has been over a board
 };
 
