@@ -15,6 +15,7 @@
 #include "ext/Layers.h"
 #include "ext/Messages.h"
 #include "ext/Values.h"
+#include "ext/Version.h"
 #include "ext/Views.h"
 #include "support/Finding.h"
 #include "support/Result.h"

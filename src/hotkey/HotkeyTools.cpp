@@ -107,16 +107,45 @@ QString faultText(HotkeyElement const & element)
     }
 }
 
+std::vector<HotkeyBinding> judged(HotkeyTables const & tables)
+{
+    Judge judge;
+    std::vector<HotkeyBinding> result;
+    for (HotkeyEntry const & entry : tables.entries()) {
+        result.push_back(judge.judge(entry));
+    }
+    return result;
+}
+
+/// The entry of keys in words; without a key if they are no binding's.
+HotkeyEntry entryOf(HotkeyBinding const & binding)
+{
+    QKeySequence const keys = QKeySequence::fromString(binding.keys, QKeySequence::PortableText);
+    int const mask = static_cast<int>(Qt::KeyboardModifierMask);
+    HotkeyEntry entry;
+    entry.code = binding.code;
+    if (keys.count() == 1) {
+        entry.modifiers = Qt::KeyboardModifiers(keys[0] & mask);
+        entry.key = keys[0] & ~mask;
+    } else if (keys.count() == 2) { // a key with a modifier is no key that has a name
+        entry.key = keys[0];
+        entry.second = keys[1];
+    }
+    return entry;
+}
+
 } // namespace
 
 std::vector<HotkeyBinding> hotkeyBindings()
 {
-    Judge judge;
-    std::vector<HotkeyBinding> result;
-    for (HotkeyEntry const & entry : HotkeyAccess::read().tables.entries()) {
-        result.push_back(judge.judge(entry));
-    }
-    return result;
+    return judged(HotkeyAccess::read().tables);
+}
+
+std::vector<HotkeyBinding> defaultHotkeyBindings()
+{
+    HotkeyTables tables;
+    tables.addDefaults();
+    return judged(tables);
 }
 
 std::vector<HotkeyFinding> hotkeyReport()
@@ -161,14 +190,38 @@ Result lastHotkeyLoad()
     return HotkeyAccess::read().lastLoad;
 }
 
+std::vector<HotkeyFinding> checkHotkeyBindings(std::vector<HotkeyBinding> const & bindings)
+{
+    Judge judge;
+    int element = 0;
+    for (HotkeyBinding const & binding : bindings) {
+        HotkeyEntry const entry = entryOf(binding);
+        if (nameOfFunction(binding.code).isNull()) {
+            judge.find(HotkeyFindingKind::UnknownFunction, element,
+                       QStringLiteral("%1 has no name in a file.").arg(functionText(binding.code)));
+        } else if (writeElement(entry).isNull()) {
+            judge.find(HotkeyFindingKind::UnknownKey, element,
+                       QStringLiteral("\"%1\" are no keys that a file can name.").arg(binding.keys));
+        } else {
+            judge.judge(entry, element);
+        }
+        ++element;
+    }
+    judge.findFunctionsWithoutKey();
+    return judge.findings;
+}
+
 HotkeyExport exportHotkeys(QString const & path)
+{
+    return saveHotkeys(path, hotkeyBindings());
+}
+
+HotkeyExport saveHotkeys(QString const & path, std::vector<HotkeyBinding> const & bindings)
 {
     HotkeyExport result;
     QJsonArray array;
-    Judge judge;
-    for (HotkeyEntry const & entry : HotkeyAccess::read().tables.entries()) {
-        HotkeyBinding const binding = judge.judge(entry);
-        QJsonValue const element = writeElement(entry);
+    for (HotkeyBinding const & binding : bindings) {
+        QJsonValue const element = writeElement(entryOf(binding));
         if (element.isNull()) {
             result.leftOut.push_back(binding);
         } else {

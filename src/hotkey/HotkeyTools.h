@@ -50,6 +50,9 @@ struct HotkeyFinding : Finding<HotkeyFindingKind>
     int element = -1; ///< which element of the file, counting from 0; -1 for the whole
 };
 
+/// The bindings that KVHotKey starts with, in the same order; whatever it holds now.
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyBinding> defaultHotkeyBindings();
+
 /// What is wrong with the bindings held by KVHotKey: keys bound twice, bindings that never fire, in the order
 /// of hotkeyBindings(), and then the functions without a key, by code.
 [[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyFinding> hotkeyReport();
@@ -80,6 +83,16 @@ struct HotkeyExport
 /// Writes the bindings held by KVHotKey as a file that it can load. An old file is replaced as a whole or
 /// left unchanged; the folder must exist.
 [[nodiscard]] UIAPICOMMON_EXPORT HotkeyExport exportHotkeys(QString const & path);
+
+/// What saving these bindings and loading the file would find, as checkHotkeyFile() does; `element` counts in
+/// `bindings`. Only their codes and keys are used, with the keys as hotkeyBindings() gives them. What the
+/// file cannot express is an UnknownFunction or an UnknownKey.
+[[nodiscard]] UIAPICOMMON_EXPORT std::vector<HotkeyFinding>
+checkHotkeyBindings(std::vector<HotkeyBinding> const & bindings);
+
+/// Writes other bindings than those held, in the same way as exportHotkeys(). KVHotKey keeps what it holds.
+[[nodiscard]] UIAPICOMMON_EXPORT HotkeyExport saveHotkeys(QString const & path,
+                                                          std::vector<HotkeyBinding> const & bindings);
 
 /// The plain key that the next one can complete to a sequence, "S"; empty if there is none.
 /// hotkeyContinuations() tells whether a sequence starts with it.

@@ -381,6 +381,48 @@ TEST_F(HotkeyTest, AnExportedTableLoadsAsTheSameTable)
     }
 }
 
+TEST_F(HotkeyTest, OtherBindingsAreJudgedAndSavedAsTheyWouldBeRead)
+{
+    writeFile("[]");
+    restart();
+    EXPECT_EQ(Ext::defaultHotkeyBindings().size(), 41U); // whatever is held
+    EXPECT_EQ(shown(Ext::hotkeyBindings()).size(), 0);
+    std::vector<Ext::HotkeyBinding> all; // of every key and modifier, and every pair that begins with S
+    for (int key = Qt::Key_Space; key < Qt::Key_ydiaeresis; ++key) {
+        for (char const * before : {"", "Shift+", "Ctrl+", "Alt+", "Ctrl+Shift+", "S, "}) {
+            QString const name = QKeySequence(key).toString(QKeySequence::PortableText);
+            all.push_back({KP_Measure, {}, before + name, false});
+        }
+    }
+    for (char const * keys : {"Up", "Ctrl+Up", "Shift+Left", "S, Up", "F1", "Ctrl+F1", "", "S, G, S",
+                              "Ctrl+S, G", "no key", "Ctrl+Del"}) {
+        all.push_back({KP_Measure, {}, keys, false});
+    }
+    int reached = 0;
+    for (Ext::HotkeyBinding const & each : all) {
+        auto const findings = Ext::checkHotkeyBindings({each});
+        bool const isFound =
+            std::any_of(findings.begin(), findings.end(),
+                        [](Ext::HotkeyFinding const & finding) { return finding.element == 0; });
+        ASSERT_TRUE(Ext::saveHotkeys("./config/out.json", {each}).result);
+        auto const read = Ext::checkHotkeyFile("./config/out.json").bindings;
+        bool const answers = read.size() == 1 && read[0].answers && read[0].keys == each.keys;
+        EXPECT_EQ(!isFound, answers) << each.keys.toStdString();
+        reached += answers ? 1 : 0;
+    }
+    EXPECT_GT(reached, 3 * 49);
+    std::vector<Ext::HotkeyBinding> const odd = {{KP_Measure, {}, "Ctrl+A", false},
+                                                 {KP_Compare, {}, "Ctrl+A", false},
+                                                 {KP_Compare, {}, "Q", false},
+                                                 {KP_Unnamed11, {}, "Ctrl+B", false},
+                                                 {KP_Compare, {}, "Ctrl+F1", false}};
+    EXPECT_EQ(shown(Ext::checkHotkeyBindings(odd)),
+              (QStringList{"[1] SameKeys KP_Compare", "[2] NeverFires KP_Compare",
+                           "[3] UnknownFunction Function", "[4] UnknownKey Ctrl"}));
+    EXPECT_EQ(shown(Ext::saveHotkeys("./config/out.json", odd).leftOut),
+              (QStringList{"11  Ctrl+B", "24  Ctrl+F1"}));
+}
+
 TEST_F(HotkeyTest, ThePendingKeyAndWhatMayFollowAreToldWithoutTouchingThem)
 {
     writeFile(R"([{"func_name":"KK_SnapOff","key1":"S","key2":"O"},

@@ -1,8 +1,8 @@
 #include "SampleWindow.h"
 #include "board/BoardView.h"
 #include "layers/LayerTable.h"
-#include "window/CheatSheet.h"
 #include "window/HotkeyCommands.h"
+#include "window/KeysDialog.h"
 
 #include <UIAPICommon.h>
 
@@ -17,6 +17,8 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QWindow>
+
+#include <algorithm>
 
 using namespace KVCAM;
 using namespace KVCAM::UIAPI;
@@ -147,7 +149,7 @@ TEST_F(Keyboard, MeasuringTakesTwoPressesAndTheUnitOfTheView)
     EXPECT_TRUE(press("Shift+V").startsWith("Measure: from"));
 }
 
-TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
+TEST_F(Keyboard, WhatIsTypedIntoATextOrAListIsNoHotKey)
 {
     open();
     std::string const before = state();
@@ -161,16 +163,29 @@ TEST_F(Keyboard, TextsKeepTheirKeysAndATableGivesThemUp)
     EXPECT_EQ(field.text().toLower(), "sgu");
     EXPECT_EQ(field.selectedText(), field.text());
     EXPECT_EQ(state(), before);
+    EXPECT_EQ(press("Ctrl+N"), "Negative: on") << "a field has no use for it";
+    press("Ctrl+N");
 
     auto * layers = window->findChild<LayerTable *>();
     layers->setFocus();
-    int const row = layers->currentRow();
-    layers->setCurrentCell(row, 1); // the names
-    EXPECT_EQ(press("S"), snaps);   // does not search for a layer starting with s
-    EXPECT_EQ(press("G"), "Snap: grid");
-    EXPECT_EQ(layers->currentRow(), row);
-    press("Down"); // other keys go to the table
-    EXPECT_EQ(layers->currentRow(), row + 1);
+    for (char const letter : {'s', 'i', 'l', 'k', '_', 'b'}) {
+        QTest::keyClick(window->windowHandle(), letter);
+    }
+    EXPECT_EQ(layers->layerName(layers->currentRow()), "silk_bottom");
+    press("Down");
+    EXPECT_EQ(layers->currentRow(), 18);
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(press("Shift+U"), "Unit: MM")
+        << "a capital searches nothing that a small letter would not find";
+    press("Shift+U Escape");
+    EXPECT_EQ(window->focusWidget(), board().currentView());
+    press("S");
+    layers->setFocus();
+    press("Up");
+    board().currentView()->setFocus();
+    press("G");
+    EXPECT_EQ(state(), before) << "keys typed elsewhere end a sequence";
+    EXPECT_EQ(press("S G"), "Snap: grid");
 
     std::string const after = state();
     window->showPage("attributes");
@@ -216,11 +231,11 @@ QStringList rowOf(QTableWidget const & table, int row)
     return texts;
 }
 
-TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
+TEST_F(Keyboard, TheKeysDialogListsTheKeysAndJudgesTheOwnFile)
 {
     open();
     press("F1");
-    auto * sheet = window->findChild<CheatSheet *>();
+    auto * sheet = window->findChild<KeysDialog *>();
     ASSERT_NE(sheet, nullptr);
     EXPECT_TRUE(sheet->isVisible());
     std::string const before = state();
@@ -243,7 +258,9 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
                                    {"func_name":"KP_Profile","Modifier":"Ctrl","key":"A"},
                                    {"func_name":"KP_Profil","Modifier":"Ctrl","key":"B"}])");
     buttonOf(*sheet, "Load the file again").click();
-    EXPECT_EQ(bindings.rowCount(), 2);
+    EXPECT_EQ(bindings.rowCount(), 41);
+    EXPECT_EQ(rowOf(bindings, 4), (QStringList{"Ctrl+A", "Profile", "KP_Profile", "never answers"}));
+    EXPECT_EQ(rowOf(bindings, 0), (QStringList{"", "Select all", "KP_AllSelect", "no keys"}));
     EXPECT_TRUE(file.text().endsWith("holds 2 bindings. Findings: 42."));
     EXPECT_EQ(rowOf(findings, 0)[0], "2");
     EXPECT_EQ(rowOf(findings, 1),
@@ -252,6 +269,96 @@ TEST_F(Keyboard, TheCheatSheetListsTheKeysAndJudgesTheOwnFile)
     sheet->refresh();
     EXPECT_TRUE(file.text().endsWith("cannot be loaded; the keys stay as they are."));
     EXPECT_EQ(findings.rowCount(), 1);
+}
+
+TEST_F(Keyboard, KeysAreSearchedChangedAndSetBackAndTheFileIsReadAtOnce)
+{
+    open();
+    KeysDialog & dialog = *window->showKeys();
+    auto & search = *dialog.findChild<QLineEdit *>("search");
+    auto & table = *dialog.findChild<QTableWidget *>("bindings");
+    auto & field = *dialog.findChild<QLineEdit *>("new keys");
+    auto const verdict = [&] { return dialog.findChild<QLabel *>("verdict")->text(); };
+    auto const shown = [&table] {
+        QStringList rows;
+        for (int row = 0; row < table.rowCount(); ++row) {
+            if (!table.isRowHidden(row)) {
+                rows.append(QString::number(row));
+            }
+        }
+        return rows.join(' ');
+    };
+    auto const type = [&field](QString const & keys) {
+        for (QString const & each : keys.split(' ')) {
+            int const pressed = QKeySequence(each)[0];
+            int const mask = static_cast<int>(Qt::KeyboardModifierMask);
+            QTest::keyClick(&field, static_cast<Qt::Key>(pressed & ~mask),
+                            Qt::KeyboardModifiers(pressed & mask));
+        }
+    };
+    for (auto const & [words, rows] :
+         {std::pair("measure", "29"), {"ctrl+z", "6"}, {"s, g", "32"}, {"zzz", ""}}) {
+        search.setText(words);
+        EXPECT_EQ(shown(), rows) << words;
+    }
+    search.clear();
+    table.setCurrentCell(29, 0);
+    struct
+    {
+        char const * keys;
+        char const * verdict;
+        bool isPossible;
+    } const rows[] = {
+        {"Ctrl+A", "Ctrl+A belongs to \"Select all\", which loses it.", true},
+        {"Shift+V", "The command has Shift+V.", false},
+        {"Ctrl+Q", "Ctrl+Q is free.", true},
+        {"S", "S begins a sequence: press the second key.", false},
+        {"G", "S, G belongs to \"Snap: grid\", which loses it.", true},
+        {"Alt+Q",
+         "Alt+Q cannot be a hot key: only letters, digits, arrows and some signs can, with Ctrl or Shift "
+         "or in a pair of plain keys.",
+         false},
+        {"F2 Q",
+         "F2, Q cannot be a hot key: only letters, digits, arrows and some signs can, with Ctrl or Shift "
+         "or in a pair of plain keys.",
+         false},
+        {"Escape", "Press a key with Ctrl or Shift, or two plain keys one after the other.", false},
+        {"M S", "M, S is free.", true},
+    };
+    for (auto const & row : rows) {
+        type(row.keys);
+        EXPECT_EQ(verdict(), row.verdict) << row.keys;
+        EXPECT_EQ(dialog.findChild<QPushButton *>("assign")->isEnabled(), row.isPossible) << row.keys;
+    }
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(rowOf(table, 29)[0], "M, S");
+    type("Ctrl+A");
+    dialog.findChild<QPushButton *>("add keys")->click();
+    EXPECT_EQ(rowOf(table, 29)[0] + rowOf(table, 29)[1], "Ctrl+AMeasure");
+    EXPECT_EQ(rowOf(table, 0)[3], "no keys");
+    EXPECT_TRUE(dialog.findChild<QLabel *>("hint")->text().endsWith("config/keyboard.json\"."));
+    search.setText("zzz");
+    EXPECT_LT(table.currentRow(), 0) << "what is not seen is not changed";
+    search.clear();
+    dialog.close();
+    board().currentView()->setFocus();
+    EXPECT_TRUE(press("Ctrl+A").startsWith("Measure: from")) << "without a restart";
+
+    auto const holds = [](Ext::HotkeyFileCheck const & check, char const * keys, FuncCode code) {
+        return std::any_of(check.bindings.begin(), check.bindings.end(),
+                           [&](Ext::HotkeyBinding const & each) {
+                               return each.keys == keys && each.code == code && each.answers;
+                           });
+    };
+    EXPECT_TRUE(holds(Ext::checkHotkeyFile(Ext::hotkeyFile), "M, S", KP_Measure));
+    table.setCurrentCell(29, 0);
+    dialog.findChild<QPushButton *>("remove keys")->click();
+    EXPECT_FALSE(holds(Ext::checkHotkeyFile(Ext::hotkeyFile), "Ctrl+A", KP_Measure));
+    EXPECT_EQ(table.rowCount(), 41);
+    buttonOf(dialog, "Default keys").click();
+    EXPECT_TRUE(holds(Ext::checkHotkeyFile(Ext::hotkeyFile), "Ctrl+A", KP_AllSelect));
+    EXPECT_FALSE(holds(Ext::checkHotkeyFile(Ext::hotkeyFile), "M, S", KP_Measure));
+    EXPECT_TRUE(holds(Ext::checkHotkeyFile(QString(Ext::hotkeyFile) + ".bak"), "M, S", KP_Measure));
 }
 
 } // namespace

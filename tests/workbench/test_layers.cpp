@@ -3,6 +3,7 @@
 #include "board/FeatureSelection.h"
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
+#include "ui/LayerColours.h"
 
 #include <UIAPICommon.h>
 
@@ -11,11 +12,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QColor>
 #include <QComboBox>
 #include <QCompleter>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSqlDatabase>
@@ -23,6 +28,9 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
+
+#include <memory>
+#include <set>
 
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
@@ -229,6 +237,125 @@ TEST_F(LayersOfAWindow, ThePageOfReferencesShowsAndChangesWhatTheLibraryKeeps)
     EXPECT_EQ(records.rowCount(), 1);
     EXPECT_EQ(records.item(0, 0)->text(), "job 1");
     EXPECT_TRUE(getReferenceLayerInfo("demo-board", "panel").empty());
+}
+
+// "5 9": the rows of the matrix in the order shown.
+QString order(LayerTable const & table, int count)
+{
+    QStringList rows;
+    for (int place = 0; place < count; ++place) {
+        rows.append(table.item(table.verticalHeader()->logicalIndex(place), 0)->text());
+    }
+    return rows.join(' ');
+}
+
+TEST_F(LayersOfAWindow, AreFoundByNameAndSortedByAnyColumn)
+{
+    auto & bar = find<FilterBar>();
+    auto & table = find<LayerTable>();
+    auto & name = find<QLineEdit>("layer name");
+    int const shown = table.currentRow();
+    struct
+    {
+        char const * words;
+        QString rows;
+        char const * explanation;
+    } const rows[] = {
+        {"MASK", "4 16", "\"top\" is left out by: Name."},
+        {"l?_s", "9 11 13", "\"top\" is left out by: Name."},
+        {"mask|silk_t", "2 4 16", "\"top\" is left out by: Name."},
+        {"comp_+", "1 19", "\"top\" is left out by: Name."},
+        {"to[p", "", "No layer matches. \"top\" is left out by: Name."},
+        {"s*_top", "2 3 4", "\"top\" is left out by: Name."},
+    };
+    for (auto const & row : rows) {
+        bar.ask({});
+        name.setText(row.words);
+        if (row.words == QString("s*_top")) { // both filters
+            bar.ask({{"context", "board"}});
+            name.setText("*k_top|paste_top");
+        }
+        EXPECT_EQ(shownRows(table), row.rows) << row.words;
+        EXPECT_EQ(explanation(), row.explanation) << row.words;
+    }
+    find<QPushButton>("for analysis").click();
+    EXPECT_TRUE(explanation().endsWith("\"top\" is left out by: Name.")) << explanation().toStdString();
+    find<QPushButton>("for analysis").click();
+    bar.ask({});
+    EXPECT_TRUE(name.text().isEmpty());
+
+    struct
+    {
+        int column;
+        Qt::SortOrder order;
+        char const * rows;
+    } const orders[] = {{1, Qt::AscendingOrder, "24 15 19 1"},
+                        {5, Qt::DescendingOrder, "5 4 15 9"},
+                        {3, Qt::AscendingOrder, "1 19 6 8"},
+                        {0, Qt::DescendingOrder, "25 24 23 22"},
+                        {0, Qt::AscendingOrder, "1 2 3 4"}};
+    for (auto const & each : orders) {
+        table.horizontalHeader()->setSortIndicator(each.column, each.order);
+        EXPECT_EQ(order(table, 4), each.rows) << each.column;
+        board().refresh(); // refills the table
+        EXPECT_EQ(order(table, 4), each.rows) << each.column;
+        EXPECT_EQ(table.currentRow(), shown);
+        EXPECT_EQ(table.layerName(shown), "top");
+    }
+}
+
+TEST_F(LayersOfAWindow, AMenuShowsComparesCopiesAndColours)
+{
+    auto & table = find<LayerTable>();
+    auto const choose = [&table](int row, int entry) {
+        std::unique_ptr<QMenu> const menu(table.makeMenu(row));
+        menu->actions().at(entry)->trigger();
+    };
+    BoardView const & view = *board().currentView();
+    table.tickAll(true);
+    choose(8, 0); // show only this
+    EXPECT_TRUE(table.tickedLayers().empty());
+    EXPECT_EQ(view.layer(), "l3_sig");
+    table.setCurrentCell(1, 1);
+    choose(1, 1); // all copper
+    EXPECT_EQ(table.tickedLayers(), (std::vector<std::size_t>{4, 6, 8, 10, 12, 14}));
+    EXPECT_EQ(view.layer(), "top");
+    choose(0, 2); // tick
+    EXPECT_EQ(table.tickedLayers().front(), 0U);
+    QString other;
+    QObject::connect(&table, &LayerTable::compareWanted, &table,
+                     [&other](QString const & name) { other = name; });
+    choose(14, 4);
+    EXPECT_EQ(other, "bottom");
+    choose(3, 5);
+    EXPECT_EQ(QApplication::clipboard()->text(), "mask_top");
+
+    auto const colourOf = [&table](int row) {
+        return table.item(row, 0)->data(Qt::DecorationRole).value<QColor>();
+    };
+    std::set<QRgb> colours;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        colours.insert(colourOf(row).rgb());
+    }
+    EXPECT_EQ(colours.size(), 25U);
+    QColor const own = colourOf(4);
+    board().useColours("state.ini");
+    table.setColour(4, QColor(1, 2, 3));
+    EXPECT_EQ(colourOf(4), QColor(1, 2, 3));
+    EXPECT_NE(colourOf(6), QColor(1, 2, 3));
+    LayerColours another; // of the next session
+    another.useFile("state.ini");
+    another.setLayers({session.layers()[4].info, session.layers()[6].info});
+    EXPECT_EQ(another.of(session.layers()[4].info), QColor(1, 2, 3));
+    choose(4, 8); // its own colour
+    EXPECT_EQ(colourOf(4), own);
+    another.useFile("state.ini");
+    EXPECT_FALSE(another.isChosen("top"));
+    writeFile("damaged.ini", "[layer-colours]\ntop=no colour\nbottom=#010203\n\x01\xff[[\n");
+    another.useFile("damaged.ini");
+    EXPECT_FALSE(another.isChosen("top"));
+    EXPECT_TRUE(another.isChosen("bottom"));
+    LayerColours::shown().useFile(QString());
 }
 
 // The rows of the first column of a query on the engine's database.

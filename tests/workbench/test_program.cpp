@@ -176,6 +176,9 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     }
     EXPECT_EQ(matches, (QList<int>{3, 1, 2, 3}));
     EXPECT_EQ(filters["for analysis"].toInt(), 16);
+    QJsonObject const comparison = facts["comparison"].toObject();
+    EXPECT_EQ(comparison["first"].toString() + comparison["second"].toString(), "topbottom");
+    EXPECT_GT(comparison["regions only in the first"].toInt(), 0);
     QJsonObject const undo = facts["undo"].toObject();
     EXPECT_EQ(undo["deleted"].toObject(), (QJsonObject{{"drawn", 148}, {"counted", 148}, {"operations", 1}}));
     EXPECT_EQ(undo["undone"], undo["before"]);

@@ -3,7 +3,7 @@
 #include "checks/ResultsPage.h"
 #include "feature/FeatureDialog.h"
 #include "layers/LayerTable.h"
-#include "window/CheatSheet.h"
+#include "window/KeysDialog.h"
 
 #include <UIAPICommon.h>
 

@@ -1,6 +1,7 @@
 #include "board/LayerShapes.h"
 
-#include <iterator>
+#include "ui/LayerColours.h"
+
 #include <utility>
 
 namespace Workbench {
@@ -20,7 +21,7 @@ LayerShapes::LayerShapes(std::string const & job, std::string const & step, KVCA
 
 QColor LayerShapes::colour() const
 {
-    return layerColour(m_info);
+    return LayerColours::shown().of(m_info);
 }
 
 QRectF LayerShapes::extent() const
@@ -33,28 +34,6 @@ QRectF LayerShapes::extent() const
         extent = joined(extent, shape.box);
     }
     return extent;
-}
-
-QColor layerColour(KVCAM::API::layer_info const & layer)
-{
-    // The number of colours is prime, so that copper layers at regular distances still differ.
-    static constexpr char const * copper[] = {"#b5582a", "#2563a8", "#8c4a86", "#3f7d20",
-                                              "#b03060", "#0f7c80", "#8a6d1b"};
-    static constexpr std::pair<char const *, char const *> colours[] = {
-        {"solder_mask", "#2e7d4f"}, {"solder_paste", "#6b7280"}, {"silk_screen", "#3f51b5"},
-        {"drill", "#1f2937"},       {"rout", "#5b1f1f"},
-    };
-    for (char const * type : {"signal", "power_ground", "mixed"}) {
-        if (layer.type == type) {
-            return copper[static_cast<unsigned>(layer.row) % std::size(copper)];
-        }
-    }
-    for (auto const & [type, colour] : colours) {
-        if (layer.type == type) {
-            return colour;
-        }
-    }
-    return "#44617b";
 }
 
 } // namespace Workbench

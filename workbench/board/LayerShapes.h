@@ -40,7 +40,4 @@ private:
     std::vector<FeatureShape> m_shapes;
 };
 
-/// The colour of a layer: by type, and for copper by row.
-QColor layerColour(KVCAM::API::layer_info const & layer);
-
 } // namespace Workbench

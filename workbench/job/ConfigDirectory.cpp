@@ -32,8 +32,13 @@ void copySamples(QString const & name, QString const & directory)
 
 QString samplesDirectory()
 {
-    QString const packaged = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../samples");
-    return QFileInfo(packaged).isDir() ? packaged : QStringLiteral(WORKBENCH_SAMPLES);
+    for (char const * const installed : {"/../samples", "/../share/uiapicommon/samples"}) {
+        QString const folder = QDir::cleanPath(QCoreApplication::applicationDirPath() + installed);
+        if (QFileInfo(folder).isDir()) {
+            return folder;
+        }
+    }
+    return QStringLiteral(WORKBENCH_SAMPLES);
 }
 
 QString enterConfiguration(QString const & directory, QString const & output)

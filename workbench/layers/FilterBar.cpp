@@ -1,5 +1,6 @@
 #include "layers/FilterBar.h"
 
+#include "layers/LayerNames.h"
 #include "ui/LanguageChange.h"
 
 #include <QCheckBox>
@@ -61,6 +62,8 @@ private:
 FilterBar::FilterBar(Session const & session, QWidget * parent)
     : QWidget(parent)
     , m_job(QString::fromStdString(session.job()))
+    , m_name(new QLineEdit)
+    , m_nameTitle(new QLabel)
     , m_hides(new QCheckBox)
     , m_analysis(new QPushButton)
     , m_clear(new QPushButton)
@@ -92,6 +95,12 @@ void FilterBar::makeLayout()
 {
     auto * layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    m_name->setObjectName("layer name");
+    m_name->setClearButtonEnabled(true);
+    m_nameTitle->setBuddy(m_name);
+    connect(m_name, &QLineEdit::textChanged, this, &FilterBar::refresh);
+    layout->addWidget(m_nameTitle, 0, 0);
+    layout->addWidget(m_name, 0, 1, 1, -1);
     for (std::size_t i = 0; i < fieldCount; ++i) {
         auto * words = new QComboBox;
         words->setObjectName(fields[i].key);
@@ -112,7 +121,7 @@ void FilterBar::makeLayout()
         m_words[i] = words;
         m_titles[i] = new QLabel;
         m_titles[i]->setBuddy(words);
-        int const row = static_cast<int>(i) / 2;
+        int const row = 1 + static_cast<int>(i) / 2;
         int const column = static_cast<int>(i) % 2 * 2;
         layout->addWidget(m_titles[i], row, column);
         layout->addWidget(words, row, column + 1);
@@ -123,13 +132,18 @@ void FilterBar::makeLayout()
     buttons->addWidget(m_clear);
     buttons->addStretch(1);
     buttons->addWidget(m_hides);
-    layout->addLayout(buttons, 2, 0, 1, -1);
-    layout->addWidget(m_count, 3, 0, 1, -1);
-    layout->addWidget(m_explanation, 4, 0, 1, -1);
+    layout->addLayout(buttons, 3, 0, 1, -1);
+    layout->addWidget(m_count, 4, 0, 1, -1);
+    layout->addWidget(m_explanation, 5, 0, 1, -1);
 }
 
 void FilterBar::setTexts()
 {
+    m_nameTitle->setText(tr("Name"));
+    m_name->setPlaceholderText(tr("every layer"));
+    m_name->setToolTip(
+        tr("Parts of names separated by |, with * for any text and ? for any letter; case does "
+           "not matter."));
     for (std::size_t i = 0; i < fieldCount; ++i) {
         m_titles[i]->setText(tr(fields[i].title));
         m_words[i]->lineEdit()->setPlaceholderText(tr("every layer"));
@@ -162,7 +176,19 @@ void FilterBar::ask(QMap<QString, QString> const & request)
         QSignalBlocker const blocker(words);
         words->setEditText(request.value(words->objectName()));
     }
+    QSignalBlocker const blocker(m_name);
+    m_name->clear();
     askForAnalysis(false);
+}
+
+void FilterBar::setName(QString const & words)
+{
+    m_name->setText(words);
+}
+
+bool FilterBar::isNamed(std::size_t layer) const
+{
+    return isAskedFor(QString::fromStdString(m_names[layer]), m_name->text());
 }
 
 void FilterBar::askForAnalysis(bool on)
@@ -211,7 +237,7 @@ void FilterBar::refresh()
     auto next = selected.begin();
     for (std::size_t i = 0; i < m_names.size() && next != selected.end(); ++i) {
         if (m_names[i] == *next) {
-            m_matches[i] = true;
+            m_matches[i] = isNamed(i);
             ++next;
         }
     }
@@ -243,11 +269,21 @@ QString FilterBar::unmatchedText(Ext::LayerFilterFinding const & word) const
 QString FilterBar::analysisText() const
 {
     QString const text = tr("These are the layers that analysis and checks read.");
-    bool const isOut = m_layer >= 0 && !m_matches.at(static_cast<std::size_t>(m_layer));
-    return isOut ? text + ' ' +
-                       tr("\"%1\" is not one of them.")
-                           .arg(QString::fromStdString(m_names[static_cast<std::size_t>(m_layer)]))
+    auto const layer = static_cast<std::size_t>(m_layer);
+    if (m_layer >= 0 && !isNamed(layer)) {
+        return text + ' ' + verdictText(layer);
+    }
+    bool const isOut = m_layer >= 0 && !m_matches.at(layer);
+    return isOut ? text + ' ' + tr("\"%1\" is not one of them.").arg(QString::fromStdString(m_names[layer]))
                  : text;
+}
+
+QString FilterBar::verdictText(std::size_t layer) const
+{
+    QString const refusing = !isNamed(layer) ? tr("Name") : fieldTitle(m_report.layers[layer].refusedBy);
+    QString const name = QString::fromStdString(m_names[layer]);
+    return refusing.isEmpty() ? tr("\"%1\" matches.").arg(name)
+                              : tr("\"%1\" is left out by: %2.").arg(name, refusing);
 }
 
 QString FilterBar::explanation() const
@@ -258,7 +294,7 @@ QString FilterBar::explanation() const
     if (!m_report.result) {
         return m_report.result.reason;
     }
-    if (request().isEmpty()) {
+    if (request().isEmpty() && m_name->text().trimmed().isEmpty()) {
         return tr("All layers are shown.");
     }
     QStringList sentences;
@@ -269,12 +305,8 @@ QString FilterBar::explanation() const
         sentences.append(tr("No layer matches."));
     }
     auto const layer = static_cast<std::size_t>(m_layer);
-    if (m_layer >= 0 && layer < m_report.layers.size()) {
-        Ext::LayerVerdict const & verdict = m_report.layers[layer];
-        QString const name = QString::fromStdString(verdict.name);
-        sentences.append(verdict.refusedBy.isEmpty()
-                             ? tr("\"%1\" matches.").arg(name)
-                             : tr("\"%1\" is left out by: %2.").arg(name, fieldTitle(verdict.refusedBy)));
+    if (m_layer >= 0 && layer < std::min(m_report.layers.size(), m_names.size())) {
+        sentences.append(verdictText(layer));
     }
     return sentences.join(' ');
 }

@@ -14,12 +14,13 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace Workbench {
 
-/// Filters the layers of a job by type, context, side and polarity, and explains why one is left out. An
-/// empty field accepts every layer.
+/// Filters the layers of a job by name, type, context, side and polarity, and explains why one is left out.
+/// An empty field accepts every layer.
 class FilterBar : public QWidget
 {
     Q_OBJECT
@@ -37,7 +38,9 @@ public:
     /// Why layers are left out, and which words match nothing.
     QString explanation() const;
 
-    /// Fills the fields whose keys are given and clears the others.
+    /// Filters by name as well: words as isAskedFor() takes them.
+    void setName(QString const & words);
+    /// Fills the fields whose keys are given and clears the others, the name too.
     void ask(QMap<QString, QString> const & request);
     /// Shows the layers that analysis and checks read, instead of those requested by the fields.
     void askForAnalysis(bool on);
@@ -62,6 +65,8 @@ private:
     QString fieldTitle(QString const & key) const;
     QString unmatchedText(KVCAM::UIAPI::Ext::LayerFilterFinding const & word) const;
     QString analysisText() const;
+    QString verdictText(std::size_t layer) const;
+    bool isNamed(std::size_t layer) const;
 
     QString m_job;
     QString m_step;
@@ -69,6 +74,8 @@ private:
     int m_layer = -1;
     std::vector<bool> m_matches;
     KVCAM::UIAPI::Ext::LayerFilterReport m_report;
+    QLineEdit * m_name;
+    QLabel * m_nameTitle;
     std::array<QComboBox *, fieldCount> m_words{};
     std::array<QLabel *, fieldCount> m_titles{};
     QCheckBox * m_hides;

@@ -1,17 +1,24 @@
 #include "layers/LayerTable.h"
 
-#include "board/LayerShapes.h"
+#include "layers/LayerNames.h"
 #include "ui/Colours.h"
 #include "ui/LanguageChange.h"
+#include "ui/LayerColours.h"
 #include "ui/TableTools.h"
 
+#include <QApplication>
 #include <QBrush>
+#include <QClipboard>
 #include <QColor>
+#include <QColorDialog>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace Workbench {
@@ -19,6 +26,14 @@ namespace Workbench {
 namespace {
 
 constexpr QRgb greyColour = 0xffa4a9b3;
+constexpr int nameColumn = 1;
+constexpr int countColumn = 5;
+
+bool isCopper(KVCAM::API::layer_info const & layer)
+{
+    bool const isType = layer.type == "signal" || layer.type == "power_ground" || layer.type == "mixed";
+    return isType && layer.context == "board";
+}
 
 } // namespace
 
@@ -28,7 +43,11 @@ LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
     setTextsNowAndLater(*this, [this] { setTitles(); });
     setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
-    horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicatorShown(true);
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] { applyOrder(); });
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {
         if (row != before) {
             emit layerSelected(row);
@@ -59,35 +78,80 @@ void LayerTable::show(Session const & session, std::size_t step)
             hidden.push_back(row);
         }
     }
+    m_layers.clear();
+    for (Session::Layer const & layer : session.layers()) {
+        m_layers.push_back(layer.info);
+    }
+    LayerColours::shown().setLayers(m_layers);
     setRowCount(0);
     for (Session::Layer const & layer : session.layers()) {
-        bool const isCounted = step < layer.features.size();
-        bool const hasFeatures = isCounted && layer.features[step].has_value();
-        addRow(*this,
-               {QString::number(layer.info.row), QString::fromStdString(layer.info.name),
-                QString::fromStdString(layer.info.context), QString::fromStdString(layer.info.type),
-                QString::fromStdString(layer.info.polarity),
-                hasFeatures ? QString::number(*layer.features[step]) : "?"},
-               {5});
-        QTableWidgetItem & tick = *item(rowCount() - 1, 0);
-        bool const isTicked =
-            std::binary_search(ticked.begin(), ticked.end(), static_cast<std::size_t>(rowCount() - 1));
-        tick.setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
-        tick.setData(Qt::DecorationRole, layerColour(layer.info));
-        QString const error = isCounted ? layer.errors[step] : tr("not counted, since reading was stopped");
-        QTableWidgetItem & cell = *item(rowCount() - 1, 5);
-        if (!error.isEmpty()) {
-            cell.setToolTip(error);
-            cell.setForeground(QColor(faultColour));
-        } else if (!hasFeatures) {
-            cell.setToolTip(tr("the job holds only the tables of this layer"));
-        }
+        auto const row = static_cast<std::size_t>(rowCount());
+        fillRow(layer, step, std::binary_search(ticked.begin(), ticked.end(), row));
     }
+    showColours();
+    applyOrder();
     for (int const row : hidden) {
         setRowHidden(row, true);
     }
     applyMatches();
     setCurrentCell(selected, 0);
+}
+
+void LayerTable::fillRow(Session::Layer const & layer, std::size_t step, bool isTicked)
+{
+    bool const isCounted = step < layer.features.size();
+    bool const hasFeatures = isCounted && layer.features[step].has_value();
+    addRow(*this,
+           {QString::number(layer.info.row), QString::fromStdString(layer.info.name),
+            QString::fromStdString(layer.info.context), QString::fromStdString(layer.info.type),
+            QString::fromStdString(layer.info.polarity),
+            hasFeatures ? QString::number(*layer.features[step]) : "?"},
+           {countColumn});
+    int const row = rowCount() - 1;
+    item(row, 0)->setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
+    QString const error = isCounted ? layer.errors[step] : tr("not counted, since reading was stopped");
+    QTableWidgetItem & cell = *item(row, countColumn);
+    if (!error.isEmpty()) {
+        cell.setToolTip(error);
+        cell.setForeground(QColor(faultColour));
+    } else if (!hasFeatures) {
+        cell.setToolTip(tr("the job holds only the tables of this layer"));
+    }
+}
+
+void LayerTable::useColours(QString const & file)
+{
+    LayerColours::shown().useFile(file);
+    showColours();
+    emit coloursChanged();
+}
+
+void LayerTable::showColours()
+{
+    QSignalBlocker const blocker(this);
+    for (int row = 0; row < rowCount(); ++row) {
+        item(row, 0)->setData(Qt::DecorationRole,
+                              LayerColours::shown().of(m_layers[static_cast<std::size_t>(row)]));
+    }
+    viewport()->update();
+}
+
+// Rows are moved in the header of rows only, so that they keep their numbers. Equal texts stay in matrix
+// order.
+void LayerTable::applyOrder()
+{
+    int const column = horizontalHeader()->sortIndicatorSection();
+    bool const isDescending = horizontalHeader()->sortIndicatorOrder() == Qt::DescendingOrder;
+    std::vector<int> rows(static_cast<std::size_t>(rowCount()));
+    std::iota(rows.begin(), rows.end(), 0);
+    std::stable_sort(rows.begin(), rows.end(), [&](int a, int b) {
+        int const order = naturalOrder(item(a, column)->text(), item(b, column)->text());
+        return isDescending ? order > 0 : order < 0;
+    });
+    for (int place = 0; place < rowCount(); ++place) {
+        int const row = rows[static_cast<std::size_t>(place)];
+        verticalHeader()->moveSection(verticalHeader()->visualIndex(row), place);
+    }
 }
 
 void LayerTable::showMatches(std::vector<bool> matches, bool hidesOthers)
@@ -133,26 +197,154 @@ std::vector<std::size_t> LayerTable::tickedLayers() const
 
 void LayerTable::tickAll(bool on)
 {
+    std::vector<std::size_t> rows = on ? tickedLayers() : std::vector<std::size_t>();
+    for (int row = 0; row < rowCount(); ++row) {
+        bool const isTicked = item(row, 0)->checkState() == Qt::Checked;
+        if (isRowHidden(row) ? !on && isTicked : on && !isTicked) {
+            rows.push_back(static_cast<std::size_t>(row));
+        }
+    }
+    setTicks(rows);
+}
+
+void LayerTable::setTicks(std::vector<std::size_t> const & rows)
+{
     {
         QSignalBlocker const blocker(this);
         for (int row = 0; row < rowCount(); ++row) {
-            if (!isRowHidden(row)) {
-                item(row, 0)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
-            }
+            bool const on = std::find(rows.begin(), rows.end(), static_cast<std::size_t>(row)) != rows.end();
+            item(row, 0)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
         }
     }
     viewport()->update();
     emit ticksChanged();
 }
 
+QString LayerTable::layerName(int row) const
+{
+    return item(row, nameColumn)->text();
+}
+
+void LayerTable::showOnly(int row)
+{
+    setCurrentCell(row, nameColumn);
+    setTicks({});
+}
+
+void LayerTable::showCopper()
+{
+    std::vector<std::size_t> copper;
+    for (std::size_t row = 0; row < m_layers.size(); ++row) {
+        if (isCopper(m_layers[row])) {
+            copper.push_back(row);
+        }
+    }
+    bool const isOnCopper = currentRow() >= 0 && isCopper(m_layers[static_cast<std::size_t>(currentRow())]);
+    if (!copper.empty() && !isOnCopper) {
+        setCurrentCell(static_cast<int>(copper.front()), nameColumn);
+    }
+    setTicks(copper);
+}
+
+void LayerTable::toggleTick(int row)
+{
+    QTableWidgetItem & tick = *item(row, 0);
+    tick.setCheckState(tick.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+}
+
+void LayerTable::setColour(int row, QColor const & colour)
+{
+    LayerColours::shown().choose(m_layers[static_cast<std::size_t>(row)].name, colour);
+    showColours();
+    emit coloursChanged();
+}
+
+void LayerTable::askForColour(int row)
+{
+    auto * dialog = new QColorDialog(LayerColours::shown().of(m_layers[static_cast<std::size_t>(row)]), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(tr("Colour of the layer %1").arg(layerName(row)));
+    connect(dialog, &QColorDialog::colorSelected, this,
+            [this, row](QColor const & colour) { setColour(row, colour); });
+    dialog->open();
+}
+
+QMenu * LayerTable::makeMenu(int row)
+{
+    auto * menu = new QMenu(this);
+    QString const name = layerName(row);
+    menu->addAction(tr("Show only %1").arg(name), this, [this, row] { showOnly(row); });
+    menu->addAction(tr("Show all copper"), this, [this] { showCopper(); });
+    menu->addAction(item(row, 0)->checkState() == Qt::Checked ? tr("Untick") : tr("Tick"), this,
+                    [this, row] { toggleTick(row); });
+    menu->addSeparator();
+    bool const isOther = currentRow() >= 0 && currentRow() != row;
+    QAction * compare = menu->addAction(isOther ? tr("Compare %1 with %2").arg(layerName(currentRow()), name)
+                                                : tr("Compare with..."),
+                                        this, [this, name] { emit compareWanted(name); });
+    compare->setObjectName("compare");
+    menu->addAction(tr("Copy the name"), this, [name] { QApplication::clipboard()->setText(name); });
+    menu->addSeparator();
+    menu->addAction(tr("Colour..."), this, [this, row] { askForColour(row); });
+    QAction * own = menu->addAction(tr("Its own colour"), this, [this, row] { setColour(row, {}); });
+    own->setEnabled(LayerColours::shown().isChosen(m_layers[static_cast<std::size_t>(row)].name));
+    return menu;
+}
+
+// By key, it is the menu of the selected layer. A right click selects no layer, so that the entry for a
+// comparison has two.
+void LayerTable::contextMenuEvent(QContextMenuEvent * event)
+{
+    bool const isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    int const row = isByKey ? currentRow() : rowAt(event->pos().y());
+    if (row >= 0) {
+        QMenu * menu = makeMenu(row);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->popup(isByKey ? viewport()->mapToGlobal(visualItemRect(item(row, nameColumn)).bottomLeft())
+                            : event->globalPos());
+    }
+}
+
+void LayerTable::mousePressEvent(QMouseEvent * event)
+{
+    if (event->button() != Qt::RightButton) {
+        QTableWidget::mousePressEvent(event);
+    }
+}
+
 void LayerTable::keyPressEvent(QKeyEvent * event)
 {
     if (event->key() == Qt::Key_Space && currentRow() >= 0) {
-        QTableWidgetItem & tick = *item(currentRow(), 0);
-        tick.setCheckState(tick.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-        return;
+        toggleTick(currentRow());
+    } else if (event->key() == Qt::Key_Escape) {
+        emit left();
+    } else {
+        QTableWidget::keyPressEvent(event);
     }
-    QTableWidget::keyPressEvent(event);
+}
+
+// Names in the order shown, without hidden rows.
+void LayerTable::keyboardSearch(QString const & typed)
+{
+    bool const goesOn =
+        m_sinceTyped.isValid() && m_sinceTyped.elapsed() < QApplication::keyboardInputInterval();
+    m_typed = goesOn ? m_typed + typed : typed;
+    m_sinceTyped.start();
+    QStringList names;
+    std::vector<int> rows;
+    int current = -1;
+    for (int place = 0; place < rowCount(); ++place) {
+        int const row = verticalHeader()->logicalIndex(place);
+        if (!isRowHidden(row)) {
+            current = row == currentRow() ? names.size() : current;
+            names.append(layerName(row));
+            rows.push_back(row);
+        }
+    }
+    int const found = foundByTyping(names, current, m_typed);
+    if (found >= 0) {
+        setCurrentCell(rows[static_cast<std::size_t>(found)], nameColumn);
+    }
 }
 
 } // namespace Workbench

@@ -14,7 +14,7 @@
 #include "tour/HeadlessLayers.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
-#include "window/CheatSheet.h"
+#include "window/KeysDialog.h"
 #include "window/MainWindow.h"
 
 #include <UIAPICommon.h>
@@ -156,7 +156,7 @@ QJsonObject useHotkeys(MainWindow & window, Camera & camera)
     facts["done"] = status.text();
     facts["snap"] = static_cast<int>(getSnapType(view.handle()));
     setSnapType(view.handle(), mode);
-    CheatSheet & sheet = *window.showKeys();
+    KeysDialog & sheet = *window.showKeys();
     camera.take(sheet, "hot-keys.png");
     sheet.showOwnFile();
     camera.take(sheet, "hot-keys-file.png");
@@ -353,6 +353,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     QJsonObject const hotkeys = useHotkeys(window, camera);
     TakePicture const take = [&camera](QWidget & widget, QString const & name) { camera.take(widget, name); };
     QJsonObject const filters = useFilters(window, take);
+    QJsonObject const comparison = useComparison(window, session, take);
     questions = Ext::MessageAnswer::Yes;
     QJsonObject const references = useReferences(window, take);
     QJsonObject const undone = useUndo(window, session, take);
@@ -372,6 +373,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
             {"EDA link", eda},
             {"hot keys", hotkeys},
             {"filters", filters},
+            {"comparison", comparison},
             {"references", references},
             {"undo", undone},
             {"feature", feature},

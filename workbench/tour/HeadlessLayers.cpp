@@ -2,6 +2,8 @@
 
 #include "board/BoardView.h"
 #include "job/Session.h"
+#include "layers/ComparePage.h"
+#include "layers/CompareView.h"
 #include "layers/FilterBar.h"
 #include "layers/LayerTable.h"
 #include "window/BoardPage.h"
@@ -10,6 +12,8 @@
 
 #include <UIAPICommon.h>
 
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
@@ -87,6 +91,39 @@ QJsonObject useFilters(MainWindow & window, TakePicture const & take)
     int const forAnalysis = bar.matchCount();
     bar.ask({});
     return {{"answers", answers}, {"for analysis", forAnalysis}};
+}
+
+QJsonObject useComparison(MainWindow & window, Session const & session, TakePicture const & take)
+{
+    QStringList names;
+    for (Session::Layer const & layer : session.layers()) {
+        if (layer.info.type == "signal" && !layer.features.empty() &&
+            layer.features.front().value_or(0) > 0) {
+            names.append(QString::fromStdString(layer.info.name));
+        }
+    }
+    if (names.size() < 2) {
+        return {};
+    }
+    auto & page = *window.findChild<ComparePage *>();
+    auto & view = *window.findChild<CompareView *>();
+    window.showPage("compare");
+    page.compareWith(names.first(), names.last());
+    while (page.isBusy() || view.isBusy()) {
+        view.grab(); // begins the picture
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    take(window, "compare.png");
+    window.showPage("board");
+    LayerDifference const & found = page.found();
+    return {{"first", names.first()},
+            {"second", names.last()},
+            {"pixel in um", found.pixel},
+            {"regions only in the first", static_cast<int>(found.firstRegions)},
+            {"regions only in the second", static_cast<int>(found.secondRegions)},
+            {"only in the first in mm2", found.onlyFirst / 1e6},
+            {"only in the second in mm2", found.onlySecond / 1e6},
+            {"in both in mm2", found.both / 1e6}};
 }
 
 QJsonObject useReferences(MainWindow & window, TakePicture const & take)

@@ -123,7 +123,7 @@
     </message>
 </context>
 <context>
-    <name>Workbench::CheatSheet</name>
+    <name>Workbench::KeysDialog</name>
     <message>
         <source>Hot keys</source>
         <translation>快捷键</translation>
@@ -199,6 +199,204 @@
     <message>
         <source>There is no file %1; the default keys are in use.</source>
         <translation>没有文件 %1；使用默认按键。</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>搜索命令和按键</translation>
+    </message>
+    <message>
+        <source>Press the new keys here</source>
+        <translation>在此按下新的按键</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Gives the selected command these keys instead of its own</source>
+        <translation>将所选命令的按键改为这些按键</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Gives the selected command these keys as well</source>
+        <translation>为所选命令再添加这些按键</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Takes the keys from the selected command</source>
+        <translation>取消所选命令的按键</translation>
+    </message>
+    <message>
+        <source>Default keys</source>
+        <translation>恢复默认按键</translation>
+    </message>
+    <message>
+        <source>Gives all commands their default keys; the file with yours is kept as a copy</source>
+        <translation>所有命令恢复默认按键；您的文件保留为副本</translation>
+    </message>
+    <message>
+        <source>The keys are not saved: %1</source>
+        <translation>按键未保存：%1</translation>
+    </message>
+    <message>
+        <source>The file that was there is now &quot;%1&quot;.</source>
+        <translation>原有文件已另存为“%1”。</translation>
+    </message>
+    <message>
+        <source>no keys</source>
+        <translation>无按键</translation>
+    </message>
+    <message>
+        <source>Select a command to change its keys.</source>
+        <translation>请选择要更改按键的命令。</translation>
+    </message>
+    <message>
+        <source>Press a key with Ctrl or Shift, or two plain keys one after the other.</source>
+        <translation>请按 Ctrl 或 Shift 加一个键，或依次按两个普通键。</translation>
+    </message>
+    <message>
+        <source>%1 begins a sequence: press the second key.</source>
+        <translation>%1 是组合键序列的第一个键：请按第二个键。</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 未被占用。</translation>
+    </message>
+    <message>
+        <source>The command has %1.</source>
+        <translation>该命令已使用 %1。</translation>
+    </message>
+    <message>
+        <source>%1 belongs to &quot;%2&quot;, which loses it.</source>
+        <translation>%1 已被“%2”占用，更改后“%2”将失去该按键。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be a hot key: only letters, digits, arrows and some signs can, with Ctrl or Shift or in a pair of plain keys.</source>
+        <translation>%1 不能用作快捷键：只能使用字母、数字、方向键和部分符号，并配合 Ctrl 或 Shift，或由两个普通键组成。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::ComparePage</name>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Only the part in view</source>
+        <translation>仅比较可见部分</translation>
+    </message>
+    <message>
+        <source>Looks at a smaller part with the same number of pixels, and so more finely</source>
+        <translation>以同样多的像素查看较小的区域，因而更精细</translation>
+    </message>
+    <message>
+        <source>The first layer</source>
+        <translation>第一层</translation>
+    </message>
+    <message>
+        <source>The second layer</source>
+        <translation>第二层</translation>
+    </message>
+    <message>
+        <source>Only in</source>
+        <translation>仅存在于</translation>
+    </message>
+    <message>
+        <source>Area (mm²)</source>
+        <translation>面积 (mm²)</translation>
+    </message>
+    <message>
+        <source>Size (mm)</source>
+        <translation>尺寸 (mm)</translation>
+    </message>
+    <message>
+        <source>Size (inch)</source>
+        <translation>尺寸 (英寸)</translation>
+    </message>
+    <message>
+        <source>Place (mm)</source>
+        <translation>位置 (mm)</translation>
+    </message>
+    <message>
+        <source>Place (inch)</source>
+        <translation>位置 (英寸)</translation>
+    </message>
+    <message>
+        <source>only in %1</source>
+        <translation>仅在 %1 中</translation>
+    </message>
+    <message>
+        <source>in both</source>
+        <translation>两层共有</translation>
+    </message>
+    <message>
+        <source>Choose two layers and compare them. Compared is what they draw in the step in front; the polarity of the matrix does not count.</source>
+        <translation>选择两层进行比较。比较的是它们在当前步骤中绘制的图形，不考虑矩阵中的极性。</translation>
+    </message>
+    <message>
+        <source>Comparing...</source>
+        <translation>正在比较...</translation>
+    </message>
+    <message>
+        <source>The comparison was stopped.</source>
+        <translation>比较已停止。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the comparison.</source>
+        <translation>内存不足，无法比较。</translation>
+    </message>
+    <message>
+        <source>Both layers are empty in this step.</source>
+        <translation>两层在此步骤中均为空。</translation>
+    </message>
+    <message>
+        <source>The step has changed since: compare again.</source>
+        <translation>此后步骤已更改，请重新比较。</translation>
+    </message>
+    <message>
+        <source>No difference was seen.</source>
+        <translation>未发现差异。</translation>
+    </message>
+    <message>
+        <source>Only in %1: %2 mm² in %3 regions. Only in %4: %5 mm² in %6 regions.</source>
+        <translation>仅在 %1 中：%2 mm²，共 %3 个区域。仅在 %4 中：%5 mm²，共 %6 个区域。</translation>
+    </message>
+    <message>
+        <source>The largest region has %1 mm², the smallest %2 mm².</source>
+        <translation>最大区域 %1 mm²，最小区域 %2 mm²。</translation>
+    </message>
+    <message>
+        <source>In both: %1 mm².</source>
+        <translation>两层共有：%1 mm²。</translation>
+    </message>
+    <message>
+        <source>Listed are the largest and the smallest: %1 of %2.</source>
+        <translation>仅列出最大和最小的区域：%2 个中的 %1 个。</translation>
+    </message>
+    <message>
+        <source>Seen in pixels of %1 µm (%2 mil): what is thinner may be missed or seem a pixel wide, sizes are uncertain by as much, and edges that differ by half a pixel count as equal.</source>
+        <translation>比较的像素为 %1 µm (%2 mil)：更细的图形可能漏检或显示为一个像素宽，尺寸误差不超过一个像素，边缘相差半个像素以内视为相同。</translation>
+    </message>
+    <message>
+        <source>Only a part was compared, %1 x %2 mm; regions may be cut at its edge.</source>
+        <translation>只比较了 %1 x %2 mm 的部分，区域可能在其边缘被截断。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::CompareView</name>
+    <message>
+        <source>Comparison of two layers</source>
+        <translation>两层的比较图</translation>
     </message>
 </context>
 <context>
@@ -538,6 +736,14 @@ Close the program that has port %1, then start this one again.</source>
         <source>"%1" is left out by: %2.</source>
         <translation>“%1”被此项排除：%2。</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Parts of names separated by |, with * for any text and ? for any letter; case does not matter.</source>
+        <translation>层名的一部分，多个以 | 分隔；* 代表任意文字，? 代表任意一个字符；不区分大小写。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::HotkeyCommands</name>
@@ -831,6 +1037,46 @@ Close the program that has port %1, then start this one again.</source>
         <source>the job holds only the tables of this layer</source>
         <translation>料号中只有此层的表头</translation>
     </message>
+    <message>
+        <source>Colour of the layer %1</source>
+        <translation>层 %1 的颜色</translation>
+    </message>
+    <message>
+        <source>Show only %1</source>
+        <translation>仅显示 %1</translation>
+    </message>
+    <message>
+        <source>Show all copper</source>
+        <translation>显示所有铜层</translation>
+    </message>
+    <message>
+        <source>Untick</source>
+        <translation>取消勾选</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>勾选</translation>
+    </message>
+    <message>
+        <source>Compare %1 with %2</source>
+        <translation>比较 %1 与 %2</translation>
+    </message>
+    <message>
+        <source>Compare with...</source>
+        <translation>与其他层比较...</translation>
+    </message>
+    <message>
+        <source>Copy the name</source>
+        <translation>复制层名</translation>
+    </message>
+    <message>
+        <source>Colour...</source>
+        <translation>颜色...</translation>
+    </message>
+    <message>
+        <source>Its own colour</source>
+        <translation>恢复默认颜色</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::MainWindow</name>
@@ -1067,6 +1313,10 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
     <message>
         <source>&amp;Recent boards</source>
         <translation>最近的板(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,9 @@ BoardPage::BoardPage(Session & session, LogLines const & log, Unit unit, QString
     });
     connect(m_layers, &LayerTable::layerSelected, this, &BoardPage::showLayer);
     connect(m_layers, &LayerTable::ticksChanged, this, &BoardPage::showTicked);
+    connect(m_layers, &LayerTable::coloursChanged, this, &BoardPage::showTicked);
+    connect(m_layers, &LayerTable::compareWanted, this, &BoardPage::compareWanted);
+    connect(m_layers, &LayerTable::left, this, [this] { currentView()->setFocus(); });
     connect(m_filter, &FilterBar::changed, this,
             [this] { m_layers->showMatches(m_filter->matches(), m_filter->hidesOthers()); });
     showCurrentStep();
@@ -205,6 +208,11 @@ void BoardPage::showOutline()
 void BoardPage::tickAllLayers(bool on)
 {
     m_layers->tickAll(on);
+}
+
+void BoardPage::useColours(QString const & file)
+{
+    m_layers->useColours(file);
 }
 
 void BoardPage::refreshEngine()

@@ -51,6 +51,8 @@ public:
     int firstPad() const;
 
     void tickAllLayers(bool on);
+    /// Shows the colours of layers that are kept in a settings file, and keeps later ones there.
+    void useColours(QString const & file);
     /// Reads the features of the step in front again and shows its state.
     void refresh();
     /// Shows again what the engine was told.
@@ -74,6 +76,8 @@ signals:
     void pointerMoved();
     /// A view shows another part of its board.
     void portChanged();
+    /// The shown layer is to be compared, with this one if it is another.
+    void compareWanted(QString const & layer);
     /// What a command did, for the status bar.
     void status(QString const & text);
 

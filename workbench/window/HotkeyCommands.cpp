@@ -4,16 +4,11 @@
 #include "board/BoardView.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
+#include "window/KeyOwner.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPointer>
-#include <QTextEdit>
 
 #include <algorithm>
 #include <cmath>
@@ -99,7 +94,7 @@ HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
      Right, true},
     {KP_ToolMovePanLeft, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Pan: left"), &HotkeyCommands::pan,
      Left, true},
-    {KP_Compare, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Compare")},
+    {KP_Compare, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Compare"), &HotkeyCommands::compare},
     {KP_MoveByMouseCenter, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Centre at the pointer"),
      &HotkeyCommands::centre},
     {KP_CopyOrignal, QT_TRANSLATE_NOOP("Workbench::HotkeyCommands", "Copy the original")},
@@ -132,17 +127,6 @@ HotkeyCommands::Command const HotkeyCommands::Command::table[] = {
 };
 
 namespace {
-
-// Read-only texts count as well: their keys select and copy.
-bool hasText(QWidget const & widget)
-{
-    return qobject_cast<QLineEdit const *>(&widget) != nullptr ||
-           qobject_cast<QTextEdit const *>(&widget) != nullptr ||
-           qobject_cast<QPlainTextEdit const *>(&widget) != nullptr ||
-           qobject_cast<QAbstractSpinBox const *>(&widget) != nullptr ||
-           qobject_cast<QComboBox const *>(&widget) != nullptr ||
-           qobject_cast<QLabel const *>(&widget) != nullptr;
-}
 
 // "S ... G grid, O off": the continuations of the pending key; empty if there are none.
 QString pendingText()
@@ -207,12 +191,21 @@ bool HotkeyCommands::isOurs(QObject * receiver) const
 {
     QWidget const * const window = m_board.window();
     QWidget const * const first = window->focusWidget() != nullptr ? window->focusWidget() : window;
-    return receiver == first && m_board.isVisible() && !hasText(*first);
+    return receiver == first && m_board.isVisible();
 }
 
 bool HotkeyCommands::eventFilter(QObject * receiver, QEvent * event)
 {
-    return event->type() == QEvent::KeyPress && isOurs(receiver) && press(static_cast<QKeyEvent &>(*event));
+    if (event->type() != QEvent::KeyPress || !isOurs(receiver)) {
+        return false;
+    }
+    auto & pressed = static_cast<QKeyEvent &>(*event);
+    KeyTaker const taker = keyTakerOf(static_cast<QWidget &>(*receiver));
+    if (keepsKey(taker, pressed.key(), pressed.modifiers())) {
+        KVHotKey::getInstance()->buffClear(); // what is typed elsewhere continues no sequence
+        return false;
+    }
+    return press(pressed);
 }
 
 bool HotkeyCommands::press(QKeyEvent & event)
@@ -310,6 +303,12 @@ QString HotkeyCommands::selectSame(int /*argument*/)
 QString HotkeyCommands::refresh(int /*argument*/)
 {
     m_board.refresh();
+    return {};
+}
+
+QString HotkeyCommands::compare(int /*argument*/)
+{
+    emit m_board.compareWanted(QString::fromStdString(m_board.currentView()->layer()));
     return {};
 }
 

@@ -12,8 +12,9 @@ namespace Workbench {
 class BoardPage;
 class BoardView;
 
-/// Runs the commands of the board's page by their hot keys while the page is in front. Text widgets keep
-/// their keys; all others give up keys that are hot keys or begin a sequence.
+/// Runs the commands of the board's page by their hot keys while the page is in front. Keys that
+/// belong to the widget with the focus (keepsKey) reach it; of all others it gets what is no hot key and
+/// begins no sequence.
 class HotkeyCommands : public QObject
 {
     Q_OBJECT
@@ -58,6 +59,7 @@ private:
     QString selectSame(int);
     QString selectionText() const;
     QString refresh(int);
+    QString compare(int);
     QString home(int);
     QString move(int direction);
     QString pan(int direction);

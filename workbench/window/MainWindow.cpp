@@ -3,6 +3,7 @@
 #include "board/BoardTexts.h"
 #include "board/BoardView.h"
 #include "checks/ResultsPage.h"
+#include "layers/ComparePage.h"
 #include "layers/ReferencesPage.h"
 #include "pages/AttributesPage.h"
 #include "pages/EdaPage.h"
@@ -14,9 +15,10 @@
 #include "ui/LanguageChange.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
-#include "window/CheatSheet.h"
+#include "window/Comparison.h"
 #include "window/EditMenu.h"
 #include "window/HotkeyCommands.h"
+#include "window/KeysDialog.h"
 #include "window/WindowState.h"
 
 #include <EmbeddedEngine.h>
@@ -126,6 +128,8 @@ void MainWindow::addPages()
     addPage(references, "references", QT_TR_NOOP("Refere&nces"));
     connect(m_board, &BoardPage::stepChanged, references,
             [this, references] { references->setStep(m_board->currentView()->step()); });
+    addPage(makeComparison(m_session, *m_board), "compare", QT_TR_NOOP("Compare"));
+    connect(m_board, &BoardPage::compareWanted, this, [this] { showPage("compare"); });
     addPage(new SettingsPage, "settings", QT_TR_NOOP("Se&ttings"));
     addPage(new TemplatesPage, "templates", QT_TR_NOOP("Te&mplates"));
     addPage(new AttributesPage, "attributes", QT_TR_NOOP("&Attributes"));
@@ -279,10 +283,10 @@ void MainWindow::listPages()
     }
 }
 
-CheatSheet * MainWindow::showKeys()
+KeysDialog * MainWindow::showKeys()
 {
     if (m_keys == nullptr) {
-        m_keys = new CheatSheet(this);
+        m_keys = new KeysDialog(this);
     }
     m_keys->refresh();
     m_keys->show();
@@ -301,6 +305,7 @@ void MainWindow::setLanguage(LANGUAGE_MODE language)
 void MainWindow::useStateFile(QString const & file, bool keepsUnit)
 {
     m_stateFile = file;
+    m_board->useColours(file);
     auto const choices = restoreWindow(*this, file);
     if (!choices) {
         return;

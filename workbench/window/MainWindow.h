@@ -19,7 +19,7 @@ class QToolBar;
 namespace Workbench {
 
 class BoardPage;
-class CheatSheet;
+class KeysDialog;
 class HotkeyCommands;
 class LogLines;
 class ResultsPage;
@@ -41,7 +41,7 @@ public:
     /// Shows all texts in a language.
     void setLanguage(KVCAM::UIAPI::LANGUAGE_MODE language);
     /// Shows the hot keys. Owned by the window.
-    CheatSheet * showKeys();
+    KeysDialog * showKeys();
     /// Restores the window's state from a file, and saves it there when the window is closed. With
     /// `keepsUnit` the views keep their unit.
     void useStateFile(QString const & file, bool keepsUnit);
@@ -84,7 +84,7 @@ private:
     BoardPage * m_board = nullptr;
     ResultsPage * m_results = nullptr;
     HotkeyCommands * m_commands = nullptr;
-    CheatSheet * m_keys = nullptr;
+    KeysDialog * m_keys = nullptr;
     QToolBar * m_bar = nullptr;
     QAction * m_unit = nullptr;
     QAction * m_saveFlag = nullptr;

@@ -35,6 +35,7 @@ int main(int argc, char ** argv)
     check(Embedded::liveState().show.unit == 1, "the engine was told of the unit");
     check(UIAPI::getUnitJudgeString(&view, 1.0, 2) == "25.40", "values follow the unit");
     check(std::string(UIAPICOMMON_VERSION) == PACKAGE_VERSION, "headers and package agree on the version");
+    check(UIAPI::Ext::version() == UIAPI::Ext::headerVersion(), "headers and library agree on the version");
     check(signatures() == 161, "every flat function is there");
 
     int heard = 0;

@@ -1,0 +1,133 @@
+#include "TestFiles.h"
+#include "layers/LayerNames.h"
+#include "window/KeyOwner.h"
+#include "window/KeyPlan.h"
+
+#include <UIAPICommon.h>
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
+
+using namespace KVCAM;
+using namespace KVCAM::UIAPI;
+using namespace Workbench;
+
+namespace {
+
+TEST(Keys, BelongToAWidgetThatUsesThem)
+{
+    QLineEdit field;
+    QLineEdit shown;
+    shown.setReadOnly(true);
+    QSpinBox number;
+    QComboBox choice;
+    QComboBox words;
+    words.setEditable(true);
+    QTableWidget row;
+    row.setSelectionMode(QAbstractItemView::SingleSelection);
+    QTableWidget rows;
+    QPushButton button;
+    QLabel label;
+    struct
+    {
+        QWidget * widget;
+        char const * kept;
+        char const * given;
+    } const table[] = {
+        {&field, "S 1 Left Shift+U Shift+Left Ctrl+A Ctrl+C Ctrl+V Ctrl+X Ctrl+Z Ctrl+Left",
+         "Ctrl+N Ctrl+H Ctrl+T"},
+        {&number, "S 1 Up Shift+Up Ctrl+A Ctrl+V", "Ctrl+N Ctrl+R"},
+        {&words, "S Shift+U Ctrl+C", "Ctrl+N"},
+        {&shown, "Ctrl+A Ctrl+C Shift+Right", "S 1 Shift+U Ctrl+V Ctrl+Z"},
+        {&label, "Ctrl+C", "S Shift+U Ctrl+N"},
+        {&choice, "S 1 Up Shift+_", "Shift+U Ctrl+C Ctrl+A"},
+        {&row, "S 1 Up Shift+_ Shift+Up Ctrl+C Ctrl+Up Ctrl+Home Ctrl+Space", "Shift+U Ctrl+A Ctrl+N Ctrl+V"},
+        {&rows, "S 1 Up Ctrl+A Ctrl+C", "Shift+U Ctrl+N"},
+        {&button, "", "S Up Shift+U Ctrl+A Ctrl+C"},
+    };
+    for (auto const & each : table) {
+        for (bool const isKept : {true, false}) {
+            for (QString const & keys :
+                 QString(isKept ? each.kept : each.given).split(' ', Qt::SkipEmptyParts)) {
+                int const pressed = QKeySequence(keys)[0];
+                int const mask = static_cast<int>(Qt::KeyboardModifierMask);
+                EXPECT_EQ(keepsKey(keyTakerOf(*each.widget), pressed & ~mask,
+                                   Qt::KeyboardModifiers(pressed & mask)),
+                          isKept)
+                    << each.widget->metaObject()->className() << ' ' << keys.toStdString();
+            }
+        }
+    }
+}
+
+TEST(UserKeys, AreNeverSavedOverWhatTheLibraryDidNotRead)
+{
+    struct
+    {
+        char const * old; ///< null for none
+        char const * backup;
+    } const rows[] = {
+        {nullptr, ""},
+        {"[]", ""},
+        {R"([{"func_name":"KP_Measure","Modifier":"","key":"A"}])", ""}, // never answers, but is kept
+        {"[{", ".bak"},
+        {"[{ other", ".bak2"}, // the older copy stays
+        {"{}", ".bak3"},
+        {R"([{"func_name":"KP_Mesure","Modifier":"Ctrl","key":"A"}])", ".bak4"},
+        {R"([{"func_name":"KP_Measure","Modifier":"Alt","key":"A"}])", ".bak5"},
+    };
+    std::vector<KeyPlan::Binding> const bindings = {{KP_Measure, {}, "Ctrl+M", false}};
+    for (auto const & row : rows) {
+        if (row.old != nullptr) {
+            writeFile(Ext::hotkeyFile, row.old);
+        }
+        KeysSaved const saved = saveKeys(bindings, false);
+        EXPECT_EQ(saved.problem, "");
+        EXPECT_EQ(saved.backup, *row.backup == '\0' ? QString() : QString(Ext::hotkeyFile) + row.backup);
+        if (!saved.backup.isEmpty()) {
+            EXPECT_EQ(readFile(saved.backup), row.old);
+        }
+        ASSERT_EQ(Ext::hotkeyBindings().size(), 1U);
+        EXPECT_EQ(Ext::hotkeyBindings()[0].keys, "Ctrl+M");
+    }
+    EXPECT_EQ(readFile(QString(Ext::hotkeyFile) + ".bak"), "[{");
+    QFile::remove(Ext::hotkeyFile);
+    QDir().mkpath(Ext::hotkeyFile); // something else is in the place of the file
+    EXPECT_NE(saveKeys(bindings, true).problem, "");
+}
+
+TEST(LayerNames, AreOrderedAndFoundAsPeopleExpect)
+{
+    QStringList const ordered = {"", "7", "L2", "l2a", "l002b", "l10", "l10_1", "l10_01x", "m", "m1"};
+    for (int i = 0; i < ordered.size(); ++i) {
+        for (int j = 0; j < ordered.size(); ++j) {
+            int const order = naturalOrder(ordered[i], ordered[j]);
+            EXPECT_EQ(order < 0, i < j) << i << ' ' << j;
+            EXPECT_EQ(order > 0, i > j) << i << ' ' << j;
+        }
+    }
+    QStringList const names = {"top", "silk_top", "l2", "l3", "Silk_bot", "bottom"};
+    struct
+    {
+        int current;
+        char const * typed;
+        int found;
+    } const rows[] = {
+        {-1, "s", 1}, {1, "s", 4},  {4, "s", 1},     {1, "si", 1}, {1, "silk_b", 4}, {4, "ss", 1},
+        {0, "l", 2},  {2, "l3", 3}, {5, "k_t", 1},   {0, "b", 5},  {0, "z", -1},     {0, "", -1},
+        {0, "2", 2},  {-1, "t", 0}, {0, "t", 1 - 1}, {3, "ll", 2},
+    };
+    for (auto const & row : rows) {
+        EXPECT_EQ(foundByTyping(names, row.current, row.typed), row.found) << row.current << row.typed;
+    }
+    EXPECT_EQ(foundByTyping({}, -1, "a"), -1);
+}
+
+} // namespace
