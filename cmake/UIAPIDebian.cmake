@@ -63,12 +63,16 @@ if(TARGET uiapi-workbench)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps" COMPONENT workbench)
   install(FILES "${_made}/uiapi-workbench.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT workbench)
 endif()
+if(TARGET uiapi_designer)
+  _package(designer uiapicommon-designer libdevel "plug-in for Qt Designer" "${_runtime} (= ${PROJECT_VERSION})")
+endif()
 
 # In a package the libraries are where the system looks; a search path of their own is against Debian's policy.
-foreach(component IN ITEMS runtime workbench)
+foreach(component IN ITEMS runtime workbench designer)
   install(CODE "
     if(CMAKE_INSTALL_PREFIX MATCHES \"/_CPack_Packages/[^/]+/DEB/\")
-      file(GLOB files \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/*.so.*.*.*\" \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/*\")
+      file(GLOB files \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/*.so.*.*.*\" \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/*\"
+        \"\${CMAKE_INSTALL_PREFIX}/${UIAPI_QT_PLUGIN_DIR}/designer/*\")
       foreach(file IN LISTS files)
         file(RPATH_REMOVE FILE \"\${file}\")
       endforeach()

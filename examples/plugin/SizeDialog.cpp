@@ -1,40 +1,29 @@
 #include "SizeDialog.h"
 
-#include <QDialogButtonBox>
-#include <QFormLayout>
+#include "ui_SizeDialog.h"
 
 using namespace KVCAM::UIAPI;
-
-namespace {
-
-constexpr Ext::Length smallest = Ext::Length::fromMil(4);
-constexpr Ext::Length largest = Ext::Length::fromMil(40);
-
-} // namespace
 
 SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
     : QDialog(view), m_view(view), m_formFile(formFile)
 {
-    setWindowTitle(QStringLiteral("Track size"));
-    unit = new QComboBox;
-    unit->setObjectName(QStringLiteral("unit")); // its key in the saved form
-    unit->addItems({QStringLiteral("mil"), QStringLiteral("micrometre")});
+    Ui::SizeDialog form; // the controls, their ranges and their names, which are the keys in the saved form
+    form.setupUi(this);
+    unit = form.unit;
+    width = form.width;
+    clearance = form.clearance;
+    words = form.words;
+    ok = form.buttons->button(QDialogButtonBox::Ok);
+
     unit->setCurrentIndex(getUnit(view));
-    words = new QLabel;
-    auto * const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    ok = buttons->button(QDialogButtonBox::Ok);
-    width = addField("width");
-    clearance = addField("clearance");
-
-    auto * const layout = new QFormLayout(this); // makes the controls children of this dialog
-    layout->addRow(QStringLiteral("&Unit"), unit);
-    layout->addRow(QStringLiteral("&Width"), width);
-    layout->addRow(QStringLiteral("&Clearance"), clearance);
-    layout->addRow(words);
-    layout->addRow(buttons);
-
-    connect(buttons, &QDialogButtonBox::accepted, this, &SizeDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &SizeDialog::reject);
+    Ext::setFormView(*this, view); // a form knows no view
+    for (KVLengthEdit * field : {width, clearance}) {
+        connect(field, &KVLengthEdit::previewChanged, this, &SizeDialog::judge);
+        connect(field, &KVLengthEdit::validityChanged, this, &SizeDialog::judge);
+        connect(field, &KVLengthEdit::valueChanged, this, &SizeDialog::judge);
+    }
+    connect(form.buttons, &QDialogButtonBox::accepted, this, &SizeDialog::accept);
+    connect(form.buttons, &QDialogButtonBox::rejected, this, &SizeDialog::reject);
     // The library notifies the engine and every field that follows the view.
     connect(unit, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [this](int index) { setUnit(m_view, index); });
@@ -43,29 +32,15 @@ SizeDialog::SizeDialog(QWidget * view, QString const & formFile)
     judge();
 }
 
-KVLengthEdit * SizeDialog::addField(char const * name)
-{
-    auto * const field = new KVLengthEdit;
-    field->setObjectName(QString::fromLatin1(name));
-    field->setRange(smallest, largest);
-    field->setView(m_view);
-    connect(field, &KVLengthEdit::previewChanged, this, &SizeDialog::judge);
-    connect(field, &KVLengthEdit::validityChanged, this, &SizeDialog::judge);
-    connect(field, &KVLengthEdit::valueChanged, this, &SizeDialog::judge);
-    return field;
-}
-
 void SizeDialog::judge()
 {
     QString fault;
     QString preview;
     bool complete = true;
     for (KVLengthEdit const * field : {width, clearance}) {
-        if (field != nullptr) {
-            fault += fault.isEmpty() ? field->fault() : QString();
-            preview += preview.isEmpty() ? field->preview() : QString();
-            complete = complete && !field->everyUnit().isEmpty(); // what is being typed counts
-        }
+        fault += fault.isEmpty() ? field->fault() : QString();
+        preview += preview.isEmpty() ? field->preview() : QString();
+        complete = complete && !field->everyUnit().isEmpty(); // what is being typed counts
     }
     words->setText(!fault.isEmpty() ? fault : !complete ? QStringLiteral("Both sizes are needed.") : preview);
     ok->setEnabled(complete && fault.isEmpty());

@@ -16,7 +16,7 @@ public:
 
     void accept() override;
 
-    // The controls, children of this dialog.
+    // The controls of the form, children of this dialog.
     QComboBox * unit = nullptr;
     KVCAM::UIAPI::KVLengthEdit * width = nullptr;
     KVCAM::UIAPI::KVLengthEdit * clearance = nullptr;
@@ -24,7 +24,6 @@ public:
     QPushButton * ok = nullptr;
 
 private:
-    KVCAM::UIAPI::KVLengthEdit * addField(char const * name);
     void judge();
 
     QWidget * m_view;

@@ -19,8 +19,8 @@ std::vector<void const *> Ext::views()
 
 bool Ext::isRegistered(void const * view)
 {
-    return onCommonPara(
-        [view](UIAPICommonPara & para) { return CommonParaAccess::parts(para).views.find(view) != nullptr; });
+    UIAPICommonPara * const para = CommonParaAccess::existing(); // creating it would bind the link's port
+    return para != nullptr && CommonParaAccess::parts(*para).views.find(view) != nullptr;
 }
 
 Ext::Result Ext::registerView(Step_Config const & config)

@@ -16,7 +16,7 @@ namespace KVCAM::UIAPI::Ext {
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT std::vector<void const *> views();
 
-/// Whether a handle is registered. Logs nothing.
+/// Whether a handle is registered. Logs nothing and creates none of the library's singletons.
 /// \since 0.1
 [[nodiscard]] UIAPICOMMON_EXPORT bool isRegistered(void const * view);
 

@@ -53,6 +53,8 @@ struct CommonParaAccess
 {
     using Parts = UIAPICommonPara::Private;
     static Parts & parts(UIAPICommonPara & para) { return *para.d; }
+    /// Null before its first use: for what must not create it.
+    static UIAPICommonPara * existing() { return UIAPICommonPara::m_pUIAPICommonParaInstance; }
     static RangeStore & ranges(UIAPICommonPara & para) { return para.d->ranges; }
 };
 

@@ -39,4 +39,19 @@ void KVLabel::setAttribute3(QString & attribute)
     m_attribute3 = attribute;
 }
 
+void KVLabel::setAttribute1(QString const & attribute)
+{
+    m_attribute1 = attribute;
+}
+
+void KVLabel::setAttribute2(QString const & attribute)
+{
+    m_attribute2 = attribute;
+}
+
+void KVLabel::setAttribute3(QString const & attribute)
+{
+    m_attribute3 = attribute;
+}
+
 } // namespace KVCAM::UIAPI

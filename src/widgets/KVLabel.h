@@ -34,6 +34,13 @@ public:
     void setAttribute2(QString & attribute);
     void setAttribute3(QString & attribute);
     ///@}
+    ///@{
+    /// The same for a text that is no variable, as uic writes it for a form.
+    /// \since 0.2
+    void setAttribute1(QString const & attribute);
+    void setAttribute2(QString const & attribute);
+    void setAttribute3(QString const & attribute);
+    ///@}
 
 private:
     QString m_attribute1;

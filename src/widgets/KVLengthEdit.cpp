@@ -58,11 +58,12 @@ void KVLengthEdit::showText(QString const & text)
     }
 }
 
-// A length limit or a mask may have changed the text that was to be shown. The result counts as shown, not as
-// typed: it must never become the value.
+// A length limit or a mask may have changed the text that was to be shown, and a new limit cuts the text that
+// is shown already. The result counts as shown, not as typed: it must never become the value.
 void KVLengthEdit::noteText()
 {
-    if (std::exchange(d->isShowing, false)) {
+    bool const isCut = d->shown.size() > maxLength() && text() == d->shown.left(maxLength());
+    if (std::exchange(d->isShowing, false) || isCut) {
         d->shown = text();
     }
     judge();
@@ -294,7 +295,7 @@ void KVLengthEdit::setView(void const * view)
 {
     d->view = view;
     d->watch.reset();
-    if (view == nullptr) {
+    if (view == nullptr || !d->followsView) {
         return;
     }
     d->watch = std::make_unique<Ext::ViewWatch>(view);
@@ -306,6 +307,17 @@ void KVLengthEdit::setView(void const * view)
     if (Ext::isRegistered(view)) { // an unknown one would be logged
         setUnit(Ext::unitOf(view));
     }
+}
+
+bool KVLengthEdit::followView() const
+{
+    return d->followsView;
+}
+
+void KVLengthEdit::setFollowView(bool follow)
+{
+    d->followsView = follow;
+    setView(d->view);
 }
 
 bool KVLengthEdit::unitShown() const

@@ -32,17 +32,26 @@ namespace KVCAM::UIAPI {
 class UIAPICOMMON_EXPORT KVLengthEdit : public QLineEdit
 {
     Q_OBJECT
-    Q_PROPERTY(KVCAM::UIAPI::Ext::Length value READ value WRITE setValue NOTIFY valueChanged USER true)
+    Q_PROPERTY(KVCAM::UIAPI::Ext::Length value READ value WRITE setValue NOTIFY valueChanged
+                   DESIGNABLE false USER true)
     Q_PROPERTY(bool hasValue READ hasValue NOTIFY valueChanged)
-    Q_PROPERTY(KVCAM::UIAPI::Ext::Unit unit READ unit WRITE setUnit)
+    Q_PROPERTY(KVCAM::UIAPI::Ext::Unit unit READ unit WRITE setUnit DESIGNABLE false)
     Q_PROPERTY(KVCAM::UIAPI::KVLengthEdit::Scale lengthScale READ lengthScale WRITE setLengthScale)
-    Q_PROPERTY(KVCAM::UIAPI::Ext::Length minimum READ minimum WRITE setMinimum)
-    Q_PROPERTY(KVCAM::UIAPI::Ext::Length maximum READ maximum WRITE setMaximum)
-    Q_PROPERTY(KVCAM::UIAPI::Ext::Length step READ step WRITE setStep)
+    Q_PROPERTY(KVCAM::UIAPI::Ext::Length minimum READ minimum WRITE setMinimum DESIGNABLE false)
+    Q_PROPERTY(KVCAM::UIAPI::Ext::Length maximum READ maximum WRITE setMaximum DESIGNABLE false)
+    Q_PROPERTY(KVCAM::UIAPI::Ext::Length step READ step WRITE setStep DESIGNABLE false)
     Q_PROPERTY(bool wheelSteps READ wheelSteps WRITE setWheelSteps)
     Q_PROPERTY(bool unitShown READ unitShown WRITE setUnitShown)
     Q_PROPERTY(bool microSign READ microSign WRITE setMicroSign)
     Q_PROPERTY(bool decimalComma READ decimalComma WRITE setDecimalComma)
+    Q_PROPERTY(bool followView READ followView WRITE setFollowView)
+    // In place of those that Qt Designer cannot edit. Its text would count as typing.
+    Q_PROPERTY(KVCAM::UIAPI::KVLengthEdit::UnitSystem unitSystem READ unitSystem WRITE setUnitSystem)
+    Q_PROPERTY(QString valueAsText READ valueAsText WRITE setValueAsText NOTIFY valueChanged)
+    Q_PROPERTY(QString minimumAsText READ minimumAsText WRITE setMinimumAsText)
+    Q_PROPERTY(QString maximumAsText READ maximumAsText WRITE setMaximumAsText)
+    Q_PROPERTY(QString stepAsText READ stepAsText WRITE setStepAsText)
+    Q_PROPERTY(QString text READ text WRITE setText DESIGNABLE false)
     Q_PROPERTY(QString preview READ preview NOTIFY previewChanged STORED false)
     Q_PROPERTY(QString fault READ fault STORED false)
 
@@ -54,6 +63,15 @@ public:
         Large = int(Ext::LengthScale::Large)  ///< inch or millimetre
     };
     Q_ENUM(Scale)
+
+    /// The system of units: Ext::Unit, as Qt Designer can offer it.
+    /// \since 0.2
+    enum UnitSystem : int
+    {
+        Inch = int(Ext::Unit::Inch),            ///< mil and inch
+        Millimetre = int(Ext::Unit::Millimetre) ///< micrometre and millimetre
+    };
+    Q_ENUM(UnitSystem)
 
     /// Without a value, in mil.
     explicit KVLengthEdit(QWidget * parent = nullptr);
@@ -90,6 +108,35 @@ public:
     /// is not registered yet is followed from its registration on. Compared, never dereferenced.
     void const * view() const;
     void setView(void const * view);
+    ///@}
+    ///@{
+    /// Whether the field takes the unit of its view. Default true. Ext::setFormView() gives the fields of a
+    /// form their view.
+    /// \since 0.2
+    bool followView() const;
+    void setFollowView(bool follow);
+    ///@}
+
+    ///@{
+    /// unit() as Qt Designer can edit it.
+    /// \since 0.2
+    UnitSystem unitSystem() const;
+    void setUnitSystem(UnitSystem system);
+    ///@}
+    ///@{
+    /// value(), minimum(), maximum() and step() as texts for Qt Designer. They may be set in any order, since
+    /// each text names its unit: "4 mil", "0.1 mm + 1 mil". Empty: no value, no bound, the default step. A
+    /// text that is no length, or lacks its unit, changes nothing, and Qt's qWarning() says so. They are read
+    /// in the unit that takes the fewest characters.
+    /// \since 0.2
+    QString valueAsText() const;
+    QString minimumAsText() const;
+    QString maximumAsText() const;
+    QString stepAsText() const;
+    void setValueAsText(QString const & text);
+    void setMinimumAsText(QString const & text);
+    void setMaximumAsText(QString const & text);
+    void setStepAsText(QString const & text);
     ///@}
 
     ///@{

@@ -41,6 +41,7 @@ struct KVLengthEdit::Private
     QString placeholder; // the host's, meanwhile
 
     void const * view = nullptr; // compared, never dereferenced
+    bool followsView = true;
     std::unique_ptr<Ext::ViewWatch> watch;
 
     QString fault; // as last reported

@@ -52,6 +52,8 @@ class UIAPICOMMON_EXPORT KVLineEdit : public QLineEdit
     Q_PROPERTY(KVCAM::UIAPI::KVLineEdit::Kind kind READ kind WRITE setKind)
     Q_PROPERTY(KVCAM::UIAPI::KVLineEdit::SymbolConversion symbolConversion READ symbolConversion WRITE
                    setSymbolConversion)
+    Q_PROPERTY(QString minimumAsText READ minimumAsText WRITE setMinimumAsText)
+    Q_PROPERTY(QString maximumAsText READ maximumAsText WRITE setMaximumAsText)
 
 public:
     /// The kinds of KVERegExp under the names that Qt Designer shows.
@@ -142,7 +144,8 @@ public:
     /// The last typed number in `unit`, converted from the unit it was typed in by exactly 25.4 and not
     /// rounded: 254.1234 typed in a metric view is still 254.1234 after any number of switches. An expression
     /// (RegExpression), whose text does not change on a switch, is evaluated and read in the view's current
-    /// unit. Text that is not a number counts as 0; a field of another kind gives NaN.
+    /// unit (inch before the view is registered). Text that is not a number counts as 0; a field of another
+    /// kind gives NaN.
     double exactValue(Ext::Unit unit) const;
     /// The same number as a length, according to lengthScale(). 0 for a field without a number.
     Ext::Length exactLength() const;
@@ -162,10 +165,21 @@ public:
     void setRange(Ext::Length minimum, Ext::Length maximum);
     /// Ends the checks and removes the property.
     void clearRange();
+    ///@{
+    /// The range as Qt Designer can edit it, one end at a time: "4 mil", "0.1 mm". Empty: no bound at this
+    /// end, and without a bound at either no range. A text that is no length, or lacks its unit, changes
+    /// nothing, and Qt's qWarning() says so. Read in the unit that takes the fewest characters.
+    /// \since 0.2
+    QString minimumAsText() const;
+    QString maximumAsText() const;
+    void setMinimumAsText(QString const & text);
+    void setMaximumAsText(QString const & text);
+    ///@}
 
     ///@{
     /// Whether the field automatically switches to its view's unit when that changes. Default false. A view
-    /// registered later is followed from then on.
+    /// registered later is followed from then on. In a form from Qt Designer, Ext::setFormView() says which
+    /// view that is.
     bool followView() const;
     void setFollowView(bool follow);
     ///@}
@@ -196,6 +210,8 @@ private:
     QString typedText() const;
     std::optional<Quantity> quantity() const;
     Ext::ValueVerdict verdict() const;
+    void judgeEdits();
+    void setEnds(Ext::Length minimum, Ext::Length maximum);
     void judge();
     void explainRefusal();
     void watchView();

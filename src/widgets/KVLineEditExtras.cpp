@@ -1,12 +1,11 @@
 // The additions of KVLineEdit: exact values, ranges, its view, its kind, explaining rejected keys.
 
-#include "uiapi/ViewUnit.h"
-#include "uiapi/flat/Arithmetic.h"
 #include "uiapi/flat/ShowParameters.h"
 #include "units/Expression.h"
 #include "units/ValueCheck.h"
 #include "widgets/KVLineEdit.h"
 #include "widgets/KVLineEditPrivate.h"
+#include "widgets/LengthTexts.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -43,7 +42,7 @@ std::optional<KVLineEdit::Quantity> KVLineEdit::quantity() const
         return Quantity{typedText().toDouble(), Ext::unitOfCode(d->typedUnit)};
     }
     if (d->kind == RegExpression) {
-        return Quantity{caculateData(text()), Ext::unitOf(d->owner)};
+        return Quantity{Expression::evaluate(text()), Ext::unitOfCode(d->viewUnit().value_or(Units::inch))};
     }
     return std::nullopt;
 }
@@ -82,9 +81,15 @@ void KVLineEdit::setRange(Ext::Length minimum, Ext::Length maximum)
 {
     d->range = Private::Range{minimum, maximum};
     if (!d->judging) {
-        d->judging = connect(this, &QLineEdit::textChanged, this, [this] { judge(); });
+        judgeEdits();
     }
     judge();
+}
+
+void KVLineEdit::judgeEdits()
+{
+    disconnect(d->judging);
+    d->judging = connect(this, &QLineEdit::textChanged, this, [this] { judge(); });
 }
 
 void KVLineEdit::clearRange()
@@ -92,6 +97,39 @@ void KVLineEdit::clearRange()
     d->range.reset();
     disconnect(d->judging);
     judge();
+}
+
+QString KVLineEdit::minimumAsText() const
+{
+    return d->range ? LengthTexts::write(d->range->minimum, Ext::Length::lowest()) : QString();
+}
+
+QString KVLineEdit::maximumAsText() const
+{
+    return d->range ? LengthTexts::write(d->range->maximum, Ext::Length::highest()) : QString();
+}
+
+void KVLineEdit::setMinimumAsText(QString const & text)
+{
+    if (auto const minimum = LengthTexts::read(*this, "minimumAsText", text, Ext::Length::lowest())) {
+        setEnds(*minimum, d->range ? d->range->maximum : Ext::Length::highest());
+    }
+}
+
+void KVLineEdit::setMaximumAsText(QString const & text)
+{
+    if (auto const maximum = LengthTexts::read(*this, "maximumAsText", text, Ext::Length::highest())) {
+        setEnds(d->range ? d->range->minimum : Ext::Length::lowest(), *maximum);
+    }
+}
+
+void KVLineEdit::setEnds(Ext::Length minimum, Ext::Length maximum)
+{
+    if (minimum == Ext::Length::lowest() && maximum == Ext::Length::highest()) {
+        clearRange();
+    } else {
+        setRange(minimum, maximum);
+    }
 }
 
 // Check the input in the unit it was typed in, so that rounding in the other unit never changes a verdict.
@@ -125,7 +163,8 @@ Ext::ValueVerdict KVLineEdit::verdict() const
         return check(typed.unit);
     }
     auto const verdict = check(Ext::unitOfCode(d->shownUnit.value_or(Units::inch)));
-    return verdict || d->shownUnit ? verdict : check(Ext::unitOf(d->owner)); // only a refusal looks it up
+    // Only a refusal looks it up.
+    return verdict || d->shownUnit ? verdict : check(Ext::unitOfCode(d->viewUnit().value_or(Units::inch)));
 }
 
 void KVLineEdit::judge()
@@ -174,7 +213,9 @@ void KVLineEdit::setFollowView(bool follow)
     watchView();
     // The view may have changed since the text was typed. Text without a unit needs no view look-up.
     if (d->tracking() != UnitTracking::None && !text().isEmpty()) {
-        changeunit(getUnit(d->owner));
+        if (auto const unit = d->viewUnit()) {
+            changeunit(*unit);
+        }
     }
 }
 
@@ -258,6 +299,9 @@ void KVLineEdit::setKind(Kind kind)
         setValidator(nullptr);
     } else {
         restrictTo(KVERegExp(kind));
+        if (d->judging) {
+            judgeEdits(); // after the recording, which it goes by
+        }
     }
     if (former != nullptr && former->parent() == this) {
         delete former;

@@ -50,7 +50,8 @@ struct KVLineEdit::Private
     std::unique_ptr<Ext::ViewWatch> following; // of the view, while it is followed
     QMetaObject::Connection refusals;
 
-    // The view's unit; an unregistered view is not asked, since that is logged.
+    // The view's unit; an unregistered view is not asked, since that is logged. In Qt Designer no singleton
+    // exists, and this makes none.
     std::optional<int> viewUnit() const
     {
         return Ext::isRegistered(owner) ? std::optional(getUnit(owner)) : std::nullopt;
