@@ -4,6 +4,7 @@
 
 #include <UIAPICommonTest/QtTest.h>
 
+#include <QFile>
 #include <QWidget>
 
 using namespace KVCAM::UIAPI;
