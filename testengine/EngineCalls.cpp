@@ -1,11 +1,12 @@
-#include "harness/RecordingEngine.h"
+// Every function that a host provides, with the recording engine behind it.
+
+#include "UIAPICommonTest/RecordingEngine.h"
 
 #include "checks/CheckReply.h"
 
 #include <KVCAM_API.h>
 
 #include <sstream>
-#include <stdexcept>
 
 namespace KVCAM::Testing {
 namespace {
@@ -37,67 +38,6 @@ RecordingEngine & engine()
 
 } // namespace
 
-RecordingEngine & RecordingEngine::get()
-{
-    static RecordingEngine engine;
-    return engine;
-}
-
-std::vector<std::string> RecordingEngine::take()
-{
-    return std::exchange(m_calls, {});
-}
-
-void RecordingEngine::throwFrom(std::string const & name, std::string const & text)
-{
-    m_throws[name] = text;
-}
-
-void RecordingEngine::throwNonStandardFrom(std::string const & name)
-{
-    m_nonStandardThrows.insert(name);
-}
-
-void RecordingEngine::throwFromEveryCall(bool standard)
-{
-    m_throwsAlways = standard;
-    m_throwsAlwaysNonStandard = !standard;
-}
-
-void RecordingEngine::onNextCall(std::string const & name, std::function<void()> action)
-{
-    m_actions[name] = std::move(action);
-}
-
-void RecordingEngine::reset()
-{
-    *this = RecordingEngine();
-}
-
-void RecordingEngine::called(std::string const & space, std::string const & name,
-                             std::string const & arguments)
-{
-    m_calls.push_back(space + "::" + name + "(" + arguments + ")");
-    consult(name);
-}
-
-void RecordingEngine::consult(std::string const & name)
-{
-    ++consulted[name];
-    if (auto action = m_actions.extract(name)) {
-        action.mapped()();
-    }
-    if (auto const found = m_throws.find(name); found != m_throws.end()) {
-        throw std::runtime_error(found->second);
-    }
-    if (m_throwsAlways) {
-        throw std::runtime_error(name);
-    }
-    if (m_throwsAlwaysNonStandard || m_nonStandardThrows.count(name) != 0) {
-        throw 42; // a host may throw anything
-    }
-}
-
 } // namespace KVCAM::Testing
 
 using KVCAM::Testing::engine;
@@ -106,7 +46,7 @@ using KVCAM::Testing::show;
 
 namespace KVCAM::API {
 
-template class check_reply<drill_check_item, check_info>;
+template class KVCAM_API_EXPORT check_reply<drill_check_item, check_info>;
 
 void set_show_para(show_param const & value)
 {
