@@ -81,7 +81,11 @@ private:
         float right = 0;
         float top = 0;
 
-        Box wide() const { return {left, bottom, right, top}; }
+        Box wide() const
+        {
+            return {static_cast<double>(left), static_cast<double>(bottom), static_cast<double>(right),
+                    static_cast<double>(top)};
+        }
     };
     static NarrowBox around(Box const & box);
 

@@ -5,9 +5,10 @@
 //   version()          that of the library at run time
 //   headerVersion()    that of the headers that a module was compiled with
 //   versionProblem()   why a module does not fit the library
+//   checkVersion()     reports it in the log
 //
-// Whatever includes this header is checked when it is loaded: a module that does not fit is reported in the
-// log. A host that asks its plug-ins for their headerVersion() can refuse one before it calls anything else.
+// Whatever includes this header is checked when it is loaded. A host that asks its plug-ins for their
+// headerVersion() can refuse one before it calls anything else.
 
 #include "UIAPICommonExport.h"
 #include "UIAPICommonVersion.h"
