@@ -195,7 +195,7 @@ QByteArray editedFeatures(std::string_view text, FeatureEdits const & edits)
             tableEnd = edited.size();
         }
     }
-    if (static_cast<std::size_t>(lines.feature() + 1) != edits.deleted.size()) {
+    if (static_cast<std::size_t>(lines.feature()) + 1 != edits.deleted.size()) {
         throw JobError("the file has changed since it was read");
     }
     return edited;

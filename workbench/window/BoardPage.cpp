@@ -116,6 +116,9 @@ QWidget * BoardPage::makeRightPanes()
     feature->setFrameShape(QFrame::NoFrame);
     feature->setWidgetResizable(true);
     feature->setWidget(m_feature);
+    for (QWidget * plain : {feature->viewport(), static_cast<QWidget *>(m_feature)}) {
+        plain->setAutoFillBackground(false); // that of the pane
+    }
     m_featurePane = new Pane("feature", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Feature"), feature);
     auto * engine =
         new Pane("engine", QT_TRANSLATE_NOOP("Workbench::MainWindow", "What the engine was told"), m_engine);
@@ -147,7 +150,7 @@ void BoardPage::makeLayout(LogLines const & log)
     sides->addWidget(makeRightPanes());
     sides->setCollapsible(1, false); // the board
     sides->setStretchFactor(1, 1);
-    sides->setSizes({560, 640, 240});
+    sides->setSizes({480, 720, 240});
 
     addWidget(sides);
     auto * lines = new LogPane(log);
