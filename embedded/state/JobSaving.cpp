@@ -101,7 +101,7 @@ QString replaceFile(QString const & old, QByteArray const & bytes)
     QFileInfo const info(old);
     bool const packed = info.suffix().compare("Z", Qt::CaseInsensitive) == 0 ||
                         info.suffix().compare("gz", Qt::CaseInsensitive) == 0;
-    QString const path = packed ? old.left(old.lastIndexOf('.')) : old;
+    QString path = packed ? old.left(old.lastIndexOf('.')) : old;
     QDir const folder(info.path());
     for (QString const & sum : {'.' + info.fileName() + ".sum", '.' + QFileInfo(path).fileName() + ".sum"}) {
         QFile::remove(folder.filePath(sum)); // of the old contents

@@ -96,7 +96,7 @@ QStringList filled(QStringList picture)
             QChar const kind = picture[y][x];
             std::vector<QPoint> next;
             if (kind == 'a' || kind == 'b') {
-                next.push_back({x, y});
+                next.emplace_back(x, y);
                 picture[y][x] = 'x';
             }
             QRect box;

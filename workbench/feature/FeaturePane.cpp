@@ -267,7 +267,8 @@ void FeaturePane::showOne(API::feature_info const & feature, QRectF const & box)
     m_facts[PolarityRow].text->setText(feature.positive ? tr("Positive") : tr("Negative"));
     QStringList lines;
     for (auto const & [name, value] : attributes) {
-        lines.append(QString::fromStdString(value.empty() ? name : name + " = " + value));
+        QString const text = QString::fromStdString(name);
+        lines.append(value.empty() ? text : QString("%1 = %2").arg(text, QString::fromStdString(value)));
     }
     m_attributes->setPlainText(lines.join('\n'));
 }

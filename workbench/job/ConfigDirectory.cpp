@@ -34,7 +34,7 @@ void copySamples(QString const & name, QString const & directory)
 QString samplesDirectory()
 {
     for (char const * const installed : {"/../samples", "/../share/uiapicommon/samples"}) {
-        QString const folder = QDir::cleanPath(QCoreApplication::applicationDirPath() + installed);
+        QString folder = QDir::cleanPath(QCoreApplication::applicationDirPath() + installed);
         if (QFileInfo(folder).isDir()) {
             return folder;
         }

@@ -61,8 +61,9 @@ constexpr char const * patterns[] = {
     QT_TRANSLATE_NOOP("Workbench::EnglishTexts", "\"%1\" in it cannot be measured so"),
     QT_TRANSLATE_NOOP("Workbench::EnglishTexts", "its drawing is empty"),
     QT_TRANSLATE_NOOP("Workbench::EnglishTexts", "its drawing has no measurable size"),
-    QT_TRANSLATE_NOOP("Workbench::EnglishTexts", "The SMD pads drawn with large symbols of the job's own are "
-                                                 "too many: their spacing is that of the boxes around them."),
+    // clang-format off
+    QT_TRANSLATE_NOOP("Workbench::EnglishTexts", "The SMD pads drawn with large symbols of the job's own are too many: their spacing is that of the boxes around them."),
+    // clang-format on
     QT_TRANSLATE_NOOP("Workbench::EnglishTexts",
                       "Plated holes without a pad on this outer layer (%1): they have no ring."),
     QT_TRANSLATE_NOOP(

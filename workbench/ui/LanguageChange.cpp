@@ -50,7 +50,7 @@ class Catalogue : public QTranslator
 public:
     QString translate(char const * context, char const * text, char const * remark, int n) const override
     {
-        QString const known = QTranslator::translate(context, text, remark, n);
+        QString known = QTranslator::translate(context, text, remark, n);
         if (!known.isEmpty() || std::strcmp(context, "QObject") != 0 ||
             std::strstr(text, "out of range: ") == nullptr) {
             return known;

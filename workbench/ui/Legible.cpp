@@ -46,8 +46,8 @@ QColor legible(QColor colour, QColor const & background)
     bool const isDark = contrast(Qt::white, background) > contrast(Qt::black, background);
     QColor const end(isDark ? Qt::white : Qt::black);
     QColor shown = colour;
-    for (double part = 0.1; part < 1.05 && contrast(shown, background) < leastContrast; part += 0.1) {
-        shown = mixed(colour, end, part);
+    for (int tenth = 1; tenth <= 10 && contrast(shown, background) < leastContrast; ++tenth) {
+        shown = mixed(colour, end, tenth / 10.0);
     }
     return shown;
 }
