@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
@@ -360,7 +361,8 @@ TEST_F(Keyboard, KeysAreSearchedChangedAndSetBackAndTheFileIsReadAtOnce)
     dialog.findChild<QPushButton *>("add keys")->click();
     EXPECT_EQ(rowOf(table, 29)[0] + rowOf(table, 29)[1], "Ctrl+AMeasure");
     EXPECT_EQ(rowOf(table, 0)[3], "no keys");
-    EXPECT_TRUE(dialog.findChild<QLabel *>("hint")->text().endsWith("config/keyboard.json\"."));
+    EXPECT_TRUE(dialog.findChild<QLabel *>("hint")->text().endsWith(
+        QDir::toNativeSeparators("config/keyboard.json") + "\"."));
     search.setText("zzz");
     EXPECT_LT(table.currentRow(), 0) << "what is not seen is not changed";
     search.clear();

@@ -416,8 +416,9 @@ TEST_F(Results, TheSuffixOfAWrittenFileIsAddedWhenMissing)
     for (auto const & row : rows) {
         EXPECT_EQ(withSuffix(row.path, row.filters, row.chosen), row.expected) << row.path;
     }
-    EXPECT_TRUE(fileLinks("/a b/<c>#.csv").startsWith("<a href=\"file:///a%20b/%3Cc%3E%23.csv\">"))
-        << fileLinks("/a b/<c>#.csv").toStdString();
+    QString const links = fileLinks("/a b/<c>#.csv");
+    EXPECT_TRUE(links.startsWith("<a href=\"file:///") && links.contains("/a%20b/%3Cc%3E%23.csv\">"))
+        << links.toStdString();
 }
 
 TEST_F(Results, AreInTheLanguageOfTheScreen)

@@ -136,6 +136,7 @@ QWidget * BoardPage::makeRightPanes()
 void BoardPage::makeLayout(LogLines const & log)
 {
     m_outline->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_outline->setWordWrap(true); // must not widen the window
     auto * middle = new QWidget;
     auto * layout = new QVBoxLayout(middle);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -279,7 +279,12 @@ void MainWindow::makeStatusBar()
     statusBar()->addWidget(m_pointer, 1);
     statusBar()->addPermanentWidget(makeEdaPortLabel());
     statusBar()->addPermanentWidget(m_zoom);
-    statusBar()->addPermanentWidget(new QLabel(m_session.directory()));
+    auto * folder = new QLabel(m_session.directory());
+    folder->setToolTip(folder->text());
+    statusBar()->addPermanentWidget(folder);
+    for (QLabel * label : {m_pointer, folder}) {
+        label->setMinimumWidth(1); // must not widen the window
+    }
     connect(m_commands, &HotkeyCommands::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::status, this, &MainWindow::showStatus);
     connect(m_results, &ResultsPage::status, this, &MainWindow::showStatus);
