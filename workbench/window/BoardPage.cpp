@@ -151,7 +151,7 @@ void BoardPage::makeLayout(LogLines const & log)
     sides->addWidget(makeRightPanes());
     sides->setCollapsible(1, false); // the board
     sides->setStretchFactor(1, 1);
-    sides->setSizes({480, 720, 240});
+    sides->setSizes({560, 640, 240});
 
     addWidget(sides);
     auto * lines = new LogPane(log);

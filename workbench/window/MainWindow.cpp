@@ -275,8 +275,8 @@ void MainWindow::makeStatusBar()
     m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // texts may be long
     m_pointer = new QLabel;
     m_zoom = new QLabel;
-    statusBar()->addWidget(m_status, 20); // all except what the pointer needs
-    statusBar()->addWidget(m_pointer, 1);
+    statusBar()->addWidget(m_status, 1); // all except what the others need
+    statusBar()->addWidget(m_pointer);
     statusBar()->addPermanentWidget(makeEdaPortLabel());
     statusBar()->addPermanentWidget(m_zoom);
     auto * folder = new QLabel(m_session.directory());
