@@ -1,0 +1,11 @@
+# The guide to the first dialog shows the example's files as they are, so that what people copy compiles.
+cmake_minimum_required(VERSION 3.25)
+file(READ "${GUIDE}" guide)
+foreach(file IN ITEMS CMakeLists.txt main.cpp)
+  file(READ "${EXAMPLE}/${file}" text)
+  string(REGEX REPLACE "\n([^\n])" "\n    \\1" text "\n${text}")
+  string(FIND "${guide}" "${text}" place)
+  if(place EQUAL -1)
+    message(SEND_ERROR "${GUIDE} does not show ${file} as it is")
+  endif()
+endforeach()
