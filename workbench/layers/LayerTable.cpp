@@ -27,6 +27,7 @@ namespace Workbench {
 namespace {
 
 constexpr int nameColumn = 1;
+constexpr int contextColumn = 2;
 constexpr int countColumn = 5;
 
 bool isCopper(KVCAM::API::layer_info const & layer)
@@ -43,7 +44,7 @@ LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
     setTextsNowAndLater(*this, [this] { setTitles(); });
     setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
-    horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(contextColumn, QHeaderView::Stretch); // names are read most
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorShown(true);
