@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <charconv>
 #include <iterator>
-#include <optional>
 #include <string>
 
 namespace KVCAM::Embedded {
@@ -15,20 +14,19 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\v\f\n";
 
-std::optional<int> number(std::string_view text)
-{
-    int value = 0;
-    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size() ? std::optional(value) : std::nullopt;
-}
-
 void append(QByteArray & bytes, std::string_view text)
 {
     bytes.append(text.data(), static_cast<int>(text.size()));
 }
 
-// The line with another text in place of one of its words.
 } // namespace
+
+std::optional<int> wholeNumber(std::string_view text)
+{
+    int value = 0;
+    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(value) : std::nullopt;
+}
 
 void appendReplaced(QByteArray & bytes, std::string_view line, std::string_view word, int value)
 {
@@ -66,7 +64,7 @@ void addEntry(Table & table, std::string_view line)
 {
     std::string_view const entry = trimmed(line.substr(0, line.find('\n'))).substr(1);
     std::string_view const index = entry.substr(0, entry.find_first_of(blanks));
-    if (auto const known = number(index)) {
+    if (auto const known = wholeNumber(index)) {
         table[*known] = validText(trimmed(entry.substr(index.size())));
     }
 }
@@ -89,12 +87,12 @@ std::vector<FeatureAttribute> attributesOf(std::string_view line, Table const & 
         std::string_view const item = trimmed(list.substr(0, list.find(',')));
         list.remove_prefix(std::min(list.find(','), list.size() - 1) + 1);
         std::size_t const equals = std::min(item.find('='), item.size());
-        auto const name = names.find(number(item.substr(0, equals)).value_or(-1));
+        auto const name = names.find(wholeNumber(item.substr(0, equals)).value_or(-1));
         if (name == names.end()) {
             continue;
         }
         std::string_view const value = trimmed(item.substr(std::min(equals + 1, item.size())));
-        auto const text = texts.find(number(value).value_or(-1));
+        auto const text = texts.find(wholeNumber(value).value_or(-1));
         bool const isText = hasText(name->second) && text != texts.end();
         attributes.push_back({name->second, isText ? text->second : validText(value)});
     }

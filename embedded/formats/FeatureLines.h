@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -49,6 +50,8 @@ private:
 
 /// A word of a line by its number, blanks between the words; empty if there are fewer.
 std::string_view wordOf(std::string_view line, int number);
+/// A whole text as an integer.
+std::optional<int> wholeNumber(std::string_view text);
 /// Appends a line with a number in place of one of its words, a part of it.
 void appendReplaced(QByteArray & bytes, std::string_view line, std::string_view word, int value);
 

@@ -5,7 +5,6 @@
 #include "formats/LineReader.h"
 
 #include <algorithm>
-#include <charconv>
 #include <functional>
 #include <map>
 #include <optional>
@@ -135,12 +134,10 @@ std::vector<Shifts> shiftsOf(std::string_view names, DeletedFeatures const & del
     return shifts;
 }
 
-std::optional<std::size_t> number(std::string_view text)
+std::optional<std::size_t> index(std::string_view text)
 {
-    int value = 0;
-    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    bool const good = error == std::errc() && end == text.data() + text.size() && value >= 0;
-    return good ? std::optional(static_cast<std::size_t>(value)) : std::nullopt;
+    auto const value = wholeNumber(text);
+    return value && *value >= 0 ? std::optional(static_cast<std::size_t>(*value)) : std::nullopt;
 }
 
 } // namespace
@@ -158,8 +155,8 @@ QByteArray editedNets(std::string_view text, DeletedFeatures const & deleted)
         if (key == "LYR") {
             shifts = shiftsOf(record, deleted);
         }
-        auto const layer = number(wordOf(record, 2));
-        auto const feature = number(wordOf(record, 3));
+        auto const layer = index(wordOf(record, 2));
+        auto const feature = index(wordOf(record, 3));
         bool const isKnown = key == "FID" && layer && feature && *layer < shifts.size();
         if (isKnown && !shifts[*layer].empty()) {
             Shifts const & of = shifts[*layer];

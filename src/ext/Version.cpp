@@ -24,6 +24,9 @@ QString versionProblem(QVersionNumber const & headers)
 
 bool checkVersion(int major, int minor, int patch) noexcept
 {
+    if (major == UIAPICOMMON_VERSION_MAJOR && minor == UIAPICOMMON_VERSION_MINOR) {
+        return true; // at once: every source of a module asks when it is loaded
+    }
     return guarded(Log::commonPara, [&] {
         QString const problem = versionProblem({major, minor, patch});
         if (!problem.isEmpty()) {

@@ -13,27 +13,27 @@ namespace Workbench {
 
 namespace {
 
-struct UnitTexts
-{
-    char const * large;
-    char const * small;
-    double perLarge; // micrometres
-    int largePlaces; // all show a tenth of a micrometre or less
-    int smallPlaces;
-};
+using KVCAM::UIAPI::Ext::Length;
+using KVCAM::UIAPI::Ext::LengthScale;
 
-UnitTexts textsOf(Unit unit)
+// With so many decimals that a tenth of a micrometre shows.
+QString numberText(double micrometres, Unit unit, LengthScale scale)
 {
-    return unit == Unit::Inch ? UnitTexts{"inch", "mil", 25400, 6, 3} : UnitTexts{"mm", "µm", 1000, 4, 1};
+    bool const isLarge = scale == LengthScale::Large;
+    int const decimals = unit == Unit::Inch ? (isLarge ? 6 : 3) : (isLarge ? 4 : 1);
+    return Length::fromMicrometres(micrometres).text(unit, scale, decimals);
+}
+
+QString suffix(Unit unit, LengthScale scale)
+{
+    return unitSuffix(unit, scale, KVCAM::UIAPI::Ext::MicrometreSign::Mu);
 }
 
 QString lengthText(double length, Unit unit)
 {
-    UnitTexts const texts = textsOf(unit);
     return QString("%1 %2 (%3 %4)")
-        .arg(QString::number(length / texts.perLarge, 'f', texts.largePlaces), texts.large,
-             QString::number(1000 * length / texts.perLarge, 'f', texts.smallPlaces),
-             QString::fromUtf8(texts.small));
+        .arg(numberText(length, unit, LengthScale::Large), suffix(unit, LengthScale::Large),
+             numberText(length, unit, LengthScale::Small), suffix(unit, LengthScale::Small));
 }
 
 } // namespace
@@ -41,14 +41,13 @@ QString lengthText(double length, Unit unit)
 QString measuredLineText(void const * view, QLineF const & line)
 {
     Unit const unit = KVCAM::UIAPI::Ext::unitOf(view);
-    UnitTexts const texts = textsOf(unit);
-    auto const part = [&texts](double length) {
-        return QString::number(std::abs(length) / texts.perLarge, 'f', texts.largePlaces);
+    auto const part = [unit](double length) {
+        return numberText(std::abs(length), unit, LengthScale::Large);
     };
     double const length = std::hypot(line.dx(), line.dy());
     return QString("%1 = %2, x %3 y %4 %5")
         .arg(lengthText(length, unit), lengthText(length, otherUnit(unit)), part(line.dx()), part(line.dy()),
-             texts.large);
+             suffix(unit, LengthScale::Large));
 }
 
 void paintMeasuredLine(QPainter & painter, void const * view, QLineF const & line,

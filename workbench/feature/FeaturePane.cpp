@@ -65,7 +65,8 @@ QString inBothUnits(std::vector<Ext::Length> const & lengths)
         for (Ext::Length const length : lengths) {
             numbers.append(length.text(unit, Ext::LengthScale::Small));
         }
-        texts.append(numbers.join(" x ") + (unit == Unit::Inch ? " mil" : QString::fromUtf8(" µm")));
+        texts.append(numbers.join(" x ") + ' ' +
+                     Ext::unitSuffix(unit, Ext::LengthScale::Small, Ext::MicrometreSign::Mu));
     }
     return texts.join(" = ");
 }
@@ -198,12 +199,22 @@ void FeaturePane::clearFacts()
 void FeaturePane::fill()
 {
     clearFacts();
+    m_hasSymbol = false;
+    if (m_view->selected().empty()) { // then nobody needs to wait for the shapes
+        m_heading->setText(tr("Nothing is selected. A click selects a feature, with Ctrl one more."));
+    } else {
+        fillSelected();
+    }
+    showSymbol();
+}
+
+void FeaturePane::fillSelected()
+{
     auto const & features = m_view->features();
     auto const & shapes = m_view->shapes();
     auto const & selected = m_view->selected();
-    m_hasSymbol = false;
     bool differ = false;
-    for (std::size_t i = 0; i < features.size() && !selected.empty(); ++i) {
+    for (std::size_t i = 0; i < features.size(); ++i) {
         if (selected.count(features[i].index) == 0) {
             continue;
         }
@@ -217,13 +228,10 @@ void FeaturePane::fill()
         }
     }
     m_hasSymbol = m_hasSymbol && !differ;
-    if (selected.empty()) {
-        m_heading->setText(tr("Nothing is selected. A click selects a feature, with Ctrl one more."));
-    } else if (selected.size() > 1) {
+    if (selected.size() > 1) {
         m_heading->setText(tr("%1 features").arg(selected.size()));
         m_facts[LayerRow].text->setText(QString::fromStdString(m_view->layer()));
     }
-    showSymbol();
 }
 
 void FeaturePane::showSymbol()

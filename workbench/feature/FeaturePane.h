@@ -68,6 +68,7 @@ private:
     void makeFields();
     void setTexts();
     void fill();
+    void fillSelected();
     void showSymbol();
     void showOne(KVCAM::API::feature_info const & feature, QRectF const & box);
     void clearFacts();

@@ -6,6 +6,7 @@
 #include "layers/CompareView.h"
 #include "ui/LanguageChange.h"
 #include "ui/TableTools.h"
+#include "ui/Units.h"
 
 #include <QCheckBox>
 #include <QColor>
@@ -28,16 +29,18 @@ namespace Workbench {
 namespace {
 
 constexpr int lookAtProgress = 100; // milliseconds
-constexpr double micrometresPerInch = 25400;
+
+using KVCAM::UIAPI::Ext::Length;
+using KVCAM::UIAPI::Ext::LengthScale;
 
 QString millimetres(double micrometres)
 {
-    return QString::number(micrometres / 1000, 'f', 3);
+    return Length::fromMicrometres(micrometres).text(Unit::Millimetre, LengthScale::Large, 3);
 }
 
 QString inches(double micrometres)
 {
-    return QString::number(micrometres / micrometresPerInch, 'f', 4);
+    return Length::fromMicrometres(micrometres).text(Unit::Inch, LengthScale::Large, 4);
 }
 
 QString squareMillimetres(double area)
@@ -61,6 +64,7 @@ ComparePage::ComparePage(Session const & session, QWidget * parent)
     , m_run(new QPushButton)
     , m_stop(new QPushButton)
     , m_progress(new QProgressBar)
+    , m_look(new QTimer(this))
     , m_legend(new QLabel)
     , m_text(new QLabel)
     , m_table(makeTable(QStringList{{}, {}, {}, {}, {}, {}}))
@@ -82,9 +86,7 @@ ComparePage::ComparePage(Session const & session, QWidget * parent)
         m_second->setCurrentIndex(1);
     }
     makeLayout();
-    auto * timer = new QTimer(this);
-    timer->start(lookAtProgress);
-    connect(timer, &QTimer::timeout, this, [this] { m_progress->setValue(*m_percent); });
+    connect(m_look, &QTimer::timeout, this, [this] { m_progress->setValue(*m_percent); });
     connect(m_run, &QPushButton::clicked, this, &ComparePage::compare);
     connect(m_stop, &QPushButton::clicked, this, &ComparePage::stop);
     connect(m_table, &QTableWidget::currentCellChanged, this, [this](int row) {
@@ -241,6 +243,7 @@ void ComparePage::setState(State state)
     m_found = {};
     m_stop->setEnabled(state == State::Busy);
     m_progress->setVisible(state == State::Busy);
+    state == State::Busy ? m_look->start(lookAtProgress) : m_look->stop();
     if (state != State::Done) {
         showFound();
     }
@@ -317,7 +320,7 @@ QString ComparePage::foundText() const
         tr("Seen in pixels of %1 µm (%2 mil): what is thinner may be missed or seem a pixel wide, sizes "
            "are uncertain by as much, and edges that differ by half a pixel count as equal.")
             .arg(m_found.pixel, 0, 'f', 2)
-            .arg(m_found.pixel / (micrometresPerInch / 1000), 0, 'f', 3));
+            .arg(m_found.pixel / micrometresPer(Unit::Inch), 0, 'f', 3));
     if (m_found.area != m_layers->extent()) {
         lines.append(tr("Only a part was compared, %1 x %2 mm; regions may be cut at its edge.")
                          .arg(millimetres(m_found.area.width()), millimetres(m_found.area.height())));

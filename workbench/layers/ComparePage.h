@@ -15,6 +15,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QTableWidget;
+class QTimer;
 
 namespace Workbench {
 
@@ -73,6 +74,7 @@ private:
     QPushButton * m_run;
     QPushButton * m_stop;
     QProgressBar * m_progress;
+    QTimer * m_look; ///< at the progress, while there is some
     QLabel * m_legend;
     QLabel * m_text;
     QTableWidget * m_table;

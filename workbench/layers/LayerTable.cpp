@@ -32,8 +32,7 @@ constexpr int countColumn = 5;
 
 bool isCopper(KVCAM::API::layer_info const & layer)
 {
-    bool const isType = layer.type == "signal" || layer.type == "power_ground" || layer.type == "mixed";
-    return isType && layer.context == "board";
+    return hasCopperType(layer) && layer.context == "board";
 }
 
 } // namespace

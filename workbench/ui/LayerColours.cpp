@@ -35,10 +35,8 @@ Preference preferenceOf(layer_info const & layer)
         {"solder_mask", 0xff2e7d4f}, {"solder_paste", 0xff6b7280}, {"silk_screen", 0xff3f51b5},
         {"drill", 0xff1f2937},       {"rout", 0xff5b1f1f},
     };
-    for (char const * type : {"signal", "power_ground", "mixed"}) {
-        if (layer.type == type) {
-            return {copper[static_cast<unsigned>(layer.row) % std::size(copper)], 0};
-        }
+    if (hasCopperType(layer)) {
+        return {copper[static_cast<unsigned>(layer.row) % std::size(copper)], 0};
     }
     for (auto const & [type, colour] : colours) {
         if (layer.type == type) {
@@ -102,6 +100,11 @@ QString keyOf(std::string const & layer)
 }
 
 } // namespace
+
+bool hasCopperType(layer_info const & layer)
+{
+    return layer.type == "signal" || layer.type == "power_ground" || layer.type == "mixed";
+}
 
 double colourDistance(QRgb a, QRgb b)
 {

@@ -12,6 +12,9 @@
 
 namespace Workbench {
 
+/// Whether a layer is of a type that has copper.
+bool hasCopperType(KVCAM::API::layer_info const & layer);
+
 /// The colour that a layer would like.
 struct ColourWish
 {
