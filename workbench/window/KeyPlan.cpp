@@ -33,7 +33,7 @@ bool holdsUnread(Ext::HotkeyFileCheck const & check)
 QString copyBeside(QString const & path)
 {
     for (int i = 1; i <= mostBackups; ++i) {
-        QString const copy = path + ".bak" + (i > 1 ? QString::number(i) : QString());
+        QString copy = path + ".bak" + (i > 1 ? QString::number(i) : QString());
         if (!QFileInfo::exists(copy) && QFile::copy(path, copy)) {
             return copy;
         }
