@@ -64,6 +64,11 @@ void AnalysisReport::setJobStep(std::string const & job, std::string const & ste
     m_step = step;
 }
 
+void AnalysisReport::setNetLookup(NetLookup lookup)
+{
+    m_nets = std::move(lookup);
+}
+
 void AnalysisReport::addDrill(
     std::map<std::string, check_reply<drill_check_item, check_info>> const & replies)
 {
@@ -97,6 +102,20 @@ void AnalysisReport::addUnified(
         for (auto const & [layer, result] : layers) {
             appendAll(target, layer, result.groups);
         }
+    }
+}
+
+void AnalysisReport::addEntries(std::string const & table, int number, std::vector<ReportEntry> entries)
+{
+    std::array<std::string_view, 3> const tables{Categories::drillRanges.name,
+                                                 Categories::signalLayerRanges.name, unifiedTable};
+    if (std::find(tables.begin(), tables.end(), table) == tables.end()) {
+        return;
+    }
+    ReportCategory & target = category(table, number);
+    for (ReportEntry & entry : entries) {
+        target.entries.push_back(std::move(entry));
+        gradeEntry(target, target.entries.back());
     }
 }
 
@@ -178,11 +197,16 @@ void AnalysisReport::appendAll(ReportCategory & category, std::string const & la
 void AnalysisReport::append(ReportCategory & category, std::string const & layer, int level,
                             std::vector<check_info> const & list) const
 {
-    for (check_info const & info : list) {
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        check_info const & info = list[i];
         auto const micrometres = measuredValue(info);
         auto const measured =
             micrometres ? std::optional(Length::fromMicrometres(*micrometres)) : std::nullopt;
-        category.entries.push_back({layer, level, info.value, measured, positionOf(info), Severity::None});
+        ReportEntry entry{layer, level, info.value, measured, positionOf(info), placesOf(info), {}, {}, {}};
+        if (m_nets) {
+            entry.nets = m_nets(category.table, category.number, layer, level, i);
+        }
+        category.entries.push_back(std::move(entry));
         gradeEntry(category, category.entries.back());
     }
 }

@@ -1,17 +1,14 @@
 #pragma once
 
 #include "../support/Result.h"
-#include "../units/Length.h"
 #include "../units/Unit.h"
 #include "AnalysisRecords.h"
-#include "Grade.h"
+#include "ReportRecords.h"
 #include "UIAPICommonExport.h"
 
 #include <QByteArray>
 #include <QString>
 
-#include <array>
-#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -20,44 +17,6 @@
 
 /// Additions to the fixed interface. They are opt-in and change none of its results.
 namespace KVCAM::UIAPI::Ext {
-
-/// Number of entries by severity; index with static_cast<std::size_t>(Severity::Red).
-using SeverityCounts = std::array<std::size_t, severityCount>;
-
-/// One measurement of a check.
-struct ReportEntry
-{
-    std::string layer;              ///< name, UTF-8
-    int level = 0;                  ///< the engine's level, or the number of the list or group
-    int value = 0;                  ///< the engine's own value, in mil rounded down
-    std::optional<Length> measured; ///< whole micrometres, see getMeasureValue(); none where kind and
-                                    ///< number of points do not agree
-    std::optional<KVCAM::API::point> position; ///< micrometres; the middle where two places were measured
-    Severity severity = Severity::None;        ///< by the levels of its category
-};
-
-/// The measurements of one category.
-struct ReportCategory
-{
-    std::string table; ///< of the category dictionary, "DrillRanges"; `unifiedTable` for unified items
-    int number = 0;    ///< of the category in the table, or of the unified item
-    std::string name;  ///< "Lines"; "#63" for a number not in the table
-    std::optional<Analysis_Ranges_Record> levels; ///< as set by setLevels()
-    SeverityCounts counts{};                      ///< of its entries
-    std::vector<ReportEntry> entries;             ///< by layer, level and the engine's order
-};
-
-/// A check that was not run.
-struct NotChecked
-{
-    std::string table;  ///< as in ReportCategory
-    int number = 0;     ///< as in ReportCategory
-    std::string name;   ///< filled from the table if empty
-    std::string reason; ///< one sentence, UTF-8
-};
-
-/// The table of results filed by unified item. Not in the category dictionary.
-inline constexpr char const * unifiedTable = "UnifiedItems";
 
 /// The results of a run of the engine's checks, by the exact category of each measurement and graded by the
 /// configured levels. It takes the raw replies, before they are filed in Unified_AnalysisResult, which groups
@@ -68,6 +27,8 @@ class AnalysisReport
 public:
     /// Names for the head of the written report, UTF-8.
     UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
+    /// Who tells the nets of the measurements that are added from now on; nobody until set.
+    UIAPICOMMON_EXPORT void setNetLookup(NetLookup lookup);
 
     // Additions go to existing categories. An item that was run and found nothing gives a category without
     // entries.
@@ -82,6 +43,10 @@ public:
     /// Adds unified items, under `unifiedTable`.
     UIAPICOMMON_EXPORT void
     addUnified(std::map<unified_check_items, std::map<std::string, unified_check_result>> const & results);
+    /// Adds measurements as they are, those of a written report for example, and grades them by the levels.
+    /// The table is one of the above; of any other nothing is added.
+    UIAPICOMMON_EXPORT void addEntries(std::string const & table, int number,
+                                       std::vector<ReportEntry> entries);
     /// Adds a check that was not run; an empty name is filled from the table.
     UIAPICOMMON_EXPORT void addNotChecked(NotChecked check);
 
@@ -120,6 +85,7 @@ private:
 
     std::string m_job;
     std::string m_step;
+    NetLookup m_nets;
     Unit m_unit = Unit::Inch;
     std::vector<ReportCategory> m_categories;
     std::vector<NotChecked> m_notChecked;

@@ -15,19 +15,29 @@ std::optional<double> measuredValue(check_info const & info)
     return *std::min_element(points + kind.measured, points + kind.lastMeasured + 1);
 }
 
-std::optional<KVCAM::API::point> positionOf(check_info const & info)
+std::vector<KVCAM::API::point> placesOf(check_info const & info)
 {
     std::vector<int> const & points = info.points;
-    std::size_t const places = checkKind(info.type).places;
-    if (points.size() < 2 * places) {
+    std::size_t const count = checkKind(info.type).places;
+    std::vector<KVCAM::API::point> places;
+    for (std::size_t i = 0; i < count && points.size() >= 2 * count; ++i) {
+        places.push_back({static_cast<double>(points[2 * i]), static_cast<double>(points[2 * i + 1])});
+    }
+    return places;
+}
+
+std::optional<KVCAM::API::point> positionOf(check_info const & info)
+{
+    std::vector<KVCAM::API::point> const places = placesOf(info);
+    if (places.empty()) {
         return std::nullopt;
     }
     KVCAM::API::point sum{0, 0};
-    for (std::size_t i = 0; i < places; ++i) {
-        sum.x += points[2 * i];
-        sum.y += points[2 * i + 1];
+    for (KVCAM::API::point const & place : places) {
+        sum.x += place.x;
+        sum.y += place.y;
     }
-    auto const count = static_cast<double>(places);
+    auto const count = static_cast<double>(places.size());
     return KVCAM::API::point{sum.x / count, sum.y / count};
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <limits>
 #include <optional>
+#include <vector>
 
 /// The kinds of check results (check_info::type): one table with the meaning of their points.
 namespace KVCAM::UIAPI {
@@ -69,6 +70,10 @@ constexpr CheckKind const & checkKind(int kind) noexcept
 /// The measured quantity of a check result, selected by its kind; nothing if the number of points does not
 /// match the kind.
 std::optional<double> measuredValue(check_info const & info);
+
+/// The places of a result in micrometres: one, or two for kinds that measure between two items. Empty if one
+/// of them is missing.
+std::vector<KVCAM::API::point> placesOf(check_info const & info);
 
 /// The position of a result in micrometres: the middle of its places. Nothing if one of them is missing.
 std::optional<KVCAM::API::point> positionOf(check_info const & info);

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "analysis/AnalysisReport.h"
+
+#include <QByteArray>
+
+#include <optional>
+#include <string>
+
+/// What the writers of the formats share, and the writers. They compose text: a board has a million entries,
+/// and a document with that many objects would take gigabytes.
+namespace KVCAM::UIAPI::Ext::Formats {
+
+/// Invalid UTF-8 becomes replacement characters.
+QByteArray utf8(std::string const & text);
+/// The shortest text that reads back equal; empty if not finite.
+QByteArray numberText(std::optional<double> value);
+/// In the small unit.
+std::optional<double> inUnit(std::optional<Length> measured, Unit unit);
+/// "mil" or "um", as reports write it; dialogs say "my".
+char const * smallUnitName(Unit unit);
+
+///@{
+/// The report in one format.
+QByteArray json(AnalysisReport const & report);
+QByteArray csv(AnalysisReport const & report);
+///@}
+
+} // namespace KVCAM::UIAPI::Ext::Formats
