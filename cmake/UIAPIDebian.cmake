@@ -65,6 +65,7 @@ if(TARGET uiapi-workbench)
 endif()
 if(TARGET uiapi_designer)
   _package(designer uiapicommon-designer libdevel "plug-in for Qt Designer" "${_runtime} (= ${PROJECT_VERSION})")
+  set(CPACK_DEBIAN_DESIGNER_PACKAGE_RECOMMENDS qttools5-dev-tools)
 endif()
 
 # In a package the libraries are where the system looks; a search path of their own is against Debian's policy.
