@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup results
 /// The records of the engine's checks: colour levels, replies, and results by unified item. All are plain
 /// aggregates.
 namespace KVCAM::UIAPI {

@@ -18,7 +18,7 @@
 #include <string_view>
 #include <vector>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup results
 namespace KVCAM::UIAPI::Ext {
 
 /// Number of entries by severity; index with static_cast<std::size_t>(Severity::Red).

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup testing
 /// What tests of dialogs and of the library need: an engine that records, captured log lines and boxes.
 namespace KVCAM::Testing {
 

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+/// \addtogroup expressions
 /// Typed expressions and values. A rejected value or text is shown to the user in one modal information box.
 /// If the view handle is a living widget, it is the box's parent; otherwise the box has no parent.
 namespace KVCAM::UIAPI {

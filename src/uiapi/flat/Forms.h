@@ -7,6 +7,7 @@
 
 class QObject;
 
+/// \addtogroup forms
 /// A form's controls as one flat JSON object, keyed by object name; the caller stores and loads the object.
 /// Controls are recognised by the exact class name of their meta-object: QLineEdit, KVCAM::UIAPI::KVLineEdit
 /// and QComboBox are stored as text, QCheckBox as bool, QButtonGroup as a number; all others are ignored.
