@@ -25,7 +25,7 @@ if(TARGET UIAPITestEngine)
 endif()
 # The pages in the order in which they are listed.
 foreach(_page IN ITEMS docs/FirstDialog.md docs/LengthField.md docs/Testing.md docs/Engine.md docs/Log.md docs/Values.md
-                       docs/Extensions.md docs/Checks.md docs/Topics.dox README.md CHANGELOG.md ARCHITECTURE.md
+                       docs/Extensions.md docs/Checks.md docs/reference/Topics.dox README.md CHANGELOG.md ARCHITECTURE.md
                        CONTRIBUTING.md)
   list(APPEND _inputs "${PROJECT_SOURCE_DIR}/${_page}")
 endforeach()
@@ -33,17 +33,17 @@ list(TRANSFORM _inputs PREPEND "\"")
 list(TRANSFORM _inputs APPEND "\"")
 list(JOIN _inputs " \\\n  " _inputs)
 file(WRITE "${PROJECT_BINARY_DIR}/docs/Doxyfile"
-"@INCLUDE = \"${PROJECT_SOURCE_DIR}/docs/Doxyfile\"
+"@INCLUDE = \"${PROJECT_SOURCE_DIR}/docs/reference/Doxyfile\"
 PROJECT_NUMBER = ${PROJECT_VERSION}
 OUTPUT_DIRECTORY = \"${PROJECT_BINARY_DIR}/docs\"
-FILTER_PATTERNS = \"*.h=${UIAPI_AWK} -f docs/header.awk\"
-LAYOUT_FILE = \"${PROJECT_SOURCE_DIR}/docs/DoxygenLayout.xml\"
-HTML_EXTRA_STYLESHEET = \"${PROJECT_SOURCE_DIR}/docs/reference.css\"
+FILTER_PATTERNS = \"*.h=${UIAPI_AWK} -f docs/reference/header.awk\"
+LAYOUT_FILE = \"${PROJECT_SOURCE_DIR}/docs/reference/DoxygenLayout.xml\"
+HTML_EXTRA_STYLESHEET = \"${PROJECT_SOURCE_DIR}/docs/reference/style.css\"
 STRIP_FROM_PATH = \"${PROJECT_SOURCE_DIR}/src\" \"${PROJECT_SOURCE_DIR}/platform\" \"${PROJECT_SOURCE_DIR}\"
 IMAGE_PATH = \"${PROJECT_SOURCE_DIR}/docs\"
 INPUT = ${_inputs}
 ")
 add_custom_target(docs
   COMMAND "${UIAPI_DOXYGEN}" "${PROJECT_BINARY_DIR}/docs/Doxyfile"
-  COMMAND "${CMAKE_COMMAND}" "-DPAGES=${PROJECT_BINARY_DIR}/docs/html" -P "${PROJECT_SOURCE_DIR}/docs/shorten.cmake"
+  COMMAND "${CMAKE_COMMAND}" "-DPAGES=${PROJECT_BINARY_DIR}/docs/html" -P "${PROJECT_SOURCE_DIR}/docs/reference/shorten.cmake"
   WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" VERBATIM)

@@ -3,7 +3,7 @@
 #     topic, in whatever namespace. Topics.dox defines the topics.
 #   - "///@{", a comment, several declarations, "///@}": the comment of each of them that has none of its own.
 BEGIN {
-    while ((getline line < "docs/Topics.dox") > 0) {
+    while ((getline line < "docs/reference/Topics.dox") > 0) {
         if (split(line, words, " ") > 1 && words[1] == "\\defgroup") is_topic[words[2]] = 1
     }
 }
