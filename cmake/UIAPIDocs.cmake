@@ -45,5 +45,5 @@ INPUT = ${_inputs}
 ")
 add_custom_target(docs
   COMMAND "${UIAPI_DOXYGEN}" "${PROJECT_BINARY_DIR}/docs/Doxyfile"
-  COMMAND "${CMAKE_COMMAND}" "-DPAGES=${PROJECT_BINARY_DIR}/docs/html" -P "${PROJECT_SOURCE_DIR}/docs/reference/shorten.cmake"
+  COMMAND "${CMAKE_COMMAND}" "-DPAGES=${PROJECT_BINARY_DIR}/docs/html" -P "${PROJECT_SOURCE_DIR}/docs/reference/finish.cmake"
   WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" VERBATIM)
