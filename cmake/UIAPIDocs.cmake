@@ -44,6 +44,7 @@ IMAGE_PATH = \"${PROJECT_SOURCE_DIR}/docs\"
 INPUT = ${_inputs}
 ")
 add_custom_target(docs
+  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${PROJECT_BINARY_DIR}/docs/html" # pages that there are no more
   COMMAND "${UIAPI_DOXYGEN}" "${PROJECT_BINARY_DIR}/docs/Doxyfile"
   COMMAND "${CMAKE_COMMAND}" "-DPAGES=${PROJECT_BINARY_DIR}/docs/html" -P "${PROJECT_SOURCE_DIR}/docs/reference/finish.cmake"
   WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}" VERBATIM)

@@ -7,8 +7,7 @@
 #include <vector>
 
 /// \addtogroup results
-/// The records of the engine's checks: colour levels, replies, and results by unified item. All are plain
-/// aggregates.
+/// The results of the engine's checks: colour levels, replies, results by unified item, and reports of them.
 namespace KVCAM::UIAPI {
 
 using KVCAM::API::check_info;

@@ -10,8 +10,8 @@
 #include <vector>
 
 /// \addtogroup hot_keys
-/// Additions to the hot keys. They read the bindings of KVHotKey, creating it at the first call, and do not
-/// change them. Keyboard layouts are not considered: a key that a layout cannot type is not reported. GUI
+/// Keys and the functions that they request. The additions read the bindings of KVHotKey, creating it at the
+/// first call, and do not change them. Keyboard layouts are not considered: a key that a layout cannot type is not reported. GUI
 /// thread only.
 namespace KVCAM::UIAPI::Ext {
 

@@ -7,7 +7,6 @@
 #include <vector>
 
 /// \addtogroup testing
-/// What tests of dialogs and of the library need: an engine that records, captured log lines and boxes.
 namespace KVCAM::Testing {
 
 /// Recorded calls, log lines or boxes, in order.
