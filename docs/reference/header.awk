@@ -14,6 +14,7 @@ BEGIN {
     if (path ~ /src\/ext\/[A-Za-z]+\.h$/) {
         gsub(/.*\/|\.h$/, "", path)
         map_topic = path in topic_of ? topic_of[path] : "none"
+        is_lost = map_topic == "none"
     }
 }
 function enter() { print "/// \\addtogroup " topic "\n///@{\n" }
@@ -66,7 +67,7 @@ shared && code != "" {
 
 END {
     if (in_topic) leave()
-    if ((declares && !(topic in is_topic)) || map_topic == "none") { # Doxygen reports it as an error
+    if (is_lost || (declares && !(topic in is_topic))) { # Doxygen reports it as an error
         name = FILENAME
         sub(/.*\//, "", name)
         gsub(/[^A-Za-z0-9]/, "_", name)
