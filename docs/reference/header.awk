@@ -1,6 +1,6 @@
 # A public header as Doxygen is to read it. What Doxygen 1.9 gets wrong or does not know is written out:
 #   - "/// \addtogroup NAME", and a comment on all that follows, once in a header: everything after it belongs to that
-#     topic, in whatever namespace. Topics.dox defines the topics.
+#     topic, in whatever namespace. Topics.dox defines the topics. A header that says nothing is in that of its room.
 #   - The map of additions that each header in src/ext/ begins with, as text of the topic of that section.
 #   - "///@{", a comment, several declarations, "///@}": the comment of each of them that has none of its own.
 BEGIN {
@@ -10,11 +10,16 @@ BEGIN {
     count = split("Analysis checks Configuration settings EdaLink links Forms widgets Hotkeys keys Layers layers " \
                   "Messages messages Values values Version messages Views views", pairs, " ")
     for (i = 1; i < count; i += 2) topic_of[pairs[i]] = pairs[i + 1]
-    path = ARGV[1]
-    if (path ~ /src\/ext\/[A-Za-z]+\.h$/) {
-        gsub(/.*\/|\.h$/, "", path)
-        map_topic = path in topic_of ? topic_of[path] : "none"
-        is_lost = map_topic == "none"
+    count = split("analysis checks config settings embedded engine hotkey keys layers layers links links " \
+                  "support messages testengine testing uiapi views units values widgets widgets", pairs, " ")
+    for (i = 1; i < count; i += 2) topic_of_room[pairs[i]] = pairs[i + 1]
+    count = split(ARGV[1], path, "/")
+    section = path[count]
+    sub(/\.h$/, "", section)
+    for (i = 1; i < count; ++i) if (path[i] in topic_of_room) topic = topic_of_room[path[i]]
+    if (path[count - 1] == "ext") {
+        is_lost = !(section in topic_of)
+        map_topic = topic = is_lost ? "none" : topic_of[section]
     }
 }
 function enter() { print "/// \\addtogroup " topic "\n///@{\n" }
@@ -41,7 +46,12 @@ map_topic && /^\/\/( |$)/ {
 in_map { print "\n}"; in_map = map_topic = "" }
 
 # The topic.
-/^\/\/\/ \\addtogroup / { topic = $3; is_topic_comment = 1 }
+/^\/\/\/ \\addtogroup / {
+    if (in_topic) leave()
+    in_topic = 0
+    topic = $3
+    is_topic_comment = 1
+}
 is_topic_comment && !is_comment { is_topic_comment = 0; print ""; enter(); in_topic = 1 }
 /^namespace .*\{$|^(class|struct|enum) .*[^;]$/ { declares = 1 }
 {
@@ -51,7 +61,7 @@ is_topic_comment && !is_comment { is_topic_comment = 0; print ""; enter(); in_to
     if (/^(inline )?namespace .*\{$/) { is_border = 1; spaces[++space] = before }
     else if (/^\}/ && space && braces == spaces[space]) { is_border = 1; --space }
 }
-in_topic && is_border { leave(); print; enter(); next }
+is_border && !is_topic_comment && topic { if (in_topic) leave(); print; enter(); in_topic = 1; next }
 
 # Shared comments. The first declaration is preceded by the comment already.
 /^[ \t]*\/\/\/@\{/ { shared = has_comment = is_first = 1; lines = depth = within = 0; print ""; next }
@@ -71,6 +81,6 @@ END {
         name = FILENAME
         sub(/.*\//, "", name)
         gsub(/[^A-Za-z0-9]/, "_", name)
-        print "/// \\file\n/// \\ref " name "_has_no_topic_of_Topics_dox"
+        print "\n/// \\addtogroup views\n/// \\ref " name "_has_no_topic_of_Topics_dox\n"
     }
 }
