@@ -23,10 +23,13 @@ if(TARGET UIAPITestEngine)
     list(APPEND _inputs ${_headers})
   endforeach()
 endif()
-# The pages in the order in which they are listed.
-foreach(_page IN ITEMS docs/FirstDialog.md docs/LengthField.md docs/Testing.md docs/Engine.md docs/Log.md docs/Values.md
-                       docs/Extensions.md docs/Checks.md docs/reference/Topics.dox README.md CHANGELOG.md ARCHITECTURE.md
-                       CONTRIBUTING.md)
+# The pages in the order in which they are best read; one that is not named here comes after them.
+set(_pages docs/FirstDialog.md docs/LengthField.md docs/Testing.md docs/Engine.md docs/Log.md docs/Values.md
+  docs/Extensions.md docs/Checks.md)
+file(GLOB _others RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
+list(REMOVE_ITEM _others ${_pages})
+foreach(_page IN LISTS _pages _others ITEMS docs/reference/Topics.dox README.md CHANGELOG.md ARCHITECTURE.md
+                                            CONTRIBUTING.md)
   list(APPEND _inputs "${PROJECT_SOURCE_DIR}/${_page}")
 endforeach()
 list(TRANSFORM _inputs PREPEND "\"")
