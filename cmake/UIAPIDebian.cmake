@@ -54,7 +54,7 @@ _package(devel libuiapicommon-dev libdevel "headers, examples and samples"
   "${_runtime} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15)")
 install(FILES CHANGELOG.md README.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/libuiapicommon-dev")
 install(DIRECTORY docs samples examples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/libuiapicommon-dev"
-  PATTERN Doxyfile EXCLUDE PATTERN windows EXCLUDE)
+  PATTERN reference EXCLUDE PATTERN windows EXCLUDE)
 if(TARGET uiapi-workbench)
   _package(workbench uiapi-workbench electronics "workbench" "${_runtime} (= ${PROJECT_VERSION}), libqt5sql5-sqlite")
   set(_debian "${PROJECT_SOURCE_DIR}/cmake/debian")

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup default_checks
 /// The checks of the default engine: measures a step of an open job, with its current deletions. The job
 /// itself is never changed. docs/Checks.md says what is measured, how and how exactly; in short:
 ///

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup default_engine
 /// What the default engine offers beyond the host's interface: its switches, the state it was given, and the
 /// parts of an open job that a host shows. Job, step and layer names are case-insensitive. Paths and texts
 /// are UTF-8. No function throws. GUI thread only.

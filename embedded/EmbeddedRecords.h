@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// What the default engine offers beyond the host's interface.
+/// \addtogroup default_engine
 namespace KVCAM::Embedded {
 
 /// An upright rectangle in micrometres.

@@ -29,6 +29,7 @@ int main(int argc, char ** argv)
         words->setText(width->fault().isEmpty() ? width->everyUnit().join(" = ") : width->fault());
     };
     QObject::connect(width, &KVLengthEdit::valueChanged, words, tell);
+    QObject::connect(width, &KVLengthEdit::previewChanged, words, tell); // while it is being typed
     QObject::connect(width, &KVLengthEdit::validityChanged, words, tell);
     tell();
 

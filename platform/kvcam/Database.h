@@ -2,6 +2,7 @@
 
 #include <kvcam/Records.h>
 
+/// \addtogroup engine_twins
 /// The engine's database twins. While the save flag is on, each is called before its live call.
 namespace KVCAM::DB {
 

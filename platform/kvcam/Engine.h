@@ -2,6 +2,7 @@
 
 #include <kvcam/Records.h>
 
+/// \addtogroup engine_calls
 /// The live engine. The library reports every change of a view's state here; any of these may throw.
 namespace KVCAM::API {
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+/// \addtogroup host_paths
 /// Where the host is installed. The paths are UTF-8.
 namespace Common {
 

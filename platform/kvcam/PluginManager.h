@@ -4,6 +4,8 @@
 
 #include <QString>
 
+/// \addtogroup plugin_manager
+
 /// A command for one of the host's plug-in modules.
 struct PluginMetaData
 {

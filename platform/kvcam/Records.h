@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup engine_records
 /// The engine's records. They are plain data; all text is UTF-8.
 namespace KVCAM::API {
 

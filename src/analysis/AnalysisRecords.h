@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-/// The records of the engine's checks: colour levels, replies, and results by unified item. All are plain
-/// aggregates.
+/// \addtogroup results
+/// The results of the engine's checks: colour levels, replies, results by unified item, and reports of them.
 namespace KVCAM::UIAPI {
 
 using KVCAM::API::check_info;

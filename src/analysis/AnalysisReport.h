@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup results
 namespace KVCAM::UIAPI::Ext {
 
 /// The results of a run of the engine's checks, by the exact category of each measurement and graded by the

@@ -8,7 +8,7 @@
 #include <array>
 #include <cstddef>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup ranges
 namespace KVCAM::UIAPI::Ext {
 
 /// How bad a measured value is, in ascending order.

@@ -4,6 +4,7 @@
 
 #include <string>
 
+/// \addtogroup ranges
 namespace KVCAM::UIAPI::Ext {
 
 /// The source of a range.

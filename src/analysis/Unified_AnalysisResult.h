@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+/// \addtogroup results
 namespace KVCAM::UIAPI {
 
 namespace Ext {

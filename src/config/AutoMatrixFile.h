@@ -2,6 +2,7 @@
 
 #include <QString>
 
+/// \addtogroup templates
 namespace KVCAM::UIAPI::Ext {
 
 /// Where a user template is stored: in the file "autoMatrix/" + name + ".json" below the current directory.

@@ -4,6 +4,7 @@
 #include <string>
 #include <type_traits>
 
+/// \addtogroup templates
 namespace KVCAM::UIAPI {
 
 /// How a layer's role is recognised from its name: a name prefix and suffix for each of twelve roles. A plain

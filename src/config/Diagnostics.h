@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup configuration_files
 namespace KVCAM::UIAPI::Ext {
 
 /// What is wrong with a file.

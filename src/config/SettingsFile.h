@@ -3,7 +3,7 @@
 #include "../support/Result.h"
 #include "UIAPICommonExport.h"
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup global_settings
 namespace KVCAM::UIAPI::Ext {
 
 /// The result of the last save of "server.json": whether the file holds the settings of that moment, and if

@@ -14,6 +14,7 @@
 #include <tuple>
 #include <vector>
 
+/// \addtogroup global_settings
 namespace KVCAM::UIAPI {
 
 /// The global settings of the process, the list of open jobs, the auto-matrix templates and the attribute

@@ -30,6 +30,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup ranges
 namespace KVCAM::UIAPI::Ext {
 
 /// The ranges that were read, by name, ascending byte by byte. A missing name was not read: there is no such

@@ -24,6 +24,7 @@
 
 #include <optional>
 
+/// \addtogroup templates
 namespace KVCAM::UIAPI::Ext {
 
 /// The user's file that holds a template; nothing for a shipped template, an index without a template, and a

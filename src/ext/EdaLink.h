@@ -15,6 +15,7 @@
 
 #include <QJsonObject>
 
+/// \addtogroup eda_link
 namespace KVCAM::UIAPI::Ext {
 
 /// The process's link, to connect to its signals; do not delete it. Null if there is none.

@@ -16,6 +16,7 @@
 #include <QString>
 #include <QVersionNumber>
 
+/// \addtogroup safety
 namespace KVCAM::UIAPI::Ext {
 
 /// The version of the loaded library.

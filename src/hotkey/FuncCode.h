@@ -1,5 +1,6 @@
 #pragma once
 
+/// \addtogroup hot_keys
 namespace KVCAM {
 
 /// The function requested by a key press. Each enumerator has the function's name in the hot-key file, odd

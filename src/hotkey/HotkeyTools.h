@@ -9,9 +9,10 @@
 
 #include <vector>
 
-/// Additions to the hot keys. They read the bindings of KVHotKey, creating it at the first call, and do not
-/// change them. Keyboard layouts are not considered: a key that a layout cannot type is not reported. GUI
-/// thread only.
+/// \addtogroup hot_keys
+/// Keys and the functions that they request. The additions read the bindings of KVHotKey, creating it at the
+/// first call, and do not change them. Keyboard layouts are not considered: a key that a layout cannot type
+/// is not reported. GUI thread only.
 namespace KVCAM::UIAPI::Ext {
 
 /// The user's hot-key file, relative to the current directory.

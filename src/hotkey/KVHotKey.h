@@ -8,6 +8,7 @@
 class QJsonArray;
 class QKeyEvent;
 
+/// \addtogroup hot_keys
 namespace KVCAM {
 
 namespace UIAPI {

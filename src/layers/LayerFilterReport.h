@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup layer_filters
 namespace KVCAM::UIAPI::Ext {
 
 /// Why a word of a layer filter selects nothing.

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup references
 namespace KVCAM::UIAPI {
 
 /// Layers of one step of a job, used by another step as a reference.

@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup files
 namespace KVCAM::UIAPI::Ext {
 
 /// Restricts delDir() to what is below one of these directories, which replace the previous ones. The listed

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup undoing
 namespace KVCAM::UIAPI::Ext {
 
 /// The number of operations on a step that the engine reports as undoable, to enable or disable a menu entry.

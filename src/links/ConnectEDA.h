@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+/// \addtogroup eda_link
 namespace KVCAM::UIAPI {
 
 namespace Ext {

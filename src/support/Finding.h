@@ -2,6 +2,7 @@
 
 #include <QString>
 
+/// \addtogroup outcomes
 namespace KVCAM::UIAPI::Ext {
 
 /// One finding of a check. Derived types add the facts of their kind of check.

@@ -8,7 +8,7 @@
 
 class QWidget;
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup boxes
 namespace KVCAM::UIAPI::Ext {
 
 /// Which box to show.

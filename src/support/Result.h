@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup outcomes
 namespace KVCAM::UIAPI::Ext {
 
 /// Whether something succeeded, and if not, why.

@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <string_view>
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup symbols
 namespace KVCAM::UIAPI::Ext {
 
 /// The standard families of symbols. A job's own symbol belongs to none of them.

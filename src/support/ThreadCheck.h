@@ -2,6 +2,7 @@
 
 #include "UIAPICommonExport.h"
 
+/// \addtogroup safety
 namespace KVCAM::UIAPI::Ext {
 
 /// How a call from a thread other than the library's own is handled.

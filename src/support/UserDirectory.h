@@ -4,6 +4,7 @@
 
 #include <QString>
 
+/// \addtogroup configuration_files
 namespace KVCAM::UIAPI::Ext {
 
 /// The directory that stands for the current one where the library names files relative to it: the hot keys

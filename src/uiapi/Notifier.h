@@ -6,6 +6,7 @@
 #include <QMetaType>
 #include <QObject>
 
+/// \addtogroup view_changes
 namespace KVCAM::UIAPI::Ext {
 
 /// What changed in a view's record.

@@ -8,7 +8,7 @@
 
 class QWidget;
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup view_access
 namespace KVCAM::UIAPI::Ext {
 
 /// The handles of the registered views in the order of registration. Read their records with getStepConfig().

@@ -20,6 +20,7 @@
 class QObject;
 class QWidget;
 
+/// \addtogroup view_access
 namespace KVCAM::UIAPI {
 
 class ConnectEDA;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup view_records
 /// The records of a graphic view that the modules share. All are plain aggregates.
 namespace KVCAM::UIAPI {
 

@@ -3,6 +3,7 @@
 #include "../units/Unit.h"
 #include "UIAPICommonExport.h"
 
+/// \addtogroup show_parameters
 namespace KVCAM::UIAPI::Ext {
 
 /// The unit of a view: getUnit() as a Unit, by unitOfCode(). An unknown view is an inch view, logged as

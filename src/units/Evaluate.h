@@ -9,6 +9,7 @@
 
 #include <optional>
 
+/// \addtogroup expressions
 namespace KVCAM::UIAPI::Ext {
 
 /// What an evaluation is to give.

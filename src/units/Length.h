@@ -11,6 +11,7 @@
 #include <limits>
 #include <type_traits>
 
+/// \addtogroup lengths
 namespace KVCAM::UIAPI::Ext {
 
 /// A length, exact to the nanometre: a whole number of them within +-(2^63 - 1). Results beyond that saturate

@@ -12,6 +12,7 @@
 #include <optional>
 #include <vector>
 
+/// \addtogroup symbols
 namespace KVCAM::UIAPI::Ext {
 
 /// Why a name is not that of a standard symbol. The comment says which part is marked.

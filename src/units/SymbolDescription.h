@@ -5,6 +5,7 @@
 
 #include <QString>
 
+/// \addtogroup symbols
 namespace KVCAM::UIAPI::Ext {
 
 /// A symbol in words, translated: "round, 10 mil (254 my)", "rectangle, width 10 mil (254 my), height 20 mil

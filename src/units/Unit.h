@@ -5,6 +5,7 @@
 #include <QMetaType>
 #include <QString>
 
+/// \addtogroup lengths
 namespace KVCAM::UIAPI::Ext {
 
 /// A system of units, with the codes of a view's show parameters.

@@ -9,6 +9,7 @@
 
 #include <optional>
 
+/// \addtogroup expressions
 namespace KVCAM::UIAPI::Ext {
 
 /// Why a value is refused.

@@ -12,7 +12,7 @@
 
 class QWidget;
 
-/// Additions to the fixed interface. They are opt-in and change none of its results.
+/// \addtogroup forms
 namespace KVCAM::UIAPI::Ext {
 
 /// Why a widget of a form is not saved.

@@ -4,6 +4,7 @@
 
 class QWidget;
 
+/// \addtogroup fields
 namespace KVCAM::UIAPI::Ext {
 
 /// Gives every KVLengthEdit and KVLineEdit inside a form the same view, as their setView() does. For forms

@@ -4,6 +4,8 @@
 
 #include <QFileDialog>
 
+/// \addtogroup companions
+
 /// A file dialog that selects several entries, including folders, and has a "Select All" button. Always Qt's
 /// own dialog, never the native one.
 ///

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QString>
 
+/// \addtogroup companions
 namespace KVCAM::UIAPI {
 
 /// A label with three free texts for use by the dialog. They have no behaviour: dialogs tag a label with them

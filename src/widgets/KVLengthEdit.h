@@ -10,6 +10,7 @@
 
 class QMenu;
 
+/// \addtogroup fields
 namespace KVCAM::UIAPI {
 
 /// A line edit that holds a length; its text is only a view of it. Anything can be typed, read by

@@ -9,6 +9,7 @@
 
 #include <optional>
 
+/// \addtogroup fields
 namespace KVCAM::UIAPI {
 
 namespace Ext {

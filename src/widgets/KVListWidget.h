@@ -4,6 +4,8 @@
 
 #include <QListWidget>
 
+/// \addtogroup companions
+
 /// A pop-up list that hides itself when it loses focus.
 class UIAPICOMMON_EXPORT KVListWidget : public QListWidget
 {

@@ -6,6 +6,8 @@
 #include <QListWidgetItem>
 #include <QString>
 
+/// \addtogroup companions
+
 /// A list item with three icons, of which it shows the first, and one text for use by the dialog.
 class UIAPICOMMON_EXPORT KVListWidgetItem : public QListWidgetItem
 {

@@ -5,6 +5,8 @@
 #include <QProgressDialog>
 #include <QString>
 
+/// \addtogroup companions
+
 /// A progress dialog that is stopped by F1, not cancelled by Escape. The working loop polls isDialogStop().
 class UIAPICOMMON_EXPORT KVProgressDialog : public QProgressDialog
 {

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QTextEdit>
 
+/// \addtogroup companions
+
 /// A text edit that reports its text whenever it loses focus. Accepts focus by click and Tab.
 class UIAPICOMMON_EXPORT KVTextEdit : public QTextEdit
 {

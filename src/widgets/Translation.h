@@ -3,6 +3,7 @@
 #include "../uiapi/ViewRecords.h"
 #include "UIAPICommonExport.h"
 
+/// \addtogroup boxes
 namespace KVCAM::UIAPI::Ext {
 
 /// Sets the language of the library's own fixed texts: installs the built-in catalogue on the application for

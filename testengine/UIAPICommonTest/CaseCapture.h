@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+/// \addtogroup testing
 namespace KVCAM::Testing {
 
 /// What one test case captures, on a recording engine in its initial state. The adapters for test frameworks

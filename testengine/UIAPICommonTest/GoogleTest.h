@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+/// \addtogroup testing
 namespace KVCAM::Testing {
 
 /// A fixture of GoogleTest with `log`, `boxes` and `engine`. A case fails if it leaves an ERROR line or a box

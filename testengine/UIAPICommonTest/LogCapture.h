@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// What tests of dialogs and of the library need: an engine that records, captured log lines and boxes.
+/// \addtogroup testing
 namespace KVCAM::Testing {
 
 /// Recorded calls, log lines or boxes, in order.

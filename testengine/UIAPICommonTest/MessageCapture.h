@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+/// \addtogroup testing
 namespace KVCAM::Testing {
 
 /// Takes the place of every box of the library while it lives, records it and answers it at once. Then the

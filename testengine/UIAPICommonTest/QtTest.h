@@ -9,6 +9,7 @@
 
 #include <optional>
 
+/// \addtogroup testing
 namespace QTest {
 
 /// Shows recorded lines where QCOMPARE() found others.

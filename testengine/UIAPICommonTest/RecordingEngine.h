@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup testing
 namespace KVCAM::Testing {
 
 /// The engine of tests: it answers as told by the test and records every engine call in order, as

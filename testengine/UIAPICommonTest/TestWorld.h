@@ -4,6 +4,7 @@
 
 #include <QTemporaryDir>
 
+/// \addtogroup testing
 namespace KVCAM::Testing {
 
 /// The surroundings of a test process, so that tests neither find nor leave anything: a fresh temporary

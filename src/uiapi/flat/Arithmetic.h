@@ -4,8 +4,10 @@
 
 #include <QString>
 
-/// Typed expressions and values. A rejected value or text is shown to the user in one modal information box.
-/// If the view handle is a living widget, it is the box's parent; otherwise the box has no parent.
+/// \addtogroup expressions
+/// Typed expressions and values. What the flat functions reject they show to the user in one modal
+/// information box. If the view handle is a living widget, it is the box's parent; otherwise the box has no
+/// parent. The additions show nothing.
 namespace KVCAM::UIAPI {
 
 /// The value of an expression of numbers and "+", "-", "*", "/", unrounded. Never fails: text that is not a

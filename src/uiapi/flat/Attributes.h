@@ -7,6 +7,7 @@
 #include <tuple>
 #include <vector>
 
+/// \addtogroup attributes
 /// The attributes of features and layers, and the CAM-mate nodes.
 namespace KVCAM::UIAPI {
 

@@ -7,6 +7,7 @@
 
 #include <map>
 
+/// \addtogroup templates
 /// The auto-matrix templates: how the roles of layers are recognised from their names.
 namespace KVCAM::UIAPI {
 

@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QString>
 
+/// \addtogroup eda_link
 /// The link to an EDA tool on the same computer; see ConnectEDA for the transport. Nothing is logged, and
 /// without a link nothing happens.
 namespace KVCAM::UIAPI {

@@ -7,6 +7,7 @@
 
 #include <string>
 
+/// \addtogroup files
 /// File names, and the files and directories of jobs. Paths are absolute or relative to the current
 /// directory; byte strings are UTF-8. An empty path and a path with a NUL are rejected, on Windows also one
 /// that the system would take for another: "nul", "aux.json", "dir.", "x.json:y", "c:x". Failure returns

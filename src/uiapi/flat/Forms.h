@@ -7,10 +7,12 @@
 
 class QObject;
 
-/// A form's controls as one flat JSON object, keyed by object name; the caller stores and loads the object.
-/// Controls are recognised by the exact class name of their meta-object: QLineEdit, KVCAM::UIAPI::KVLineEdit
-/// and QComboBox are stored as text, QCheckBox as bool, QButtonGroup as a number; all others are ignored.
-/// Texts are saved in the displayed unit. GUI thread only.
+/// \addtogroup forms
+/// The controls of a form, saved and restored. The two flat functions make one flat JSON object of them,
+/// keyed by object name; the caller stores and loads it. They recognise controls by the exact class name of
+/// their meta-object: QLineEdit, KVCAM::UIAPI::KVLineEdit and QComboBox are stored as text, QCheckBox as
+/// bool, QButtonGroup as a number; all others are ignored. Texts are saved in the displayed unit. GUI thread
+/// only.
 namespace KVCAM::UIAPI {
 
 /// Adds a member for each named control; of equal names the last control wins. A group with no checked button

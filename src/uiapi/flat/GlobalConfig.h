@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup global_settings
 /// The global settings of "server.json", the real box and the list of open jobs. A setting missing from the
 /// file is empty, 0 or false; failures at start are only logged.
 namespace KVCAM::UIAPI {

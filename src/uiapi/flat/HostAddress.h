@@ -4,6 +4,7 @@
 
 #include <string>
 
+/// \addtogroup host_address
 /// Name and address of this computer.
 namespace KVCAM::UIAPI {
 

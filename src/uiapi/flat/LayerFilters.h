@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup layer_filters
 namespace KVCAM::UIAPI {
 
 /// The names of a job's layers that analysis and DFM checks read, in matrix order: context "board" and type

@@ -2,6 +2,7 @@
 
 #include "UIAPICommonExport.h"
 
+/// \addtogroup modifier_keys
 /// The keyboard modifiers last seen by the application, compared as whole masks. No singleton is created.
 namespace KVCAM::UIAPI {
 

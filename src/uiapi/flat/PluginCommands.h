@@ -4,6 +4,7 @@
 
 #include <string>
 
+/// \addtogroup plugin_commands
 /// Commands for the host's plug-in modules.
 namespace KVCAM::UIAPI {
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup ranges
 /// The result categories of the analysis actions and their colour levels. Names are UTF-8 and compared byte
 /// for byte. The first call reads the range files: every "*.json" in the sub-directories of the host's ranges
 /// directory, once per process. Range files and category tables usually have the same names and are otherwise

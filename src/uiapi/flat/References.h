@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+/// \addtogroup references
 /// The reference layers and the drawing layers of each step of each job, kept across dialogs and never
 /// written to disk. The host reports its renames and deletions. Names are UTF-8 and compared byte for byte. A
 /// name not in the table changes nothing, silently.

@@ -2,6 +2,7 @@
 
 #include "UIAPICommonExport.h"
 
+/// \addtogroup selections
 /// Single fields of a view's Selection and select_info. A setter reads the record, changes the field, stores
 /// the record and pushes it to the engine; for an unknown view the getter's ERROR line is followed by "KVCAM
 /// UIAPI setSelection error". The field getters return the default for an unknown view.

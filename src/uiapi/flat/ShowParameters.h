@@ -2,6 +2,7 @@
 
 #include "UIAPICommonExport.h"
 
+/// \addtogroup show_parameters
 /// Single fields of a view's show parameters. A getter returns the field's default for an unknown view. A
 /// setter reads the record, changes the field, stores the record and pushes it to the engine, even if the
 /// value is unchanged. For an unknown view a getter logs "KVCAM UIAPI getShowPara error"; a setter logs that

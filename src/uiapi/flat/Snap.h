@@ -3,6 +3,7 @@
 #include "../ViewRecords.h"
 #include "UIAPICommonExport.h"
 
+/// \addtogroup snap
 /// The snap mode of a view. Type and mode are one field under two names. Nothing is pushed to the engine.
 namespace KVCAM::UIAPI {
 

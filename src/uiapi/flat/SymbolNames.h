@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// \addtogroup symbols
 /// Symbol names by unit. Sizes in a name are mil or micrometres. A converted size has six significant digits;
 /// a size that is not a number counts as 0. An unknown view logs "KVCAM UIAPI getUnit error" and is treated
 /// as not metric.

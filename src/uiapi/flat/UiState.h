@@ -7,21 +7,36 @@
 
 class QWidget;
 
+/// \addtogroup ui_state
 /// State that is not per view.
 namespace KVCAM::UIAPI {
 
 ///@{
-/// Stored in UIAPICommonPara; see its method of this name.
+/// The input widget, not owned, null until set. Whoever sets it must reset it before it is destroyed;
+/// Ext::inputWidget() is null then. Setting it logs the old and the new pointer.
 UIAPICOMMON_EXPORT QWidget * getInputPtr();
 UIAPICOMMON_EXPORT void setInputPtr(QWidget * widget);
+///@}
+///@{
+/// The split widget, not owned, null until set. To be reset like the input widget.
 UIAPICOMMON_EXPORT QWidget * getSplitPtr();
 UIAPICOMMON_EXPORT void setSplitPtr(QWidget * widget);
+///@}
+///@{
+/// Default (0, 0).
 UIAPICOMMON_EXPORT QPoint getCoordinatePos();
 UIAPICOMMON_EXPORT void setCoordinatePos(QPoint pos);
+///@}
+///@{
+/// Default false.
 UIAPICOMMON_EXPORT bool getCoordinateStatus();
 UIAPICOMMON_EXPORT void setCoordinateStatus(bool status);
 UIAPICOMMON_EXPORT bool getPanelPositionStatus();
 UIAPICOMMON_EXPORT void setPanelPositionStatus(bool status);
+///@}
+///@{
+/// The language's number, default 1 (English). It is only stored, and the argument does not change;
+/// Ext::installTranslation() switches the texts.
 UIAPICOMMON_EXPORT LANGUAGE_MODE getCurrentLanguageMode();
 UIAPICOMMON_EXPORT void setCurrentLanguageMode(LANGUAGE_MODE & mode);
 ///@}

@@ -6,6 +6,7 @@
 
 class QWidget;
 
+/// \addtogroup undoing
 namespace KVCAM::UIAPI {
 
 /// Undoes the latest operation on a step after asking the user. First the engine's history is corrected, as

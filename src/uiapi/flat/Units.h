@@ -6,6 +6,7 @@
 
 #include <string>
 
+/// \addtogroup units
 /// Values and their texts in the unit of a view. The large unit is inch or millimetre, the small unit mil or
 /// micrometre. An unknown view logs "KVCAM UIAPI getShowPara error" and is treated as an inch view. Results
 /// are defined even for infinities, NaN and values beyond the range of int.

@@ -6,14 +6,18 @@
 #include <map>
 #include <string>
 
+/// \addtogroup view_access
 /// Per-view record access and the push to the engine. Each function forwards to the method of the same name
 /// in UIAPICommonPara, which documents messages and neutral results.
 namespace KVCAM::UIAPI {
 
-///@{
-/// See the method of this name.
+/// Copies the whole record out.
 UIAPICOMMON_EXPORT void getStepConfig(void const * view, Step_Config & out);
+/// Registers a view and pushes its record to the engine. False, with an ERROR line, for a null handle; false,
+/// silently, for a handle already registered.
 UIAPICOMMON_EXPORT bool insertStepConfig(Step_Config const & config);
+///@{
+/// Copies this part of the record out, or stores and pushes it.
 UIAPICOMMON_EXPORT void getShowPara(void const * view, KVCAM::API::show_param & out);
 UIAPICOMMON_EXPORT void setShowPara(void const * view, KVCAM::API::show_param const & value);
 UIAPICOMMON_EXPORT void getSelection(void const * view, KVCAM::API::Selection & out);
