@@ -53,7 +53,11 @@ private:
     void forgetContent(QString const & name);
 
     std::map<int, AutoMatrixTmp> m_templates;
-    std::map<int, Ext::AutoMatrixFile> m_files; ///< of user templates
+    struct UserFile : Ext::AutoMatrixFile
+    {
+        QString folder; ///< which another user directory leaves behind
+    };
+    std::map<int, UserFile> m_files; ///< of user templates
     AutoMatrixTmp m_current;
     QString m_templateDirectory;
 };
