@@ -1008,26 +1008,6 @@ to %2</source>
 <context>
     <name>Workbench::LayerTable</name>
     <message>
-        <source>Row</source>
-        <translation>行</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Context</source>
-        <translation>类别</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Polarity</source>
-        <translation>极性</translation>
-    </message>
-    <message>
         <source>Features</source>
         <translation>图形数</translation>
     </message>
