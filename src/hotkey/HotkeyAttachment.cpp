@@ -24,8 +24,10 @@ HotkeyAttachment * attachedTo(QWidget const & widget)
 
 } // namespace
 
-HotkeyAttachment::HotkeyAttachment(QWidget & widget) : QObject(&widget), m_widget(widget)
+HotkeyAttachment::HotkeyAttachment(QWidget & widget) : m_widget(widget)
 {
+    delete attachedTo(widget);
+    setParent(&widget);
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -99,7 +101,6 @@ bool HotkeyAttachment::press(QKeyEvent & event)
 
 HotkeyAttachment * attachHotkeys(QWidget & widget, std::function<void(FuncCode)> run)
 {
-    delete attachedTo(widget);
     auto * attachment = new HotkeyAttachment(widget);
     if (run) {
         QObject::connect(attachment, &HotkeyAttachment::triggered, attachment, std::move(run));

@@ -13,14 +13,6 @@ class QWidget;
 
 namespace KVCAM::UIAPI::Ext {
 
-class HotkeyAttachment;
-
-/// Attaches the hot keys to a dialog, page or other widget and all its children, also those made later.
-/// `run` is called with each function requested; it may delete the widget. Hot keys attached to the widget
-/// before end.
-/// \since 0.2
-UIAPICOMMON_EXPORT HotkeyAttachment * attachHotkeys(QWidget & widget, std::function<void(FuncCode)> run = {});
-
 /// The hot keys of a widget, as attached by attachHotkeys(): key presses in it and its children go to
 /// KVHotKey. A child of the widget, which deletes it; delete it to end the hot keys earlier. GUI thread only.
 /// \since 0.2
@@ -42,6 +34,8 @@ class UIAPICOMMON_EXPORT HotkeyAttachment : public QObject
     Q_OBJECT
 
 public:
+    /// As attachHotkeys() without a function.
+    explicit HotkeyAttachment(QWidget & widget);
     /// Ends the hot keys.
     ~HotkeyAttachment() override;
 
@@ -65,9 +59,6 @@ protected:
     bool eventFilter(QObject * receiver, QEvent * event) override;
 
 private:
-    friend HotkeyAttachment * attachHotkeys(QWidget & widget, std::function<void(FuncCode)> run);
-
-    explicit HotkeyAttachment(QWidget & widget);
     bool isOurs(QObject const * receiver) const;
     bool press(QKeyEvent & event);
 
@@ -75,5 +66,11 @@ private:
     std::vector<FuncCode> m_repeating;
     std::function<bool()> m_condition;
 };
+
+/// Attaches the hot keys to a dialog, page or other widget and all its children, also those made later.
+/// `run` is called with each function requested; it may delete the widget. Hot keys attached to the widget
+/// before end.
+/// \since 0.2
+UIAPICOMMON_EXPORT HotkeyAttachment * attachHotkeys(QWidget & widget, std::function<void(FuncCode)> run = {});
 
 } // namespace KVCAM::UIAPI::Ext
