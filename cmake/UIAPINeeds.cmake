@@ -2,7 +2,8 @@
 
 set(UIAPI_MISSING "")
 
-# uiapi_find(<package> <Debian packages> [arguments of find_package...])
+# uiapi_find(<package> <Debian packages> [arguments of find_package...]): the parts of Qt as components, so that they are
+# looked for beside the Qt that was found.
 macro(uiapi_find package debian)
   find_package(${package} ${ARGN} QUIET)
   if(NOT ${package}_FOUND)
@@ -16,11 +17,11 @@ macro(uiapi_find package debian)
 endmacro()
 
 uiapi_find(Qt5 qtbase5-dev 5.15 COMPONENTS Core Gui Network Widgets)
-uiapi_find(Qt5LinguistTools qttools5-dev 5.15)
+uiapi_find(Qt5 qttools5-dev 5.15 COMPONENTS LinguistTools)
 uiapi_find(glog libgoogle-glog-dev)
 uiapi_find(jsoncpp libjsoncpp-dev)
 if(UIAPI_HOST STREQUAL "")
-  uiapi_find(Qt5Sql qtbase5-dev 5.15)
+  uiapi_find(Qt5 qtbase5-dev 5.15 COMPONENTS Sql)
 elseif(UIAPI_HOST_PACKAGE)
   find_package(${UIAPI_HOST_PACKAGE} QUIET)
   if(NOT ${UIAPI_HOST_PACKAGE}_FOUND)
@@ -30,7 +31,7 @@ elseif(UIAPI_HOST_PACKAGE)
 endif()
 if(UIAPI_BUILD_TESTS)
   uiapi_find(GTest "libgtest-dev and libgmock-dev, or set UIAPI_BUILD_TESTS=OFF")
-  uiapi_find(Qt5Test qtbase5-dev 5.15)
+  uiapi_find(Qt5 qtbase5-dev 5.15 COMPONENTS Test)
 endif()
 if(UIAPI_BUILD_BENCH)
   uiapi_find(benchmark "libbenchmark-dev, or set UIAPI_BUILD_BENCH=OFF")

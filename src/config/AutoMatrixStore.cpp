@@ -138,18 +138,18 @@ void AutoMatrixStore::saveCurrentAutoMatrixTmp(int index, QString const & name, 
         forgetContent(name);
         m_files[index] = {{name, true, true}, userFolder()};
     } else if (auto const file = m_files.find(index); file != m_files.end()) {
-        file->second.isStored = false;
+        file->second.file.isStored = false;
     }
 }
 
 std::optional<Ext::AutoMatrixFile> AutoMatrixStore::autoMatrixFile(int index) const
 {
-    auto const file = m_files.find(index);
-    if (file == m_files.end()) {
+    auto const found = m_files.find(index);
+    if (found == m_files.end()) {
         return std::nullopt;
     }
-    Ext::AutoMatrixFile result = file->second;
-    if (file->second.folder != userFolder()) { // no file of this name there has been read
+    Ext::AutoMatrixFile result = found->second.file;
+    if (found->second.folder != userFolder()) { // no file of this name there has been read
         result.isStored = false;
         result.isAlone = !QFileInfo::exists(userFile(result.name));
     }
@@ -158,8 +158,8 @@ std::optional<Ext::AutoMatrixFile> AutoMatrixStore::autoMatrixFile(int index) co
 
 void AutoMatrixStore::forgetContent(QString const & name)
 {
-    for (auto & [index, file] : m_files) {
-        file.isStored = file.isStored && file.name != name;
+    for (auto & [index, entry] : m_files) {
+        entry.file.isStored = entry.file.isStored && entry.file.name != name;
     }
 }
 

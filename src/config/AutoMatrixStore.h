@@ -53,8 +53,9 @@ private:
     void forgetContent(QString const & name);
 
     std::map<int, AutoMatrixTmp> m_templates;
-    struct UserFile : Ext::AutoMatrixFile
+    struct UserFile
     {
+        Ext::AutoMatrixFile file;
         QString folder; ///< which another user directory leaves behind
     };
     std::map<int, UserFile> m_files; ///< of user templates

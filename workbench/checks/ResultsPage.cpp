@@ -113,6 +113,7 @@ bool ResultsPage::measure(std::string const & step)
 void ResultsPage::showReport()
 {
     std::vector<std::string> layers;
+    layers.reserve(m_session.layers().size());
     for (Session::Layer const & layer : m_session.layers()) {
         layers.push_back(layer.info.name);
     }

@@ -85,6 +85,7 @@ void LayerTable::show(Session const & session, std::size_t step)
         }
     }
     std::vector<KVCAM::API::layer_info> layers;
+    layers.reserve(session.layers().size());
     for (Session::Layer const & layer : session.layers()) {
         layers.push_back(layer.info);
     }
