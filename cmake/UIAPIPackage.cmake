@@ -34,6 +34,14 @@ install(EXPORT UIAPICommonTargets NAMESPACE UIAPICommon:: DESTINATION "${UIAPI_C
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/UIAPICommonConfig.cmake.in" UIAPICommonConfig.cmake
   INSTALL_DESTINATION "${UIAPI_CMAKE_DIR}")
 write_basic_package_version_file(UIAPICommonConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+# What CMake prints for a version that does not fit: it knows no other place for a word on it.
+set(_minor "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
+file(APPEND "${PROJECT_BINARY_DIR}/UIAPICommonConfigVersion.cmake" "
+if(PACKAGE_FIND_VERSION AND NOT PACKAGE_VERSION_COMPATIBLE)
+  set(PACKAGE_VERSION
+    \"${PROJECT_VERSION}, which fits find_package(UIAPICommon ${_minor}) alone: ask for ${_minor}, or install what was asked for\")
+endif()
+")
 install(FILES
   "${PROJECT_BINARY_DIR}/UIAPICommonConfig.cmake"
   "${PROJECT_BINARY_DIR}/UIAPICommonConfigVersion.cmake"

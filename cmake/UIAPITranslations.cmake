@@ -1,6 +1,5 @@
 # uiapi_embed_catalogue(<target> <name> <catalogue>): embeds a compiled catalogue in the target, as the Qt resource
 # ":/<name>/translations/<catalogue>.qm". To be called in the target's directory: a generated source is built only there.
-find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
 
 function(uiapi_embed_catalogue target name catalogue)
   qt5_add_translation(compiled "${CMAKE_CURRENT_SOURCE_DIR}/${catalogue}")

@@ -68,17 +68,6 @@ bool canWriteInto(QString const & directory)
     return QDir().mkpath(directory) && QTemporaryFile(directory + "/probe-XXXXXX").open();
 }
 
-// The library logs through glog but leaves its initialisation to the host. There are no log files: warnings
-// and errors go to stderr, and the window shows every line.
-void initialiseLog(char const * program)
-{
-    google::InitGoogleLogging(program);
-    for (auto const severity : {google::GLOG_INFO, google::GLOG_WARNING, google::GLOG_ERROR}) {
-        google::SetLogDestination(severity, "");
-    }
-    google::SetStderrLogging(google::GLOG_WARNING);
-}
-
 // Qt's messages about the desktop belong into the log, not between the lines on the terminal.
 void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QString const & text)
 {
@@ -117,7 +106,7 @@ int runWindows(Workbench::LogLines const & log, Workbench::CommandLine const & c
 int main(int argc, char ** argv)
 {
     Workbench::useParentConsole();
-    initialiseLog(argv[0]);
+    KVCAM::UIAPI::Ext::startLogging(argv[0]); // warnings and errors; the window shows every line
     Workbench::LogLines log;
     qInstallMessageHandler(logQtMessage);
     bool const headless = Workbench::runsHeadless(argc, argv);

@@ -3,8 +3,6 @@
 
 #include <UIAPICommon.h>
 
-#include <glog/logging.h>
-
 #include <QApplication>
 #include <QWidget>
 
@@ -14,8 +12,7 @@ using namespace KVCAM::UIAPI;
 
 int main(int argc, char ** argv)
 {
-    google::InitGoogleLogging(argv[0]);
-    FLAGS_logtostderr = true;
+    Ext::startLogging(argv[0], {Ext::LogLevel::Info, {}});
     QApplication const application(argc, argv);
     if (argc != 3) {
         std::fprintf(stderr, "example-host MODULE open|demo\n");

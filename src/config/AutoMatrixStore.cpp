@@ -136,22 +136,30 @@ void AutoMatrixStore::saveCurrentAutoMatrixTmp(int index, QString const & name, 
     m_templates.insert_or_assign(index, tmpl);
     if (saveAutoMatrixtoJson(name, tmpl)) {
         forgetContent(name);
-        m_files[index] = {name, true, true};
+        m_files[index] = {{name, true, true}, userFolder()};
     } else if (auto const file = m_files.find(index); file != m_files.end()) {
-        file->second.isStored = false;
+        file->second.file.isStored = false;
     }
 }
 
 std::optional<Ext::AutoMatrixFile> AutoMatrixStore::autoMatrixFile(int index) const
 {
-    auto const file = m_files.find(index);
-    return file == m_files.end() ? std::nullopt : std::optional(file->second);
+    auto const found = m_files.find(index);
+    if (found == m_files.end()) {
+        return std::nullopt;
+    }
+    Ext::AutoMatrixFile result = found->second.file;
+    if (found->second.folder != userFolder()) { // no file of this name there has been read
+        result.isStored = false;
+        result.isAlone = !QFileInfo::exists(userFile(result.name));
+    }
+    return result;
 }
 
 void AutoMatrixStore::forgetContent(QString const & name)
 {
-    for (auto & [index, file] : m_files) {
-        file.isStored = file.isStored && file.name != name;
+    for (auto & [index, entry] : m_files) {
+        entry.file.isStored = entry.file.isStored && entry.file.name != name;
     }
 }
 
@@ -187,7 +195,7 @@ void AutoMatrixStore::getAutoMatrixUserTmpFromJson()
         int const first = index;
         int const count = readAutoMatrixFromJson(file.filePath(), index);
         for (int i = std::max(first, shippedEnd); i < index; ++i) {
-            m_files[i] = {file.completeBaseName(), count == 1, true};
+            m_files[i] = {{file.completeBaseName(), count == 1, true}, folder};
         }
     }
 }

@@ -53,7 +53,12 @@ private:
     void forgetContent(QString const & name);
 
     std::map<int, AutoMatrixTmp> m_templates;
-    std::map<int, Ext::AutoMatrixFile> m_files; ///< of user templates
+    struct UserFile
+    {
+        Ext::AutoMatrixFile file;
+        QString folder; ///< which another user directory leaves behind
+    };
+    std::map<int, UserFile> m_files; ///< of user templates
     AutoMatrixTmp m_current;
     QString m_templateDirectory;
 };

@@ -14,6 +14,10 @@
 //   limitOf()               the level that decided
 //   reportText()            a report as JSON or CSV
 //   writeReport()           the same into a file
+//   ReportModel             a report as a tree for item views
+//   worstOf()               the worst severity among counts
+//   severitySign()          a severity in short, "✖ R"
+//   severityName()          a severity in words, translated
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
@@ -23,6 +27,7 @@
 #include "../analysis/AnalysisReport.h"
 #include "../analysis/Grade.h"
 #include "../analysis/RangeSource.h"
+#include "../analysis/ReportModel.h"
 #include "../analysis/Unified_AnalysisResult.h"
 #include "../support/Result.h"
 #include "UIAPICommonExport.h"

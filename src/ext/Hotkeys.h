@@ -1,7 +1,9 @@
 #pragma once
 
-// Hot keys: what KVHotKey holds, and the user's file.
+// Hot keys: those of a dialog, what KVHotKey holds, and the user's file.
 //
+//   attachHotkeys()         gives a dialog or page hot keys
+//   HotkeyAttachment        its hot keys: which repeat, when they are off, what was pressed
 //   hotkeyFile              the path of the user's file
 //   hotkeyBindings()        the bindings held, with the keys in words
 //   defaultHotkeyBindings() the bindings before any file is loaded
@@ -18,6 +20,7 @@
 // exportHotkeys() writes, KVHotKey::uploadHotkeyModel() loads again and lastHotkeyLoad() has the result. To
 // change a key, change a copy of hotkeyBindings(), ask checkHotkeyBindings(), saveHotkeys() and load again.
 // For a hint in the status bar, call pendingHotkey() and hotkeyContinuations() after each
-// KVHotKey::getFunctionCode().
+// HotkeyAttachment::keySeen(), or each KVHotKey::getFunctionCode() of one's own.
 
+#include "../hotkey/HotkeyAttachment.h"
 #include "../hotkey/HotkeyTools.h"

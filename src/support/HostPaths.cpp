@@ -1,5 +1,7 @@
 #include "support/HostPaths.h"
 
+#include "support/UserDirectory.h"
+
 #include <kvcam/HostPaths.h>
 
 #include <QDir>
@@ -13,7 +15,8 @@ namespace {
 QString base()
 {
     std::string const root = Common::getPath();
-    return root.empty() ? QDir::currentPath() : QString::fromStdString(root);
+    QString const path = Ext::userFile(root.empty() ? QStringLiteral(".") : QString::fromStdString(root));
+    return root.empty() && !QDir::isAbsolutePath(path) ? QDir::currentPath() : path;
 }
 
 } // namespace

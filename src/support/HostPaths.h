@@ -6,8 +6,8 @@
 namespace KVCAM::UIAPI::HostPaths {
 
 /// The configuration directory with a "/" at its end: the host's root (or the process's current directory
-/// when the root is empty) + "/" + configuration folder + "/". Asks the host on every call; host exceptions
-/// propagate.
+/// when the root is empty; an empty or relative root is in the user directory if one is set) + "/" +
+/// configuration folder + "/". Asks the host on every call; host exceptions propagate.
 QString configurationDirectory();
 
 /// The directory of the analysis ranges without a "/" at its end, composed in the same way: root + "/" +

@@ -11,15 +11,24 @@
 namespace KVCAM::UIAPI {
 namespace {
 
-// Copies one field of a view's record out; an unknown view is logged and leaves `out` untouched.
+// The record of a view, or null; an unknown view is logged.
+Step_Config * recordOf(ViewRegistry & views, void const * view, char const * operation,
+                       int line = UIAPI_CALLER_LINE)
+{
+    Step_Config * const record = views.find(view);
+    if (record == nullptr) {
+        Log::operationError(operation, {}, line);
+    }
+    return record;
+}
+
+// Copies one field of a view's record out; an unknown view leaves `out` untouched.
 template <class Field>
-void copyOut(ViewRegistry const & views, void const * view, Field Step_Config::*field, Field & out,
+void copyOut(ViewRegistry & views, void const * view, Field Step_Config::*field, Field & out,
              char const * operation, int line = UIAPI_CALLER_LINE)
 {
-    if (Step_Config const * record = views.find(view)) {
+    if (Step_Config const * record = recordOf(views, view, operation, line)) {
         out = record->*field;
-    } else {
-        Log::operationError(operation, {}, line);
     }
 }
 
@@ -57,10 +66,8 @@ bool UIAPICommonPara::insertStepConfig(Step_Config const & config)
 void UIAPICommonPara::getStepConfig(void const * view, Step_Config & out) const
 {
     guardedPara([&] {
-        if (Step_Config const * record = d->views.find(view)) {
+        if (Step_Config const * record = recordOf(d->views, view, "getStepConfig")) {
             out = *record;
-        } else {
-            Log::operationError("getStepConfig");
         }
     });
 }
@@ -68,25 +75,19 @@ void UIAPICommonPara::getStepConfig(void const * view, Step_Config & out) const
 int UIAPICommonPara::getUnit(void const * view) const
 {
     return guardedPara([&]() -> int {
-        if (Step_Config const * record = d->views.find(view)) {
-            return record->show_param.unit;
-        }
-        Log::operationError("getUnit");
-        return -1;
+        Step_Config const * const record = recordOf(d->views, view, "getUnit");
+        return record != nullptr ? record->show_param.unit : -1;
     });
 }
 
 void UIAPICommonPara::setUnit(void const * view, int unit)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setUnit");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setUnit")) {
+            show_param changed = record->show_param;
+            changed.unit = unit;
+            storeShowPara(*record, changed);
         }
-        show_param changed = record->show_param;
-        changed.unit = unit;
-        storeShowPara(*record, changed);
     });
 }
 
@@ -99,12 +100,9 @@ void UIAPICommonPara::getShowPara(void const * view, KVCAM::API::show_param & ou
 void UIAPICommonPara::setShowPara(void const * view, KVCAM::API::show_param const & value)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setSelection");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setSelection")) {
+            storeShowPara(*record, value);
         }
-        storeShowPara(*record, value);
     });
 }
 
@@ -116,14 +114,11 @@ void UIAPICommonPara::getSelection(void const * view, Selection & out) const
 void UIAPICommonPara::setSelection(void const * view, Selection const & value)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setSelection");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setSelection")) {
+            record->selection = value;
+            EngineBridge::sendSelectionToAPI(record->selection);
+            notifyOfView(view, Ext::ViewAspect::Selection);
         }
-        record->selection = value;
-        EngineBridge::sendSelectionToAPI(record->selection);
-        notifyOfView(view, Ext::ViewAspect::Selection);
     });
 }
 
@@ -135,13 +130,10 @@ void UIAPICommonPara::getSelectInfo(void const * view, KVCAM::API::select_info &
 void UIAPICommonPara::setSelectInfo(void const * view, KVCAM::API::select_info const & value)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setSelection");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setSelection")) {
+            record->select_info = value;
+            EngineBridge::sendSelectInfoToAPI(record->select_info);
         }
-        record->select_info = value;
-        EngineBridge::sendSelectInfoToAPI(record->select_info);
     });
 }
 
@@ -157,14 +149,11 @@ Snap_Control UIAPICommonPara::getSnapControl(void const * view) const
 void UIAPICommonPara::setSnapControl(void const * view, Snap_Control const & value)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setSnapControl");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setSnapControl")) {
+            // The size is kept: only setSnapSize() changes it.
+            record->snap.first = value.first;
+            record->snap.mode = value.mode;
         }
-        // The size is kept: only setSnapSize() changes it.
-        record->snap.first = value.first;
-        record->snap.mode = value.mode;
     });
 }
 
@@ -182,12 +171,9 @@ int UIAPICommonPara::getSnapSize(void const * view) const
 void UIAPICommonPara::setSnapSize(void const * view, int size)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setSnapControl");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setSnapControl")) {
+            record->snap.size = size;
         }
-        record->snap.size = size;
     });
 }
 
@@ -195,22 +181,16 @@ SNAP_TYPE_MODE UIAPICommonPara::getSnapMode(void const * view) const
 {
     return guardedPara([&]() -> SNAP_TYPE_MODE {
         // Same as copying out the whole record, but without copying the edit buffer.
-        if (Step_Config const * record = d->views.find(view)) {
-            return record->snap.mode;
-        }
-        Log::operationError("getStepConfig");
-        return Snap_Control{}.mode;
+        Step_Config const * const record = recordOf(d->views, view, "getStepConfig");
+        return record != nullptr ? record->snap.mode : Snap_Control{}.mode;
     });
 }
 
 Edit_Buffer * UIAPICommonPara::getEditBuffer(void const * view)
 {
     return guardedPara([&]() -> Edit_Buffer * {
-        if (Step_Config * record = d->views.find(view)) {
-            return &record->edit_buffer;
-        }
-        Log::operationError("getEditBuffer");
-        return nullptr;
+        Step_Config * const record = recordOf(d->views, view, "getEditBuffer");
+        return record != nullptr ? &record->edit_buffer : nullptr;
     });
 }
 
@@ -218,23 +198,18 @@ void UIAPICommonPara::setEditBufferFeatureInfo(void const * view,
                                                std::map<std::string, FeatureList> const & features)
 {
     guardedPara([&] {
-        Step_Config * record = d->views.find(view);
-        if (record == nullptr) {
-            Log::operationError("setEditBufferFeatureInfo");
-            return;
+        if (Step_Config * record = recordOf(d->views, view, "setEditBufferFeatureInfo")) {
+            record->edit_buffer.features = features;
         }
-        record->edit_buffer.features = features;
     });
 }
 
 coordinate * UIAPICommonPara::getCoordinate(void const * view)
 {
     return guardedPara([&]() -> coordinate * {
-        if (Step_Config * record = d->views.find(view)) {
-            return &record->coordinate;
-        }
-        Log::operationError("getEditBuffer"); // always logged under this name
-        return nullptr;
+        Step_Config * const record =
+            recordOf(d->views, view, "getEditBuffer"); // always logged under this name
+        return record != nullptr ? &record->coordinate : nullptr;
     });
 }
 
@@ -244,13 +219,11 @@ void UIAPICommonPara::setStepConfigToAPI(void const * view)
         // Look the record up for each push: an engine that calls back may change the next part, or assign to
         // this object, which replaces or removes the record.
         auto const push = [&](auto field, auto send) {
-            Step_Config const * const record = d->views.find(view);
-            if (record == nullptr) {
-                Log::operationError("setStepConfigToAPI");
-                return false;
+            Step_Config const * const record = recordOf(d->views, view, "setStepConfigToAPI");
+            if (record != nullptr) {
+                send(record->*field);
             }
-            send(record->*field);
-            return true;
+            return record != nullptr;
         };
         if (!push(&Step_Config::show_param, EngineBridge::sendShowParaToAPI)) {
             showInformation(nullptr, QStringLiteral("未能找到此graphic的全局参数")); // not translated

@@ -1,9 +1,17 @@
 #include "ConfigTest.h"
 
+#include "config/AutoMatrixFile.h"
+#include "ext/Configuration.h"
+#include "hotkey/HotkeyTools.h"
+#include "hotkey/KVHotKey.h"
+#include "support/UserDirectory.h"
 #include "uiapi/flat/Attributes.h"
 #include "uiapi/flat/AutoMatrix.h"
 #include "uiapi/flat/GlobalConfig.h"
+#include "uiapi/flat/Ranges.h"
+#include "uiapi/flat/SymbolNames.h"
 
+#include <algorithm>
 #include <type_traits>
 
 using namespace KVCAM::UIAPI;
@@ -101,6 +109,88 @@ TEST_F(SingletonStart, TheHostsRootTakesThePlaceOfTheCurrentDirectory)
     getParentAttribute(names);
     EXPECT_EQ(names, std::vector<std::string>{".a"});
     EXPECT_EQ(getCamMateNodes(), std::vector<std::string>{"Input"});
+}
+
+class UserDirectory : public SingletonStart
+{
+protected:
+    void TearDown() override
+    {
+        Ext::setUserDirectory({});
+        SingletonStart::TearDown();
+    }
+    static QByteArray keyboard(char const * key)
+    {
+        return QByteArray(R"([{"func_name":"KP_Measure","Modifier":"Ctrl","key":")") + key + "\"}]";
+    }
+    static std::string firstKey() { return Ext::hotkeyBindings().at(0).keys.toStdString(); }
+    /// What the engine is asked to open for the library's symbols.
+    std::string library()
+    {
+        std::vector<std::string> names;
+        getKvlibSpecialSymbol(names);
+        Calls const calls = engine.take();
+        auto const opened = std::find_if(calls.begin(), calls.end(), [](std::string const & call) {
+            return call.find("open_job") != std::string::npos;
+        });
+        return opened == calls.end() ? std::string() : *opened;
+    }
+};
+
+TEST_F(UserDirectory, TakesThePlaceOfTheCurrentOneForEveryFile)
+{
+    std::string const here = QDir::currentPath().toStdString();
+    struct
+    {
+        std::string root; // of the host
+        char const * configuration;
+    } const rows[] = {{"", "site/config/"}, {"root", "site/root/config/"}, {here + "/own", "own/config/"}};
+    Ext::setUserDirectory("site");
+    int system = 0;
+    for (auto const & row : rows) {
+        engine.root = row.root;
+        writeFile(row.configuration + QString("server.json"),
+                  QString(R"({"OS": %1})").arg(++system).toUtf8());
+        restartQuietly();
+        EXPECT_EQ(getOS(), system) << row.root;
+    }
+    writeFile("site/autoMatrix/mine.json", R"({"template":[{"name":"mine","prefix":{},"suffix":{}}]})");
+    writeFile("site/config/keyboard.json", keyboard("Q"));
+    writeFile("site/ERFconfig/a/one.erf", "");
+    restartQuietly();
+    EXPECT_EQ(getAutomatrixMatrixIndex("mine"), 2);
+    EXPECT_EQ(firstKey(), "Ctrl+Q");
+    std::vector<std::string> names;
+    getERFList("a", names);
+    EXPECT_EQ(names, std::vector<std::string>{"one"});
+    EXPECT_NE(library().find(here + "/site/job"), std::string::npos) << library();
+    EXPECT_FALSE(QDir("config").exists()) << "nothing is looked for in the current directory";
+}
+
+TEST_F(UserDirectory, NamedLaterHoldsForWhatIsReadAndWrittenFromThenOn)
+{
+    writeFile("config/server.json", "{}");
+    writeFile("config/keyboard.json", keyboard("Q"));
+    writeFile("autoMatrix/mine.json", R"({"template":[{"name":"mine","prefix":{},"suffix":{}}]})");
+    writeFile("site/config/keyboard.json", keyboard("W"));
+    restartQuietly();
+    EXPECT_EQ(firstKey(), "Ctrl+Q");
+    EXPECT_TRUE(Ext::autoMatrixFile(2)->isStored);
+
+    Ext::setUserDirectory("site");
+    EXPECT_EQ(firstKey(), "Ctrl+Q") << "until it is read again";
+    KVCAM::KVHotKey::getInstance()->uploadHotkeyModel();
+    EXPECT_EQ(firstKey(), "Ctrl+W");
+    EXPECT_FALSE(Ext::autoMatrixFile(2)->isStored);
+    EXPECT_TRUE(Ext::autoMatrixFile(2)->isAlone);
+    writeFile("site/autoMatrix/mine.json", "another's");
+    EXPECT_FALSE(Ext::autoMatrixFile(2)->isAlone);
+    saveCurrentAutoMatrixTmp(2, "mine", getAutoMatrixTmpMap().at(2));
+    EXPECT_TRUE(Ext::autoMatrixFile(2)->isStored);
+    EXPECT_TRUE(readFile("site/autoMatrix/mine.json").contains("\"mine\""));
+    UIAPIGlobalVar::instance()->setOS(3);
+    EXPECT_TRUE(readFile("config/server.json").contains("\"OS\": 3")) << "where they were read";
+    EXPECT_FALSE(QFile::exists("site/config/server.json"));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "TestFiles.h"
 #include "layers/LayerNames.h"
-#include "window/KeyOwner.h"
 #include "window/KeyPlan.h"
 
 #include <UIAPICommon.h>
@@ -20,52 +19,6 @@ using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
 namespace {
-
-TEST(Keys, BelongToAWidgetThatUsesThem)
-{
-    QLineEdit field;
-    QLineEdit shown;
-    shown.setReadOnly(true);
-    QSpinBox number;
-    QComboBox choice;
-    QComboBox words;
-    words.setEditable(true);
-    QTableWidget row;
-    row.setSelectionMode(QAbstractItemView::SingleSelection);
-    QTableWidget rows;
-    QPushButton button;
-    QLabel label;
-    struct
-    {
-        QWidget * widget;
-        char const * kept;
-        char const * given;
-    } const table[] = {
-        {&field, "S 1 Left Shift+U Shift+Left Ctrl+A Ctrl+C Ctrl+V Ctrl+X Ctrl+Z Ctrl+Left",
-         "Ctrl+N Ctrl+H Ctrl+T"},
-        {&number, "S 1 Up Shift+Up Ctrl+A Ctrl+V", "Ctrl+N Ctrl+R"},
-        {&words, "S Shift+U Ctrl+C", "Ctrl+N"},
-        {&shown, "Ctrl+A Ctrl+C Shift+Right", "S 1 Shift+U Ctrl+V Ctrl+Z"},
-        {&label, "Ctrl+C", "S Shift+U Ctrl+N"},
-        {&choice, "S 1 Up Shift+_", "Shift+U Ctrl+C Ctrl+A"},
-        {&row, "S 1 Up Shift+_ Shift+Up Ctrl+C Ctrl+Up Ctrl+Home Ctrl+Space", "Shift+U Ctrl+A Ctrl+N Ctrl+V"},
-        {&rows, "S 1 Up Ctrl+A Ctrl+C", "Shift+U Ctrl+N"},
-        {&button, "", "S Up Shift+U Ctrl+A Ctrl+C"},
-    };
-    for (auto const & each : table) {
-        for (bool const isKept : {true, false}) {
-            for (QString const & keys :
-                 QString(isKept ? each.kept : each.given).split(' ', Qt::SkipEmptyParts)) {
-                int const pressed = QKeySequence(keys)[0];
-                int const mask = static_cast<int>(Qt::KeyboardModifierMask);
-                EXPECT_EQ(keepsKey(keyTakerOf(*each.widget), pressed & ~mask,
-                                   Qt::KeyboardModifiers(pressed & mask)),
-                          isKept)
-                    << each.widget->metaObject()->className() << ' ' << keys.toStdString();
-            }
-        }
-    }
-}
 
 TEST(UserKeys, AreNeverSavedOverWhatTheLibraryDidNotRead)
 {
@@ -103,16 +56,8 @@ TEST(UserKeys, AreNeverSavedOverWhatTheLibraryDidNotRead)
     EXPECT_NE(saveKeys(bindings, true).problem, "");
 }
 
-TEST(LayerNames, AreOrderedAndFoundAsPeopleExpect)
+TEST(LayerNames, AreFoundAsPeopleExpect)
 {
-    QStringList const ordered = {"", "7", "L2", "l2a", "l002b", "l10", "l10_1", "l10_01x", "m", "m1"};
-    for (int i = 0; i < ordered.size(); ++i) {
-        for (int j = 0; j < ordered.size(); ++j) {
-            int const order = naturalOrder(ordered[i], ordered[j]);
-            EXPECT_EQ(order < 0, i < j) << i << ' ' << j;
-            EXPECT_EQ(order > 0, i > j) << i << ' ' << j;
-        }
-    }
     QStringList const names = {"top", "silk_top", "l2", "l3", "Silk_bot", "bottom"};
     struct
     {

@@ -2,7 +2,6 @@
 #include "board/BoardView.h"
 #include "checks/Freshness.h"
 #include "checks/ResultFiles.h"
-#include "checks/ResultsModel.h"
 #include "checks/ResultsPage.h"
 #include "checks/ResultsTree.h"
 #include "checks/TrackWidthChart.h"
@@ -90,7 +89,10 @@ protected:
     }
 
     ResultsPage & page() const { return window->results(); }
-    ResultsModel * model() const { return static_cast<ResultsModel *>(tree().filter().sourceModel()); }
+    Ext::ReportModel * model() const
+    {
+        return static_cast<Ext::ReportModel *>(tree().filter().sourceModel());
+    }
     ResultsTree & tree() const { return *page().findChild<ResultsTree *>(); }
     QString text(char const * label) const { return page().findChild<QLabel *>(label)->text(); }
     QPushButton & button(char const * name) const { return *page().findChild<QPushButton *>(name); }
@@ -102,8 +104,9 @@ protected:
     QString row(QModelIndex const & index) const
     {
         QStringList cells;
-        for (int column : {ResultsModel::Name, ResultsModel::Severity, ResultsModel::Measured,
-                           ResultsModel::Limit, ResultsModel::Position}) {
+        for (int column : {Ext::ReportModel::NameColumn, Ext::ReportModel::SeverityColumn,
+                           Ext::ReportModel::MeasuredColumn, Ext::ReportModel::LimitColumn,
+                           Ext::ReportModel::PositionColumn}) {
             cells.append(index.siblingAtColumn(column).data().toString());
         }
         return cells.join('|');
@@ -167,7 +170,7 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     open();
     ASSERT_TRUE(page().runChecks());
     ASSERT_TRUE(page().showCheck(signalTable, linesNumber));
-    EXPECT_EQ(header(ResultsModel::Measured), "Measured (mil)");
+    EXPECT_EQ(header(Ext::ReportModel::MeasuredColumn), "Measured (mil)");
     EXPECT_EQ(tracks(),
               (QStringList{"Lines|✖ R|3.94|4 / 5 / 6|", "top|✖ R|3.94||", "1|✖ R|3.94|4|0.197, 0.000",
                            "2|▲ Y|5|5|0.197, 0.039", "3|–|7.87||0.197, 0.079"}));
@@ -180,7 +183,7 @@ TEST_F(Results, AreGradedAgainWhenALevelChangesAndFollowTheUnit)
     EXPECT_TRUE(text("levels hint").startsWith("Not saved")) << text("levels hint").toStdString();
 
     setUnit(window->board().currentView()->handle(), 1);
-    EXPECT_EQ(header(ResultsModel::Measured), "Measured (µm)");
+    EXPECT_EQ(header(Ext::ReportModel::MeasuredColumn), "Measured (µm)");
     EXPECT_EQ(tracks(), (QStringList{"Lines|✖ R|100|101.6 / 127 / 203.2|", "top|✖ R|100||",
                                      "1|✖ R|100|101.6|5.000, 0.000", "2|▲ Y|127|127|5.000, 1.000",
                                      "3|● G|200|203.2|5.000, 2.000"}));
@@ -336,19 +339,20 @@ TEST_F(Results, AreFilteredSortedAndWalkedThrough)
         Qt::SortOrder order;
         char const * rows;
     } const sorts[] = {
-        {ResultsModel::Measured, Qt::DescendingOrder, "top 3 2 1"},
-        {ResultsModel::Severity, Qt::AscendingOrder, "top 3 2 1"},
-        {ResultsModel::Limit, Qt::DescendingOrder, "top 2 1 3"}, // the third has none: last in either order
-        {ResultsModel::Limit, Qt::AscendingOrder, "top 1 2 3"},
-        {ResultsModel::Position, Qt::DescendingOrder, "top 3 2 1"},
-        {ResultsModel::Name, Qt::DescendingOrder, "top 3 2 1"},
+        {Ext::ReportModel::MeasuredColumn, Qt::DescendingOrder, "top 3 2 1"},
+        {Ext::ReportModel::SeverityColumn, Qt::AscendingOrder, "top 3 2 1"},
+        {Ext::ReportModel::LimitColumn, Qt::DescendingOrder,
+         "top 2 1 3"}, // the third has none: last in either order
+        {Ext::ReportModel::LimitColumn, Qt::AscendingOrder, "top 1 2 3"},
+        {Ext::ReportModel::PositionColumn, Qt::DescendingOrder, "top 3 2 1"},
+        {Ext::ReportModel::NameColumn, Qt::DescendingOrder, "top 3 2 1"},
         {-1, Qt::AscendingOrder, "top 1 2 3"},
     };
     for (auto const & sort : sorts) {
         tree().sortByColumn(sort.column, sort.order);
         EXPECT_EQ(lines(), sort.rows) << sort.column << ' ' << sort.order;
     }
-    tree().sortByColumn(ResultsModel::Measured, Qt::DescendingOrder);
+    tree().sortByColumn(Ext::ReportModel::MeasuredColumn, Qt::DescendingOrder);
     tree().setCurrentIndex({});
     walked.clear();
     page().showViolation(1);

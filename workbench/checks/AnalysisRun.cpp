@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <set>
 #include <utility>
 
@@ -234,14 +233,6 @@ std::vector<LayerWidth> AnalysisRun::trackWidths() const
         widths.push_back(found == narrowest.end() ? LayerWidth{layer, {}, {}} : found->second);
     }
     return widths;
-}
-
-int AnalysisRun::rowOf(std::string const & layer) const
-{
-    auto const & layers = m_session.layers();
-    auto const found = std::find_if(layers.begin(), layers.end(),
-                                    [&](Session::Layer const & each) { return each.info.name == layer; });
-    return found == layers.end() ? std::numeric_limits<int>::max() : found->info.row;
 }
 
 bool AnalysisRun::hasLevels() const

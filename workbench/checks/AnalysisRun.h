@@ -64,8 +64,6 @@ public:
     KVCAM::UIAPI::Ext::AnalysisReport const & report() const { return m_report; }
     /// The copper layers measured, by row.
     std::vector<LayerWidth> trackWidths() const;
-    /// The row of a layer in the matrix; a layer that the job does not have comes last.
-    int rowOf(std::string const & layer) const;
 
     /// Whether the library has levels for any of the measured categories.
     bool hasLevels() const;

@@ -51,7 +51,7 @@ void LevelsEditor::setView(QWidget & view)
 void LevelsEditor::setTexts()
 {
     for (std::size_t i = 0; i < allLevels.size(); ++i) {
-        m_fields[i].title->setText(signOf(allLevels[i].severity) + "  " + tr(allLevels[i].title));
+        m_fields[i].title->setText(Ext::severitySign(allLevels[i].severity) + "  " + tr(allLevels[i].title));
     }
 }
 

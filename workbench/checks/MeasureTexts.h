@@ -14,12 +14,7 @@ QString measuredText(void const * view, KVCAM::UIAPI::Ext::Length measured);
 /// "mil" or "µm".
 QString smallUnitName(void const * view);
 
+/// A severity's colour, legible on the background of tables.
 QColor colourOf(KVCAM::UIAPI::Ext::Severity severity);
-/// Icon and letter: "✖ R".
-QString signOf(KVCAM::UIAPI::Ext::Severity severity);
-/// In words, translated.
-QString wordOf(KVCAM::UIAPI::Ext::Severity severity);
-/// The worst severity that has an entry.
-KVCAM::UIAPI::Ext::Severity worstOf(KVCAM::UIAPI::Ext::SeverityCounts const & counts);
 
 } // namespace Workbench

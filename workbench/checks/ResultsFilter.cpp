@@ -1,20 +1,42 @@
 #include "checks/ResultsFilter.h"
 
-#include "checks/MeasureTexts.h"
+#include "ui/CategoryNames.h"
+#include "ui/Legible.h"
+
+#include <QBrush>
+#include <QPointF>
 
 #include <algorithm>
-#include <cmath>
 #include <functional>
-#include <limits>
-#include <numeric>
 
 namespace Workbench {
 
 using namespace KVCAM::UIAPI;
 
-ResultsFilter::ResultsFilter(ResultsModel & model, QObject * parent)
+namespace {
+
+bool isCheckName(QModelIndex const & index)
+{
+    return index.column() == Ext::ReportModel::NameColumn && !index.parent().isValid();
+}
+
+QString checkName(QVariant const & english)
+{
+    return shownName(english.toString().toStdString());
+}
+
+QVariant inReadableColour(QVariant const & shown, int role)
+{
+    return role == Qt::ForegroundRole && shown.isValid() ? QBrush(legibleText(shown.value<QBrush>().color()))
+                                                         : shown;
+}
+
+} // namespace
+
+ResultsFilter::ResultsFilter(Ext::ReportModel & model, QObject * parent)
     : QSortFilterProxyModel(parent), m_model(model)
 {
+    setSortRole(Ext::ReportModel::SortRole);
     m_shown.fill(true);
     setSourceModel(&model);
 }
@@ -103,60 +125,35 @@ QModelIndex ResultsFilter::neighbour(QModelIndex const & from, int way, bool col
     return last;
 }
 
-// What a column is sorted by; not a number where the row has nothing there.
-std::pair<double, double> ResultsFilter::key(QModelIndex const & source) const
-{
-    constexpr double nothing = std::numeric_limits<double>::quiet_NaN();
-    ResultsModel::Row const row = m_model.at(source);
-    Ext::SeverityCounts const counts = m_model.countsAt(source);
-    auto const count = [&counts](Ext::Severity severity) {
-        return static_cast<double>(counts[static_cast<std::size_t>(severity)]);
-    };
-    switch (source.column()) {
-    case ResultsModel::Severity: {
-        bool const isEmpty = std::all_of(counts.begin(), counts.end(), [](std::size_t n) { return n == 0; });
-        return {isEmpty ? nothing : static_cast<double>(worstOf(counts)), 0};
-    }
-    case ResultsModel::Count:
-        return {std::accumulate(counts.begin(), counts.end(), 0.0), 0};
-    case ResultsModel::Red:
-        return {count(Ext::Severity::Red), 0};
-    case ResultsModel::Yellow:
-        return {count(Ext::Severity::Yellow), 0};
-    case ResultsModel::Green:
-        return {count(Ext::Severity::Green), 0};
-    case ResultsModel::Measured: {
-        auto const measured = m_model.measuredAt(source);
-        return {measured ? static_cast<double>(measured->nanometres()) : nothing, 0};
-    }
-    case ResultsModel::Limit:
-        if (row.entry != nullptr) {
-            return {Ext::limitOf(*row.category, *row.entry).value_or(nothing), 0};
-        }
-        return {row.layer == nullptr && row.category->levels ? row.category->levels->redLv : nothing, 0};
-    case ResultsModel::Position:
-        if (row.entry != nullptr && row.entry->position) {
-            return {row.entry->position->x, row.entry->position->y};
-        }
-        return {nothing, 0};
-    default:
-        return {source.row(), 0};
-    }
-}
-
 // Rows that have nothing in the column come last in either order.
 bool ResultsFilter::lessThan(QModelIndex const & left, QModelIndex const & right) const
 {
-    if (left.column() == ResultsModel::Name && !left.parent().isValid()) {
-        return left.data().toString().localeAwareCompare(right.data().toString()) < 0;
+    QVariant const a = left.data(Ext::ReportModel::SortRole);
+    QVariant const b = right.data(Ext::ReportModel::SortRole);
+    if (!a.isValid() || !b.isValid()) {
+        bool const isBehind = sortOrder() == Qt::DescendingOrder ? !a.isValid() : !b.isValid();
+        return a.isValid() != b.isValid() && isBehind;
     }
-    auto const a = key(left);
-    auto const b = key(right);
-    if (std::isnan(a.first) || std::isnan(b.first)) {
-        bool const isBehind = sortOrder() == Qt::DescendingOrder ? std::isnan(a.first) : std::isnan(b.first);
-        return std::isnan(a.first) != std::isnan(b.first) && isBehind;
+    if (isCheckName(left)) {
+        return checkName(a).localeAwareCompare(checkName(b)) < 0;
     }
-    return a < b;
+    if (left.column() == Ext::ReportModel::PositionColumn && a == b) {
+        return left.data(Ext::ReportModel::PositionRole).toPointF().y() <
+               right.data(Ext::ReportModel::PositionRole).toPointF().y();
+    }
+    return QSortFilterProxyModel::lessThan(left, right);
+}
+
+QVariant ResultsFilter::data(QModelIndex const & index, int role) const
+{
+    QVariant const shown = QSortFilterProxyModel::data(index, role);
+    bool const isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
+    return isText && isCheckName(index) ? checkName(shown) : inReadableColour(shown, role);
+}
+
+QVariant ResultsFilter::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    return inReadableColour(QSortFilterProxyModel::headerData(section, orientation, role), role);
 }
 
 } // namespace Workbench

@@ -3,7 +3,6 @@
 #include "board/BoardView.h"
 #include "checks/LevelsBox.h"
 #include "checks/MeasureTexts.h"
-#include "checks/ResultsModel.h"
 #include "checks/ResultsTree.h"
 #include "checks/SeverityBar.h"
 #include "checks/TrackWidthChart.h"
@@ -32,11 +31,12 @@ using namespace KVCAM::UIAPI;
 
 ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * parent)
     : QWidget(parent)
+    , m_session(session)
     , m_run(std::make_shared<AnalysisRun>(session))
     , m_view(&view)
-    , m_model(new ResultsModel(*m_run, this))
+    , m_model(new Ext::ReportModel(this))
 {
-    m_model->setView(view.handle());
+    m_model->setUnit(Ext::unitOf(view.handle()));
     auto * splitter = new QSplitter(Qt::Horizontal);
     splitter->setObjectName("results and levels");
     splitter->setChildrenCollapsible(false);
@@ -63,7 +63,7 @@ void ResultsPage::setView(BoardView & view)
 {
     m_view = &view;
     m_levels->setView(view);
-    m_model->setView(view.handle());
+    m_model->setUnit(Ext::unitOf(view.handle()));
     m_chart->setView(view.handle());
     setTexts();
     m_tree->fitColumns();
@@ -102,12 +102,23 @@ bool ResultsPage::measure(std::string const & step)
     bool const isNew = m_outcome == AnalysisRun::Outcome::Done;
     if (isNew) {
         emit marksOutdated(true);
-        m_model->reload();
+        showReport();
         m_tree->showCategory(table, number);
         m_tree->fitColumns();
     }
     refresh();
     return isNew;
+}
+
+void ResultsPage::showReport()
+{
+    std::vector<std::string> layers;
+    layers.reserve(m_session.layers().size());
+    for (Session::Layer const & layer : m_session.layers()) {
+        layers.push_back(layer.info.name);
+    }
+    m_model->setLayerOrder(layers);
+    m_model->setReport({m_run, &m_run->report()});
 }
 
 bool ResultsPage::showCheck(std::string const & table, int number)
@@ -221,7 +232,7 @@ void ResultsPage::showNotChecked()
 
 void ResultsPage::showLevels()
 {
-    ResultsModel::Row const row = m_tree->current();
+    Ext::ReportModel::Row const row = m_tree->current();
     m_boardButton->setEnabled(row.entry != nullptr);
     m_levels->showCategory(row.category);
 }
@@ -229,7 +240,7 @@ void ResultsPage::showLevels()
 void ResultsPage::showSelected()
 {
     showLevels();
-    ResultsModel::Row const row = m_tree->current();
+    Ext::ReportModel::Row const row = m_tree->current();
     if (row.entry == nullptr || !row.entry->position) {
         return;
     }
@@ -242,7 +253,7 @@ void ResultsPage::showSelected()
 
 QString ResultsPage::selectedText() const
 {
-    ResultsModel::Row const row = m_tree->current();
+    Ext::ReportModel::Row const row = m_tree->current();
     if (row.category == nullptr) {
         return {};
     }

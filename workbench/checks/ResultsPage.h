@@ -20,7 +20,6 @@ namespace Workbench {
 
 class BoardView;
 class LevelsBox;
-class ResultsModel;
 class ResultsTree;
 class SeverityBar;
 class TrackWidthChart;
@@ -75,6 +74,7 @@ private:
     bool mayExport(QString const & title);
     void setTexts();
     void refresh();
+    void showReport();
     void showLevels();
     void showBanner();
     void showWritten();
@@ -84,9 +84,10 @@ private:
     void exportFile(QString const & title, QString const & name, QString const & filter,
                     std::function<KVCAM::UIAPI::Ext::Result(QString const &)> const & write);
 
+    Session const & m_session;
     std::shared_ptr<AnalysisRun> m_run;
     BoardView * m_view;
-    ResultsModel * m_model;
+    KVCAM::UIAPI::Ext::ReportModel * m_model;
     ResultsTree * m_tree = nullptr;
     QStackedWidget * m_stack = nullptr; ///< the tree, or a text that says why it is empty
     QLabel * m_empty = nullptr;

@@ -1,6 +1,5 @@
 #include "board/BoardView.h"
 #include "checks/LevelsBox.h"
-#include "checks/ResultsModel.h"
 #include "checks/ResultsPage.h"
 #include "checks/ResultsTree.h"
 #include "checks/SeverityBar.h"

@@ -14,7 +14,7 @@ constexpr int columnGap = 8; // pixels; a column on the right may be aligned to 
 
 } // namespace
 
-ResultsTree::ResultsTree(ResultsModel & model, QWidget * parent)
+ResultsTree::ResultsTree(Ext::ReportModel & model, QWidget * parent)
     : QTreeView(parent), m_model(model), m_filter(model)
 {
     setUniformRowHeights(true); // otherwise each of 100,000 rows would be measured
@@ -74,7 +74,7 @@ bool ResultsTree::showViolation(int way)
 
 void ResultsTree::fitColumns()
 {
-    for (int column = 0; column + 1 < ResultsModel::ColumnCount; ++column) {
+    for (int column = 0; column + 1 < Ext::ReportModel::ColumnCount; ++column) {
         resizeColumnToContents(column);
         setColumnWidth(column, columnWidth(column) + columnGap);
     }

@@ -14,11 +14,11 @@ class ResultsTree : public QTreeView
 
 public:
     /// The model is not owned and outlives the tree.
-    explicit ResultsTree(ResultsModel & model, QWidget * parent = nullptr);
+    explicit ResultsTree(KVCAM::UIAPI::Ext::ReportModel & model, QWidget * parent = nullptr);
 
     ResultsFilter & filter() { return m_filter; }
     /// The current row; empty without one.
-    ResultsModel::Row current() const { return m_filter.at(currentIndex()); }
+    KVCAM::UIAPI::Ext::ReportModel::Row current() const { return m_filter.at(currentIndex()); }
     /// Makes a row current, given by the report's category; the first one without it or when it is hidden.
     void showCategory(std::string const & table, int number);
     /// Makes the worst measurement of a check current, or the check if it has none, and shows what is hidden.
@@ -37,7 +37,7 @@ protected:
     void currentChanged(QModelIndex const & current, QModelIndex const & previous) override;
 
 private:
-    ResultsModel & m_model;
+    KVCAM::UIAPI::Ext::ReportModel & m_model;
     ResultsFilter m_filter;
 };
 

@@ -1,6 +1,5 @@
 #include "checks/SeverityBar.h"
 
-#include "checks/MeasureTexts.h"
 #include "ui/LanguageChange.h"
 
 #include <QHBoxLayout>
@@ -50,7 +49,9 @@ void SeverityBar::setTexts()
 {
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         auto const severity = static_cast<Ext::Severity>(i);
-        m_buttons[i]->setText(QString("%1 %2: %3").arg(signOf(severity), wordOf(severity)).arg(m_counts[i]));
+        m_buttons[i]->setText(QString("%1 %2: %3")
+                                  .arg(Ext::severitySign(severity), Ext::severityName(severity))
+                                  .arg(m_counts[i]));
         m_buttons[i]->setToolTip(tr("Shows or hides the measurements of this colour"));
     }
 }

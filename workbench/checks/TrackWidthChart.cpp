@@ -68,7 +68,7 @@ QString TrackWidthChart::valueText(LayerWidth const & width) const
         return tr("no tracks");
     }
     QString const value = measuredText(m_view, *width.measured);
-    return width.severity == Ext::Severity::None ? value : value + "  " + signOf(width.severity);
+    return width.severity == Ext::Severity::None ? value : value + "  " + Ext::severitySign(width.severity);
 }
 
 QString TrackWidthChart::barText(std::size_t bar) const
@@ -82,7 +82,8 @@ QString TrackWidthChart::barText(std::size_t bar) const
         return layer + ": " + tr("no tracks");
     }
     return QString("%1: %2 %3 (%4)")
-        .arg(layer, measuredText(m_view, *width.measured), smallUnitName(m_view), wordOf(width.severity));
+        .arg(layer, measuredText(m_view, *width.measured), smallUnitName(m_view),
+             Ext::severityName(width.severity));
 }
 
 QSize TrackWidthChart::sizeHint() const
@@ -201,10 +202,10 @@ void TrackWidthChart::paintLevels(QPainter & painter, QRectF const & plot) const
         }
         painter.setPen(QPen(colourOf(level.severity), 1.5, Qt::DashLine));
         painter.drawLine(QPointF(x, plot.top() - gap / 2.0), QPointF(x, plot.bottom()));
-        double const half = fontMetrics().horizontalAdvance(signOf(level.severity)) / 2.0;
+        double const half = fontMetrics().horizontalAdvance(Ext::severitySign(level.severity)) / 2.0;
         double const middle = std::max(x, free + half);
         painter.drawText(QRectF(middle - half, 0, 2 * half + 1, plot.top() - gap / 2.0), Qt::AlignCenter,
-                         signOf(level.severity));
+                         Ext::severitySign(level.severity));
         free = middle + half + gap;
     }
 }

@@ -8,32 +8,6 @@ namespace Workbench {
 
 namespace {
 
-bool isDigit(QChar c)
-{
-    return c >= '0' && c <= '9';
-}
-
-// The end of the digits that begin at a place.
-int digitsEnd(QString const & text, int at)
-{
-    while (at < text.size() && isDigit(text[at])) {
-        ++at;
-    }
-    return at;
-}
-
-// Numbers of any length: without leading zeros, the longer one is larger.
-int numberOrder(QStringRef a, QStringRef b)
-{
-    while (a.size() > 1 && a.startsWith('0')) {
-        a = a.mid(1);
-    }
-    while (b.size() > 1 && b.startsWith('0')) {
-        b = b.mid(1);
-    }
-    return a.size() != b.size() ? a.size() - b.size() : a.compare(b);
-}
-
 // "?" and "*" only; brackets are letters of names.
 QString pattern(QString const & word)
 {
@@ -54,28 +28,6 @@ bool isAskedFor(QString const & name, QString const & filter)
            QRegularExpression(patterns.join('|'), QRegularExpression::CaseInsensitiveOption)
                .match(name)
                .hasMatch();
-}
-
-int naturalOrder(QString const & a, QString const & b)
-{
-    int i = 0;
-    int j = 0;
-    while (i < a.size() && j < b.size()) {
-        int order = 0;
-        if (isDigit(a[i]) && isDigit(b[j])) {
-            int const endA = digitsEnd(a, i);
-            int const endB = digitsEnd(b, j);
-            order = numberOrder(a.midRef(i, endA - i), b.midRef(j, endB - j));
-            i = endA;
-            j = endB;
-        } else {
-            order = int{a[i++].toCaseFolded().unicode()} - int{b[j++].toCaseFolded().unicode()};
-        }
-        if (order != 0) {
-            return order;
-        }
-    }
-    return (a.size() - i) - (b.size() - j);
 }
 
 int foundByTyping(QStringList const & names, int current, QString const & typed)

@@ -9,10 +9,6 @@ namespace Workbench {
 /// any case, with "*" for any text and "?" for any letter. An empty filter asks for every name.
 bool isAskedFor(QString const & name, QString const & filter);
 
-/// The order in which people put texts: digits count as numbers ("l2" before "l10"), case does not count.
-/// Below 0, 0 or above 0.
-int naturalOrder(QString const & a, QString const & b);
-
 /// The index of the name that typing leads to: the next one that begins with what was typed, otherwise the
 /// next one that contains it; in any case, and after the last one comes the first. The first letter moves
 /// on from `current` (-1: none), as does the same letter typed again; further ones may stay there. -1 if

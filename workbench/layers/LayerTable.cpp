@@ -19,16 +19,19 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 #include <utility>
 
 namespace Workbench {
 
+using namespace KVCAM::UIAPI;
+
 namespace {
 
-constexpr int nameColumn = 1;
-constexpr int contextColumn = 2;
-constexpr int countColumn = 5;
+constexpr int nameColumn = Ext::LayerModel::NameColumn;
+constexpr int contextColumn = Ext::LayerModel::ContextColumn;
+constexpr int countColumn = Ext::LayerModel::ColumnCount; // behind those of the model
 
 bool isCopper(KVCAM::API::layer_info const & layer)
 {
@@ -62,8 +65,11 @@ LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 
 void LayerTable::setTitles()
 {
-    setHorizontalHeaderLabels(
-        {tr("Row"), tr("Name"), tr("Context"), tr("Type"), tr("Polarity"), tr("Features")});
+    QStringList titles;
+    for (int column = 0; column < countColumn; ++column) {
+        titles.append(m_model.headerData(column, Qt::Horizontal).toString());
+    }
+    setHorizontalHeaderLabels(titles << tr("Features"));
     horizontalHeaderItem(0)->setToolTip(tr("Ticked layers are drawn beside the selected one (Space)"));
 }
 
@@ -78,11 +84,13 @@ void LayerTable::show(Session const & session, std::size_t step)
             hidden.push_back(row);
         }
     }
-    m_layers.clear();
+    std::vector<KVCAM::API::layer_info> layers;
+    layers.reserve(session.layers().size());
     for (Session::Layer const & layer : session.layers()) {
-        m_layers.push_back(layer.info);
+        layers.push_back(layer.info);
     }
-    LayerColours::shown().setLayers(m_layers);
+    LayerColours::shown().setLayers(layers);
+    m_model.setLayers(std::move(layers));
     setRowCount(0);
     for (Session::Layer const & layer : session.layers()) {
         auto const row = static_cast<std::size_t>(rowCount());
@@ -101,13 +109,12 @@ void LayerTable::fillRow(Session::Layer const & layer, std::size_t step, bool is
 {
     bool const isCounted = step < layer.features.size();
     bool const hasFeatures = isCounted && layer.features[step].has_value();
-    addRow(*this,
-           {QString::number(layer.info.row), QString::fromStdString(layer.info.name),
-            QString::fromStdString(layer.info.context), QString::fromStdString(layer.info.type),
-            QString::fromStdString(layer.info.polarity),
-            hasFeatures ? QString::number(*layer.features[step]) : "?"},
-           {countColumn});
-    int const row = rowCount() - 1;
+    int const row = rowCount();
+    QStringList texts;
+    for (int column = 0; column < countColumn; ++column) {
+        texts.append(m_model.index(row, column).data().toString());
+    }
+    addRow(*this, texts << (hasFeatures ? QString::number(*layer.features[step]) : "?"), {countColumn});
     item(row, 0)->setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
     QString const error = isCounted ? layer.errors[step] : tr("not counted, since reading was stopped");
     QTableWidgetItem & cell = *item(row, countColumn);
@@ -130,10 +137,20 @@ void LayerTable::showColours()
 {
     QSignalBlocker const blocker(this);
     for (int row = 0; row < rowCount(); ++row) {
-        item(row, 0)->setData(Qt::DecorationRole,
-                              LayerColours::shown().of(m_layers[static_cast<std::size_t>(row)]));
+        item(row, 0)->setData(Qt::DecorationRole, LayerColours::shown().of(infoOf(row)));
     }
     viewport()->update();
+}
+
+// What a row is sorted by: a number or a text. A count that is not known comes behind all others.
+QVariant LayerTable::sortKey(int row, int column) const
+{
+    if (column != countColumn) {
+        return m_model.index(row, column).data(Ext::LayerModel::SortRole);
+    }
+    bool isKnown = false;
+    qlonglong const count = item(row, countColumn)->text().toLongLong(&isKnown);
+    return isKnown ? count : std::numeric_limits<qlonglong>::max();
 }
 
 // Rows are moved in the header of rows only, so that they keep their numbers. Equal texts stay in matrix
@@ -145,8 +162,10 @@ void LayerTable::applyOrder()
     std::vector<int> rows(static_cast<std::size_t>(rowCount()));
     std::iota(rows.begin(), rows.end(), 0);
     std::stable_sort(rows.begin(), rows.end(), [&](int a, int b) {
-        int const order = naturalOrder(item(a, column)->text(), item(b, column)->text());
-        return isDescending ? order > 0 : order < 0;
+        QVariant const first = sortKey(isDescending ? b : a, column);
+        QVariant const second = sortKey(isDescending ? a : b, column);
+        return first.type() == QVariant::String ? first.toString() < second.toString()
+                                                : first.toLongLong() < second.toLongLong();
     });
     for (int place = 0; place < rowCount(); ++place) {
         int const row = rows[static_cast<std::size_t>(place)];
@@ -234,12 +253,12 @@ void LayerTable::showOnly(int row)
 void LayerTable::showCopper()
 {
     std::vector<std::size_t> copper;
-    for (std::size_t row = 0; row < m_layers.size(); ++row) {
-        if (isCopper(m_layers[row])) {
-            copper.push_back(row);
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isCopper(infoOf(row))) {
+            copper.push_back(static_cast<std::size_t>(row));
         }
     }
-    bool const isOnCopper = currentRow() >= 0 && isCopper(m_layers[static_cast<std::size_t>(currentRow())]);
+    bool const isOnCopper = currentRow() >= 0 && isCopper(infoOf(currentRow()));
     if (!copper.empty() && !isOnCopper) {
         setCurrentCell(static_cast<int>(copper.front()), nameColumn);
     }
@@ -254,14 +273,14 @@ void LayerTable::toggleTick(int row)
 
 void LayerTable::setColour(int row, QColor const & colour)
 {
-    LayerColours::shown().choose(m_layers[static_cast<std::size_t>(row)].name, colour);
+    LayerColours::shown().choose(infoOf(row).name, colour);
     showColours();
     emit coloursChanged();
 }
 
 void LayerTable::askForColour(int row)
 {
-    auto * dialog = new QColorDialog(LayerColours::shown().of(m_layers[static_cast<std::size_t>(row)]), this);
+    auto * dialog = new QColorDialog(LayerColours::shown().of(infoOf(row)), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(tr("Colour of the layer %1").arg(layerName(row)));
     connect(dialog, &QColorDialog::colorSelected, this,
@@ -287,7 +306,7 @@ QMenu * LayerTable::makeMenu(int row)
     menu->addSeparator();
     menu->addAction(tr("Colour..."), this, [this, row] { askForColour(row); });
     QAction * own = menu->addAction(tr("Its own colour"), this, [this, row] { setColour(row, {}); });
-    own->setEnabled(LayerColours::shown().isChosen(m_layers[static_cast<std::size_t>(row)].name));
+    own->setEnabled(LayerColours::shown().isChosen(infoOf(row).name));
     return menu;
 }
 

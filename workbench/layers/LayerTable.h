@@ -2,6 +2,8 @@
 
 #include "job/Session.h"
 
+#include <UIAPICommonExt.h>
+
 #include <QElapsedTimer>
 #include <QTableWidget>
 
@@ -70,12 +72,17 @@ private:
     void fillRow(Session::Layer const & layer, std::size_t step, bool isTicked);
     void applyMatches();
     void applyOrder();
+    QVariant sortKey(int row, int column) const;
+    KVCAM::API::layer_info const & infoOf(int row) const
+    {
+        return m_model.layers().at(static_cast<std::size_t>(row));
+    }
     void setTicks(std::vector<std::size_t> const & rows);
     void showColours();
 
     std::vector<bool> m_matches; ///< empty: every layer matches
     bool m_hidesOthers = false;
-    std::vector<KVCAM::API::layer_info> m_layers;
+    KVCAM::UIAPI::Ext::LayerModel m_model;
     QString m_typed; ///< lately, to search for
     QElapsedTimer m_sinceTyped;
 };

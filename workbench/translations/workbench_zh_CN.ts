@@ -24,22 +24,6 @@
         <translation>报告的文件名须以 .json 或 .csv 结尾，“%1”不是。</translation>
     </message>
     <message>
-        <source>red</source>
-        <translation>红</translation>
-    </message>
-    <message>
-        <source>yellow</source>
-        <translation>黄</translation>
-    </message>
-    <message>
-        <source>green</source>
-        <translation>绿</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
         <source>Open the folder of a job</source>
         <translation>打开任务文件夹</translation>
     </message>
@@ -1024,26 +1008,6 @@ to %2</source>
 <context>
     <name>Workbench::LayerTable</name>
     <message>
-        <source>Row</source>
-        <translation>行</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Context</source>
-        <translation>类别</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Polarity</source>
-        <translation>极性</translation>
-    </message>
-    <message>
         <source>Features</source>
         <translation>图形数</translation>
     </message>
@@ -1789,53 +1753,6 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
     <message>
         <source>&amp;Green</source>
         <translation>绿(&amp;G)</translation>
-    </message>
-</context>
-<context>
-    <name>Workbench::ResultsModel</name>
-    <message>
-        <source>not known</source>
-        <translation>未知</translation>
-    </message>
-    <message>
-        <source>nothing found</source>
-        <translation>未发现</translation>
-    </message>
-    <message>
-        <source>For a check or layer, the worst</source>
-        <translation>检查项或层的最差等级</translation>
-    </message>
-    <message>
-        <source>Measured in whole micrometres; for a check or layer, the smallest</source>
-        <translation>以整微米测量；检查项或层显示最小值</translation>
-    </message>
-    <message>
-        <source>The level that gave the colour; for a check, its levels red / yellow / green</source>
-        <translation>决定颜色的级别；检查项显示红 / 黄 / 绿级别</translation>
-    </message>
-    <message>
-        <source>Check, layer, measurement</source>
-        <translation>检查项、层、测量</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>颜色</translation>
-    </message>
-    <message>
-        <source>Count</source>
-        <translation>数量</translation>
-    </message>
-    <message>
-        <source>Measured (%1)</source>
-        <translation>测量值 (%1)</translation>
-    </message>
-    <message>
-        <source>Limit (%1)</source>
-        <translation>限值 (%1)</translation>
-    </message>
-    <message>
-        <source>Position (%1)</source>
-        <translation>位置 (%1)</translation>
     </message>
 </context>
 <context>

@@ -3,15 +3,12 @@
 #include "board/BoardView.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
-#include "window/KeyOwner.h"
 #include "window/Measuring.h"
-
-#include <QApplication>
-#include <QKeyEvent>
-#include <QPointer>
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
+#include <vector>
 
 namespace Workbench {
 
@@ -149,11 +146,30 @@ HotkeyCommands::HotkeyCommands(BoardPage & board, QObject * parent)
 {
     connect(m_measuring.get(), &Measuring::status, this, &HotkeyCommands::status);
     connect(&board, &BoardPage::selectionChanged, this, [this] { emit status(selectionText()); });
+    std::vector<FuncCode> repeating;
+    for (Command const & each : Command::table) {
+        if (each.repeats) {
+            repeating.push_back(each.code);
+        }
+    }
+    m_keys = Ext::attachHotkeys(*board.window());
+    m_keys->setRepeating(std::move(repeating));
+    m_keys->setCondition([&board] { return board.isVisible(); });
+    connect(m_keys, &Ext::HotkeyAttachment::triggered, this, [this](FuncCode code) {
+        QPointer<HotkeyCommands> const alive(this); // the window may be deleted while a command asks
+        QString const done = run(code);
+        if (alive) {
+            m_done = done;
+        }
+    });
+    connect(m_keys, &Ext::HotkeyAttachment::keySeen, this, &HotkeyCommands::showKeySeen);
     board.currentView()->setFocus();
-    qApp->installEventFilter(this);
 }
 
-HotkeyCommands::~HotkeyCommands() = default;
+HotkeyCommands::~HotkeyCommands()
+{
+    delete m_keys;
+}
 
 HotkeyCommands::Command const & HotkeyCommands::command(FuncCode code)
 {
@@ -189,55 +205,11 @@ void HotkeyCommands::perform(FuncCode code)
     }
 }
 
-// A key ignored by its receiver is sent to the parents as well; only the first receiver counts.
-bool HotkeyCommands::isOurs(QObject * receiver) const
+void HotkeyCommands::showKeySeen()
 {
-    QWidget const * const window = m_board.window();
-    QWidget const * const first = window->focusWidget() != nullptr ? window->focusWidget() : window;
-    return receiver == first && m_board.isVisible();
-}
-
-bool HotkeyCommands::eventFilter(QObject * receiver, QEvent * event)
-{
-    if (event->type() != QEvent::KeyPress || !isOurs(receiver)) {
-        return false;
-    }
-    auto & pressed = static_cast<QKeyEvent &>(*event);
-    KeyTaker const taker = keyTakerOf(static_cast<QWidget &>(*receiver));
-    if (keepsKey(taker, pressed.key(), pressed.modifiers())) {
-        KVHotKey::getInstance()->buffClear(); // what is typed elsewhere continues no sequence
-        return false;
-    }
-    return press(pressed);
-}
-
-bool HotkeyCommands::press(QKeyEvent & event)
-{
-    if (event.isAutoRepeat() && event.modifiers() == Qt::NoModifier) {
-        return false; // a key held down does not begin a sequence
-    }
-    if (event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier && m_measuring->end()) {
-        emit status({});
-        return true;
-    }
-    FuncCode const code = KVHotKey::getInstance()->getFunctionCode(&event);
-    if (event.isAutoRepeat() && !command(code).repeats) {
-        return code != KP_NoFunction; // and does not switch back
-    }
-    QPointer<HotkeyCommands> const alive(this);
-    QStringList lines;
-    if (code != KP_NoFunction) {
-        lines.append(run(code));
-    }
-    if (!alive) {
-        return true;
-    }
-    QString const pending = pendingText();
-    if (!pending.isEmpty()) {
-        lines.append(pending);
-    }
+    QStringList lines = {std::exchange(m_done, {}), pendingText()};
+    lines.removeAll({});
     emit status(lines.join("   |   "));
-    return !lines.isEmpty();
 }
 
 void const * HotkeyCommands::view() const

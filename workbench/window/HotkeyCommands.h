@@ -3,19 +3,16 @@
 #include <UIAPICommon.h>
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
-
-class QKeyEvent;
 
 namespace Workbench {
 
 class BoardPage;
 class Measuring;
 
-/// Runs the commands of the board's page by their hot keys while the page is in front. Keys that
-/// belong to the widget with the focus (keepsKey) reach it; of all others it gets what is no hot key and
-/// begins no sequence.
+/// Runs the commands of the board's page by their hot keys while the page is in front, and by menu.
 class HotkeyCommands : public QObject
 {
     Q_OBJECT
@@ -39,15 +36,11 @@ signals:
     /// keys can follow. May be empty.
     void status(QString const & text);
 
-protected:
-    bool eventFilter(QObject * receiver, QEvent * event) override;
-
 private:
     struct Command;
 
     static Command const & command(KVCAM::FuncCode code);
-    bool isOurs(QObject * receiver) const;
-    bool press(QKeyEvent & event);
+    void showKeySeen();
     QString run(KVCAM::FuncCode code);
     void const * view() const;
     // Each returns what the status shows besides the command's text.
@@ -71,6 +64,8 @@ private:
 
     BoardPage & m_board;
     std::unique_ptr<Measuring> m_measuring;
+    QPointer<KVCAM::UIAPI::Ext::HotkeyAttachment> m_keys; ///< of the window
+    QString m_done;                                       ///< what the command of the latest key did
 };
 
 } // namespace Workbench

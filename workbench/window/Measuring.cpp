@@ -10,6 +10,8 @@
 
 #include <UIAPICommon.h>
 
+#include <QShortcut>
+
 #include <optional>
 
 namespace Workbench {
@@ -22,8 +24,13 @@ constexpr double reach = 12; // pixels within which a place snaps
 
 } // namespace
 
-Measuring::Measuring(BoardPage & board) : m_board(board)
+Measuring::Measuring(BoardPage & board) : m_board(board), m_escape(new QShortcut(Qt::Key_Escape, &board))
 {
+    m_escape->setEnabled(false);
+    connect(m_escape, &QShortcut::activated, this, [this] {
+        end();
+        emit status({});
+    });
     connect(&board, &BoardPage::pointerMoved, this, &Measuring::follow);
     connect(&board, &BoardPage::stepChanged, this, &Measuring::end);
 }
@@ -42,6 +49,7 @@ QString Measuring::press()
     }
     end();
     m_view = &view;
+    m_escape->setEnabled(true);
     m_isOpen = true;
     m_from = place;
     view.setMeasure(QLineF(place, place));
@@ -49,15 +57,14 @@ QString Measuring::press()
         .arg(positionText(view.handle(), place.x(), place.y()));
 }
 
-bool Measuring::end()
+void Measuring::end()
 {
-    bool const hadLine = m_view != nullptr;
-    if (hadLine) {
+    if (m_view != nullptr) {
         m_view->setMeasure(std::nullopt);
     }
     m_view = nullptr;
     m_isOpen = false;
-    return hadLine;
+    m_escape->setEnabled(false);
 }
 
 void Measuring::follow()

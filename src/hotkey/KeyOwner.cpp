@@ -1,9 +1,10 @@
-#include "window/KeyOwner.h"
+#include "hotkey/KeyOwner.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QKeySequence>
+#include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -12,8 +13,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-namespace Workbench {
-
+namespace KVCAM::UIAPI {
 namespace {
 
 using Keys = std::initializer_list<QKeySequence::StandardKey>;
@@ -92,7 +92,10 @@ KeyTaker keyTakerOf(QWidget const & widget)
             mode == QAbstractItemView::SingleSelection || mode == QAbstractItemView::NoSelection;
         return isSingle ? KeyTaker::List : KeyTaker::MultiList;
     }
-    return KeyTaker::Nothing;
+    if (qobject_cast<QKeySequenceEdit const *>(&widget) != nullptr) {
+        return KeyTaker::EveryKey;
+    }
+    return widget.testAttribute(Qt::WA_InputMethodEnabled) ? KeyTaker::Text : KeyTaker::Nothing;
 }
 
 bool keepsKey(KeyTaker taker, int key, Qt::KeyboardModifiers modifiers)
@@ -106,6 +109,8 @@ bool keepsKey(KeyTaker taker, int key, Qt::KeyboardModifiers modifiers)
     switch (taker) {
     case KeyTaker::Nothing:
         return false;
+    case KeyTaker::EveryKey:
+        return true;
     case KeyTaker::Text:
         return isPlain || isShift || isOneOf(readingKeys, key, modifiers) ||
                isOneOf(editingKeys, key, modifiers);
@@ -121,4 +126,4 @@ bool keepsKey(KeyTaker taker, int key, Qt::KeyboardModifiers modifiers)
     return isSearch || moves || isOneOf({QKeySequence::Copy, QKeySequence::SelectAll}, key, modifiers);
 }
 
-} // namespace Workbench
+} // namespace KVCAM::UIAPI
