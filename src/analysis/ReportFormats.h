@@ -24,6 +24,7 @@ char const * smallUnitName(Unit unit);
 /// The report in one format.
 QByteArray json(AnalysisReport const & report);
 QByteArray csv(AnalysisReport const & report);
+QByteArray junit(AnalysisReport const & report, Severity failFrom);
 ///@}
 
 } // namespace KVCAM::UIAPI::Ext::Formats

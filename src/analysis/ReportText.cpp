@@ -35,12 +35,31 @@ char const * smallUnitName(Unit unit)
 
 QByteArray reportText(AnalysisReport const & report, ReportFormat format)
 {
-    return format == ReportFormat::Json ? Formats::json(report) : Formats::csv(report);
+    return reportText(report, format, Severity::Red);
+}
+
+QByteArray reportText(AnalysisReport const & report, ReportFormat format, Severity failFrom)
+{
+    switch (format) {
+    case ReportFormat::Json:
+        return Formats::json(report);
+    case ReportFormat::JUnit:
+        return Formats::junit(report, failFrom);
+    case ReportFormat::Csv:
+        break;
+    }
+    return Formats::csv(report);
 }
 
 Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
 {
-    if (!WholeFile::replace(path, reportText(report, format))) {
+    return writeReport(report, format, path, Severity::Red);
+}
+
+Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path,
+                   Severity failFrom)
+{
+    if (!WholeFile::replace(path, reportText(report, format, failFrom))) {
         return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
     }
     return {};

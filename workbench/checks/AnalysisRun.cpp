@@ -295,24 +295,23 @@ Ext::Result AnalysisRun::writeSummary(QString const & path) const
     return {true, {}};
 }
 
-Ext::Result AnalysisRun::writeReport(QString const & path) const
+Ext::Result AnalysisRun::writeReport(QString const & path, Ext::Severity failFrom) const
 {
     auto const format = reportFormat(path);
     if (!format) {
-        return {false,
-                QCoreApplication::translate(
-                    "Workbench", "The name of a report must end in .json or .csv; that of \"%1\" does not.")
-                    .arg(path)};
+        return {false, QCoreApplication::translate(
+                           "Workbench", "The name of a report must end in %1; that of \"%2\" does not.")
+                           .arg(reportEndings(), path)};
     }
     if (state() == State::Current) {
-        return Ext::writeReport(m_report, *format, path);
+        return Ext::writeReport(m_report, *format, path, failFrom);
     }
     Ext::AnalysisReport outdated = m_report;
     outdated.addNotChecked({signalTable, -1, "Out of date",
                             state() == State::Changed
                                 ? "The step has been changed since it was measured."
                                 : "Levels have been raised beyond the spacings that were listed."});
-    return Ext::writeReport(outdated, *format, path);
+    return Ext::writeReport(outdated, *format, path, failFrom);
 }
 
 QJsonObject toJson(AnalysisRun const & run)

@@ -79,8 +79,10 @@ public:
     /// whole.
     KVCAM::UIAPI::Ext::Result writeSummary(QString const & path) const;
     /// Writes the report in the format given by the file's name. If it is not current, it says so among what
-    /// was not checked.
-    KVCAM::UIAPI::Ext::Result writeReport(QString const & path) const;
+    /// was not checked. A case of JUnit fails from a severity on.
+    KVCAM::UIAPI::Ext::Result
+    writeReport(QString const & path,
+                KVCAM::UIAPI::Ext::Severity failFrom = KVCAM::UIAPI::Ext::Severity::Red) const;
 
 private:
     void file(std::string const & step, KVCAM::Embedded::CheckResults & results);

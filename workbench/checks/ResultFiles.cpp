@@ -9,6 +9,21 @@ namespace Workbench {
 
 using namespace KVCAM::UIAPI;
 
+WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine)
+{
+    WrittenResults results;
+    auto const note = [&results](QString const & file, Ext::Result const & result) {
+        (result.ok ? results.files : results.errors).append(result.ok ? file : result.reason);
+    };
+    if (!commandLine.summary.isEmpty()) {
+        note(commandLine.summary, run.writeSummary(commandLine.summary));
+    }
+    for (QString const & report : commandLine.reports) {
+        note(report, run.writeReport(report, commandLine.failOn.value_or(Ext::Severity::Red)));
+    }
+    return results;
+}
+
 WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
 {
     QPointer<ResultsPage> const alive(&page);
@@ -20,18 +35,7 @@ WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
                      : QCoreApplication::translate("Workbench::MainWindow", "the checks failed: %1")
                            .arg(reason)}};
     }
-    WrittenResults results;
-    auto const note = [&results](QString const & file, Ext::Result const & result) {
-        (result.ok ? results.files : results.errors).append(result.ok ? file : result.reason);
-    };
-    AnalysisRun const & run = page.run();
-    if (!commandLine.summary.isEmpty()) {
-        note(commandLine.summary, run.writeSummary(commandLine.summary));
-    }
-    for (QString const & report : commandLine.reports) {
-        note(report, run.writeReport(report));
-    }
-    return results;
+    return writeFiles(page.run(), commandLine);
 }
 
 } // namespace Workbench
