@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../support/Result.h"
+#include "../units/Length.h"
 #include "../units/Unit.h"
 #include "AnalysisRecords.h"
 #include "ReportRecords.h"
@@ -27,6 +28,9 @@ class AnalysisReport
 public:
     /// Names for the head of the written report, UTF-8.
     UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
+    /// When the checks were run, as the host writes it, "2026-11-22" for example, UTF-8.
+    /// \since 0.2
+    void setDate(std::string const & date) { m_date = date; }
     /// Who tells the nets of the measurements that are added from now on; nobody until set.
     UIAPICOMMON_EXPORT void setNetLookup(NetLookup lookup);
 
@@ -50,6 +54,14 @@ public:
     /// Adds a check that was not run; an empty name is filled from the table.
     UIAPICOMMON_EXPORT void addNotChecked(NotChecked check);
 
+    /// Accepts the violations that waivers name: an id stands for the violation that compareReports() would
+    /// pair it with, so a marker may have moved by up to `tolerance`. Each waiver accepts one, whatever its
+    /// value. Waived entries are counted apart. Replaces the waivers given before; `today` ("2026-11-22")
+    /// tells which have expired. Call it once everything is added; grading again looks for the violations
+    /// again.
+    /// \since 0.2
+    UIAPICOMMON_EXPORT void applyWaivers(std::vector<Waiver> waivers, std::string const & today,
+                                         Length tolerance = Length::fromMicrometres(50));
     /// Replaces the levels of a table and grades its entries again; what is added later is graded by them.
     /// Usually the records of getRanges(table, records). Of two records of one name the first counts. Levels
     /// are looked up by the category's name.
@@ -64,12 +76,21 @@ public:
     std::string const & job() const { return m_job; }
     /// As set by setJobStep().
     std::string const & step() const { return m_step; }
+    /// As set by setDate().
+    /// \since 0.2
+    std::string const & date() const { return m_date; }
     /// In the order drill, signal, unified, within each by number. Valid until the report changes.
     std::vector<ReportCategory> const & categories() const { return m_categories; }
     /// The category, or null. Valid until the report changes.
     UIAPICOMMON_EXPORT ReportCategory const * find(std::string const & table, int number) const;
-    /// Over all categories.
+    /// Over all categories, without what is waived.
     UIAPICOMMON_EXPORT SeverityCounts counts() const;
+    /// Over all categories, only what is waived.
+    /// \since 0.2
+    UIAPICOMMON_EXPORT SeverityCounts waivedCounts() const;
+    /// As given, each with its state. Valid until the report changes.
+    /// \since 0.2
+    std::vector<Waiver> const & waivers() const { return m_waivers; }
     /// In the order in which they were added. Valid until the report changes.
     std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
 
@@ -85,10 +106,14 @@ private:
 
     std::string m_job;
     std::string m_step;
+    std::string m_date;
     NetLookup m_nets;
     Unit m_unit = Unit::Inch;
     std::vector<ReportCategory> m_categories;
     std::vector<NotChecked> m_notChecked;
+    std::vector<Waiver> m_waivers;
+    std::string m_today;
+    Length m_waiverTolerance;
     std::map<std::string, std::map<std::string, Analysis_Ranges_Record>> m_levels; // by table and name
 };
 
