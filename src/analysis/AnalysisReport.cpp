@@ -139,14 +139,15 @@ void AnalysisReport::setLevels(std::string const & table, std::vector<Analysis_R
             grade(entry);
         }
     }
+    if (!m_waivers.empty()) { // those of the other tables too are to be matched anew
+        gradeAll();
+    }
 }
 
 void AnalysisReport::setLevelUnit(Unit unit)
 {
     m_unit = unit;
-    for (ReportCategory & entry : m_categories) {
-        grade(entry);
-    }
+    gradeAll();
 }
 
 ReportCategory const * AnalysisReport::find(std::string const & table, int number) const
@@ -227,6 +228,7 @@ void AnalysisReport::gradeEntry(ReportCategory & category, ReportEntry & entry) 
     entry.severity = category.levels && entry.measured
                          ? gradeMeasured(*category.levels, *entry.measured, m_unit)
                          : Severity::None;
+    entry.waiver.reset();
     ++category.counts[static_cast<std::size_t>(entry.severity)];
 }
 
@@ -234,9 +236,18 @@ void AnalysisReport::grade(ReportCategory & category) const
 {
     category.levels = levelsOf(category);
     category.counts = {};
+    category.waived = {};
     for (ReportEntry & entry : category.entries) {
         gradeEntry(category, entry);
     }
+}
+
+void AnalysisReport::gradeAll()
+{
+    for (ReportCategory & category : m_categories) {
+        grade(category);
+    }
+    matchWaivers();
 }
 
 std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry)

@@ -6,6 +6,7 @@
 #include "AnalysisRecords.h"
 #include "ReportRecords.h"
 #include "UIAPICommonExport.h"
+#include "ViolationId.h"
 
 #include <QByteArray>
 #include <QString>
@@ -61,7 +62,7 @@ public:
     /// again.
     /// \since 0.2
     UIAPICOMMON_EXPORT void applyWaivers(std::vector<Waiver> waivers, std::string const & today,
-                                         Length tolerance = Length::fromMicrometres(50));
+                                         Length tolerance = sameViolationTolerance);
     /// Replaces the levels of a table and grades its entries again; what is added later is graded by them.
     /// Usually the records of getRanges(table, records). Of two records of one name the first counts. Levels
     /// are looked up by the category's name.
@@ -103,6 +104,8 @@ private:
     std::optional<Analysis_Ranges_Record> levelsOf(ReportCategory const & category) const;
     void gradeEntry(ReportCategory & category, ReportEntry & entry) const;
     void grade(ReportCategory & category) const;
+    void gradeAll();
+    void matchWaivers();
 
     std::string m_job;
     std::string m_step;
