@@ -27,6 +27,9 @@ class AnalysisReport
 public:
     /// Names for the head of the written report, UTF-8.
     UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
+    /// When the report was made: a date or a moment as ISO 8601 writes it, "2026-11-22" or
+    /// "2026-11-22T10:00:00Z"; empty until set, since the library asks no clock. Any other text is refused.
+    UIAPICOMMON_EXPORT bool setDate(std::string const & date);
     /// Who tells the nets of the measurements that are added from now on; nobody until set.
     UIAPICOMMON_EXPORT void setNetLookup(NetLookup lookup);
 
@@ -64,6 +67,8 @@ public:
     std::string const & job() const { return m_job; }
     /// As set by setJobStep().
     std::string const & step() const { return m_step; }
+    /// As set by setDate().
+    std::string const & date() const { return m_date; }
     /// In the order drill, signal, unified, within each by number. Valid until the report changes.
     std::vector<ReportCategory> const & categories() const { return m_categories; }
     /// The category, or null. Valid until the report changes.
@@ -85,6 +90,7 @@ private:
 
     std::string m_job;
     std::string m_step;
+    std::string m_date;
     NetLookup m_nets;
     Unit m_unit = Unit::Inch;
     std::vector<ReportCategory> m_categories;
@@ -103,15 +109,15 @@ private:
 /// The format of a written report.
 enum class ReportFormat : int
 {
-    Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
-          ///< their entries, and what was not checked
-    Csv   ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
+    Json, ///< one object: "format" "analysis-report", "version" 2, then job, step, date, counts, categories
+          ///< with their entries, and what was not checked; report.schema.json describes it
+    Csv   ///< RFC 4180 with a head line; records "job", "step", "date", "count", "measurement", "not_checked"
 };
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
 /// has null and CSV an empty field. Numbers have the shortest form that reads back equal. The CSV starts with
-/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. A text that a
-/// spreadsheet would take for a formula, full-width signs included, is prefixed with "'".
+/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. What a
+/// spreadsheet would take for a formula is prefixed with "'". docs/Reports.md describes each field.
 [[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
 
 /// Writes reportText() to a file. An old file is replaced as a whole or left unchanged, and the folder must

@@ -1,15 +1,17 @@
 #include "analysis/ReportFormats.h"
 
+#include <string>
+#include <vector>
+
 namespace KVCAM::UIAPI::Ext::Formats {
 namespace {
 
-constexpr int formatVersion = 1;
+constexpr int formatVersion = 2;
 
-QByteArray quoted(std::string const & text)
+void appendQuoted(QByteArray & out, QByteArray const & text)
 {
-    QByteArray out = "\"";
-    QByteArray const bytes = utf8(text);
-    for (char const c : bytes) {
+    out += '"';
+    for (char const c : text) {
         if (c == '"' || c == '\\') {
             out += '\\';
             out += c;
@@ -19,7 +21,14 @@ QByteArray quoted(std::string const & text)
             out += c;
         }
     }
-    return out + '"';
+    out += '"';
+}
+
+QByteArray quoted(std::string const & text)
+{
+    QByteArray out;
+    appendQuoted(out, utf8(text));
+    return out;
 }
 
 QByteArray jsonNumber(std::optional<double> value)
@@ -64,7 +73,22 @@ QByteArray jsonLevels(ReportCategory const & category)
            ", \"green\": " + jsonNumber(levels.greenLv) + "}";
 }
 
-QByteArray jsonEntry(ReportCategory const & category, ReportEntry const & entry)
+void appendPlaces(QByteArray & out, std::vector<KVCAM::API::point> const & places)
+{
+    char const * separator = "";
+    for (KVCAM::API::point const & place : places) {
+        out += separator + ("{\"x_um\": " + jsonNumber(place.x)) + ", \"y_um\": " + jsonNumber(place.y) + '}';
+        separator = ", ";
+    }
+}
+
+QByteArray jsonNet(std::string const & net)
+{
+    return net.empty() ? "null" : quoted(net);
+}
+
+void appendJsonEntry(QByteArray & out, ReportCategory const & category, ReportEntry const & entry, int copy,
+                     QByteArray const & unit)
 {
     std::optional<double> x;
     std::optional<double> y;
@@ -72,21 +96,29 @@ QByteArray jsonEntry(ReportCategory const & category, ReportEntry const & entry)
         x = entry.position->x;
         y = entry.position->y;
     }
-    return "{\"layer\": " + quoted(entry.layer) + ", \"level\": " + QByteArray::number(entry.level) +
+    std::optional<double> const limit = limitOf(category, entry);
+    std::string const id = copyId(category, entry, copy);
+    out.append("{\"id\": \"").append(id.data(), static_cast<int>(id.size()));
+    out += "\", \"layer\": " + quoted(entry.layer) + ", \"level\": " + QByteArray::number(entry.level) +
            ", \"um\": " + jsonNumber(inUnit(entry.measured, Unit::Millimetre)) +
            ", \"mil\": " + jsonNumber(inUnit(entry.measured, Unit::Inch)) +
-           ", \"limit\": " + jsonNumber(limitOf(category, entry)) + ", \"severity\": \"" +
-           markOf(entry.severity).name + "\", \"x_um\": " + jsonNumber(x) + ", \"y_um\": " + jsonNumber(y) +
-           "}";
+           ", \"limit\": " + jsonNumber(limit) + ", \"limitUnit\": " + (limit ? unit : QByteArray("null")) +
+           ", \"severity\": \"" + markOf(entry.severity).name + "\", \"x_um\": " + jsonNumber(x) +
+           ", \"y_um\": " + jsonNumber(y) + ", \"places\": [";
+    appendPlaces(out, entry.places);
+    out += "], \"nets\": [" + jsonNet(entry.nets[0]) + ", " + jsonNet(entry.nets[1]) +
+           "], \"waived\": " + (entry.waiver ? "true" : "false") + '}';
 }
 
-void appendJsonCategory(QByteArray & out, ReportCategory const & category)
+void appendJsonCategory(QByteArray & out, ReportCategory const & category, QByteArray const & unit)
 {
+    std::vector<int> const copies = copyNumbers(category);
+    auto copy = copies.begin();
     out += "{\"table\": " + quoted(category.table) + ", \"number\": " + QByteArray::number(category.number) +
            ", \"name\": " + quoted(category.name) + ", \"levels\": " + jsonLevels(category) +
            ", \"counts\": " + jsonCounts(category.counts) + ", \"entries\": ";
     appendJsonArray(out, "    ", category.entries,
-                    [&](ReportEntry const & entry) { out += jsonEntry(category, entry); });
+                    [&](ReportEntry const & entry) { appendJsonEntry(out, category, entry, *copy++, unit); });
     out += '}';
 }
 
@@ -94,13 +126,17 @@ void appendJsonCategory(QByteArray & out, ReportCategory const & category)
 
 QByteArray json(AnalysisReport const & report)
 {
+    QByteArray const unit = QByteArray("\"") + smallUnitName(report.levelUnit()) + '"';
     QByteArray out =
         "{\n  \"format\": \"analysis-report\",\n  \"version\": " + QByteArray::number(formatVersion) +
-        ",\n  \"job\": " + quoted(report.job()) + ",\n  \"step\": " + quoted(report.step()) +
-        ",\n  \"levelUnit\": \"" + smallUnitName(report.levelUnit()) +
-        "\",\n  \"counts\": " + jsonCounts(report.counts()) + ",\n  \"categories\": ";
+        ",\n  \"job\": " + quoted(report.job()) + ",\n  \"step\": " + quoted(report.step());
+    if (!report.date().empty()) {
+        out += ",\n  \"date\": " + quoted(report.date());
+    }
+    out += ",\n  \"levelUnit\": " + unit + ",\n  \"counts\": " + jsonCounts(report.counts()) +
+           ",\n  \"categories\": ";
     appendJsonArray(out, "  ", report.categories(),
-                    [&](ReportCategory const & category) { appendJsonCategory(out, category); });
+                    [&](ReportCategory const & category) { appendJsonCategory(out, category, unit); });
     out += ",\n  \"notChecked\": ";
     appendJsonArray(out, "  ", report.notChecked(), [&](NotChecked const & check) {
         out += "{\"table\": " + quoted(check.table) + ", \"number\": " + QByteArray::number(check.number) +
