@@ -4,6 +4,9 @@
 #include "analysis/CategoryTables.h"
 #include "analysis/CheckKinds.h"
 
+#include <QDateTime>
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <functional>
 #include <string_view>
@@ -62,6 +65,17 @@ void AnalysisReport::setJobStep(std::string const & job, std::string const & ste
 {
     m_job = job;
     m_step = step;
+}
+
+bool AnalysisReport::setDate(std::string const & date)
+{
+    QRegularExpression const form(R"(\A\d{4}-\d\d-\d\d(T\d\d:\d\d:\d\d(Z|[+-]\d\d:\d\d)?)?\z)");
+    QString const text = QString::fromStdString(date);
+    bool const isDate = form.match(text).hasMatch() && QDateTime::fromString(text, Qt::ISODate).isValid();
+    if (isDate || date.empty()) {
+        m_date = date;
+    }
+    return isDate || date.empty();
 }
 
 void AnalysisReport::setNetLookup(NetLookup lookup)

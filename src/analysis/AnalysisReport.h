@@ -29,9 +29,9 @@ class AnalysisReport
 public:
     /// Names for the head of the written report, UTF-8.
     UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
-    /// When the checks were run, as the host writes it, "2026-11-22" for example, UTF-8.
-    /// \since 0.2
-    void setDate(std::string const & date) { m_date = date; }
+    /// When the report was made: a date or a moment as ISO 8601 writes it, "2026-11-22" or
+    /// "2026-11-22T10:00:00Z"; empty until set, since the library asks no clock. Any other text is refused.
+    UIAPICOMMON_EXPORT bool setDate(std::string const & date);
     /// Who tells the nets of the measurements that are added from now on; nobody until set.
     UIAPICOMMON_EXPORT void setNetLookup(NetLookup lookup);
 
@@ -78,7 +78,6 @@ public:
     /// As set by setJobStep().
     std::string const & step() const { return m_step; }
     /// As set by setDate().
-    /// \since 0.2
     std::string const & date() const { return m_date; }
     /// In the order drill, signal, unified, within each by number. Valid until the report changes.
     std::vector<ReportCategory> const & categories() const { return m_categories; }
@@ -92,6 +91,12 @@ public:
     /// As given, each with its state. Valid until the report changes.
     /// \since 0.2
     std::vector<Waiver> const & waivers() const { return m_waivers; }
+    /// The day on which they were applied.
+    /// \since 0.2
+    std::string const & waiverDay() const { return m_today; }
+    /// How far a marker might have moved.
+    /// \since 0.2
+    Length waiverTolerance() const { return m_waiverTolerance; }
     /// In the order in which they were added. Valid until the report changes.
     std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
 
@@ -116,7 +121,7 @@ private:
     std::vector<NotChecked> m_notChecked;
     std::vector<Waiver> m_waivers;
     std::string m_today;
-    Length m_waiverTolerance;
+    Length m_waiverTolerance = sameViolationTolerance;
     std::map<std::string, std::map<std::string, Analysis_Ranges_Record>> m_levels; // by table and name
 };
 
@@ -131,15 +136,15 @@ private:
 /// The format of a written report.
 enum class ReportFormat : int
 {
-    Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
-          ///< their entries, and what was not checked
-    Csv   ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
+    Json, ///< one object: "format" "analysis-report", "version" 2, then job, step, date, counts, categories
+          ///< with their entries, and what was not checked; report.schema.json describes it
+    Csv   ///< RFC 4180 with a head line; records "job", "step", "date", "count", "measurement", "not_checked"
 };
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
 /// has null and CSV an empty field. Numbers have the shortest form that reads back equal. The CSV starts with
-/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. A text that a
-/// spreadsheet would take for a formula, full-width signs included, is prefixed with "'".
+/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. What a
+/// spreadsheet would take for a formula is prefixed with "'". docs/Reports.md describes each field.
 [[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
 
 /// Writes reportText() to a file. An old file is replaced as a whole or left unchanged, and the folder must

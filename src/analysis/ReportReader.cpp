@@ -205,8 +205,8 @@ private:
             std::string & net = m_read.nets.at(count++);
             return m_json.takeNull() || m_json.text(net);
         });
-        return isRead && (count == m_read.nets.size() ||
-                          m_json.fail(QObject::tr("A measurement has two nets.")));
+        return isRead &&
+               (count == m_read.nets.size() || m_json.fail(QObject::tr("A measurement has two nets.")));
     }
 
     JsonReader & m_json;
@@ -222,11 +222,10 @@ private:
 bool readCategory(JsonReader & json, EntryReader & entry, std::vector<ReadCategory> & out)
 {
     ReadCategory & category = out.emplace_back();
-    return readMembers(
-        json, {{"table", [&] { return json.text(category.table); }},
-               {"number", [&] { return json.number(category.number); }},
-               {"levels", [&] { return readLevels(json, category.levels); }},
-               {"entries", [&] { return json.array([&] { return entry.read(category); }); }}});
+    return readMembers(json, {{"table", [&] { return json.text(category.table); }},
+                              {"number", [&] { return json.number(category.number); }},
+                              {"levels", [&] { return readLevels(json, category.levels); }},
+                              {"entries", [&] { return json.array([&] { return entry.read(category); }); }}});
 }
 
 bool readNotChecked(JsonReader & json, std::vector<NotChecked> & out)
@@ -252,10 +251,10 @@ bool readWaiver(JsonReader & json, std::vector<Waiver> & out)
 bool readWaiving(JsonReader & json, ReadReport & out)
 {
     double tolerance = 0;
-    bool const isRead =
-        readMembers(json, {{"today", [&] { return json.text(out.waiversDate); }},
-                           {"tolerance_um", [&] { return json.number(tolerance); }},
-                           {"waivers", [&] { return json.array([&] { return readWaiver(json, out.waivers); }); }}});
+    bool const isRead = readMembers(
+        json, {{"today", [&] { return json.text(out.waiversDate); }},
+               {"tolerance_um", [&] { return json.number(tolerance); }},
+               {"waivers", [&] { return json.array([&] { return readWaiver(json, out.waivers); }); }}});
     out.waiversTolerance = Length::fromMicrometres(tolerance);
     return isRead;
 }
@@ -264,18 +263,17 @@ bool readAll(JsonReader & json, ReadReport & out)
 {
     EntryReader entry(json);
     return readMembers(
-               json,
-               {{"format", [&] { return readFormat(json); }},
-                {"version", [&] { return readVersion(json); }},
-                {"job", [&] { return json.text(out.job); }},
-                {"step", [&] { return json.text(out.step); }},
-                {"date", [&] { return json.text(out.date); }, false},
-                {"levelUnit", [&] { return readUnit(json, out.levelUnit); }},
-                {"categories",
-                 [&] { return json.array([&] { return readCategory(json, entry, out.categories); }); }},
-                {"notChecked",
-                 [&] { return json.array([&] { return readNotChecked(json, out.notChecked); }); }},
-                {"waiving", [&] { return readWaiving(json, out); }, false}}) &&
+               json, {{"format", [&] { return readFormat(json); }},
+                      {"version", [&] { return readVersion(json); }},
+                      {"job", [&] { return json.text(out.job); }},
+                      {"step", [&] { return json.text(out.step); }},
+                      {"date", [&] { return json.text(out.date); }, false},
+                      {"levelUnit", [&] { return readUnit(json, out.levelUnit); }},
+                      {"categories",
+                       [&] { return json.array([&] { return readCategory(json, entry, out.categories); }); }},
+                      {"notChecked",
+                       [&] { return json.array([&] { return readNotChecked(json, out.notChecked); }); }},
+                      {"waiving", [&] { return readWaiving(json, out); }, false}}) &&
            json.end();
 }
 
@@ -313,8 +311,9 @@ QString makeReport(ReadReport & read, AnalysisReport & out)
         std::vector<ReportEntry> const & entries = out.find(category.table, category.number)->entries;
         for (std::size_t i = 0; i < entries.size(); ++i) {
             if (category.verdicts[i] != Verdict{entries[i].severity, entries[i].waiver.has_value()}) {
-                return QObject::tr("A severity or waiver in the category %1 of the table \"%2\" does not follow "
-                                   "from the levels and waivers.")
+                return QObject::tr(
+                           "A severity or waiver in the category %1 of the table \"%2\" does not follow "
+                           "from the levels and waivers.")
                     .arg(QString::number(category.number), QString::fromStdString(category.table));
             }
         }
@@ -344,8 +343,9 @@ Result readReport(QString const & path, AnalysisReport & out)
     WholeFile::Content const content = WholeFile::read(path, {}, largestReport);
     Result const result = content.status == WholeFile::ReadStatus::Ok ? parseReport(content.bytes, out)
                                                                       : Result{false, content.reason};
-    return result ? result
-                  : Result{false, QObject::tr("The report \"%1\" cannot be read: %2").arg(path, result.reason)};
+    return result
+               ? result
+               : Result{false, QObject::tr("The report \"%1\" cannot be read: %2").arg(path, result.reason)};
 }
 
 } // namespace KVCAM::UIAPI::Ext

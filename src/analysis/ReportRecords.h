@@ -56,6 +56,16 @@ enum class WaiverState : int
     Expired    ///< its last day has passed: it accepts nothing
 };
 
+/// By state, as reports write it.
+inline constexpr std::array<char const *, 3> waiverStateNames = {"unmatched", "used", "expired"};
+
+/// The name of a state; that of Unmatched for an invalid number.
+constexpr char const * waiverStateName(WaiverState state)
+{
+    auto const row = static_cast<std::size_t>(state);
+    return waiverStateNames[row < waiverStateNames.size() ? row : 0];
+}
+
 /// A violation that somebody has accepted.
 struct Waiver
 {

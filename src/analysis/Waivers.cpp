@@ -1,6 +1,6 @@
 #include "analysis/Waivers.h"
 
-#include "analysis/ReportFormats.h"
+#include "analysis/ReportJsonParts.h"
 #include "analysis/ViolationId.h"
 #include "support/JsonMembers.h"
 #include "support/WholeFile.h"
@@ -43,7 +43,8 @@ struct WaiverMember
 
 char const * faultOfId(std::string const & text)
 {
-    return parseViolationId(text) ? nullptr : QT_TRANSLATE_NOOP("QObject", "This is not the id of a violation.");
+    return parseViolationId(text) ? nullptr
+                                  : QT_TRANSLATE_NOOP("QObject", "This is not the id of a violation.");
 }
 
 char const * faultOfText(std::string const & text)
@@ -105,10 +106,11 @@ bool readVersion(JsonReader & json)
 // The member that parseWaivers() would refuse.
 WaiverMember const * faultyMember(Waiver const & waiver)
 {
-    auto const found = std::find_if(waiverMembers.begin(), waiverMembers.end(), [&](WaiverMember const & member) {
-        std::string const & text = waiver.*member.text;
-        return (member.isRequired || !text.empty()) && member.fault(text) != nullptr;
-    });
+    auto const found =
+        std::find_if(waiverMembers.begin(), waiverMembers.end(), [&](WaiverMember const & member) {
+            std::string const & text = waiver.*member.text;
+            return (member.isRequired || !text.empty()) && member.fault(text) != nullptr;
+        });
     return found == waiverMembers.end() ? nullptr : &*found;
 }
 
@@ -144,8 +146,8 @@ Result readWaivers(QString const & path, std::vector<Waiver> & out)
 
 QByteArray waiversText(std::vector<Waiver> const & waivers)
 {
-    QByteArray out = QByteArray("{\"format\": \"") + formatName + "\", \"version\": " +
-                     QByteArray::number(formatVersion) + ", \"waivers\": [";
+    QByteArray out = QByteArray("{\"format\": \"") + formatName +
+                     "\", \"version\": " + QByteArray::number(formatVersion) + ", \"waivers\": [";
     char const * separator = "\n";
     for (Waiver const & waiver : waivers) {
         out += separator;

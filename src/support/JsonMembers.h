@@ -52,9 +52,9 @@ inline bool readMembers(JsonReader & json, std::vector<JsonMember> const & membe
     });
     for (std::size_t i = 0; isRead && i < members.size(); ++i) {
         if (members[i].isRequired && !found.test(i)) {
-            return json.fail(
-                QCoreApplication::translate("Json", "The member \"%1\" is missing.")
-                    .arg(QString::fromLatin1(members[i].key.data(), static_cast<int>(members[i].key.size()))));
+            return json.fail(QCoreApplication::translate("Json", "The member \"%1\" is missing.")
+                                 .arg(QString::fromLatin1(members[i].key.data(),
+                                                          static_cast<int>(members[i].key.size()))));
         }
     }
     return isRead;

@@ -72,7 +72,8 @@ bool JsonReader::boolean(bool & out)
 {
     skipBlanks();
     out = takeWord("true");
-    return out || takeWord("false") || fail(QCoreApplication::translate("Json", "true or false is expected."));
+    return out || takeWord("false") ||
+           fail(QCoreApplication::translate("Json", "true or false is expected."));
 }
 
 bool JsonReader::takeNull()
@@ -101,7 +102,8 @@ bool JsonReader::skip()
 bool JsonReader::end()
 {
     skipBlanks();
-    return (m_error.isEmpty() && m_at == m_end) || fail(QCoreApplication::translate("Json", "Something follows the end."));
+    return (m_error.isEmpty() && m_at == m_end) ||
+           fail(QCoreApplication::translate("Json", "Something follows the end."));
 }
 
 bool JsonReader::fail(QString const & reason)
@@ -113,7 +115,8 @@ bool JsonReader::fail(QString const & reason)
     QString const place =
         QCoreApplication::translate("Json", "line %1, byte %2").arg(line).arg(m_value - m_begin);
     QString const where = path();
-    m_error = (where.isEmpty() ? place : place + QStringLiteral(", ") + where) + QStringLiteral(": ") + reason;
+    m_error =
+        (where.isEmpty() ? place : place + QStringLiteral(", ") + where) + QStringLiteral(": ") + reason;
     return false;
 }
 
@@ -132,7 +135,8 @@ bool JsonReader::enter(char open)
 
 bool JsonReader::separator()
 {
-    return takeSign(',') || fail(QCoreApplication::translate("Json", "A comma or the end of the list is expected."));
+    return takeSign(',') ||
+           fail(QCoreApplication::translate("Json", "A comma or the end of the list is expected."));
 }
 
 bool JsonReader::key()

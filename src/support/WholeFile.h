@@ -10,8 +10,8 @@
 /// Files read and replaced as a whole. Nothing here logs; the loader words its own failures.
 namespace KVCAM::UIAPI::WholeFile {
 
-/// The largest file that is read unless a caller expects larger ones. Real files have a few kilobytes; a larger
-/// one is a mistake or an attack.
+/// The largest file that is read unless a caller expects larger ones. Real files have a few kilobytes; a
+/// larger one is a mistake or an attack.
 constexpr qint64 largestFile = 64 * 1024 * 1024;
 
 enum class ReadStatus
