@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QObject>
 
+#include <algorithm>
 #include <cmath>
 
 namespace KVCAM::UIAPI::Ext {
@@ -12,13 +13,21 @@ namespace Formats {
 
 QByteArray utf8(std::string const & text)
 {
-    return QString::fromStdString(text).toUtf8();
+    bool const isAscii =
+        std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return isAscii ? QByteArray(text.data(), static_cast<int>(text.size()))
+                   : QString::fromStdString(text).toUtf8();
 }
 
 QByteArray numberText(std::optional<double> value)
 {
-    return value && std::isfinite(*value) ? QByteArray::number(*value, 'g', QLocale::FloatingPointShortest)
-                                          : QByteArray();
+    if (!value || !std::isfinite(*value)) {
+        return {};
+    }
+    constexpr double exact = 9007199254740992.0; // 2^53
+    bool const isWhole = std::abs(*value) < exact && std::trunc(*value) == *value;
+    return isWhole ? QByteArray::number(static_cast<qlonglong>(*value))
+                   : QByteArray::number(*value, 'g', QLocale::FloatingPointShortest);
 }
 
 std::optional<double> inUnit(std::optional<Length> measured, Unit unit)

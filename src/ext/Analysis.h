@@ -14,6 +14,9 @@
 //   limitOf()               the level that decided
 //   reportText()            a report as JSON or CSV
 //   writeReport()           the same into a file
+//   violationId()           the text that names a violation in every report; violationIds() those of a category
+//   violationName()         its parts; parseViolationId() takes a text apart
+//   isSameViolation()       whether two names stand for the same violation, although a place moved a little
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
@@ -24,6 +27,7 @@
 #include "../analysis/Grade.h"
 #include "../analysis/RangeSource.h"
 #include "../analysis/Unified_AnalysisResult.h"
+#include "../analysis/ViolationId.h"
 #include "../support/Result.h"
 #include "UIAPICommonExport.h"
 

@@ -4,6 +4,7 @@
 #include "job/ReportFormat.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QJsonArray>
 #include <QSaveFile>
 
@@ -11,6 +12,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <set>
 #include <utility>
 
@@ -162,7 +164,21 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
         noteUnchecked(entry);
     }
     noteCategoriesWithoutCheck();
+    applyWaivers();
     m_hasResult = true;
+}
+
+void AnalysisRun::setWaivers(std::vector<Ext::Waiver> waivers)
+{
+    m_waivers = std::move(waivers);
+    if (m_hasResult) {
+        applyWaivers();
+    }
+}
+
+void AnalysisRun::applyWaivers()
+{
+    m_report.applyWaivers(m_waivers, QDate::currentDate().toString(Qt::ISODate).toStdString());
 }
 
 void AnalysisRun::noteUnchecked(KVCAM::Embedded::NotChecked const & entry)
@@ -336,7 +352,9 @@ QJsonObject toJson(AnalysisRun const & run)
         }
         widths.append(entry);
     }
+    Ext::SeverityCounts const waived = run.report().waivedCounts();
     return {{"counts", counts},
+            {"waived", static_cast<double>(std::accumulate(waived.begin(), waived.end(), std::size_t{0}))},
             {"track widths", widths},
             {"not checked", static_cast<int>(run.report().notChecked().size())}};
 }

@@ -49,6 +49,9 @@ public:
     /// Why the latest run failed, on one line; empty if it did not.
     QString const & error() const { return m_error; }
 
+    /// Accepts violations, in the results that there are and in those of later runs.
+    void setWaivers(std::vector<KVCAM::UIAPI::Ext::Waiver> waivers);
+
     bool hasResult() const { return m_hasResult; }
     /// How the results differ from what a new run would find.
     enum class State
@@ -88,6 +91,7 @@ private:
     void file(std::string const & step, KVCAM::Embedded::CheckResults & results);
     void noteUnchecked(KVCAM::Embedded::NotChecked const & entry);
     void noteCategoriesWithoutCheck();
+    void applyWaivers();
     void loadLevels(std::string const & table);
 
     using Records = std::vector<KVCAM::UIAPI::Analysis_Ranges_Record>;
@@ -96,6 +100,7 @@ private:
     KVCAM::UIAPI::Ext::AnalysisReport m_report;
     std::vector<std::string> m_copper;      ///< by row
     std::map<std::string, Records> m_saved; ///< by table, as in its file
+    std::vector<KVCAM::UIAPI::Ext::Waiver> m_waivers;
     QString m_error;
     Freshness m_freshness;
     double m_reach = 0; ///< mil; what was listed up to

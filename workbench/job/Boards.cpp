@@ -23,22 +23,6 @@ QString filled(QString name, QString const & board)
     return name.replace("%b", board);
 }
 
-CommandLine forBoard(CommandLine line, QString const & job)
-{
-    QString const name = boardName(job);
-    line.job = job;
-    line.jobs = QStringList(job);
-    for (QString CommandLine::*const file :
-         {&CommandLine::output, &CommandLine::summary, &CommandLine::waivers, &CommandLine::baseline,
-          &CommandLine::comparison}) {
-        line.*file = filled(line.*file, name);
-    }
-    for (QString & report : line.reports) {
-        report = filled(report, name);
-    }
-    return line;
-}
-
 } // namespace
 
 QString boardName(QString const & job)
@@ -54,6 +38,22 @@ QString boardName(QString const & job)
         }
     }
     return name;
+}
+
+CommandLine forBoard(CommandLine line, QString const & job)
+{
+    QString const name = boardName(job);
+    line.job = job;
+    line.jobs = QStringList(job);
+    for (QString CommandLine::*const file :
+         {&CommandLine::output, &CommandLine::summary, &CommandLine::waivers, &CommandLine::baseline,
+          &CommandLine::comparison}) {
+        line.*file = filled(line.*file, name);
+    }
+    for (QString & report : line.reports) {
+        report = filled(report, name);
+    }
+    return line;
 }
 
 BoardLines boardLines(CommandLine const & commandLine)

@@ -11,6 +11,10 @@ namespace Workbench {
 /// The name of a board: that of its folder, or of its archive without the ending.
 QString boardName(QString const & job);
 
+/// The command line for one board: "%b" in the names of its files and of its output folder is replaced by the
+/// board's name.
+CommandLine forBoard(CommandLine line, QString const & job);
+
 /// The command lines of single boards.
 struct BoardLines
 {
@@ -18,8 +22,8 @@ struct BoardLines
     QString error; ///< why they must not run; empty if they may
 };
 
-/// One command line for each job, with "%b" in the names of its files and of its output folder replaced by
-/// the board's name. An error, if a file would be written twice, whatever the case of its name.
+/// One command line for each job, see forBoard(). An error, if a file would be written twice, whatever the
+/// case of its name.
 BoardLines boardLines(CommandLine const & commandLine);
 
 /// Makes the folders of the files that a board's command line names.

@@ -194,11 +194,12 @@ QString checkTogether(CommandLine const & commandLine)
         bool isBroken;
         char const * text;
     };
-    std::array<Rule, 5> const rules{{
+    std::array<Rule, 6> const rules{{
         {commandLine.headless && commandLine.checksOnly, "--checks-only and --headless exclude each other"},
         {commandLine.json && !commandLine.checksOnly, "--json needs --checks-only"},
         {commandLine.isGate() && !isWindowless,
          "--fail-on and --fail-on-new need --checks-only or --headless"},
+        {!commandLine.baseline.isEmpty() && !isWindowless, "--baseline needs --checks-only or --headless"},
         {commandLine.failOnNew && commandLine.baseline.isEmpty(), "--fail-on-new needs --baseline"},
         {!commandLine.comparison.isEmpty() && commandLine.baseline.isEmpty(),
          "--comparison needs --baseline"},

@@ -1,12 +1,12 @@
 #include "tour/BoardOutcome.h"
 
-#include "checks/AnalysisRun.h"
 #include "tour/Terminal.h"
 
 #include <QJsonArray>
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace Workbench {
 
@@ -19,6 +19,7 @@ struct Column
 {
     char const * name;
     QString (*text)(BoardOutcome const & outcome); ///< of a board that was checked
+    bool isOfComparison = false;                   ///< shown only if a board has one
 };
 
 template <Ext::Severity severity>
@@ -27,26 +28,56 @@ QString countText(BoardOutcome const & outcome)
     return QString::number(outcome.counts[static_cast<std::size_t>(severity)]);
 }
 
-constexpr std::array<Column, 7> columns{{
+template <Ext::Change change>
+QString changeText(BoardOutcome const & outcome)
+{
+    return outcome.changes ? QString::number((*outcome.changes)[static_cast<std::size_t>(change)])
+                           : QString('-');
+}
+
+constexpr std::array<Column, 10> columns{{
     {"red", countText<Ext::Severity::Red>},
     {"yellow", countText<Ext::Severity::Yellow>},
     {"green", countText<Ext::Severity::Green>},
     {"none", countText<Ext::Severity::None>},
     {"waived", [](BoardOutcome const & outcome) { return QString::number(outcome.waived); }},
+    {"new", changeText<Ext::Change::New>, true},
+    {"worse", changeText<Ext::Change::Worse>, true},
+    {"fixed", changeText<Ext::Change::Fixed>, true},
     {"not checked", [](BoardOutcome const & outcome) { return QString::number(outcome.notChecked); }},
     {"seconds", [](BoardOutcome const & outcome) { return QString::number(outcome.seconds, 'f', 2); }},
 }};
 
 constexpr int nameColumns = 2; // board and step
 
-QStringList rowOf(BoardOutcome const & outcome)
+QStringList rowOf(BoardOutcome const & outcome, bool withComparison)
 {
     QStringList row{printable(outcome.board), printable(outcome.step)};
     for (Column const & column : columns) {
-        row.append(outcome.isChecked ? column.text(outcome) : QString('-'));
+        if (withComparison || !column.isOfComparison) {
+            row.append(outcome.isChecked ? column.text(outcome) : QString('-'));
+        }
     }
     row.append(QString::number(static_cast<int>(outcome.exit)));
     return row;
+}
+
+QStringList headRow(bool withComparison)
+{
+    QStringList row{"board", "step"};
+    for (Column const & column : columns) {
+        if (withComparison || !column.isOfComparison) {
+            row.append(column.name);
+        }
+    }
+    row.append("exit");
+    return row;
+}
+
+template <class Counts>
+void add(Counts & sum, Counts const & counts)
+{
+    std::transform(sum.begin(), sum.end(), counts.begin(), sum.begin(), std::plus<>());
 }
 
 BoardOutcome sumOf(std::vector<BoardOutcome> const & outcomes)
@@ -56,8 +87,11 @@ BoardOutcome sumOf(std::vector<BoardOutcome> const & outcomes)
     sum.isChecked = true;
     sum.exit = worst(outcomes);
     for (BoardOutcome const & outcome : outcomes) {
-        std::transform(sum.counts.begin(), sum.counts.end(), outcome.counts.begin(), sum.counts.begin(),
-                       std::plus<>());
+        add(sum.counts, outcome.counts);
+        if (outcome.changes) {
+            sum.changes = sum.changes.value_or(Ext::ChangeCounts{});
+            add(*sum.changes, *outcome.changes);
+        }
         sum.waived += outcome.waived;
         sum.notChecked += outcome.notChecked;
         sum.seconds += outcome.seconds;
@@ -83,6 +117,13 @@ QJsonObject toJson(BoardOutcome const & outcome)
         }
         facts["counts"] = counts;
         facts["waived"] = static_cast<double>(outcome.waived);
+        if (outcome.changes) {
+            QJsonObject changes;
+            for (std::size_t i = 0; i < Ext::changeNames.size(); ++i) {
+                changes[QLatin1String(Ext::changeNames[i])] = static_cast<double>((*outcome.changes)[i]);
+            }
+            facts["changes"] = changes;
+        }
         facts["not checked"] = static_cast<double>(outcome.notChecked);
     }
     return facts;
@@ -96,38 +137,6 @@ void fail(BoardOutcome & outcome, ExitCode exit, QString const & error)
     outcome.exit = worse(outcome.exit, exit);
 }
 
-void judge(BoardOutcome & outcome, AnalysisRun const & run, CommandLine const & board)
-{
-    Ext::AnalysisReport const & report = run.report();
-    outcome.isChecked = true;
-    outcome.notChecked = report.notChecked().size();
-    for (Ext::ReportCategory const & category : report.categories()) {
-        for (Ext::ReportEntry const & entry : category.entries) {
-            if (entry.waiver) {
-                ++outcome.waived;
-                continue;
-            }
-            ++outcome.counts[static_cast<std::size_t>(entry.severity)];
-            if (board.failOn && isViolation(entry, *board.failOn)) {
-                outcome.exit = ExitCode::Violation;
-            }
-        }
-    }
-}
-
-QString missingLevels()
-{
-    for (char const * table : {drillTable, signalTable}) {
-        std::vector<Analysis_Ranges_Record> records;
-        getRanges(table, records);
-        if (records.empty()) {
-            return QString("the configuration has no levels in \"%1\", so that nothing could fail")
-                .arg(table);
-        }
-    }
-    return {};
-}
-
 ExitCode worst(std::vector<BoardOutcome> const & outcomes)
 {
     ExitCode exit = ExitCode::Fine;
@@ -139,16 +148,15 @@ ExitCode worst(std::vector<BoardOutcome> const & outcomes)
 
 QString tableText(std::vector<BoardOutcome> const & outcomes)
 {
-    std::vector<QStringList> rows{{"board", "step"}};
-    for (Column const & column : columns) {
-        rows.front().append(column.name);
-    }
-    rows.front().append("exit");
+    bool const withComparison =
+        std::any_of(outcomes.begin(), outcomes.end(),
+                    [](BoardOutcome const & outcome) { return outcome.changes.has_value(); });
+    std::vector<QStringList> rows{headRow(withComparison)};
     for (BoardOutcome const & outcome : outcomes) {
-        rows.push_back(rowOf(outcome));
+        rows.push_back(rowOf(outcome, withComparison));
     }
     if (outcomes.size() > 1) {
-        rows.push_back(rowOf(sumOf(outcomes)));
+        rows.push_back(rowOf(sumOf(outcomes), withComparison));
     }
     QString text;
     for (QStringList const & row : rows) {

@@ -6,6 +6,7 @@
 #include "job/ConfigDirectory.h"
 #include "job/Session.h"
 #include "tour/BoardOutcome.h"
+#include "tour/Judging.h"
 #include "tour/Terminal.h"
 
 #include <EmbeddedEngine.h>
@@ -50,7 +51,12 @@ std::string stepOf(Session const & session, QString const & name)
 void checkStep(BoardOutcome & outcome, Session const & session, CommandLine const & board,
                TerminalProgress & progress)
 {
+    Yardstick yardstick;
+    if (QString const error = readYardstick(board, yardstick); !error.isEmpty()) {
+        return fail(outcome, ExitCode::WrongInput, error);
+    }
     AnalysisRun run(session);
+    run.setWaivers(yardstick.waivers);
     std::string const step = stepOf(session, board.step);
     outcome.step = QString::fromStdString(step);
     bool const isDone = run.run(step, [&progress](int done, int total) {
@@ -67,7 +73,7 @@ void checkStep(BoardOutcome & outcome, Session const & session, CommandLine cons
     for (QString const & error : written.errors) {
         fail(outcome, ExitCode::Incomplete, error);
     }
-    judge(outcome, run, board);
+    judge(outcome, run.report(), board, yardstick);
 }
 
 BoardOutcome check(CommandLine const & board, TerminalProgress & progress)

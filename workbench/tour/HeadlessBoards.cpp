@@ -7,6 +7,7 @@
 #include "job/Session.h"
 #include "tour/BoardOutcome.h"
 #include "tour/Headless.h"
+#include "tour/Judging.h"
 #include "tour/Terminal.h"
 #include "window/BoardPage.h"
 #include "window/MainWindow.h"
@@ -31,13 +32,16 @@ bool canWriteInto(QString const & directory)
 }
 
 // Opens the board and prepares the process. Returns what is wrong; empty on success.
-QString open(Session & session, CommandLine const & board, bool & isPrepared)
+QString open(Session & session, CommandLine const & board, Yardstick & yardstick, bool & isPrepared)
 {
     if (QString error = session.open(board.job); !error.isEmpty()) {
         return error;
     }
     if (!board.step.isEmpty() && !session.hasStep(board.step)) {
         return "the job has no step \"" + board.step + '"';
+    }
+    if (QString error = readYardstick(board, yardstick); !error.isEmpty()) {
+        return error;
     }
     if (!isPrepared) { // of several boards by the first: the library reads its settings once
         if (QString error = prepare(board); !error.isEmpty()) {
@@ -51,7 +55,8 @@ QString open(Session & session, CommandLine const & board, bool & isPrepared)
     return board.isGate() ? missingLevels() : QString();
 }
 
-QJsonObject show(BoardOutcome & outcome, Session & session, CommandLine const & board, LogLines const & log)
+QJsonObject show(BoardOutcome & outcome, Session & session, CommandLine const & board,
+                 Yardstick const & yardstick, LogLines const & log)
 {
     readLayers(session);
     logOpened(session);
@@ -62,6 +67,7 @@ QJsonObject show(BoardOutcome & outcome, Session & session, CommandLine const & 
     makeFolders(board);
     MainWindow window(session, log, board);
     window.board().showStep(board.step);
+    window.results().setWaivers(yardstick.waivers);
     QJsonObject facts = runHeadless(window, session, board);
     if (!facts["errors"].toArray().isEmpty()) {
         outcome.exit = ExitCode::Incomplete; // errors of layers are in the log
@@ -76,7 +82,7 @@ QJsonObject show(BoardOutcome & outcome, Session & session, CommandLine const & 
         outcome.errors.append(error.toString());
     }
     if (window.results().run().hasResult()) {
-        judge(outcome, window.results().run(), board);
+        judge(outcome, window.results().run().report(), board, yardstick);
     }
     return facts;
 }
@@ -112,8 +118,9 @@ int runHeadlessBoards(CommandLine const & commandLine, LogLines const & log)
         BoardOutcome outcome;
         outcome.board = boardName(board.job);
         Session session;
-        if (QString const error = open(session, board, isPrepared); error.isEmpty()) {
-            allFacts.append(show(outcome, session, board, log));
+        Yardstick yardstick;
+        if (QString const error = open(session, board, yardstick, isPrepared); error.isEmpty()) {
+            allFacts.append(show(outcome, session, board, yardstick, log));
         } else {
             fail(outcome, ExitCode::WrongInput, error);
         }
