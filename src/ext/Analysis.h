@@ -12,11 +12,12 @@
 //   markOf()                its row for a severity
 //   AnalysisReport          every measurement with its category and severity
 //   limitOf()               the level that decided
-//   reportText()            a report as JSON or CSV
+//   reportText()            a report as JSON, CSV or JUnit XML
 //   writeReport()           the same into a file
 //   violationId()           the text that names a violation in every report; violationIds() those of a category
 //   violationName()         its parts; parseViolationId() takes a text apart
 //   isSameViolation()       whether two names stand for the same violation, although a place moved a little
+//   isViolation()           whether a measurement fails: as bad as a severity or worse, and not waived
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),

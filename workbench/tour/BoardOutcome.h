@@ -44,7 +44,7 @@ QString tableText(std::vector<BoardOutcome> const & outcomes);
 /// The same and more for programs.
 QJsonObject toJson(std::vector<BoardOutcome> const & outcomes);
 
-/// Says on stderr what was written, what went wrong and what should be known.
+/// Says on stderr what went wrong and what should be known.
 void sayAll(BoardOutcome const & outcome, bool withBoard);
 
 } // namespace Workbench
