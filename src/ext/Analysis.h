@@ -14,11 +14,11 @@
 //   limitOf()               the level that decided
 //   reportText()            a report as JSON, CSV or JUnit XML
 //   writeReport()           the same into a file
-//   violationId()           the text that names a violation in every report; violationIds() those of a category
-//   violationName()         its parts; parseViolationId() takes a text apart
-//   isSameViolation()       whether two names stand for the same violation, although a place moved a little
-//   isViolation()           whether a measurement fails: as bad as a severity or worse, and not waived
-//   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
+//   violationId()           the text that names a violation in every report; violationIds() those of a
+//   category violationName()         its parts; parseViolationId() takes a text apart isSameViolation()
+//   whether two names stand for the same violation, although a place moved a little isViolation() whether a
+//   measurement fails: as bad as a severity or worse, and not waived clearUnifiedResults()   empties
+//   Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
 // addUnified(), and to Unified_AnalysisResult as before; what was not run -> addNotChecked(); at the end
