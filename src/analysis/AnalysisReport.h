@@ -130,7 +130,8 @@ enum class ReportFormat : int
 {
     Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
           ///< their entries, and what was not checked
-    Csv   ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
+    Csv,  ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
+    Html  ///< a page for people, see htmlReport(); here with its defaults, without pictures
 };
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON

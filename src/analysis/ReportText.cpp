@@ -1,4 +1,5 @@
 #include "analysis/AnalysisReport.h"
+#include "analysis/HtmlReport.h"
 #include "analysis/ReportFormats.h"
 #include "support/WholeFile.h"
 
@@ -33,17 +34,39 @@ char const * smallUnitName(Unit unit)
 
 } // namespace Formats
 
+namespace {
+
+Result written(QByteArray const & text, QString const & path)
+{
+    if (!WholeFile::replace(path, text)) {
+        return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
+    }
+    return {};
+}
+
+} // namespace
+
 QByteArray reportText(AnalysisReport const & report, ReportFormat format)
 {
-    return format == ReportFormat::Json ? Formats::json(report) : Formats::csv(report);
+    switch (format) {
+    case ReportFormat::Csv:
+        return Formats::csv(report);
+    case ReportFormat::Html:
+        return htmlReport(report, {});
+    case ReportFormat::Json:
+        break;
+    }
+    return Formats::json(report);
 }
 
 Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
 {
-    if (!WholeFile::replace(path, reportText(report, format))) {
-        return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
-    }
-    return {};
+    return written(reportText(report, format), path);
+}
+
+Result writeHtmlReport(AnalysisReport const & report, HtmlReportOptions const & options, QString const & path)
+{
+    return written(htmlReport(report, options), path);
 }
 
 } // namespace KVCAM::UIAPI::Ext

@@ -12,8 +12,10 @@
 //   markOf()                its row for a severity
 //   AnalysisReport          every measurement with its category and severity
 //   limitOf()               the level that decided
-//   reportText()            a report as JSON or CSV
+//   reportText()            a report as JSON, CSV or HTML
 //   writeReport()           the same into a file
+//   htmlReport()            a report as a page for people: language, pictures, what is listed
+//   writeHtmlReport()       the same into a file
 //   violationId()           the text that names a violation in every report; violationIds() those of a category
 //   violationName()         its parts; parseViolationId() takes a text apart
 //   isSameViolation()       whether two names stand for the same violation, although a place moved a little
@@ -25,6 +27,7 @@
 
 #include "../analysis/AnalysisReport.h"
 #include "../analysis/Grade.h"
+#include "../analysis/HtmlReport.h"
 #include "../analysis/RangeSource.h"
 #include "../analysis/Unified_AnalysisResult.h"
 #include "../analysis/ViolationId.h"

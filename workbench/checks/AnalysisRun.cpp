@@ -1,7 +1,10 @@
 #include "checks/AnalysisRun.h"
 
 #include "checks/Levels.h"
+#include "checks/ReportPictures.h"
 #include "job/ReportFormat.h"
+#include "ui/CategoryNames.h"
+#include "ui/EnglishTexts.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -299,20 +302,47 @@ Ext::Result AnalysisRun::writeReport(QString const & path) const
 {
     auto const format = reportFormat(path);
     if (!format) {
-        return {false,
-                QCoreApplication::translate(
-                    "Workbench", "The name of a report must end in .json or .csv; that of \"%1\" does not.")
-                    .arg(path)};
+        return {false, QCoreApplication::translate(
+                           "Workbench",
+                           "The name of a report must end in .json, .csv or .html; that of \"%1\" does not.")
+                           .arg(path)};
     }
+    auto const write = [&](Ext::AnalysisReport const & report) {
+        return *format == Ext::ReportFormat::Html ? writeHtml(report, path)
+                                                  : Ext::writeReport(report, *format, path);
+    };
     if (state() == State::Current) {
-        return Ext::writeReport(m_report, *format, path);
+        return write(m_report);
     }
     Ext::AnalysisReport outdated = m_report;
     outdated.addNotChecked({signalTable, -1, "Out of date",
                             state() == State::Changed
                                 ? "The step has been changed since it was measured."
                                 : "Levels have been raised beyond the spacings that were listed."});
-    return Ext::writeReport(outdated, *format, path);
+    return write(outdated);
+}
+
+Ext::Result AnalysisRun::writeHtml(Ext::AnalysisReport const & report, QString const & path) const
+{
+    std::set<std::string> layers(m_copper.begin(), m_copper.end());
+    for (Ext::ReportCategory const & category : report.categories()) {
+        for (Ext::ReportEntry const & entry : category.entries) {
+            if (entry.severity != Ext::Severity::None) {
+                layers.insert(entry.layer);
+            }
+        }
+    }
+    Ext::HtmlReportOptions options;
+    options.language = getCurrentLanguageMode() == LANGUAGE_CHINESE ? Ext::ReportLanguage::SimplifiedChinese
+                                                                    : Ext::ReportLanguage::English;
+    options.firstUnit = m_firstUnit;
+    options.pictures = reportPictures(m_session, report.step(), layers);
+    options.copperLayers = m_copper;
+    options.checkNames = shownName;
+    options.sentences = [](std::string const & english) {
+        return inScreenLanguage(QString::fromStdString(english));
+    };
+    return Ext::writeHtmlReport(report, options, path);
 }
 
 QJsonObject toJson(AnalysisRun const & run)

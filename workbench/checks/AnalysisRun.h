@@ -79,14 +79,19 @@ public:
     /// whole.
     KVCAM::UIAPI::Ext::Result writeSummary(QString const & path) const;
     /// Writes the report in the format given by the file's name. If it is not current, it says so among what
-    /// was not checked.
+    /// was not checked. HTML is in the language of the screen, with the copper layers and those that have
+    /// violations as pictures.
     KVCAM::UIAPI::Ext::Result writeReport(QString const & path) const;
+    /// The unit that comes first in HTML reports, Inch until set.
+    void setFirstUnit(KVCAM::UIAPI::Ext::Unit unit) { m_firstUnit = unit; }
 
 private:
     void file(std::string const & step, KVCAM::Embedded::CheckResults & results);
     void noteUnchecked(KVCAM::Embedded::NotChecked const & entry);
     void noteCategoriesWithoutCheck();
     void loadLevels(std::string const & table);
+    KVCAM::UIAPI::Ext::Result writeHtml(KVCAM::UIAPI::Ext::AnalysisReport const & report,
+                                        QString const & path) const;
 
     using Records = std::vector<KVCAM::UIAPI::Analysis_Ranges_Record>;
 
@@ -96,6 +101,7 @@ private:
     std::map<std::string, Records> m_saved; ///< by table, as in its file
     QString m_error;
     Freshness m_freshness;
+    KVCAM::UIAPI::Ext::Unit m_firstUnit = KVCAM::UIAPI::Ext::Unit::Inch;
     double m_reach = 0; ///< mil; what was listed up to
     bool m_hasResult = false;
 };

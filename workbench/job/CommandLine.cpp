@@ -65,7 +65,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     QCommandLineOption const summary("summary", "Run the checks on the step and write their summary.",
                                      "FILE");
     QCommandLineOption const report(
-        "report", "Run the checks and write the graded report, as JSON or CSV; may be repeated.", "FILE");
+        "report", "Run the checks and write the graded report, as JSON, CSV or HTML; may be repeated.", "FILE");
     QCommandLineOption const limit(
         "limit", "Change a limit of what a job may hold; may be repeated. The limits: " + limitNames() + '.',
         "NAME=NUMBER");
@@ -105,7 +105,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     commandLine.summary = absolute(parser.value(summary));
     for (QString const & file : parser.values(report)) {
         if (!reportFormat(file)) {
-            return failure("a report is a .json or .csv file, not \"" + file + '"');
+            return failure("a report is a .json, .csv or .html file, not \"" + file + '"');
         }
         commandLine.reports.append(absolute(file));
     }

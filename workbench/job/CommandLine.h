@@ -21,7 +21,7 @@ struct CommandLine
     bool saveFlag = false;
     QString step;        ///< shown first; empty: the job's first
     QString summary;     ///< file for the summary of the checks; empty: none, or one in the output folder
-    QStringList reports; ///< files for reports of the checks, ".json" or ".csv"
+    QStringList reports; ///< files for reports of the checks, ".json", ".csv" or ".html"
     KVCAM::Embedded::JobLimits limits;
 };
 

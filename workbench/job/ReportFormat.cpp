@@ -12,6 +12,9 @@ std::optional<Ext::ReportFormat> reportFormat(QString const & path)
     if (suffix == "json") {
         return Ext::ReportFormat::Json;
     }
+    if (suffix == "html") {
+        return Ext::ReportFormat::Html;
+    }
     return suffix == "csv" ? std::optional(Ext::ReportFormat::Csv) : std::nullopt;
 }
 
