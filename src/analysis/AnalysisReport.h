@@ -6,6 +6,7 @@
 #include "AnalysisRecords.h"
 #include "ReportRecords.h"
 #include "UIAPICommonExport.h"
+#include "ViolationId.h"
 
 #include <QByteArray>
 #include <QString>
@@ -28,9 +29,9 @@ class AnalysisReport
 public:
     /// Names for the head of the written report, UTF-8.
     UIAPICOMMON_EXPORT void setJobStep(std::string const & job, std::string const & step);
-    /// When the checks were run, as the host writes it, "2026-11-22" for example, UTF-8.
-    /// \since 0.2
-    void setDate(std::string const & date) { m_date = date; }
+    /// When the report was made: a date or a moment as ISO 8601 writes it, "2026-11-22" or
+    /// "2026-11-22T10:00:00Z"; empty until set, since the library asks no clock. Any other text is refused.
+    UIAPICOMMON_EXPORT bool setDate(std::string const & date);
     /// Who tells the nets of the measurements that are added from now on; nobody until set.
     UIAPICOMMON_EXPORT void setNetLookup(NetLookup lookup);
 
@@ -61,7 +62,7 @@ public:
     /// again.
     /// \since 0.2
     UIAPICOMMON_EXPORT void applyWaivers(std::vector<Waiver> waivers, std::string const & today,
-                                         Length tolerance = Length::fromMicrometres(50));
+                                         Length tolerance = sameViolationTolerance);
     /// Replaces the levels of a table and grades its entries again; what is added later is graded by them.
     /// Usually the records of getRanges(table, records). Of two records of one name the first counts. Levels
     /// are looked up by the category's name.
@@ -77,7 +78,6 @@ public:
     /// As set by setJobStep().
     std::string const & step() const { return m_step; }
     /// As set by setDate().
-    /// \since 0.2
     std::string const & date() const { return m_date; }
     /// In the order drill, signal, unified, within each by number. Valid until the report changes.
     std::vector<ReportCategory> const & categories() const { return m_categories; }
@@ -91,6 +91,12 @@ public:
     /// As given, each with its state. Valid until the report changes.
     /// \since 0.2
     std::vector<Waiver> const & waivers() const { return m_waivers; }
+    /// The day on which they were applied.
+    /// \since 0.2
+    std::string const & waiverDay() const { return m_today; }
+    /// How far a marker might have moved.
+    /// \since 0.2
+    Length waiverTolerance() const { return m_waiverTolerance; }
     /// In the order in which they were added. Valid until the report changes.
     std::vector<NotChecked> const & notChecked() const { return m_notChecked; }
 
@@ -103,6 +109,8 @@ private:
     std::optional<Analysis_Ranges_Record> levelsOf(ReportCategory const & category) const;
     void gradeEntry(ReportCategory & category, ReportEntry & entry) const;
     void grade(ReportCategory & category) const;
+    void gradeAll();
+    void matchWaivers();
 
     std::string m_job;
     std::string m_step;
@@ -113,7 +121,7 @@ private:
     std::vector<NotChecked> m_notChecked;
     std::vector<Waiver> m_waivers;
     std::string m_today;
-    Length m_waiverTolerance;
+    Length m_waiverTolerance = sameViolationTolerance;
     std::map<std::string, std::map<std::string, Analysis_Ranges_Record>> m_levels; // by table and name
 };
 
@@ -128,22 +136,35 @@ private:
 /// The format of a written report.
 enum class ReportFormat : int
 {
-    Json, ///< one object: "format" "analysis-report", "version" 1, then job, step, counts, categories with
-          ///< their entries, and what was not checked
-    Csv,  ///< RFC 4180 with a head line; records "job", "step", "count", "measurement", "not_checked"
-    Html  ///< a page for people, see htmlReport(); here with its defaults, without pictures
+    Json, ///< one object: "format" "analysis-report", "version" 2, then job, step, date, counts, categories
+          ///< with their entries, and what was not checked; report.schema.json describes it
+    Csv,  ///< RFC 4180 with a head line; records "job", "step", "date", "count", "measurement", "not_checked"
+    JUnit, ///< XML that build servers show: a suite for the board, a case for each check and layer
+    Html   ///< a page for people, see htmlReport(); here with its defaults, without pictures
 };
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
 /// has null and CSV an empty field. Numbers have the shortest form that reads back equal. The CSV starts with
-/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. A text that a
-/// spreadsheet would take for a formula, full-width signs included, is prefixed with "'".
+/// a byte-order mark, since spreadsheets would otherwise read it in the system's code page. What a
+/// spreadsheet would take for a formula is prefixed with "'". docs/Reports.md describes each field.
 [[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
+
+/// The same, with the severity from which a case of JUnit fails; of None no case fails. Violations that are
+/// waived fail none. The failure counts the violations and lists the worst; what was not checked is skipped
+/// with its reason. Control characters, which XML cannot hold, are left out. The other formats are the same
+/// for any severity; without one it is Red.
+/// \since 0.2
+[[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format,
+                                                       Severity failFrom);
 
 /// Writes reportText() to a file. An old file is replaced as a whole or left unchanged, and the folder must
 /// exist. The reason of a failure is translated. Nothing is
 /// logged.
 [[nodiscard]] UIAPICOMMON_EXPORT Result writeReport(AnalysisReport const & report, ReportFormat format,
                                                     QString const & path);
+/// The same, with the severity from which a case of JUnit fails.
+/// \since 0.2
+[[nodiscard]] UIAPICOMMON_EXPORT Result writeReport(AnalysisReport const & report, ReportFormat format,
+                                                    QString const & path, Severity failFrom);
 
 } // namespace KVCAM::UIAPI::Ext

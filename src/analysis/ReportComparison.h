@@ -6,6 +6,7 @@
 #include "Grade.h"
 #include "ReportRecords.h"
 #include "UIAPICommonExport.h"
+#include "ViolationId.h"
 
 #include <QByteArray>
 #include <QString>
@@ -102,9 +103,9 @@ struct ReportComparison
 /// the check, the layer or both among what was not checked nor lacks the category. (Drill checks have a
 /// category only if they found something; they lack none.)
 /// \since 0.2
-[[nodiscard]] UIAPICOMMON_EXPORT ReportComparison
-compareReports(AnalysisReport const & before, AnalysisReport const & after,
-               Length tolerance = Length::fromMicrometres(50));
+[[nodiscard]] UIAPICOMMON_EXPORT ReportComparison compareReports(AnalysisReport const & before,
+                                                                 AnalysisReport const & after,
+                                                                 Length tolerance = sameViolationTolerance);
 
 /// The comparison as JSON: "format" "report-comparison", "version" 1, then both reports, the tolerance, the
 /// counts and all changes. Lengths are exact, in micrometres and in mil.

@@ -36,6 +36,13 @@ struct ReportEntry
     std::optional<std::size_t> waiver;         ///< what accepts it, in AnalysisReport::waivers()
 };
 
+/// Whether an entry is as bad as a severity or worse, and nobody has accepted it. Never for None.
+/// \since 0.2
+inline bool isViolation(ReportEntry const & entry, Severity from)
+{
+    return from != Severity::None && entry.severity >= from && !entry.waiver;
+}
+
 /// The measurements of one category.
 struct ReportCategory
 {
@@ -55,6 +62,16 @@ enum class WaiverState : int
     Used,      ///< it accepts a violation
     Expired    ///< its last day has passed: it accepts nothing
 };
+
+/// By state, as reports write it.
+inline constexpr std::array<char const *, 3> waiverStateNames = {"unmatched", "used", "expired"};
+
+/// The name of a state; that of Unmatched for an invalid number.
+constexpr char const * waiverStateName(WaiverState state)
+{
+    auto const row = static_cast<std::size_t>(state);
+    return waiverStateNames[row < waiverStateNames.size() ? row : 0];
+}
 
 /// A violation that somebody has accepted.
 struct Waiver

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QObject>
 
+#include <algorithm>
 #include <cmath>
 
 namespace KVCAM::UIAPI::Ext {
@@ -13,13 +14,21 @@ namespace Formats {
 
 QByteArray utf8(std::string const & text)
 {
-    return QString::fromStdString(text).toUtf8();
+    bool const isAscii =
+        std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return isAscii ? QByteArray(text.data(), static_cast<int>(text.size()))
+                   : QString::fromStdString(text).toUtf8();
 }
 
 QByteArray numberText(std::optional<double> value)
 {
-    return value && std::isfinite(*value) ? QByteArray::number(*value, 'g', QLocale::FloatingPointShortest)
-                                          : QByteArray();
+    if (!value || !std::isfinite(*value)) {
+        return {};
+    }
+    constexpr double exact = 9007199254740992.0; // 2^53
+    bool const isWhole = std::abs(*value) < exact && std::trunc(*value) == *value;
+    return isWhole ? QByteArray::number(static_cast<qlonglong>(*value))
+                   : QByteArray::number(*value, 'g', QLocale::FloatingPointShortest);
 }
 
 std::optional<double> inUnit(std::optional<Length> measured, Unit unit)
@@ -48,20 +57,33 @@ Result written(QByteArray const & text, QString const & path)
 
 QByteArray reportText(AnalysisReport const & report, ReportFormat format)
 {
+    return reportText(report, format, Severity::Red);
+}
+
+QByteArray reportText(AnalysisReport const & report, ReportFormat format, Severity failFrom)
+{
     switch (format) {
-    case ReportFormat::Csv:
-        return Formats::csv(report);
+    case ReportFormat::Json:
+        return Formats::json(report);
+    case ReportFormat::JUnit:
+        return Formats::junit(report, failFrom);
     case ReportFormat::Html:
         return htmlReport(report, {});
-    case ReportFormat::Json:
+    case ReportFormat::Csv:
         break;
     }
-    return Formats::json(report);
+    return Formats::csv(report);
 }
 
 Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
 {
-    return written(reportText(report, format), path);
+    return writeReport(report, format, path, Severity::Red);
+}
+
+Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path,
+                   Severity failFrom)
+{
+    return written(reportText(report, format, failFrom), path);
 }
 
 Result writeHtmlReport(AnalysisReport const & report, HtmlReportOptions const & options, QString const & path)

@@ -18,18 +18,12 @@ namespace {
 
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 constexpr char const * nothing = "-";
+constexpr char itemSeparator = '~'; // neither a cell nor a formula of a spreadsheet begins after it
 
 bool isPlain(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
            c == '.' || c == '-';
-}
-
-void makeValid(std::string & text)
-{
-    if (!std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
-        text = Formats::utf8(text).toStdString();
-    }
 }
 
 void appendText(std::string & out, std::string const & text)
@@ -96,7 +90,7 @@ std::optional<std::vector<KVCAM::API::point>> placesOf(std::string_view part)
     if (part == nothing) {
         return places;
     }
-    for (std::string_view const place : split(part, ';')) {
+    for (std::string_view const place : split(part, itemSeparator)) {
         std::vector<std::string_view> const coordinates = split(place, ',');
         if (coordinates.size() != 2) {
             return std::nullopt;
@@ -115,7 +109,7 @@ std::optional<std::vector<KVCAM::API::point>> placesOf(std::string_view part)
 void normalise(ViolationName & name)
 {
     for (std::string * text : {&name.table, &name.layer, &name.nets[0], &name.nets[1]}) {
-        makeValid(*text);
+        *text = Formats::utf8(*text).toStdString();
     }
     for (KVCAM::API::point & place : name.places) {
         place = {static_cast<double>(saturatedInt(std::round(place.x))),
@@ -141,16 +135,16 @@ std::string textOfNormalised(ViolationName const & name)
     appendText(out, name.table);
     out += '/' + std::to_string(name.number) + '/';
     appendText(out, name.layer);
-    char const * separator = "/";
+    char separator = '/';
     for (KVCAM::API::point const & place : name.places) {
         out +=
             separator + std::to_string(saturatedInt(place.x)) + ',' + std::to_string(saturatedInt(place.y));
-        separator = ";";
+        separator = itemSeparator;
     }
     out += name.places.empty() ? "/-/" : "/";
     appendText(out, name.nets[0]);
     if (!name.nets[1].empty()) {
-        out += ';';
+        out += itemSeparator;
         appendText(out, name.nets[1]);
     }
     return name.copy == 1 ? out : out + '#' + std::to_string(name.copy);
@@ -256,7 +250,7 @@ std::optional<ViolationName> parseViolationId(std::string const & id)
     auto const number = numberOf(parts[1]);
     auto places = placesOf(parts[3]);
     auto const copy = copyParts.size() == 2 ? numberOf(copyParts[1]) : std::optional(1);
-    std::vector<std::string_view> const nets = split(parts[4], ';');
+    std::vector<std::string_view> const nets = split(parts[4], itemSeparator);
     if (!number || !places || !copy || *copy < 1 || nets.size() > 2) {
         return std::nullopt;
     }

@@ -35,10 +35,10 @@ inline constexpr Length sameViolationTolerance = Length::fromMicrometres(50);
 
 /// The name as one text: table, number, layer, places, nets, and the copy if it is not the first.
 ///
-///     SignalLayerRanges/3/top/1200,3400;1250,3400/GND;VCC
+///     SignalLayerRanges/3/top/1200,3400~1250,3400/GND~VCC
 ///     SignalLayerRanges/46/top/1200,3400/-#2
 ///
-/// Only ASCII letters, digits and -_.,;/%# are in it. Everything else in a text is percent-encoded by bytes,
+/// Only ASCII letters, digits and -_.,~/%# are in it. Everything else in a text is percent-encoded by bytes,
 /// and an empty text or list is "-". Names that differ in the order of their items only give the same text.
 [[nodiscard]] UIAPICOMMON_EXPORT std::string violationId(ViolationName const & name);
 /// That of an entry's name.

@@ -41,19 +41,19 @@ TEST(ViolationId, NamesBothItemsInOneOrder)
         std::string id; ///< without the check
     };
     std::vector<Row> const rows{
-        {entry("top", {{1, 2}, {-3, 4}}, {"A", "B"}), "top/1,2;-3,4/A;B"},
-        {entry("top", {{-3, 4}, {1, 2}}, {"B", "A"}), "top/1,2;-3,4/A;B"},
-        {entry("top", {{1, 2}, {-3, 4}}, {"A", "C"}), "top/1,2;-3,4/A;C"},
-        {entry("top", {{1, 2}, {-3, 4}}, {"A", "A"}), "top/-3,4;1,2/A;A"},
-        {entry("top", {{1, 9}, {1, 8}}, {"A", "A"}), "top/1,8;1,9/A;A"},
-        {entry("top", {{1, 2}, {-3, 4}}, {"", "A"}), "top/-3,4;1,2/A"},
+        {entry("top", {{1, 2}, {-3, 4}}, {"A", "B"}), "top/1,2~-3,4/A~B"},
+        {entry("top", {{-3, 4}, {1, 2}}, {"B", "A"}), "top/1,2~-3,4/A~B"},
+        {entry("top", {{1, 2}, {-3, 4}}, {"A", "C"}), "top/1,2~-3,4/A~C"},
+        {entry("top", {{1, 2}, {-3, 4}}, {"A", "A"}), "top/-3,4~1,2/A~A"},
+        {entry("top", {{1, 9}, {1, 8}}, {"A", "A"}), "top/1,8~1,9/A~A"},
+        {entry("top", {{1, 2}, {-3, 4}}, {"", "A"}), "top/-3,4~1,2/A"},
         {entry("top", {{5, 6}}, {"", "A"}), "top/5,6/A"},
-        {entry("top", {{5, 6}}, {"B", "A"}), "top/5,6/A;B"},
+        {entry("top", {{5, 6}}, {"B", "A"}), "top/5,6/A~B"},
         {entry("", {}, {}), "-/-/-"},
         {entry("-", {{0.4, -0.4}}, {"-", ""}), "%2D/0,0/%2D"},
-        {entry("a b/c", {{1e300, -infinite}}, {"#1;%", "é"}),
-         "a%20b%2Fc/2147483647,-2147483648/%231%3B%25;%C3%A9"},
-        {entry("\xff\n", {{1.5, 2}}, {"=1+1", std::string("\0", 1)}), "%EF%BF%BD%0A/2,2/%00;%3D1%2B1"},
+        {entry("a b/c", {{1e300, -infinite}}, {"#1;~%", "é"}),
+         "a%20b%2Fc/2147483647,-2147483648/%231%3B%7E%25~%C3%A9"},
+        {entry("\xff\n", {{1.5, 2}}, {"=1+1", std::string("\0", 1)}), "%EF%BF%BD%0A/2,2/%00~%3D1%2B1"},
     };
     for (Row const & row : rows) {
         std::string const id = violationId(category(3), row.entry);
@@ -67,7 +67,7 @@ TEST(ViolationId, NamesBothItemsInOneOrder)
 
 TEST(ViolationId, OnlyWhatIsWrittenIsRead)
 {
-    for (char const * id : {"t/3/top/1,2/A", "t/-3/top/1,2/A#2", "t/3/top/1,2;3,4;5,6/-"}) {
+    for (char const * id : {"t/3/top/1,2/A", "t/-3/top/1,2/A#2", "t/3/top/1,2~3,4~5,6/-"}) {
         EXPECT_TRUE(parseViolationId(id)) << id;
     }
     for (char const * id : {"",
@@ -86,17 +86,17 @@ TEST(ViolationId, OnlyWhatIsWrittenIsRead)
                             "t/3/top//A",
                             "t/3/top/1/A",
                             "t/3/top/1,2,3/A",
-                            "t/3/top/1,2;/A",
+                            "t/3/top/1,2~/A",
                             "t/3/top/-0,2/A",
                             "t/3/top/1.5,2/A",
                             "t/3/top/2147483648,2/A",
                             "t/3/top/1,2/",
-                            "t/3/top/1,2/A;",
-                            "t/3/top/1,2/A;-",
-                            "t/3/top/1,2/-;A",
-                            "t/3/top/1,2/B;A",
-                            "t/3/top/1,2/A;B;C",
-                            "t/3/top/5,6;1,2/A;A",
+                            "t/3/top/1,2/A~",
+                            "t/3/top/1,2/A~-",
+                            "t/3/top/1,2/-~A",
+                            "t/3/top/1,2/B~A",
+                            "t/3/top/1,2/A~B~C",
+                            "t/3/top/5,6~1,2/A~A",
                             "t/3/top/1,2/%41",
                             "t/3/top/1,2/%2d",
                             "t/3/top/1,2/%4",

@@ -6,7 +6,10 @@
 #include "ui/CategoryNames.h"
 #include "ui/EnglishTexts.h"
 
+#include <analysis/ReportComparison.h>
+
 #include <QCoreApplication>
+#include <QDate>
 #include <QJsonArray>
 #include <QSaveFile>
 
@@ -14,6 +17,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <set>
 #include <utility>
 
@@ -165,7 +169,21 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
         noteUnchecked(entry);
     }
     noteCategoriesWithoutCheck();
+    applyWaivers();
     m_hasResult = true;
+}
+
+void AnalysisRun::setWaivers(std::vector<Ext::Waiver> waivers)
+{
+    m_waivers = std::move(waivers);
+    if (m_hasResult) {
+        applyWaivers();
+    }
+}
+
+void AnalysisRun::applyWaivers()
+{
+    m_report.applyWaivers(m_waivers, QDate::currentDate().toString(Qt::ISODate).toStdString());
 }
 
 void AnalysisRun::noteUnchecked(KVCAM::Embedded::NotChecked const & entry)
@@ -298,18 +316,17 @@ Ext::Result AnalysisRun::writeSummary(QString const & path) const
     return {true, {}};
 }
 
-Ext::Result AnalysisRun::writeReport(QString const & path) const
+Ext::Result AnalysisRun::writeReport(QString const & path, ReportChoices const & choices) const
 {
     auto const format = reportFormat(path);
     if (!format) {
         return {false, QCoreApplication::translate(
-                           "Workbench",
-                           "The name of a report must end in .json, .csv or .html; that of \"%1\" does not.")
-                           .arg(path)};
+                           "Workbench", "The name of a report must end in %1; that of \"%2\" does not.")
+                           .arg(reportEndings(), path)};
     }
     auto const write = [&](Ext::AnalysisReport const & report) {
-        return *format == Ext::ReportFormat::Html ? writeHtml(report, path)
-                                                  : Ext::writeReport(report, *format, path);
+        return *format == Ext::ReportFormat::Html ? writeHtml(report, path, choices)
+                                                  : Ext::writeReport(report, *format, path, choices.failFrom);
     };
     if (state() == State::Current) {
         return write(m_report);
@@ -322,7 +339,8 @@ Ext::Result AnalysisRun::writeReport(QString const & path) const
     return write(outdated);
 }
 
-Ext::Result AnalysisRun::writeHtml(Ext::AnalysisReport const & report, QString const & path) const
+Ext::Result AnalysisRun::writeHtml(Ext::AnalysisReport const & report, QString const & path,
+                                   ReportChoices const & choices) const
 {
     std::set<std::string> layers(m_copper.begin(), m_copper.end());
     for (Ext::ReportCategory const & category : report.categories()) {
@@ -332,12 +350,18 @@ Ext::Result AnalysisRun::writeHtml(Ext::AnalysisReport const & report, QString c
             }
         }
     }
+    std::optional<Ext::ReportComparison> comparison;
+    if (choices.baseline != nullptr) {
+        comparison = Ext::compareReports(*choices.baseline, report);
+    }
     Ext::HtmlReportOptions options;
     options.language = getCurrentLanguageMode() == LANGUAGE_CHINESE ? Ext::ReportLanguage::SimplifiedChinese
                                                                     : Ext::ReportLanguage::English;
-    options.firstUnit = m_firstUnit;
+    options.firstUnit = choices.firstUnit;
     options.pictures = reportPictures(m_session, report.step(), layers);
     options.copperLayers = m_copper;
+    options.dataFile = choices.dataFile;
+    options.comparison = comparison ? &*comparison : nullptr;
     options.checkNames = shownName;
     options.sentences = [](std::string const & english) {
         return inScreenLanguage(QString::fromStdString(english));
@@ -367,7 +391,9 @@ QJsonObject toJson(AnalysisRun const & run)
         }
         widths.append(entry);
     }
+    Ext::SeverityCounts const waived = run.report().waivedCounts();
     return {{"counts", counts},
+            {"waived", static_cast<double>(std::accumulate(waived.begin(), waived.end(), std::size_t{0}))},
             {"track widths", widths},
             {"not checked", static_cast<int>(run.report().notChecked().size())}};
 }

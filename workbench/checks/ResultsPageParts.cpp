@@ -71,10 +71,12 @@ QWidget * ResultsPage::makeButtons()
                    [this](QString const & path) { return m_run->writeSummary(path); });
     });
     connect(m_reportButton, &QPushButton::clicked, this, [this] {
-        exportFile(tr("Export the report"), "report.html", tr("HTML report (*.html);;JSON report (*.json);;CSV report (*.csv)"),
+        exportFile(tr("Export the report"), "report.html",
+                   tr("HTML report (*.html);;JSON report (*.json);;CSV report (*.csv)"),
                    [this](QString const & path) {
-                       m_run->setFirstUnit(Ext::unitOf(m_view->handle()));
-                       return m_run->writeReport(path);
+                       ReportChoices choices;
+                       choices.firstUnit = Ext::unitOf(m_view->handle());
+                       return m_run->writeReport(path, choices);
                    });
     });
     return row;

@@ -20,8 +20,8 @@
         <translation>无法写入文件“%1”。</translation>
     </message>
     <message>
-        <source>The name of a report must end in .json, .csv or .html; that of &quot;%1&quot; does not.</source>
-        <translation>报告的文件名须以 .json、.csv 或 .html 结尾，“%1”不是。</translation>
+        <source>The name of a report must end in %1; that of &quot;%2&quot; does not.</source>
+        <translation>报告的文件名须以 %1 之一结尾，“%2”不是。</translation>
     </message>
     <message>
         <source>red</source>
