@@ -160,10 +160,18 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
     for (char const * table : levelTables) {
         loadLevels(table);
     }
+    m_report.setNetLookup([&nets = results.recordNets](std::string_view table, int number,
+                                                       std::string const & layer, int level,
+                                                       std::size_t index) {
+        bool const isListed = level == 0 && (table == drillTable || table == signalTable);
+        return isListed ? nets.of(table == drillTable ? "drill" : "signal", number, layer, index)
+                        : Ext::EntryNets{};
+    });
     m_report.addDrill(results.drill);
     m_report.addSignal(results.signal);
     rest.erase(UNIFIED_SLOTS); // without levels; the same slots are among the drill items, which have some
     m_report.addUnified(rest);
+    m_report.setNetLookup({}); // the results end before the report
     m_report.addNotChecked({signalTable, -1, "Nets", results.nets});
     for (KVCAM::Embedded::NotChecked const & entry : results.notChecked) {
         noteUnchecked(entry);
