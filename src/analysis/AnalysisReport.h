@@ -138,7 +138,9 @@ enum class ReportFormat : int
 {
     Json, ///< one object: "format" "analysis-report", "version" 2, then job, step, date, counts, categories
           ///< with their entries, and what was not checked; report.schema.json describes it
-    Csv   ///< RFC 4180 with a head line; records "job", "step", "date", "count", "measurement", "not_checked"
+    Csv,  ///< RFC 4180 with a head line; records "job", "step", "date", "count", "measurement", "not_checked"
+    JUnit, ///< XML that build servers show: a suite for the board, a case for each check and layer
+    Html   ///< a page for people, see htmlReport(); here with its defaults, without pictures
 };
 
 /// The report as UTF-8 text. Measured values are exact, in micrometres and in mil; where there is none JSON
@@ -147,10 +149,22 @@ enum class ReportFormat : int
 /// spreadsheet would take for a formula is prefixed with "'". docs/Reports.md describes each field.
 [[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format);
 
+/// The same, with the severity from which a case of JUnit fails; of None no case fails. Violations that are
+/// waived fail none. The failure counts the violations and lists the worst; what was not checked is skipped
+/// with its reason. Control characters, which XML cannot hold, are left out. The other formats are the same
+/// for any severity; without one it is Red.
+/// \since 0.2
+[[nodiscard]] UIAPICOMMON_EXPORT QByteArray reportText(AnalysisReport const & report, ReportFormat format,
+                                                       Severity failFrom);
+
 /// Writes reportText() to a file. An old file is replaced as a whole or left unchanged, and the folder must
 /// exist. The reason of a failure is translated. Nothing is
 /// logged.
 [[nodiscard]] UIAPICOMMON_EXPORT Result writeReport(AnalysisReport const & report, ReportFormat format,
                                                     QString const & path);
+/// The same, with the severity from which a case of JUnit fails.
+/// \since 0.2
+[[nodiscard]] UIAPICOMMON_EXPORT Result writeReport(AnalysisReport const & report, ReportFormat format,
+                                                    QString const & path, Severity failFrom);
 
 } // namespace KVCAM::UIAPI::Ext

@@ -29,6 +29,7 @@ std::string copyId(ReportCategory const & category, ReportEntry const & entry, i
 /// The report in one format.
 QByteArray json(AnalysisReport const & report);
 QByteArray csv(AnalysisReport const & report);
+QByteArray junit(AnalysisReport const & report, Severity failFrom);
 ///@}
 
 } // namespace KVCAM::UIAPI::Ext::Formats

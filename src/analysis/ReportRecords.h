@@ -36,6 +36,13 @@ struct ReportEntry
     std::optional<std::size_t> waiver;         ///< what accepts it, in AnalysisReport::waivers()
 };
 
+/// Whether an entry is as bad as a severity or worse, and nobody has accepted it. Never for None.
+/// \since 0.2
+inline bool isViolation(ReportEntry const & entry, Severity from)
+{
+    return from != Severity::None && entry.severity >= from && !entry.waiver;
+}
+
 /// The measurements of one category.
 struct ReportCategory
 {

@@ -1,4 +1,5 @@
 #include "analysis/AnalysisReport.h"
+#include "analysis/HtmlReport.h"
 #include "analysis/ReportFormats.h"
 #include "support/WholeFile.h"
 
@@ -42,17 +43,52 @@ char const * smallUnitName(Unit unit)
 
 } // namespace Formats
 
+namespace {
+
+Result written(QByteArray const & text, QString const & path)
+{
+    if (!WholeFile::replace(path, text)) {
+        return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
+    }
+    return {};
+}
+
+} // namespace
+
 QByteArray reportText(AnalysisReport const & report, ReportFormat format)
 {
-    return format == ReportFormat::Json ? Formats::json(report) : Formats::csv(report);
+    return reportText(report, format, Severity::Red);
+}
+
+QByteArray reportText(AnalysisReport const & report, ReportFormat format, Severity failFrom)
+{
+    switch (format) {
+    case ReportFormat::Json:
+        return Formats::json(report);
+    case ReportFormat::JUnit:
+        return Formats::junit(report, failFrom);
+    case ReportFormat::Html:
+        return htmlReport(report, {});
+    case ReportFormat::Csv:
+        break;
+    }
+    return Formats::csv(report);
 }
 
 Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path)
 {
-    if (!WholeFile::replace(path, reportText(report, format))) {
-        return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
-    }
-    return {};
+    return writeReport(report, format, path, Severity::Red);
+}
+
+Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path,
+                   Severity failFrom)
+{
+    return written(reportText(report, format, failFrom), path);
+}
+
+Result writeHtmlReport(AnalysisReport const & report, HtmlReportOptions const & options, QString const & path)
+{
+    return written(htmlReport(report, options), path);
 }
 
 } // namespace KVCAM::UIAPI::Ext

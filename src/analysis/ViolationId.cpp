@@ -115,17 +115,17 @@ void normalise(ViolationName & name)
         place = {static_cast<double>(saturatedInt(std::round(place.x))),
                  static_cast<double>(saturatedInt(std::round(place.y)))};
     }
-    bool const hasTwo = name.places.size() == 2;
-    auto const key = [&](std::size_t item) {
-        KVCAM::API::point const place = hasTwo ? name.places[item] : KVCAM::API::point{0, 0};
-        std::string_view const net = name.nets.at(item);
-        return std::tuple(net.empty(), net, place.x, place.y);
-    };
-    if (key(1) < key(0)) {
-        std::swap(name.nets[0], name.nets[1]);
-        if (hasTwo) {
+    auto & [net, otherNet] = name.nets;
+    bool const isOrderedByNet = !net.empty() && !otherNet.empty() && net != otherNet;
+    bool const isNetAfter = std::pair(otherNet.empty(), otherNet) < std::pair(net.empty(), net);
+    if (name.places.size() == 2) {
+        auto const key = [&](std::size_t i) { return std::pair(name.places[i].x, name.places[i].y); };
+        if (isOrderedByNet ? isNetAfter : key(1) < key(0)) {
             std::swap(name.places[0], name.places[1]);
         }
+    }
+    if (isNetAfter) {
+        std::swap(net, otherNet);
     }
 }
 
@@ -271,8 +271,12 @@ bool isSameViolation(ViolationName const & a, ViolationName const & b, Length to
         return false;
     }
     double const limit = tolerance.toMicrometres();
-    return (a.nets == b.nets && isSamePlace(a, b, false, limit)) ||
-           (a.nets[0] == b.nets[1] && a.nets[1] == b.nets[0] && isSamePlace(a, b, true, limit));
+    bool const isStraight = a.nets == b.nets;
+    bool const isCrossed = a.nets[0] == b.nets[1] && a.nets[1] == b.nets[0];
+    bool const isEither =
+        (isStraight || isCrossed) && (a.nets[0].empty() || a.nets[1].empty() || a.nets[0] == a.nets[1]);
+    return ((isStraight || isEither) && isSamePlace(a, b, false, limit)) ||
+           ((isCrossed || isEither) && isSamePlace(a, b, true, limit));
 }
 
 } // namespace KVCAM::UIAPI::Ext

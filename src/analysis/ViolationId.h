@@ -19,16 +19,17 @@ struct ViolationName
     int number = 0;                        ///< as in ReportCategory
     std::string layer;                     ///< UTF-8
     std::vector<KVCAM::API::point> places; ///< whole micrometres
-    EntryNets nets;                        ///< UTF-8, in the order of two places
+    EntryNets nets;                        ///< UTF-8; of two different ones in the order of `places`
     int copy = 1;                          ///< from 2 for what is named alike; see violationIds()
 };
 
 /// How far a place may move while the violation stays the same, see isSameViolation().
 inline constexpr Length sameViolationTolerance = Length::fromMicrometres(50);
 
-/// The name of an entry. Of two items the one with the smaller net comes first, byte by byte, unknown nets
-/// last; of one net the one further left, then the lower one. So it does not matter which the engine met
-/// first. Invalid UTF-8 becomes replacement characters, as in a written report.
+/// The name of an entry. Of two items the one with the smaller net comes first, byte by byte. If they are of
+/// one net or only one net is known, the known one comes first, and the place further left, then the lower
+/// one. So it does not matter which the engine met first. Invalid UTF-8 becomes replacement characters, as in
+/// a written report.
 /// \since 0.2
 [[nodiscard]] UIAPICOMMON_EXPORT ViolationName violationName(ReportCategory const & category,
                                                              ReportEntry const & entry);
@@ -53,9 +54,9 @@ inline constexpr Length sameViolationTolerance = Length::fromMicrometres(50);
 [[nodiscard]] UIAPICOMMON_EXPORT std::optional<ViolationName> parseViolationId(std::string const & id);
 
 /// Whether two names may stand for the same violation: the same check, layer and nets, and each place within
-/// the tolerance of its counterpart, in a straight line and inclusive. Which of two items of one net comes
-/// first does not matter, and neither does the copy: several violations of a report may fit, so each should
-/// be matched once, equal ids first.
+/// the tolerance of its counterpart, in a straight line and inclusive. Which place comes first
+/// matters only between two known nets, and neither does the copy: several violations of a report may fit, so
+/// each should be matched once, equal ids first.
 [[nodiscard]] UIAPICOMMON_EXPORT bool isSameViolation(ViolationName const & a, ViolationName const & b,
                                                       Length tolerance = sameViolationTolerance);
 

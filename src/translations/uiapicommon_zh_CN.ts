@@ -620,4 +620,271 @@
         <translation>选中错误之处</translation>
     </message>
 </context>
+<context>
+    <name>HtmlReport</name>
+    <message>
+        <source>Analysis report</source>
+        <translation>分析报告</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>料号</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Waived</source>
+        <translation>已豁免</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未检查</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查项</translation>
+    </message>
+    <message>
+        <source>Level %1</source>
+        <translation>%1 级别</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>检查项</translation>
+    </message>
+    <message>
+        <source>No check was run.</source>
+        <translation>没有运行任何检查。</translation>
+    </message>
+    <message>
+        <source>Check or layer</source>
+        <translation>检查项或层</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Not listed: %1.</source>
+        <translation>未列出：%1。</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>章节</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>变化</translation>
+    </message>
+    <message>
+        <source>Track widths</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation>测量结果</translation>
+    </message>
+    <message>
+        <source>Measurements: %1, of which %2 are listed.</source>
+        <translation>测量结果共 %1 项，其中列出 %2 项。</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>测量值</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Nets</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>The JSON report of the same run holds all of them.</source>
+        <translation>同一次运行的 JSON 报告包含全部测量结果。</translation>
+    </message>
+    <message>
+        <source>%1 holds all of them.</source>
+        <translation>全部测量结果见 %1。</translation>
+    </message>
+    <message>
+        <source>Measurements that are counted but not listed: %1.</source>
+        <translation>已计数但未列出的测量结果：%1。</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>已消除</translation>
+    </message>
+    <message>
+        <source>Better</source>
+        <translation>改善</translation>
+    </message>
+    <message>
+        <source>Worse</source>
+        <translation>恶化</translation>
+    </message>
+    <message>
+        <source>Not checked any more</source>
+        <translation>不再检查</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>未变</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>此前</translation>
+    </message>
+    <message>
+        <source>Is</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>违规</translation>
+    </message>
+    <message>
+        <source>Compared with the report of %1, step %2, dated %3.</source>
+        <translation>与料号 %1、步骤 %2 的报告（日期 %3）比较。</translation>
+    </message>
+    <message>
+        <source>The levels of %1 differ.</source>
+        <translation>%1 的级别不同。</translation>
+    </message>
+    <message>
+        <source>%1 more here</source>
+        <translation>此处还有 %1 个</translation>
+    </message>
+    <message>
+        <source>Violations marked: %1</source>
+        <translation>标记的违规：%1</translation>
+    </message>
+    <message>
+        <source>no tracks</source>
+        <translation>无线路</translation>
+    </message>
+    <message>
+        <source>Narrowest track of each layer</source>
+        <translation>各层最窄的线路</translation>
+    </message>
+    <message>
+        <source>Each mark is a violation; the number beside it is that of its row below. Marks that would cover each other are shown as one, the worst.</source>
+        <translation>每个标记是一个违规，旁边的数字是其在下方表格中的序号。会互相遮挡的标记只显示最严重的一个。</translation>
+    </message>
+    <message>
+        <source>There are no levels for this check: nothing is graded.</source>
+        <translation>此检查项没有级别，因此不分级。</translation>
+    </message>
+    <message>
+        <source>A measurement has the severity of a level that it does not exceed.</source>
+        <translation>测量值不大于某级别时，即为该级别的严重程度。</translation>
+    </message>
+    <message>
+        <source>A measurement has the severity of a level that it reaches.</source>
+        <translation>测量值达到某级别时，即为该级别的严重程度。</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Measurements, the worst first</source>
+        <translation>测量结果（最严重的在前）</translation>
+    </message>
+    <message>
+        <source>A click on the title of a column sorts the table; a click on a severity at the top of the page shows or hides its rows and marks.</source>
+        <translation>点击列标题可对表格排序；点击页面顶部的严重程度可显示或隐藏相应的行和标记。</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>有效期至 %1</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>已过期</translation>
+    </message>
+    <message>
+        <source>matches no violation</source>
+        <translation>不对应任何违规</translation>
+    </message>
+    <message>
+        <source>Waivers that accept nothing</source>
+        <translation>未起作用的豁免</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>情况</translation>
+    </message>
+    <message>
+        <source>Accepted by</source>
+        <translation>批准人</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>批准日期</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>These violations have been accepted. They are in none of the other counts.</source>
+        <translation>这些违规已被接受，不计入其他数量。</translation>
+    </message>
+</context>
 </TS>

@@ -47,6 +47,7 @@ TEST(ViolationId, NamesBothItemsInOneOrder)
         {entry("top", {{1, 2}, {-3, 4}}, {"A", "A"}), "top/-3,4~1,2/A~A"},
         {entry("top", {{1, 9}, {1, 8}}, {"A", "A"}), "top/1,8~1,9/A~A"},
         {entry("top", {{1, 2}, {-3, 4}}, {"", "A"}), "top/-3,4~1,2/A"},
+        {entry("top", {{1, 2}, {-3, 4}}, {"A", ""}), "top/-3,4~1,2/A"},
         {entry("top", {{5, 6}}, {"", "A"}), "top/5,6/A"},
         {entry("top", {{5, 6}}, {"B", "A"}), "top/5,6/A~B"},
         {entry("", {}, {}), "-/-/-"},
@@ -144,6 +145,8 @@ TEST(ViolationId, AMarkerMayMoveALittle)
         EXPECT_EQ(isSameViolation(b, a), row.same) << violationId(b);
         EXPECT_FALSE(isSameViolation(a, violationName(category(4), row.after)));
     }
+    EXPECT_TRUE(isSameViolation(violationName(category(46), entry("top", {{0, 0}, {1, 500}}, {"A", ""})),
+                                violationName(category(46), entry("top", {{2, 0}, {1, 500}}, {"", "A"}))));
     // Of one net, the move may change which place comes first.
     EXPECT_TRUE(isSameViolation(violationName(category(3), entry("top", {{0, 0}, {1, 500}}, {"A", "A"})),
                                 violationName(category(3), entry("top", {{2, 0}, {1, 500}}, {"A", "A"}))));

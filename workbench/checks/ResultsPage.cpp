@@ -26,6 +26,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <utility>
+
 namespace Workbench {
 
 using namespace KVCAM::UIAPI;
@@ -108,6 +110,13 @@ bool ResultsPage::measure(std::string const & step)
     }
     refresh();
     return isNew;
+}
+
+void ResultsPage::setWaivers(std::vector<Ext::Waiver> waivers)
+{
+    m_run->setWaivers(std::move(waivers));
+    m_model->reload();
+    refresh();
 }
 
 bool ResultsPage::showCheck(std::string const & table, int number)

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 class QFrame;
 class QGroupBox;
@@ -47,6 +48,8 @@ public:
     /// Checks the step with a progress dialog, which can be cancelled. False when there are no new results;
     /// the page says why, unless it was deleted meanwhile.
     bool runChecks();
+    /// Accepts violations, in the results that there are and in those of later runs.
+    void setWaivers(std::vector<KVCAM::UIAPI::Ext::Waiver> waivers);
     /// Selects the worst measurement of a check, or the check if it has none, and shows every severity. False
     /// if it has no row.
     bool showCheck(std::string const & table, int number);

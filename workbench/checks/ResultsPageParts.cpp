@@ -71,8 +71,13 @@ QWidget * ResultsPage::makeButtons()
                    [this](QString const & path) { return m_run->writeSummary(path); });
     });
     connect(m_reportButton, &QPushButton::clicked, this, [this] {
-        exportFile(tr("Export the report"), "report.json", tr("JSON report (*.json);;CSV report (*.csv)"),
-                   [this](QString const & path) { return m_run->writeReport(path); });
+        exportFile(tr("Export the report"), "report.html",
+                   tr("HTML report (*.html);;JSON report (*.json);;CSV report (*.csv)"),
+                   [this](QString const & path) {
+                       ReportChoices choices;
+                       choices.firstUnit = Ext::unitOf(m_view->handle());
+                       return m_run->writeReport(path, choices);
+                   });
     });
     return row;
 }

@@ -20,8 +20,8 @@
         <translation>无法写入文件“%1”。</translation>
     </message>
     <message>
-        <source>The name of a report must end in .json or .csv; that of &quot;%1&quot; does not.</source>
-        <translation>报告的文件名须以 .json 或 .csv 结尾，“%1”不是。</translation>
+        <source>The name of a report must end in %1; that of &quot;%2&quot; does not.</source>
+        <translation>报告的文件名须以 %1 之一结尾，“%2”不是。</translation>
     </message>
     <message>
         <source>red</source>
@@ -1853,8 +1853,8 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>导出报告</translation>
     </message>
     <message>
-        <source>JSON report (*.json);;CSV report (*.csv)</source>
-        <translation>JSON 报告 (*.json);;CSV 报告 (*.csv)</translation>
+        <source>HTML report (*.html);;JSON report (*.json);;CSV report (*.csv)</source>
+        <translation>HTML 报告 (*.html);;JSON 报告 (*.json);;CSV 报告 (*.csv)</translation>
     </message>
     <message>
         <source>Checks</source>
