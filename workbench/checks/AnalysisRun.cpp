@@ -4,6 +4,7 @@
 #include "job/ReportFormat.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QJsonArray>
 #include <QSaveFile>
 
@@ -150,6 +151,7 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
 
     m_report = {};
     m_report.setJobStep(m_session.job(), step);
+    m_report.setDate(QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString());
     for (char const * table : levelTables) {
         loadLevels(table);
     }
