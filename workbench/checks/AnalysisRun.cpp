@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QDateTime>
 #include <QJsonArray>
 #include <QSaveFile>
 
@@ -157,6 +158,7 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
 
     m_report = {};
     m_report.setJobStep(m_session.job(), step);
+    m_report.setDate(QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString());
     for (char const * table : levelTables) {
         loadLevels(table);
     }
