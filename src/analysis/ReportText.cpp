@@ -1,4 +1,5 @@
 #include "analysis/AnalysisReport.h"
+#include "analysis/HtmlReport.h"
 #include "analysis/ReportFormats.h"
 #include "support/WholeFile.h"
 
@@ -42,6 +43,18 @@ char const * smallUnitName(Unit unit)
 
 } // namespace Formats
 
+namespace {
+
+Result written(QByteArray const & text, QString const & path)
+{
+    if (!WholeFile::replace(path, text)) {
+        return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
+    }
+    return {};
+}
+
+} // namespace
+
 QByteArray reportText(AnalysisReport const & report, ReportFormat format)
 {
     return reportText(report, format, Severity::Red);
@@ -54,6 +67,8 @@ QByteArray reportText(AnalysisReport const & report, ReportFormat format, Severi
         return Formats::json(report);
     case ReportFormat::JUnit:
         return Formats::junit(report, failFrom);
+    case ReportFormat::Html:
+        return htmlReport(report, {});
     case ReportFormat::Csv:
         break;
     }
@@ -68,10 +83,12 @@ Result writeReport(AnalysisReport const & report, ReportFormat format, QString c
 Result writeReport(AnalysisReport const & report, ReportFormat format, QString const & path,
                    Severity failFrom)
 {
-    if (!WholeFile::replace(path, reportText(report, format, failFrom))) {
-        return {false, QObject::tr("The file \"%1\" cannot be written.").arg(path)};
-    }
-    return {};
+    return written(reportText(report, format, failFrom), path);
+}
+
+Result writeHtmlReport(AnalysisReport const & report, HtmlReportOptions const & options, QString const & path)
+{
+    return written(htmlReport(report, options), path);
 }
 
 } // namespace KVCAM::UIAPI::Ext

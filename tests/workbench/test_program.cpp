@@ -1,6 +1,7 @@
 #include "../embedded/ArchiveBytes.h"
 #include "ProgramRun.h"
 #include "TestFiles.h"
+#include "harness/ReportSchema.h"
 
 #include <gtest/gtest.h>
 
@@ -152,6 +153,13 @@ TEST(Workbench, AHeadlessRunTellsTheLayersOfTheJob)
     EXPECT_EQ(eda["sent"].toInt(-1), eda["bound"].toBool() ? 1 : 0);
     EXPECT_GE(eda["received"].toInt(-1), eda["sent"].toInt());
     EXPECT_FALSE(QFile::exists("out/uiapi-engine.sqlite")); // without the save flag
+}
+
+TEST(Workbench, TheReportOfTheSampleJobFitsItsSchema)
+{
+    runSample({"--report", "report.json"});
+    KVCAM::Testing::expectReportsFitSchema({"report.json"});
+    EXPECT_TRUE(readFile("report.json").contains("\"date\": \"20")) << "when it was measured";
 }
 
 // Compared with the sizes of the symbols in the sample job's files: tracks of 150, 200 and 250 micrometres,

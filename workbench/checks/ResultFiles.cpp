@@ -1,9 +1,15 @@
 #include "checks/ResultFiles.h"
 
 #include "checks/ResultsPage.h"
+#include "job/ReportFormat.h"
+
+#include <analysis/ReportReader.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QPointer>
+
+#include <algorithm>
 
 namespace Workbench {
 
@@ -18,8 +24,20 @@ WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLi
     if (!commandLine.summary.isEmpty()) {
         note(commandLine.summary, run.writeSummary(commandLine.summary));
     }
-    for (QString const & report : commandLine.reports) {
-        note(report, run.writeReport(report, commandLine.failOn.value_or(Ext::Severity::Red)));
+    ReportChoices choices;
+    choices.failFrom = commandLine.failOn.value_or(Ext::Severity::Red);
+    choices.firstUnit = commandLine.unit;
+    auto const & reports = commandLine.reports;
+    auto const isData = [](QString const & file) { return reportFormat(file) == Ext::ReportFormat::Json; };
+    if (auto const data = std::find_if(reports.begin(), reports.end(), isData); data != reports.end()) {
+        choices.dataFile = QFileInfo(*data).fileName();
+    }
+    Ext::AnalysisReport baseline;
+    if (!commandLine.baseline.isEmpty() && Ext::readReport(commandLine.baseline, baseline)) {
+        choices.baseline = &baseline; // why one cannot be read is said when the run is judged
+    }
+    for (QString const & report : reports) {
+        note(report, run.writeReport(report, choices));
     }
     return results;
 }

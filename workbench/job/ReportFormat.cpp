@@ -17,9 +17,10 @@ struct Ending
     char const * text;
     Ext::ReportFormat format;
 };
-constexpr std::array<Ending, 3> endings{{
+constexpr std::array<Ending, 4> endings{{
     {"json", Ext::ReportFormat::Json},
     {"csv", Ext::ReportFormat::Csv},
+    {"html", Ext::ReportFormat::Html},
     {"xml", Ext::ReportFormat::JUnit},
 }};
 
