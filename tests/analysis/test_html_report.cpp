@@ -328,6 +328,23 @@ TEST(HtmlReport, AComparisonIsShown)
     EXPECT_FALSE(Document(htmlReport(reportOf({}), {})).texts["h2"].contains("Changes"));
 }
 
+TEST(HtmlReport, WaivedViolationsStandApart)
+{
+    AnalysisReport report = reportOf({entryOf("top", 70), entryOf("bot", 71)});
+    report.applyWaivers({{"SignalLayerRanges/46/top/0,0/-", "as ordered", "Kim", "2026-01-02", "2027-01-01"},
+                         {"SignalLayerRanges/46/top/900000,0/-", "moved", "Lee", "2026-01-03", ""},
+                         {"SignalLayerRanges/46/bot/0,0/-", "old", "Lee", "2026-01-04", "2026-01-05"}},
+                        "2026-11-22");
+    Document const document(htmlReport(report, {}));
+    EXPECT_EQ(document.count({"Lines ✖ R red 2.756 70", "top", "as ordered Kim 2026-01-02 until 2027-01-01"}),
+              1);
+    EXPECT_EQ(document.count({"matches no violation SignalLayerRanges/46/top/900000,0/- moved Lee"}), 1);
+    EXPECT_EQ(document.count({"expired SignalLayerRanges/46/bot/0,0/- old Lee 2026-01-04 2026-01-05"}), 1);
+    EXPECT_EQ(document.count({"1 ✖ R red 2.795 71", "bot"}), 1) << "the other is listed among the violations";
+    EXPECT_EQ(document.count({"Lines 1 0 0 0 1 3 mil"}), 1) << "and counted without the waived one";
+    EXPECT_EQ(document.count({"2.756 70"}), 1);
+}
+
 TEST(HtmlReport, AnEmptyReportIsADocument)
 {
     Document const document(reportText({}, ReportFormat::Html));

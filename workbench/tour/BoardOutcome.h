@@ -3,7 +3,6 @@
 #include "job/ExitCode.h"
 
 #include <UIAPICommonExt.h>
-#include <analysis/ReportComparison.h>
 
 #include <QJsonObject>
 #include <QString>
