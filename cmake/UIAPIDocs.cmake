@@ -25,7 +25,7 @@ if(TARGET UIAPITestEngine)
 endif()
 # The pages in the order in which they are best read; one that is not named here comes after them.
 set(_pages docs/FirstDialog.md docs/LengthField.md docs/Testing.md docs/Engine.md docs/Log.md docs/Values.md
-  docs/Extensions.md docs/Checks.md)
+  docs/Extensions.md docs/Checks.md docs/Reports.md)
 file(GLOB _others RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
 list(REMOVE_ITEM _others ${_pages})
 foreach(_page IN LISTS _pages _others ITEMS docs/reference/Topics.dox README.md CHANGELOG.md ARCHITECTURE.md

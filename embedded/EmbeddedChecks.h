@@ -3,9 +3,13 @@
 #include <kvcam/Records.h>
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <limits>
 #include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 /// \addtogroup default_checks
@@ -41,6 +45,34 @@ struct NotChecked
     std::string reason; ///< an English sentence
 };
 
+/// The nets of the measured items, where the step's eda/data names them.
+struct RecordNets
+{
+    /// By item of a record: the number of its name, or `unknown`.
+    using Numbers = std::array<std::uint32_t, 2>;
+    /// No such item, or one whose net has no name.
+    static constexpr std::uint32_t unknown = std::numeric_limits<std::uint32_t>::max();
+
+    std::vector<std::string> names; ///< as in the file
+    /// By table ("signal" or "drill"), item and layer: for each record of list 0 the nets of its items, in
+    /// the order of its points. Lists of which no net is known are left out.
+    std::map<std::tuple<std::string, int, std::string>, std::vector<Numbers>> lists;
+
+    /// The names for a record; empty where unknown, and for a record that there is not.
+    std::array<std::string, 2> of(std::string const & table, int item, std::string const & layer,
+                                  std::size_t index) const
+    {
+        auto const list = lists.find({table, item, layer});
+        if (list == lists.end() || index >= list->second.size()) {
+            return {};
+        }
+        auto const name = [this](std::uint32_t number) {
+            return number < names.size() ? names[number] : std::string();
+        };
+        return {name(list->second[index][0]), name(list->second[index][1])};
+    }
+};
+
 /// What a caller may choose.
 struct CheckOptions
 {
@@ -62,6 +94,8 @@ struct CheckResults
     std::vector<NotChecked> notChecked;
     /// A sentence on where the nets come from that the spacings are measured between.
     std::string nets;
+    /// Which nets the records are of.
+    RecordNets recordNets;
 };
 
 /// Runs all checks. Roughly linear in the number of features, whatever their distribution; only SMD pads

@@ -1,12 +1,12 @@
 #include "checks/ResultFiles.h"
 #include "job/CommandLine.h"
 #include "job/ConfigDirectory.h"
-#include "job/JobLoading.h"
-#include "job/Session.h"
+#include "job/ExitCode.h"
 #include "job/SystemTwins.h"
-#include "tour/Headless.h"
+#include "tour/ChecksOnly.h"
+#include "tour/HeadlessBoards.h"
+#include "tour/Terminal.h"
 #include "ui/LogPane.h"
-#include "window/BoardPage.h"
 #include "window/Desk.h"
 #include "window/MainWindow.h"
 
@@ -16,30 +16,18 @@
 #include <glog/logging.h>
 
 #include <QApplication>
-#include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QMessageBox>
 #include <QStandardPaths>
-#include <QTemporaryFile>
 #include <QTimer>
 
 #include <cstdio>
 
 namespace {
 
-constexpr int exitIncomplete = 1; // a headless run could not read or write everything
-constexpr int exitWrongInput = 2;
-
-void print(std::FILE * stream, QByteArray const & text)
-{
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
-}
-
 int fail(QString const & text)
 {
-    print(stderr, "uiapi-workbench: " + text.toUtf8() + '\n');
-    return exitWrongInput;
+    Workbench::say(text);
+    return static_cast<int>(Workbench::ExitCode::WrongInput);
 }
 
 // With a window there may be no terminal to read from.
@@ -63,11 +51,6 @@ QStringList argumentsOf(QApplication const & application, bool headless)
     return arguments;
 }
 
-bool canWriteInto(QString const & directory)
-{
-    return QDir().mkpath(directory) && QTemporaryFile(directory + "/probe-XXXXXX").open();
-}
-
 // Qt's messages about the desktop belong into the log, not between the lines on the terminal.
 void logQtMessage(QtMsgType type, QMessageLogContext const & /*context*/, QString const & text)
 {
@@ -85,7 +68,7 @@ void writeResults(Workbench::MainWindow & window, Workbench::CommandLine const &
     using namespace KVCAM::UIAPI;
     window.showPage("results");
     for (QString const & error : Workbench::writeResults(window.results(), commandLine).errors) {
-        fail(error);
+        Workbench::say(error);
         Ext::showMessage({Ext::MessageKind::Information, &window, window.windowTitle(), error});
     }
 }
@@ -109,6 +92,10 @@ int main(int argc, char ** argv)
     KVCAM::UIAPI::Ext::startLogging(argv[0]); // warnings and errors; the window shows every line
     Workbench::LogLines log;
     qInstallMessageHandler(logQtMessage);
+    if (Workbench::runsChecksOnly(argc, argv)) {
+        QCoreApplication const application(argc, argv);
+        return Workbench::runChecksOnly(Workbench::parseArguments(QCoreApplication::arguments()));
+    }
     bool const headless = Workbench::runsHeadless(argc, argv);
     if (headless) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -128,7 +115,7 @@ int main(int argc, char ** argv)
 
     auto const parsed = Workbench::parseArguments(argumentsOf(application, headless));
     if (parsed.outcome == Workbench::ParsedArguments::Outcome::Print) {
-        print(stdout, parsed.text.toUtf8());
+        Workbench::print(stdout, parsed.text.toUtf8());
         return 0;
     }
     if (parsed.outcome == Workbench::ParsedArguments::Outcome::Error) {
@@ -137,52 +124,15 @@ int main(int argc, char ** argv)
     Workbench::CommandLine const & commandLine = parsed.commandLine;
 
     KVCAM::Embedded::setJobLimits(commandLine.limits);
-    Workbench::Session session;
     if (headless) {
-        QString const error =
-            commandLine.job.isEmpty() ? "no job given, see --help" : session.open(commandLine.job);
-        if (!error.isEmpty()) {
-            return fail(error);
+        if (commandLine.job.isEmpty()) {
+            return fail("no job given, see --help");
         }
-        if (!commandLine.step.isEmpty() && !session.hasStep(commandLine.step)) {
-            return fail("the job has no step \"" + commandLine.step + '"');
+        if (!commandLine.headless) {
+            Workbench::say("no display, working as with --headless");
         }
+        return Workbench::runHeadlessBoards(commandLine, log);
     }
-    if (!canWriteInto(commandLine.output)) {
-        return failWith("cannot write to \"" + commandLine.output + '"', headless);
-    }
-    QString const wrongConfiguration = Workbench::enterConfiguration(commandLine.config, commandLine.output);
-    if (!wrongConfiguration.isEmpty()) {
-        return failWith(wrongConfiguration, headless);
-    }
-    KVCAM::UIAPI::Ext::setKeepSettingsBackup(true);
-    KVCAM::UIAPI::Ext::setReadSavedSettingKeys(
-        true); // what the settings page saves is there at the next start
-    KVCAM::UIAPI::Ext::setRemovalRoots({commandLine.output + "/workbench-session"});
-    if (!headless) {
-        return runWindows(log, commandLine);
-    }
-    Workbench::readLayers(session);
-    Workbench::logOpened(session);
-    QStringList const repeats = Workbench::repeatLines(session);
-    for (QString const & line : repeats) {
-        print(stderr, "uiapi-workbench: " + line.toUtf8() + '\n');
-    }
-    Workbench::MainWindow window(session, log, commandLine);
-    window.board().showStep(commandLine.step);
-    if (!commandLine.headless) {
-        print(stderr, "uiapi-workbench: no display, working as with --headless\n");
-    }
-    QJsonObject const facts = Workbench::runHeadless(window, session, commandLine);
-    print(stdout, QJsonDocument(facts).toJson());
-    for (auto const & picture : facts["screenshots"].toArray()) {
-        print(stderr, "uiapi-workbench: wrote " + picture.toString().toUtf8() + '\n');
-    }
-    for (auto const & file : facts["analysis"].toObject()["files"].toArray()) {
-        print(stderr, "uiapi-workbench: wrote " + file.toString().toUtf8() + '\n');
-    }
-    for (auto const & failure : facts["analysis"].toObject()["errors"].toArray()) {
-        fail(failure.toString()); // of the checks; errors of layers are in the log
-    }
-    return facts["errors"].toArray().isEmpty() ? 0 : exitIncomplete;
+    QString const error = Workbench::prepare(commandLine);
+    return error.isEmpty() ? runWindows(log, commandLine) : failWith(error, headless);
 }

@@ -167,7 +167,7 @@ void CheckContext::forEachMeasurable(API::layer_info const & layer, char const *
             if (!inside && !leaves) {
                 ++ignored.outside;
             } else if (shape.kind == SymbolShape::Kind::Drawn && !pen) {
-                visit(feature, shape);
+                visit(static_cast<std::uint32_t>(i), feature, shape);
             } else if (shape.kind != SymbolShape::Kind::Empty || !shape.problem.empty()) {
                 ignored.add(symbol.name, shape);
             }

@@ -6,6 +6,7 @@
 #include "state/Job.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -24,9 +25,10 @@ public:
     std::string const & step() const { return m_step; }
     BoardArea const & area() const { return m_area; }
 
-    using Visit = std::function<void(Feature const & feature, SymbolShape const & shape)>;
-    /// Visits the measurable pads, lines and arcs of a layer in file order, and notes what cannot be measured
-    /// on the layer. The shape stays valid as long as this object.
+    using Visit =
+        std::function<void(std::uint32_t index, Feature const & feature, SymbolShape const & shape)>;
+    /// Visits the measurable pads, lines and arcs of a layer in file order, with their place in it, and notes
+    /// what cannot be measured on the layer. The shape stays valid as long as this object.
     void forEachMeasurable(API::layer_info const & layer, char const * table, Visit const & visit);
 
     SymbolShapes & shapes() { return m_shapes; }

@@ -20,9 +20,10 @@ int roundedInt(double value)
     return UIAPI::saturatedInt(std::round(value));
 }
 
-Measurement measurement(int type, double measure, std::initializer_list<double> points)
+Measurement measurement(int type, double measure, std::initializer_list<double> points,
+                        RecordNets::Numbers nets)
 {
-    Measurement result{measure, {type, floorMil(measure), {}}};
+    Measurement result{measure, {type, floorMil(measure), {}}, nets};
     result.info.points.reserve(points.size());
     for (double const value : points) {
         result.info.points.push_back(roundedInt(value));
@@ -30,16 +31,29 @@ Measurement measurement(int type, double measure, std::initializer_list<double> 
     return result;
 }
 
-std::vector<API::check_info> sorted(std::vector<Measurement> measurements)
+SortedRecords sorted(std::vector<Measurement> measurements)
 {
     std::stable_sort(measurements.begin(), measurements.end(),
                      [](Measurement const & a, Measurement const & b) { return a.measure < b.measure; });
-    std::vector<API::check_info> records;
-    records.reserve(measurements.size());
+    SortedRecords out;
+    out.records.reserve(measurements.size());
+    out.nets.reserve(measurements.size());
     for (Measurement & each : measurements) {
-        records.push_back(std::move(each.info));
+        out.records.push_back(std::move(each.info));
+        out.nets.push_back(each.nets);
     }
-    return records;
+    return out;
+}
+
+void fileNets(RecordNets & all, char const * table, int item, std::string const & layer,
+              std::vector<RecordNets::Numbers> nets)
+{
+    bool const isKnown = std::any_of(nets.begin(), nets.end(), [](RecordNets::Numbers const & each) {
+        return each[0] != RecordNets::unknown || each[1] != RecordNets::unknown;
+    });
+    if (isKnown) {
+        all.lists[{table, item, layer}] = std::move(nets);
+    }
 }
 
 } // namespace KVCAM::Embedded

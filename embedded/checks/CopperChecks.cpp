@@ -51,30 +51,38 @@ void agreeOnTies(Lists & lists)
 } // namespace
 
 void checkCopper(CheckContext & context, API::layer_info const & layer, std::vector<Hole> const & holes,
-                 bool outer, CheckResults & results)
+                 bool outer, FeatureNets const & named, CheckResults & results)
 {
     std::vector<Measurement> widths;
     std::vector<Pad> all;
-    context.forEachMeasurable(layer, "signal", [&](Feature const & feature, SymbolShape const & shape) {
-        auto const & p = feature.points;
-        if (feature.kind == 'P') {
-            all.push_back(
-                {placement(p[0], feature.angle, feature.mirrored), &shape, (feature.marks & markSmd) != 0});
-        } else if (double const width = trackWidth(feature, shape);
-                   !context.area().isOutline(feature, width)) {
-            bool const arc = feature.kind == 'A';
-            API::point const middle = arc ? arcMiddle(p[0], p[1], p[2], feature.clockwise) : API::point();
-            API::point const from = arc ? middle : p[0];
-            API::point const to = arc ? middle : p[1];
-            widths.push_back(measurement(1, width, {from.x, from.y, to.x, to.y, width}));
-        }
-    });
+    context.forEachMeasurable(
+        layer, "signal", [&](std::uint32_t index, Feature const & feature, SymbolShape const & shape) {
+            std::uint32_t const net = named.of(layer.name, index);
+            auto const & p = feature.points;
+            if (feature.kind == 'P') {
+                all.push_back({placement(p[0], feature.angle, feature.mirrored), &shape,
+                               (feature.marks & markSmd) != 0, net});
+            } else if (double const width = trackWidth(feature, shape);
+                       !context.area().isOutline(feature, width)) {
+                bool const arc = feature.kind == 'A';
+                API::point const middle = arc ? arcMiddle(p[0], p[1], p[2], feature.clockwise) : API::point();
+                API::point const from = arc ? middle : p[0];
+                API::point const to = arc ? middle : p[1];
+                widths.push_back(
+                    measurement(1, width, {from.x, from.y, to.x, to.y, width}, {net, RecordNets::unknown}));
+            }
+        });
     PadChecks const checks(std::move(all), context);
 
     Lists & lists = results.signal[layer.name];
-    list(lists, lines) = sorted(std::move(widths));
-    list(lists, pads) = sorted(checks.sizes());
-    list(lists, smdToSmd) = sorted(checks.smdSpacings());
+    auto const file = [&](int item, std::vector<Measurement> measurements) {
+        SortedRecords measured = sorted(std::move(measurements));
+        list(lists, item) = std::move(measured.records);
+        fileNets(results.recordNets, "signal", item, layer.name, std::move(measured.nets));
+    };
+    file(lines, std::move(widths));
+    file(pads, checks.sizes());
+    file(smdToSmd, checks.smdSpacings());
     if (checks.isCoarse()) {
         context.note({"signal", -1, layer.name,
                       "The SMD pads drawn with large symbols of the job's own are too many: their spacing is "
@@ -82,7 +90,7 @@ void checkCopper(CheckContext & context, API::layer_info const & layer, std::vec
     }
     PadChecks::Rings found = checks.rings(holes, layer.row);
     for (std::size_t kind = 0; kind < rings.size(); ++kind) {
-        list(lists, rings.at(kind)) = sorted(std::move(found.byKind.at(kind)));
+        file(rings.at(kind), std::move(found.byKind.at(kind)));
     }
     if (outer && found.withoutPad != 0) {
         context.note({"signal", -1, layer.name,

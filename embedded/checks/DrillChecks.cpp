@@ -97,7 +97,8 @@ Measurement recordOf(Slot const & slot)
     API::point const from = slot.arcMiddle.value_or(slot.hole.place);
     API::point const to = slot.arcMiddle.value_or(slot.hole.end);
     double const width = slot.hole.diameter;
-    return measurement(1, width, {from.x, from.y, to.x, to.y, width});
+    return measurement(1, width, {from.x, from.y, to.x, to.y, width},
+                       {slot.hole.feature, RecordNets::unknown});
 }
 
 // Drops full circles and anything joined end to end with another element: they are the rout path. The same
@@ -122,6 +123,18 @@ std::vector<Slot> withoutPaths(std::vector<Slot> const & slots)
     return kept;
 }
 
+// Their nets are the features until the nets are known.
+void fileDrill(CheckResults & results, std::string const & layer, int item,
+               std::vector<Measurement> measurements)
+{
+    SortedRecords all = sorted(std::move(measurements));
+    auto & reply = results.drill[layer];
+    for (API::check_info & record : all.records) {
+        reply.add(static_cast<API::drill_check_item>(item), 0, std::move(record));
+    }
+    fileNets(results.recordNets, "drill", item, layer, std::move(all.nets));
+}
+
 void fileSlots(CheckContext & context, std::string const & layer, std::vector<Slot> const & slots,
                CheckResults & results, std::vector<Hole> & holes)
 {
@@ -137,11 +150,9 @@ void fileSlots(CheckContext & context, std::string const & layer, std::vector<Sl
             holes.push_back(slot.hole);
         }
     }
-    results.rest[slotItem][layer].at(slotList) = sorted(std::move(records));
+    results.rest[slotItem][layer].at(slotList) = sorted(std::move(records)).records;
     for (auto & [item, summary] : summaries) {
-        for (API::check_info & record : sorted(std::move(summary))) {
-            results.drill[layer].add(static_cast<API::drill_check_item>(item), 0, std::move(record));
-        }
+        fileDrill(results, layer, item, std::move(summary));
     }
     if (arcs != 0) {
         context.note(
@@ -161,31 +172,30 @@ void checkDrills(CheckContext & context, API::layer_info const & layer, CheckRes
     std::vector<Slot> slots;
     std::array<std::vector<Measurement>, 3> summaries;
 
-    context.forEachMeasurable(layer, "drill", [&](Feature const & feature, SymbolShape const & shape) {
-        double const width = shape.narrower;
-        auto const [from, to] = middleLine(feature, shape);
-        bool const arc = feature.kind == 'A';
-        bool const round = !arc && distance(from, to) == 0;
-        HoleKind const kind = kindOf(feature, width, tools, usual);
-        Hole const hole{from, to, width, kind, rows.first, rows.second};
-        if (round && drill) {
-            holes.push_back(hole);
-            summaries.at(static_cast<std::size_t>(hole.kind))
-                .push_back(measurement(5, width, {from.x, from.y, width, width}));
-        } else if (!round && (feature.kind == 'P' || !context.area().isOutline(feature, width))) {
-            slots.push_back(
-                {hole, arc ? std::optional(arcMiddle(from, to, feature.points[2], feature.clockwise))
-                           : std::nullopt});
-        }
-    });
+    context.forEachMeasurable(
+        layer, "drill", [&](std::uint32_t index, Feature const & feature, SymbolShape const & shape) {
+            double const width = shape.narrower;
+            auto const [from, to] = middleLine(feature, shape);
+            bool const arc = feature.kind == 'A';
+            bool const round = !arc && distance(from, to) == 0;
+            HoleKind const kind = kindOf(feature, width, tools, usual);
+            Hole const hole{from, to, width, index, RecordNets::unknown, kind, rows.first, rows.second};
+            if (round && drill) {
+                holes.push_back(hole);
+                summaries.at(static_cast<std::size_t>(hole.kind))
+                    .push_back(
+                        measurement(5, width, {from.x, from.y, width, width}, {index, RecordNets::unknown}));
+            } else if (!round && (feature.kind == 'P' || !context.area().isOutline(feature, width))) {
+                slots.push_back(
+                    {hole, arc ? std::optional(arcMiddle(from, to, feature.points[2], feature.clockwise))
+                               : std::nullopt});
+            }
+        });
 
     fileSlots(context, layer.name, drill ? slots : withoutPaths(slots), results, holes);
     if (drill) {
-        auto & reply = results.drill[layer.name];
         for (std::size_t kind = 0; kind < summaries.size(); ++kind) {
-            for (API::check_info & record : sorted(std::move(summaries.at(kind)))) {
-                reply.add(static_cast<API::drill_check_item>(summaryItems.at(kind)), 0, std::move(record));
-            }
+            fileDrill(results, layer.name, summaryItems.at(kind), std::move(summaries.at(kind)));
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "checks/CheckContext.h"
 
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <utility>
@@ -19,9 +20,11 @@ enum class HoleKind : int
 /// A round hole or a straight slot, and the matrix rows it passes through.
 struct Hole
 {
-    API::point place;    ///< the centre; of a slot one end of its centre line
-    API::point end;      ///< of a slot the other end; of a round hole its place
-    double diameter = 0; ///< of a slot its width
+    API::point place;                        ///< the centre; of a slot one end of its centre line
+    API::point end;                          ///< of a slot the other end; of a round hole its place
+    double diameter = 0;                     ///< of a slot its width
+    std::uint32_t feature = 0;               ///< in its layer's file
+    std::uint32_t net = RecordNets::unknown; ///< its number
     HoleKind kind = HoleKind::Plated;
     int firstRow = 0;
     int lastRow = std::numeric_limits<int>::max();

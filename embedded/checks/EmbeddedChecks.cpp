@@ -1,5 +1,6 @@
 #include "EmbeddedChecks.h"
 
+#include "checks/CheckRecords.h"
 #include "checks/CopperChecks.h"
 #include "checks/CopperItems.h"
 #include "checks/Nets.h"
@@ -76,8 +77,23 @@ std::pair<int, int> outerRows(Matrix const & matrix)
     return rows;
 }
 
-void checkAllSpacings(CheckContext & context, std::vector<API::layer_info> const & coppers,
-                      std::vector<API::layer_info> const & drills, double reach, CheckResults & results)
+// The records of holes have the numbers of features until the nets are known.
+void nameHoles(FeatureNets const & named, RecordNets & all)
+{
+    decltype(all.lists) lists;
+    std::swap(lists, all.lists);
+    for (auto & [key, nets] : lists) {
+        auto const & [table, item, layer] = key;
+        for (RecordNets::Numbers & each : nets) {
+            each[0] = named.of(layer, each[0]);
+        }
+        fileNets(all, table.c_str(), item, layer, std::move(nets));
+    }
+}
+
+FeatureNets checkAllSpacings(CheckContext & context, std::vector<API::layer_info> const & coppers,
+                             std::vector<API::layer_info> const & drills, double reach,
+                             CheckResults & results)
 {
     PlatedHoles holes = collectHoles(context, drills);
     ItemShapes const rout = collectRout(context, drills);
@@ -89,7 +105,8 @@ void checkAllSpacings(CheckContext & context, std::vector<API::layer_info> const
         layers.push_back(collectCopper(context, layer, holes));
         context.endStage();
     }
-    results.nets = assignNets(context, layers, holes);
+    FeatureNets named = assignNets(context, layers, holes, results);
+    nameHoles(named, results.recordNets);
     context.endStage();
     checkCloseHoles(context, holes, reach, results);
     context.endStage();
@@ -97,6 +114,7 @@ void checkAllSpacings(CheckContext & context, std::vector<API::layer_info> const
         checkSpacings(context, layer, holes, rout.size() == 0 ? nullptr : &rout, reach, results);
         context.endStage();
     }
+    return named;
 }
 
 CheckResults run(CheckContext & context, CheckOptions const & options)
@@ -112,17 +130,24 @@ CheckResults run(CheckContext & context, CheckOptions const & options)
 
     CheckResults results;
     std::vector<Hole> holes;
+    std::vector<std::size_t> ends; // of the holes, by drill layer
     for (API::layer_info const & layer : drills) {
         checkDrills(context, layer, results, holes);
+        ends.push_back(holes.size());
         context.endStage();
     }
     // First, since they need the most memory and few records exist yet.
     double const reach = std::max(leastReach, options.spacingReach) * 25.4;
-    checkAllSpacings(context, coppers, drills, reach, results);
+    FeatureNets const named = checkAllSpacings(context, coppers, drills, reach, results);
+    for (std::size_t hole = 0, layer = 0; hole < holes.size(); ++hole) {
+        for (; hole == ends[layer]; ++layer) {
+        }
+        holes[hole].net = named.of(drills[layer].name, holes[hole].feature);
+    }
     std::pair<int, int> const rows = outerRows(context.job().matrix());
     for (API::layer_info const & layer : coppers) {
         bool const outer = layer.row == rows.first || layer.row == rows.second;
-        checkCopper(context, layer, holes, outer, results);
+        checkCopper(context, layer, holes, outer, named, results);
         context.endStage();
     }
     results.notChecked = context.takeNotes();

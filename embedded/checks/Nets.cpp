@@ -234,7 +234,24 @@ private:
 
 } // namespace
 
-std::string assignNets(CheckContext & context, std::vector<CopperLayer> & layers, PlatedHoles & holes)
+void FeatureNets::set(std::string const & layer, std::uint32_t feature, std::uint32_t net)
+{
+    std::vector<std::uint32_t> & nets = m_nets[layer];
+    if (feature >= nets.size()) {
+        nets.resize(feature + 1, RecordNets::unknown);
+    }
+    nets[feature] = net;
+}
+
+std::uint32_t FeatureNets::of(std::string const & layer, std::uint32_t feature) const
+{
+    auto const nets = m_nets.find(layer);
+    return nets == m_nets.end() || feature >= nets->second.size() ? RecordNets::unknown
+                                                                  : nets->second[feature];
+}
+
+FeatureNets assignNets(CheckContext & context, std::vector<CopperLayer> & layers, PlatedHoles & holes,
+                       CheckResults & results)
 {
     std::string reason = "the step has no eda/data";
     std::optional<NetsFile> file;
@@ -271,17 +288,31 @@ std::string assignNets(CheckContext & context, std::vector<CopperLayer> & layers
         std::uint32_t const net = sets.listedNet(number);
         return net == nothing ? listed + sets.find(number) : net;
     };
+    FeatureNets named;
+    auto const name = [&](std::string const & layer, std::uint32_t feature, std::uint32_t net) {
+        if (net < listed && feature != nothing) {
+            named.set(layer, feature, net);
+        }
+    };
     for (std::size_t i = 0; i < layers.size(); ++i) {
         for (std::uint32_t item = 0; item < layers[i].items.size(); ++item) {
-            layers[i].items[item].net = netOf(numbers.of(layers, i, item));
+            CopperItem & each = layers[i].items[item];
+            each.net = netOf(numbers.of(layers, i, item));
+            name(layers[i].name, each.feature, each.net);
         }
     }
     for (std::uint32_t hole = 0; hole < holes.list.size(); ++hole) {
-        holes.list[hole].net = netOf(numbers.ofHole(hole));
+        PlatedHole & each = holes.list[hole];
+        each.net = netOf(numbers.ofHole(hole));
+        name(holes.layers[each.layer].name, each.feature, each.net);
     }
-    return reason.empty() ? "The nets are those of eda/data (" + std::to_string(listed) +
-                                "); what it does not list belongs to what it touches."
-                          : "The nets come from copper and plated holes that touch: " + reason + '.';
+    if (reason.empty()) {
+        results.recordNets.names = std::move(file->nets);
+    }
+    results.nets = reason.empty() ? "The nets are those of eda/data (" + std::to_string(listed) +
+                                        "); what it does not list belongs to what it touches."
+                                  : "The nets come from copper and plated holes that touch: " + reason + '.';
+    return named;
 }
 
 } // namespace KVCAM::Embedded

@@ -130,7 +130,8 @@ Measurement ringOf(Hole const & hole, Pad const & pad, double depth)
     double const ring = std::max(0.0, depth - hole.diameter / 2);
     return measurement(3, ring,
                        {middle.x, middle.y, hole.diameter, place.x, place.y, pad.shape->narrower, ring,
-                        distance(middle, place)});
+                        distance(middle, place)},
+                       {hole.net, pad.net});
 }
 
 Shape shapeOf(Hole const & hole)
@@ -164,7 +165,8 @@ std::vector<Measurement> PadChecks::sizes() const
     for (Pad const & pad : m_pads) {
         API::point const at = pad.where.place;
         double const least = pad.shape->narrower;
-        sizes.push_back(measurement(5, least, {at.x, at.y, least, pad.shape->wider}));
+        sizes.push_back(
+            measurement(5, least, {at.x, at.y, least, pad.shape->wider}, {pad.net, RecordNets::unknown}));
     }
     return sizes;
 }
@@ -204,8 +206,9 @@ std::vector<Measurement> PadChecks::smdSpacings() const
     spacings.reserve(pairs.size());
     for (auto const & [a, b] : pairs) {
         Gap const gap = gapBetween(copperOf(a), copperOf(b));
-        spacings.push_back(
-            measurement(2, gap.distance, {gap.from.x, gap.from.y, gap.to.x, gap.to.y, gap.distance}));
+        spacings.push_back(measurement(2, gap.distance,
+                                       {gap.from.x, gap.from.y, gap.to.x, gap.to.y, gap.distance},
+                                       {smds[a]->net, smds[b]->net}));
     }
     return spacings;
 }

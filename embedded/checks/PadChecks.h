@@ -6,6 +6,7 @@
 #include "geometry/SpatialGrid.h"
 
 #include <array>
+#include <cstdint>
 #include <vector>
 
 namespace KVCAM::Embedded {
@@ -16,6 +17,7 @@ struct Pad
     Placement where;
     SymbolShape const * shape = nullptr;
     bool smd = false;
+    std::uint32_t net = RecordNets::unknown;
 };
 
 /// Measures between the pads of one layer and their neighbours or holes.

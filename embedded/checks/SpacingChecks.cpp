@@ -84,9 +84,13 @@ void sortDistinct(Pairs & pairs, Less const & less, Same const & same)
     pairs.erase(std::unique(pairs.begin(), pairs.end(), same), pairs.end());
 }
 
-// Each pair once, and once what several pairs of the same place tell alike; the smallest first.
-std::vector<API::check_info> recordsOf(Pairs pairs)
+// Each pair once, and once what several pairs of the same nets and place tell alike; the smallest first.
+template <class NetOf>
+SortedRecords recordsOf(Pairs pairs, NetOf const & netOf)
 {
+    auto const nets = [&netOf](Pair const & pair) {
+        return std::minmax({netOf(pair.first), netOf(pair.second)});
+    };
     auto const items = [](Pair const & pair) { return std::tie(pair.first, pair.second); };
     auto const rest = [](Pair const & pair) { return std::tie(pair.distance, pair.places); };
     sortDistinct(
@@ -98,20 +102,39 @@ std::vector<API::check_info> recordsOf(Pairs pairs)
     sortDistinct(
         pairs,
         [&](Pair const & a, Pair const & b) {
-            return std::tuple(placeOf(a), rest(a), items(a)) < std::tuple(placeOf(b), rest(b), items(b));
+            auto const place = placeOf(a);
+            auto const otherPlace = placeOf(b);
+            return place != otherPlace
+                       ? place < otherPlace
+                       : std::tuple(nets(a), rest(a), items(a)) < std::tuple(nets(b), rest(b), items(b));
         },
-        [](Pair const & a, Pair const & b) { return placeOf(a) == placeOf(b); });
+        [&](Pair const & a, Pair const & b) { return placeOf(a) == placeOf(b) && nets(a) == nets(b); });
     std::sort(pairs.begin(), pairs.end(), [&](Pair const & a, Pair const & b) {
         return a.distance != b.distance ? a.distance < b.distance
                                         : std::tuple(placeOf(a), items(a)) < std::tuple(placeOf(b), items(b));
     });
-    std::vector<API::check_info> records;
-    records.reserve(pairs.size());
+    SortedRecords out;
+    out.records.reserve(pairs.size());
+    out.nets.reserve(pairs.size());
     for (Pair const & pair : pairs) {
         auto const & p = pair.places;
-        records.push_back({2, floorMil(pair.distance), {p[0], p[1], p[2], p[3], roundedInt(pair.distance)}});
+        out.records.push_back(
+            {2, floorMil(pair.distance), {p[0], p[1], p[2], p[3], roundedInt(pair.distance)}});
+        out.nets.push_back({netOf(pair.first), netOf(pair.second)});
     }
-    return records;
+    return out;
+}
+
+// Leaves out the numbers of nets without a name.
+void fileNamed(RecordNets & all, char const * table, int item, std::string const & layer,
+               std::vector<RecordNets::Numbers> nets)
+{
+    for (RecordNets::Numbers & pair : nets) {
+        for (std::uint32_t & net : pair) {
+            net = net < all.names.size() ? net : RecordNets::unknown;
+        }
+    }
+    fileNets(all, table, item, layer, std::move(nets));
 }
 
 // What an item of these kinds is measured to; 0 if the category does not concern it.
@@ -268,16 +291,24 @@ void checkSpacings(CheckContext const & context, CopperLayer & layer, PlatedHole
             toRout = routPairs(context, layer, search, *rout, limit);
         }
     }
+    std::vector<std::uint32_t> nets; // by item
+    nets.reserve(layer.items.size());
+    for (CopperItem const & item : layer.items) {
+        nets.push_back(item.net);
+    }
     layer = {}; // as large as the records that follow
     auto & lists = results.signal[layerName];
-    auto const list = [&lists](int item) -> std::vector<API::check_info> & {
-        return lists[static_cast<API::signal_layers_checks_items>(item)].lists[0];
+    auto const file = [&](int item, Pairs & found) {
+        SortedRecords all = recordsOf(
+            std::move(found), [&nets](std::uint32_t each) { return each == nothing ? nothing : nets[each]; });
+        lists[static_cast<API::signal_layers_checks_items>(item)].lists[0] = std::move(all.records);
+        fileNamed(results.recordNets, "signal", item, layerName, std::move(all.nets));
     };
     for (std::size_t i = 0; i < categories.size(); ++i) {
-        list(categories.at(i).item) = recordsOf(std::move(pairs.at(i)));
+        file(categories.at(i).item, pairs.at(i));
     }
     if (rout != nullptr) {
-        list(routToCopper) = recordsOf(std::move(toRout));
+        file(routToCopper, toRout);
     }
 }
 
@@ -311,10 +342,14 @@ void checkCloseHoles(CheckContext const & context, PlatedHoles const & holes, do
             }
         }
         for (auto & [layer, pairs] : byLayer) {
-            auto & reply = results.drill[holes.layers[layer].name];
-            for (API::check_info & record : recordsOf(std::move(pairs))) {
+            std::string const & name = holes.layers[layer].name;
+            auto & reply = results.drill[name];
+            SortedRecords all =
+                recordsOf(std::move(pairs), [&holes](std::uint32_t hole) { return holes.list[hole].net; });
+            for (API::check_info & record : all.records) {
                 reply.add(static_cast<API::drill_check_item>(check.item), 0, std::move(record));
             }
+            fileNamed(results.recordNets, "drill", check.item, name, std::move(all.nets));
         }
     }
 }

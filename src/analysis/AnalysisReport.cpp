@@ -4,6 +4,9 @@
 #include "analysis/CategoryTables.h"
 #include "analysis/CheckKinds.h"
 
+#include <QDateTime>
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <functional>
 #include <string_view>
@@ -62,6 +65,17 @@ void AnalysisReport::setJobStep(std::string const & job, std::string const & ste
 {
     m_job = job;
     m_step = step;
+}
+
+bool AnalysisReport::setDate(std::string const & date)
+{
+    QRegularExpression const form(R"(\A\d{4}-\d\d-\d\d(T\d\d:\d\d:\d\d(Z|[+-]\d\d:\d\d)?)?\z)");
+    QString const text = QString::fromStdString(date);
+    bool const isDate = form.match(text).hasMatch() && QDateTime::fromString(text, Qt::ISODate).isValid();
+    if (isDate || date.empty()) {
+        m_date = date;
+    }
+    return isDate || date.empty();
 }
 
 void AnalysisReport::setNetLookup(NetLookup lookup)
@@ -139,14 +153,15 @@ void AnalysisReport::setLevels(std::string const & table, std::vector<Analysis_R
             grade(entry);
         }
     }
+    if (!m_waivers.empty()) { // those of the other tables too are to be matched anew
+        gradeAll();
+    }
 }
 
 void AnalysisReport::setLevelUnit(Unit unit)
 {
     m_unit = unit;
-    for (ReportCategory & entry : m_categories) {
-        grade(entry);
-    }
+    gradeAll();
 }
 
 ReportCategory const * AnalysisReport::find(std::string const & table, int number) const
@@ -227,6 +242,7 @@ void AnalysisReport::gradeEntry(ReportCategory & category, ReportEntry & entry) 
     entry.severity = category.levels && entry.measured
                          ? gradeMeasured(*category.levels, *entry.measured, m_unit)
                          : Severity::None;
+    entry.waiver.reset();
     ++category.counts[static_cast<std::size_t>(entry.severity)];
 }
 
@@ -234,9 +250,18 @@ void AnalysisReport::grade(ReportCategory & category) const
 {
     category.levels = levelsOf(category);
     category.counts = {};
+    category.waived = {};
     for (ReportEntry & entry : category.entries) {
         gradeEntry(category, entry);
     }
+}
+
+void AnalysisReport::gradeAll()
+{
+    for (ReportCategory & category : m_categories) {
+        grade(category);
+    }
+    matchWaivers();
 }
 
 std::optional<double> limitOf(ReportCategory const & category, ReportEntry const & entry)

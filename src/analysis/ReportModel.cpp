@@ -48,9 +48,9 @@ struct ReportModel::Private
     {
         for (Group & each : groups) {
             each.counts = {};
-            for (std::size_t const entry : each.entries) {
-                ++each.counts[static_cast<std::size_t>(
-                    categories().at(each.category).entries.at(entry).severity)];
+            for (std::size_t const index : each.entries) {
+                ReportEntry const & entry = categories().at(each.category).entries.at(index);
+                each.counts[static_cast<std::size_t>(entry.severity)] += entry.waiver ? 0 : 1;
             }
         }
     }
@@ -278,7 +278,7 @@ SeverityCounts ReportModel::countsAt(QModelIndex const & index) const
     Row const row = at(index);
     SeverityCounts counts{};
     if (row.entry != nullptr) {
-        counts[static_cast<std::size_t>(row.entry->severity)] = 1;
+        counts[static_cast<std::size_t>(row.entry->severity)] = row.entry->waiver ? 0 : 1;
         return counts;
     }
     if (row.category == nullptr) {
@@ -336,12 +336,17 @@ QVariant ReportModel::data(QModelIndex const & index, int role) const
     if (!index.isValid()) {
         return {};
     }
+    ReportEntry const * const entry = at(index).entry;
+    bool const isWaived = entry != nullptr && entry->waiver;
     Severity const worst = worstOf(countsAt(index));
     bool const isSign = index.column() == SeverityColumn;
     switch (role) {
     case Qt::DisplayRole:
         return text(index);
     case Qt::ToolTipRole:
+        if (isWaived) {
+            return tr("waived: %1").arg(QString::fromStdString(report()->waivers().at(*entry->waiver).reason));
+        }
         return isSign ? severityName(worst) : text(index);
     case Qt::TextAlignmentRole: {
         bool const isNumber = index.column() >= CountColumn && index.column() <= LimitColumn;

@@ -149,7 +149,7 @@ QString ReportModel::sumText(int column, Row const & row, QModelIndex const & in
                    : QString();
     }
     case PositionColumn:
-        return count == 0 ? tr("nothing found") : QString();
+        return rowCount(index.siblingAtColumn(NameColumn)) == 0 ? tr("nothing found") : QString();
     default:
         break;
     }

@@ -36,6 +36,13 @@ struct ReportEntry
     std::optional<std::size_t> waiver;         ///< what accepts it, in AnalysisReport::waivers()
 };
 
+/// Whether an entry is as bad as a severity or worse, and nobody has accepted it. Never for None.
+/// \since 0.2
+inline bool isViolation(ReportEntry const & entry, Severity from)
+{
+    return from != Severity::None && entry.severity >= from && !entry.waiver;
+}
+
 /// The measurements of one category.
 struct ReportCategory
 {
@@ -43,18 +50,38 @@ struct ReportCategory
     int number = 0;    ///< of the category in the table, or of the unified item
     std::string name;  ///< "Lines"; "#63" for a number not in the table
     std::optional<Analysis_Ranges_Record> levels; ///< as set by setLevels()
-    SeverityCounts counts{};                      ///< of its entries
+    SeverityCounts counts{};                      ///< of its entries that are not waived
+    SeverityCounts waived{};                      ///< of its waived entries
     std::vector<ReportEntry> entries;             ///< by layer, level and the engine's order
 };
+
+/// What became of a waiver in a report.
+enum class WaiverState : int
+{
+    Unmatched, ///< no violation is the one that it accepts
+    Used,      ///< it accepts a violation
+    Expired    ///< its last day has passed: it accepts nothing
+};
+
+/// By state, as reports write it.
+inline constexpr std::array<char const *, 3> waiverStateNames = {"unmatched", "used", "expired"};
+
+/// The name of a state; that of Unmatched for an invalid number.
+constexpr char const * waiverStateName(WaiverState state)
+{
+    auto const row = static_cast<std::size_t>(state);
+    return waiverStateNames[row < waiverStateNames.size() ? row : 0];
+}
 
 /// A violation that somebody has accepted.
 struct Waiver
 {
-    std::string id;      ///< of the violation, see violationId()
-    std::string reason;  ///< one sentence, UTF-8
-    std::string author;  ///< UTF-8
-    std::string date;    ///< when it was accepted, "2026-11-22"
-    std::string expires; ///< the last day on which it counts; empty: for good
+    std::string id;                             ///< of the violation, see violationId()
+    std::string reason;                         ///< one sentence, UTF-8
+    std::string author;                         ///< UTF-8
+    std::string date;                           ///< when it was accepted, "2026-11-22"
+    std::string expires;                        ///< the last day on which it counts; empty: for good
+    WaiverState state = WaiverState::Unmatched; ///< set by AnalysisReport::applyWaivers(); in no file
 };
 
 /// A check that was not run.

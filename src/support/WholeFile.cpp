@@ -16,10 +16,10 @@ constexpr char const * notRegular = "It is not a regular file.";
 
 } // namespace
 
-Content read(QString const & path, QIODevice::OpenMode extra)
+Content read(QString const & path, QIODevice::OpenMode extra, qint64 largest)
 {
     QByteArray bytes;
-    switch (readRegular(path, largestFile, bytes)) {
+    switch (readRegular(path, largest, bytes)) {
     case RegularFile::NotRegular:
         return {ReadStatus::OpenFailed, {}, QLatin1String(notRegular)};
     case RegularFile::NotOpened:
@@ -30,7 +30,7 @@ Content read(QString const & path, QIODevice::OpenMode extra)
     case RegularFile::TooLarge:
         return {ReadStatus::OpenFailed,
                 {},
-                QStringLiteral("The file is too large: more than %1 bytes.").arg(largestFile)};
+                QStringLiteral("The file is too large: more than %1 bytes.").arg(largest)};
     case RegularFile::Read:
         break;
     }

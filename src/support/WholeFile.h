@@ -10,7 +10,8 @@
 /// Files read and replaced as a whole. Nothing here logs; the loader words its own failures.
 namespace KVCAM::UIAPI::WholeFile {
 
-/// The largest file that is read. Real files have a few kilobytes; a larger one is a mistake or an attack.
+/// The largest file that is read unless a caller expects larger ones. Real files have a few kilobytes; a
+/// larger one is a mistake or an attack.
 constexpr qint64 largestFile = 64 * 1024 * 1024;
 
 enum class ReadStatus
@@ -35,9 +36,9 @@ struct Content
     QString reason;                     ///< one English sentence on why it is not Ok
 };
 
-/// Reads a regular file, or a link to one, of at most `largestFile` bytes. Never blocks. `extra` is added to
+/// Reads a regular file, or a link to one, of at most `largest` bytes. Never blocks. `extra` is added to
 /// ReadOnly (QIODevice::Text for a text-mode read).
-Content read(QString const & path, QIODevice::OpenMode extra = {});
+Content read(QString const & path, QIODevice::OpenMode extra = {}, qint64 largest = largestFile);
 
 /// Reads and parses such a file.
 ReadResult readJson(QString const & path, QIODevice::OpenMode extra = {});

@@ -51,6 +51,54 @@
         <source>The view cannot be stored.</source>
         <translation>无法保存该视图。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is unknown here.</source>
+        <translation>此处不认识“%1”。</translation>
+    </message>
+    <message>
+        <source>The report is not of version %1 of the format. Write it again.</source>
+        <translation>报告的格式不是版本 %1。请重新写出报告。</translation>
+    </message>
+    <message>
+        <source>A measurement has at most two places.</source>
+        <translation>一个测量最多有两个位置。</translation>
+    </message>
+    <message>
+        <source>A measurement has two nets.</source>
+        <translation>一个测量有两个网络。</translation>
+    </message>
+    <message>
+        <source>The category %1 of the table &quot;%2&quot; is unknown or there twice.</source>
+        <translation>表“%2”的类别 %1 未知或出现了两次。</translation>
+    </message>
+    <message>
+        <source>A severity or waiver in the category %1 of the table &quot;%2&quot; does not follow from the levels and waivers.</source>
+        <translation>表“%2”的类别 %1 中有严重程度或豁免与级别和豁免不符。</translation>
+    </message>
+    <message>
+        <source>The report &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取报告“%1”：%2</translation>
+    </message>
+    <message>
+        <source>This is not the id of a violation.</source>
+        <translation>这不是违规的标识。</translation>
+    </message>
+    <message>
+        <source>A waiver needs a reason and an author.</source>
+        <translation>豁免需要理由和作者。</translation>
+    </message>
+    <message>
+        <source>A day is written as 2026-11-22.</source>
+        <translation>日期应写作 2026-11-22。</translation>
+    </message>
+    <message>
+        <source>The version is not known.</source>
+        <translation>版本未知。</translation>
+    </message>
+    <message>
+        <source>The waivers &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取豁免文件“%1”：%2</translation>
+    </message>
 </context>
 <context>
     <name>KVFileDialog</name>
@@ -623,6 +671,10 @@
 <context>
     <name>KVCAM::UIAPI::Ext::ReportModel</name>
     <message>
+        <source>waived: %1</source>
+        <translation>已豁免：%1</translation>
+    </message>
+    <message>
         <source>not known</source>
         <translation>未知</translation>
     </message>
@@ -715,6 +767,356 @@
     <message>
         <source>Log files cannot be written into &quot;%1&quot;.</source>
         <translation>无法在“%1”中写入日志文件。</translation>
+    </message>
+</context>
+<context>
+    <name>Json</name>
+    <message>
+        <source>The member is unknown.</source>
+        <translation>此成员未知。</translation>
+    </message>
+    <message>
+        <source>The member is there twice.</source>
+        <translation>此成员出现了两次。</translation>
+    </message>
+    <message>
+        <source>The member &quot;%1&quot; is missing.</source>
+        <translation>缺少成员“%1”。</translation>
+    </message>
+    <message>
+        <source>A text is expected.</source>
+        <translation>此处应为文本。</translation>
+    </message>
+    <message>
+        <source>A number is expected.</source>
+        <translation>此处应为数字。</translation>
+    </message>
+    <message>
+        <source>The number is out of range.</source>
+        <translation>数字超出范围。</translation>
+    </message>
+    <message>
+        <source>A whole number is expected.</source>
+        <translation>此处应为整数。</translation>
+    </message>
+    <message>
+        <source>true or false is expected.</source>
+        <translation>此处应为 true 或 false。</translation>
+    </message>
+    <message>
+        <source>A value is expected.</source>
+        <translation>此处应为一个值。</translation>
+    </message>
+    <message>
+        <source>Something follows the end.</source>
+        <translation>结尾之后还有内容。</translation>
+    </message>
+    <message>
+        <source>line %1, byte %2</source>
+        <translation>第 %1 行，第 %2 字节</translation>
+    </message>
+    <message>
+        <source>An object is expected.</source>
+        <translation>此处应为对象。</translation>
+    </message>
+    <message>
+        <source>An array is expected.</source>
+        <translation>此处应为数组。</translation>
+    </message>
+    <message>
+        <source>The file is nested too deeply.</source>
+        <translation>文件嵌套过深。</translation>
+    </message>
+    <message>
+        <source>A comma or the end of the list is expected.</source>
+        <translation>此处应为逗号或列表结尾。</translation>
+    </message>
+    <message>
+        <source>The name of a member is expected.</source>
+        <translation>此处应为成员名。</translation>
+    </message>
+    <message>
+        <source>A colon is expected.</source>
+        <translation>此处应为冒号。</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>文本不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The text does not end.</source>
+        <translation>文本没有结尾。</translation>
+    </message>
+    <message>
+        <source>The text has an unknown escape.</source>
+        <translation>文本中有未知的转义。</translation>
+    </message>
+</context>
+<context>
+    <name>HtmlReport</name>
+    <message>
+        <source>Analysis report</source>
+        <translation>分析报告</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>料号</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Waived</source>
+        <translation>已豁免</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未检查</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>检查项</translation>
+    </message>
+    <message>
+        <source>Level %1</source>
+        <translation>%1 级别</translation>
+    </message>
+    <message>
+        <source>Checks</source>
+        <translation>检查项</translation>
+    </message>
+    <message>
+        <source>No check was run.</source>
+        <translation>没有运行任何检查。</translation>
+    </message>
+    <message>
+        <source>Check or layer</source>
+        <translation>检查项或层</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Not listed: %1.</source>
+        <translation>未列出：%1。</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>章节</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>变化</translation>
+    </message>
+    <message>
+        <source>Track widths</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation>测量结果</translation>
+    </message>
+    <message>
+        <source>Measurements: %1, of which %2 are listed.</source>
+        <translation>测量结果共 %1 项，其中列出 %2 项。</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>测量值</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>层</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Nets</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>The JSON report of the same run holds all of them.</source>
+        <translation>同一次运行的 JSON 报告包含全部测量结果。</translation>
+    </message>
+    <message>
+        <source>%1 holds all of them.</source>
+        <translation>全部测量结果见 %1。</translation>
+    </message>
+    <message>
+        <source>Measurements that are counted but not listed: %1.</source>
+        <translation>已计数但未列出的测量结果：%1。</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>已消除</translation>
+    </message>
+    <message>
+        <source>Better</source>
+        <translation>改善</translation>
+    </message>
+    <message>
+        <source>Worse</source>
+        <translation>恶化</translation>
+    </message>
+    <message>
+        <source>Not checked any more</source>
+        <translation>不再检查</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>未变</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>此前</translation>
+    </message>
+    <message>
+        <source>Is</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Violations</source>
+        <translation>违规</translation>
+    </message>
+    <message>
+        <source>Compared with the report of %1, step %2, dated %3.</source>
+        <translation>与料号 %1、步骤 %2 的报告（日期 %3）比较。</translation>
+    </message>
+    <message>
+        <source>The levels of %1 differ.</source>
+        <translation>%1 的级别不同。</translation>
+    </message>
+    <message>
+        <source>%1 more here</source>
+        <translation>此处还有 %1 个</translation>
+    </message>
+    <message>
+        <source>Violations marked: %1</source>
+        <translation>标记的违规：%1</translation>
+    </message>
+    <message>
+        <source>no tracks</source>
+        <translation>无线路</translation>
+    </message>
+    <message>
+        <source>Narrowest track of each layer</source>
+        <translation>各层最窄的线路</translation>
+    </message>
+    <message>
+        <source>Each mark is a violation; the number beside it is that of its row below. Marks that would cover each other are shown as one, the worst.</source>
+        <translation>每个标记是一个违规，旁边的数字是其在下方表格中的序号。会互相遮挡的标记只显示最严重的一个。</translation>
+    </message>
+    <message>
+        <source>There are no levels for this check: nothing is graded.</source>
+        <translation>此检查项没有级别，因此不分级。</translation>
+    </message>
+    <message>
+        <source>A measurement has the severity of a level that it does not exceed.</source>
+        <translation>测量值不大于某级别时，即为该级别的严重程度。</translation>
+    </message>
+    <message>
+        <source>A measurement has the severity of a level that it reaches.</source>
+        <translation>测量值达到某级别时，即为该级别的严重程度。</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Measurements, the worst first</source>
+        <translation>测量结果（最严重的在前）</translation>
+    </message>
+    <message>
+        <source>A click on the title of a column sorts the table; a click on a severity at the top of the page shows or hides its rows and marks.</source>
+        <translation>点击列标题可对表格排序；点击页面顶部的严重程度可显示或隐藏相应的行和标记。</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>有效期至 %1</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>已过期</translation>
+    </message>
+    <message>
+        <source>matches no violation</source>
+        <translation>不对应任何违规</translation>
+    </message>
+    <message>
+        <source>Waivers that accept nothing</source>
+        <translation>未起作用的豁免</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>情况</translation>
+    </message>
+    <message>
+        <source>Accepted by</source>
+        <translation>批准人</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>批准日期</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>These violations have been accepted. They are in none of the other counts.</source>
+        <translation>这些违规已被接受，不计入其他数量。</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "CheckEntries.h"
 #include "config/ConfigTest.h"
+#include "harness/ReportSchema.h"
 
 #include "analysis/AnalysisReport.h"
 #include "analysis/CheckKinds.h"
@@ -124,6 +125,11 @@ protected:
         signal["bot"][signalItem(46)].lists[3] = {{2, 9, {largest, 0, largest, 1, 254}}, {4, 1, {8, 9, 1}}};
         signal["top"][signalItem(12)];
         signal["top"][signalItem(63)].lists[1] = {{0, 2, {}}};
+        report.setNetLookup([](std::string_view table, int number, std::string const & layer, int level,
+                               std::size_t index) {
+            bool const isPair = table == "SignalLayerRanges" && number == 46 && layer == "bot" && level == 3;
+            return isPair && index == 0 ? EntryNets{"VCC \"é\"", "+5V"} : EntryNets{};
+        });
         std::map<unified_check_items, std::map<std::string, unified_check_result>> rest;
         rest[UNIFIED_SLOTS]["=cmd|'/c'!\"A1\", é"].groups[3] = {{3, 1, {-5, 6, 0, 0, 0, 0, 50, 0}}};
         report.setJobStep("job\n\"1\"", "pcb");
@@ -182,19 +188,27 @@ TEST_F(ReportTest, JsonHoldsEverything)
     QJsonObject head = top;
     head.remove("categories");
     for (auto const & [object, expected] :
-         {std::pair(head, R"({"format": "analysis-report", "version": 1, "job": "job\n\"1\"", "step": "pcb",
+         {std::pair(head, R"({"format": "analysis-report", "version": 2, "job": "job\n\"1\"", "step": "pcb",
               "levelUnit": "mil", "counts": {"none": 5, "green": 0, "yellow": 1, "red": 1},
               "notChecked": [{"table": "SignalLayerRanges", "number": 3, "name": "Circuit to circuit",
                               "reason": "-needs nets"}]})"),
           {lines, R"({"table": "SignalLayerRanges", "number": 46, "name": "Lines",
               "levels": {"red": 3, "yellow": 4, "green": 5},
               "counts": {"none": 2, "green": 0, "yellow": 1, "red": 1}})"},
-          {entries[0].toObject(), R"({"layer": "bot", "level": 3, "um": 254, "mil": 10, "limit": null,
-              "severity": "none", "x_um": 2147483647, "y_um": 0.5})"}}) {
+          {entries[0].toObject(), R"({
+              "id": "SignalLayerRanges/46/bot/2147483647,1~2147483647,0/%2B5V~VCC%20%22%C3%A9%22",
+              "layer": "bot", "level": 3, "um": 254, "mil": 10, "limit": null, "limitUnit": null,
+              "severity": "none", "x_um": 2147483647, "y_um": 0.5,
+              "places": [{"x_um": 2147483647, "y_um": 0}, {"x_um": 2147483647, "y_um": 1}],
+              "nets": ["VCC \"é\"", "+5V"], "waived": false})"},
+          {entries[2].toObject(), R"({"id": "SignalLayerRanges/46/top/0,10~4,20/-", "layer": "top",
+              "level": 0, "um": 76, "mil": 2.9921259842519685, "limit": 3, "limitUnit": "mil",
+              "severity": "red", "x_um": 2, "y_um": 15,
+              "places": [{"x_um": 0, "y_um": 10}, {"x_um": 4, "y_um": 20}], "nets": [null, null],
+              "waived": false})"}}) {
         EXPECT_EQ(object, QJsonDocument::fromJson(expected).object()) << expected;
     }
     EXPECT_EQ(entries[1].toObject()["um"], QJsonValue::Null);
-    EXPECT_EQ(entries[2].toObject()["mil"], 76 / 25.4) << "reads back equal";
     EXPECT_EQ(categories[4].toObject()["entries"].toArray()[0].toObject()["layer"], "=cmd|'/c'!\"A1\", é");
     EXPECT_EQ(categories[0].toObject()["levels"], QJsonValue::Null);
     AnalysisReport empty;
@@ -203,33 +217,113 @@ TEST_F(ReportTest, JsonHoldsEverything)
               "\xEF\xBF\xBD\x01");
 }
 
-TEST_F(ReportTest, CsvHasEqualLinesAndNoFormulas)
+TEST_F(ReportTest, JsonFitsItsSchema)
 {
+    ASSERT_TRUE(writeReport(AnalysisReport(), ReportFormat::Json, "empty.json"));
+    report.setDate("2026-11-22T10:00:00Z");
+    report.setLevelUnit(Unit::Millimetre);
+    report.setLevels("DrillRanges", {{"Via Summary", nan, 1, 2}});
+    report.setLevels("SignalLayerRanges", {{"Lines", 76, 77, 77}});
+    ASSERT_TRUE(writeReport(report, ReportFormat::Json, "report.json"));
+    expectReportsFitSchema({"empty.json", "report.json"});
+}
+
+TEST_F(ReportTest, ADateIsOneOrNone)
+{
+    auto const written = [&] {
+        return QJsonDocument::fromJson(reportText(report, ReportFormat::Json))["date"];
+    };
+    EXPECT_TRUE(written().isUndefined());
+    for (char const * date :
+         {"2026-11-22", "2026-11-22T10:00:00", "2026-11-22T10:00:00Z", "2024-02-29T23:59:59+08:00"}) {
+        EXPECT_TRUE(report.setDate(date)) << date;
+        EXPECT_EQ(written(), date);
+    }
+    for (char const * date : {"2026-02-29", "22.11.2026", "2026-11-22 10:00:00", "2026-11-22\n",
+                              " 2026-11-22", "2026-11-22T25:00:00Z", "٢٠٢٦-11-22", "now"}) {
+        EXPECT_FALSE(report.setDate(date)) << date;
+        EXPECT_EQ(report.date(), "2024-02-29T23:59:59+08:00");
+    }
+    EXPECT_TRUE(report.setDate(""));
+    EXPECT_TRUE(written().isUndefined());
+}
+
+TEST_F(ReportTest, CsvHasEqualLines)
+{
+    report.setDate("2026-11-22");
     QList<QByteArray> lines = reportText(report, ReportFormat::Csv).split('\n');
     QByteArray const head =
         "\xEF\xBB\xBFrecord,table,number,category,layer,level,value_um,value_mil,limit_mil,"
-        "severity,x_um,y_um,count,text\r";
+        "severity,x_um,y_um,count,text,id,net_1,net_2,x1_um,y1_um,x2_um,y2_um,waived\r";
     EXPECT_EQ(lines.takeFirst(), head);
     // The job's name contains a line feed, so it takes two lines.
     EXPECT_EQ(lines.takeFirst(), "job,,,,,,,,,,,,,\"job");
-    EXPECT_EQ(lines.takeFirst(), "\"\"1\"\"\"\r");
-    EXPECT_EQ(lines.takeFirst(), "step,,,,,,,,,,,,,\"pcb\"\r");
-    EXPECT_EQ(lines.takeFirst(), "count,,,,,,,,,none,,,5,\r");
-    EXPECT_TRUE(
-        lines.contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"bot\",3,254,10,,none,2147483647,"
-                       "0.5,,\r"));
-    EXPECT_TRUE(lines.contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"bot\",3,,,,none,8,9,,\r"));
-    EXPECT_TRUE(lines.contains("measurement,\"UnifiedItems\",10,\"Slots\",\"'=cmd|'/c'!\"\"A1\"\", é\",3,50,"
-                               "1.968503937007874,,none,-5,6,,\r"));
-    EXPECT_TRUE(lines.contains(
-        "not_checked,\"SignalLayerRanges\",3,\"Circuit to circuit\",,,,,,,,,,\"'-needs nets\"\r"));
+    EXPECT_EQ(lines.takeFirst(), "\"\"1\"\"\",,,,,,,,\r");
+    EXPECT_EQ(lines.takeFirst(), "step,,,,,,,,,,,,,\"pcb\",,,,,,,,\r");
+    EXPECT_EQ(lines.takeFirst(), "date,,,,,,,,,,,,,\"2026-11-22\",,,,,,,,\r");
+    EXPECT_EQ(lines.takeFirst(), "count,,,,,,,,,none,,,5,,,,,,,,,\r");
+    for (char const * line :
+         {"measurement,\"SignalLayerRanges\",46,\"Lines\",\"bot\",3,254,10,,none,2147483647,0.5,,,"
+          "\"SignalLayerRanges/46/bot/2147483647,1~2147483647,0/%2B5V~VCC%20%22%C3%A9%22\","
+          "\"VCC \"\"é\"\"\",\"'+5V\",2147483647,0,2147483647,1,0\r",
+          "measurement,\"SignalLayerRanges\",46,\"Lines\",\"bot\",3,,,,none,8,9,,,"
+          "\"SignalLayerRanges/46/bot/8,9/-\",,,8,9,,,0\r",
+          "measurement,\"UnifiedItems\",10,\"Slots\",\"'=cmd|'/c'!\"\"A1\"\", é\",3,50,1.968503937007874,,"
+          "none,-5,6,,,\"UnifiedItems/10/%3Dcmd%7C%27%2Fc%27%21%22A1%22%2C%20%C3%A9/-5,6/-\",,,-5,6,,,0\r",
+          "not_checked,\"SignalLayerRanges\",3,\"Circuit to circuit\",,,,,,,,,,\"'-needs nets\",,,,,,,,\r"}) {
+        EXPECT_TRUE(lines.contains(line)) << line;
+    }
     EXPECT_EQ(lines.size(), 4 - 1 + 7 + 1 + 1) << "counts, measurements, one not checked, the end";
-    for (char const * sign : {"=", "+", "-", "@", "\t", "\r", "＝", "＋", "－", "＠", "1", "'", "：", ""}) {
-        report.setJobStep(sign, "");
-        bool const isFormula = !QByteArray("1'：").contains(sign);
-        EXPECT_TRUE(reportText(report, ReportFormat::Csv)
-                        .contains("job,,,,,,,,,,,,,\"" + QByteArray(isFormula ? "'" : "") + sign + '"'))
-            << sign;
+}
+
+TEST_F(ReportTest, NoTextOfACsvIsAFormula)
+{
+    struct Row
+    {
+        char const * text;
+        char const * written;
+    };
+    for (Row const & row : {Row{"=1", "'=1"},
+                            {"+1", "'+1"},
+                            {"-1", "'-1"},
+                            {"@A", "'@A"},
+                            {"\tA", "'\tA"},
+                            {"\rA", "'\rA"},
+                            {"\nA", "'\nA"},
+                            {"＝1", "'＝1"},
+                            {"＋1", "'＋1"},
+                            {"－1", "'－1"},
+                            {"＠A", "'＠A"},
+                            {" =1", "' =1"},
+                            {"\u00a0\u3000=1", "'\u00a0\u3000=1"},
+                            {"\u200b\ufeff=1", "'\u200b\ufeff=1"},
+                            {"\x01=1", "'\x01=1"},
+                            {"\"=1\"", "'\"\"=1\"\""},
+                            {"A;=1", "A;'=1"},
+                            {"A; \"=1;-2", "A;' \"\"=1;'-2"},
+                            {"A\t=1", "A\t'=1"},
+                            {"A\n@1", "A\n'@1"},
+                            {";=1", ";'=1"},
+                            {"\t=1", "'\t'=1"},
+                            {"==1", "'==1"},
+                            {"1=1", "1=1"},
+                            {"A-B", "A-B"},
+                            {"A, -B", "A, -B"},
+                            {"'=1", "'=1"},
+                            {"：", "："},
+                            {"", ""}}) {
+        // Wherever the report has a text.
+        AnalysisReport each;
+        each.setJobStep(row.text, row.text);
+        ReportEntry entry;
+        entry.layer = row.text;
+        entry.nets = {row.text, row.text};
+        each.addEntries("SignalLayerRanges", 46, {entry});
+        each.addNotChecked({row.text, 1, row.text, row.text});
+        each.addNotChecked({"DrillRanges", 1, "x", row.text});
+        EXPECT_EQ(reportText(each, ReportFormat::Csv).count('"' + QByteArray(row.written) + '"'),
+                  *row.text == 0 ? 6 : 9)
+            << row.text;
     }
 }
 

@@ -36,7 +36,7 @@ protected:
     static void build(Board const & board)
     {
         QByteArray const symbols = "UNITS=MM\n$0 r200\n$1 r1000\n$2 rect400x1000\n$3 s500\n$4 oval1000x400\n"
-                                   "$5 r600\n$6 r300\n@0 .drill\n@1 .nomenclature\n";
+                                   "$5 r600\n$6 r300\n@0 .drill\n@1 .nomenclature\n@2 .smd\n";
         QDir("jobs").removeRecursively();
         makeJob(row(1, "TOP", "SIGNAL") + row(2, "BOTTOM", "SIGNAL") + row(3, "DRILL", "DRILL"));
         fill("top", symbols + board.top);
@@ -157,6 +157,51 @@ TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
         EXPECT_EQ(spacings(results), row.expected) << row.nets.toStdString();
         EXPECT_NE(results.nets.find(row.source), std::string::npos) << results.nets;
     }
+}
+
+TEST_F(SpacingTest, RecordsTellTheNetsOfTheFileInTheOrderOfTheirPlaces)
+{
+    build({"L 9 0 0 0 0 P 0\n"                                // of A
+           "P 20 0 1 P 0 0 ;2\nP 21.2 0 1 P 0 0 ;2\n"         // of A and B, with holes
+           "L 0 0.5 9 0.5 0 P 0\nL 0 1 9 1 0 P 0\n"           // of B, of none
+           "P 0 30 1 P 0 0\nP 0 30 5 P 0 0\nP 0 30 6 P 0 0\n" // A, B and C at one place
+           "P 50 0 1 P 0 0\n",                                // of A, with a hole that has no net
+           "P 21.2 0 1 P 0 0 ;0=2\nP 20 0 1 P 0 0 ;0=2\nL 40 0 41 0 5 P 0 ;0=0\nP 50 0 5 P 0 0 ;0=1\n",
+           {},
+           {},
+           "NET B\nFID C 1 2\nFID C 1 3\nFID C 1 6\nFID H 0 0\nFID H 0 2\n"
+           "NET A\nFID C 1 0\nFID C 1 1\nFID C 1 5\nFID C 1 8\nFID H 0 1\nNET C\nFID C 1 7\n"});
+    write("jobs/board/steps/pcb/profile",
+          "UNITS=MM\nS P 0\nOB -5 -5 I\nOS 60 -5\nOS 60 31\nOS -5 31\nOE\nSE\n");
+    auto const results = check();
+    auto const line = [&](char const * table, int item, std::vector<API::check_info> const & records) {
+        std::string text;
+        std::string const layer = std::string(table) == "drill" ? "drill" : "top";
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            auto const [first, second] = results.recordNets.of(table, item, layer, i);
+            text += (i == 0 ? "" : ", ") + std::to_string(records[i].points[0]) + ' ' + first + '-' + second;
+        }
+        EXPECT_EQ(results.recordNets.of(table, item, layer, records.size())[0], "");
+        return text;
+    };
+    for (auto const & [item, expected] : {std::pair(3, "0 A-B, 0 A-C, 20500 A-B, 0 A-B, 0 B-"),
+                                          {4, "0 A-B, 0 B-"},
+                                          {12, "20500 A-B"},
+                                          {14, "20500 A-B"},
+                                          {33, "21200 B-B, 20000 A-A"},
+                                          {36, "50000 -A"},
+                                          {43, "0 A-"},
+                                          {45, "0 C-, 0 B-, 20000 A-, 21200 B-, 0 A-, 50000 A-"},
+                                          {46, "9000 A-, 0 B-, 0 -"}}) {
+        EXPECT_EQ(line("signal", item, signal(results, "top", item)), expected) << item;
+    }
+    for (auto const & [item, expected] :
+         {std::pair(1, "50000 -"), {2, "21200 B-, 20000 A-"}, {3, "40000 B-"}, {35, "20700 B-A"}}) {
+        EXPECT_EQ(line("drill", item, drill(results, "drill", item)), expected) << item;
+    }
+    EXPECT_EQ(results.recordNets.lists.count({"drill", 1, "drill"}), 0U) << "nothing to tell";
+    build({"L 0 0 9 0 0 P 0\nL 0 0.5 9 0.5 0 P 0\n", {}, {}});
+    EXPECT_TRUE(check().recordNets.lists.empty()) << "nets that were found by touching have no names";
 }
 
 TEST_F(SpacingTest, AHoleThroughCopperOfAnotherNetIsAShort)

@@ -14,6 +14,7 @@ class ViewPort
 {
 public:
     void setSize(QSizeF size);
+    QSizeF size() const { return m_size; }
     void setExtent(QRectF const & extent);
 
     /// Shows a whole rectangle of the board; an empty one is ignored.

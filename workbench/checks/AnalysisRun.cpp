@@ -1,15 +1,25 @@
 #include "checks/AnalysisRun.h"
 
 #include "checks/Levels.h"
+#include "checks/ReportPictures.h"
 #include "job/ReportFormat.h"
+#include "ui/CategoryNames.h"
+#include "ui/EnglishTexts.h"
+
+#include <analysis/ReportComparison.h>
+#include <analysis/Waivers.h>
 
 #include <QCoreApplication>
+#include <QDate>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QSaveFile>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 #include <set>
 #include <utility>
 
@@ -149,19 +159,59 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
 
     m_report = {};
     m_report.setJobStep(m_session.job(), step);
+    m_report.setDate(QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString());
     for (char const * table : levelTables) {
         loadLevels(table);
     }
+    m_report.setNetLookup([&nets = results.recordNets](std::string_view table, int number,
+                                                       std::string const & layer, int level,
+                                                       std::size_t index) {
+        bool const isListed = level == 0 && (table == drillTable || table == signalTable);
+        return isListed ? nets.of(table == drillTable ? "drill" : "signal", number, layer, index)
+                        : Ext::EntryNets{};
+    });
     m_report.addDrill(results.drill);
     m_report.addSignal(results.signal);
     rest.erase(UNIFIED_SLOTS); // without levels; the same slots are among the drill items, which have some
     m_report.addUnified(rest);
+    m_report.setNetLookup({}); // the results end before the report
     m_report.addNotChecked({signalTable, -1, "Nets", results.nets});
     for (KVCAM::Embedded::NotChecked const & entry : results.notChecked) {
         noteUnchecked(entry);
     }
     noteCategoriesWithoutCheck();
+    applyWaivers();
     m_hasResult = true;
+}
+
+void AnalysisRun::setWaivers(std::vector<Ext::Waiver> waivers)
+{
+    m_waivers = std::move(waivers);
+    if (m_hasResult) {
+        applyWaivers();
+    }
+}
+
+// Read again: somebody else may have added one.
+Ext::Result AnalysisRun::waive(Ext::Waiver const & waiver, QString const & path)
+{
+    std::vector<Ext::Waiver> waivers;
+    if (QFileInfo::exists(path)) {
+        if (Ext::Result const read = Ext::readWaivers(path, waivers); !read.ok) {
+            return read;
+        }
+    }
+    waivers.push_back(waiver);
+    Ext::Result const written = Ext::writeWaivers(waivers, path);
+    if (written.ok) {
+        setWaivers(std::move(waivers));
+    }
+    return written;
+}
+
+void AnalysisRun::applyWaivers()
+{
+    m_report.applyWaivers(m_waivers, QDate::currentDate().toString(Qt::ISODate).toStdString());
 }
 
 void AnalysisRun::noteUnchecked(KVCAM::Embedded::NotChecked const & entry)
@@ -286,24 +336,57 @@ Ext::Result AnalysisRun::writeSummary(QString const & path) const
     return {true, {}};
 }
 
-Ext::Result AnalysisRun::writeReport(QString const & path) const
+Ext::Result AnalysisRun::writeReport(QString const & path, ReportChoices const & choices) const
 {
     auto const format = reportFormat(path);
     if (!format) {
-        return {false,
-                QCoreApplication::translate(
-                    "Workbench", "The name of a report must end in .json or .csv; that of \"%1\" does not.")
-                    .arg(path)};
+        return {false, QCoreApplication::translate(
+                           "Workbench", "The name of a report must end in %1; that of \"%2\" does not.")
+                           .arg(reportEndings(), path)};
     }
+    auto const write = [&](Ext::AnalysisReport const & report) {
+        return *format == Ext::ReportFormat::Html ? writeHtml(report, path, choices)
+                                                  : Ext::writeReport(report, *format, path, choices.failFrom);
+    };
     if (state() == State::Current) {
-        return Ext::writeReport(m_report, *format, path);
+        return write(m_report);
     }
     Ext::AnalysisReport outdated = m_report;
     outdated.addNotChecked({signalTable, -1, "Out of date",
                             state() == State::Changed
                                 ? "The step has been changed since it was measured."
                                 : "Levels have been raised beyond the spacings that were listed."});
-    return Ext::writeReport(outdated, *format, path);
+    return write(outdated);
+}
+
+Ext::Result AnalysisRun::writeHtml(Ext::AnalysisReport const & report, QString const & path,
+                                   ReportChoices const & choices) const
+{
+    std::set<std::string> layers(m_copper.begin(), m_copper.end());
+    for (Ext::ReportCategory const & category : report.categories()) {
+        for (Ext::ReportEntry const & entry : category.entries) {
+            if (entry.severity != Ext::Severity::None) {
+                layers.insert(entry.layer);
+            }
+        }
+    }
+    std::optional<Ext::ReportComparison> comparison;
+    if (choices.baseline != nullptr) {
+        comparison = Ext::compareReports(*choices.baseline, report);
+    }
+    Ext::HtmlReportOptions options;
+    options.language = getCurrentLanguageMode() == LANGUAGE_CHINESE ? Ext::ReportLanguage::SimplifiedChinese
+                                                                    : Ext::ReportLanguage::English;
+    options.firstUnit = choices.firstUnit;
+    options.pictures = reportPictures(m_session, report.step(), layers);
+    options.copperLayers = m_copper;
+    options.dataFile = choices.dataFile;
+    options.comparison = comparison ? &*comparison : nullptr;
+    options.checkNames = shownName;
+    options.sentences = [](std::string const & english) {
+        return inScreenLanguage(QString::fromStdString(english));
+    };
+    return Ext::writeHtmlReport(report, options, path);
 }
 
 QJsonObject toJson(AnalysisRun const & run)
@@ -328,7 +411,9 @@ QJsonObject toJson(AnalysisRun const & run)
         }
         widths.append(entry);
     }
+    Ext::SeverityCounts const waived = run.report().waivedCounts();
     return {{"counts", counts},
+            {"waived", static_cast<double>(std::accumulate(waived.begin(), waived.end(), std::size_t{0}))},
             {"track widths", widths},
             {"not checked", static_cast<int>(run.report().notChecked().size())}};
 }

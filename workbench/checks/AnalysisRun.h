@@ -29,6 +29,16 @@ struct LayerWidth
     KVCAM::UIAPI::Ext::Severity severity = KVCAM::UIAPI::Ext::Severity::None;
 };
 
+/// What formats of reports take beside the report.
+struct ReportChoices
+{
+    KVCAM::UIAPI::Ext::Severity failFrom =
+        KVCAM::UIAPI::Ext::Severity::Red;                              ///< a case of JUnit fails from it on
+    KVCAM::UIAPI::Ext::Unit firstUnit = KVCAM::UIAPI::Ext::Unit::Inch; ///< of each length in HTML
+    QString dataFile; ///< name of the file that HTML gives for all measurements; may be empty
+    KVCAM::UIAPI::Ext::AnalysisReport const * baseline = nullptr; ///< with which HTML compares
+};
+
 /// The engine's checks on a step of the session's job. The results are filed in the library's unified result,
 /// and in a report graded by the library's levels. Levels are in mil.
 class AnalysisRun
@@ -48,6 +58,11 @@ public:
     Outcome run(std::string const & step, KVCAM::Embedded::CheckProgress const & progress = {});
     /// Why the latest run failed, on one line; empty if it did not.
     QString const & error() const { return m_error; }
+
+    /// Accepts violations, in the results that there are and in those of later runs.
+    void setWaivers(std::vector<KVCAM::UIAPI::Ext::Waiver> waivers);
+    /// Adds a waiver to a file, which is made if it is not there, and accepts what the file then holds.
+    KVCAM::UIAPI::Ext::Result waive(KVCAM::UIAPI::Ext::Waiver const & waiver, QString const & path);
 
     bool hasResult() const { return m_hasResult; }
     /// How the results differ from what a new run would find.
@@ -77,14 +92,18 @@ public:
     /// whole.
     KVCAM::UIAPI::Ext::Result writeSummary(QString const & path) const;
     /// Writes the report in the format given by the file's name. If it is not current, it says so among what
-    /// was not checked.
-    KVCAM::UIAPI::Ext::Result writeReport(QString const & path) const;
+    /// was not checked. HTML is in the language of the screen, and shows the copper layers and those that
+    /// have violations.
+    KVCAM::UIAPI::Ext::Result writeReport(QString const & path, ReportChoices const & choices = {}) const;
 
 private:
     void file(std::string const & step, KVCAM::Embedded::CheckResults & results);
     void noteUnchecked(KVCAM::Embedded::NotChecked const & entry);
     void noteCategoriesWithoutCheck();
+    void applyWaivers();
     void loadLevels(std::string const & table);
+    KVCAM::UIAPI::Ext::Result writeHtml(KVCAM::UIAPI::Ext::AnalysisReport const & report,
+                                        QString const & path, ReportChoices const & choices) const;
 
     using Records = std::vector<KVCAM::UIAPI::Analysis_Ranges_Record>;
 
@@ -92,6 +111,7 @@ private:
     KVCAM::UIAPI::Ext::AnalysisReport m_report;
     std::vector<std::string> m_copper;      ///< by row
     std::map<std::string, Records> m_saved; ///< by table, as in its file
+    std::vector<KVCAM::UIAPI::Ext::Waiver> m_waivers;
     QString m_error;
     Freshness m_freshness;
     double m_reach = 0; ///< mil; what was listed up to

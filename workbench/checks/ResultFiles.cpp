@@ -1,13 +1,46 @@
 #include "checks/ResultFiles.h"
 
 #include "checks/ResultsPage.h"
+#include "job/ReportFormat.h"
+
+#include <analysis/ReportReader.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QPointer>
+
+#include <algorithm>
 
 namespace Workbench {
 
 using namespace KVCAM::UIAPI;
+
+WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine)
+{
+    WrittenResults results;
+    auto const note = [&results](QString const & file, Ext::Result const & result) {
+        (result.ok ? results.files : results.errors).append(result.ok ? file : result.reason);
+    };
+    if (!commandLine.summary.isEmpty()) {
+        note(commandLine.summary, run.writeSummary(commandLine.summary));
+    }
+    ReportChoices choices;
+    choices.failFrom = commandLine.failOn.value_or(Ext::Severity::Red);
+    choices.firstUnit = commandLine.unit;
+    auto const & reports = commandLine.reports;
+    auto const isData = [](QString const & file) { return reportFormat(file) == Ext::ReportFormat::Json; };
+    if (auto const data = std::find_if(reports.begin(), reports.end(), isData); data != reports.end()) {
+        choices.dataFile = QFileInfo(*data).fileName();
+    }
+    Ext::AnalysisReport baseline;
+    if (!commandLine.baseline.isEmpty() && Ext::readReport(commandLine.baseline, baseline)) {
+        choices.baseline = &baseline; // why one cannot be read is said when the run is judged
+    }
+    for (QString const & report : reports) {
+        note(report, run.writeReport(report, choices));
+    }
+    return results;
+}
 
 WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
 {
@@ -20,18 +53,7 @@ WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
                      : QCoreApplication::translate("Workbench::MainWindow", "the checks failed: %1")
                            .arg(reason)}};
     }
-    WrittenResults results;
-    auto const note = [&results](QString const & file, Ext::Result const & result) {
-        (result.ok ? results.files : results.errors).append(result.ok ? file : result.reason);
-    };
-    AnalysisRun const & run = page.run();
-    if (!commandLine.summary.isEmpty()) {
-        note(commandLine.summary, run.writeSummary(commandLine.summary));
-    }
-    for (QString const & report : commandLine.reports) {
-        note(report, run.writeReport(report));
-    }
-    return results;
+    return writeFiles(page.run(), commandLine);
 }
 
 } // namespace Workbench

@@ -6,6 +6,7 @@
 
 namespace Workbench {
 
+class AnalysisRun;
 class ResultsPage;
 
 /// The outcome of writing the results of the checks.
@@ -14,6 +15,9 @@ struct WrittenResults
     QStringList files;  ///< that have been written
     QStringList errors; ///< as sentences
 };
+
+/// Writes the summary and the reports that the command line asks for.
+WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine);
 
 /// Runs the checks of a page on its step, and writes the summary and the reports requested on the command
 /// line. If the page is deleted meanwhile, the checks stop.

@@ -57,6 +57,13 @@ QString enterConfiguration(QString const & directory, QString const & output)
     return {};
 }
 
+QString readOnlyConfiguration(QString const & directory, QString const & output)
+{
+    QString const copy = output + "/workbench-session/config";
+    QString const standard = QFileInfo(copy).isDir() ? copy : samplesDirectory() + "/config";
+    return directory.isEmpty() ? standard : directory;
+}
+
 QString configurationDirectory()
 {
     QString const root = QString::fromStdString(Common::getPath());

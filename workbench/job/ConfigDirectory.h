@@ -16,6 +16,11 @@ QString samplesDirectory();
 /// says what is wrong, empty on success. Call it before any function of the library.
 QString enterConfiguration(QString const & directory, QString const & output);
 
+/// The directory for a run that changes nothing: the one given; else the copy of the samples below `output`
+/// if there is one; else the samples themselves, which any number of processes can read at once. Needs the
+/// application object.
+QString readOnlyConfiguration(QString const & directory, QString const & output);
+
 /// The configuration directory as the host reports it to the library, without a trailing "/".
 QString configurationDirectory();
 

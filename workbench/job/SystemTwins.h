@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdio>
+
 /// What differs by system.
 namespace Workbench {
 
@@ -9,5 +11,8 @@ void useParentConsole();
 
 /// Lets Qt's offscreen platform find the system's fonts. Call it before the QApplication is made.
 void findFontsOffscreen();
+
+/// Whether somebody may be watching the stream.
+bool isTerminal(std::FILE * stream);
 
 } // namespace Workbench

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <io.h>
 #include <windows.h>
 
 void Workbench::useParentConsole()
@@ -36,4 +37,9 @@ void Workbench::findFontsOffscreen()
     if (qEnvironmentVariableIsEmpty(folder)) {
         qputenv(folder, qgetenv("WINDIR") + "\\Fonts");
     }
+}
+
+bool Workbench::isTerminal(std::FILE * stream)
+{
+    return _isatty(_fileno(stream)) != 0;
 }

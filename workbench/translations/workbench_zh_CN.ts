@@ -20,8 +20,8 @@
         <translation>无法写入文件“%1”。</translation>
     </message>
     <message>
-        <source>The name of a report must end in .json or .csv; that of &quot;%1&quot; does not.</source>
-        <translation>报告的文件名须以 .json 或 .csv 结尾，“%1”不是。</translation>
+        <source>The name of a report must end in %1; that of &quot;%2&quot; does not.</source>
+        <translation>报告的文件名须以 %1 之一结尾，“%2”不是。</translation>
     </message>
     <message>
         <source>Open the folder of a job</source>
@@ -1758,6 +1758,22 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
 <context>
     <name>Workbench::ResultsPage</name>
     <message>
+        <source>Waivers</source>
+        <translation>豁免</translation>
+    </message>
+    <message>
+        <source>Waivers (*.json)</source>
+        <translation>豁免 (*.json)</translation>
+    </message>
+    <message>
+        <source>Wai&amp;ve...</source>
+        <translation>豁免(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Accepts the selected violation: it is counted apart</source>
+        <translation>接受所选的违规：单独计数</translation>
+    </message>
+    <message>
         <source>Export the summary</source>
         <translation>导出汇总</translation>
     </message>
@@ -1770,8 +1786,8 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>导出报告</translation>
     </message>
     <message>
-        <source>JSON report (*.json);;CSV report (*.csv)</source>
-        <translation>JSON 报告 (*.json);;CSV 报告 (*.csv)</translation>
+        <source>HTML report (*.html);;JSON report (*.json);;CSV report (*.csv)</source>
+        <translation>HTML 报告 (*.html);;JSON 报告 (*.json);;CSV 报告 (*.csv)</translation>
     </message>
     <message>
         <source>Checks</source>
@@ -3765,6 +3781,68 @@ legal values: from %2 to %3</source>
     <message>
         <source>Shows or hides the measurements of this colour</source>
         <translation>显示或隐藏此颜色的测量结果</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::WaiveDialog</name>
+    <message>
+        <source>&amp;Until</source>
+        <translation>有效期至(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Waive a violation</source>
+        <translation>豁免违规</translation>
+    </message>
+    <message>
+        <source>&amp;Waive</source>
+        <translation>豁免(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Reason:</source>
+        <translation>理由(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Accepted by:</source>
+        <translation>接受人(&amp;A)：</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::WaiversBox</name>
+    <message>
+        <source>Waived: %1 red, %2 yellow, %3 green</source>
+        <translation>已豁免：红 %1，黄 %2，绿 %3</translation>
+    </message>
+    <message>
+        <source>Violation</source>
+        <translation>违规</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>接受人</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>waived</source>
+        <translation>已豁免</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>已过期</translation>
+    </message>
+    <message>
+        <source>accepts nothing</source>
+        <translation>未匹配</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,7 @@
 #include "window/Desk.h"
 
+#include "checks/ResultsPage.h"
+#include "job/Boards.h"
 #include "job/JobLoading.h"
 #include "job/RecentBoards.h"
 #include "job/SaveAs.h"
@@ -17,6 +19,7 @@
 #include <QTimer>
 
 #include <utility>
+#include <vector>
 
 namespace Workbench {
 
@@ -105,10 +108,24 @@ bool Desk::replace(QString const & path, QString const & step)
     connect(&window.saveAs(), &SaveAs::saved, this,
             [this](QString const & folder) { keepRecentBoard(m_stateFile, folder); });
     window.board().showStep(step);
+    useWaivers(path);
     window.useStateFile(m_stateFile, m_commandLine.isUnitGiven);
     window.show();
     QApplication::setQuitOnLastWindowClosed(quits);
     return true;
+}
+
+void Desk::useWaivers(QString const & path)
+{
+    QString const file = forBoard(m_commandLine, path).waivers;
+    if (file.isEmpty()) {
+        return;
+    }
+    std::vector<Ext::Waiver> waivers;
+    if (Ext::Result const read = Ext::readWaivers(file, waivers); !read.ok) {
+        Ext::showMessage({Ext::MessageKind::Information, m_board->window.get(), file, read.reason});
+    }
+    m_board->window->results().setWaivers(std::move(waivers), file);
 }
 
 void Desk::close()

@@ -39,6 +39,7 @@ private:
 
     QString read(Board & board, QString const & path, QString const & step) const;
     bool replace(QString const & path, QString const & step);
+    void useWaivers(QString const & path);
     void close();
     QWidget * shown() const;
 
