@@ -224,6 +224,7 @@ TEST_F(ReportReading, ADamagedReportIsRefused)
               "categories[1].entries[0].places[0]: The member \"y_um\" is missing."},
           Row{"\"places\": [{", "\"places\": [{\"x_um\": 1, \"y_um\": 1}, {\"x_um\": 1, \"y_um\": 1}, {",
               "categories[1].entries[0].places[2]: A measurement has at most two places."},
+          Row{"2026-11-22", "yesterday", "\"yesterday\" is unknown here."},
           Row{"\"levelUnit\": \"um\"", "\"levelUnit\": \"mm\"", "levelUnit: \"mm\" is unknown here."}}) {
         QByteArray bad = good;
         ASSERT_TRUE(bad.contains(row.from)) << row.from;
@@ -234,6 +235,10 @@ TEST_F(ReportReading, ADamagedReportIsRefused)
         EXPECT_EQ(read.categories().size(), 3U) << "unchanged";
     }
     AnalysisReport read;
+    QByteArray many = good;
+    QByteArray const one = R"({"table": "SignalLayerRanges", "number": 9, "levels": null, "entries": []}, )";
+    many.insert(many.indexOf("[") + 1, one.repeated(2000));
+    EXPECT_TRUE(parseReport(many, read).reason.endsWith("]: There are too many categories."));
     for (int length = 0; length < good.size() - 1; length += 7) {
         EXPECT_FALSE(parseReport(good.left(length), read)) << length;
     }
