@@ -58,6 +58,10 @@ TEST(Comparison, ViolationsArePairedByIdThenByPlace)
          {{3, 90, {{0, 0}, {10, 90}}, {"A", "A"}}},
          {{3, 90, {{0, 90}, {1, 0}}, {"A", "A"}}},
          "unchanged 90>90"},
+        {"one net, in the other order and nearer than another",
+         {{3, 90, {{0, 0}, {10, 90}}, {"A", "A"}}},
+         {{3, 91, {{0, 90}, {1, 0}}, {"A", "A"}}, {3, 80, {{0, 20}, {10, 100}}, {"A", "A"}}},
+         "new 80, better 90>91"},
         {"another net", {{46, 90, {{0, 0}}, {"A", ""}}}, {{46, 90, {{0, 0}}, {"B", ""}}}, "new 90, fixed 90"},
         {"another layer",
          {{46, 90, {{0, 0}}, {}, "top"}},
@@ -83,7 +87,10 @@ TEST(Comparison, ViolationsArePairedByIdThenByPlace)
         {"less red", {{46, 90, {{0, 0}}}}, {{46, 95, {{0, 0}}}}, "better 90>95"},
         {"yellow from red", {{46, 90, {{0, 0}}}}, {{46, 110, {{0, 0}}}}, "better 90>110"},
         {"more is worse", {{45, 130, {{0, 0}}}}, {{45, 140, {{0, 0}}}}, "worse 130>140"},
-        {"no violation before", {{46, 200, {{0, 0}}}}, {{46, 110, {{0, 0}}}}, "new 110"},
+        {"no violation before, and never",
+         {{46, 200, {{0, 0}}}, {46, 200, {{9, 9}}}, {46, 90, {{900, 0}}}},
+         {{46, 110, {{0, 0}}}, {46, 200, {{9, 9}}}, {46, 90, {{900, 0}}}},
+         "new 110, unchanged 90>90"},
         {"no violation any more", {{46, 90, {{0, 0}}}}, {{46, 200, {{0, 0}}}}, "fixed 90"},
     };
     for (Row row : rows) {

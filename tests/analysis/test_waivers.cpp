@@ -116,7 +116,7 @@ TEST_F(WaiverFile, AFaultIsToldWithItsPlace)
               "line 2, byte 127, waivers[0].author: A waiver needs a reason and an author."},
           Row{"\"me\"", "3", "line 2, byte 127, waivers[0].author: A text is expected."},
           Row{"-11-01", "-02-30", "line 2, byte 141, waivers[0].date: A day is written as 2026-11-22."},
-          Row{"2026-12-31", "2026-12-1",
+          Row{"2026-12-31", "2026/12/31",
               "line 3, byte 266, waivers[1].expires: A day is written as 2026-11-22."},
           Row{"expires", "expire", "line 3, byte 263, waivers[1].expire: The member is unknown."},
           Row{"author", "reason", "line 2, byte 125, waivers[0].reason: The member is there twice."},
