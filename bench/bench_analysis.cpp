@@ -12,17 +12,23 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <map>
 #include <random>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 // Baselines: filing beside copying the entries and sorting their keys, the summary beside the same document
-// with bare jsoncpp, the range files beside a bare parse, a query beside a copy of its answer.
+// with bare jsoncpp, a report beside its numbers alone, the range files beside a bare parse, a query beside a
+// copy of its answer.
 
 namespace {
 
@@ -232,6 +238,68 @@ void bareCopy(benchmark::State & state)
 
 BENCHMARK(query)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(bareCopy)->Arg(16)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+// --- Reports -----------------------------------------------------------------------------------------
+
+// Spacings all over a board, between some thousand nets.
+Ext::AnalysisReport report(std::int64_t count)
+{
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> place(0, 400000);
+    std::uniform_int_distribution<int> gap(50, 200);
+    std::vector<check_info> list(static_cast<std::size_t>(count));
+    for (check_info & each : list) {
+        int const x = place(random);
+        int const y = place(random);
+        int const distance = gap(random);
+        each = {2, distance * 10 / 254, {x, y, x + distance, y, distance}};
+    }
+    Ext::AnalysisReport made;
+    made.setJobStep("board", "pcb");
+    made.setLevels("SignalLayerRanges", {{"Lines", 3, 4, 5}});
+    made.setNetLookup([](std::string_view, int, std::string const &, int, std::size_t index) {
+        return Ext::EntryNets{"NET_" + std::to_string(index % 4999), "GND"};
+    });
+    made.addSignal(oneItem(std::move(list)));
+    return made;
+}
+
+void writeText(benchmark::State & state, Ext::ReportFormat format)
+{
+    Ext::AnalysisReport const made = report(state.range(0));
+    QByteArray text;
+    for (auto _ : state) {
+        text = Ext::reportText(made, format);
+    }
+    state.counters["bytes"] = static_cast<double>(text.size());
+}
+
+// The same numbers, printed without names, ids or texts around them.
+void bareNumbers(benchmark::State & state)
+{
+    Ext::AnalysisReport const made = report(state.range(0));
+    for (auto _ : state) {
+        QByteArray text;
+        for (Ext::ReportEntry const & entry : made.categories().front().entries) {
+            for (double const value : {entry.measured->toMicrometres(), entry.measured->toMil(),
+                                       entry.position->x, entry.position->y, entry.places[0].x,
+                                       entry.places[0].y, entry.places[1].x, entry.places[1].y}) {
+                text += QByteArray::number(value, 'g', QLocale::FloatingPointShortest) + ' ';
+            }
+        }
+        benchmark::DoNotOptimize(text.data());
+    }
+}
+
+BENCHMARK_CAPTURE(writeText, json, Ext::ReportFormat::Json)
+    ->Arg(100000)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(writeText, csv, Ext::ReportFormat::Csv)
+    ->Arg(100000)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(bareNumbers)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 // --- Range files --------------------------------------------------------------------------------------
 

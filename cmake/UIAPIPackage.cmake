@@ -29,6 +29,7 @@ if(TARGET uiapi-workbench)
     install(DIRECTORY samples DESTINATION "${CMAKE_INSTALL_DATADIR}/uiapicommon" COMPONENT workbench)
   endif()
 endif()
+install(FILES docs/analysis-report-2.schema.json DESTINATION "${CMAKE_INSTALL_DATADIR}/uiapicommon")
 install(EXPORT UIAPICommonTargets NAMESPACE UIAPICommon:: DESTINATION "${UIAPI_CMAKE_DIR}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/UIAPICommonConfig.cmake.in" UIAPICommonConfig.cmake

@@ -137,7 +137,7 @@ private:
 enum class ReportFormat : int
 {
     Json, ///< one object: "format" "analysis-report", "version" 2, then job, step, date, counts, categories
-          ///< with their entries, and what was not checked; report.schema.json describes it
+          ///< with their entries, and what was not checked; analysis-report-2.schema.json describes it
     Csv,  ///< RFC 4180 with a head line; records "job", "step", "date", "count", "measurement", "not_checked"
     JUnit, ///< XML that build servers show: a suite for the board, a case for each check and layer
     Html   ///< a page for people, see htmlReport(); here with its defaults, without pictures

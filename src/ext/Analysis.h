@@ -12,13 +12,20 @@
 //   markOf()                its row for a severity
 //   AnalysisReport          every measurement with its category and severity
 //   limitOf()               the level that decided
-//   reportText()            a report as JSON, CSV or HTML
+//   reportText()            a report as JSON, CSV, HTML or JUnit XML
 //   writeReport()           the same into a file
 //   htmlReport()            a report as a page for people: language, pictures, what is listed
 //   writeHtmlReport()       the same into a file
 //   violationId()           the text that names a violation in every report; violationIds() those of a category
 //   violationName()         its parts; parseViolationId() takes a text apart
 //   isSameViolation()       whether two names stand for the same violation, although a place moved a little
+//   readReport()            a report of a JSON file; parseReport() of its text
+//   compareReports()        what is new, fixed, better or worse in a later report; changeName() names a change
+//   comparisonText()        the comparison as JSON; writeComparison() into a file
+//   readWaivers()           violations that somebody has accepted, for AnalysisReport::applyWaivers();
+//                           parseWaivers() of a text, waiverStateName() names what became of one
+//   writeWaivers()          the same into a file; waiversText() as text
+//   isViolation()           whether a measurement fails: as bad as a severity or worse, and not waived
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
@@ -29,8 +36,11 @@
 #include "../analysis/Grade.h"
 #include "../analysis/HtmlReport.h"
 #include "../analysis/RangeSource.h"
+#include "../analysis/ReportComparison.h"
+#include "../analysis/ReportReader.h"
 #include "../analysis/Unified_AnalysisResult.h"
 #include "../analysis/ViolationId.h"
+#include "../analysis/Waivers.h"
 #include "../support/Result.h"
 #include "UIAPICommonExport.h"
 

@@ -16,9 +16,9 @@ namespace KVCAM::UIAPI {
 class JsonReader
 {
 public:
-    /// Refers to the bytes.
+    /// Shares the bytes.
     explicit JsonReader(QByteArray const & bytes)
-        : m_begin(bytes.cbegin()), m_at(bytes.cbegin()), m_end(bytes.cend())
+        : m_bytes(bytes), m_begin(m_bytes.cbegin()), m_at(m_begin), m_end(m_bytes.cend())
     {}
 
     /// Passes over an object: `member` reads the value of a key, or skips it.
@@ -93,10 +93,11 @@ private:
     void skipBlanks();
     QString path() const;
 
+    QByteArray m_bytes;
     char const * m_begin;
     char const * m_at;
     char const * m_end;
-    char const * m_value = nullptr; ///< where the value read last begins
+    char const * m_value = m_begin; ///< where the value read last begins
     std::string m_key;
     std::vector<Step> m_path;
     QString m_error;

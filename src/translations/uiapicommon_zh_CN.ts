@@ -51,6 +51,137 @@
         <source>The view cannot be stored.</source>
         <translation>无法保存该视图。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is unknown here.</source>
+        <translation>此处不认识“%1”。</translation>
+    </message>
+    <message>
+        <source>The report is not of version %1 of the format. Write it again.</source>
+        <translation>报告的格式不是版本 %1。请重新写出报告。</translation>
+    </message>
+    <message>
+        <source>A measurement has at most two places.</source>
+        <translation>一个测量最多有两个位置。</translation>
+    </message>
+    <message>
+        <source>A measurement has two nets.</source>
+        <translation>一个测量有两个网络。</translation>
+    </message>
+    <message>
+        <source>The category %1 of the table &quot;%2&quot; is unknown or there twice.</source>
+        <translation>表“%2”的类别 %1 未知或出现了两次。</translation>
+    </message>
+    <message>
+        <source>A severity or waiver in the category %1 of the table &quot;%2&quot; does not follow from the levels and waivers.</source>
+        <translation>表“%2”的类别 %1 中有严重程度或豁免与级别和豁免不符。</translation>
+    </message>
+    <message>
+        <source>The report &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取报告“%1”：%2</translation>
+    </message>
+    <message>
+        <source>This is not the id of a violation.</source>
+        <translation>这不是违规的标识。</translation>
+    </message>
+    <message>
+        <source>A waiver needs a reason and an author.</source>
+        <translation>豁免需要理由和作者。</translation>
+    </message>
+    <message>
+        <source>A day is written as 2026-11-22.</source>
+        <translation>日期应写作 2026-11-22。</translation>
+    </message>
+    <message>
+        <source>The version is not known.</source>
+        <translation>版本未知。</translation>
+    </message>
+    <message>
+        <source>The waivers &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取豁免文件“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Json</name>
+    <message>
+        <source>The member is unknown.</source>
+        <translation>此成员未知。</translation>
+    </message>
+    <message>
+        <source>The member is there twice.</source>
+        <translation>此成员出现了两次。</translation>
+    </message>
+    <message>
+        <source>The member &quot;%1&quot; is missing.</source>
+        <translation>缺少成员“%1”。</translation>
+    </message>
+    <message>
+        <source>A text is expected.</source>
+        <translation>此处应为文本。</translation>
+    </message>
+    <message>
+        <source>A number is expected.</source>
+        <translation>此处应为数字。</translation>
+    </message>
+    <message>
+        <source>The number is out of range.</source>
+        <translation>数字超出范围。</translation>
+    </message>
+    <message>
+        <source>A whole number is expected.</source>
+        <translation>此处应为整数。</translation>
+    </message>
+    <message>
+        <source>true or false is expected.</source>
+        <translation>此处应为 true 或 false。</translation>
+    </message>
+    <message>
+        <source>A value is expected.</source>
+        <translation>此处应为一个值。</translation>
+    </message>
+    <message>
+        <source>Something follows the end.</source>
+        <translation>结尾之后还有内容。</translation>
+    </message>
+    <message>
+        <source>line %1, byte %2</source>
+        <translation>第 %1 行，第 %2 字节</translation>
+    </message>
+    <message>
+        <source>An object is expected.</source>
+        <translation>此处应为对象。</translation>
+    </message>
+    <message>
+        <source>An array is expected.</source>
+        <translation>此处应为数组。</translation>
+    </message>
+    <message>
+        <source>The file is nested too deeply.</source>
+        <translation>文件嵌套过深。</translation>
+    </message>
+    <message>
+        <source>A comma or the end of the list is expected.</source>
+        <translation>此处应为逗号或列表结尾。</translation>
+    </message>
+    <message>
+        <source>The name of a member is expected.</source>
+        <translation>此处应为成员名。</translation>
+    </message>
+    <message>
+        <source>A colon is expected.</source>
+        <translation>此处应为冒号。</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>文本不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>The text does not end.</source>
+        <translation>文本没有结尾。</translation>
+    </message>
+    <message>
+        <source>The text has an unknown escape.</source>
+        <translation>文本中有未知的转义。</translation>
+    </message>
 </context>
 <context>
     <name>KVFileDialog</name>

@@ -1,5 +1,6 @@
 #include "CheckEntries.h"
 #include "config/ConfigTest.h"
+#include "harness/ReportSchema.h"
 
 #include "analysis/AnalysisReport.h"
 #include "analysis/CheckKinds.h"
@@ -214,6 +215,17 @@ TEST_F(ReportTest, JsonHoldsEverything)
     empty.setJobStep("\xff\x01", "");
     EXPECT_EQ(QJsonDocument::fromJson(reportText(empty, ReportFormat::Json))["job"].toString().toStdString(),
               "\xEF\xBF\xBD\x01");
+}
+
+TEST_F(ReportTest, JsonFitsItsSchema)
+{
+    ASSERT_TRUE(writeReport(AnalysisReport(), ReportFormat::Json, "empty.json"));
+    report.setDate("2026-11-22T10:00:00Z");
+    report.setLevelUnit(Unit::Millimetre);
+    report.setLevels("DrillRanges", {{"Via Summary", nan, 1, 2}});
+    report.setLevels("SignalLayerRanges", {{"Lines", 76, 77, 77}});
+    ASSERT_TRUE(writeReport(report, ReportFormat::Json, "report.json"));
+    expectReportsFitSchema({"empty.json", "report.json"});
 }
 
 TEST_F(ReportTest, ADateIsOneOrNone)

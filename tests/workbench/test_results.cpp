@@ -136,6 +136,7 @@ protected:
 
 TEST_F(Results, AreFiledAndSummarised)
 {
+    writeFile("tiny/steps/pcb/eda/data", "HDR x\nUNITS=MM\nLYR top bot cuts\nNET A\nFID C 0 2\n");
     open();
     EXPECT_EQ(text("note"), "");
     EXPECT_TRUE(text("empty").contains("not been run yet"));
@@ -159,6 +160,7 @@ TEST_F(Results, AreFiledAndSummarised)
     EXPECT_EQ(rows["slotHoleNumPerPcs"], byLayer({{"cuts", "1"}}));
     EXPECT_EQ(rows["minDrillRing"], byLayer({{"bot", "-1"}, {"top", "-1"}}));
     EXPECT_TRUE(readFile("report.json").contains("\"um\": 100, "));
+    EXPECT_TRUE(readFile("report.json").contains("\"SignalLayerRanges/46/top/0,0~10000,0/A\"")) << "its net";
     EXPECT_TRUE(readFile("report.csv").contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"top\""));
     auto const * notes = page().findChild<QTableWidget *>();
     EXPECT_EQ(notes->item(0, 0)->text(), "Nets");

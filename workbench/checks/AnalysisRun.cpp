@@ -7,9 +7,12 @@
 #include "ui/EnglishTexts.h"
 
 #include <analysis/ReportComparison.h>
+#include <analysis/Waivers.h>
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QSaveFile>
 
@@ -157,6 +160,7 @@ void AnalysisRun::file(std::string const & step, KVCAM::Embedded::CheckResults &
 
     m_report = {};
     m_report.setJobStep(m_session.job(), step);
+    m_report.setDate(QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString());
     for (char const * table : levelTables) {
         loadLevels(table);
     }
@@ -187,6 +191,23 @@ void AnalysisRun::setWaivers(std::vector<Ext::Waiver> waivers)
     if (m_hasResult) {
         applyWaivers();
     }
+}
+
+// Read again: somebody else may have added one.
+Ext::Result AnalysisRun::waive(Ext::Waiver const & waiver, QString const & path)
+{
+    std::vector<Ext::Waiver> waivers;
+    if (QFileInfo::exists(path)) {
+        if (Ext::Result const read = Ext::readWaivers(path, waivers); !read.ok) {
+            return read;
+        }
+    }
+    waivers.push_back(waiver);
+    Ext::Result const written = Ext::writeWaivers(waivers, path);
+    if (written.ok) {
+        setWaivers(std::move(waivers));
+    }
+    return written;
 }
 
 void AnalysisRun::applyWaivers()

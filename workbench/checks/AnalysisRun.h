@@ -61,6 +61,8 @@ public:
 
     /// Accepts violations, in the results that there are and in those of later runs.
     void setWaivers(std::vector<KVCAM::UIAPI::Ext::Waiver> waivers);
+    /// Adds a waiver to a file, which is made if it is not there, and accepts what the file then holds.
+    KVCAM::UIAPI::Ext::Result waive(KVCAM::UIAPI::Ext::Waiver const & waiver, QString const & path);
 
     bool hasResult() const { return m_hasResult; }
     /// How the results differ from what a new run would find.

@@ -7,6 +7,8 @@
 #include "checks/ResultsTree.h"
 #include "checks/SeverityBar.h"
 #include "checks/TrackWidthChart.h"
+#include "checks/WaiveDialog.h"
+#include "checks/WaiversBox.h"
 #include "ui/CategoryNames.h"
 #include "ui/Colours.h"
 #include "ui/EnglishTexts.h"
@@ -112,11 +114,46 @@ bool ResultsPage::measure(std::string const & step)
     return isNew;
 }
 
-void ResultsPage::setWaivers(std::vector<Ext::Waiver> waivers)
+void ResultsPage::setWaivers(std::vector<Ext::Waiver> waivers, QString const & path)
 {
+    m_waiversPath = path;
     m_run->setWaivers(std::move(waivers));
     m_model->reload();
     refresh();
+}
+
+void ResultsPage::waiveSelected()
+{
+    auto const row = m_tree->current();
+    if (row.entry == nullptr || row.entry->severity == Ext::Severity::None || row.entry->waiver) {
+        return;
+    }
+    auto const index = static_cast<std::size_t>(row.entry - row.category->entries.data());
+    QString const violation = selectedText() + ", " + QString::fromStdString(*row.layer);
+    auto * dialog = new WaiveDialog(violation, Ext::violationIds(*row.category).at(index), this);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        Ext::Waiver const waiver = dialog->waiver();
+        if (!m_waiversPath.isEmpty()) {
+            waive(waiver, m_waiversPath);
+            return;
+        }
+        askForFile(*this, tr("Waivers"), "waivers.json", tr("Waivers (*.json)"),
+                   [this, waiver](QString const & path) { waive(waiver, path); });
+    });
+    dialog->open();
+}
+
+void ResultsPage::waive(Ext::Waiver const & waiver, QString const & path)
+{
+    Ext::Result const waived = m_run->waive(waiver, path);
+    if (waived.ok) {
+        m_waiversPath = path;
+        m_model->regrade();
+        m_tree->filter().regrade();
+        refresh();
+    } else {
+        Ext::showMessage({Ext::MessageKind::Information, this, tr("Waivers"), waived.reason});
+    }
 }
 
 bool ResultsPage::showCheck(std::string const & table, int number)
@@ -150,6 +187,8 @@ void ResultsPage::setTexts()
     m_next->setToolTip(withKeys(tr("Shows the next violation"), QKeySequence(nextKey)));
     m_again->setText(tr("Run aga&in"));
     m_boardButton->setText(tr("Sho&w on the board"));
+    m_waiveButton->setText(tr("Wai&ve..."));
+    m_waiveButton->setToolTip(tr("Accepts the selected violation: it is counted apart"));
     m_summaryButton->setText(tr("E&xport summary..."));
     m_reportButton->setText(tr("Ex&port report..."));
     m_tree->setAccessibleName(tr("Results by check and layer"));
@@ -196,6 +235,7 @@ void ResultsPage::refresh()
     Ext::ReportCategory const * lines = m_run->report().find(signalTable, linesNumber);
     m_chart->setWidths(m_run->trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
     showNotChecked();
+    m_waivers->showReport(m_run->report(), m_view->handle());
     showLevels();
 }
 
@@ -232,6 +272,8 @@ void ResultsPage::showLevels()
 {
     ResultsModel::Row const row = m_tree->current();
     m_boardButton->setEnabled(row.entry != nullptr);
+    m_waiveButton->setEnabled(row.entry != nullptr && row.entry->severity != Ext::Severity::None &&
+                              !row.entry->waiver);
     m_levels->showCategory(row.category);
 }
 

@@ -25,6 +25,7 @@ class ResultsModel;
 class ResultsTree;
 class SeverityBar;
 class TrackWidthChart;
+class WaiversBox;
 
 /// The results of the engine's checks on a step, by check and layer, coloured by the levels; the levels
 /// themselves, the narrowest track of each layer, and what was not checked. Lengths are in the unit of the
@@ -48,8 +49,12 @@ public:
     /// Checks the step with a progress dialog, which can be cancelled. False when there are no new results;
     /// the page says why, unless it was deleted meanwhile.
     bool runChecks();
-    /// Accepts violations, in the results that there are and in those of later runs.
-    void setWaivers(std::vector<KVCAM::UIAPI::Ext::Waiver> waivers);
+    /// Accepts violations, in the results that there are and in those of later runs. `path` is the file that
+    /// they came from.
+    void setWaivers(std::vector<KVCAM::UIAPI::Ext::Waiver> waivers, QString const & path = {});
+    /// Asks for a reason and accepts the selected violation, in the file that the waivers came from, or in
+    /// one that the user names.
+    void waiveSelected();
     /// Selects the worst measurement of a check, or the check if it has none, and shows every severity. False
     /// if it has no row.
     bool showCheck(std::string const & table, int number);
@@ -82,6 +87,7 @@ private:
     void showBanner();
     void showWritten();
     void showNotChecked();
+    void waive(KVCAM::UIAPI::Ext::Waiver const & waiver, QString const & path);
     void showSelected();
     QString selectedText() const;
     void exportFile(QString const & title, QString const & name, QString const & filter,
@@ -112,6 +118,9 @@ private:
     TrackWidthChart * m_chart = nullptr;
     QGroupBox * m_notCheckedBox = nullptr;
     QTableWidget * m_notChecked = nullptr;
+    QPushButton * m_waiveButton = nullptr;
+    WaiversBox * m_waivers = nullptr;
+    QString m_waiversPath;                                       ///< empty: none yet
     AnalysisRun::Outcome m_outcome = AnalysisRun::Outcome::Done; ///< of the latest run
 };
 

@@ -5,6 +5,7 @@
 #include "checks/ResultsTree.h"
 #include "checks/SeverityBar.h"
 #include "checks/TrackWidthChart.h"
+#include "checks/WaiversBox.h"
 #include "ui/Colours.h"
 #include "ui/TableTools.h"
 
@@ -51,12 +52,13 @@ QWidget * ResultsPage::makeButtons()
     m_previous = makeButton("previous");
     m_next = makeButton("next");
     m_boardButton = makeButton("board");
+    m_waiveButton = makeButton("waive");
     m_summaryButton = makeButton("summary");
     m_reportButton = makeButton("report");
     auto * row = new QWidget;
     auto * layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    for (QPushButton * button : {m_runButton, m_previous, m_next, m_boardButton}) {
+    for (QPushButton * button : {m_runButton, m_previous, m_next, m_boardButton, m_waiveButton}) {
         layout->addWidget(button);
     }
     layout->addStretch(1);
@@ -66,6 +68,7 @@ QWidget * ResultsPage::makeButtons()
     connect(m_previous, &QPushButton::clicked, this, [this] { showViolation(-1); });
     connect(m_next, &QPushButton::clicked, this, [this] { showViolation(1); });
     connect(m_boardButton, &QPushButton::clicked, this, &ResultsPage::boardWanted);
+    connect(m_waiveButton, &QPushButton::clicked, this, &ResultsPage::waiveSelected);
     connect(m_summaryButton, &QPushButton::clicked, this, [this] {
         exportFile(tr("Export the summary"), "summary.json", tr("Summary (*.json)"),
                    [this](QString const & path) { return m_run->writeSummary(path); });
@@ -159,6 +162,8 @@ QWidget * ResultsPage::makeSides()
     lower->setChildrenCollapsible(false);
     lower->addWidget(m_chartBox);
     lower->addWidget(m_notCheckedBox);
+    m_waivers = new WaiversBox;
+    lower->addWidget(m_waivers);
     lower->setSizes({300, 300});
     auto * side = new QWidget;
     auto * layout = new QVBoxLayout(side);

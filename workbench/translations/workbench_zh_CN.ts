@@ -1841,6 +1841,22 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
 <context>
     <name>Workbench::ResultsPage</name>
     <message>
+        <source>Waivers</source>
+        <translation>豁免</translation>
+    </message>
+    <message>
+        <source>Waivers (*.json)</source>
+        <translation>豁免 (*.json)</translation>
+    </message>
+    <message>
+        <source>Wai&amp;ve...</source>
+        <translation>豁免(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Accepts the selected violation: it is counted apart</source>
+        <translation>接受所选的违规：单独计数</translation>
+    </message>
+    <message>
         <source>Export the summary</source>
         <translation>导出汇总</translation>
     </message>
@@ -3848,6 +3864,68 @@ legal values: from %2 to %3</source>
     <message>
         <source>Shows or hides the measurements of this colour</source>
         <translation>显示或隐藏此颜色的测量结果</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::WaiveDialog</name>
+    <message>
+        <source>&amp;Until</source>
+        <translation>有效期至(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Waive a violation</source>
+        <translation>豁免违规</translation>
+    </message>
+    <message>
+        <source>&amp;Waive</source>
+        <translation>豁免(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Reason:</source>
+        <translation>理由(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Accepted by:</source>
+        <translation>接受人(&amp;A)：</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::WaiversBox</name>
+    <message>
+        <source>Waived: %1 red, %2 yellow, %3 green</source>
+        <translation>已豁免：红 %1，黄 %2，绿 %3</translation>
+    </message>
+    <message>
+        <source>Violation</source>
+        <translation>违规</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>接受人</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>waived</source>
+        <translation>已豁免</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>已过期</translation>
+    </message>
+    <message>
+        <source>accepts nothing</source>
+        <translation>未匹配</translation>
     </message>
 </context>
 </TS>

@@ -14,7 +14,6 @@
 
 #include <EmbeddedEngine.h>
 #include <UIAPICommonExt.h>
-#include <analysis/Waivers.h>
 
 #include <QApplication>
 #include <QTimer>
@@ -126,7 +125,7 @@ void Desk::useWaivers(QString const & path)
     if (Ext::Result const read = Ext::readWaivers(file, waivers); !read.ok) {
         Ext::showMessage({Ext::MessageKind::Information, m_board->window.get(), file, read.reason});
     }
-    m_board->window->results().setWaivers(std::move(waivers));
+    m_board->window->results().setWaivers(std::move(waivers), file);
 }
 
 void Desk::close()
