@@ -102,8 +102,10 @@ SortedRecords recordsOf(Pairs pairs, NetOf const & netOf)
     sortDistinct(
         pairs,
         [&](Pair const & a, Pair const & b) {
-            return placeOf(a) != placeOf(b)
-                       ? placeOf(a) < placeOf(b)
+            auto const place = placeOf(a);
+            auto const otherPlace = placeOf(b);
+            return place != otherPlace
+                       ? place < otherPlace
                        : std::tuple(nets(a), rest(a), items(a)) < std::tuple(nets(b), rest(b), items(b));
         },
         [&](Pair const & a, Pair const & b) { return placeOf(a) == placeOf(b) && nets(a) == nets(b); });

@@ -20,6 +20,9 @@ constexpr double leastAspect = 0.01;  // a picture that is narrower or wider has
 constexpr double markRadius = 9;
 constexpr std::size_t mostNumbers = 60; // marks of a picture that have their row's number beside them
 constexpr int mostTicks = 6;
+constexpr std::size_t mostMarks = 400;       // of a picture
+constexpr std::size_t mostMarksInAll = 2000; // browsers take long for more
+constexpr std::size_t leastMarks = 50;       // of a picture, whatever the number of pictures
 
 struct Width
 {
@@ -186,18 +189,31 @@ struct Cluster
     std::size_t others = 0;
 };
 
-std::vector<Cluster> clustersOf(std::vector<Mark> const & marks)
+std::vector<Cluster> clustersOf(std::vector<Mark> const & marks, double size)
 {
     std::vector<Cluster> clusters;
     std::map<std::pair<int, int>, std::size_t> cells;
     for (Mark const & mark : marks) {
-        std::pair const cell{static_cast<int>(mark.x / markRadius), static_cast<int>(mark.y / markRadius)};
+        std::pair const cell{static_cast<int>(mark.x / size), static_cast<int>(mark.y / size)};
         auto const [known, isNew] = cells.try_emplace(cell, clusters.size());
         if (isNew) {
             clusters.push_back({mark, 0});
         } else {
             ++clusters[known->second].others;
         }
+    }
+    return clusters;
+}
+
+// Few enough for a browser: where there are many, each stands for a larger area.
+std::vector<Cluster> clustersOf(Page const & page, std::vector<Mark> const & marks)
+{
+    std::size_t const share = mostMarksInAll / std::max<std::size_t>(page.options.pictures.size(), 1);
+    double size = markRadius;
+    std::vector<Cluster> clusters = clustersOf(marks, size);
+    while (clusters.size() > std::clamp(share, leastMarks, mostMarks)) {
+        size *= 1.25;
+        clusters = clustersOf(marks, size);
     }
     return clusters;
 }
@@ -250,7 +266,7 @@ QByteArray figure(Page const & page, LayerPicture const & picture)
 {
     double const height = pictureWidth * (picture.top - picture.bottom) / (picture.right - picture.left);
     std::vector<Mark> const marks = marksOf(page, picture, height);
-    std::vector<Cluster> const clusters = clustersOf(marks);
+    std::vector<Cluster> const clusters = clustersOf(page, marks);
     QByteArray const size = "width=\"" + coordinate(pictureWidth) + "\" height=\"" + coordinate(height) + '"';
     QByteArray out =
         "<figure><figcaption><b>" + isolated(picture.layer) + "</b> <span class=\"dim\">" +

@@ -46,6 +46,7 @@ th[aria-sort=descending] button::after{content:" \2193"}
 .t{min-width:6rem;max-width:24rem;overflow-wrap:anywhere}
 .w{min-width:11rem}
 td code{font-size:.9em}
+summary{white-space:nowrap;cursor:pointer}
 :target{background:var(--head);outline:2px solid var(--link)}
 .R i{color:var(--R)}.Y i{color:var(--Y)}.G i{color:var(--G)}.N i{color:var(--N)}
 td.R i{color:var(--R)}td.Y i{color:var(--Y)}td.G i{color:var(--G)}td.N i{color:var(--N)}
@@ -60,6 +61,7 @@ rect.G,line.G{fill:var(--G);stroke:var(--G)}rect.N,line.N{fill:var(--N);stroke:v
 .bars line{stroke-width:1.5;stroke-dasharray:4 2}
 .bars line.tick{stroke:var(--dim);stroke-width:1;stroke-dasharray:none}
 .bars text{fill:var(--dim);font-size:11px;text-anchor:middle}
+section,figure{content-visibility:auto;contain-intrinsic-size:auto 40rem}
 figure{margin:1rem 0;break-inside:avoid}
 figcaption{margin-bottom:.3rem}
 figure svg{display:block;width:100%;min-width:40rem;border:1px solid var(--line);background:#fff}
@@ -68,15 +70,16 @@ figure svg{display:block;width:100%;min-width:40rem;border:1px solid var(--line)
 .m .nr{font:11px sans-serif;fill:#1c2330;stroke:#fff;stroke-width:3;paint-order:stroke;text-anchor:start}
 .m .R circle{fill:var(--paper-R)}.m .Y circle{fill:var(--paper-Y)}
 .m .G circle{fill:var(--paper-G)}.m .N circle{fill:var(--paper-N)}
-@media (max-width:40rem){body{padding:.8rem}.counts>li{min-width:5.5rem}th,td{padding:.25rem .4rem}}
+@media (max-width:40rem){body{padding:.8rem}.counts>li{min-width:5.5rem}th,td{padding:.25rem .4rem}.w{min-width:7rem}}
 @media screen{.no-R tr.R,.no-R a.R,.no-Y tr.Y,.no-Y a.Y,.no-G tr.G,.no-G a.G,.no-N tr.N,.no-N a.N{display:none}}
 @page{size:A4;margin:14mm 12mm 16mm;@bottom-right{content:counter(page) " / " counter(pages);font-size:8pt}}
 @media print{
+section,figure{content-visibility:visible}
 body{padding:0;max-width:none;font-size:9.5pt;print-color-adjust:exact;-webkit-print-color-adjust:exact}
 table{font-size:7.5pt}th,td{padding:.6mm 1mm}h1{font-size:16pt}h2{font-size:13pt}h3{font-size:10.5pt}
 h2,h3,caption,figcaption{break-after:avoid}tr,.counts>li{break-inside:avoid}thead{display:table-header-group}
 .wide{overflow:visible}figure svg{min-width:0}nav,.hint{display:none}a{color:inherit;text-decoration:none}
-.id{display:none}th button{text-decoration:none}
+.id{display:none}th button{display:contents}
 .t{min-width:0;max-width:38mm}.w{min-width:28mm}.counts button[aria-pressed=false]{opacity:1;text-decoration:none}}
 )css";
 

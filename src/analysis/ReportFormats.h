@@ -12,6 +12,8 @@
 /// and a document with that many objects would take gigabytes.
 namespace KVCAM::UIAPI::Ext::Formats {
 
+/// Whether the text is the same in all of its encodings.
+bool isAscii(std::string const & text);
 /// Invalid UTF-8 becomes replacement characters.
 QByteArray utf8(std::string const & text);
 /// The shortest text that reads back equal; empty if not finite.

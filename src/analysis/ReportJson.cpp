@@ -30,16 +30,17 @@ void appendJsonEntry(QByteArray & out, ReportCategory const & category, ReportEn
     }
     std::optional<double> const limit = limitOf(category, entry);
     std::string const id = copyId(category, entry, copy);
-    out.append("{\"id\": \"").append(id.data(), static_cast<int>(id.size()));
-    out += "\", \"layer\": " + quoted(entry.layer) + ", \"level\": " + QByteArray::number(entry.level) +
-           ", \"um\": " + jsonNumber(inUnit(entry.measured, Unit::Millimetre)) +
-           ", \"mil\": " + jsonNumber(inUnit(entry.measured, Unit::Inch)) +
-           ", \"limit\": " + jsonNumber(limit) + ", \"limitUnit\": " + (limit ? unit : QByteArray("null")) +
-           ", \"severity\": \"" + markOf(entry.severity).name + "\", \"x_um\": " + jsonNumber(x) +
-           ", \"y_um\": " + jsonNumber(y) + ", \"places\": [";
+    auto const add = [&out](auto const &... parts) { ((out += parts), ...); }; // without temporary copies
+    add("{\"id\": \"", id.c_str(), "\", \"layer\": ", quoted(entry.layer),
+        ", \"level\": ", QByteArray::number(entry.level),
+        ", \"um\": ", jsonNumber(inUnit(entry.measured, Unit::Millimetre)),
+        ", \"mil\": ", jsonNumber(inUnit(entry.measured, Unit::Inch)), ", \"limit\": ", jsonNumber(limit),
+        ", \"limitUnit\": ", limit ? unit : QByteArray("null"), ", \"severity\": \"",
+        markOf(entry.severity).name, "\", \"x_um\": ", jsonNumber(x), ", \"y_um\": ", jsonNumber(y),
+        ", \"places\": [");
     appendPlaces(out, entry.places);
-    out += "], \"nets\": [" + jsonNet(entry.nets[0]) + ", " + jsonNet(entry.nets[1]) +
-           "], \"waived\": " + (entry.waiver ? "true" : "false") + '}';
+    add("], \"nets\": [", jsonNet(entry.nets[0]), ", ", jsonNet(entry.nets[1]),
+        "], \"waived\": ", entry.waiver ? "true" : "false", "}");
 }
 
 void appendJsonCategory(QByteArray & out, ReportCategory const & category, QByteArray const & unit)

@@ -12,12 +12,15 @@
 namespace KVCAM::UIAPI::Ext {
 namespace Formats {
 
+bool isAscii(std::string const & text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 QByteArray utf8(std::string const & text)
 {
-    bool const isAscii =
-        std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    return isAscii ? QByteArray(text.data(), static_cast<int>(text.size()))
-                   : QString::fromStdString(text).toUtf8();
+    return isAscii(text) ? QByteArray(text.data(), static_cast<int>(text.size()))
+                         : QString::fromStdString(text).toUtf8();
 }
 
 QByteArray numberText(std::optional<double> value)

@@ -109,7 +109,9 @@ std::optional<std::vector<KVCAM::API::point>> placesOf(std::string_view part)
 void normalise(ViolationName & name)
 {
     for (std::string * text : {&name.table, &name.layer, &name.nets[0], &name.nets[1]}) {
-        *text = Formats::utf8(*text).toStdString();
+        if (!Formats::isAscii(*text)) {
+            *text = Formats::utf8(*text).toStdString();
+        }
     }
     for (KVCAM::API::point & place : name.places) {
         place = {static_cast<double>(saturatedInt(std::round(place.x))),

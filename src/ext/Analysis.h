@@ -12,7 +12,7 @@
 //   markOf()                its row for a severity
 //   AnalysisReport          every measurement with its category and severity
 //   limitOf()               the level that decided
-//   reportText()            a report as JSON, CSV or HTML
+//   reportText()            a report as JSON, CSV, HTML or JUnit XML
 //   writeReport()           the same into a file
 //   htmlReport()            a report as a page for people: language, pictures, what is listed
 //   writeHtmlReport()       the same into a file
@@ -25,6 +25,7 @@
 //   readWaivers()           violations that somebody has accepted, for AnalysisReport::applyWaivers();
 //                           parseWaivers() of a text, waiverStateName() names what became of one
 //   writeWaivers()          the same into a file; waiversText() as text
+//   isViolation()           whether a measurement fails: as bad as a severity or worse, and not waived
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),

@@ -5,6 +5,7 @@
 //   edaLink()              the link, for its signals
 //   edaLinkState()         bound or why not, counts, the latest error
 //   sendEdaDataChecked()   sendEdaData() with a result
+//   setEdaLinkReceives()   leaves port 2333 to other processes
 //
 // ConnectEDA has the signals: datagramReceived() for each datagram, then jsonReceived() or invalidReceived().
 // The three functions call UIAPICommonPara's methods of the same names, and so create it.

@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QUdpSocket>
 
+#include <atomic>
+
 namespace KVCAM::UIAPI {
 namespace {
 
@@ -30,7 +32,14 @@ void discard(QUdpSocket * socket, bool inUse)
     socket->deleteLater();
 }
 
+std::atomic<bool> linksReceive = true;
+
 } // namespace
+
+void Ext::setEdaLinkReceives(bool receives)
+{
+    linksReceive = receives;
+}
 
 struct ConnectEDA::Private
 {
@@ -59,6 +68,10 @@ struct ConnectEDA::Private
         }
         receiver->close();
         bindError.clear();
+        if (!linksReceive) {
+            bindError = QLatin1String("the link must not receive");
+            return;
+        }
         if (!receiver->bind(QHostAddress(QHostAddress::LocalHost), receivePort)) {
             bindError = receiver->errorString();
         }

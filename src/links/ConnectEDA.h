@@ -35,6 +35,12 @@ struct EdaLinkState
     QString lastError;    ///< text of the latest failure to send or read; empty if none
 };
 
+/// Whether links receive, which they do until this is called. One that must not leaves port 2333 to other
+/// processes, as a run without a window should; it can send. Call it before the library's first call, which
+/// makes the link: one that has the port keeps it.
+/// \since 0.2
+UIAPICOMMON_EXPORT void setEdaLinkReceives(bool receives);
+
 } // namespace Ext
 
 /// The link to an EDA tool on the same computer: JSON messages as UDP datagrams over the loopback interface,

@@ -230,7 +230,7 @@ TEST(HtmlReport, RowsAreInOrderOfSeverityAndValue)
         return all;
     };
     Document const document(htmlReport(report, {}));
-    EXPECT_EQ(document.count({"✖ R red 2.756 70 3.000 76.2 e 0.0000, 0.0000 in 0.000, 0.000 mm"}), 1);
+    EXPECT_EQ(document.count({"✖ R red 2.756 70 3 76.2 e 0.0000, 0.0000 in 0.000, 0.000 mm"}), 1);
     EXPECT_EQ(document.count({"– none – – – – c"}), 1);
     EXPECT_EQ(order(document), "ebfadc");
     report.setLevels(signal, {{"Lines", 5, 4, 3}}); // larger is worse
@@ -246,7 +246,7 @@ TEST(HtmlReport, LengthsAreInBothUnitsAndTextsInTheLanguage)
     AnalysisReport report = reportOf({entryOf("top", 70, 25400, 12700)});
     report.addNotChecked({signal, 3, "", "why"});
     Document const document(htmlReport(report, options));
-    EXPECT_EQ(document.count({"✖ R 红 70 2.756 76.2 3.000 top 25.400, 12.700 mm 1.0000, 0.5000 in"}), 1);
+    EXPECT_EQ(document.count({"✖ R 红 70 2.756 76.2 3 top 25.400, 12.700 mm 1.0000, 0.5000 in"}), 1);
     EXPECT_EQ(document.count({"<Lines>", "76.2 µm (3 mil)"}), 1);
     EXPECT_EQ(document.attributes["lang"], QStringList("zh-Hans"));
     for (char const * element : {"h1", "h2", "dt", "th", "title"}) {
@@ -326,6 +326,23 @@ TEST(HtmlReport, AComparisonIsShown)
     EXPECT_EQ(document.count({"Lines ▲ Y yellow 3.543 90 – – – bot –", "id/2"}), 1);
     EXPECT_TRUE(document.texts["h3"].contains("New (1)"));
     EXPECT_FALSE(Document(htmlReport(reportOf({}), {})).texts["h2"].contains("Changes"));
+}
+
+TEST(HtmlReport, WaivedViolationsStandApart)
+{
+    AnalysisReport report = reportOf({entryOf("top", 70), entryOf("bot", 71)});
+    report.applyWaivers({{"SignalLayerRanges/46/top/0,0/-", "as ordered", "Kim", "2026-01-02", "2027-01-01"},
+                         {"SignalLayerRanges/46/top/900000,0/-", "moved", "Lee", "2026-01-03", ""},
+                         {"SignalLayerRanges/46/bot/0,0/-", "old", "Lee", "2026-01-04", "2026-01-05"}},
+                        "2026-11-22");
+    Document const document(htmlReport(report, {}));
+    EXPECT_EQ(document.count({"Lines ✖ R red 2.756 70", "top", "as ordered Kim 2026-01-02 until 2027-01-01"}),
+              1);
+    EXPECT_EQ(document.count({"matches no violation SignalLayerRanges/46/top/900000,0/- moved Lee"}), 1);
+    EXPECT_EQ(document.count({"expired SignalLayerRanges/46/bot/0,0/- old Lee 2026-01-04 2026-01-05"}), 1);
+    EXPECT_EQ(document.count({"1 ✖ R red 2.795 71", "bot"}), 1) << "the other is listed among the violations";
+    EXPECT_EQ(document.count({"Lines 1 0 0 0 1 3 mil"}), 1) << "and counted without the waived one";
+    EXPECT_EQ(document.count({"2.756 70"}), 1);
 }
 
 TEST(HtmlReport, AnEmptyReportIsADocument)

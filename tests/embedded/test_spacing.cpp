@@ -161,15 +161,16 @@ TEST_F(SpacingTest, NetsOfTheFileCountBeforeWhatTouches)
 
 TEST_F(SpacingTest, RecordsTellTheNetsOfTheFileInTheOrderOfTheirPlaces)
 {
-    build({"L 9 0 0 0 0 P 0\n"                                 // of A
-           "P 20 0 1 P 0 0 ;2\nP 21.2 0 1 P 0 0 ;2\n"          // of A and B, with holes
-           "L 0 0.5 9 0.5 0 P 0\nL 0 1 9 1 0 P 0\n"            // of B, of none
-           "P 0 30 1 P 0 0\nP 0 30 5 P 0 0\nP 0 30 6 P 0 0\n", // A, B and C at one place
+    build({"L 9 0 0 0 0 P 0\n"                                // of A
+           "P 20 0 1 P 0 0 ;2\nP 21.2 0 1 P 0 0 ;2\n"         // of A and B, with holes
+           "L 0 0.5 9 0.5 0 P 0\nL 0 1 9 1 0 P 0\n"           // of B, of none
+           "P 0 30 1 P 0 0\nP 0 30 5 P 0 0\nP 0 30 6 P 0 0\n" // A, B and C at one place
+           "P 50 0 1 P 0 0\n",                                // of A, with a hole that has no net
            "P 21.2 0 1 P 0 0 ;0=2\nP 20 0 1 P 0 0 ;0=2\nL 40 0 41 0 5 P 0 ;0=0\nP 50 0 5 P 0 0 ;0=1\n",
            {},
            {},
            "NET B\nFID C 1 2\nFID C 1 3\nFID C 1 6\nFID H 0 0\nFID H 0 2\n"
-           "NET A\nFID C 1 0\nFID C 1 1\nFID C 1 5\nFID H 0 1\nFID H 0 3\nNET C\nFID C 1 7\n"});
+           "NET A\nFID C 1 0\nFID C 1 1\nFID C 1 5\nFID C 1 8\nFID H 0 1\nNET C\nFID C 1 7\n"});
     write("jobs/board/steps/pcb/profile",
           "UNITS=MM\nS P 0\nOB -5 -5 I\nOS 60 -5\nOS 60 31\nOS -5 31\nOE\nSE\n");
     auto const results = check();
@@ -188,8 +189,9 @@ TEST_F(SpacingTest, RecordsTellTheNetsOfTheFileInTheOrderOfTheirPlaces)
                                           {12, "20500 A-B"},
                                           {14, "20500 A-B"},
                                           {33, "21200 B-B, 20000 A-A"},
+                                          {36, "50000 -A"},
                                           {43, "0 A-"},
-                                          {45, "0 C-, 0 B-, 20000 A-, 21200 B-, 0 A-"},
+                                          {45, "0 C-, 0 B-, 20000 A-, 21200 B-, 0 A-, 50000 A-"},
                                           {46, "9000 A-, 0 B-, 0 -"}}) {
         EXPECT_EQ(line("signal", item, signal(results, "top", item)), expected) << item;
     }

@@ -16,7 +16,7 @@ except ImportError:
 DAMAGES = {
     "no id": lambda report, entry: entry.pop("id"),
     "an id of one word": lambda report, entry: entry.update(id="top"),
-    "a number as text": lambda report, entry: entry.update(um=str(entry["um"])),
+    "a number as text": lambda report, entry: entry.update(x_um=str(entry["x_um"])),
     "a value without a number": lambda report, entry: entry.update(mil=None),
     "a limit without a unit": lambda report, entry: entry.update(limitUnit=None),
     "an unknown severity": lambda report, entry: entry.update(severity="orange"),

@@ -79,6 +79,17 @@ TEST_F(EdaLinkTest, ExistsFromTheFirstCallOn)
     EXPECT_EQ(engine.take(), Lines{});
 }
 
+TEST_F(EdaLinkTest, LeavesThePortToOthersAndSends)
+{
+    Ext::setEdaLinkReceives(false);
+    EXPECT_EQ(Ext::edaLinkState().bindError, "the link must not receive");
+    EXPECT_FALSE(Ext::edaLinkState().bound);
+    EXPECT_TRUE(QUdpSocket().bind(here, receivePort));
+    setEdaPort(tool.localPort());
+    sendEdaData({});
+    EXPECT_EQ(atTool(), "{}");
+}
+
 TEST_F(EdaLinkTest, KeepsTheTextOfTheLatestDatagram)
 {
     struct Row

@@ -244,7 +244,8 @@ TEST(TheJob, IsTheVariablesWhenTheArgumentsNameNone)
         {"", {"--headless"}, nullptr},
         {"sample", {"--headless"}, "sample"},
         {"sample", {"--headless", "other"}, "other"},
-        {"sample", {"a", "--headless", "b"}, nullptr},
+        {"sample", {"a", "--headless", "b"}, "a"},
+        {"sample", {"a", "b"}, nullptr}, // one window for one board
     };
     for (auto const & row : rows) {
         qputenv("UIAPI_WORKBENCH_JOB", row.variable);

@@ -1,4 +1,5 @@
 #include "../embedded/ArchiveBytes.h"
+#include "ProgramRun.h"
 #include "TestFiles.h"
 #include "harness/ReportSchema.h"
 
@@ -10,8 +11,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QSet>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -20,45 +19,11 @@ using namespace Workbench;
 
 namespace {
 
-struct Result
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-    QJsonObject facts; ///< of a headless run
-};
-
-// With a LeakSanitizer in the program, ignores the platform's leaks.
-QProcessEnvironment environment()
-{
-    QFile suppressions("leaks.txt");
-    EXPECT_TRUE(suppressions.open(QIODevice::WriteOnly));
-    suppressions.write("leak:libqoffscreen.so\nleak:libfontconfig\nleak:libQt5DBus\n");
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    variables.remove("UIAPI_WORKBENCH_JOB");
-    variables.insert("LSAN_OPTIONS",
-                     "print_suppressions=0:suppressions=" + QDir().absoluteFilePath("leaks.txt"));
-    return variables;
-}
-
-Result run(QStringList const & arguments)
-{
-    QProcess program;
-    program.setProcessEnvironment(environment());
-    program.start(WORKBENCH_PROGRAM, arguments);
-    Result result;
-    if (program.waitForFinished(60000) && program.exitStatus() == QProcess::NormalExit) {
-        result.exitCode = program.exitCode();
-    }
-    result.out = program.readAllStandardOutput();
-    result.err = program.readAllStandardError();
-    result.facts = QJsonDocument::fromJson(result.out).object();
-    return result;
-}
+using Result = ProgramResult;
 
 Result runSample(QStringList const & options = {})
 {
-    Result result = run(QStringList{sampleJob, "--headless", "--output", "out"} + options);
+    Result result = runProgram(QStringList{sampleJob, "--headless", "--output", "out"} + options);
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     return result;
 }
@@ -105,7 +70,7 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
 #endif
     };
     for (auto const & item : cases) {
-        Result const result = run(item.arguments);
+        Result const result = runProgram(item.arguments);
         EXPECT_EQ(result.exitCode, 2) << item.text;
         EXPECT_EQ(result.err.count('\n'), 1) << result.err.toStdString();
         EXPECT_TRUE(result.err.contains(item.text)) << result.err.toStdString();
@@ -120,7 +85,7 @@ TEST(Workbench, AnArchiveIsShownLikeItsFolder)
     QByteArray const features = "$0 r10\nP 0 0 0 P 0 0\n";
     writeFile("board.tgz", gzip(tar({{"odb/matrix/matrix", readFile("job/matrix/matrix")},
                                      {"odb/steps/pcb/layers/top/features", features}})));
-    Result const result = run({"board.tgz", "--headless", "--output", "out"});
+    Result const result = runProgram({"board.tgz", "--headless", "--output", "out"});
     if (result.err.contains("reads no archives")) {
         GTEST_SKIP() << "this build has no libarchive";
     }
@@ -135,7 +100,7 @@ TEST(Workbench, WhatCannotBeReadOrWrittenMakesTheExitCodeOne)
     QDir().mkpath("out/settings.png");
     writeJob("job", {{"SIGNAL", "TOP"}});
     writeFile("job/steps/pcb/layers/top/features", "P nonsense\n");
-    Result const result = run({"job", "--headless", "--output", "out", "--summary", "sum.json"});
+    Result const result = runProgram({"job", "--headless", "--output", "out", "--summary", "sum.json"});
     EXPECT_EQ(result.exitCode, 1) << result.err.toStdString();
     QJsonArray const errors = result.facts["errors"].toArray();
     ASSERT_EQ(errors.size(), 3) << result.err.toStdString();
@@ -285,7 +250,7 @@ TEST(Workbench, AConfigurationDirectoryOfAnyNameIsUsed)
     EXPECT_TRUE(keys.contains("Colour")) << keys.join(' ').toStdString();
     EXPECT_FALSE(QDir("out/workbench-session").exists());
 
-    EXPECT_EQ(run({sampleJob, "--headless", "--config", "nowhere"}).exitCode, 2);
+    EXPECT_EQ(runProgram({sampleJob, "--headless", "--config", "nowhere"}).exitCode, 2);
 }
 
 TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)

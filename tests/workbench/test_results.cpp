@@ -1,6 +1,7 @@
 #include "TestFiles.h"
 #include "board/BoardView.h"
 #include "checks/Freshness.h"
+#include "checks/ReportPictures.h"
 #include "checks/ResultFiles.h"
 #include "checks/ResultsModel.h"
 #include "checks/ResultsPage.h"
@@ -25,6 +26,7 @@
 #include <QFileDialog>
 #include <QFrame>
 #include <QGuiApplication>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -35,6 +37,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <algorithm>
+#include <cstdlib>
 #include <memory>
 
 using namespace KVCAM::UIAPI;
@@ -475,6 +479,58 @@ TEST_F(Results, AreInTheLanguageOfTheScreen)
     EXPECT_GT(notes.rowCount(), 0);
     ASSERT_TRUE(showChinese(false));
     EXPECT_EQ(inScreenLanguage(rows[0].english), rows[0].english);
+}
+
+TEST_F(Results, AreWrittenAsAPageInTheLanguageAndUnitOfTheScreen)
+{
+    writeLevels();
+    open();
+    ASSERT_TRUE(page().runChecks());
+    ASSERT_TRUE(showChinese(true));
+    ReportChoices choices;
+    choices.firstUnit = Ext::Unit::Millimetre;
+    choices.dataFile = "all.json";
+    ASSERT_TRUE(page().run().writeReport("report.html", choices));
+    ASSERT_TRUE(showChinese(false));
+    QString const html = readFile("report.html");
+    EXPECT_TRUE(html.contains("<h1>分析报告</h1>") && html.contains("<bdi>线</bdi>"));
+    EXPECT_TRUE(html.contains("<td class=\"n\">100</td><td class=\"n\">3.937</td>"));
+    EXPECT_EQ(html.count("data:image/png;base64,"), 1) << "neither the empty layer nor the rout";
+    // The red track: 2 mm above the lower one of a board without a profile, 10 mm long.
+    QImage picture;
+    QString const data = html.section("base64,", 1, 1).section('"', 0, 0);
+    ASSERT_TRUE(picture.loadFromData(QByteArray::fromBase64(data.toLatin1()), "png"));
+    EXPECT_EQ(picture.width(), 1000);
+    QPoint const mark(qRound(html.section(" cx=\"", 1, 1).section('"', 0, 0).toDouble()),
+                      qRound(html.section(" cy=\"", 1, 1).section('"', 0, 0).toDouble()));
+    EXPECT_NE(picture.pixelColor(mark), picture.pixelColor(5, 5)) << "a mark is on what it marks";
+    EXPECT_EQ(picture.pixelColor(mark - QPoint(0, 20)), picture.pixelColor(5, 5));
+}
+
+TEST(ReportPictures, HaveAPaletteOfTheirColours)
+{
+    struct
+    {
+        int colours;
+        int tolerance;
+    } const rows[] = {{2, 0}, {256, 0}, {257, 1}, {4096, 32}};
+    for (auto const & row : rows) {
+        QImage picture(64, 64, QImage::Format_RGB32);
+        for (int i = 0; i < 64 * 64; ++i) {
+            int const colour = i % row.colours;
+            picture.setPixel(i % 64, i / 64, qRgb(colour % 256, colour / 256 * 16, 0));
+        }
+        QByteArray const png = smallPng(picture);
+        QImage const read = QImage::fromData(png, "png");
+        EXPECT_EQ(read.depth() <= 8, true) << row.colours;
+        int worst = 0;
+        for (int i = 0; i < 64 * 64; ++i) {
+            QColor const was = picture.pixelColor(i % 64, i / 64);
+            QColor const is = read.pixelColor(i % 64, i / 64);
+            worst = std::max({worst, std::abs(was.red() - is.red()), std::abs(was.green() - is.green())});
+        }
+        EXPECT_LE(worst, row.tolerance) << row.colours;
+    }
 }
 
 TEST_F(Results, ListSpacingsUpToTheLargestLevel)

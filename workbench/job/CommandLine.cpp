@@ -44,7 +44,7 @@ constexpr std::array<Option, 16> options{{
     {"waivers", "Accept the violations in this file: they are counted apart and fail nothing.", "FILE"},
     {"baseline", "Compare the checks with this earlier report (.json).", "FILE"},
     {"comparison", "Write the comparison with the baseline as JSON.", "FILE"},
-    {"fail-on-new", "End with 3 if a violation is not in the baseline, or its severity is worse there."},
+    {"fail-on-new", "End with 3 if a violation is not in the baseline, or its severity was better there."},
     {"json", "With --checks-only, print JSON instead of a table."},
     {"limit", "Change a limit of what a job may hold; may be repeated. The limits: %1.", "NAME=NUMBER"},
 }};

@@ -186,9 +186,6 @@ QJsonObject toJson(std::vector<BoardOutcome> const & outcomes)
 void sayAll(BoardOutcome const & outcome, bool withBoard)
 {
     QString const before = withBoard ? printable(outcome.board) + ": " : QString();
-    for (QString const & file : outcome.files) {
-        say("wrote " + file);
-    }
     for (QString const & text : outcome.notes + outcome.errors) {
         say(before + text);
     }

@@ -3,7 +3,6 @@
 #include "job/ExitCode.h"
 
 #include <UIAPICommonExt.h>
-#include <analysis/ReportComparison.h>
 
 #include <QJsonObject>
 #include <QString>
@@ -44,7 +43,7 @@ QString tableText(std::vector<BoardOutcome> const & outcomes);
 /// The same and more for programs.
 QJsonObject toJson(std::vector<BoardOutcome> const & outcomes);
 
-/// Says on stderr what was written, what went wrong and what should be known.
+/// Says on stderr what went wrong and what should be known.
 void sayAll(BoardOutcome const & outcome, bool withBoard);
 
 } // namespace Workbench

@@ -120,6 +120,7 @@ int runChecksOnly(ParsedArguments const & parsed)
     if (QString const error = enterConfiguration(config, {}); !error.isEmpty()) {
         return refuse(error);
     }
+    Ext::setEdaLinkReceives(false); // a window on the same computer may need the port
     Ext::setMessagePresenter(logMessage);
     Ext::setReadSavedSettingKeys(true);
     if (QString const error = commandLine.isGate() ? missingLevels() : QString(); !error.isEmpty()) {

@@ -125,6 +125,9 @@ int runHeadlessBoards(CommandLine const & commandLine, LogLines const & log)
             fail(outcome, ExitCode::WrongInput, error);
         }
         KVCAM::Embedded::closeJob(session.job());
+        for (QString const & file : outcome.files) {
+            say("wrote " + file);
+        }
         sayAll(outcome, isSeveral);
         outcomes.push_back(outcome);
     }

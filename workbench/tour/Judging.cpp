@@ -3,8 +3,6 @@
 #include "checks/AnalysisRun.h"
 
 #include <UIAPICommon.h>
-#include <analysis/ReportComparison.h>
-#include <analysis/ReportReader.h>
 
 #include <algorithm>
 #include <numeric>

@@ -4,7 +4,6 @@
 #include "tour/BoardOutcome.h"
 
 #include <UIAPICommonExt.h>
-#include <analysis/Waivers.h>
 
 #include <QString>
 

@@ -14,7 +14,6 @@
 
 #include <EmbeddedEngine.h>
 #include <UIAPICommonExt.h>
-#include <analysis/Waivers.h>
 
 #include <QApplication>
 #include <QTimer>
