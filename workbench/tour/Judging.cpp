@@ -79,13 +79,13 @@ QString readYardstick(CommandLine const & board, Yardstick & yardstick)
 {
     if (!board.waivers.isEmpty()) {
         if (Ext::Result const read = Ext::readWaivers(board.waivers, yardstick.waivers); !read.ok) {
-            return '"' + board.waivers + "\": " + read.reason;
+            return read.reason;
         }
     }
     if (!board.baseline.isEmpty()) {
         if (Ext::Result const read = Ext::readReport(board.baseline, yardstick.baseline.emplace());
             !read.ok) {
-            return '"' + board.baseline + "\": " + read.reason;
+            return read.reason;
         }
     }
     return {};
