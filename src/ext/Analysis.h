@@ -14,14 +14,16 @@
 //   limitOf()               the level that decided
 //   reportText()            a report as JSON or CSV
 //   writeReport()           the same into a file
-//   violationId()           the text that names a violation in every report; violationIds() those of a category
-//   violationName()         its parts; parseViolationId() takes a text apart
+//   violationId()           the text that names a violation in every report
+//   violationIds()          those of a category, different for what is named alike
+//   violationName()         what the text says, as values
+//   parseViolationId()      the same of a text
 //   isSameViolation()       whether two names stand for the same violation, although a place moved a little
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
-// addUnified(), and to Unified_AnalysisResult as before; what was not run -> addNotChecked(); at the end
-// writeReport(). The report grades with gradeMeasured().
+// addUnified(), and to Unified_AnalysisResult as before; the nets of what is added -> setNetLookup() before;
+// what was not run -> addNotChecked(); at the end writeReport(). The report grades with gradeMeasured().
 
 #include "../analysis/AnalysisReport.h"
 #include "../analysis/Grade.h"
