@@ -91,7 +91,7 @@ public:
     Row at(QModelIndex const & index) const;
     /// The row of a category, or an invalid index.
     QModelIndex find(std::string const & table, int number) const;
-    /// The measurements of a row by severity.
+    /// The measurements of a row by severity, without the waived ones.
     SeverityCounts countsAt(QModelIndex const & index) const;
     /// What a row's measurement is; of a category or layer: the smallest.
     std::optional<Length> measuredAt(QModelIndex const & index) const;
