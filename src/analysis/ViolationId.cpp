@@ -8,8 +8,8 @@
 #include <cmath>
 #include <cstddef>
 #include <functional>
-#include <numeric>
 #include <string_view>
+#include <system_error>
 #include <tuple>
 #include <utility>
 
