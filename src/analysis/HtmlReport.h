@@ -50,7 +50,7 @@ struct HtmlReportOptions
                                            ///< track; others follow by name
     std::size_t listedPerCheck = 500;      ///< the worst measurements of a check that are listed
     std::size_t listedInAll = 2000;        ///< of all checks together; each gets an equal share
-    std::size_t passingPerCheck = 5;      ///< of those listed, how many may have no severity
+    std::size_t passingPerCheck = 5;       ///< of those listed, how many may have no severity
     ReportComparison const * comparison = nullptr; ///< with an earlier report, shown if there is one
     QString dataFile;       ///< name of the file with all measurements, for the reader; empty: not known
     ReportTexts checkNames; ///< of the checks; as they are until set

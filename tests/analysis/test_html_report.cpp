@@ -339,6 +339,7 @@ TEST(HtmlReport, WaivedViolationsStandApart)
     EXPECT_EQ(document.count({"Lines ✖ R red 2.756 70", "top", "as ordered Kim 2026-01-02 until 2027-01-01"}),
               1);
     EXPECT_EQ(document.count({"matches no violation SignalLayerRanges/46/top/900000,0/- moved Lee"}), 1);
+    EXPECT_EQ(document.count({"matches no violation"}), 1);
     EXPECT_EQ(document.count({"expired SignalLayerRanges/46/bot/0,0/- old Lee 2026-01-04 2026-01-05"}), 1);
     EXPECT_EQ(document.count({"1 ✖ R red 2.795 71", "bot"}), 1) << "the other is listed among the violations";
     EXPECT_EQ(document.count({"Lines 1 0 0 0 1 3 mil"}), 1) << "and counted without the waived one";

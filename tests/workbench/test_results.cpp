@@ -165,7 +165,7 @@ TEST_F(Results, AreFiledAndSummarised)
     EXPECT_TRUE(readFile("report.json").contains("\"um\": 100, "));
     EXPECT_TRUE(readFile("report.json").contains("\"SignalLayerRanges/46/top/0,0~10000,0/A\"")) << "its net";
     EXPECT_TRUE(readFile("report.csv").contains("measurement,\"SignalLayerRanges\",46,\"Lines\",\"top\""));
-    auto const * notes = page().findChild<QTableWidget *>();
+    auto const * notes = page().findChild<QTableWidget *>("not checked");
     EXPECT_EQ(notes->item(0, 0)->text(), "Nets");
     EXPECT_TRUE(notes->item(0, 1)->text().contains("eda/data"));
 }
@@ -475,7 +475,7 @@ TEST_F(Results, AreInTheLanguageOfTheScreen)
     writeLevels();
     open();
     ASSERT_TRUE(page().runChecks());
-    auto const & notes = *page().findChild<QTableWidget *>();
+    auto const & notes = *page().findChild<QTableWidget *>("not checked");
     for (int i = 0; i < notes.rowCount(); ++i) {
         QString const reason = notes.item(i, 1)->text();
         EXPECT_TRUE(han.match(reason).hasMatch()) << reason.toStdString();
@@ -567,7 +567,7 @@ TEST_F(Results, SlotsHaveLevelsAndACategoryWithoutACheckIsNamed)
     EXPECT_EQ(row(model()->find(drillTable, 4)), "Non Plated Slot Summary|✖ R|31.5|31.6 / 33 / 34|");
     EXPECT_FALSE(model()->find(Ext::unifiedTable, UNIFIED_SLOTS).isValid()) << "counted once";
     QStringList without;
-    auto const & table = *page().findChild<QTableWidget *>();
+    auto const & table = *page().findChild<QTableWidget *>("not checked");
     for (int i = 0; i < table.rowCount(); ++i) {
         if (table.item(i, 0)->text() == "DrillRanges") {
             without.append(table.item(i, 1)->text());

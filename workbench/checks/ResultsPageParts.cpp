@@ -152,6 +152,7 @@ QWidget * ResultsPage::makeSides()
     (new QVBoxLayout(m_chartBox))->addWidget(scroll);
 
     m_notChecked = makeTable({{}, {}});
+    m_notChecked->setObjectName("not checked");
     wrapLastColumn(*m_notChecked);
     m_notCheckedBox = new QGroupBox;
     (new QVBoxLayout(m_notCheckedBox))->addWidget(m_notChecked);
