@@ -6,6 +6,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <atomic>
+#include <utility>
 
 namespace Workbench {
 
@@ -25,21 +27,31 @@ QString readingError()
 
 } // namespace
 
-QString Session::open(QString const & path)
+bool Session::runHere(KVCAM::Embedded::Reading reading)
 {
+    std::atomic<bool> const never{false};
+    reading.run(never);
+    return true;
+}
+
+QString Session::open(QString const & path, Runner const & run)
+{
+    using KVCAM::Embedded::Reading;
     QFileInfo const entry(path);
-    std::string job = entry.fileName().toStdString();
-    if (entry.isFile()) {
-        job = KVCAM::Embedded::openArchive(path.toStdString());
-    } else if (!entry.isDir()) {
+    if (!entry.isFile() && !entry.isDir()) {
         return failure(path, entry.exists() ? "it is neither a directory nor an archive"
                                             : "there is no such directory or archive");
-    } else if (!KVCAM::API::open_job(entry.path().toStdString(), job)) {
-        job.clear();
     }
-    if (job.empty()) {
+    Reading reading = entry.isFile()
+                          ? Reading::ofArchive(path.toStdString())
+                          : Reading::ofJob(entry.path().toStdString(), entry.fileName().toStdString());
+    if (!run(reading)) {
+        return failure(path, "it was stopped");
+    }
+    if (!reading.adopt()) {
         return failure(path, KVCAM::Embedded::lastError());
     }
+    std::string const job = reading.job();
     std::vector<std::string> names;
     std::vector<KVCAM::API::layer_info> layers;
     std::string const error = KVCAM::API::get_matrix(job, names, layers);
@@ -67,25 +79,31 @@ QString Session::open(QString const & path)
     return {};
 }
 
-void Session::countFeatures(Layer & layer) const
+bool Session::countFeatures(Layer & layer, Runner const & run) const
 {
     layer.features.clear();
     layer.errors.clear();
     for (Step const & step : m_steps) {
-        int const features = KVCAM::Embedded::featureCount(m_job, step.name, layer.info.name);
-        QStringList errors{readingError()};
-        bool const isKnown =
-            features >= 0 && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
-        layer.features.push_back(isKnown ? std::optional(features) : std::nullopt);
-        KVCAM::Embedded::tools(m_job, step.name, layer.info.name);
-        errors.append(readingError());
+        auto reading = KVCAM::Embedded::Reading::ofLayer(m_job, step.name, layer.info.name);
+        if (!run(reading)) {
+            layer.features.clear();
+            layer.errors.clear();
+            return false;
+        }
+        bool const isRead = reading.adopt();
+        QStringList errors{readingError(), QString::fromStdString(reading.toolsError()).simplified()};
         errors.removeAll(QString());
+        bool const isKnown = isRead && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
+        layer.features.push_back(
+            isKnown ? std::optional(KVCAM::Embedded::featureCount(m_job, step.name, layer.info.name))
+                    : std::nullopt);
         for (QString const & error : errors) {
             LOG(ERROR) << "workbench: cannot read layer " << layer.info.name << " of step " << step.name
                        << ": " << error.toStdString();
         }
         layer.errors.push_back(errors.join('\n'));
     }
+    return true;
 }
 
 void Session::recount(std::size_t step)
