@@ -1,5 +1,7 @@
 #include "job/JobLoading.h"
 
+#include <EmbeddedEngine.h>
+
 #include <glog/logging.h>
 
 #include <QCoreApplication>
@@ -15,7 +17,7 @@ bool readLayers(Session & session)
 
 bool readLayers(Session & session, ReadingProgress & progress)
 {
-    progress.setCount(static_cast<int>(session.layers().size() * session.steps().size()));
+    progress.setCount(static_cast<int>((session.layers().size() + 1) * session.steps().size()));
     for (Session::Layer & layer : session.layers()) {
         progress.setText(QCoreApplication::translate("Workbench", "Reading layer %1 (F1 stops)")
                              .arg(QString::fromStdString(layer.info.name)));
@@ -23,6 +25,15 @@ bool readLayers(Session & session, ReadingProgress & progress)
                                    [&progress](auto const & reading) { return progress.run(reading); })) {
             return false;
         }
+    }
+    // Otherwise, the first feature that is selected would wait for them.
+    progress.setText(QCoreApplication::translate("Workbench", "Reading the nets (F1 stops)"));
+    for (Session::Step const & step : session.steps()) {
+        auto nets = KVCAM::Embedded::Reading::ofNets(session.job(), step.name);
+        if (!progress.run(nets)) {
+            return false;
+        }
+        nets.adopt(); // what is wrong with them is told when they are used
     }
     return true;
 }
