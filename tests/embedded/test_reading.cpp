@@ -176,11 +176,12 @@ TEST_F(ReadingTest, AStoppedArchiveLeavesNoFolder)
     for (char const * const variable : {"TMPDIR", "TEMP", "TMP"}) {
         qputenv(variable, QDir("tmp").absolutePath().toUtf8());
     }
-    QByteArray const rest(40'000'000, '#');
-    write("board.tar", tar({{"odb/matrix/matrix", step(1, "PCB") + layer(1, "TOP")},
-                            {"odb/steps/pcb/layers/top/features", pad},
-                            {"odb/steps/pcb/layers/top/tools", rest}}));
+    QList<Packed> const entries = {{"odb/matrix/matrix", step(1, "PCB") + layer(1, "TOP")},
+                                   {"odb/steps/pcb/layers/top/features", pad},
+                                   {"odb/steps/pcb/layers/top/tools", QByteArray(40'000'000, '#')}};
     for (int const milliseconds : {0, 5, -1}) {
+        // Those that are stopped never reach the end, where the mark is missing.
+        write("board.tar", milliseconds < 0 ? tar(entries) : tarEntries(entries));
         Reading reading = Reading::ofArchive("board.tar");
         runApart(reading, milliseconds);
         std::string const error = errorOf(reading);

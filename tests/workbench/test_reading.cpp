@@ -64,6 +64,19 @@ protected:
     QElapsedTimer sinceStop;
 };
 
+TEST(Nets, AreReadWithTheLayers)
+{
+    QString const path = QDir("boards/nets").absolutePath();
+    writeJob(path, {{"SIGNAL", "TOP"}});
+    writeFile(path + "/steps/pcb/layers/top/features", "$0 r10\nP 1 2 0 P 0 0\n");
+    writeFile(path + "/steps/pcb/eda/data", "LYR top\nNET a\nFID C 0 0\n");
+    Session session;
+    ASSERT_EQ(session.open(path), "");
+    EXPECT_TRUE(readLayers(session));
+    writeFile(path + "/steps/pcb/eda/data", "");
+    EXPECT_EQ(Embedded::featureNet("nets", "pcb", "top", 0), "a");
+}
+
 TEST_F(LargeBoard, CanBeStoppedWithinOneFile)
 {
     struct Row
