@@ -37,15 +37,6 @@ protected:
         return Embedded::lastError();
     }
     static int count() { return Embedded::featureCount("board", "pcb", "top"); }
-    // The job of two equal layers with limits that one of them meets exactly.
-    static void openWithRoomForOne()
-    {
-        write("jobs/board/steps/pcb/layers/bottom/features", pad);
-        Embedded::JobLimits limits;
-        limits.points = 1;
-        Embedded::setJobLimits(limits);
-        ASSERT_TRUE(open());
-    }
 
     void SetUp() override
     {
@@ -64,17 +55,15 @@ TEST_F(ReadingTest, TellsWhatTheFunctionsTell)
         char const * features; ///< null: no file
         char const * tools;
     };
-    for (Row const & row : {Row{"top", "$0 r1\nP 0 0 0 P 0 0\n", nullptr},
+    for (Row const & row : {Row{"top", "$0 r1\nP 0 0 0 P 0 0\n", ""},
                             {"top", "$0 r1\nP 0 0 9 P 0 0\n", "TOOLS {\nNUM=x\n}\n"},
                             {"top", "", "TOOLS {\n"},
                             {"top", nullptr, "TOOLS {\nNUM=1\n}\n"},
                             {"inner", "", ""}}) {
         ASSERT_TRUE(QDir(folder).removeRecursively() && QDir().mkpath(folder));
+        write(folder + "/tools", row.tools);
         if (row.features != nullptr) {
             write(folder + "/features", row.features);
-        }
-        if (row.tools != nullptr) {
-            write(folder + "/tools", row.tools);
         }
         ASSERT_TRUE(open());
         int const features = Embedded::featureCount("board", "pcb", row.layer);
@@ -107,32 +96,38 @@ TEST_F(ReadingTest, TellsWhatTheFunctionsTell)
 
 TEST_F(ReadingTest, WhatIsStoppedLeavesTheJobAsItWas)
 {
-    QByteArray large = "$0 r10\n";
-    while (large.size() < 10'000'000) {
-        large += "P 1 2 0 P 0 0\n";
-    }
+    constexpr int pads = 700'000;
+    QByteArray const large = "$0 r10\n" + QByteArray("P 1 2 0 P 0 0\n").repeated(pads);
     writeFeatures(large);
     Embedded::JobLimits limits;
     limits.bytes = QFileInfo("jobs/board/matrix/matrix").size() + large.size(); // once only
     Embedded::setJobLimits(limits);
     ASSERT_TRUE(open());
-    for (int const milliseconds : {0, 30}) { // the latter in the middle
+    auto const begin = std::chrono::steady_clock::now();
+    runApart(layerReading()); // not adopted, so the next ones read the file again
+    auto const whole =
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin);
+    for (int const milliseconds : {0, static_cast<int>(whole.count() / 4)}) {
         Reading reading = layerReading();
         runApart(reading, milliseconds);
         EXPECT_EQ(errorOf(reading), "reading was stopped");
     }
-    EXPECT_EQ(count(), (large.size() - 7) / 14) << Embedded::lastError();
+    EXPECT_EQ(count(), pads) << Embedded::lastError();
 
     Reading job = Reading::ofJob("jobs", "board");
     runApart(job, 0);
     EXPECT_EQ(errorOf(job), "reading was stopped");
     writeFeatures("X\n");
-    EXPECT_EQ(count(), (large.size() - 7) / 14) << "the job that was open still is";
+    EXPECT_EQ(count(), pads) << "the job that was open still is";
 }
 
 TEST_F(ReadingTest, CountsOnceAgainstTheLimits)
 {
-    openWithRoomForOne();
+    write("jobs/board/steps/pcb/layers/bottom/features", pad);
+    Embedded::JobLimits limits;
+    limits.points = 1;
+    Embedded::setJobLimits(limits);
+    ASSERT_TRUE(open());
     Reading first = layerReading();
     Reading second = layerReading();
     Reading other = Reading::ofLayer("board", "pcb", "bottom");
@@ -158,10 +153,8 @@ TEST_F(ReadingTest, IsDroppedWhenItsJobIsGone)
     runApart(reading);
     ASSERT_TRUE(Embedded::closeJob("board"));
     EXPECT_EQ(errorOf(reading), "board: the job is not open");
-    writeFeatures(pad + "P 3 4 0 P 0 0\n");
-    ASSERT_TRUE(open());
-    EXPECT_EQ(errorOf(reading), "what was read has been adopted already");
 
+    ASSERT_TRUE(open());
     reading = layerReading();
     runApart(reading);
     writeFeatures("\n");

@@ -114,15 +114,10 @@ TEST_F(LargeBoard, IsShownWithWhatWasReadAndOneThatIsNotOpenNotAtAll)
     writeJob(slow, {{"SIGNAL", "TOP"}});
     writeFile(slow + "/steps/pcb/layers/top/features", "");
     writeFile(slow + "/steps/pcb/profile", blankLines);
-    QStringList boxes;
-    Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
-        boxes.append(message.text);
-        return Ext::MessageAnswer::Ok;
-    });
+    int boxes = 0;
+    Ext::setMessagePresenter([&boxes](Ext::Message const &) { return ++boxes, Ext::MessageAnswer::Ok; });
     LogLines log;
-    CommandLine commandLine;
-    commandLine.output = ".";
-    Desk desk(log, commandLine, "./state.ini");
+    Desk desk(log, {}, "./state.ini");
     ASSERT_TRUE(desk.open(sampleJob));
     stop = [&](KVProgressDialog & dialog) {
         EXPECT_FALSE(desk.open(sampleJob)) << "one after the other";
@@ -133,14 +128,12 @@ TEST_F(LargeBoard, IsShownWithWhatWasReadAndOneThatIsNotOpenNotAtAll)
     EXPECT_FALSE(desk.open(slow));
     EXPECT_EQ(seen, 3);
     EXPECT_EQ(Embedded::openJobs(), std::vector<std::string>{"demo-board"});
-    EXPECT_TRUE(desk.window()->windowTitle().startsWith("demo-board"));
 
     seen = 0;
     EXPECT_TRUE(desk.open(path));
     EXPECT_EQ(seen, 3);
-    EXPECT_TRUE(desk.window()->windowTitle().startsWith("large"));
     EXPECT_EQ(Embedded::openJobs(), std::vector<std::string>{"large"});
-    EXPECT_EQ(boxes, QStringList());
+    EXPECT_EQ(boxes, 0);
     Ext::setMessagePresenter({});
 }
 
