@@ -23,6 +23,7 @@ bool readLayers(Session & session, ReadingProgress & progress)
                              .arg(QString::fromStdString(layer.info.name)));
         if (!session.countFeatures(layer,
                                    [&progress](auto const & reading) { return progress.run(reading); })) {
+            session.setStopped();
             return false;
         }
     }

@@ -62,6 +62,7 @@ QString Session::open(QString const & path, Runner const & run)
         return failure(path, "its matrix has no steps");
     }
     m_directory = path;
+    m_isStopped = false;
     m_job = job;
     m_steps.clear();
     for (std::string const & name : names) {
@@ -127,7 +128,8 @@ int Session::firstCopperLayer(std::string const & step) const
 {
     for (std::size_t i = 0; i < m_layers.size(); ++i) {
         KVCAM::API::layer_info const & info = m_layers[i].info;
-        if (info.context != "board" || info.type != "signal") {
+        bool const mayBeRead = !m_isStopped || !m_layers[i].features.empty();
+        if (info.context != "board" || info.type != "signal" || !mayBeRead) {
             continue;
         }
         auto const features = KVCAM::Embedded::features(m_job, step, info.name);
@@ -135,7 +137,7 @@ int Session::firstCopperLayer(std::string const & step) const
             return static_cast<int>(i);
         }
     }
-    return 0;
+    return m_isStopped ? -1 : 0;
 }
 
 } // namespace Workbench

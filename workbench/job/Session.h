@@ -55,14 +55,18 @@ public:
     std::vector<Layer> & layers() { return m_layers; }
     /// Whether the job has a step of this name, ignoring case.
     bool hasStep(QString const & name) const;
-    /// The index of the first board signal layer that has pads in a step, else 0.
+    /// The index of the first board signal layer that has pads in a step, else 0. After reading was stopped,
+    /// only among the layers that are counted, else -1: the user does not wait for the others here either.
     int firstCopperLayer(std::string const & step) const;
+    /// Reading the layers was stopped.
+    void setStopped() { m_isStopped = true; }
 
 private:
     QString m_directory;
     std::string m_job;
     std::vector<Step> m_steps;
     std::vector<Layer> m_layers;
+    bool m_isStopped = false;
 };
 
 } // namespace Workbench
