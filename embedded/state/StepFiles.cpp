@@ -4,8 +4,6 @@
 #include "formats/JobPaths.h"
 #include "formats/ToolsFile.h"
 
-#include <QTemporaryDir>
-
 namespace KVCAM::Embedded {
 
 LayerContents readLayer(FilesSource const & source)
