@@ -31,28 +31,30 @@ FeatureDrawing drawingOf(FeaturesFile const & file, std::size_t index, std::size
             feature.symbol < 0 ? 0 : file.symbols.at(feature.symbol).unit, outlines(file, feature, points)};
 }
 
-// Adds the symbols of a layer's table to `uses`, which has one entry per name and unit.
-void addSymbols(LayerGraphics const & graphics, std::vector<SymbolUse> & uses)
+// The symbols of layers, one entry per name and unit.
+struct SymbolUses
 {
-    std::map<std::pair<std::string, int>, std::size_t> known;
-    for (std::size_t i = 0; i < uses.size(); ++i) {
-        known.emplace(std::pair(uses[i].name, uses[i].unit), i);
-    }
-    std::map<int, std::size_t> byIndex;
-    for (auto const & [index, symbol] : graphics.file.symbols) {
-        auto const [place, added] = known.emplace(std::pair(symbol.name, symbol.unit), uses.size());
-        if (added) {
-            uses.push_back({symbol.name, symbol.unit, 0});
+    void add(LayerGraphics const & graphics)
+    {
+        std::map<int, std::size_t> byIndex;
+        for (auto const & [index, symbol] : graphics.file.symbols) {
+            auto const [place, added] = known.emplace(std::pair(symbol.name, symbol.unit), list.size());
+            if (added) {
+                list.push_back({symbol.name, symbol.unit, 0});
+            }
+            byIndex[index] = place->second;
         }
-        byIndex[index] = place->second;
-    }
-    for (std::size_t i = 0; i < graphics.deleted.size(); ++i) {
-        if (Feature const & feature = graphics.file.features[i];
-            !graphics.deleted[i] && feature.symbol >= 0) {
-            ++uses[byIndex.at(feature.symbol)].features;
+        for (std::size_t i = 0; i < graphics.deleted.size(); ++i) {
+            if (Feature const & feature = graphics.file.features[i];
+                !graphics.deleted[i] && feature.symbol >= 0) {
+                ++list[byIndex.at(feature.symbol)].features;
+            }
         }
     }
-}
+
+    std::vector<SymbolUse> list;
+    std::map<std::pair<std::string, int>, std::size_t> known; // places in the list
+};
 
 } // namespace
 
@@ -241,9 +243,9 @@ std::vector<SymbolUse> layerSymbols(std::string const & job, std::string const &
                                     std::string const & layer)
 {
     return withLastError(std::vector<SymbolUse>(), [&](EngineState & state) {
-        std::vector<SymbolUse> uses;
-        addSymbols(state.job(job).graphics(lowerCase(step), lowerCase(layer)), uses);
-        return uses;
+        SymbolUses uses;
+        uses.add(state.job(job).graphics(lowerCase(step), lowerCase(layer)));
+        return std::move(uses.list);
     });
 }
 
@@ -251,16 +253,17 @@ std::vector<SymbolUse> jobSymbols(std::string const & job)
 {
     return withLastError(std::vector<SymbolUse>(), [&](EngineState & state) {
         Job & owner = state.job(job);
-        std::vector<SymbolUse> uses;
+        SymbolUses all;
         for (Step const & step : owner.steps()) {
             for (API::layer_info const & layer : owner.matrix().layers) {
                 try {
-                    addSymbols(owner.graphics(step.name, layer.name), uses);
+                    all.add(owner.graphics(step.name, layer.name));
                 } catch (JobError const & error) {
                     state.lastError = state.lastError.empty() ? error.what() : state.lastError;
                 }
             }
         }
+        std::vector<SymbolUse> uses = std::move(all.list);
         std::sort(uses.begin(), uses.end(), [](SymbolUse const & a, SymbolUse const & b) {
             return std::tie(a.name, a.unit) < std::tie(b.name, b.unit);
         });

@@ -4,13 +4,15 @@
 
 #include <kvcam/Records.h>
 
+#include <atomic>
+#include <memory>
 #include <string>
 #include <vector>
 
 /// \addtogroup default_engine
 /// What the default engine offers beyond the host's interface: its switches, the state it was given, and the
 /// parts of an open job that a host shows. Job, step and layer names are case-insensitive. Paths and texts
-/// are UTF-8. No function throws. GUI thread only.
+/// are UTF-8. No function throws. GUI thread only, except Reading::run().
 namespace KVCAM::Embedded {
 
 /// Why the latest open_job(), closing or reading failed: "file:line: reason" (the line only if there is one);
@@ -74,6 +76,51 @@ KVCAM_API_EXPORT JobLimits jobLimits();
 /// that is cut short or fails its checksum, that holds encrypted files, or that exceeds jobLimits().
 /// A build without libarchive and zlib reads no archives and no compressed files and says so.
 KVCAM_API_EXPORT std::string openArchive(std::string const & path);
+
+/// Reads files of a job in a thread of the host's, where every other function reads them in the GUI thread
+/// when they are first needed. So a host's windows answer meanwhile, and can stop it:
+///
+/// 1. in the GUI thread, make one, which copies what reading needs;
+/// 2. in any one thread, run() reads files and uses nothing else;
+/// 3. in the GUI thread, after run() has returned, adopt() hands over what was read to the engine.
+///
+/// Meanwhile the GUI thread may call anything. Nothing has changed unless adopt() returns true, so a reading
+/// that is stopped is simply dropped. A copy is the same reading.
+class KVCAM_API_EXPORT Reading
+{
+public:
+    /// What open_job() reads. The limits are those of now.
+    static Reading ofJob(std::string const & path, std::string const & job);
+    /// What openArchive() unpacks and reads. The temporary folder goes away with a reading that is dropped.
+    static Reading ofArchive(std::string const & path);
+    /// The features and tools of a layer. Features that have been read are not read again. What is read
+    /// counts against the job's limits when it is adopted.
+    static Reading ofLayer(std::string const & job, std::string const & step, std::string const & layer);
+    /// What featureNet() reads of a step.
+    static Reading ofNets(std::string const & job, std::string const & step);
+
+    /// Reads, once. Ends soon after `stop` is set, which another thread may do.
+    void run(std::atomic<bool> const & stop);
+    /// Hands over what was read: the job is then open, or the functions that need the files no longer read
+    /// them. False, with lastError() set to what those functions would set, if that failed; they do not try
+    /// again to read features and nets. False also, with nothing changed, if reading was stopped, if the job
+    /// was closed or opened anew meanwhile, or if this has been called before.
+    bool adopt();
+    /// The name of the job; of one to be opened, after it is adopted.
+    std::string job() const;
+    /// What tools() would set lastError() to, after a layer is read.
+    std::string toolsError() const;
+
+private:
+    struct Task;
+    Reading() = default;
+    template <class Begin>
+    static Reading begun(Begin begin);
+    template <class Open>
+    static Reading opening(Open open);
+
+    std::shared_ptr<Task> m_task;
+};
 
 /// The open jobs in order of opening, by folder name.
 KVCAM_API_EXPORT std::vector<std::string> openJobs();

@@ -37,7 +37,8 @@ using Reader = std::unique_ptr<archive, Closing>;
 class Source
 {
 public:
-    Source(QFile & file, JobLimits const & limits) : m_file(file), m_limits(limits)
+    Source(QFile & file, JobLimits const & limits, StopFlag stop)
+        : m_file(file), m_limits(limits), m_stop(stop)
     {
         QByteArray const begin = file.peek(4);
         m_isZip = begin.startsWith("PK");
@@ -51,6 +52,7 @@ public:
     // The next piece, empty at the end.
     std::string_view next()
     {
+        m_stop.check();
         std::string_view piece;
         if (m_gzip) {
             piece = m_gzip->next();
@@ -125,6 +127,7 @@ public:
 private:
     QFile & m_file;
     JobLimits m_limits;
+    StopFlag m_stop;
     bool m_isZip = false;
     std::optional<GzipStream> m_gzip;
     std::array<char, 64 * 1024> m_buffer;
@@ -209,8 +212,8 @@ void forEachPiece(archive * reader, Source & source, Take take)
 class Unpacking
 {
 public:
-    Unpacking(Source & source, QString const & folder, JobLimits const & limits, bool whole)
-        : m_source(source), m_folder(folder), m_limits(limits), m_names(limits, whole)
+    Unpacking(Source & source, QString const & folder, JobLimits const & limits, bool whole, StopFlag stop)
+        : m_source(source), m_folder(folder), m_limits(limits), m_names(limits, whole), m_stop(stop)
     {
         if (whole) {
             m_limits.fileBytes = m_limits.archiveBytes;
@@ -223,6 +226,7 @@ public:
     {
         Reader const reader = openReader(m_source);
         for (;;) {
+            m_stop.check(); // one piece may hold hundreds of small entries
             archive_entry * entry = nullptr;
             int const result = archive_read_next_header(reader.get(), &entry);
             m_source.rethrow();
@@ -256,6 +260,7 @@ private:
         }
         long long size = 0;
         forEachPiece(reader, m_source, [&](char const * bytes, long long count) {
+            m_stop.check(); // few bytes of a zip may hold many pieces
             size += count;
             m_written += count;
             if (m_source.isZip()) {
@@ -282,12 +287,13 @@ private:
     QDir m_folder;
     JobLimits m_limits;
     ArchiveNames m_names;
+    StopFlag m_stop;
     long long m_written = 0;
 };
 
 // The whole contents, in which `next` gives a piece and in the end an empty one.
 template <class Next>
-QByteArray gathered(long long largest, Next next)
+QByteArray gathered(long long largest, StopFlag stop, Next next)
 {
     QByteArray bytes;
     for (std::string_view piece = next(); !piece.empty(); piece = next()) {
@@ -295,13 +301,14 @@ QByteArray gathered(long long largest, Next next)
             throw JobError("the unpacked file is larger than " + sizeText(largest).toStdString());
         }
         bytes.append(piece.data(), static_cast<int>(piece.size()));
+        stop.check();
     }
     return bytes;
 }
 
-QByteArray unpackLzw(QFile & file, long long largest)
+QByteArray unpackLzw(QFile & file, long long largest, StopFlag stop)
 {
-    Source source(file, {});
+    Source source(file, {}, stop);
     Reader const reader(archive_read_new());
     archive * const a = reader.get();
     if (a == nullptr) {
@@ -321,7 +328,7 @@ QByteArray unpackLzw(QFile & file, long long largest)
         failOf(a, source);
     }
     std::array<char, 64 * 1024> buffer;
-    return gathered(largest, [&] {
+    return gathered(largest, stop, [&] {
         la_ssize_t const read = archive_read_data(a, buffer.data(), buffer.size());
         if (read < 0) {
             failOf(a, source);
@@ -332,32 +339,33 @@ QByteArray unpackLzw(QFile & file, long long largest)
 
 } // namespace
 
-QString unpackArchive(QString const & path, QString const & folder, JobLimits const & limits, bool whole)
+QString unpackArchive(QString const & path, QString const & folder, JobLimits const & limits, bool whole,
+                      StopFlag stop)
 {
     try {
         QFile file;
         if (QString const reason = openRegular(file, path); !reason.isEmpty()) {
             throw JobError(reason.toStdString());
         }
-        Source source(file, limits);
-        return QDir(folder).filePath(Unpacking(source, folder, limits, whole).run());
+        Source source(file, limits, stop);
+        return QDir(folder).filePath(Unpacking(source, folder, limits, whole, stop).run());
     } catch (JobError const & error) {
         throw JobError(path.toStdString() + ": " + error.what());
     }
 }
 
-QByteArray unpackFile(QFile & file, QString const & path, long long largest)
+QByteArray unpackFile(QFile & file, QString const & path, long long largest, StopFlag stop)
 {
     try {
         QByteArray const begin = file.peek(2);
         if (isGzip({begin.constData(), static_cast<std::size_t>(begin.size())})) {
             GzipStream stream(file);
-            return gathered(largest, [&stream] { return stream.next(); });
+            return gathered(largest, stop, [&stream] { return stream.next(); });
         }
         if (begin != "\x1f\x9d") {
             throw JobError("not compressed, as the name says: neither gzip nor LZW");
         }
-        return unpackLzw(file, largest);
+        return unpackLzw(file, largest, stop);
     } catch (JobError const & error) {
         throw JobError(path.toStdString() + ": " + error.what());
     }

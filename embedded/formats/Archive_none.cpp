@@ -13,12 +13,12 @@ namespace {
 } // namespace
 
 QString unpackArchive(QString const & archive, QString const & /*folder*/, JobLimits const & /*limits*/,
-                      bool /*whole*/)
+                      bool /*whole*/, StopFlag /*stop*/)
 {
     refuse(archive);
 }
 
-QByteArray unpackFile(QFile & /*file*/, QString const & path, long long /*largest*/)
+QByteArray unpackFile(QFile & /*file*/, QString const & path, long long /*largest*/, StopFlag /*stop*/)
 {
     refuse(path);
 }

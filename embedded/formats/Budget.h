@@ -1,8 +1,10 @@
 #pragma once
 
 #include "EmbeddedRecords.h"
+#include "formats/StopFlag.h"
 
 #include <chrono>
+#include <string>
 
 namespace KVCAM::Embedded {
 
@@ -15,6 +17,10 @@ struct Budget
     long long points = 0;                       ///< features, contours and their sides
     long long symbols = 0;                      ///< entries of symbol tables and own symbols
     std::chrono::steady_clock::duration time{}; ///< spent reading
+    StopFlag stop;                              ///< of the reading that the budget is for
 };
+
+/// Which limit of what has been read is exceeded, for a message that begins with the file; empty if none is.
+std::string exceededLimit(Budget const & budget);
 
 } // namespace KVCAM::Embedded

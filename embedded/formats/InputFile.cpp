@@ -17,7 +17,25 @@ QString sizeText(long long bytes)
                                  : QString::number(bytes) + " bytes";
 }
 
-QByteArray readInput(QString const & path, long long largest)
+namespace {
+
+// What the file holds up to the size that it has now; less if it gets shorter meanwhile.
+QByteArray readAll(QFile & file, StopFlag stop)
+{
+    constexpr qint64 piece = 1024LL * 1024;
+    QByteArray bytes(static_cast<int>(file.size()), Qt::Uninitialized);
+    qint64 size = 0;
+    for (qint64 read = 1; read > 0 && size < bytes.size(); size += std::max(read, qint64(0))) {
+        stop.check();
+        read = file.read(bytes.data() + size, std::min(piece, bytes.size() - size));
+    }
+    bytes.truncate(static_cast<int>(size));
+    return bytes;
+}
+
+} // namespace
+
+QByteArray readInput(QString const & path, long long largest, StopFlag stop)
 {
     constexpr long long largestArray = 1LL << 30; // which QByteArray can hold
     largest = std::min(largest, largestArray);
@@ -32,9 +50,9 @@ QByteArray readInput(QString const & path, long long largest)
         fail("the file is larger than " + sizeText(largest));
     }
     if (path.endsWith(".Z", Qt::CaseInsensitive) || path.endsWith(".gz", Qt::CaseInsensitive)) {
-        return unpackFile(file, path, largest);
+        return unpackFile(file, path, largest, stop);
     }
-    QByteArray bytes = file.read(file.size()); // allocates the size passed to it
+    QByteArray bytes = readAll(file, stop);
     if (file.error() != QFileDevice::NoError) {
         fail(file.errorString());
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formats/StopFlag.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -7,7 +9,7 @@ namespace KVCAM::Embedded {
 
 /// The contents of a job's file, unpacked if its name ends in ".Z" or ".gz". Throws JobError if it is not a
 /// regular file, cannot be read, is damaged, or has (unpacked) more than `largest` bytes.
-QByteArray readInput(QString const & path, long long largest);
+QByteArray readInput(QString const & path, long long largest, StopFlag stop = {});
 
 /// A number of bytes for a message, in MiB where it is a multiple.
 QString sizeText(long long bytes);

@@ -54,11 +54,10 @@ LineReader::LineReader(QString const & path) : LineReader(path, m_ownBudget) {}
 LineReader::LineReader(QString const & path, Budget & budget)
     : m_budget(budget), m_path(QDir::cleanPath(path))
 {
-    m_text = readInput(m_path, m_budget.limits.fileBytes);
+    m_text = readInput(m_path, m_budget.limits.fileBytes, m_budget.stop);
     m_budget.bytes += m_text.size();
     if (m_budget.bytes > m_budget.limits.bytes) {
-        failWhole("with this file more than " + sizeText(m_budget.limits.bytes).toStdString() +
-                  " of the job are read, its limit");
+        failWhole(exceededLimit(m_budget));
     }
     m_rest = std::string_view(m_text.constData(), static_cast<std::size_t>(m_text.size()));
 }
@@ -78,6 +77,7 @@ std::size_t LineReader::countRecords(std::string_view letters) const
 {
     std::size_t count = 0;
     for (std::string_view rest = m_rest; rest.size() > 1;) {
+        m_budget.stop.check();
         count +=
             letters.find(rest[0]) != std::string_view::npos && (rest[1] == ' ' || rest[1] == '\t') ? 1 : 0;
         std::size_t const end = rest.find('\n');
@@ -90,21 +90,21 @@ std::size_t LineReader::countRecords(std::string_view letters) const
 void LineReader::spendPoint()
 {
     if (++m_budget.points > m_budget.limits.points) {
-        fail("the job holds more than " + std::to_string(m_budget.limits.points) +
-             " features and sides of contours, its limit");
+        fail(exceededLimit(m_budget));
     }
 }
 
 void LineReader::spendSymbol()
 {
     if (++m_budget.symbols > m_budget.limits.symbols) {
-        fail("the job holds more than " + std::to_string(m_budget.limits.symbols) + " symbols, its limit");
+        fail(exceededLimit(m_budget));
     }
 }
 
 bool LineReader::next()
 {
     while (!m_rest.empty()) {
+        m_budget.stop.check();
         std::size_t const end = std::min(m_rest.find('\n'), m_rest.size());
         if (m_number++ % linesBetweenClocks == 0 &&
             std::chrono::duration<double>(time()).count() > static_cast<double>(m_budget.limits.seconds)) {

@@ -36,7 +36,7 @@ public:
     void spendSymbol();
 
     /// Advances to the next line that is neither blank nor a comment ('#'); false at the end of the file.
-    /// Now and then fails if the job has taken too long.
+    /// Now and then fails if the job has taken too long. Throws ReadingStopped when that is asked for.
     bool next();
     /// The current line, trimmed; valid as long as the reader.
     std::string_view line() const { return m_line; }

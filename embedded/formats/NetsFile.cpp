@@ -1,5 +1,6 @@
 #include "formats/NetsFile.h"
 
+#include "formats/Budget.h"
 #include "formats/FeatureLines.h"
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
@@ -19,7 +20,7 @@ constexpr std::string_view noNet = "$NONE$";
 class NetsReader
 {
 public:
-    explicit NetsReader(QString const & path) : m_reader(path) {}
+    explicit NetsReader(QString const & path, Budget & budget) : m_reader(path, budget) {}
 
     NetsFile read()
     {
@@ -173,9 +174,11 @@ QByteArray editedNets(std::string_view text, DeletedFeatures const & deleted)
     return edited;
 }
 
-NetsFile readNets(QString const & path)
+NetsFile readNets(QString const & path, StopFlag stop)
 {
-    return NetsReader(path).read();
+    Budget budget;
+    budget.stop = stop;
+    return NetsReader(path, budget).read();
 }
 
 } // namespace KVCAM::Embedded

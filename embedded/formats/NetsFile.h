@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formats/StopFlag.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -37,6 +39,6 @@ QByteArray editedNets(std::string_view text, DeletedFeatures const & deleted);
 
 /// Reads a whole nets file, of which it uses only the lists of features. Throws JobError, also for a feature
 /// in two nets.
-NetsFile readNets(QString const & path);
+NetsFile readNets(QString const & path, StopFlag stop = {});
 
 } // namespace KVCAM::Embedded

@@ -4,7 +4,6 @@
 #include "formats/FeatureLines.h"
 #include "formats/JobPaths.h"
 #include "formats/LineReader.h"
-#include "formats/ToolsFile.h"
 #include "state/Panel.h"
 
 #include <QDir>
@@ -12,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <utility>
 
@@ -38,16 +38,25 @@ std::pair<qint64, QDateTime> stateOf(QString const & archive)
 }
 
 // An error that names the archive in place of the folder that it is unpacked to.
-JobError inArchive(JobError const & error, QString const & folder, QString const & archive)
+std::string inArchive(std::string const & error, QString const & folder, QString const & archive)
 {
-    return JobError(QString::fromUtf8(error.what()).replace(folder, archive).toStdString());
+    return QString::fromStdString(error).replace(folder, archive).toStdString();
+}
+
+// Jobs are opened in any thread.
+long long nextNumber()
+{
+    static std::atomic<long long> latest{0};
+    return ++latest;
 }
 
 } // namespace
 
-Job::Job(std::string const & path, std::string const & name, JobLimits const & limits)
+Job::Job(std::string const & path, std::string const & name, JobLimits const & limits, StopFlag stop)
+    : m_number(nextNumber())
 {
     m_budget.limits = limits;
+    m_budget.stop = stop;
     QString const parent = QString::fromStdString(path);
     if (std::string const reason = refusal(name); !reason.empty()) {
         throw JobError(path + ": " + reason);
@@ -73,9 +82,10 @@ Job::Job(std::string const & path, std::string const & name, JobLimits const & l
     checkPanels(m_steps);
     m_symbolsFolder = folder.folder("symbols");
     readSymbolNames();
+    m_budget.stop = {}; // the flag ends with the opening
 }
 
-std::unique_ptr<Job> Job::fromArchive(std::string const & archive, JobLimits const & limits)
+std::unique_ptr<Job> Job::fromArchive(std::string const & archive, JobLimits const & limits, StopFlag stop)
 {
     QString const path = QDir::cleanPath(QString::fromStdString(archive));
     std::string const name = nameOfArchive(path);
@@ -90,17 +100,17 @@ std::unique_ptr<Job> Job::fromArchive(std::string const & archive, JobLimits con
     QDir folder(unpacked->path());
     QString const own = folder.filePath("job/" + QString::fromStdString(name));
     if (!folder.mkdir("archive") || !folder.mkdir("job") ||
-        !folder.rename(unpackArchive(path, folder.filePath("archive"), limits), own)) {
+        !folder.rename(unpackArchive(path, folder.filePath("archive"), limits, false, stop), own)) {
         throw JobError(archive + ": cannot write to the temporary folder " + unpacked->path().toStdString());
     }
     try {
-        auto job = std::make_unique<Job>(folder.filePath("job").toStdString(), name, limits);
+        auto job = std::make_unique<Job>(folder.filePath("job").toStdString(), name, limits, stop);
         job->m_unpacked = std::move(unpacked);
         job->m_archive = path;
         job->m_archiveState = state;
         return job;
     } catch (JobError const & error) {
-        throw inArchive(error, own, path);
+        throw JobError(inArchive(error.what(), own, path));
     }
 }
 
@@ -112,21 +122,24 @@ QString Job::unpackAgain(QString const & folder) const
     return unpackArchive(m_archive, folder, m_budget.limits, true);
 }
 
+std::string Job::named(std::string const & error) const
+{
+    return isFromArchive() ? inArchive(error, m_folder, m_archive) : error;
+}
+
 template <class Reading>
 auto Job::named(Reading reading) const -> decltype(reading())
 {
     try {
         return reading();
     } catch (JobError const & error) {
-        if (!isFromArchive()) {
-            throw;
-        }
-        throw inArchive(error, m_folder, m_archive);
+        throw JobError(named(std::string(error.what())));
     }
 }
 
 Step Job::readStep(FolderList const & steps, std::string const & name)
 {
+    m_budget.stop.check();
     Step step;
     step.name = name;
     step.folder = steps.folder(name);
@@ -162,6 +175,7 @@ void Job::readSymbolNames()
                        std::to_string(m_budget.limits.symbols) + " symbols, the job's limit");
     }
     for (std::string const & symbol : m_symbols) {
+        m_budget.stop.check();
         m_symbolFolders.emplace(lowerCase(symbol), symbol);
     }
 }
@@ -209,7 +223,7 @@ Step & Job::step(std::string const & name)
     return *found;
 }
 
-FolderList Job::layerFolder(Step & step, std::string const & layer)
+QString Job::layerFolder(Step & step, std::string const & layer)
 {
     if (std::none_of(m_matrix.layers.begin(), m_matrix.layers.end(),
                      [&layer](API::layer_info const & info) { return info.name == layer; })) {
@@ -218,8 +232,28 @@ FolderList Job::layerFolder(Step & step, std::string const & layer)
     if (!step.layers) {
         step.layers.emplace(findFolder(step.folder, "layers"));
     }
-    QString const folder = step.layers->folder(layer);
-    return folder.isEmpty() ? FolderList() : FolderList(folder);
+    return step.layers->folder(layer);
+}
+
+FilesSource Job::layerSource(std::string const & stepName, std::string const & layer)
+{
+    Step & owner = step(stepName);
+    return {named([&] { return layerFolder(owner, layer); }), m_budget, m_unpacked};
+}
+
+bool Job::isRead(std::string const & stepName, std::string const & layer)
+{
+    Step const & owner = step(stepName);
+    return owner.graphics.count(layer) != 0 || owner.unreadable.count(layer) != 0;
+}
+
+template <class Contents>
+Contents Job::succeeded(Contents contents) const
+{
+    if (!contents.error.empty()) {
+        throw JobError(named(contents.error));
+    }
+    return contents;
 }
 
 LayerGraphics & Job::graphics(std::string const & stepName, std::string const & layer)
@@ -228,52 +262,88 @@ LayerGraphics & Job::graphics(std::string const & stepName, std::string const & 
     if (auto const known = owner.graphics.find(layer); known != owner.graphics.end()) {
         return known->second;
     }
-    return named([&]() -> LayerGraphics & { return readGraphics(owner, layer); });
+    if (auto const failed = owner.unreadable.find(layer); failed != owner.unreadable.end()) {
+        throw JobError(failed->second);
+    }
+    return adopt(stepName, layer, succeeded(readLayer(layerSource(stepName, layer))));
 }
 
-LayerGraphics & Job::readGraphics(Step & owner, std::string const & layer)
+// Another file may have been read since this one was begun, so that both fit alone but not together.
+void Job::charge(LayerContents const & contents)
 {
-    FolderList const folder = layerFolder(owner, layer);
-    QString file = folder.file("features");
-    bool const cutToTables = file.isEmpty();
-    if (cutToTables) {
-        file = folder.file("features.tables");
+    Budget budget = m_budget;
+    budget.bytes += contents.after.bytes - contents.before.bytes;
+    budget.points += contents.after.points - contents.before.points;
+    budget.symbols += contents.after.symbols - contents.before.symbols;
+    budget.time += contents.after.time - contents.before.time;
+    std::string const exceeded = exceededLimit(budget);
+    if (!exceeded.empty()) {
+        throw JobError(contents.graphics.file.path.toStdString() + ": " + exceeded);
     }
-    if (file.isEmpty()) {
+    m_budget = budget;
+}
+
+LayerGraphics & Job::adopt(std::string const & stepName, std::string const & layer, LayerContents contents)
+{
+    Step & owner = step(stepName);
+    if (isRead(stepName, layer)) {
+        return graphics(stepName, layer);
+    }
+    try {
+        if (!contents.error.empty()) {
+            throw JobError(contents.error);
+        }
+        charge(contents);
+    } catch (JobError const & error) {
+        std::string const text = named(std::string(error.what()));
+        owner.unreadable.emplace(layer, text);
+        throw JobError(text);
+    }
+    if (contents.graphics.missing) {
         owner.nothing.missing = true;
         return owner.nothing;
     }
-    Budget budget = m_budget;
-    LayerGraphics graphics;
-    graphics.file = readFeatures(file, budget, cutToTables);
-    graphics.cutToTables = cutToTables;
-    graphics.deleted.resize(graphics.file.features.size());
-    m_budget = budget; // counted only if all was read
-    return owner.graphics.emplace(layer, std::move(graphics)).first->second;
+    return owner.graphics.emplace(layer, std::move(contents.graphics)).first->second;
 }
 
 std::vector<Tool> Job::tools(std::string const & stepName, std::string const & layer)
 {
+    FilesSource const source = layerSource(stepName, layer);
+    return named([&source]() { return readTools(source); });
+}
+
+FilesSource Job::netsSource(std::string const & stepName)
+{
+    return {step(stepName).folder, m_budget, m_unpacked};
+}
+
+bool Job::areNetsRead(std::string const & stepName)
+{
+    Step const & owner = step(stepName);
+    return owner.nets || !owner.netsError.empty();
+}
+
+NetsFile const & Job::adopt(std::string const & stepName, NetsContents contents)
+{
     Step & owner = step(stepName);
-    return named([&]() {
-        QString const file = layerFolder(owner, layer).file("tools");
-        Budget budget = m_budget; // the tools are not kept
-        return file.isEmpty() ? std::vector<Tool>() : readTools(file, budget);
-    });
+    if (!areNetsRead(stepName)) {
+        owner.netsError = named(contents.error);
+        if (owner.netsError.empty()) {
+            owner.nets = std::move(contents.nets);
+        }
+    }
+    if (!owner.netsError.empty()) {
+        throw JobError(owner.netsError);
+    }
+    return *owner.nets;
 }
 
 std::string Job::net(std::string const & stepName, std::string const & layer, int feature)
 {
     checkFeature(graphics(stepName, layer), layer, feature);
-    Step & owner = step(stepName);
-    if (!owner.nets) {
-        owner.nets = named([&]() {
-            QString const folder = findFolder(owner.folder, "eda");
-            QString const file = folder.isEmpty() ? QString() : findFile(folder, "data");
-            return file.isEmpty() ? NetsFile() : readNets(file);
-        });
-    }
-    auto const & layers = owner.nets->layers;
+    NetsFile const & nets =
+        adopt(stepName, areNetsRead(stepName) ? NetsContents() : succeeded(readNets(netsSource(stepName))));
+    auto const & layers = nets.layers;
     auto const listed = std::find_if(layers.begin(), layers.end(),
                                      [&layer](NetsFile::Layer const & each) { return each.name == layer; });
     auto const count = graphics(stepName, layer).file.features.size();
@@ -284,7 +354,7 @@ std::string Job::net(std::string const & stepName, std::string const & layer, in
     auto const entry = std::lower_bound(
         listed->entries.begin(), listed->entries.end(), wanted,
         [](NetsFile::Entry const & each, std::uint32_t number) { return each.first < number; });
-    return entry != listed->entries.end() && entry->first == wanted ? owner.nets->nets[entry->second]
+    return entry != listed->entries.end() && entry->first == wanted ? nets.nets[entry->second]
                                                                     : std::string();
 }
 

@@ -168,6 +168,9 @@ void checkPanels(std::vector<Step> & steps)
 
 std::vector<StepPlacement> placements(std::vector<Step> const & steps, Step const & panel, std::size_t limit)
 {
+    if (panel.header.repeats.empty()) { // nearly all of what may be thousands
+        return {};
+    }
     Expansion expansion{{}, limit, {}};
     for (Step const & step : steps) {
         expansion.byName.emplace(step.name, &step);

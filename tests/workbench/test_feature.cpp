@@ -181,8 +181,11 @@ TEST_F(Features, ATypedSymbolOrOneOfTheListBecomesTheFeatures)
     EXPECT_EQ(symbolOf(2) + symbolOf(5), "oval30x20oval30x20");
     EXPECT_EQ(undoable(), 1) << "one operation";
     auto const & symbols = *find<QWidget>("symbols").findChild<QTableWidget *>();
+    EXPECT_EQ(symbols.rowCount(), 0) << "read when it is shown";
+    window->showPage("symbols");
     EXPECT_EQ(symbols.item(1, 0)->text() + symbols.item(1, 4)->text(), "oval30x202")
         << "sorted: after the mark";
+    window->showPage("board");
     enter("symbol", "rect30");
     EXPECT_EQ(text("description"), "height: This field is missing.");
     enter("symbol", "nowhere");
@@ -317,6 +320,7 @@ using Samples = SampleWindow;
 TEST_F(Samples, TheSymbolsPageFollowsTheLanguageAndTheShownStep)
 {
     open();
+    window->showPage("symbols");
     auto & page = find<QWidget>("symbols");
     auto * names = page.findChild<QTableWidget *>();
     QString const english = names->item(0, 5)->text();

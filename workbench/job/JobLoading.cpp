@@ -1,6 +1,6 @@
 #include "job/JobLoading.h"
 
-#include <UIAPICommon.h>
+#include <EmbeddedEngine.h>
 
 #include <glog/logging.h>
 
@@ -10,25 +10,32 @@ namespace Workbench {
 
 bool readLayers(Session & session)
 {
-    // Texts and range are set afterwards: the library's constructor uses the parent only.
-    KVProgressDialog progress;
-    progress.setMinimumDuration(300); // milliseconds
-    progress.setWindowTitle(
+    ReadingProgress progress(
         QCoreApplication::translate("Workbench", "Opening %1").arg(QString::fromStdString(session.job())));
-    progress.setRange(0, static_cast<int>(session.layers().size()));
-    progress.setCancelButtonText(QCoreApplication::translate("Workbench", "Stop"));
-    progress.setWindowModality(Qt::ApplicationModal);
-    int done = 0;
+    return readLayers(session, progress);
+}
+
+bool readLayers(Session & session, ReadingProgress & progress)
+{
+    progress.setCount(static_cast<int>((session.layers().size() + 1) * session.steps().size()));
     for (Session::Layer & layer : session.layers()) {
-        progress.setLabelText(QCoreApplication::translate("Workbench", "Reading layer %1 (F1 stops)")
-                                  .arg(QString::fromStdString(layer.info.name)));
-        progress.setValue(done++);
-        if (progress.isDialogStop() || progress.wasCanceled()) {
+        progress.setText(QCoreApplication::translate("Workbench", "Reading layer %1 (F1 stops)")
+                             .arg(QString::fromStdString(layer.info.name)));
+        if (!session.countFeatures(layer,
+                                   [&progress](auto const & reading) { return progress.run(reading); })) {
+            session.setStopped();
             return false;
         }
-        session.countFeatures(layer);
     }
-    progress.setValue(done);
+    // Otherwise, the first feature that is selected would wait for them.
+    progress.setText(QCoreApplication::translate("Workbench", "Reading the nets (F1 stops)"));
+    for (Session::Step const & step : session.steps()) {
+        auto nets = KVCAM::Embedded::Reading::ofNets(session.job(), step.name);
+        if (!progress.run(nets)) {
+            return false;
+        }
+        nets.adopt(); // what is wrong with them is told when they are used
+    }
     return true;
 }
 

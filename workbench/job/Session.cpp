@@ -6,6 +6,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <atomic>
+#include <utility>
 
 namespace Workbench {
 
@@ -25,21 +27,31 @@ QString readingError()
 
 } // namespace
 
-QString Session::open(QString const & path)
+bool Session::runHere(KVCAM::Embedded::Reading reading)
 {
+    std::atomic<bool> const never{false};
+    reading.run(never);
+    return true;
+}
+
+QString Session::open(QString const & path, Runner const & run)
+{
+    using KVCAM::Embedded::Reading;
     QFileInfo const entry(path);
-    std::string job = entry.fileName().toStdString();
-    if (entry.isFile()) {
-        job = KVCAM::Embedded::openArchive(path.toStdString());
-    } else if (!entry.isDir()) {
+    if (!entry.isFile() && !entry.isDir()) {
         return failure(path, entry.exists() ? "it is neither a directory nor an archive"
                                             : "there is no such directory or archive");
-    } else if (!KVCAM::API::open_job(entry.path().toStdString(), job)) {
-        job.clear();
     }
-    if (job.empty()) {
+    Reading reading = entry.isFile()
+                          ? Reading::ofArchive(path.toStdString())
+                          : Reading::ofJob(entry.path().toStdString(), entry.fileName().toStdString());
+    if (!run(reading)) {
+        return failure(path, "it was stopped");
+    }
+    if (!reading.adopt()) {
         return failure(path, KVCAM::Embedded::lastError());
     }
+    std::string const job = reading.job();
     std::vector<std::string> names;
     std::vector<KVCAM::API::layer_info> layers;
     std::string const error = KVCAM::API::get_matrix(job, names, layers);
@@ -50,6 +62,7 @@ QString Session::open(QString const & path)
         return failure(path, "its matrix has no steps");
     }
     m_directory = path;
+    m_isStopped = false;
     m_job = job;
     m_steps.clear();
     for (std::string const & name : names) {
@@ -67,25 +80,31 @@ QString Session::open(QString const & path)
     return {};
 }
 
-void Session::countFeatures(Layer & layer) const
+bool Session::countFeatures(Layer & layer, Runner const & run) const
 {
     layer.features.clear();
     layer.errors.clear();
     for (Step const & step : m_steps) {
-        int const features = KVCAM::Embedded::featureCount(m_job, step.name, layer.info.name);
-        QStringList errors{readingError()};
-        bool const isKnown =
-            features >= 0 && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
-        layer.features.push_back(isKnown ? std::optional(features) : std::nullopt);
-        KVCAM::Embedded::tools(m_job, step.name, layer.info.name);
-        errors.append(readingError());
+        auto reading = KVCAM::Embedded::Reading::ofLayer(m_job, step.name, layer.info.name);
+        if (!run(reading)) {
+            layer.features.clear();
+            layer.errors.clear();
+            return false;
+        }
+        bool const isRead = reading.adopt();
+        QStringList errors{readingError(), QString::fromStdString(reading.toolsError()).simplified()};
         errors.removeAll(QString());
+        bool const isKnown = isRead && !KVCAM::Embedded::isCutToTables(m_job, step.name, layer.info.name);
+        layer.features.push_back(
+            isKnown ? std::optional(KVCAM::Embedded::featureCount(m_job, step.name, layer.info.name))
+                    : std::nullopt);
         for (QString const & error : errors) {
             LOG(ERROR) << "workbench: cannot read layer " << layer.info.name << " of step " << step.name
                        << ": " << error.toStdString();
         }
         layer.errors.push_back(errors.join('\n'));
     }
+    return true;
 }
 
 void Session::recount(std::size_t step)
@@ -109,7 +128,8 @@ int Session::firstCopperLayer(std::string const & step) const
 {
     for (std::size_t i = 0; i < m_layers.size(); ++i) {
         KVCAM::API::layer_info const & info = m_layers[i].info;
-        if (info.context != "board" || info.type != "signal") {
+        bool const mayBeRead = !m_isStopped || !m_layers[i].features.empty();
+        if (info.context != "board" || info.type != "signal" || !mayBeRead) {
             continue;
         }
         auto const features = KVCAM::Embedded::features(m_job, step, info.name);
@@ -117,7 +137,7 @@ int Session::firstCopperLayer(std::string const & step) const
             return static_cast<int>(i);
         }
     }
-    return 0;
+    return m_isStopped ? -1 : 0;
 }
 
 } // namespace Workbench

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -31,11 +32,17 @@ public:
         std::map<std::string, long long> repeats;    ///< how often it repeats which other steps
     };
 
+    /// Does a reading and returns true, or false if the user stopped it.
+    using Runner = std::function<bool(KVCAM::Embedded::Reading)>;
+    /// Does it on the spot.
+    static bool runHere(KVCAM::Embedded::Reading reading);
+
     /// Opens the job in a folder or an archive. Returns one line that says what is wrong, empty on success.
-    QString open(QString const & path);
+    QString open(QString const & path, Runner const & run = runHere);
     /// Counts the features of a layer in every step, which is the slow part of opening. Reads the layer's
-    /// tools as well. Failures are kept in the layer and logged at ERROR.
-    void countFeatures(Layer & layer) const;
+    /// tools as well. Failures are kept in the layer and logged at ERROR. False, with nothing counted, when
+    /// it was stopped.
+    bool countFeatures(Layer & layer, Runner const & run = runHere) const;
 
     /// Counts the features of a step again after an operation, in the layers where they have been counted.
     void recount(std::size_t step);
@@ -48,14 +55,18 @@ public:
     std::vector<Layer> & layers() { return m_layers; }
     /// Whether the job has a step of this name, ignoring case.
     bool hasStep(QString const & name) const;
-    /// The index of the first board signal layer that has pads in a step, else 0.
+    /// The index of the first board signal layer that has pads in a step, else 0. After reading was stopped,
+    /// only among the layers that are counted, else -1: the user does not wait for the others here either.
     int firstCopperLayer(std::string const & step) const;
+    /// Reading the layers was stopped.
+    void setStopped() { m_isStopped = true; }
 
 private:
     QString m_directory;
     std::string m_job;
     std::vector<Step> m_steps;
     std::vector<Layer> m_layers;
+    bool m_isStopped = false;
 };
 
 } // namespace Workbench

@@ -104,6 +104,10 @@ void SymbolsPage::setTexts()
 
 void SymbolsPage::refresh()
 {
+    m_isStale = !isVisible();
+    if (m_isStale) {
+        return;
+    }
     int const current = std::max(m_names->currentRow(), 0);
     m_names->setRowCount(0);
     for (SymbolRow const & row : symbolRows(m_job)) {
@@ -114,6 +118,14 @@ void SymbolsPage::refresh()
     }
     m_names->selectRow(std::min(current, m_names->rowCount() - 1));
     showResults();
+}
+
+void SymbolsPage::showEvent(QShowEvent * event)
+{
+    QWidget::showEvent(event);
+    if (m_isStale) {
+        refresh();
+    }
 }
 
 void SymbolsPage::showResults()

@@ -36,8 +36,12 @@ public:
 
     /// Shows the results in the unit of another view.
     void setView(void const * view);
-    /// Lists the symbols again after the engine's features have changed.
+    /// Lists the symbols again after the engine's features have changed: at once or when the page is shown,
+    /// since for that all layers are read that have not been.
     void refresh();
+
+protected:
+    void showEvent(QShowEvent * event) override;
 
 private:
     void setTexts();
@@ -48,6 +52,7 @@ private:
     QTableWidget * m_names;
     QGroupBox * m_resultsTitle;
     QTableWidget * m_results;
+    bool m_isStale = true;
 };
 
 } // namespace Workbench

@@ -46,7 +46,9 @@ public:
     {
         QApplication::processEvents(); // lets layouts settle
         for (auto * view : widget.findChildren<BoardView *>()) {
-            view->finishPicture();
+            if (view->isVisibleTo(&widget)) { // there may be a hidden one for each of 2,000 steps
+                view->finishPicture();
+            }
         }
         QString const path = m_folder.filePath(name);
         if (widget.grab().save(path)) {

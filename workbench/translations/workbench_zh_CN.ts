@@ -12,6 +12,10 @@
         <translation>正在读取层 %1（按 F1 停止）</translation>
     </message>
     <message>
+        <source>Reading the nets (F1 stops)</source>
+        <translation>正在读取网络（按 F1 停止）</translation>
+    </message>
+    <message>
         <source>Stop</source>
         <translation>停止</translation>
     </message>
@@ -1967,6 +1971,18 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
 </context>
 <context>
     <name>Workbench::Desk</name>
+    <message>
+        <source>Opening %1</source>
+        <translation>正在打开 %1</translation>
+    </message>
+    <message>
+        <source>Unpacking the archive (F1 stops)</source>
+        <translation>正在解压压缩包（按 F1 停止）</translation>
+    </message>
+    <message>
+        <source>Reading the job (F1 stops)</source>
+        <translation>正在读取任务（按 F1 停止）</translation>
+    </message>
     <message>
         <source>The job has no step &quot;%1&quot;.</source>
         <translation>该任务没有步骤“%1”。</translation>

@@ -3,6 +3,7 @@
 #include "checks/ResultsPage.h"
 #include "job/Boards.h"
 #include "job/JobLoading.h"
+#include "job/ReadingProgress.h"
 #include "job/RecentBoards.h"
 #include "job/SaveAs.h"
 #include "job/Session.h"
@@ -16,8 +17,10 @@
 #include <UIAPICommonExt.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QTimer>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -57,20 +60,24 @@ void Desk::showStart()
     m_start->show();
 }
 
-// Returns what is wrong; empty on success.
-QString Desk::read(Board & board, QString const & path, QString const & step) const
+// Returns what is wrong: empty on success, nothing if the user stopped it.
+std::optional<QString> Desk::read(Board & board, QString const & path, QString const & step) const
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor); // unpacking takes seconds and handles no events
-    QString error = board.session.open(path);
-    QApplication::restoreOverrideCursor();
-    if (!error.isEmpty()) {
-        return error;
+    ReadingProgress progress(tr("Opening %1").arg(QFileInfo(path).fileName()));
+    progress.setText(QFileInfo(path).isFile() ? tr("Unpacking the archive (F1 stops)")
+                                              : tr("Reading the job (F1 stops)"));
+    QString error =
+        board.session.open(path, [&progress](auto const & reading) { return progress.run(reading); });
+    if (progress.isStopped()) {
+        return std::nullopt;
     }
-    if (!step.isEmpty() && !board.session.hasStep(step)) {
-        return tr("The job has no step \"%1\".").arg(step);
+    if (error.isEmpty() && !step.isEmpty() && !board.session.hasStep(step)) {
+        error = tr("The job has no step \"%1\".").arg(step);
     }
-    readLayers(board.session);
-    return {};
+    if (error.isEmpty()) {
+        readLayers(board.session, progress); // when this is stopped, the board is shown with what was read
+    }
+    return progress.isQuit() ? std::nullopt : std::optional(error);
 }
 
 bool Desk::open(QString const & path, QString const & step)
@@ -84,10 +91,17 @@ bool Desk::open(QString const & path, QString const & step)
 
 bool Desk::replace(QString const & path, QString const & step)
 {
+    if (m_isReading) {
+        return false;
+    }
     auto board = std::make_unique<Board>();
-    QString const error = read(*board, path, step);
-    if (!error.isEmpty()) {
-        Ext::showMessage({Ext::MessageKind::Information, shown(), tr("Open a board"), error});
+    m_isReading = true; // and handles events
+    std::optional<QString> const error = read(*board, path, step);
+    m_isReading = false;
+    if (!error || !error->isEmpty()) {
+        if (error) {
+            Ext::showMessage({Ext::MessageKind::Information, shown(), tr("Open a board"), *error});
+        }
         return false;
     }
     logOpened(board->session);

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Workbench {
 
@@ -29,7 +30,8 @@ public:
     void showStart();
     /// Opens a board at a step, by default its first, and closes the one shown. False if that cannot be done;
     /// what is shown then stays. If the one shown has changes that are not saved, the user is asked what to
-    /// do with them; the result is false, and the other is opened afterwards.
+    /// do with them; the result is false, and the other is opened afterwards. False also if the user stops
+    /// reading, or while another board is read.
     bool open(QString const & path, QString const & step = {});
     /// Null while no board is shown.
     MainWindow * window() const;
@@ -37,7 +39,7 @@ public:
 private:
     struct Board;
 
-    QString read(Board & board, QString const & path, QString const & step) const;
+    std::optional<QString> read(Board & board, QString const & path, QString const & step) const;
     bool replace(QString const & path, QString const & step);
     void useWaivers(QString const & path);
     void close();
@@ -49,6 +51,7 @@ private:
     std::unique_ptr<Board> m_board;
     std::unique_ptr<Board> m_closed; ///< deleted when its menu, which may have asked for the next, is left
     std::unique_ptr<StartPage> m_start;
+    bool m_isReading = false;
 };
 
 } // namespace Workbench
