@@ -1,4 +1,5 @@
 #include "analysis/HtmlReportCells.h"
+#include "analysis/ReportFormats.h"
 
 namespace KVCAM::UIAPI::Ext::Html {
 namespace {
@@ -18,12 +19,20 @@ QByteArray placeText(KVCAM::API::point const & place, Unit unit)
     return largeText(place.x, unit) + ", " + largeText(place.y, unit) + (unit == Unit::Inch ? " in" : " mm");
 }
 
-std::optional<Length> limitLength(Page const & page, ReportCategory const & category,
-                                  ReportEntry const & entry)
+// As the level was given, and in the other unit.
+QByteArray limitCells(Page const & page, ReportCategory const & category, ReportEntry const & entry)
 {
-    auto const limit = limitOf(category, entry);
-    return limit ? std::optional(Length::from(*limit, page.report.levelUnit(), LengthScale::Small))
-                 : std::nullopt;
+    Unit const given = page.report.levelUnit();
+    std::optional<double> const limit = limitOf(category, entry);
+    QByteArray out;
+    for (Unit const unit : {page.text.first(), page.text.second()}) {
+        QByteArray const shown = !limit ? QByteArray("–")
+                                 : unit == given
+                                     ? Formats::numberText(limit)
+                                     : lengthText(Length::from(*limit, given, LengthScale::Small), unit);
+        out += "<td class=\"n\">" + shown + "</td>";
+    }
+    return out;
 }
 
 } // namespace
@@ -83,8 +92,7 @@ QByteArray measurementHeads(Texts const & text)
 QByteArray measurementCells(Page const & page, ReportCategory const & category, ReportEntry const & entry)
 {
     return "<td class=\"k\">" + page.text.sign(entry.severity) + "</td>" +
-           lengthCells(page.text, entry.measured) +
-           lengthCells(page.text, limitLength(page, category, entry)) + "<td class=\"t\">" +
+           lengthCells(page.text, entry.measured) + limitCells(page, category, entry) + "<td class=\"t\">" +
            isolated(entry.layer) + "</td><td class=\"k\">" + placeCell(page.text, entry.position) +
            "</td><td class=\"t\">" + netsCell(entry.nets) + "</td>";
 }

@@ -46,6 +46,7 @@ th[aria-sort=descending] button::after{content:" \2193"}
 .t{min-width:6rem;max-width:24rem;overflow-wrap:anywhere}
 .w{min-width:11rem}
 td code{font-size:.9em}
+summary{white-space:nowrap;cursor:pointer}
 :target{background:var(--head);outline:2px solid var(--link)}
 .R i{color:var(--R)}.Y i{color:var(--Y)}.G i{color:var(--G)}.N i{color:var(--N)}
 td.R i{color:var(--R)}td.Y i{color:var(--Y)}td.G i{color:var(--G)}td.N i{color:var(--N)}
@@ -78,7 +79,7 @@ body{padding:0;max-width:none;font-size:9.5pt;print-color-adjust:exact;-webkit-p
 table{font-size:7.5pt}th,td{padding:.6mm 1mm}h1{font-size:16pt}h2{font-size:13pt}h3{font-size:10.5pt}
 h2,h3,caption,figcaption{break-after:avoid}tr,.counts>li{break-inside:avoid}thead{display:table-header-group}
 .wide{overflow:visible}figure svg{min-width:0}nav,.hint{display:none}a{color:inherit;text-decoration:none}
-.id{display:none}th button{text-decoration:none}
+.id{display:none}th button{display:contents}
 .t{min-width:0;max-width:38mm}.w{min-width:28mm}.counts button[aria-pressed=false]{opacity:1;text-decoration:none}}
 )css";
 

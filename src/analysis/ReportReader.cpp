@@ -18,6 +18,7 @@ namespace {
 constexpr qint64 largestReport = qint64(1024) * 1024 * 1024;
 constexpr int onlyVersion = 2; // the first one has no places to compare by
 constexpr std::size_t mostPlaces = 2;
+constexpr std::size_t mostCategories = 2000; // they are searched one after the other; the tables have 500
 
 // What the file says of an entry and what the report finds out itself.
 struct Verdict
@@ -221,6 +222,9 @@ private:
 
 bool readCategory(JsonReader & json, EntryReader & entry, std::vector<ReadCategory> & out)
 {
+    if (out.size() == mostCategories) {
+        return json.fail(QObject::tr("There are too many categories."));
+    }
     ReadCategory & category = out.emplace_back();
     return readMembers(json, {{"table", [&] { return json.text(category.table); }},
                               {"number", [&] { return json.number(category.number); }},
@@ -281,7 +285,9 @@ bool readAll(JsonReader & json, ReadReport & out)
 QString makeReport(ReadReport & read, AnalysisReport & out)
 {
     out.setJobStep(read.job, read.step);
-    out.setDate(read.date);
+    if (!out.setDate(read.date)) {
+        return QObject::tr("\"%1\" is unknown here.").arg(QString::fromStdString(read.date));
+    }
     out.setLevelUnit(read.levelUnit);
     std::map<std::string, std::vector<Analysis_Ranges_Record>> levels;
     for (ReadCategory & category : read.categories) {

@@ -16,21 +16,28 @@
 //   writeReport()           the same into a file
 //   htmlReport()            a report as a page for people: language, pictures, what is listed
 //   writeHtmlReport()       the same into a file
-//   violationId()           the text that names a violation in every report; violationIds() those of a category
-//   violationName()         its parts; parseViolationId() takes a text apart
+//   violationId()           the text that names a violation in every report
+//   violationIds()          those of a category, different for what is named alike
+//   violationName()         what the text says, as values
+//   parseViolationId()      the same of a text
 //   isSameViolation()       whether two names stand for the same violation, although a place moved a little
-//   readReport()            a report of a JSON file; parseReport() of its text
-//   compareReports()        what is new, fixed, better or worse in a later report; changeName() names a change
-//   comparisonText()        the comparison as JSON; writeComparison() into a file
-//   readWaivers()           violations that somebody has accepted, for AnalysisReport::applyWaivers();
-//                           parseWaivers() of a text, waiverStateName() names what became of one
-//   writeWaivers()          the same into a file; waiversText() as text
+//   readReport()            a report of a JSON file
+//   parseReport()           the same of its text
+//   compareReports()        what is new, fixed, better or worse in a later report
+//   changeName()            the name of a change
+//   comparisonText()        the comparison as JSON
+//   writeComparison()       the same into a file
+//   readWaivers()           violations that somebody has accepted, for AnalysisReport::applyWaivers()
+//   parseWaivers()          the same of a text
+//   waiversText()           the waivers as JSON
+//   writeWaivers()          the same into a file
+//   waiverStateName()       what became of a waiver, in a word
 //   isViolation()           whether a measurement fails: as bad as a severity or worse, and not waived
 //   clearUnifiedResults()   empties Unified_AnalysisResult between two jobs
 //
 // A run: getRanges() -> AnalysisReport::setLevels(); the engine's replies -> addDrill(), addSignal(),
-// addUnified(), and to Unified_AnalysisResult as before; what was not run -> addNotChecked(); at the end
-// writeReport(). The report grades with gradeMeasured().
+// addUnified(), and to Unified_AnalysisResult as before; the nets of what is added -> setNetLookup() before;
+// what was not run -> addNotChecked(); at the end writeReport(). The report grades with gradeMeasured().
 
 #include "../analysis/AnalysisReport.h"
 #include "../analysis/Grade.h"

@@ -64,6 +64,10 @@
         <translation>一个测量最多有两个位置。</translation>
     </message>
     <message>
+        <source>There are too many categories.</source>
+        <translation>类别过多。</translation>
+    </message>
+    <message>
         <source>A measurement has two nets.</source>
         <translation>一个测量有两个网络。</translation>
     </message>

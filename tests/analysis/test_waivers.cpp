@@ -116,7 +116,7 @@ TEST_F(WaiverFile, AFaultIsToldWithItsPlace)
               "line 2, byte 127, waivers[0].author: A waiver needs a reason and an author."},
           Row{"\"me\"", "3", "line 2, byte 127, waivers[0].author: A text is expected."},
           Row{"-11-01", "-02-30", "line 2, byte 141, waivers[0].date: A day is written as 2026-11-22."},
-          Row{"2026-12-31", "2026-12-1",
+          Row{"2026-12-31", "2026/12/31",
               "line 3, byte 266, waivers[1].expires: A day is written as 2026-11-22."},
           Row{"expires", "expire", "line 3, byte 263, waivers[1].expire: The member is unknown."},
           Row{"author", "reason", "line 2, byte 125, waivers[0].reason: The member is there twice."},
@@ -224,6 +224,7 @@ TEST_F(ReportReading, ADamagedReportIsRefused)
               "categories[1].entries[0].places[0]: The member \"y_um\" is missing."},
           Row{"\"places\": [{", "\"places\": [{\"x_um\": 1, \"y_um\": 1}, {\"x_um\": 1, \"y_um\": 1}, {",
               "categories[1].entries[0].places[2]: A measurement has at most two places."},
+          Row{"2026-11-22", "yesterday", "\"yesterday\" is unknown here."},
           Row{"\"levelUnit\": \"um\"", "\"levelUnit\": \"mm\"", "levelUnit: \"mm\" is unknown here."}}) {
         QByteArray bad = good;
         ASSERT_TRUE(bad.contains(row.from)) << row.from;
@@ -234,6 +235,10 @@ TEST_F(ReportReading, ADamagedReportIsRefused)
         EXPECT_EQ(read.categories().size(), 3U) << "unchanged";
     }
     AnalysisReport read;
+    QByteArray many = good;
+    QByteArray const one = R"({"table": "SignalLayerRanges", "number": 9, "levels": null, "entries": []}, )";
+    many.insert(many.indexOf("[") + 1, one.repeated(2000));
+    EXPECT_TRUE(parseReport(many, read).reason.endsWith("]: There are too many categories."));
     for (int length = 0; length < good.size() - 1; length += 7) {
         EXPECT_FALSE(parseReport(good.left(length), read)) << length;
     }

@@ -162,14 +162,14 @@ QWidget * ResultsPage::makeSides()
     lower->setChildrenCollapsible(false);
     lower->addWidget(m_chartBox);
     lower->addWidget(m_notCheckedBox);
-    m_waivers = new WaiversBox;
-    lower->addWidget(m_waivers);
     lower->setSizes({300, 300});
     auto * side = new QWidget;
     auto * layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_levels);
-    layout->addWidget(lower, 1);
+    layout->addWidget(lower, 2);
+    m_waivers = new WaiversBox;
+    layout->addWidget(m_waivers, 1);
     return side;
 }
 
