@@ -19,6 +19,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <utility>
 
@@ -29,6 +30,7 @@ namespace {
 constexpr int nameColumn = 1;
 constexpr int contextColumn = 2;
 constexpr int countColumn = 5;
+constexpr std::array columnOrder = {0, nameColumn, 3, countColumn, contextColumn, 4}; // what tells most first
 
 bool isCopper(KVCAM::API::layer_info const & layer)
 {
@@ -40,11 +42,16 @@ bool isCopper(KVCAM::API::layer_info const & layer)
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
     prepareTable(*this, {{}, {}, {}, {}, {}, {}});
+    setContextMenuPolicy(Qt::DefaultContextMenu); // the menu of a layer instead of the table's actions
     setTextsNowAndLater(*this, [this] { setTitles(); });
     setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setSectionResizeMode(contextColumn, QHeaderView::Stretch); // names are read most
     horizontalHeader()->setSectionsClickable(true);
+    for (std::size_t place = 0; place < columnOrder.size(); ++place) {
+        horizontalHeader()->moveSection(horizontalHeader()->visualIndex(columnOrder.at(place)),
+                                        static_cast<int>(place));
+    }
     horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorShown(true);
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] { applyOrder(); });

@@ -63,6 +63,7 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
     setCentralWidget(m_pages);
     addPage(m_board, "board", QT_TR_NOOP("&Board"));
     addPages();
+    m_board->arrange(firstPanes(size(), {fontMetrics().averageCharWidth(), fontMetrics().lineSpacing()}));
     m_saveAs = new SaveAs(session, *this);
     connect(m_saveAs, &SaveAs::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::refreshed, m_saveAs, &SaveAs::showState);
@@ -128,6 +129,9 @@ void MainWindow::addPage(QWidget * page, QString const & name, char const * titl
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);
         area->setWidget(page);
+        for (QWidget * plain : {area->viewport(), page}) {
+            plain->setAutoFillBackground(false); // that of the tabs
+        }
         tab = area;
     }
     int const index = m_pages->addTab(tab, QString());
@@ -188,8 +192,8 @@ void MainWindow::makeFileMenu()
         QTimer::singleShot(0, this, [this, path] { emit boardWanted(path); });
     };
     QMenu * file = addMenu(QT_TR_NOOP("&File"));
-    addEntry(*file, QT_TR_NOOP("Open f&older..."), "F2", [this, want] { askForBoardFolder(*this, want); });
-    addEntry(*file, QT_TR_NOOP("Open &archive..."), "F3", [this, want] { askForBoardArchive(*this, want); });
+    addEntry(*file, QT_TR_NOOP("&Open..."), "F2",
+             [this, want] { askForBoard(*this, m_session.directory(), want); });
     m_recent = file->addMenu(QString());
     connect(m_recent, &QMenu::triggered, this,
             [want](QAction const * action) { want(action->data().toString()); });
