@@ -107,6 +107,9 @@ bool ResultsPage::measure(std::string const & step)
         m_tree->fitColumns();
     }
     refresh();
+    if (isNew) {
+        m_tree->setFocus(); // for the arrow keys and to copy
+    }
     return isNew;
 }
 
@@ -120,6 +123,9 @@ bool ResultsPage::showCheck(std::string const & table, int number)
 void ResultsPage::showViolation(int way)
 {
     bool const isShown = m_tree->showViolation(way);
+    if (isShown && isVisible()) {
+        m_tree->setFocus();
+    }
     emit status(isShown              ? selectedText()
                 : m_run->hasResult() ? tr("There is no violation among the results shown.")
                                      : tr("The checks have not been run yet."));

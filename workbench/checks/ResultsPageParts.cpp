@@ -113,6 +113,7 @@ QWidget * ResultsPage::makeResults()
     m_stack->addWidget(m_tree);
     m_step = makeLabel("step");
     m_step->setTextFormat(Qt::PlainText);
+    m_step->setWordWrap(false);
     m_note = makeLabel("note");
 
     auto * side = new QWidget;

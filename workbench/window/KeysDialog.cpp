@@ -62,6 +62,7 @@ KeysDialog::KeysDialog(QWidget * parent)
     layout->addWidget(m_tabs, 1);
     layout->addWidget(m_hint);
     makeButtons();
+    m_search->setFocus();
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
