@@ -3961,6 +3961,18 @@ Do you want to replace it?</source>
         <translation>%1 已存在。
 要替换它吗？</translation>
     </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+找不到文件。
+请检查文件名是否正确。</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>

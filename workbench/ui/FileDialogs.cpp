@@ -10,8 +10,10 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTimer>
 #include <QUrl>
 
+#include <memory>
 #include <utility>
 
 namespace Workbench {
@@ -99,18 +101,21 @@ void askForBoard(QWidget & parent, QString const & beside, std::function<void(QS
     if (auto * all = dialog->findChild<QPushButton *>("m_ChooseAllPB")) {
         all->hide(); // one board is shown at a time
     }
+    auto const entered = std::make_shared<QString>();
     QObject::connect(dialog->findChild<QFileSystemModel *>(), &QFileSystemModel::rootPathChanged, dialog,
-                     [dialog, isBoard](QString const & folder) {
+                     [dialog, isBoard, entered](QString const & folder) {
                          if (isBoard(folder)) {
-                             dialog->selectFile(folder);
-                             QMetaObject::invokeMethod(dialog, "onChoice", Qt::QueuedConnection);
+                             *entered = folder;
+                             QTimer::singleShot(0, dialog,
+                                                &KVFileDialog::onChoice); // Qt is still entering it
                          }
                      });
-    QObject::connect(dialog, &QDialog::accepted, &parent, [&parent, dialog, isBoard, take = std::move(take)] {
-        QString const path = dialog->selectedFiles().value(0);
-        bool const isOther = QFileInfo(path).isDir() && !isBoard(path);
-        isOther ? askForBoard(parent, path + '/', take) : take(path);
-    });
+    QObject::connect(
+        dialog, &QDialog::accepted, &parent, [&parent, dialog, isBoard, entered, take = std::move(take)] {
+            QString const path = entered->isEmpty() ? dialog->selectedFiles().value(0) : *entered;
+            bool const isOther = QFileInfo(path).isDir() && !isBoard(path);
+            isOther ? askForBoard(parent, path + '/', take) : take(path);
+        });
     dialog->open();
 }
 

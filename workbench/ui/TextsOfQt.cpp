@@ -29,6 +29,8 @@ namespace {
     QT_TRANSLATE_NOOP("QFileDialog", "&New Folder"),
     QT_TRANSLATE_NOOP("QFileDialog", "Show &hidden files"),
     QT_TRANSLATE_NOOP("QFileDialog", "All Files (*)"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Folder"),
+    QT_TRANSLATE_NOOP("QFileDialog", "%1\nFile not found.\nPlease verify the correct file name was given."),
     QT_TRANSLATE_NOOP("QFileDialog", "%1 already exists.\nDo you want to replace it?"),
     QT_TRANSLATE_NOOP("QFileSystemModel", "Name"),
     QT_TRANSLATE_NOOP("QFileSystemModel", "Size"),

@@ -38,7 +38,7 @@ QSize firstWindowSize(QSize available)
 
 FirstPanes firstPanes(QSize window, QSize letter)
 {
-    return {std::min(window.width() / 3, 80 * letter.width()), 42 * letter.width(),
+    return {std::min(window.width() * 3 / 8, 80 * letter.width()), 42 * letter.width(),
             window.width() >= 200 * letter.width(), window.height() >= 50 * letter.height()};
 }
 
