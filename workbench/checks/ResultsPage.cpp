@@ -42,8 +42,7 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(makeResults());
     splitter->addWidget(makeSides());
-    splitter->setStretchFactor(0, 1);
-    splitter->setSizes({920, 480});
+    splitter->setSizes({1000, 440}); // parts of any width
 
     auto * layout = new QVBoxLayout(this);
     layout->addWidget(makeButtons());

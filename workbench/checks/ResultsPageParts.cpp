@@ -11,6 +11,7 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -147,6 +148,8 @@ QWidget * ResultsPage::makeSides()
 
     m_notChecked = makeTable({{}, {}});
     wrapLastColumn(*m_notChecked);
+    m_notChecked->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive); // wraps as well
+    m_notChecked->horizontalHeader()->resizeSection(0, 16 * fontMetrics().averageCharWidth());
     m_notCheckedBox = new QGroupBox;
     (new QVBoxLayout(m_notCheckedBox))->addWidget(m_notChecked);
 
