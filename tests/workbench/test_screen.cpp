@@ -53,12 +53,12 @@ TEST(FirstPanes, GiveTheBoardTheMost)
         bool hasFeature;
         bool hasLog;
     } const rows[] = {
-        {{1440, 900}, {6, 15}, true, true},   //
-        {{1424, 824}, {6, 15}, true, true},   //
-        {{1424, 824}, {8, 19}, false, false}, // larger letters
-        {{1008, 652}, {6, 15}, false, false}, //
-        {{944, 492}, {6, 15}, false, false},  //
-        {{2560, 600}, {6, 15}, true, false},  //
+        {{1440, 900}, {6, 15}, true, true},                                         //
+        {{1424, 824}, {6, 15}, true, true},                                         //
+        {{1424, 824}, {8, 19}, true, false},                                        // larger letters
+        {{1300, 824}, {8, 19}, false, false}, {{1008, 652}, {6, 15}, false, false}, //
+        {{944, 492}, {6, 15}, false, false},                                        //
+        {{2560, 600}, {6, 15}, true, false},                                        //
     };
     for (auto const & row : rows) {
         FirstPanes const panes = firstPanes(row.window, row.letter);

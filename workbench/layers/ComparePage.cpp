@@ -119,8 +119,7 @@ void ComparePage::makeLayout()
     sides->setChildrenCollapsible(false);
     sides->addWidget(m_view);
     sides->addWidget(side);
-    sides->setStretchFactor(0, 1);
-    sides->setSizes({620, 560});
+    sides->setSizes({620, 560}); // parts of any width
     auto * layout = new QVBoxLayout(this);
     layout->addLayout(tools);
     layout->addWidget(m_legend);

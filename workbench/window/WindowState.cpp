@@ -38,8 +38,8 @@ QSize firstWindowSize(QSize available)
 
 FirstPanes firstPanes(QSize window, QSize letter)
 {
-    return {std::min(window.width() * 3 / 8, 80 * letter.width()), 42 * letter.width(),
-            window.width() >= 200 * letter.width(), window.height() >= 50 * letter.height()};
+    return {std::min(window.width() * 3 / 8, 66 * letter.width()), 40 * letter.width(),
+            window.width() >= 170 * letter.width(), window.height() >= 50 * letter.height()};
 }
 
 std::optional<WindowChoices> savedChoices(QString const & file)
