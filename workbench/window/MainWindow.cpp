@@ -51,7 +51,7 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
     setCentralWidget(m_pages);
     addPage(m_board, "board", QT_TR_NOOP("&Board"));
     addPages();
-    m_board->arrange(firstPanes(size(), {fontMetrics().averageCharWidth(), fontMetrics().lineSpacing()}));
+    arrange();
     m_saveAs = new SaveAs(session, *this);
     connect(m_saveAs, &SaveAs::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::refreshed, m_saveAs, &SaveAs::showState);
@@ -69,6 +69,11 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
         showZoom();
     });
     setTextsNowAndLater(*this, [this] { setTexts(); });
+}
+
+void MainWindow::arrange()
+{
+    m_board->arrange(firstPanes(size(), {fontMetrics().averageCharWidth(), fontMetrics().lineSpacing()}));
 }
 
 // The title is given untranslated; the mnemonic in it brings the page to the front.
