@@ -142,6 +142,8 @@ void FeaturePane::makeFields()
     connect(m_names, &QToolButton::clicked, this, &FeaturePane::showNames);
     m_description->setObjectName("description");
     m_verdict->setObjectName("verdict");
+    m_verdict->setMinimumHeight(2 * fontMetrics().lineSpacing() + 4); // keeps what is below in its place
+    m_verdict->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     for (std::size_t i = 0; i < m_sizes.size(); ++i) {
         auto * field = new KVLengthEdit;
         field->setObjectName(i == 0 ? "width" : "height");
