@@ -326,6 +326,9 @@ TEST_F(ComparePages, ListRegionsCentreOnThemAndSayWhenTheyAreOutOfDate)
     auto & page = find<ComparePage>();
     auto & table = find<QTableWidget>("regions");
     auto & view = find<CompareView>();
+    EXPECT_EQ(find<QComboBox>("first layer").currentText(), "top") << "at first the outer copper";
+    EXPECT_EQ(find<QComboBox>("second layer").currentText(), "bottom");
+    page.choose("drill", "sst");
     emit board().compareWanted("bottom");
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ(find<QComboBox>("first layer").currentText(), "top");

@@ -1,5 +1,6 @@
 #include "TestFiles.h"
 #include "job/RecentBoards.h"
+#include "ui/FileDialogs.h"
 #include "ui/LogPane.h"
 #include "window/Desk.h"
 #include "window/MainWindow.h"
@@ -10,6 +11,8 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QPointer>
@@ -93,6 +96,34 @@ TEST_F(Desks, ABoardTakesThePlaceOfTheOneBefore)
     EXPECT_EQ(title(), "demo-board");
     EXPECT_EQ(recentBoards("./state.ini"), (QStringList{sampleJob, other}));
     EXPECT_EQ(boxes.size(), 2);
+}
+
+TEST_F(Desks, TheDialogTakesTheFolderOfABoardAndEntersOthers)
+{
+    desk.showStart();
+    QWidget * page = QApplication::topLevelWidgets().value(0);
+    QString taken;
+    auto const front = [] { return qobject_cast<QFileDialog *>(QApplication::activeModalWidget()); };
+    auto const ask = [&] {
+        taken.clear();
+        askForBoard(*page, other, [&taken](QString const & path) { taken = path; });
+        return front();
+    };
+    QFileDialog * dialog = ask();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->directory().absolutePath(), QFileInfo(other).absolutePath());
+    dialog->setDirectory(QDir::rootPath());
+    dialog->findChild<QLineEdit *>("fileNameEdit")->setText(other);
+    static_cast<QDialog *>(dialog)->accept(); // what Return does
+    EXPECT_TRUE(QTest::qWaitFor([&] { return taken == other; }));
+    ASSERT_NE(dialog = ask(), nullptr);
+    dialog->setDirectory(QFileInfo(other).absoluteDir().absolutePath() + "/..");
+    dialog->selectFile("boards");
+    QMetaObject::invokeMethod(dialog, "onChoice");
+    EXPECT_EQ(taken, QString());
+    ASSERT_TRUE(front() != nullptr && front() != dialog) << "asked again";
+    EXPECT_EQ(front()->directory().absolutePath(), QFileInfo(other).absolutePath());
+    front()->reject();
 }
 
 TEST_F(Desks, TheStartPageOffersTheBoardsOpenedLately)

@@ -97,14 +97,14 @@ TEST_F(Features, AClickShowsWhatIsThere)
         char const * facts; ///< heading, description, size, net, position, polarity, attributes
     } const rows[] = {
         {{1.005, 1.014},
-         "Pad 1|rectangle, width 20 mil (508 my), height 30 mil (762 my)|20 x 30 mil = 508 x 762 µm|GND|x "
+         "Pad 1|rectangle, width 20 mil (508 µm), height 30 mil (762 µm)|20 x 30 mil = 508 x 762 µm|GND|x "
          "1.000 y 1.000 inch|Positive|.drill = "
          "2"},
         {{1.2, 1.25},
-         "Line 2, part of a text|round, 10 mil (254 my)|10 mil = 254 µm|not known|from x 1.000 y 1.250 inch\n"
+         "Line 2, part of a text|round, 10 mil (254 µm)|10 mil = 254 µm|not known|from x 1.000 y 1.250 inch\n"
          "to x 1.500 y 1.250 inch\nlength 500 mil = 12700 µm|Positive|.string = R <b>7</b>"},
         {{1.325, 0.802},
-         "Arc 3|round, 10 mil (254 my)|10 mil = 254 µm|not known|from x 1.250 y 0.625 inch\nto x 1.500 y "
+         "Arc 3|round, 10 mil (254 µm)|10 mil = 254 µm|not known|from x 1.250 y 0.625 inch\nto x 1.500 y "
          "0.875 "
          "inch\nabout x 1.500 y 0.625 inch|Negative|"},
         {{1.75, 1},

@@ -17,7 +17,9 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
+#include <QTableWidget>
 
 #include <iterator>
 
@@ -66,8 +68,9 @@ QStringList use(TemplatesPage & page, int row, QString const & name, QString con
 {
     QStringList boxes;
     Ext::setMessagePresenter([&boxes](Ext::Message const & message) {
-        boxes.append(message.text);
-        return Ext::MessageAnswer::Ok;
+        bool const isQuestion = message.kind == Ext::MessageKind::Question; // on what was typed before
+        boxes.append(isQuestion ? QStringList() : QStringList{message.text});
+        return isQuestion ? Ext::MessageAnswer::Yes : Ext::MessageAnswer::Ok;
     });
     page.findChild<QTableWidget *>()->selectRow(row);
     if (!name.isEmpty()) {
@@ -156,6 +159,36 @@ TEST(TemplateFiles, AFailedRenameKeepsTheOldFile)
     EXPECT_EQ(userFiles(), QStringList{"mine.json: mine"});
     EXPECT_EQ(use(page, 1, "short", "Save"), QStringList());
     EXPECT_EQ(userFiles(), QStringList{"short.json: short"});
+}
+
+TEST(TemplateFiles, WhatWasTypedIsNotLostWithoutAQuestion)
+{
+    writeFile("config/automatrix.json", templates({"one", "two"}));
+    TemplatesPage page;
+    auto & list = *page.findChild<QTableWidget *>();
+    auto & name = *page.findChild<QLineEdit *>("name");
+    auto & drill = *page.findChild<QLineEdit *>("drill");
+    QStringList boxes;
+    auto answer = Ext::MessageAnswer::No;
+    Ext::setMessagePresenter([&](Ext::Message const & message) {
+        boxes.append(message.text);
+        return answer;
+    });
+    drill.setText("dr");
+    EXPECT_TRUE(page.findChild<QLabel *>("hint")->text().startsWith("Not saved yet. "));
+    buttonOf(page, "Use as current").click();
+    EXPECT_EQ(drill.text(), "dr") << "used, and still not saved";
+    list.selectRow(1);
+    EXPECT_EQ(boxes, QStringList{"The template \"one\" was changed and is not saved. Discard the changes?"});
+    EXPECT_EQ(list.currentRow(), 0);
+    EXPECT_EQ(drill.text(), "dr");
+    answer = Ext::MessageAnswer::Yes;
+    list.selectRow(1);
+    EXPECT_EQ(name.text(), "two");
+    list.selectRow(0);
+    EXPECT_EQ(drill.text(), "d one");
+    EXPECT_EQ(boxes.size(), 2) << "nothing was typed into the second";
+    Ext::setMessagePresenter({});
 }
 
 TEST(TemplateFiles, TheHintTellsWhatSaveAndDeleteDo)

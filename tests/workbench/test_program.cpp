@@ -230,7 +230,7 @@ TEST(Workbench, AFeatureIsShownAndChangedAndTheChangeUndone)
     QJsonObject const facts = runSample({"--unit", "mm"}).facts["feature"].toObject();
     EXPECT_EQ(facts["feature"].toString(), "Pad 0");
     EXPECT_EQ(facts["description"].toString(),
-              "rectangle, width 1500 my (59.055118 mil), height 500 my (19.685039 mil)");
+              "rectangle, width 1500 µm (59.055118 mil), height 500 µm (19.685039 mil)");
     EXPECT_EQ(facts["typed"].toString(), QString::fromUtf8("= 317.5 µm = 12.5 mil"));
     EXPECT_EQ(facts["symbol"].toString(), "rect317.5x500");
     EXPECT_EQ(facts["changed size"].toString(), QString::fromUtf8("12.5 x 19.68504 mil = 317.5 x 500 µm"));

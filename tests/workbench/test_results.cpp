@@ -388,8 +388,8 @@ TEST_F(Results, AreCopiedAsLinesOfCells)
     QModelIndex const top = tree().model()->index(0, 0, lines);
     QModelIndex const first = tree().model()->index(0, 0, top);
     QModelIndex const second = tree().model()->index(1, 0, top);
-    QString const one = QString::fromUtf8("1\t✖ R\t\t\t\t\t3.94\t4\t0.197, 0.000");
-    QString const two = QString::fromUtf8("2\t▲ Y\t\t\t\t\t5\t5\t0.197, 0.039");
+    QString const one = QString::fromUtf8("Lines / top / 1\t✖ R\t\t\t\t\t3.94\t4\t0.197, 0.000");
+    QString const two = QString::fromUtf8("Lines / top / 2\t▲ Y\t\t\t\t\t5\t5\t0.197, 0.039");
     EXPECT_EQ(copied({second, first}, true), one + '\n' + two) << "in the order shown";
     EXPECT_EQ(copied({second}, false), two) << "without a selection, the current row";
     EXPECT_EQ(copied({}, false), "before") << "never nothing";

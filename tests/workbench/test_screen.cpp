@@ -11,6 +11,8 @@
 #include <QPalette>
 #include <QSplitter>
 
+#include <algorithm>
+
 using namespace KVCAM::UIAPI;
 using namespace Workbench;
 
@@ -44,9 +46,41 @@ TEST_F(Screens, TheFirstWindowFitsAndEveryPageCanBeThatSmall)
     window->setLanguage(LANGUAGE_ENGLISH);
 }
 
+TEST(FirstPanes, GiveTheBoardTheMost)
+{
+    struct
+    {
+        QSize window;
+        QSize letter;
+        bool hasFeature;
+        bool hasLog;
+    } const rows[] = {
+        {{1440, 900}, {6, 15}, true, true},                                         //
+        {{1424, 824}, {6, 15}, true, true},                                         //
+        {{1424, 824}, {8, 19}, true, false},                                        // larger letters
+        {{1300, 824}, {8, 19}, false, false}, {{1008, 652}, {6, 15}, false, false}, //
+        {{944, 492}, {6, 15}, false, false},                                        //
+        {{2560, 600}, {6, 15}, true, false},                                        //
+    };
+    for (auto const & row : rows) {
+        FirstPanes const panes = firstPanes(row.window, row.letter);
+        EXPECT_EQ(panes.hasFeature, row.hasFeature) << row.window.width();
+        EXPECT_EQ(panes.hasLog, row.hasLog) << row.window.height();
+        int const board = row.window.width() - panes.layers - (panes.hasFeature ? panes.feature : 0);
+        EXPECT_GT(board, std::max(panes.layers, panes.feature)) << row.window.width();
+        EXPECT_GE(panes.layers, 40 * row.letter.width());
+    }
+}
+
 TEST_F(Screens, PanesAreClosedOpenedAndRemembered)
 {
     open();
+    board().arrange(firstPanes({944, 492}, {6, 15}));
+    EXPECT_FALSE(find<Pane>("feature").isVisible() || find<QSplitter>("right").isVisible());
+    EXPECT_FALSE(find<Pane>("log").isVisible());
+    window->resize(1440, 900);
+    board().arrange(firstPanes({1440, 900}, {6, 15}));
+    EXPECT_GT(board().currentView()->width(), find<Pane>("layers").width());
     auto const isOpen = [this](char const * name) { return find<Pane>(name).isVisible(); };
     EXPECT_TRUE(isOpen("layers") && isOpen("feature") && isOpen("log") && !isOpen("engine"));
     ASSERT_EQ(board().paneActions().size(), 4);

@@ -25,11 +25,8 @@ namespace {
 
 using namespace KVCAM::UIAPI;
 
-constexpr double zoomStep = 1.5;   // of a key
-constexpr double wheelStep = 1.25; // of one notch of the wheel
-constexpr double panStep = 0.1;    // of a key, in sizes of the view
-constexpr double closeZoom = 4;    // relative to home, for looking at a place
-constexpr double reach = 3;        // pixels from a feature within which a click selects it
+constexpr double closeZoom = 4; // relative to home, for looking at a place
+constexpr double reach = 3;     // pixels from a feature within which a click selects it
 
 } // namespace
 
@@ -160,13 +157,13 @@ void BoardView::zoomFit()
 
 void BoardView::zoomIn()
 {
-    m_port.zoomAbout(QRectF(rect()).center(), zoomStep);
+    m_port.press(Qt::Key_Plus);
     changePort();
 }
 
 void BoardView::zoomOut()
 {
-    m_port.zoomAbout(QRectF(rect()).center(), 1 / zoomStep);
+    m_port.press(Qt::Key_Minus);
     changePort();
 }
 
@@ -272,7 +269,7 @@ void BoardView::resizeEvent(QResizeEvent * /*event*/)
 
 void BoardView::wheelEvent(QWheelEvent * event)
 {
-    m_port.zoomAbout(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
+    m_port.turn(event->position(), event->angleDelta().y());
     changePort();
     event->accept();
 }
@@ -348,27 +345,12 @@ void BoardView::keyPressEvent(QKeyEvent * event)
     if ((event->modifiers() & ~without) != 0) {
         return QWidget::keyPressEvent(event);
     }
-    switch (event->key()) {
-    case Qt::Key_Left:
-        return pan({-panStep, 0});
-    case Qt::Key_Right:
-        return pan({panStep, 0});
-    case Qt::Key_Up:
-        return pan({0, panStep});
-    case Qt::Key_Down:
-        return pan({0, -panStep});
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // the plus key without Shift on many keyboards
-        return zoomIn();
-    case Qt::Key_Minus:
-        return zoomOut();
-    case Qt::Key_Home:
-        return zoomHome();
-    case Qt::Key_Delete:
+    if (event->key() == Qt::Key_Delete) {
         emit deleteAsked();
-        return;
-    default:
-        return QWidget::keyPressEvent(event);
+    } else if (m_port.press(event->key())) {
+        changePort();
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

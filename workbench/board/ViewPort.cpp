@@ -1,5 +1,7 @@
 #include "board/ViewPort.h"
 
+#include <qnamespace.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -10,6 +12,9 @@ namespace {
 constexpr double margin = 28;    // pixels around the board, with room for the scale bar
 constexpr double mostScale = 10; // pixels per micrometre
 constexpr double leastZoom = 0.125;
+constexpr double zoomStep = 1.5;   // of a key
+constexpr double wheelStep = 1.25; // of one notch of the wheel
+constexpr double panStep = 0.1;    // of a key, in sizes of the view
 
 bool isFinite(QPointF point)
 {
@@ -59,6 +64,44 @@ void ViewPort::home()
     m_scale = std::min(scaleFor(m_extent), mostScale);
     m_centre = m_extent.center();
     m_isHome = true;
+}
+
+bool ViewPort::press(int key)
+{
+    QPointF const step(panStep * m_size.width(), panStep * m_size.height());
+    QPointF const middle(m_size.width() / 2, m_size.height() / 2);
+    switch (key) {
+    case Qt::Key_Left:
+        drag({step.x(), 0});
+        break;
+    case Qt::Key_Right:
+        drag({-step.x(), 0});
+        break;
+    case Qt::Key_Up:
+        drag({0, step.y()});
+        break;
+    case Qt::Key_Down:
+        drag({0, -step.y()});
+        break;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // the plus key without Shift on many keyboards
+        zoomAbout(middle, zoomStep);
+        break;
+    case Qt::Key_Minus:
+        zoomAbout(middle, 1 / zoomStep);
+        break;
+    case Qt::Key_Home:
+        home();
+        break;
+    default:
+        return false;
+    }
+    return true;
+}
+
+void ViewPort::turn(QPointF pixel, int angle)
+{
+    zoomAbout(pixel, std::pow(wheelStep, angle / 120.0));
 }
 
 void ViewPort::zoomAbout(QPointF pixel, double factor)

@@ -27,6 +27,11 @@ public:
     /// Moves the board by widget pixels.
     void drag(QPointF pixels);
     void centreOn(QPointF place);
+    /// What a key does: arrows move, + and - zoom about the middle, Home shows the whole extent. False for
+    /// any other key.
+    bool press(int key);
+    /// Zooms about `pixel` by a turn of the wheel, in eighths of a degree.
+    void turn(QPointF pixel, int angle);
 
     /// Pixels per micrometre; 0 while there is nothing to show or no room for it.
     double scale() const { return m_scale; }

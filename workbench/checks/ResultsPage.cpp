@@ -46,8 +46,7 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(makeResults());
     splitter->addWidget(makeSides());
-    splitter->setStretchFactor(0, 1);
-    splitter->setSizes({920, 480});
+    splitter->setSizes({1000, 440}); // parts of any width
 
     auto * layout = new QVBoxLayout(this);
     layout->addWidget(makeButtons());
@@ -111,6 +110,9 @@ bool ResultsPage::measure(std::string const & step)
         m_tree->fitColumns();
     }
     refresh();
+    if (isNew) {
+        m_tree->setFocus(); // for the arrow keys and to copy
+    }
     return isNew;
 }
 
@@ -178,6 +180,9 @@ bool ResultsPage::showCheck(std::string const & table, int number)
 void ResultsPage::showViolation(int way)
 {
     bool const isShown = m_tree->showViolation(way);
+    if (isShown && isVisible()) {
+        m_tree->setFocus();
+    }
     emit status(isShown              ? selectedText()
                 : m_run->hasResult() ? tr("There is no violation among the results shown.")
                                      : tr("The checks have not been run yet."));

@@ -11,6 +11,7 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -120,6 +121,7 @@ QWidget * ResultsPage::makeResults()
     m_stack->addWidget(m_tree);
     m_step = makeLabel("step");
     m_step->setTextFormat(Qt::PlainText);
+    m_step->setWordWrap(false);
     m_note = makeLabel("note");
 
     auto * side = new QWidget;
@@ -154,6 +156,8 @@ QWidget * ResultsPage::makeSides()
     m_notChecked = makeTable({{}, {}});
     m_notChecked->setObjectName("not checked");
     wrapLastColumn(*m_notChecked);
+    m_notChecked->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive); // wraps as well
+    m_notChecked->horizontalHeader()->resizeSection(0, 16 * fontMetrics().averageCharWidth());
     m_notCheckedBox = new QGroupBox;
     (new QVBoxLayout(m_notCheckedBox))->addWidget(m_notChecked);
 

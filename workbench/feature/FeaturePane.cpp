@@ -107,9 +107,9 @@ FeaturePane::FeaturePane(BoardView & view)
     name->addWidget(m_name, 1);
     name->addWidget(m_names);
     auto const add = [&](char const * title, auto * content) {
-        auto * label = new QLabel;
+        auto * label = new KVLabel;
+        label->setAttribute1(QString(title));
         form->addRow(label, content);
-        setTextsNowAndLater(*label, [label, title] { label->setText(tr(title)); });
     };
     add(QT_TR_NOOP("Symbol"), name);
     form->addRow(m_description);
@@ -142,6 +142,8 @@ void FeaturePane::makeFields()
     connect(m_names, &QToolButton::clicked, this, &FeaturePane::showNames);
     m_description->setObjectName("description");
     m_verdict->setObjectName("verdict");
+    m_verdict->setMinimumHeight(2 * fontMetrics().lineSpacing() + 4); // keeps what is below in its place
+    m_verdict->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     for (std::size_t i = 0; i < m_sizes.size(); ++i) {
         auto * field = new KVLengthEdit;
         field->setObjectName(i == 0 ? "width" : "height");
@@ -177,6 +179,9 @@ void FeaturePane::setTexts()
     m_names->setAccessibleName(tr("Names"));
     for (KVLengthEdit * field : m_sizes) {
         field->setPlaceholderText({});
+    }
+    for (KVLabel * label : findChildren<KVLabel *>()) {
+        label->setText(tr(label->getAttribute1().toLatin1().constData()));
     }
     fill();
 }
@@ -244,7 +249,7 @@ void FeaturePane::showSymbol()
     m_name->setText(m_hasSymbol ? m_symbol.in(unit) : QString());
     m_name->setCursorPosition(0);
     m_name->setModified(false);
-    m_description->setText(m_hasSymbol ? Ext::describeSymbol(m_symbol.name(), m_symbol.unit())
+    m_description->setText(m_hasSymbol ? symbolText(m_symbol.name(), m_symbol.unit())
                            : several   ? tr("The features have several symbols, or none.")
                                        : QString());
     m_description->setStyleSheet({});
@@ -343,6 +348,16 @@ void FeaturePane::want(PadSymbol const & symbol)
     auto const & selected = m_view->selected();
     SymbolChange const change{m_view->step(), m_view->layer(), {selected.begin(), selected.end()}, symbol};
     QTimer::singleShot(0, this, [this, change] { emit changeWanted(change); });
+}
+
+QString FeaturePane::summary() const
+{
+    if (m_view->selected().size() != 1) {
+        return {};
+    }
+    QStringList parts = {m_heading->text(), m_description->text(), m_facts[NetRow].text->text()};
+    parts.removeAll(QString());
+    return parts.join(", ");
 }
 
 bool FeaturePane::beginEditing()

@@ -48,6 +48,8 @@ public:
 
     /// Shows the selection of a view.
     void showSelection(BoardView & view);
+    /// Says in one line what the selected feature is; empty unless it is one.
+    QString summary() const;
     /// Lets the user type: into the width, or the symbol if it has none. False, and nothing done, if nothing
     /// that has a symbol is selected.
     bool beginEditing();

@@ -57,7 +57,7 @@ void listSymbols(KVListWidget & list, std::string const & job, std::string const
         item->setItemUserData(symbol.name());
         item->setData(Qt::UserRole, unitCode(symbol.unit()));
         item->setItemIcon(isStandardSymbol(use.name, ownSymbols) ? standard : own, standard, own);
-        item->setToolTip(Ext::describeSymbol(symbol.name(), symbol.unit()));
+        item->setToolTip(symbolText(symbol.name(), symbol.unit()));
     }
 }
 

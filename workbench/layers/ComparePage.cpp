@@ -5,6 +5,7 @@
 #include "job/Session.h"
 #include "layers/CompareView.h"
 #include "ui/LanguageChange.h"
+#include "ui/LayerColours.h"
 #include "ui/TableTools.h"
 #include "ui/Units.h"
 
@@ -82,9 +83,7 @@ ComparePage::ComparePage(Session const & session, QWidget * parent)
             box->addItem(QString::fromStdString(layer.info.name));
         }
     }
-    if (m_second->count() > 1) {
-        m_second->setCurrentIndex(1);
-    }
+    chooseCopper();
     makeLayout();
     connect(m_look, &QTimer::timeout, this, [this] { m_progress->setValue(*m_percent); });
     connect(m_run, &QPushButton::clicked, this, &ComparePage::compare);
@@ -120,8 +119,7 @@ void ComparePage::makeLayout()
     sides->setChildrenCollapsible(false);
     sides->addWidget(m_view);
     sides->addWidget(side);
-    sides->setStretchFactor(0, 1);
-    sides->setSizes({620, 560});
+    sides->setSizes({620, 560}); // parts of any width
     auto * layout = new QVBoxLayout(this);
     layout->addLayout(tools);
     layout->addWidget(m_legend);
@@ -152,6 +150,18 @@ void ComparePage::setStep(std::string const & step)
     m_layers = nullptr;
     m_view->setLayers(nullptr);
     setState(State::Nothing);
+}
+
+// At first, the outer copper layers.
+void ComparePage::chooseCopper()
+{
+    QComboBox * next = m_first;
+    for (std::size_t i = 0; i < m_session.layers().size(); ++i) {
+        if (hasCopperType(m_session.layers()[i].info)) {
+            next->setCurrentIndex(static_cast<int>(i));
+            next = m_second;
+        }
+    }
 }
 
 void ComparePage::choose(QString const & first, QString const & second)

@@ -57,6 +57,7 @@ private:
         Done
     };
 
+    void chooseCopper();
     void makeLayout();
     void setTexts();
     std::shared_ptr<ComparedLayers const> read();

@@ -8,18 +8,14 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace Workbench {
 
 namespace {
 
-constexpr double zoomStep = 1.5;   // of a key
-constexpr double wheelStep = 1.25; // of one notch of the wheel
-constexpr double panStep = 0.1;    // of a key, in sizes of the view
-constexpr double around = 4;       // what is shown around a region, in its sizes
-constexpr double frameGap = 4;     // pixels between a region and its frame
+constexpr double around = 4;   // what is shown around a region, in its sizes
+constexpr double frameGap = 4; // pixels between a region and its frame
 
 } // namespace
 
@@ -114,7 +110,7 @@ void CompareView::resizeEvent(QResizeEvent * /*event*/)
 
 void CompareView::wheelEvent(QWheelEvent * event)
 {
-    m_port.zoomAbout(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
+    m_port.turn(event->position(), event->angleDelta().y());
     changePort();
     event->accept();
 }
@@ -133,31 +129,7 @@ void CompareView::mouseMoveEvent(QMouseEvent * event)
 
 void CompareView::keyPressEvent(QKeyEvent * event)
 {
-    QPointF const step(panStep * width(), panStep * height());
-    switch (event->key()) {
-    case Qt::Key_Left:
-        m_port.drag({step.x(), 0});
-        break;
-    case Qt::Key_Right:
-        m_port.drag({-step.x(), 0});
-        break;
-    case Qt::Key_Up:
-        m_port.drag({0, step.y()});
-        break;
-    case Qt::Key_Down:
-        m_port.drag({0, -step.y()});
-        break;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // the plus key without Shift on many keyboards
-        m_port.zoomAbout(QRectF(rect()).center(), zoomStep);
-        break;
-    case Qt::Key_Minus:
-        m_port.zoomAbout(QRectF(rect()).center(), 1 / zoomStep);
-        break;
-    case Qt::Key_Home:
-        m_port.home();
-        break;
-    default:
+    if (!m_port.press(event->key())) {
         return QWidget::keyPressEvent(event);
     }
     changePort();

@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <initializer_list>
@@ -68,6 +70,8 @@ FilterBar::FilterBar(Session const & session, QWidget * parent)
     , m_analysis(new QPushButton)
     , m_clear(new QPushButton)
     , m_count(new QLabel)
+    , m_more(new QToolButton)
+    , m_folded(new QWidget)
     , m_explanation(new QLabel)
 {
     static_assert(std::size(fields) == fieldCount);
@@ -75,6 +79,13 @@ FilterBar::FilterBar(Session const & session, QWidget * parent)
         m_names.push_back(layer.info.name);
     }
     makeLayout();
+    m_more->setObjectName("more filters");
+    m_more->setCheckable(true);
+    m_more->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(m_more, &QToolButton::toggled, this, [this](bool on) {
+        m_folded->setVisible(on);
+        m_more->setArrowType(on ? Qt::DownArrow : Qt::RightArrow);
+    });
     m_hides->setChecked(true);
     m_analysis->setObjectName("for analysis");
     m_analysis->setCheckable(true);
@@ -93,15 +104,37 @@ FilterBar::FilterBar(Session const & session, QWidget * parent)
 
 void FilterBar::makeLayout()
 {
-    auto * layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
     m_name->setObjectName("layer name");
     m_name->setClearButtonEnabled(true);
     m_nameTitle->setBuddy(m_name);
     connect(m_name, &QLineEdit::textChanged, this, &FilterBar::refresh);
-    layout->addWidget(m_nameTitle, 0, 0);
-    layout->addWidget(m_name, 0, 1);
-    layout->addWidget(m_count, 0, 2, 1, 2);
+    auto * head = new QHBoxLayout;
+    head->addWidget(m_nameTitle);
+    head->addWidget(m_name, 1);
+    head->addWidget(m_count);
+    head->addWidget(m_more);
+    auto * grid = new QGridLayout;
+    makeFields(*grid);
+    auto * buttons = new QHBoxLayout;
+    buttons->addWidget(m_analysis);
+    buttons->addWidget(m_clear);
+    buttons->addStretch(1);
+    buttons->addWidget(m_hides);
+    auto * folded = new QVBoxLayout(m_folded);
+    folded->setContentsMargins(0, 0, 0, 0);
+    folded->addLayout(grid);
+    folded->addLayout(buttons);
+    folded->addWidget(m_explanation);
+    auto * layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(head);
+    layout->addWidget(m_folded);
+    m_folded->hide();
+    m_more->setArrowType(Qt::RightArrow);
+}
+
+void FilterBar::makeFields(QGridLayout & layout)
+{
     for (std::size_t i = 0; i < fieldCount; ++i) {
         auto * words = new QComboBox;
         words->setObjectName(fields[i].key);
@@ -122,19 +155,12 @@ void FilterBar::makeLayout()
         m_words[i] = words;
         m_titles[i] = new QLabel;
         m_titles[i]->setBuddy(words);
-        int const row = 1 + static_cast<int>(i) / 2;
+        int const row = static_cast<int>(i) / 2;
         int const column = static_cast<int>(i) % 2 * 2;
-        layout->addWidget(m_titles[i], row, column);
-        layout->addWidget(words, row, column + 1);
-        layout->setColumnStretch(column + 1, 1);
+        layout.addWidget(m_titles[i], row, column);
+        layout.addWidget(words, row, column + 1);
+        layout.setColumnStretch(column + 1, 1);
     }
-    auto * buttons = new QHBoxLayout;
-    buttons->addWidget(m_analysis);
-    buttons->addWidget(m_clear);
-    buttons->addStretch(1);
-    buttons->addWidget(m_hides);
-    layout->addLayout(buttons, 3, 0, 1, -1);
-    layout->addWidget(m_explanation, 4, 0, 1, -1);
 }
 
 void FilterBar::setTexts()
@@ -150,6 +176,8 @@ void FilterBar::setTexts()
         m_words[i]->setToolTip(tr("Words separated by |; case matters. A | at the end adds the empty word, "
                                   "which accepts layers without a value here."));
     }
+    m_more->setText(tr("More"));
+    m_more->setToolTip(tr("More ways to choose layers, and why one is left out"));
     m_hides->setText(tr("Hi&de others"));
     m_hides->setToolTip(tr("Hides layers that do not match instead of greying them"));
     m_analysis->setText(tr("For analysis"));
@@ -176,6 +204,7 @@ void FilterBar::ask(QMap<QString, QString> const & request)
         QSignalBlocker const blocker(words);
         words->setEditText(request.value(words->objectName()));
     }
+    m_more->setChecked(m_more->isChecked() || !request.isEmpty());
     QSignalBlocker const blocker(m_name);
     m_name->clear();
     askForAnalysis(false);
@@ -195,6 +224,7 @@ void FilterBar::askForAnalysis(bool on)
 {
     QSignalBlocker const blocker(m_analysis);
     m_analysis->setChecked(on);
+    m_more->setChecked(m_more->isChecked() || on);
     for (QComboBox * words : m_words) {
         words->setEnabled(!on);
     }

@@ -13,14 +13,16 @@
 
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QToolButton;
 
 namespace Workbench {
 
 /// Filters the layers of a job by name, type, context, side and polarity, and explains why one is left out.
-/// An empty field accepts every layer.
+/// An empty field accepts every layer. All but the name is folded away until it is wanted.
 class FilterBar : public QWidget
 {
     Q_OBJECT
@@ -59,6 +61,7 @@ private:
     static constexpr std::size_t fieldCount = 4;
 
     void makeLayout();
+    void makeFields(QGridLayout & layout);
     void setTexts();
     void refresh();
     void showExplanation();
@@ -82,6 +85,8 @@ private:
     QPushButton * m_analysis;
     QPushButton * m_clear;
     QLabel * m_count;
+    QToolButton * m_more;
+    QWidget * m_folded;
     QLabel * m_explanation;
 };
 

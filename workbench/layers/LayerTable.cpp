@@ -19,6 +19,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <numeric>
 #include <utility>
@@ -32,6 +33,10 @@ namespace {
 constexpr int nameColumn = Ext::LayerModel::NameColumn;
 constexpr int contextColumn = Ext::LayerModel::ContextColumn;
 constexpr int countColumn = Ext::LayerModel::ColumnCount; // behind those of the model
+// What tells most comes first.
+constexpr std::array columnOrder = {
+    +Ext::LayerModel::RowColumn,     nameColumn, +Ext::LayerModel::TypeColumn, countColumn, contextColumn,
+    +Ext::LayerModel::PolarityColumn};
 
 bool isCopper(KVCAM::API::layer_info const & layer)
 {
@@ -43,11 +48,16 @@ bool isCopper(KVCAM::API::layer_info const & layer)
 LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
 {
     prepareTable(*this, {{}, {}, {}, {}, {}, {}});
+    setContextMenuPolicy(Qt::DefaultContextMenu); // the menu of a layer instead of the table's actions
     setTextsNowAndLater(*this, [this] { setTitles(); });
     setWordWrap(false);
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setSectionResizeMode(contextColumn, QHeaderView::Stretch); // names are read most
     horizontalHeader()->setSectionsClickable(true);
+    for (std::size_t place = 0; place < columnOrder.size(); ++place) {
+        horizontalHeader()->moveSection(horizontalHeader()->visualIndex(columnOrder.at(place)),
+                                        static_cast<int>(place));
+    }
     horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorShown(true);
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] { applyOrder(); });

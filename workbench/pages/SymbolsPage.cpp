@@ -36,7 +36,7 @@ SymbolRow symbolRow(KVCAM::Embedded::SymbolUse const & use)
     row.metric = row.unit != Unit::Inch
                      ? row.stored
                      : QString::fromStdString(getSymbolNameByUnit(mil.toStdString(), metric));
-    row.description = Ext::describeSymbol(row.stored, row.unit);
+    row.description = symbolText(row.stored, row.unit);
     return row;
 }
 

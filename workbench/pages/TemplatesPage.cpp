@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -87,6 +88,7 @@ TemplatesPage::TemplatesPage(QWidget * parent) : QWidget(parent)
 QWidget * TemplatesPage::makeEditor()
 {
     auto * editor = new QGroupBox;
+    m_editor = editor;
     setTextsNowAndLater(*editor, [editor] { editor->setTitle(tr("How the layers are recognised")); });
     auto const label = [](char const * text) {
         auto * widget = new QLabel;
@@ -105,6 +107,8 @@ QWidget * TemplatesPage::makeEditor()
         int const row = static_cast<int>(i) + 2;
         m_prefixes[i] = new QLineEdit;
         m_suffixes[i] = new QLineEdit;
+        m_prefixes[i]->setObjectName(Ext::autoMatrixRoles[i].key); // also for the form's state
+        m_suffixes[i]->setObjectName(m_prefixes[i]->objectName() + " end");
         grid->addWidget(new QLabel(Ext::autoMatrixRoles[i].key), row, 0);
         grid->addWidget(m_prefixes[i], row, 1);
         grid->addWidget(m_suffixes[i], row, 2);
@@ -130,8 +134,10 @@ QWidget * TemplatesPage::makeEditor()
     return editor;
 }
 
+// What was typed is saved by now, or of a template that is gone.
 void TemplatesPage::refreshList(int selectIndex)
 {
+    m_form.reset();
     m_list->setRowCount(0);
     for (auto const & [index, tmpl] : getAutoMatrixTmpMap()) {
         addRow(*m_list, {QString::number(index), QString::fromStdString(tmpl.name), {}});
@@ -159,6 +165,16 @@ int TemplatesPage::selectedIndex() const
 
 void TemplatesPage::showSelected()
 {
+    QPointer<TemplatesPage> const alive(this);
+    if (!mayLeave()) {
+        if (alive) {
+            QSignalBlocker const quiet(m_list);
+            m_list->selectRow(m_row);
+        }
+        return;
+    }
+    m_row = m_list->currentRow();
+    m_form.reset();
     auto const templates = getAutoMatrixTmpMap();
     auto const found = templates.find(selectedIndex());
     AutoMatrixTmp const tmpl = found == templates.end() ? AutoMatrixTmp() : found->second;
@@ -167,7 +183,20 @@ void TemplatesPage::showSelected()
         m_prefixes[i]->setText(QString::fromStdString(tmpl.*Ext::autoMatrixRoles[i].prefix));
         m_suffixes[i]->setText(QString::fromStdString(tmpl.*Ext::autoMatrixRoles[i].suffix));
     }
+    m_form = std::make_unique<Ext::FormState>(m_editor);
+    connect(m_form.get(), &Ext::FormState::changed, this, [this] { describeFile(selectedIndex()); });
     describeFile(selectedIndex());
+}
+
+// Another template takes the place of what was typed only if the user agrees.
+bool TemplatesPage::mayLeave()
+{
+    QPointer<TemplatesPage> const alive(this);
+    return m_form == nullptr || !m_form->isDirty() ||
+           (Ext::showMessage({Ext::MessageKind::Question, this, tr("Templates"),
+                              tr("The template \"%1\" was changed and is not saved. Discard the changes?")
+                                  .arg(m_name->text())}) == Ext::MessageAnswer::Yes &&
+            alive);
 }
 
 void TemplatesPage::describeFile(int index)
@@ -183,6 +212,9 @@ void TemplatesPage::describeFile(int index)
                  : tr("This template is a shipped one.");
         m_hint->setText(origin + ' ' +
                         tr("Save makes a copy of it under a new index; Delete lasts until the next start."));
+    }
+    if (m_form != nullptr && m_form->isDirty()) {
+        m_hint->setText(tr("Not saved yet.") + ' ' + m_hint->text());
     }
 }
 
@@ -206,7 +238,7 @@ AutoMatrixTmp TemplatesPage::edited() const
 void TemplatesPage::select()
 {
     setCurrentAutoMatrixTmp(edited());
-    refreshList(selectedIndex());
+    showCurrent(); // what is not saved stays as it was typed
 }
 
 void TemplatesPage::save()

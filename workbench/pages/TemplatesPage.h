@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 #include <optional>
 
 class QLabel;
@@ -15,8 +16,8 @@ class QTableWidget;
 namespace Workbench {
 
 /// The auto-matrix templates by index, and the 25 texts of the selected one, which can be made the current
-/// template, saved as a user template and deleted. Files are written and deleted only for templates that are
-/// alone in a user's file.
+/// template, saved as a user template and deleted. What was typed is not lost without a question. Files are
+/// written and deleted only for templates that are alone in a user's file.
 class TemplatesPage : public QWidget
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ private:
     void refreshList(int selectIndex);
     void showCurrent();
     void showSelected();
+    bool mayLeave();
     int selectedIndex() const;
     KVCAM::UIAPI::AutoMatrixTmp edited() const;
     void select();
@@ -46,6 +48,9 @@ private:
     QLabel * m_current;
     QLabel * m_hint = nullptr;
     QLineEdit * m_name = nullptr;
+    QWidget * m_editor = nullptr;
+    std::unique_ptr<KVCAM::UIAPI::Ext::FormState> m_form; ///< of what is shown since it was selected
+    int m_row = -1;                                       ///< that is shown
     std::array<QLineEdit *, KVCAM::UIAPI::Ext::autoMatrixRoles.size()> m_prefixes{};
     std::array<QLineEdit *, KVCAM::UIAPI::Ext::autoMatrixRoles.size()> m_suffixes{};
 };

@@ -325,6 +325,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     });
     Camera camera(commandLine.output);
     window.resize(1440, 900); // pictures do not depend on the screen
+    window.arrange();
     window.show();
     QJsonArray steps;
     for (std::size_t i = 0; i < session.steps().size(); ++i) {

@@ -28,18 +28,6 @@
         <translation>报告的文件名须以 %1 之一结尾，“%2”不是。</translation>
     </message>
     <message>
-        <source>Open the folder of a job</source>
-        <translation>打开任务文件夹</translation>
-    </message>
-    <message>
-        <source>Open an archive with a job</source>
-        <translation>打开任务压缩包</translation>
-    </message>
-    <message>
-        <source>Archives (*.tgz *.tar.gz *.tar *.zip);;All files (*)</source>
-        <translation>压缩包 (*.tgz *.tar.gz *.tar *.zip);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; already exists. Replace it?</source>
         <translation>文件“%1”已存在。是否替换？</translation>
     </message>
@@ -50,6 +38,18 @@
     <message>
         <source>&amp;Copy</source>
         <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open the folder or the archive of a board</source>
+        <translation>打开板的文件夹或压缩包</translation>
+    </message>
+    <message>
+        <source>Boards: folders and archives (*.tgz *.tar.gz *.tar *.zip)</source>
+        <translation>板：文件夹和压缩包 (*.tgz *.tar.gz *.tar *.zip)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
     </message>
 </context>
 <context>
@@ -754,6 +754,14 @@ to %2</source>
         <source>Parts of names separated by |, with * for any text and ? for any letter; case does not matter.</source>
         <translation>层名的一部分，多个以 | 分隔；* 代表任意文字，? 代表任意一个字符；不区分大小写。</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>More ways to choose layers, and why one is left out</source>
+        <translation>更多选择层的方式，以及某层被排除的原因</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::HotkeyCommands</name>
@@ -1313,14 +1321,6 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>检查失败：%1</translation>
     </message>
     <message>
-        <source>Open f&amp;older...</source>
-        <translation>打开文件夹(&amp;O)...</translation>
-    </message>
-    <message>
-        <source>Open &amp;archive...</source>
-        <translation>打开压缩包(&amp;A)...</translation>
-    </message>
-    <message>
         <source>&amp;Recent boards</source>
         <translation>最近的板(&amp;R)</translation>
     </message>
@@ -1335,6 +1335,10 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
     <message>
         <source>Previous violation</source>
         <translation>上一个违规</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
     </message>
 </context>
 <context>
@@ -1743,6 +1747,14 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <source>The file "%1" cannot be deleted.</source>
         <translation>文件“%1”无法删除。</translation>
     </message>
+    <message>
+        <source>The template &quot;%1&quot; was changed and is not saved. Discard the changes?</source>
+        <translation>模板“%1”已更改但尚未保存。要放弃更改吗？</translation>
+    </message>
+    <message>
+        <source>Not saved yet.</source>
+        <translation>尚未保存。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::LevelsEditor</name>
@@ -2038,20 +2050,16 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>打开一块板的任务，或将其文件夹或压缩包拖放到此窗口。</translation>
     </message>
     <message>
-        <source>Open &amp;folder...</source>
-        <translation>打开文件夹(&amp;F)...</translation>
-    </message>
-    <message>
-        <source>Open &amp;archive...</source>
-        <translation>打开压缩包(&amp;A)...</translation>
-    </message>
-    <message>
         <source>Open the &amp;sample board</source>
         <translation>打开示例板(&amp;S)</translation>
     </message>
     <message>
         <source>Opened lately:</source>
         <translation>最近打开：</translation>
+    </message>
+    <message>
+        <source>&amp;Open a board...</source>
+        <translation>打开板(&amp;O)...</translation>
     </message>
 </context>
 <context>
@@ -3859,6 +3867,230 @@ legal values: from %2 to %3</source>
     <message>
         <source>accepts nothing</source>
         <translation>未匹配</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>查找范围：</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>转到上级文件夹</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>以列表显示</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>显示详细信息</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>文件名(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>文件类型：</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>重命名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新建文件夹(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>显示隐藏文件(&amp;H)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 已存在。
+要替换它吗？</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+找不到文件。
+请检查文件名是否正确。</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>计算机</translation>
+    </message>
+</context>
+<context>
+    <name>QColorDialog</name>
+    <message>
+        <source>&amp;Basic colors</source>
+        <translation>基本颜色(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Custom colors</source>
+        <translation>自定义颜色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Custom Colors</source>
+        <translation>添加到自定义颜色(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Color</source>
+        <translation>从屏幕取色(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Hu&amp;e:</source>
+        <translation>色调(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;Sat:</source>
+        <translation>饱和度(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Val:</source>
+        <translation>亮度(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>红(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>绿(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ue:</source>
+        <translation>蓝(&amp;U)：</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
     </message>
 </context>
 </TS>

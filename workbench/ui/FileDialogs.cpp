@@ -6,10 +6,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QPointer>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QTimer>
 #include <QUrl>
 
+#include <memory>
 #include <utility>
 
 namespace Workbench {
@@ -82,34 +86,37 @@ void askForFile(QWidget & parent, QString const & title, QString const & proposa
     dialog->open();
 }
 
-namespace {
-
-void askForBoard(QWidget & parent, QFileDialog::FileMode mode, QString const & title, QString const & filter,
-                 std::function<void(QString const &)> take)
+void askForBoard(QWidget & parent, QString const & beside, std::function<void(QString const &)> take)
 {
-    auto * dialog = new QFileDialog(&parent, title, QString(), filter);
+    auto const isBoard = [](QString const & folder) { return QFileInfo::exists(folder + "/matrix/matrix"); };
+    auto * dialog = new KVFileDialog(&parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(mode);
-    dialog->setOption(QFileDialog::ShowDirsOnly, mode == QFileDialog::Directory);
-    QObject::connect(dialog, &QFileDialog::fileSelected, &parent, std::move(take));
+    dialog->setWindowTitle(
+        QCoreApplication::translate("Workbench", "Open the folder or the archive of a board"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({QCoreApplication::translate(
+                                "Workbench", "Boards: folders and archives (*.tgz *.tar.gz *.tar *.zip)"),
+                            QCoreApplication::translate("Workbench", "All files (*)")});
+    dialog->setDirectory(QFileInfo(beside).absolutePath());
+    if (auto * all = dialog->findChild<QPushButton *>("m_ChooseAllPB")) {
+        all->hide(); // one board is shown at a time
+    }
+    auto const entered = std::make_shared<QString>();
+    QObject::connect(dialog->findChild<QFileSystemModel *>(), &QFileSystemModel::rootPathChanged, dialog,
+                     [dialog, isBoard, entered](QString const & folder) {
+                         if (isBoard(folder)) {
+                             *entered = folder;
+                             QTimer::singleShot(0, dialog,
+                                                &KVFileDialog::onChoice); // Qt is still entering it
+                         }
+                     });
+    QObject::connect(
+        dialog, &QDialog::accepted, &parent, [&parent, dialog, isBoard, entered, take = std::move(take)] {
+            QString const path = entered->isEmpty() ? dialog->selectedFiles().value(0) : *entered;
+            bool const isOther = QFileInfo(path).isDir() && !isBoard(path);
+            isOther ? askForBoard(parent, path + '/', take) : take(path);
+        });
     dialog->open();
-}
-
-} // namespace
-
-void askForBoardFolder(QWidget & parent, std::function<void(QString const &)> take)
-{
-    askForBoard(parent, QFileDialog::Directory,
-                QCoreApplication::translate("Workbench", "Open the folder of a job"), {}, std::move(take));
-}
-
-void askForBoardArchive(QWidget & parent, std::function<void(QString const &)> take)
-{
-    askForBoard(
-        parent, QFileDialog::ExistingFile,
-        QCoreApplication::translate("Workbench", "Open an archive with a job"),
-        QCoreApplication::translate("Workbench", "Archives (*.tgz *.tar.gz *.tar *.zip);;All files (*)"),
-        std::move(take));
 }
 
 } // namespace Workbench

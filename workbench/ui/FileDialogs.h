@@ -20,10 +20,8 @@ QString fileLinks(QString const & path);
 void askForFile(QWidget & parent, QString const & title, QString const & proposal, QString const & filter,
                 std::function<void(QString const &)> take);
 
-///@{
-/// Opens a dialog for a board to open, a folder or an archive, likewise.
-void askForBoardFolder(QWidget & parent, std::function<void(QString const &)> take);
-void askForBoardArchive(QWidget & parent, std::function<void(QString const &)> take);
-///@}
+/// Opens a dialog for a board to open, a folder or an archive, likewise. It begins where `beside` is. A
+/// folder that holds a board is taken rather than entered, whichever way the user goes into it.
+void askForBoard(QWidget & parent, QString const & beside, std::function<void(QString const &)> take);
 
 } // namespace Workbench

@@ -36,6 +36,16 @@ std::vector<int> placeOf(QModelIndex const & row)
     return place;
 }
 
+// A row within others is told with them: "Lines / top / 1".
+QString cellText(QModelIndex const & cell)
+{
+    QString text = cell.data().toString();
+    for (QModelIndex up = cell.parent(); cell.column() == 0 && up.isValid(); up = up.parent()) {
+        text.prepend(up.data().toString() + " / ");
+    }
+    return text;
+}
+
 QModelIndexList selectedCells(QAbstractItemView const & view)
 {
     QModelIndexList cells =
@@ -85,7 +95,7 @@ QString copyText(QAbstractItemView const & view)
     for (QModelIndex const & cell : selectedCells(view)) {
         int const column = header != nullptr ? header->visualIndex(cell.column()) : cell.column();
         if (header == nullptr || !header->isSectionHidden(cell.column())) {
-            lines[placeOf(cell)][column] = cell.data().toString().replace(breaks, " ");
+            lines[placeOf(cell)][column] = cellText(cell).replace(breaks, " ");
         }
     }
     QStringList texts;

@@ -3,6 +3,7 @@
 #include <UIAPICommon.h>
 #include <UIAPICommonExt.h>
 
+#include <QRegularExpression>
 #include <QString>
 
 namespace Workbench {
@@ -27,6 +28,13 @@ inline QString unitName(void const * view, int kind)
 {
     QString const name = QString::fromStdString(KVCAM::UIAPI::getUnitStringType(view, kind));
     return name == "my" ? QString::fromUtf8("µm") : name;
+}
+
+/// A symbol in words on the screen: the library's, likewise.
+inline QString symbolText(QString const & name, Unit unit)
+{
+    static QRegularExpression const micrometres(R"((?<=\d) my\b)");
+    return KVCAM::UIAPI::Ext::describeSymbol(name, unit).replace(micrometres, QString::fromUtf8(" µm"));
 }
 
 /// The length of a small unit.

@@ -143,25 +143,33 @@ void BoardPage::makeLayout(LogLines const & log)
     layout->addWidget(m_outline);
     layout->addWidget(m_steps, 1);
 
-    auto * sides = new QSplitter(Qt::Horizontal);
-    sides->setObjectName("sides");
-    sides->addWidget(
+    m_sides = new QSplitter(Qt::Horizontal);
+    m_sides->setObjectName("sides");
+    m_sides->addWidget(
         new Pane("layers", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Layers"), makeLayerPane()));
-    sides->addWidget(middle);
-    sides->addWidget(makeRightPanes());
-    sides->setCollapsible(1, false); // the board
-    sides->setStretchFactor(1, 1);
-    sides->setSizes({560, 640, 240});
+    m_sides->addWidget(middle);
+    m_sides->addWidget(makeRightPanes());
+    m_sides->setCollapsible(1, false); // the board
+    m_sides->setStretchFactor(1, 1);
 
-    addWidget(sides);
+    addWidget(m_sides);
     auto * lines = new LogPane(log);
-    addWidget(new Pane("log", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Log"), lines));
+    m_logPane = new Pane("log", QT_TRANSLATE_NOOP("Workbench::MainWindow", "Log"), lines);
+    addWidget(m_logPane);
     for (QWidget * list : {static_cast<QWidget *>(lines), static_cast<QWidget *>(m_layers)}) {
         list->setMinimumHeight(2 * fontMetrics().lineSpacing()); // on a small screen; both scroll
     }
     setCollapsible(0, false);
     setStretchFactor(0, 1);
     setSizes({760, 96});
+}
+
+void BoardPage::arrange(FirstPanes const & panes)
+{
+    m_featurePane->setOpen(panes.hasFeature);
+    m_logPane->setOpen(panes.hasLog);
+    int const right = m_sides->widget(2)->isVisibleTo(m_sides) ? panes.feature : 0;
+    m_sides->setSizes({panes.layers, window()->width() - panes.layers - right, panes.feature});
 }
 
 QWidget * BoardPage::makeLayerPane()

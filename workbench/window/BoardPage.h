@@ -3,6 +3,7 @@
 #include "board/BoardSigns.h"
 #include "job/Session.h"
 #include "ui/Units.h"
+#include "window/WindowState.h"
 
 #include <QList>
 #include <QSplitter>
@@ -43,6 +44,8 @@ public:
     BoardView * currentView() const;
     /// Shows lengths in a unit, also in views that are yet to be made.
     void setUnit(Unit unit);
+    /// Divides a page that has no saved state.
+    void arrange(FirstPanes const & panes);
     /// What can be closed and opened again, as checkable actions for a menu.
     QList<QAction *> paneActions() const;
     /// The session's step in front.
@@ -112,6 +115,8 @@ private:
     EnginePane * m_engine;
     FeaturePane * m_feature;
     Pane * m_featurePane = nullptr;
+    Pane * m_logPane = nullptr;
+    QSplitter * m_sides = nullptr;
 };
 
 } // namespace Workbench

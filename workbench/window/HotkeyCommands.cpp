@@ -1,6 +1,7 @@
 #include "window/HotkeyCommands.h"
 
 #include "board/BoardView.h"
+#include "feature/FeaturePane.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
 #include "window/Measuring.h"
@@ -255,7 +256,9 @@ QString HotkeyCommands::undo(int /*argument*/)
 
 QString HotkeyCommands::selectionText() const
 {
-    return tr("selected features: %1").arg(m_board.currentView()->selected().size());
+    QString const count = tr("selected features: %1").arg(m_board.currentView()->selected().size());
+    QString const summary = m_board.feature().summary();
+    return summary.isEmpty() ? count : count + "   |   " + summary;
 }
 
 QString HotkeyCommands::selectAll(int /*argument*/)

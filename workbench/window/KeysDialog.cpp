@@ -6,6 +6,7 @@
 #include "ui/TableTools.h"
 #include "window/HotkeyCommands.h"
 #include "window/KeyField.h"
+#include "window/WindowState.h"
 
 #include <UIAPICommon.h>
 
@@ -15,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -44,7 +46,7 @@ KeysDialog::KeysDialog(QWidget * parent)
     , m_file(new QLabel)
     , m_hint(new QLabel)
 {
-    resize(760, 600);
+    resize(firstWindowSize(screen()->availableSize()).boundedTo({760, 600}));
     m_findings->setObjectName("findings");
     m_file->setObjectName("file");
     m_file->setWordWrap(true);
@@ -62,6 +64,7 @@ KeysDialog::KeysDialog(QWidget * parent)
     layout->addWidget(m_tabs, 1);
     layout->addWidget(m_hint);
     makeButtons();
+    m_search->setFocus();
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 

@@ -8,18 +8,13 @@
 #include "layers/ReferencesPage.h"
 #include "pages/AttributesPage.h"
 #include "pages/EdaPage.h"
-#include "pages/EdaPortLabel.h"
 #include "pages/SettingsPage.h"
 #include "pages/SymbolsPage.h"
 #include "pages/TemplatesPage.h"
-#include "ui/BoardDrop.h"
-#include "ui/FileDialogs.h"
 #include "ui/LanguageChange.h"
-#include "ui/ToolTips.h"
 #include "ui/Units.h"
 #include "window/BoardPage.h"
 #include "window/Comparison.h"
-#include "window/EditMenu.h"
 #include "window/HotkeyCommands.h"
 #include "window/KeysDialog.h"
 #include "window/WindowState.h"
@@ -32,21 +27,14 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDir>
 #include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
-#include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTimer>
-#include <QToolBar>
-#include <QToolButton>
 
 #include <cmath>
-#include <utility>
 
 namespace Workbench {
 
@@ -63,6 +51,7 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
     setCentralWidget(m_pages);
     addPage(m_board, "board", QT_TR_NOOP("&Board"));
     addPages();
+    arrange();
     m_saveAs = new SaveAs(session, *this);
     connect(m_saveAs, &SaveAs::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::refreshed, m_saveAs, &SaveAs::showState);
@@ -82,40 +71,9 @@ MainWindow::MainWindow(Session & session, LogLines const & log, CommandLine cons
     setTextsNowAndLater(*this, [this] { setTexts(); });
 }
 
-void MainWindow::makeToolBar()
+void MainWindow::arrange()
 {
-    m_bar = addToolBar(QString());
-    m_bar->setObjectName("tools");
-    m_bar->setMovable(false);
-    m_bar->toggleViewAction()->setVisible(false);
-    m_unit = m_bar->addAction(QString());
-    m_unit->setShortcut(Qt::Key_F5);
-    connect(m_unit, &QAction::triggered, this, [this] { switchUnit(m_board->currentView()->handle()); });
-    m_saveFlag = m_bar->addAction(QString());
-    m_saveFlag->setCheckable(true);
-    connect(m_saveFlag, &QAction::toggled, this, &MainWindow::switchSaveFlag);
-    m_feature = m_bar->addAction(QString());
-    m_feature->setShortcut(Qt::Key_F4);
-    connect(m_feature, &QAction::triggered, this, [this] { m_board->openFeature(); });
-    m_language = new QComboBox;
-    m_language->addItem("English", static_cast<int>(LANGUAGE_ENGLISH));
-    m_language->addItem(QString::fromUtf8("简体中文"), static_cast<int>(LANGUAGE_CHINESE));
-    connect(m_language, QOverload<int>::of(&QComboBox::activated), this,
-            [this] { setLanguage(static_cast<LANGUAGE_MODE>(m_language->currentData().toInt())); });
-    m_bar->addSeparator();
-    m_bar->addWidget(m_language);
-    for (auto * button : m_bar->findChildren<QToolButton *>()) {
-        button->setAutoRaise(false);
-    }
-    setTextsNowAndLater(*m_bar, [this] {
-        m_bar->setWindowTitle(tr("View"));
-        m_unit->setToolTip(withKeys(tr("Switches the unit of the shown step's view"), m_unit->shortcut()));
-        m_saveFlag->setText(tr("&Save flag"));
-        m_saveFlag->setToolTip(tr("Makes the engine also write what it is told to %1").arg(m_database));
-        m_feature->setText(tr("&Feature"));
-        m_feature->setToolTip(withKeys(tr("Changes the selected features"), m_feature->shortcut()));
-        m_language->setToolTip(tr("Language of all texts"));
-    });
+    m_board->arrange(firstPanes(size(), {fontMetrics().averageCharWidth(), fontMetrics().lineSpacing()}));
 }
 
 // The title is given untranslated; the mnemonic in it brings the page to the front.
@@ -128,6 +86,9 @@ void MainWindow::addPage(QWidget * page, QString const & name, char const * titl
         area->setFrameShape(QFrame::NoFrame);
         area->setWidgetResizable(true);
         area->setWidget(page);
+        for (QWidget * plain : {area->viewport(), page}) {
+            plain->setAutoFillBackground(false); // that of the tabs
+        }
         tab = area;
     }
     int const index = m_pages->addTab(tab, QString());
@@ -167,131 +128,6 @@ void MainWindow::addResults()
     connect(m_results, &ResultsPage::boardWanted, this, [this] {
         showPage("board");
         m_board->currentView()->setFocus();
-    });
-}
-
-// The shortcuts are function keys: letters with and without Ctrl belong to the table of hot keys.
-void MainWindow::makeMenus()
-{
-    makeFileMenu();
-    auto * edit = new EditMenu(*m_board, *m_commands);
-    edit->setParent(menuBar(), edit->windowFlags());
-    menuBar()->addMenu(edit);
-    makeViewMenu();
-    makeHelpMenu();
-}
-
-void MainWindow::makeFileMenu()
-{
-    // The window is deleted after the menu's entry is left.
-    auto const want = [this](QString const & path) {
-        QTimer::singleShot(0, this, [this, path] { emit boardWanted(path); });
-    };
-    QMenu * file = addMenu(QT_TR_NOOP("&File"));
-    addEntry(*file, QT_TR_NOOP("Open f&older..."), "F2", [this, want] { askForBoardFolder(*this, want); });
-    addEntry(*file, QT_TR_NOOP("Open &archive..."), "F3", [this, want] { askForBoardArchive(*this, want); });
-    m_recent = file->addMenu(QString());
-    connect(m_recent, &QMenu::triggered, this,
-            [want](QAction const * action) { want(action->data().toString()); });
-    setTextsNowAndLater(*file, [this] { m_recent->setTitle(tr("&Recent boards")); });
-    addEntry(*file, QT_TR_NOOP("Save &as..."), "Ctrl+Shift+S", [this] { m_saveAs->ask(); });
-    file->addSeparator();
-    file->addAction(m_feature);
-    file->addAction(m_saveFlag);
-    file->addSeparator();
-    addEntry(*file, QT_TR_NOOP("&Quit"), "", [this] { close(); });
-    setRecentBoards({});
-    new BoardDrop(*this, [this](QString const & path) { emit boardWanted(path); });
-}
-
-void MainWindow::setRecentBoards(QStringList const & paths)
-{
-    m_recent->clear();
-    for (QString const & path : paths) {
-        m_recent->addAction(QDir::toNativeSeparators(path).replace('&', "&&"))->setData(path);
-    }
-    m_recent->setEnabled(!paths.isEmpty());
-}
-
-QMenu * MainWindow::addMenu(char const * title)
-{
-    QMenu * menu = menuBar()->addMenu(QString());
-    setTextsNowAndLater(*menu, [menu, title] { menu->setTitle(tr(title)); });
-    return menu;
-}
-
-void MainWindow::addEntry(QMenu & menu, char const * text, char const * key, std::function<void()> act)
-{
-    QAction * action = menu.addAction(QString());
-    action->setShortcut(QKeySequence(QString::fromLatin1(key)));
-    connect(action, &QAction::triggered, this, std::move(act));
-    setTextsNowAndLater(menu, [action, text] { action->setText(tr(text)); });
-}
-
-void MainWindow::makeViewMenu()
-{
-    QMenu * view = addMenu(QT_TR_NOOP("&View"));
-    view->addAction(m_unit);
-    view->addSeparator();
-    auto const addZoom = [&](char const * text, char const * key, void (BoardView::*zoom)()) {
-        addEntry(*view, text, key, [this, zoom] { (m_board->currentView()->*zoom)(); });
-    };
-    addZoom(QT_TR_NOOP("&Whole board"), "F6", &BoardView::zoomHome);
-    addZoom(QT_TR_NOOP("&All features"), "F9", &BoardView::zoomFit);
-    addZoom(QT_TR_NOOP("Zoom &out"), "F7", &BoardView::zoomOut);
-    addZoom(QT_TR_NOOP("Zoom &in"), "F8", &BoardView::zoomIn);
-    view->addSeparator();
-    addEntry(*view, QT_TR_NOOP("Next &violation"), "F12", [this] { m_results->showViolation(1); });
-    addEntry(*view, QT_TR_NOOP("Previous violation"), "Shift+F12", [this] { m_results->showViolation(-1); });
-    addEntry(*view, QT_TR_NOOP("&Tick all layers"), "", [this] { m_board->tickAllLayers(true); });
-    addEntry(*view, QT_TR_NOOP("U&ntick all layers"), "", [this] { m_board->tickAllLayers(false); });
-    view->addSeparator();
-    m_pageMenu = view->addMenu(QString());
-    connect(m_pageMenu, &QMenu::aboutToShow, this, &MainWindow::listPages);
-    QMenu * panes = view->addMenu(QString());
-    panes->addActions(m_board->paneActions());
-    QMenu * language = view->addMenu(QString());
-    language->addAction("&English", this, [this] { setLanguage(LANGUAGE_ENGLISH); });
-    language->addAction(QString::fromUtf8("&简体中文"), this, [this] { setLanguage(LANGUAGE_CHINESE); });
-    setTextsNowAndLater(*view, [this, language, panes] {
-        panes->setTitle(tr("Pan&es"));
-        m_pageMenu->setTitle(tr("&Page"));
-        language->setTitle(tr("&Language"));
-    });
-}
-
-void MainWindow::makeHelpMenu()
-{
-    QMenu * help = addMenu(QT_TR_NOOP("&Help"));
-    addEntry(*help, QT_TR_NOOP("&Hot keys"), "F1", [this] { showKeys(); });
-    addEntry(*help, QT_TR_NOOP("&Using the board picture"), "", [this] { showHelp(); });
-    addEntry(*help, QT_TR_NOOP("&About"), "", [this] { showAbout(); });
-}
-
-void MainWindow::makeStatusBar()
-{
-    m_status = new QLabel;
-    m_status->setObjectName("hot keys");
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // texts may be long
-    m_pointer = new QLabel;
-    m_zoom = new QLabel;
-    statusBar()->addWidget(m_status, 1); // all except what the others need
-    statusBar()->addWidget(m_pointer);
-    statusBar()->addPermanentWidget(makeEdaPortLabel());
-    statusBar()->addPermanentWidget(m_zoom);
-    auto * folder = new QLabel(m_session.directory());
-    folder->setToolTip(folder->text());
-    statusBar()->addPermanentWidget(folder);
-    for (QLabel * label : {m_pointer, folder}) {
-        label->setMinimumWidth(1); // must not widen the window
-    }
-    connect(m_commands, &HotkeyCommands::status, this, &MainWindow::showStatus);
-    connect(m_board, &BoardPage::status, this, &MainWindow::showStatus);
-    connect(m_results, &ResultsPage::status, this, &MainWindow::showStatus);
-    connect(m_board, &BoardPage::portChanged, this, &MainWindow::showZoom);
-    connect(m_board, &BoardPage::pointerMoved, this, [this] {
-        m_hasPointed = true;
-        showPointer();
     });
 }
 

@@ -46,6 +46,8 @@ public:
     /// Restores the window's state from a file, and saves it there when the window is closed. With
     /// `keepsUnit` the views keep their unit.
     void useStateFile(QString const & file, bool keepsUnit);
+    /// Divides the page of the board as a window of this size does at first.
+    void arrange();
     /// Offers these boards in the menu.
     void setRecentBoards(QStringList const & paths);
     SaveAs & saveAs() const { return *m_saveAs; }

@@ -20,8 +20,7 @@ StartPage::StartPage(QStringList const & recent)
     auto * layout = new QVBoxLayout(this);
     auto * hint = new QLabel;
     hint->setWordWrap(true);
-    auto * folder = new QPushButton;
-    auto * archive = new QPushButton;
+    auto * open = new QPushButton;
     auto * sample = new QPushButton;
     auto * title = new QLabel;
     auto * boards = new QListWidget;
@@ -31,8 +30,8 @@ StartPage::StartPage(QStringList const & recent)
         item->setData(Qt::UserRole, path);
     }
     for (QWidget * part :
-         {static_cast<QWidget *>(hint), static_cast<QWidget *>(folder), static_cast<QWidget *>(archive),
-          static_cast<QWidget *>(sample), static_cast<QWidget *>(title), static_cast<QWidget *>(boards)}) {
+         {static_cast<QWidget *>(hint), static_cast<QWidget *>(open), static_cast<QWidget *>(sample),
+          static_cast<QWidget *>(title), static_cast<QWidget *>(boards)}) {
         layout->addWidget(part);
     }
     title->setVisible(!recent.isEmpty());
@@ -40,17 +39,16 @@ StartPage::StartPage(QStringList const & recent)
     if (recent.isEmpty()) {
         layout->addStretch();
     }
-    connect(folder, &QPushButton::clicked, this, [this, want] { askForBoardFolder(*this, want); });
-    connect(archive, &QPushButton::clicked, this, [this, want] { askForBoardArchive(*this, want); });
+    connect(open, &QPushButton::clicked, this,
+            [this, want, beside = recent.value(0, "./")] { askForBoard(*this, beside, want); });
     connect(sample, &QPushButton::clicked, this, [want] { want(samplesDirectory() + "/jobs/demo-board"); });
     connect(boards, &QListWidget::itemActivated, this,
             [want](QListWidgetItem const * item) { want(item->data(Qt::UserRole).toString()); });
     new BoardDrop(*this, want);
-    setTextsNowAndLater(*this, [this, hint, folder, archive, sample, title] {
+    setTextsNowAndLater(*this, [this, hint, open, sample, title] {
         setWindowTitle(tr("UIAPICommon workbench"));
         hint->setText(tr("Open the job of a board, or drop its folder or archive onto this window."));
-        folder->setText(tr("Open &folder..."));
-        archive->setText(tr("Open &archive..."));
+        open->setText(tr("&Open a board..."));
         sample->setText(tr("Open the &sample board"));
         title->setText(tr("Opened lately:"));
     });

@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QSplitter>
 
+#include <algorithm>
+
 namespace Workbench {
 
 namespace {
@@ -32,6 +34,12 @@ QString paneKey(Pane const & pane)
 QSize firstWindowSize(QSize available)
 {
     return QSize(1440, 900).boundedTo(available - QSize(16, 48));
+}
+
+FirstPanes firstPanes(QSize window, QSize letter)
+{
+    return {std::min(window.width() * 3 / 8, 66 * letter.width()), 40 * letter.width(),
+            window.width() >= 170 * letter.width(), window.height() >= 50 * letter.height()};
 }
 
 std::optional<WindowChoices> savedChoices(QString const & file)

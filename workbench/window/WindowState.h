@@ -22,6 +22,18 @@ struct WindowChoices
 /// The size of a window that has none saved: within the screen, with room for a frame and a title.
 QSize firstWindowSize(QSize available);
 
+/// How a window without a saved state divides the page of the board, which gets the most.
+struct FirstPanes
+{
+    int layers;  ///< width
+    int feature; ///< width
+    bool hasFeature;
+    bool hasLog;
+};
+
+/// For a window of a size. `letter` is the size of an average letter of its font.
+FirstPanes firstPanes(QSize window, QSize letter);
+
 /// The choices that were saved in a file, if any.
 std::optional<WindowChoices> savedChoices(QString const & file);
 /// Restores the window, its named splitters and its panes from a file, each as far as the file is valid: a
