@@ -345,7 +345,8 @@ QVariant ReportModel::data(QModelIndex const & index, int role) const
         return text(index);
     case Qt::ToolTipRole:
         if (isWaived) {
-            return tr("waived: %1").arg(QString::fromStdString(report()->waivers().at(*entry->waiver).reason));
+            return tr("waived: %1")
+                .arg(QString::fromStdString(report()->waivers().at(*entry->waiver).reason));
         }
         return isSign ? severityName(worst) : text(index);
     case Qt::TextAlignmentRole: {

@@ -37,8 +37,8 @@ public:
     {
         SortRole = Qt::UserRole, ///< of the column: a number, or a text for comparing in which digits count
                                  ///< as numbers ("l2" before "l10") and case does not count
-        RowRole,  ///< int, the number of the row in the matrix
-        NameRole, ///< QString, as the next three
+        RowRole,                 ///< int, the number of the row in the matrix
+        NameRole,                ///< QString, as the next three
         ContextRole,
         TypeRole,
         PolarityRole,
