@@ -51,12 +51,12 @@ using ChangeCounts = std::array<std::size_t, changeCount>;
 /// One violation of either report.
 struct ReportChange
 {
-    Change change = Change::Unchanged;
-    std::string table; ///< as in ReportCategory
-    int number = 0;    ///< as in ReportCategory
-    std::string name;  ///< of the category
-    std::string layer; ///< name, UTF-8
-    std::string id;    ///< see violationId(); in the later report, or in the earlier one if it is only there
+    Change change = Change::Unchanged; ///< what became of it
+    std::string table;                 ///< as in ReportCategory
+    int number = 0;                    ///< as in ReportCategory
+    std::string name;                  ///< of the category
+    std::string layer;                 ///< name, UTF-8
+    std::string id; ///< see violationId(); in the later report, or in the earlier one if it is only there
     std::optional<Length> before;             ///< measured in the earlier report
     std::optional<Length> after;              ///< measured in the later report
     Severity severityBefore = Severity::None; ///< in the earlier report; None if it is not there
