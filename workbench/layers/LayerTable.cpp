@@ -51,8 +51,7 @@ LayerTable::LayerTable(QWidget * parent) : QTableWidget(parent)
     setContextMenuPolicy(Qt::DefaultContextMenu); // the menu of a layer instead of the table's actions
     setTextsNowAndLater(*this, [this] { setTitles(); });
     setWordWrap(false);
-    horizontalHeader()->setStretchLastSection(false);
-    horizontalHeader()->setSectionResizeMode(contextColumn, QHeaderView::Stretch); // names are read most
+    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSectionsClickable(true);
     for (std::size_t place = 0; place < columnOrder.size(); ++place) {
         horizontalHeader()->moveSection(horizontalHeader()->visualIndex(columnOrder.at(place)),
