@@ -46,7 +46,7 @@ ResultsPage::ResultsPage(Session const & session, BoardView & view, QWidget * pa
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(makeResults());
     splitter->addWidget(makeSides());
-    splitter->setSizes({1000, 440}); // parts of any width
+    splitter->setSizes({1110, 370}); // parts of any width
 
     auto * layout = new QVBoxLayout(this);
     layout->addWidget(makeButtons());

@@ -21,7 +21,7 @@ ResultsTree::ResultsTree(Ext::ReportModel & model, QWidget * parent)
     setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);
     setModel(&m_filter);
-    header()->setStretchLastSection(true);
+    header()->setStretchLastSection(false); // it would be cut instead of scrolled to
     header()->setSortIndicator(-1, Qt::AscendingOrder); // the report's own order
     setSortingEnabled(true);
     offerCopy(*this);
@@ -74,7 +74,7 @@ bool ResultsTree::showViolation(int way)
 
 void ResultsTree::fitColumns()
 {
-    for (int column = 0; column + 1 < Ext::ReportModel::ColumnCount; ++column) {
+    for (int column = 0; column < Ext::ReportModel::ColumnCount; ++column) {
         resizeColumnToContents(column);
         setColumnWidth(column, columnWidth(column) + columnGap);
     }
