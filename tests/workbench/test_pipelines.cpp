@@ -190,11 +190,11 @@ TEST_F(Pipelines, ChecksNeedNoWindowSystemAndAskNothing)
     writeFile("levels/server.json", "[");
     writeFile("levels/ranges/all/DrillRanges.json", "{");
     qputenv("QT_QPA_PLATFORM", "nonsense");
-    ProgramResult const result =
-        check({"red", "--summary", "sum.json", "--report", "red.csv", "--report", "red.html"});
+    ProgramResult const result = check(
+        {"red", "--summary", "sum.json", "--report", "red.csv", "--report", "red.html", "--language", "zh"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     EXPECT_TRUE(readFile("sum.json").contains("minTrackWidth"));
-    EXPECT_TRUE(readFile("red.html").contains("Lines")) << "without pictures, which need fonts";
+    EXPECT_TRUE(readFile("red.html").contains("<h1>分析报告</h1>")) << "without pictures, which need fonts";
     EXPECT_FALSE(result.err.contains('\r')) << "progress is for terminals only";
     EXPECT_EQ(runProgram({"--checks-only", "--help"}).exitCode, 0);
 }

@@ -58,6 +58,7 @@ TEST(Workbench, WrongInputPrintsOneLineAndExitsWithTwo)
         {{"cut.tgz", "--headless"}, "cut.tgz: "},
         {{"--headless"}, "no job given"},
         {{sampleJob, "--headless", "--unit", "furlong"}, "furlong"},
+        {{sampleJob, "--headless", "--language", "fr"}, "fr"},
         {{sampleJob, "--headless", "--wings"}, "wings"},
         {{sampleJob, "--headless", "--step", "attic"}, "no step \"attic\""},
         {{sampleJob, "--headless", "--report", "report.txt"}, "report.txt"},

@@ -2,6 +2,7 @@
 
 #include "checks/ResultsPage.h"
 #include "job/ReportFormat.h"
+#include "ui/LanguageChange.h"
 
 #include <analysis/ReportReader.h>
 
@@ -36,8 +37,16 @@ WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLi
     if (!commandLine.baseline.isEmpty() && Ext::readReport(commandLine.baseline, baseline)) {
         choices.baseline = &baseline; // why one cannot be read is said when the run is judged
     }
+    bool const isChinese = getCurrentLanguageMode() == LANGUAGE_CHINESE;
+    bool const writesChinese = commandLine.reportsInChinese.value_or(isChinese);
+    if (writesChinese != isChinese && !showChinese(writesChinese)) {
+        results.errors.append("there are no texts in this language");
+    }
     for (QString const & report : reports) {
         note(report, run.writeReport(report, choices));
+    }
+    if (writesChinese != isChinese) {
+        showChinese(isChinese);
     }
     return results;
 }

@@ -27,12 +27,13 @@ struct Option
     char const * value = "";    ///< empty: the option takes none
     char const * standard = ""; ///< without the option
 };
-constexpr std::array<Option, 16> options{{
+constexpr std::array<Option, 17> options{{
     {"headless", "Open no window: print the facts of the job as JSON and write screenshots."},
     {"checks-only", "Only run the checks, without any window system, and print a table of the boards."},
     {"config", "Start from this configuration directory.", "DIR"},
     {"output", "Where files are written (default: the current directory).", "DIR", "."},
     {"unit", "Unit in which the views start: inch or mm.", "inch|mm", "inch"},
+    {"language", "Language of HTML reports (default: the window's; English without a window).", "en|zh"},
     {"save-flag", "Start with the engine's save flag on."},
     {"step", "Show this step first, and check it (default: the job's first).", "NAME"},
     {"summary", "Run the checks on the step and write their summary.", "FILE"},
@@ -170,6 +171,19 @@ QString readNumbers(QCommandLineParser const & parser, CommandLine & commandLine
     return {};
 }
 
+QString readLanguage(QCommandLineParser const & parser, CommandLine & commandLine)
+{
+    if (!parser.isSet("language")) {
+        return {};
+    }
+    QString const language = parser.value("language");
+    if (language != "en" && language != "zh") {
+        return "the language is en or zh, not \"" + language + '"';
+    }
+    commandLine.reportsInChinese = language == "zh";
+    return {};
+}
+
 QString readFailOn(QCommandLineParser const & parser, CommandLine & commandLine)
 {
     commandLine.failOnNew = parser.isSet("fail-on-new");
@@ -237,7 +251,7 @@ ParsedArguments parseArguments(QStringList const & arguments)
     commandLine.json = parser.isSet("json");
     commandLine.saveFlag = parser.isSet("save-flag");
     commandLine.step = parser.value("step");
-    for (auto const read : {readJobs, readFiles, readNumbers, readFailOn}) {
+    for (auto const read : {readJobs, readFiles, readNumbers, readLanguage, readFailOn}) {
         if (QString const error = read(parser, commandLine); !error.isEmpty()) {
             return failure(error);
         }

@@ -20,7 +20,8 @@ struct CommandLine
     QString config;   ///< configuration folder; empty: a copy of the samples
     QString output;   ///< for screenshots, the database and the saved form
     Unit unit = Unit::Inch;
-    bool isUnitGiven = false; ///< otherwise the unit of the latest run applies
+    bool isUnitGiven = false;             ///< otherwise the unit of the latest run applies
+    std::optional<bool> reportsInChinese; ///< otherwise they are in the language of the screen
     bool headless = false;
     bool checksOnly = false; ///< no window system at all
     bool json = false;       ///< print JSON instead of a table
