@@ -5,6 +5,6 @@ execute_process(COMMAND "${PKG_CONFIG}" --cflags --libs "uiapicommon = ${VERSION
   OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 separate_arguments(flags UNIX_COMMAND "${flags}")
 execute_process(COMMAND "${COMPILER}" -std=c++17 -fPIC "-DPACKAGE_VERSION=\"${VERSION}\"" "${SOURCES}/main.cpp"
-  "${SOURCES}/signatures.cpp" -o pkg-config-consumer ${flags} "-Wl,-rpath,${STAGE}/${LIBRARIES}"
+  "${SOURCES}/pages.cpp" "${SOURCES}/signatures.cpp" -o pkg-config-consumer ${flags} "-Wl,-rpath,${STAGE}/${LIBRARIES}"
   COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ./pkg-config-consumer COMMAND_ERROR_IS_FATAL ANY)
