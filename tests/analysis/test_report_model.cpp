@@ -110,6 +110,19 @@ TEST_F(ReportModelTest, SaysARowInEitherUnitOfTheModelAndOfTheLevels)
     }
 }
 
+TEST_F(ReportModelTest, WhatIsWaivedIsShownAndCountedNowhere)
+{
+    ReportModel::Row const first = model.at(row("1/2/0"));
+    report->applyWaivers({{violationId(*first.category, *first.entry), "coupon", "me", "2020-01-01", {}}},
+                         "2026-11-22");
+    model.regrade();
+    EXPECT_EQ(texts("1"), "Lines|▲ Y|5||2|1|2.99|3 / 4 / 5.12345|");
+    EXPECT_EQ(texts("1/2"), "top|▲ Y|2||2||2.99||");
+    EXPECT_EQ(texts("1/2/0"), "1|✖ R|||||2.99|3|1.000, 0.079");
+    EXPECT_EQ(model.countsAt(row("1/2/0")), SeverityCounts());
+    EXPECT_EQ(row("1/2/0").data(Qt::ToolTipRole), "waived: coupon");
+}
+
 TEST_F(ReportModelTest, GivesWhatARowIsByRoles)
 {
     struct
