@@ -72,6 +72,7 @@ CheckListing listingOf(ReportCategory const & category, HtmlReportOptions const 
 std::size_t shareOf(std::vector<CheckListing> const & checks, std::size_t most)
 {
     std::vector<std::size_t> sizes;
+    sizes.reserve(checks.size());
     for (CheckListing const & check : checks) {
         sizes.push_back(check.listed.size());
     }

@@ -69,6 +69,7 @@ bool readWaiver(JsonReader & json, std::vector<Waiver> & out)
 {
     Waiver waiver;
     std::vector<JsonMember> members;
+    members.reserve(waiverMembers.size());
     for (WaiverMember const & member : waiverMembers) {
         members.push_back({member.key,
                            [&] {

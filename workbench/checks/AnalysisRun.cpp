@@ -197,12 +197,12 @@ Ext::Result AnalysisRun::waive(Ext::Waiver const & waiver, QString const & path)
 {
     std::vector<Ext::Waiver> waivers;
     if (QFileInfo::exists(path)) {
-        if (Ext::Result const read = Ext::readWaivers(path, waivers); !read.ok) {
+        if (Ext::Result read = Ext::readWaivers(path, waivers); !read.ok) {
             return read;
         }
     }
     waivers.push_back(waiver);
-    Ext::Result const written = Ext::writeWaivers(waivers, path);
+    Ext::Result written = Ext::writeWaivers(waivers, path);
     if (written.ok) {
         setWaivers(std::move(waivers));
     }
