@@ -69,7 +69,7 @@ void AnalysisReport::setJobStep(std::string const & job, std::string const & ste
 
 bool AnalysisReport::setDate(std::string const & date)
 {
-    QRegularExpression const form(R"(\A\d{4}-\d\d-\d\d(T\d\d:\d\d:\d\d(Z|[+-]\d\d:\d\d)?)?\z)");
+    static QRegularExpression const form(R"(\A\d{4}-\d\d-\d\d(T\d\d:\d\d:\d\d(Z|[+-]\d\d:\d\d)?)?\z)");
     QString const text = QString::fromStdString(date);
     bool const isDate = form.match(text).hasMatch() && QDateTime::fromString(text, Qt::ISODate).isValid();
     if (isDate || date.empty()) {

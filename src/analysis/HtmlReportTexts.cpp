@@ -59,7 +59,7 @@ QString shown(uint code)
 QByteArray escaped(QString const & text, int longest)
 {
     QString out;
-    QVector<uint> const codes = text.left(2 * longest + 2).toUcs4(); // a character is one unit or two
+    QVector<uint> const codes = text.leftRef(2 * longest + 2).toUcs4(); // a character is one unit or two
     for (int i = 0; i < codes.size() && i < longest; ++i) {
         out += shown(codes[i]);
     }

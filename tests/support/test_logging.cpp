@@ -30,7 +30,7 @@ protected:
     static std::string texts(QString const & lines)
     {
         QStringList found;
-        for (QString const & line : lines.split('\n')) {
+        for (QString const & line : QString(lines).remove('\r').split('\n')) {
             if (line.contains("UIAPICommonPara:")) {
                 found.append(line.section("] ", 1));
             }

@@ -45,8 +45,8 @@ inline ProgramResult runProgram(QStringList const & arguments)
     if (program.waitForFinished(60000) && program.exitStatus() == QProcess::NormalExit) {
         result.exitCode = program.exitCode();
     }
-    result.out = program.readAllStandardOutput();
-    result.err = program.readAllStandardError();
+    result.out = program.readAllStandardOutput().replace("\r\n", "\n");
+    result.err = program.readAllStandardError().replace("\r\n", "\n");
     result.facts = QJsonDocument::fromJson(result.out).object();
     return result;
 }

@@ -47,7 +47,7 @@ protected:
         writeFile(path + "/steps/pcb/layers/large/features", blankLines);
         looks.setInterval(10);
         QObject::connect(&looks, &QTimer::timeout, [this] {
-            if (KVProgressDialog * const dialog = shownDialog(); dialog != nullptr && ++seen == 3) {
+            if (KVProgressDialog * const dialog = shownDialog(); dialog != nullptr && stop && ++seen == 3) {
                 sinceStop.start();
                 stop(*dialog);
             }
