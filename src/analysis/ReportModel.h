@@ -107,8 +107,8 @@ public:
     ///@}
 
 private:
-    struct Group;
-    struct Private;
+    struct UIAPICOMMON_NO_EXPORT Group;
+    struct UIAPICOMMON_NO_EXPORT Private;
 
     void build();
     void addGroups(std::size_t category);

@@ -36,6 +36,7 @@ file(STRINGS "${list}" expected)
 if(LIBRARY MATCHES "\\.dll$")
   list(FILTER expected EXCLUDE REGEX "^typeinfo name for |\\) const::none$") # data that a DLL keeps to itself
   list(TRANSFORM symbols REPLACE "unsigned long long" "unsigned long") # std::size_t
+  list(TRANSFORM symbols REPLACE "([0-9]ul)l" "\\1")
 endif()
 set(stray ${symbols})
 list(REMOVE_ITEM stray ${expected})
