@@ -34,6 +34,10 @@ void * operator new(std::size_t size)
     void * const memory = size <= largestAllocation ? std::malloc(size) : nullptr;
     return memory != nullptr ? memory : throw std::bad_alloc();
 }
+void * operator new(std::size_t size, std::nothrow_t const & /*tag*/) noexcept
+{
+    return size <= largestAllocation ? std::malloc(size) : nullptr;
+}
 void operator delete(void * memory) noexcept
 {
     std::free(memory);
