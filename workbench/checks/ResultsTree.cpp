@@ -21,7 +21,7 @@ ResultsTree::ResultsTree(Ext::ReportModel & model, QWidget * parent)
     setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);
     setModel(&m_filter);
-    header()->setStretchLastSection(false); // it would be cut instead of scrolled to
+    header()->setStretchLastSection(false);             // it would be cut instead of scrolled to
     header()->setSortIndicator(-1, Qt::AscendingOrder); // the report's own order
     setSortingEnabled(true);
     offerCopy(*this);
