@@ -263,12 +263,12 @@ TEST(Workbench, ScreenshotsAreWrittenAndNotBlank)
         QImage const picture(path.toString());
         ASSERT_FALSE(picture.isNull()) << path.toString().toStdString();
         QSet<QRgb> colours;
-        for (int y = 0; y < picture.height(); y += 3) {
-            for (int x = 0; x < picture.width(); x += 3) {
+        for (int y = 0; y < picture.height() && colours.size() < 20; ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
                 colours.insert(picture.pixel(x, y));
             }
         }
-        EXPECT_GT(colours.size(), 20) << path.toString().toStdString();
+        EXPECT_GE(colours.size(), 20) << path.toString().toStdString();
     }
 }
 
