@@ -59,6 +59,15 @@ int rankOf(std::string_view table)
     return table == Categories::drillRanges.name ? 0 : table == Categories::signalLayerRanges.name ? 1 : 2;
 }
 
+SeverityCounts sum(std::vector<ReportCategory> const & categories, SeverityCounts ReportCategory::*counts)
+{
+    SeverityCounts sum{};
+    for (ReportCategory const & entry : categories) {
+        std::transform(sum.begin(), sum.end(), (entry.*counts).begin(), sum.begin(), std::plus<>());
+    }
+    return sum;
+}
+
 } // namespace
 
 void AnalysisReport::setJobStep(std::string const & job, std::string const & step)
@@ -148,13 +157,14 @@ void AnalysisReport::setLevels(std::string const & table, std::vector<Analysis_R
     for (Analysis_Ranges_Record const & record : records) {
         levels.try_emplace(record.name, record);
     }
+    if (!m_waivers.empty()) { // those of the other tables too are to be matched anew
+        gradeAll();
+        return;
+    }
     for (ReportCategory & entry : m_categories) {
         if (entry.table == table) {
             grade(entry);
         }
-    }
-    if (!m_waivers.empty()) { // those of the other tables too are to be matched anew
-        gradeAll();
     }
 }
 
@@ -175,11 +185,12 @@ ReportCategory const * AnalysisReport::find(std::string const & table, int numbe
 
 SeverityCounts AnalysisReport::counts() const
 {
-    SeverityCounts sum{};
-    for (ReportCategory const & entry : m_categories) {
-        std::transform(sum.begin(), sum.end(), entry.counts.begin(), sum.begin(), std::plus<>());
-    }
-    return sum;
+    return sum(m_categories, &ReportCategory::counts);
+}
+
+SeverityCounts AnalysisReport::waivedCounts() const
+{
+    return sum(m_categories, &ReportCategory::waived);
 }
 
 ReportCategory & AnalysisReport::category(std::string_view table, int number)

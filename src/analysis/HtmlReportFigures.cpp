@@ -1,5 +1,5 @@
-#include "analysis/CategoryTables.h"
 #include "analysis/HtmlReportParts.h"
+#include "analysis/TrackWidths.h"
 
 #include <algorithm>
 #include <array>
@@ -14,92 +14,13 @@
 namespace KVCAM::UIAPI::Ext::Html {
 namespace {
 
-constexpr int linesNumber = 46;
 constexpr double pictureWidth = 1000; // of the coordinates of the marks
 constexpr double leastAspect = 0.01;  // a picture that is narrower or wider has no use
 constexpr double markRadius = 9;
-constexpr std::size_t mostNumbers = 60; // marks of a picture that have their row's number beside them
-constexpr int mostTicks = 6;
+constexpr std::size_t mostNumbers = 60;      // marks of a picture that have their row's number beside them
 constexpr std::size_t mostMarks = 400;       // of a picture
 constexpr std::size_t mostMarksInAll = 2000; // browsers take long for more
 constexpr std::size_t leastMarks = 50;       // of a picture, whatever the number of pictures
-
-struct Width
-{
-    std::optional<Length> measured;
-    Severity severity = Severity::None;
-};
-
-using Widths = std::vector<std::pair<std::string, Width>>;
-
-// The narrowest track of each layer: the given layers first, then the others by name.
-Widths narrowest(Page const & page, ReportCategory const & lines)
-{
-    std::map<std::string, Width> found;
-    for (ReportEntry const & entry : lines.entries) {
-        Width & width = found[entry.layer];
-        if (entry.measured && (!width.measured || *entry.measured < *width.measured)) {
-            width = {entry.measured, entry.severity};
-        }
-    }
-    Widths widths;
-    for (std::string const & layer : page.options.copperLayers) {
-        auto const known = found.extract(layer);
-        widths.emplace_back(layer, known.empty() ? Width() : known.mapped());
-    }
-    widths.insert(widths.end(), found.begin(), found.end());
-    return widths;
-}
-
-struct Level
-{
-    Severity severity;
-    Length length;
-};
-
-std::vector<Level> levelsOf(Page const & page, ReportCategory const & lines)
-{
-    std::vector<Level> levels;
-    if (lines.levels) {
-        for (auto const & [severity, value] : {std::pair(Severity::Red, lines.levels->redLv),
-                                               {Severity::Yellow, lines.levels->yellowLv},
-                                               {Severity::Green, lines.levels->greenLv}}) {
-            if (std::isfinite(value) && value >= 0) {
-                levels.push_back(
-                    {severity, Length::from(value, page.report.levelUnit(), LengthScale::Small)});
-            }
-        }
-    }
-    return levels;
-}
-
-// The end of the axis. A level far beyond all tracks is left out, since it would flatten the bars.
-double axisEnd(Widths const & widths, std::vector<Level> const & levels, Unit unit)
-{
-    double bars = 0;
-    for (auto const & [layer, width] : widths) {
-        bars = std::max(bars, width.measured.value_or(Length()).to(unit, LengthScale::Small));
-    }
-    double end = bars;
-    for (Level const & level : levels) {
-        double const length = level.length.to(unit, LengthScale::Small);
-        end = length <= 4 * bars ? std::max(end, length) : end;
-    }
-    return end > 0 ? 1.05 * end : 1;
-}
-
-// A round number that divides a length into at most `mostTicks` parts.
-double tickStep(double length)
-{
-    double const least = length / mostTicks;
-    double const decade = std::pow(10.0, std::floor(std::log10(least)));
-    for (double const factor : {1.0, 2.0, 5.0}) {
-        if (factor * decade >= least) {
-            return factor * decade;
-        }
-    }
-    return 10 * decade;
-}
 
 QByteArray percent(double part)
 {
@@ -111,7 +32,7 @@ QByteArray coordinate(double value)
     return QByteArray::number(value, 'f', 1);
 }
 
-QByteArray bar(Width const & width, std::vector<Level> const & levels, double end, Unit unit)
+QByteArray bar(LayerWidth const & width, std::vector<LevelLine> const & levels, double end, Unit unit)
 {
     QByteArray out = "<svg height=\"22\" aria-hidden=\"true\">";
     if (width.measured) {
@@ -119,7 +40,7 @@ QByteArray bar(Width const & width, std::vector<Level> const & levels, double en
         out += QByteArray("<rect class=\"") + letterOf(width.severity) +
                "\" x=\"0\" y=\"4\" height=\"14\" width=\"" + percent(part) + "\"/>";
     }
-    for (Level const & level : levels) {
+    for (LevelLine const & level : levels) {
         double const part = level.length.to(unit, LengthScale::Small) / end;
         if (part <= 1) {
             out += QByteArray("<line class=\"") + letterOf(level.severity) + "\" x1=\"" + percent(part) +
@@ -129,15 +50,14 @@ QByteArray bar(Width const & width, std::vector<Level> const & levels, double en
     return out + "</svg>";
 }
 
-QByteArray axis(double end)
+QByteArray axis(ChartAxis const & axis)
 {
-    double const step = tickStep(end);
     QByteArray out = "<svg height=\"20\" aria-hidden=\"true\">";
-    for (int tick = 0; tick * step <= end; ++tick) {
-        QByteArray const place = percent(tick * step / end);
+    for (int tick = 0; tick * axis.step <= axis.end; ++tick) {
+        QByteArray const place = percent(tick * axis.step / axis.end);
         out += "<line class=\"tick\" x1=\"" + place + "\" x2=\"" + place +
-               "\" y1=\"0\" y2=\"4\"/><text x=\"" + place + "\" y=\"16\">" + QByteArray::number(tick * step) +
-               "</text>";
+               "\" y1=\"0\" y2=\"4\"/><text x=\"" + place + "\" y=\"16\">" +
+               QByteArray::number(tick * axis.step) + "</text>";
     }
     return out + "</svg>";
 }
@@ -286,17 +206,14 @@ QByteArray figure(Page const & page, LayerPicture const & picture)
 
 QByteArray widthsSection(Page const & page)
 {
-    ReportCategory const * lines =
-        page.report.find(std::string(Categories::signalLayerRanges.name), linesNumber);
-    if (lines == nullptr) {
+    TrackWidths const widths = trackWidths(page.report, page.options.copperLayers);
+    if (widths.layers.empty()) {
         return {};
     }
     Texts const & text = page.text;
-    Widths const widths = narrowest(page, *lines);
-    std::vector<Level> const levels = levelsOf(page, *lines);
-    double const end = axisEnd(widths, levels, text.first());
+    ChartAxis const scale = trackWidthAxis(widths, text.first());
     QByteArray rows;
-    for (auto const & [layer, width] : widths) {
+    for (LayerWidth const & width : widths.layers) {
         QByteArray value = text(QT_TRANSLATE_NOOP("HtmlReport", "no tracks"));
         QByteArray sign;
         if (width.measured) {
@@ -305,13 +222,13 @@ QByteArray widthsSection(Page const & page)
             sign = text.sign(width.severity);
         }
         rows += QByteArray("<tr class=\"") + letterOf(width.severity) +
-                "\"><th scope=\"row\" class=\"t w\">" + isolated(layer) + "</th><td class=\"bar\">" +
-                bar(width, levels, end, text.first()) + "</td><td class=\"k\">" + value +
+                "\"><th scope=\"row\" class=\"t w\">" + isolated(width.layer) + "</th><td class=\"bar\">" +
+                bar(width, widths.levels, scale.end, text.first()) + "</td><td class=\"k\">" + value +
                 "</td><td class=\"k\">" + sign + "</td></tr>\n";
     }
     return "<h2 id=\"widths\">" + text(QT_TRANSLATE_NOOP("HtmlReport", "Narrowest track of each layer")) +
            "</h2>\n<div class=\"wide\" tabindex=\"0\"><table class=\"bars\"><tbody>\n" + rows +
-           "<tr><td class=\"dim\">" + unitText(text.first()) + "</td><td class=\"bar\">" + axis(end) +
+           "<tr><td class=\"dim\">" + unitText(text.first()) + "</td><td class=\"bar\">" + axis(scale) +
            "</td><td></td><td></td></tr>\n</tbody></table></div>\n";
 }
 

@@ -113,17 +113,10 @@ QByteArray Texts::operator()(char const * english, std::initializer_list<QByteAr
 
 QByteArray Texts::severity(Severity severity) const
 {
-    switch (severity) {
-    case Severity::Red:
-        return (*this)(QT_TRANSLATE_NOOP("HtmlReport", "red"));
-    case Severity::Yellow:
-        return (*this)(QT_TRANSLATE_NOOP("HtmlReport", "yellow"));
-    case Severity::Green:
-        return (*this)(QT_TRANSLATE_NOOP("HtmlReport", "green"));
-    case Severity::None:
-        break;
-    }
-    return (*this)(QT_TRANSLATE_NOOP("HtmlReport", "none"));
+    char const * const name = markOf(severity).name;
+    QString const text =
+        m_isChinese ? m_catalogue.translate("KVCAM::UIAPI::Ext::ReportModel", name) : QString();
+    return escaped(text.isEmpty() ? QString::fromUtf8(name) : text);
 }
 
 QByteArray Texts::sign(Severity severity) const

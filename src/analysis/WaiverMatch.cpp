@@ -2,8 +2,6 @@
 #include "analysis/ReportFormats.h"
 #include "analysis/ViolationMatch.h"
 
-#include <algorithm>
-#include <functional>
 #include <set>
 #include <string_view>
 #include <tuple>
@@ -27,15 +25,6 @@ void AnalysisReport::applyWaivers(std::vector<Waiver> waivers, std::string const
     m_today = today;
     m_waiverTolerance = tolerance;
     gradeAll();
-}
-
-SeverityCounts AnalysisReport::waivedCounts() const
-{
-    SeverityCounts sum{};
-    for (ReportCategory const & entry : m_categories) {
-        std::transform(sum.begin(), sum.end(), entry.waived.begin(), sum.begin(), std::plus<>());
-    }
-    return sum;
 }
 
 // No entry is waived yet.

@@ -18,6 +18,8 @@
 //   worstOf()               the worst severity among counts
 //   severitySign()          a severity in short, "✖ R"
 //   severityName()          a severity in words, translated
+//   trackWidths()           the narrowest track of each layer, for a chart
+//   trackWidthAxis()        the axis of that chart
 //   htmlReport()            a report as a page for people: language, pictures, what is listed
 //   writeHtmlReport()       the same into a file
 //   violationId()           the text that names a violation in every report
@@ -50,6 +52,7 @@
 #include "../analysis/ReportComparison.h"
 #include "../analysis/ReportModel.h"
 #include "../analysis/ReportReader.h"
+#include "../analysis/TrackWidths.h"
 #include "../analysis/Unified_AnalysisResult.h"
 #include "../analysis/ViolationId.h"
 #include "../analysis/Waivers.h"

@@ -1071,22 +1071,6 @@
         <translation>点击列标题可对表格排序；点击页面顶部的严重程度可显示或隐藏相应的行和标记。</translation>
     </message>
     <message>
-        <source>red</source>
-        <translation>红</translation>
-    </message>
-    <message>
-        <source>yellow</source>
-        <translation>黄</translation>
-    </message>
-    <message>
-        <source>green</source>
-        <translation>绿</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
         <source>until %1</source>
         <translation>有效期至 %1</translation>
     </message>

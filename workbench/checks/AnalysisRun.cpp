@@ -266,23 +266,9 @@ void AnalysisRun::loadLevels(std::string const & table)
     m_report.setLevels(table, records);
 }
 
-std::vector<LayerWidth> AnalysisRun::trackWidths() const
+Ext::TrackWidths AnalysisRun::trackWidths() const
 {
-    std::map<std::string, LayerWidth> narrowest;
-    if (Ext::ReportCategory const * lines = m_report.find(signalTable, linesNumber)) {
-        for (Ext::ReportEntry const & entry : lines->entries) {
-            LayerWidth & width = narrowest[entry.layer];
-            if (entry.measured && (!width.measured || *entry.measured < *width.measured)) {
-                width = {entry.layer, entry.measured, entry.severity};
-            }
-        }
-    }
-    std::vector<LayerWidth> widths;
-    for (std::string const & layer : m_copper) {
-        auto const found = narrowest.find(layer);
-        widths.push_back(found == narrowest.end() ? LayerWidth{layer, {}, {}} : found->second);
-    }
-    return widths;
+    return Ext::trackWidths(m_report, m_copper);
 }
 
 bool AnalysisRun::hasLevels() const
@@ -400,7 +386,7 @@ QJsonObject toJson(AnalysisRun const & run)
         counts[QLatin1String(mark.name)] = static_cast<double>(sums[static_cast<std::size_t>(mark.severity)]);
     }
     QJsonArray widths;
-    for (LayerWidth const & width : run.trackWidths()) {
+    for (Ext::LayerWidth const & width : run.trackWidths().layers) {
         QJsonObject entry{{"layer", QString::fromStdString(width.layer)},
                           {"um", QJsonValue()},
                           {"mil", QJsonValue()},

@@ -21,14 +21,6 @@ inline constexpr char const * drillTable = "DrillRanges";
 inline constexpr char const * signalTable = "SignalLayerRanges";
 inline constexpr int linesNumber = 46;
 
-/// The narrowest track of a copper layer.
-struct LayerWidth
-{
-    std::string layer;
-    std::optional<KVCAM::UIAPI::Ext::Length> measured; ///< none for a layer without tracks
-    KVCAM::UIAPI::Ext::Severity severity = KVCAM::UIAPI::Ext::Severity::None;
-};
-
 /// What formats of reports take beside the report.
 struct ReportChoices
 {
@@ -77,8 +69,8 @@ public:
     void noteOperations();
     /// Valid until the next run; categories keep their place when levels change.
     KVCAM::UIAPI::Ext::AnalysisReport const & report() const { return m_report; }
-    /// The copper layers measured, by row.
-    std::vector<LayerWidth> trackWidths() const;
+    /// Of the copper layers, by row.
+    KVCAM::UIAPI::Ext::TrackWidths trackWidths() const;
 
     /// Whether the library has levels for any of the measured categories.
     bool hasLevels() const;

@@ -4,8 +4,6 @@
 #include "job/ReportFormat.h"
 #include "ui/LanguageChange.h"
 
-#include <analysis/ReportReader.h>
-
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QPointer>
@@ -16,7 +14,8 @@ namespace Workbench {
 
 using namespace KVCAM::UIAPI;
 
-WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine)
+WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine,
+                          Ext::AnalysisReport const * baseline)
 {
     WrittenResults results;
     auto const note = [&results](QString const & file, Ext::Result const & result) {
@@ -33,10 +32,7 @@ WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLi
     if (auto const data = std::find_if(reports.begin(), reports.end(), isData); data != reports.end()) {
         choices.dataFile = QFileInfo(*data).fileName();
     }
-    Ext::AnalysisReport baseline;
-    if (!commandLine.baseline.isEmpty() && Ext::readReport(commandLine.baseline, baseline)) {
-        choices.baseline = &baseline; // why one cannot be read is said when the run is judged
-    }
+    choices.baseline = baseline;
     bool const isChinese = getCurrentLanguageMode() == LANGUAGE_CHINESE;
     bool const writesChinese = commandLine.reportsInChinese.value_or(isChinese);
     if (writesChinese != isChinese && !showChinese(writesChinese)) {
@@ -51,7 +47,8 @@ WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLi
     return results;
 }
 
-WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
+WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine,
+                            Ext::AnalysisReport const * baseline)
 {
     QPointer<ResultsPage> const alive(&page);
     if (!page.runChecks()) {
@@ -62,7 +59,7 @@ WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine)
                      : QCoreApplication::translate("Workbench::MainWindow", "the checks failed: %1")
                            .arg(reason)}};
     }
-    return writeFiles(page.run(), commandLine);
+    return writeFiles(page.run(), commandLine, baseline);
 }
 
 } // namespace Workbench

@@ -2,6 +2,8 @@
 
 #include "job/CommandLine.h"
 
+#include <UIAPICommonExt.h>
+
 #include <QStringList>
 
 namespace Workbench {
@@ -16,11 +18,14 @@ struct WrittenResults
     QStringList errors; ///< as sentences
 };
 
-/// Writes the summary and the reports that the command line asks for.
-WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine);
+/// Writes the summary and the reports that the command line asks for. HTML compares with the baseline, if
+/// there is one.
+WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine,
+                          KVCAM::UIAPI::Ext::AnalysisReport const * baseline = nullptr);
 
 /// Runs the checks of a page on its step, and writes the summary and the reports requested on the command
 /// line. If the page is deleted meanwhile, the checks stop.
-WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine);
+WrittenResults writeResults(ResultsPage & page, CommandLine const & commandLine,
+                            KVCAM::UIAPI::Ext::AnalysisReport const * baseline = nullptr);
 
 } // namespace Workbench

@@ -249,8 +249,7 @@ void ResultsPage::refresh()
     for (QPushButton * button : {m_reportButton, m_previous, m_next}) {
         button->setEnabled(m_run->hasResult());
     }
-    Ext::ReportCategory const * lines = m_run->report().find(signalTable, linesNumber);
-    m_chart->setWidths(m_run->trackWidths(), lines != nullptr ? lines->levels : std::nullopt);
+    m_chart->setWidths(m_run->trackWidths());
     showNotChecked();
     m_waivers->showReport(m_run->report(), m_view->handle());
     showLevels();

@@ -1,6 +1,5 @@
 #include "checks/TrackWidthChart.h"
 
-#include "checks/Levels.h"
 #include "checks/MeasureTexts.h"
 #include "ui/Units.h"
 
@@ -10,7 +9,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace Workbench {
@@ -19,22 +17,7 @@ using namespace KVCAM::UIAPI;
 
 namespace {
 
-constexpr int gap = 6;       // pixels around texts
-constexpr int mostTicks = 6; // on the axis
-
-// A round number that divides a length into at most `mostTicks` parts.
-double tickStep(double length)
-{
-    double const least = length / mostTicks;
-    double const decade = std::pow(10.0, std::floor(std::log10(least)));
-    for (double const factor : {1.0, 2.0, 5.0}) {
-        if (factor * decade >= least) {
-            return factor * decade;
-        }
-    }
-    return 10 * decade;
-}
-
+constexpr int gap = 6; // pixels around texts
 } // namespace
 
 TrackWidthChart::TrackWidthChart(QWidget * parent) : QWidget(parent)
@@ -43,12 +26,12 @@ TrackWidthChart::TrackWidthChart(QWidget * parent) : QWidget(parent)
     setAutoFillBackground(true);
 }
 
-void TrackWidthChart::setWidths(std::vector<LayerWidth> widths, std::optional<Analysis_Ranges_Record> levels)
+void TrackWidthChart::setWidths(Ext::TrackWidths widths)
 {
     m_widths = std::move(widths);
-    m_levels = std::move(levels);
+    m_axis = Ext::trackWidthAxis(m_widths, Ext::unitOf(m_view));
     QStringList texts; // for screen readers
-    for (std::size_t i = 0; i < m_widths.size(); ++i) {
+    for (std::size_t i = 0; i < m_widths.layers.size(); ++i) {
         texts.append(barText(i));
     }
     setAccessibleDescription(texts.join('\n'));
@@ -59,10 +42,10 @@ void TrackWidthChart::setWidths(std::vector<LayerWidth> widths, std::optional<An
 void TrackWidthChart::setView(void const * view)
 {
     m_view = view;
-    setWidths(std::move(m_widths), std::move(m_levels));
+    setWidths(std::move(m_widths));
 }
 
-QString TrackWidthChart::valueText(LayerWidth const & width) const
+QString TrackWidthChart::valueText(Ext::LayerWidth const & width) const
 {
     if (!width.measured) {
         return tr("no tracks");
@@ -73,10 +56,10 @@ QString TrackWidthChart::valueText(LayerWidth const & width) const
 
 QString TrackWidthChart::barText(std::size_t bar) const
 {
-    if (bar >= m_widths.size()) {
+    if (bar >= m_widths.layers.size()) {
         return {};
     }
-    LayerWidth const & width = m_widths[bar];
+    Ext::LayerWidth const & width = m_widths.layers[bar];
     QString const layer = QString::fromStdString(width.layer);
     if (!width.measured) {
         return layer + ": " + tr("no tracks");
@@ -88,7 +71,7 @@ QString TrackWidthChart::barText(std::size_t bar) const
 
 QSize TrackWidthChart::sizeHint() const
 {
-    int const rows = static_cast<int>(std::min<std::size_t>(m_widths.size(), 100000));
+    int const rows = static_cast<int>(std::min<std::size_t>(m_widths.layers.size(), 100000));
     return {320, (rows + 2) * rowHeight() + 3 * gap};
 }
 
@@ -114,56 +97,32 @@ QRectF TrackWidthChart::plot() const
 {
     int names = 0;
     int values = 0;
-    for (LayerWidth const & width : m_widths) {
+    for (Ext::LayerWidth const & width : m_widths.layers) {
         names = std::max(names, fontMetrics().horizontalAdvance(QString::fromStdString(width.layer)) + 2);
         values = std::max(values, fontMetrics().horizontalAdvance(valueText(width)));
     }
     double const left = std::min<double>(names, this->width() * 0.35) + 2 * gap;
     double const right = std::max<double>(this->width() - values - 3 * gap, left + 1);
     return {left, static_cast<double>(rowHeight()), right - left,
-            static_cast<double>(m_widths.size()) * rowHeight()};
+            static_cast<double>(m_widths.layers.size()) * rowHeight()};
 }
 
-std::vector<TrackWidthChart::Line> TrackWidthChart::lines() const
+// In the small unit of the view.
+double TrackWidthChart::place(QRectF const & plot, double length) const
 {
-    std::vector<Line> shown;
-    if (m_levels) {
-        for (Level const & level : allLevels) {
-            double const mil = (*m_levels).*level.value;
-            if (std::isfinite(mil) && mil >= 0) {
-                shown.push_back({level.severity, mil});
-            }
-        }
-    }
-    return shown;
+    return plot.left() + plot.width() * length / m_axis.end;
 }
 
-// The end of the axis in mil. A level far beyond all tracks is left out, since it would flatten the bars.
-double TrackWidthChart::longest() const
+double TrackWidthChart::place(QRectF const & plot, Ext::Length length) const
 {
-    double bars = 0;
-    for (LayerWidth const & width : m_widths) {
-        bars = std::max(bars, width.measured.value_or(Ext::Length()).toMil());
-    }
-    double end = bars;
-    for (Line const & level : lines()) {
-        if (bars == 0 || level.mil <= 4 * bars) {
-            end = std::max(end, level.mil);
-        }
-    }
-    return end > 0 ? 1.05 * end : 1;
-}
-
-double TrackWidthChart::place(QRectF const & plot, double mil) const
-{
-    return plot.left() + plot.width() * mil / longest();
+    return place(plot, length.to(Ext::unitOf(m_view), Ext::LengthScale::Small));
 }
 
 void TrackWidthChart::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_widths.empty()) {
+    if (m_widths.layers.empty()) {
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("No copper layer was measured."));
         return;
     }
@@ -175,18 +134,15 @@ void TrackWidthChart::paintEvent(QPaintEvent * /*event*/)
 
 void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
 {
-    double const perMil = getUnitJudgeDouble(m_view, 1.0); // of the unit shown
-    double const end = longest() * perMil;
-    double const step = tickStep(end);
     QRectF const foot(plot.left(), plot.bottom() + gap, plot.width(), rowHeight());
     QColor const grid = palette().color(QPalette::Midlight);
-    for (int tick = 0; tick * step <= end; ++tick) {
-        double const x = place(plot, tick * step / perMil);
+    for (int tick = 0; tick * m_axis.step <= m_axis.end; ++tick) {
+        double const x = place(plot, tick * m_axis.step);
         painter.setPen(grid);
         painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom() + gap / 2.0));
         painter.setPen(palette().color(QPalette::Text));
         painter.drawText(QRectF(x - 40, foot.top(), 80, foot.height()), Qt::AlignHCenter | Qt::AlignTop,
-                         QString::fromStdString(doubleToString(tick * step)));
+                         QString::fromStdString(doubleToString(tick * m_axis.step)));
     }
     painter.drawText(QRectF(foot.right() + gap, foot.top(), width() - foot.right() - gap, foot.height()),
                      Qt::AlignRight | Qt::AlignTop, smallUnitName(m_view) + ' ');
@@ -195,8 +151,8 @@ void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
 void TrackWidthChart::paintLevels(QPainter & painter, QRectF const & plot) const
 {
     double free = 0; // where the next letter fits
-    for (Line const & level : lines()) {
-        double const x = place(plot, level.mil);
+    for (Ext::LevelLine const & level : m_widths.levels) {
+        double const x = place(plot, level.length);
         if (x > plot.right()) {
             continue;
         }
@@ -213,7 +169,7 @@ void TrackWidthChart::paintLevels(QPainter & painter, QRectF const & plot) const
 void TrackWidthChart::paintBars(QPainter & painter, QRectF const & plot) const
 {
     double top = plot.top();
-    for (LayerWidth const & width : m_widths) {
+    for (Ext::LayerWidth const & width : m_widths.layers) {
         QRectF const row(plot.left(), top, plot.width(), rowHeight());
         top += rowHeight();
         painter.setPen(palette().color(QPalette::Text));
@@ -221,7 +177,7 @@ void TrackWidthChart::paintBars(QPainter & painter, QRectF const & plot) const
         painter.drawText(name, Qt::AlignRight | Qt::AlignVCenter,
                          fontMetrics().elidedText(QString::fromStdString(width.layer), Qt::ElideMiddle,
                                                   static_cast<int>(name.width())));
-        double const end = place(plot, width.measured.value_or(Ext::Length()).toMil());
+        double const end = place(plot, width.measured.value_or(Ext::Length()));
         painter.fillRect(QRectF(row.left(), row.top() + 3, end - row.left(), row.height() - 6),
                          colourOf(width.severity));
         painter.setPen(width.severity == Ext::Severity::None ? palette().color(QPalette::Text)

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "checks/AnalysisRun.h"
+#include <UIAPICommonExt.h>
 
 #include <QWidget>
-
-#include <optional>
-#include <vector>
 
 namespace Workbench {
 
@@ -18,8 +15,7 @@ class TrackWidthChart : public QWidget
 public:
     explicit TrackWidthChart(QWidget * parent = nullptr);
 
-    void setWidths(std::vector<LayerWidth> widths,
-                   std::optional<KVCAM::UIAPI::Analysis_Ranges_Record> levels);
+    void setWidths(KVCAM::UIAPI::Ext::TrackWidths widths);
     void setView(void const * view);
     /// The text of a bar: "top: 4.02 mil (red)". Empty for an invalid index.
     QString barText(std::size_t bar) const;
@@ -31,24 +27,17 @@ protected:
     void paintEvent(QPaintEvent * event) override;
 
 private:
-    struct Line // of a level
-    {
-        KVCAM::UIAPI::Ext::Severity severity;
-        double mil;
-    };
-
-    std::vector<Line> lines() const;
     QRectF plot() const;
     int rowHeight() const;
-    double longest() const;
-    double place(QRectF const & plot, double mil) const;
+    double place(QRectF const & plot, double length) const;
+    double place(QRectF const & plot, KVCAM::UIAPI::Ext::Length length) const;
     void paintAxis(QPainter & painter, QRectF const & plot) const;
     void paintLevels(QPainter & painter, QRectF const & plot) const;
     void paintBars(QPainter & painter, QRectF const & plot) const;
-    QString valueText(LayerWidth const & width) const;
+    QString valueText(KVCAM::UIAPI::Ext::LayerWidth const & width) const;
 
-    std::vector<LayerWidth> m_widths;
-    std::optional<KVCAM::UIAPI::Analysis_Ranges_Record> m_levels;
+    KVCAM::UIAPI::Ext::TrackWidths m_widths;
+    KVCAM::UIAPI::Ext::ChartAxis m_axis; // in the small unit of the view
     void const * m_view = nullptr;
 };
 

@@ -68,7 +68,7 @@ void checkStep(BoardOutcome & outcome, Session const & session, CommandLine cons
         return fail(outcome, ExitCode::Incomplete, "the checks failed: " + run.error());
     }
     makeFolders(board);
-    WrittenResults const written = writeFiles(run, board);
+    WrittenResults const written = writeFiles(run, board, yardstick.baselineOrNull());
     outcome.files = written.files;
     for (QString const & error : written.errors) {
         fail(outcome, ExitCode::Incomplete, error);

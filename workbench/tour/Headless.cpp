@@ -284,13 +284,14 @@ QJsonObject configuration()
 
 // Runs the checks, writes their files, and shows the results in both units and the narrowest track on the
 // board.
-QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
+QJsonObject useResults(MainWindow & window, CommandLine files, Ext::AnalysisReport const * baseline,
+                       Camera & camera)
 {
     if (files.summary.isEmpty()) {
         files.summary = files.output + "/summary.json";
     }
     BoardView & view = *window.board().currentView();
-    WrittenResults const written = writeResults(window.results(), files);
+    WrittenResults const written = writeResults(window.results(), files, baseline);
     QJsonObject facts = toJson(window.results().run());
     facts["step"] = QString::fromStdString(view.step());
     facts["summary"] = written.files.contains(files.summary) ? QJsonValue(files.summary) : QJsonValue();
@@ -314,7 +315,8 @@ QJsonObject useResults(MainWindow & window, CommandLine files, Camera & camera)
 
 } // namespace
 
-QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine)
+QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLine const & commandLine,
+                        Ext::AnalysisReport const * baseline)
 {
     // Nobody can close a box: its text goes into the facts instead.
     QJsonArray boxes;
@@ -357,7 +359,7 @@ QJsonObject runHeadless(MainWindow & window, Session const & session, CommandLin
     QJsonObject const undone = useUndo(window, session, take);
     questions = Ext::MessageAnswer::No;
     QJsonObject const feature = useFeature(window, camera);
-    QJsonObject const analysis = useResults(window, commandLine, camera);
+    QJsonObject const analysis = useResults(window, commandLine, baseline, camera);
     QJsonArray errors = errorsOf(session, camera);
     for (auto const & error : analysis["errors"].toArray()) {
         errors.append(QJsonObject{{"step", analysis["step"]}, {"text", error}});

@@ -68,7 +68,7 @@ QJsonObject show(BoardOutcome & outcome, Session & session, CommandLine const & 
     MainWindow window(session, log, board);
     window.board().showStep(board.step);
     window.results().setWaivers(yardstick.waivers);
-    QJsonObject facts = runHeadless(window, session, board);
+    QJsonObject facts = runHeadless(window, session, board, yardstick.baselineOrNull());
     if (!facts["errors"].toArray().isEmpty()) {
         outcome.exit = ExitCode::Incomplete; // errors of layers are in the log
     }

@@ -17,6 +17,11 @@ struct Yardstick
 {
     std::vector<KVCAM::UIAPI::Ext::Waiver> waivers;
     std::optional<KVCAM::UIAPI::Ext::AnalysisReport> baseline;
+
+    KVCAM::UIAPI::Ext::AnalysisReport const * baselineOrNull() const
+    {
+        return baseline ? &*baseline : nullptr;
+    }
 };
 
 /// Reads the files that the command line names, which is worth doing before the checks. Returns what is
