@@ -1285,8 +1285,8 @@ Ctrl with a click selects or deselects a feature; the Delete key deletes the sel
         <translation>另存为(&amp;S)...</translation>
     </message>
     <message>
-        <source>%1[*] - UIAPICommon workbench</source>
-        <translation>%1[*] - UIAPICommon 工作台</translation>
+        <source>%1[*] (%2) - UIAPICommon workbench</source>
+        <translation>%1[*] (%2) - UIAPICommon 工作台</translation>
     </message>
     <message>
         <source>Move the pointer over the board</source>

@@ -27,6 +27,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
@@ -204,7 +205,9 @@ void MainWindow::closeEvent(QCloseEvent * event)
 
 void MainWindow::setTexts()
 {
-    setWindowTitle(tr("%1[*] - UIAPICommon workbench").arg(QString::fromStdString(m_session.job())));
+    setWindowTitle(
+        tr("%1[*] (%2) - UIAPICommon workbench")
+            .arg(QString::fromStdString(m_session.job()), QDir::toNativeSeparators(m_session.directory())));
     showUnit();
     showPointer();
     showZoom();

@@ -171,17 +171,12 @@ void MainWindow::makeStatusBar()
     m_status->setObjectName("hot keys");
     m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // texts may be long
     m_pointer = new QLabel;
+    m_pointer->setMinimumWidth(1); // must not widen the window
     m_zoom = new QLabel;
     statusBar()->addWidget(m_status, 1); // all except what the others need
     statusBar()->addWidget(m_pointer);
     statusBar()->addPermanentWidget(makeEdaPortLabel());
     statusBar()->addPermanentWidget(m_zoom);
-    auto * folder = new QLabel(m_session.directory());
-    folder->setToolTip(folder->text());
-    statusBar()->addPermanentWidget(folder);
-    for (QLabel * label : {m_pointer, folder}) {
-        label->setMinimumWidth(1); // must not widen the window
-    }
     connect(m_commands, &HotkeyCommands::status, this, &MainWindow::showStatus);
     connect(m_board, &BoardPage::status, this, &MainWindow::showStatus);
     connect(m_results, &ResultsPage::status, this, &MainWindow::showStatus);
