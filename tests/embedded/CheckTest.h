@@ -4,7 +4,12 @@
 
 #include <EmbeddedChecks.h>
 
+#include <array>
+
 namespace KVCAM::Testing {
+
+/// The signal items that are measured between nets or to rout.
+inline constexpr std::array<int, 7> spacingItems{3, 4, 14, 15, 26, 29, 43};
 
 /// A job "board" with a step "pcb" and copper and drill layers, filled by each test.
 class CheckTest : public EmbeddedTest
