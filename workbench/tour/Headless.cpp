@@ -44,7 +44,9 @@ public:
 
     void take(QWidget & widget, QString const & name)
     {
-        QApplication::processEvents(); // lets layouts settle
+        for (int pass = 0; pass < 2; ++pass) { // layouts settle; texts in another language take both
+            QApplication::processEvents();
+        }
         for (auto * view : widget.findChildren<BoardView *>()) {
             if (view->isVisibleTo(&widget)) { // there may be a hidden one for each of 2,000 steps
                 view->finishPicture();
