@@ -86,6 +86,7 @@ TEST_F(Desks, ABoardTakesThePlaceOfTheOneBefore)
     EXPECT_TRUE(drop(*first, {QUrl::fromLocalFile(other)}));
     ASSERT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
     EXPECT_EQ(title(), "other");
+    EXPECT_TRUE(desk.window()->windowTitle().contains('(' + QDir::toNativeSeparators(other) + ')'));
     EXPECT_TRUE(desk.window()->isVisible());
     EXPECT_EQ(desk.window()->size(), size);
     EXPECT_EQ(KVCAM::Embedded::openJobs(), Jobs{"other"});

@@ -214,8 +214,9 @@ TEST_F(Pipelines, HeadlessJudgesAsTheChecksAlone)
     writeFile("waived.json", R"({"format": "report-waivers", "version": 1, "waivers": [
         {"id": "SignalLayerRanges/46/top/0,0~10000,0/-", "reason": "r", "author": "a", "date": "2026-01-02"}]})");
     QStringList const headless{"--headless", "--config", "levels", "--output", "out/%b"};
-    ProgramResult const both = runProgram(headless + QStringList{"red", "yellow", "--waivers", "waived.json",
-                                                                 "--fail-on", "red", "--report", "%b.xml"});
+    ProgramResult const both =
+        runProgram(headless + QStringList{"red", "yellow", "--waivers", "waived.json", "--fail-on", "red",
+                                          "--report", "%b.xml", "--report", "%b.json"});
     EXPECT_EQ(both.exitCode, 0) << both.err.toStdString();
     QJsonArray const facts = QJsonDocument::fromJson(both.out).array();
     ASSERT_EQ(facts.size(), 2);
@@ -223,7 +224,12 @@ TEST_F(Pipelines, HeadlessJudgesAsTheChecksAlone)
     EXPECT_TRUE(QFile::exists("out/red/workbench.png"));
     EXPECT_TRUE(QFile::exists("out/yellow/workbench.png"));
     EXPECT_TRUE(readFile("red.xml").contains("1 waived"));
-    EXPECT_EQ(runProgram(headless + QStringList{"red", "--fail-on", "red"}).exitCode, 3);
+    QStringList const compared{"red", "--fail-on", "red", "--baseline", "red.json", "--report"};
+    EXPECT_EQ(runProgram(headless + compared + QStringList{"headless.html"}).exitCode, 3);
+    EXPECT_EQ(check(compared + QStringList{"alone.html"}).exitCode, 3);
+    for (char const * page : {"headless.html", "alone.html"}) {
+        EXPECT_TRUE(readFile(page).contains("<h2 id=\"changes\">")) << page;
+    }
     EXPECT_EQ(runProgram({"--headless", "red", "yellow"}).exitCode, 2) << "pictures in one folder";
 }
 

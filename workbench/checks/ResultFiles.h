@@ -21,7 +21,7 @@ struct WrittenResults
 /// Writes the summary and the reports that the command line asks for. HTML compares with the baseline, if
 /// there is one.
 WrittenResults writeFiles(AnalysisRun const & run, CommandLine const & commandLine,
-                          KVCAM::UIAPI::Ext::AnalysisReport const * baseline = nullptr);
+                          KVCAM::UIAPI::Ext::AnalysisReport const * baseline);
 
 /// Runs the checks of a page on its step, and writes the summary and the reports requested on the command
 /// line. If the page is deleted meanwhile, the checks stop.

@@ -29,7 +29,6 @@ TrackWidthChart::TrackWidthChart(QWidget * parent) : QWidget(parent)
 void TrackWidthChart::setWidths(Ext::TrackWidths widths)
 {
     m_widths = std::move(widths);
-    m_axis = Ext::trackWidthAxis(m_widths, Ext::unitOf(m_view));
     QStringList texts; // for screen readers
     for (std::size_t i = 0; i < m_widths.layers.size(); ++i) {
         texts.append(barText(i));
@@ -107,10 +106,15 @@ QRectF TrackWidthChart::plot() const
             static_cast<double>(m_widths.layers.size()) * rowHeight()};
 }
 
+Ext::ChartAxis TrackWidthChart::axis() const
+{
+    return Ext::trackWidthAxis(m_widths, Ext::unitOf(m_view));
+}
+
 // In the small unit of the view.
 double TrackWidthChart::place(QRectF const & plot, double length) const
 {
-    return plot.left() + plot.width() * length / m_axis.end;
+    return plot.left() + plot.width() * length / axis().end;
 }
 
 double TrackWidthChart::place(QRectF const & plot, Ext::Length length) const
@@ -136,13 +140,14 @@ void TrackWidthChart::paintAxis(QPainter & painter, QRectF const & plot) const
 {
     QRectF const foot(plot.left(), plot.bottom() + gap, plot.width(), rowHeight());
     QColor const grid = palette().color(QPalette::Midlight);
-    for (int tick = 0; tick * m_axis.step <= m_axis.end; ++tick) {
-        double const x = place(plot, tick * m_axis.step);
+    Ext::ChartAxis const scale = axis();
+    for (int tick = 0; tick * scale.step <= scale.end; ++tick) {
+        double const x = place(plot, tick * scale.step);
         painter.setPen(grid);
         painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom() + gap / 2.0));
         painter.setPen(palette().color(QPalette::Text));
         painter.drawText(QRectF(x - 40, foot.top(), 80, foot.height()), Qt::AlignHCenter | Qt::AlignTop,
-                         QString::fromStdString(doubleToString(tick * m_axis.step)));
+                         QString::fromStdString(doubleToString(tick * scale.step)));
     }
     painter.drawText(QRectF(foot.right() + gap, foot.top(), width() - foot.right() - gap, foot.height()),
                      Qt::AlignRight | Qt::AlignTop, smallUnitName(m_view) + ' ');

@@ -29,6 +29,8 @@ protected:
 private:
     QRectF plot() const;
     int rowHeight() const;
+    /// In the small unit of the view, which may have changed since the widths were set.
+    KVCAM::UIAPI::Ext::ChartAxis axis() const;
     double place(QRectF const & plot, double length) const;
     double place(QRectF const & plot, KVCAM::UIAPI::Ext::Length length) const;
     void paintAxis(QPainter & painter, QRectF const & plot) const;
@@ -37,7 +39,6 @@ private:
     QString valueText(KVCAM::UIAPI::Ext::LayerWidth const & width) const;
 
     KVCAM::UIAPI::Ext::TrackWidths m_widths;
-    KVCAM::UIAPI::Ext::ChartAxis m_axis; // in the small unit of the view
     void const * m_view = nullptr;
 };
 
